@@ -1,0 +1,157 @@
+#include "app/main_window.h"
+
+#include <optional>
+#include <string>
+
+#include "base/text_helpers.h"
+#include "desktop/file_system.h"
+#include "listing/display_format.h"
+#include "listing/set_the_focus.h"
+#include "listing/summary.h"
+#include "sources/window_state.h"
+
+namespace quillomat {
+
+void MainWindow::Connect() {
+  ConnectSource();
+  ConnectFiles();
+  ConnectFolder();
+  ConnectOutput();
+  MainForm& frmMain = context_.frmMain;
+  frmMain.cmdCountWords.Click.Connect([this] { countRun_.OnCountClick(); });
+  frmMain.cmdSetParameters.Click.Connect([this] { context_.frmParams.Show(); });
+  frmMain.cboWordOrder.Click.Connect([this] { countRun_.OnListChoiceChanged(); });
+  frmMain.cboDisplayFormat.Click.Connect([this] { countRun_.OnListChoiceChanged(); });
+  countRun_.File().SetOutputFileChooser([this] { ChooseOutputFile(); });
+}
+
+void MainWindow::FillListCombos() {
+  MainForm& frmMain = context_.frmMain;
+  for (const std::string_view name : kWordOrderNames) {
+    frmMain.cboWordOrder.AddItem(std::string(name));
+  }
+  for (const std::string_view name : kDisplayFormatNames) {
+    frmMain.cboDisplayFormat.AddItem(std::string(name));
+  }
+  frmMain.cboWordOrder.SetListIndex(0);
+  frmMain.cboDisplayFormat.SetListIndex(0);
+}
+
+void MainWindow::ConnectSource() {
+  MainForm& frmMain = context_.frmMain;
+  frmMain.optOnClipboard.Click.Connect([this] {
+    if (!context_.state.blnStartUpCompleted || context_.state.busy) return;
+    context_.output.ClearOutput();
+    EnableSourceControls(context_);
+    SetTheFocus(context_.frmMain);
+  });
+  frmMain.optInFile.Click.Connect([this] { SetTheFocus(context_.frmMain); });
+  frmMain.optFolder.Click.Connect([this] { SetTheFocus(context_.frmMain); });
+}
+
+void MainWindow::ConnectFiles() {
+  MainForm& frmMain = context_.frmMain;
+  frmMain.txbFile[0].LostFocus.Connect([this] {
+    const std::string& path = context_.frmMain.txbFile[0].Text();
+    if (!path.empty()) countRun_.File().CheckInputFile(path);
+  });
+  frmMain.cmdFile[0].Click.Connect([this] { ChooseInputFile(); });
+  frmMain.cmdFile[1].Click.Connect([this] { ChooseOutputFile(); });
+  frmMain.cmdClearFile[0].Click.Connect([this] {
+    context_.frmMain.txbFile[0].SetText("");
+    context_.frmMain.lblFilesize.SetCaption("");
+    SetTheFocus(context_.frmMain);
+  });
+  frmMain.cmdClearFile[1].Click.Connect([this] {
+    context_.frmMain.txbFile[1].SetText("");
+    SetTheFocus(context_.frmMain);
+  });
+}
+
+void MainWindow::ChooseInputFile() {
+  FileDialog dialog;
+  dialog.title = "Specify file to be scanned";
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  dialog.hideReadOnly = true;
+  if (const auto path = context_.desktop.ChooseFile(dialog)) {
+    context_.frmMain.txbFile[0].SetText(*path);
+    countRun_.File().CheckInputFile(*path);
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+/// The list asks before it overwrites, so the dialog does not.
+void MainWindow::ChooseOutputFile() {
+  FileDialog dialog;
+  dialog.mode = FileDialog::Mode::kSave;
+  dialog.title = "Specify output file";
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.hideReadOnly = true;
+  dialog.noReadOnlyReturn = true;
+  if (const auto path = context_.desktop.ChooseFile(dialog)) {
+    context_.frmMain.txbFile[1].SetText(*path);
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+void MainWindow::ConnectFolder() {
+  MainForm& frmMain = context_.frmMain;
+  frmMain.cmdFolder.Click.Connect([this] {
+    context_.output.ClearOutput();
+    if (const auto path = context_.desktop.BrowseForFolder("Select Folder")) {
+      context_.frmMain.txbFolder.SetText(*path);
+    }
+    SetTheFocus(context_.frmMain);
+  });
+  frmMain.cmdClearFolder.Click.Connect([this] {
+    context_.frmMain.txbFolder.SetText("");
+    SetTheFocus(context_.frmMain);
+  });
+  frmMain.txbFolder.LostFocus.Connect([this] {
+    const std::string& path = context_.frmMain.txbFolder.Text();
+    if (!path.empty() && !FolderExists(path)) Refuse(context_, "Folder does not exist.", "Error");
+  });
+  for (std::size_t i = 0; i < 2; ++i) {
+    const auto list = static_cast<ExtensionList>(i);
+    const auto leave = [this, list] { countRun_.Extensions().OnLostFocus(list); };
+    frmMain.txbFileExtensions[i].LostFocus.Connect(leave);
+    frmMain.txbFileExtensions[i].KeyDown.Connect([leave](int keyCode) {
+      constexpr int kEnter = 13;
+      if (keyCode == kEnter) leave();
+    });
+  }
+  frmMain.cmdListFiles.Click.Connect([this] { countRun_.OnListFilesClick(); });
+}
+
+void MainWindow::ConnectOutput() {
+  MainForm& frmMain = context_.frmMain;
+  frmMain.cmdClearOutput.Click.Connect([this] {
+    context_.output.ClearOutput();
+    ConcealNumWords(context_.frmMain, true);
+    if (context_.state.blnStartUpCompleted) SetTheFocus(context_.frmMain);
+  });
+  frmMain.cmdCopyToClipboard.Click.Connect([this] {
+    context_.desktop.ClearClipboard();
+    context_.desktop.PutClipboardText(context_.frmMain.txbOutput.Text());
+  });
+  frmMain.chkDisableOutputToFile.Click.Connect([this] { countRun_.OnDisableOutputClick(); });
+  frmMain.chkSuppressWords.Click.Connect([this] { OnSuppressWordsClick(); });
+}
+
+void MainWindow::OnSuppressWordsClick() {
+  CheckBox& box = context_.frmMain.chkSuppressWords;
+  if (box.IsChecked()) {
+    box.SetToolTip("");
+    if (!context_.output.IsEmpty() && context_.state.displayingWords) {
+      context_.output.OutputToTxb(kCrLf);
+    }
+  } else {
+    box.SetToolTip("Check this box for faster processing.");
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+}  // namespace quillomat

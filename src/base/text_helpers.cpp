@@ -1,0 +1,53 @@
+#include "base/text_helpers.h"
+
+#include "base/utf8.h"
+
+namespace quillomat {
+namespace {
+
+std::string Blanks(std::string_view text, std::size_t width) {
+  const std::size_t length = CharacterCount(text);
+  return std::string(length < width ? width - length : 0, ' ');
+}
+
+}  // namespace
+
+std::string_view TrimRightBlanks(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : TrimRightBlanks(text.substr(first));
+}
+
+std::string PadLeft(std::string_view text, std::size_t width) {
+  return Blanks(text, width).append(text);
+}
+
+std::string PadRight(std::string_view text, std::size_t width) {
+  return std::string(text).append(Blanks(text, width));
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  std::size_t position = 0;
+  for (std::size_t found = text.find(from); found != std::string_view::npos;
+       found = text.find(from, position)) {
+    result.append(text.substr(position, found - position)).append(to);
+    position = found + from.size();
+  }
+  return result.append(text.substr(position));
+}
+
+std::string GroupDigits(std::int64_t number, std::string_view separator) {
+  const std::string digits = std::to_string(number);
+  std::string result;
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    if (i > 0 && (digits.size() - i) % 3 == 0) result.append(separator);
+    result.push_back(digits[i]);
+  }
+  return result;
+}
+
+}  // namespace quillomat

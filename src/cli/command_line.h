@@ -1,0 +1,43 @@
+// The command line of quillomat-cli.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quillomat {
+
+struct CommandLine {
+  // The source: exactly one of them is given.
+  std::optional<std::string> file;
+  std::optional<std::string> folder;
+  /// A path, or "-" for standard input.
+  std::optional<std::string> text;
+
+  bool subfolders = false;
+  bool listFiles = false;
+  bool windowText = false;
+  bool summary = false;
+  std::optional<std::string> order;
+  std::optional<std::string> format;
+  std::optional<std::string> output;
+  /// Names and values of controls.
+  std::vector<std::pair<std::string, std::string>> set;
+  /// Titles of message boxes and the answers to them.
+  std::vector<std::pair<std::string, std::string>> answers;
+};
+
+/// What becomes of the program after its arguments were read.
+struct ParsedCommandLine {
+  /// Set when the program is to end at once with this status: after help, or for an error.
+  std::optional<int> exitStatus;
+  CommandLine options;
+};
+
+/// Reads the arguments. Help and version go to `out`; an error is one line on `err`.
+[[nodiscard]] ParsedCommandLine ParseCommandLine(int argc, const char* const* argv,
+                                                 std::ostream& out, std::ostream& err);
+
+}  // namespace quillomat

@@ -1,0 +1,19 @@
+// quillomat-cli: counts words from a terminal or a script.
+#include <exception>
+#include <iostream>
+
+#include "cli/command_line.h"
+#include "cli/exit_status.h"
+#include "cli/terminal_run.h"
+
+int main(int argc, char** argv) {
+  using namespace quillomat;
+  try {
+    const ParsedCommandLine parsed = ParseCommandLine(argc, argv, std::cout, std::cerr);
+    if (parsed.exitStatus) return *parsed.exitStatus;
+    return RunInTerminal(parsed.options, std::cerr);
+  } catch (const std::exception& error) {
+    std::cerr << "quillomat-cli: unexpected failure: " << error.what() << '\n';
+    return kRunFailed;
+  }
+}

@@ -1,0 +1,92 @@
+#include "cli/terminal_desktop.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "base/letter_case.h"
+#include "desktop/locale_info.h"
+
+namespace quillomat {
+namespace {
+
+/// Line breaks become single blanks: a message is one line.
+std::string OneLine(const std::string& text) {
+  std::string line;
+  for (const char ch : text) {
+    const bool isBreak = ch == '\r' || ch == '\n';
+    if (!isBreak) {
+      line.push_back(ch);
+    } else if (!line.ends_with(' ')) {
+      line.push_back(' ');
+    }
+  }
+  while (line.ends_with(' ')) line.pop_back();
+  return line;
+}
+
+MessageAnswer AnswerByRule(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kYesNo:
+    case MessageButtons::kYesNoCancel:
+      return MessageAnswer::kYes;
+    default:
+      return MessageAnswer::kOk;
+  }
+}
+
+MessageAnswer AnswerOfWord(const std::string& word, MessageButtons buttons) {
+  const std::string lower = LowerCase(word);
+  const bool yesNo = buttons != MessageButtons::kOk && buttons != MessageButtons::kOkCancel;
+  const bool cancel = buttons != MessageButtons::kOk && buttons != MessageButtons::kYesNo;
+  if (lower == "yes" && yesNo) return MessageAnswer::kYes;
+  if (lower == "no" && yesNo) return MessageAnswer::kNo;
+  if (lower == "cancel" && cancel) return MessageAnswer::kCancel;
+  return AnswerByRule(buttons);
+}
+
+}  // namespace
+
+TerminalDesktop::TerminalDesktop(std::ostream& err, Answers answers)
+    : err_(err), answers_(std::move(answers)) {}
+
+std::optional<std::string> TerminalDesktop::AnswerTo(const std::string& title) const {
+  const auto found = std::find_if(answers_.begin(), answers_.end(),
+                                  [&](const auto& answer) { return answer.first == title; });
+  if (found == answers_.end()) return std::nullopt;
+  return found->second;
+}
+
+void TerminalDesktop::PrintMessage(const std::string& title, const std::string& text) {
+  err_ << (title.empty() ? "Quillomat" : title) << ": " << OneLine(text);
+  const bool named = subject_.empty() || text.find(subject_) != std::string::npos;
+  if (!named) err_ << " (" << OneLine(subject_) << ")";
+  err_ << '\n';
+}
+
+MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
+  const bool question = box.buttons != MessageButtons::kOk;
+  const bool refusal = box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical;
+  if (refusal && !question) problemShown_ = true;
+  const std::optional<std::string> word = AnswerTo(box.title);
+  if (!question) PrintMessage(box.title, box.text);
+  return word ? AnswerOfWord(*word, box.buttons) : AnswerByRule(box.buttons);
+}
+
+std::string TerminalDesktop::AskForText(const InputBox& box) {
+  const std::optional<std::string> word = AnswerTo(box.title);
+  if (!word) {
+    err_ << box.title << ": " << OneLine(box.defaultAnswer) << " is left as it is (--answer '"
+         << box.title << "=OK' overwrites it)\n";
+    problemShown_ = true;
+    return {};
+  }
+  const std::string lower = LowerCase(*word);
+  if (lower == "cancel") return {};
+  return lower == "ok" ? box.defaultAnswer : *word;
+}
+
+std::string TerminalDesktop::DigitGroupSeparator() {
+  return quillomat::DigitGroupSeparator();
+}
+
+}  // namespace quillomat

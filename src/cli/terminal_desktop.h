@@ -1,0 +1,60 @@
+// The desktop of a terminal: messages are lines on standard error, questions are answered by the
+// command line or by rule without a word, and the clipboard holds the text that was given.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ui/desktop.h"
+
+namespace quillomat {
+
+class TerminalDesktop final : public Desktop {
+ public:
+  using Answers = std::vector<std::pair<std::string, std::string>>;
+
+  /// `answers` are titles of boxes and the words on their buttons ("OK", "Yes", a path for an input
+  /// box). `err` must outlive the desktop.
+  TerminalDesktop(std::ostream& err, Answers answers);
+
+  void SetClipboardText(std::string text) { clipboard_ = std::move(text); }
+  /// What the count is about; added to messages that do not name it.
+  void SetSubject(std::string subject) { subject_ = std::move(subject); }
+
+  /// Whether a message told of something that went wrong.
+  [[nodiscard]] bool ProblemShown() const { return problemShown_; }
+
+  /// By rule: OK and Yes where that loses nothing, so that a script goes on.
+  MessageAnswer ShowMessage(const MessageBox& box) override;
+  /// By rule: cancelled, since the question is whether to overwrite.
+  std::string AskForText(const InputBox& box) override;
+  /// There is nobody to choose.
+  std::optional<std::string> ChooseFile(const FileDialog& /*dialog*/) override { return {}; }
+  std::optional<std::string> BrowseForFolder(const std::string& /*title*/) override { return {}; }
+
+  std::string ClipboardText() override { return clipboard_; }
+  void ClearClipboard() override { clipboard_.clear(); }
+  void PutClipboardText(const std::string& text) override { clipboard_ = text; }
+
+  void Repaint() override {}
+  void PumpEvents() override {}
+  bool OpenWithShell(const std::string& /*documentOrAddress*/) override { return false; }
+  Registry& UserKeys() override { return registry_; }
+  std::string DigitGroupSeparator() override;
+
+ private:
+  [[nodiscard]] std::optional<std::string> AnswerTo(const std::string& title) const;
+  void PrintMessage(const std::string& title, const std::string& text);
+
+  std::ostream& err_;
+  Answers answers_;
+  std::string clipboard_;
+  std::string subject_;
+  bool problemShown_ = false;
+  UserRegistry registry_;
+};
+
+}  // namespace quillomat

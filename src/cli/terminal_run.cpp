@@ -1,0 +1,227 @@
+#include "cli/terminal_run.h"
+
+#include <cstdio>
+#include <iostream>
+#include <ostream>
+#include <string_view>
+#include <vector>
+
+#include "app/program.h"
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
+#include "cli/control_settings.h"
+#include "cli/exit_status.h"
+#include "cli/standard_input.h"
+#include "cli/terminal_desktop.h"
+#include "desktop/file_system.h"
+#include "desktop/input_file.h"
+#include "desktop/output_file.h"
+#include "engine/line_decoder.h"
+
+namespace quillomat {
+namespace {
+
+class TerminalRun {
+ public:
+  TerminalRun(const CommandLine& options, std::ostream& err)
+      : options_(options), err_(err), desktop_(err, options.answers), program_(desktop_) {}
+
+  int Run() {
+    if (!program_.Start()) return kRunFailed;
+    if (!ApplyChoices()) return kWrongCommandLine;
+    if (!CheckInput() || !ChooseSource()) return kRunFailed;
+    TakeEffect();
+    if (desktop_.ProblemShown()) return kRunFailed;
+    return options_.listFiles ? ListFiles() : Count();
+  }
+
+ private:
+  bool Fail(const std::string& what) {
+    err_ << "quillomat-cli: " << what << '\n';
+    return false;
+  }
+
+  bool ApplyChoices() {
+    MainForm& frmMain = program_.frmMain;
+    program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
+    for (const auto& [name, value] : options_.set) {
+      if (const auto fault = SetControl(frmMain, program_.frmParams, name, value)) {
+        return Fail("--set: " + *fault);
+      }
+    }
+    if (options_.order && !ChooseOrder(*options_.order)) return false;
+    if (options_.format && !ChooseFormat(*options_.format)) return false;
+    if (options_.output) frmMain.txbFile[1].SetText(*options_.output);
+    program_.state.blnStartUpCompleted = true;
+    return true;
+  }
+
+  bool ChooseOrder(const std::string& order) {
+    const bool alphabetical = order == "alphabetical";
+    if (!alphabetical && order != "frequency") {
+      return Fail("--order: '" + order + "' is neither frequency nor alphabetical");
+    }
+    program_.frmMain.cboWordOrder.SetListIndex(alphabetical ? 1 : 0);
+    return true;
+  }
+
+  bool ChooseFormat(const std::string& format) {
+    const bool number = !format.empty() && format.find_first_not_of("0123456789") == format.npos;
+    const std::string value = number ? "#" + format : format;
+    if (SetControl(program_.frmMain, program_.frmParams, "cboDisplayFormat", value)) {
+      return Fail("--format: '" + format +
+                  "' is no display format; it takes a number from 0 to 13 or a name such as "
+                  "'word frequency'");
+    }
+    return true;
+  }
+
+  /// Says more about an input that cannot be read than the window would.
+  bool CheckInput() {
+    if (options_.folder) return CheckFolder(*options_.folder);
+    const std::string& path = options_.file ? *options_.file : *options_.text;
+    if (options_.text && path == "-") return true;
+    if (FolderExists(path)) return Fail(path + " is a folder; count its files with --folder");
+    if (!FileExists(path)) return Fail(path + " does not exist; check the path");
+    try {
+      const InputFile file(path);
+    } catch (const RunTimeError& error) {
+      return Fail(path + " cannot be read: " + error.Description() + "; check its permissions");
+    }
+    if (options_.file && FileLength(path) == 0) {
+      return Fail(path + " is empty; there is nothing to count");
+    }
+    return true;
+  }
+
+  bool CheckFolder(const std::string& path) {
+    if (FolderExists(path)) return true;
+    if (FileExists(path)) return Fail(path + " is a file; count it with --file");
+    return Fail(path + " does not exist; check the path");
+  }
+
+  bool ChooseSource() {
+    MainForm& frmMain = program_.frmMain;
+    if (options_.folder) {
+      frmMain.txbFolder.SetText(*options_.folder);
+      frmMain.optFolder.SetValue(true);
+      if (options_.subfolders) frmMain.chkIncludeSubfolders.SetChecked(true);
+      desktop_.SetSubject(*options_.folder);
+    } else if (options_.file) {
+      frmMain.txbFile[0].SetText(*options_.file);
+      frmMain.optInFile.SetValue(true);
+      desktop_.SetSubject(*options_.file);
+    } else {
+      frmMain.optOnClipboard.SetValue(true);
+      desktop_.SetSubject(*options_.text == "-" ? "standard input" : *options_.text);
+      return FillClipboard(*options_.text);
+    }
+    return true;
+  }
+
+  bool FillClipboard(const std::string& path) {
+    try {
+      if (path == "-") {
+        StandardInput input;
+        desktop_.SetClipboardText(DecodeText(input));
+      } else {
+        InputFile input(path);
+        desktop_.SetClipboardText(DecodeText(input));
+      }
+      return true;
+    } catch (const RunTimeError& error) {
+      return Fail(path + " cannot be read: " + error.Description());
+    }
+  }
+
+  /// The controls were set from outside: what hangs on them is worked out, as after loading a
+  /// state.
+  void TakeEffect() { program_.TakeControlsAsTheyAre(); }
+
+  int ListFiles() {
+    program_.frmMain.cmdListFiles.PerformClick();
+    if (desktop_.ProblemShown()) return kRunFailed;
+    return PrintWindowText() ? kListMade : kRunFailed;
+  }
+
+  int Count() {
+    program_.lister.SetTextBoxWanted(options_.windowText);
+    if (!program_.lister.CheckDisplayFormat()) return kRunFailed;
+    program_.frmMain.cmdCountWords.PerformClick();
+    PrintSkipped();
+    if (options_.summary) PrintSummary();
+    const bool written = options_.output ? program_.lister.FileWritten() : true;
+    const bool made = program_.countRun.ListWasMade();
+    if (options_.windowText) {
+      return PrintWindowText() && made && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+    }
+    if (!made) {
+      PrintOutputAsMessage();
+      return kRunFailed;
+    }
+    if (!options_.output && !PrintList()) return kRunFailed;
+    return written && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+  }
+
+  void PrintSkipped() {
+    for (const SkippedItem& item : program_.countRun.Folder().Skipped()) {
+      err_ << "Skipped: " << item.path << ": " << item.reason << '\n';
+    }
+  }
+
+  /// What the window would show in place of a list.
+  void PrintOutputAsMessage() {
+    const std::string& shown = program_.frmMain.txbOutput.Text();
+    if (shown.empty() || desktop_.ProblemShown()) return;
+    err_ << "quillomat-cli: " << ReplaceAll(shown, kCrLf, " ") << '\n';
+  }
+
+  void PrintSummary() {
+    const MainForm& frmMain = program_.frmMain;
+    const std::vector<const Label*> labels = {
+        &frmMain.lblNumberOfWords, &frmMain.lblNumWordsExcluded, &frmMain.lblNumOccurrences,
+        &frmMain.lblTotalNumOccurrences};
+    for (const Label* label : labels) {
+      if (label->Visible() && !label->Caption().empty()) err_ << label->Caption() << '\n';
+    }
+  }
+
+  bool PrintList() {
+    return Print([this](OutputFile& out) { program_.lister.WriteList(out); });
+  }
+
+  bool PrintWindowText() {
+    return Print([this](OutputFile& out) {
+      std::string text = ReplaceAll(program_.frmMain.txbOutput.Text(), kCrLf, kPlatformLineBreak);
+      if (!text.ends_with('\n')) text.append(kPlatformLineBreak);
+      out.Write(text);
+    });
+  }
+
+  template <typename Writer>
+  bool Print(const Writer& write) {
+    try {
+      OutputFile out = OutputFile::StandardOutput();
+      write(out);
+      out.Close();
+      return true;
+    } catch (const RunTimeError& error) {
+      // A reader that has seen enough, such as head, is no failure worth a message.
+      const bool readerGone = error.Number() == static_cast<int>(RunTimeErrorNumber::kDeviceIo);
+      return !readerGone && Fail("standard output: " + error.Description());
+    }
+  }
+
+  const CommandLine& options_;
+  std::ostream& err_;
+  TerminalDesktop desktop_;
+  Program program_;
+};
+
+}  // namespace
+
+int RunInTerminal(const CommandLine& options, std::ostream& err) {
+  return TerminalRun(options, err).Run();
+}
+
+}  // namespace quillomat

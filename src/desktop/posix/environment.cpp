@@ -1,0 +1,22 @@
+#include "desktop/environment.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "desktop/native_path.h"
+
+namespace quillomat {
+
+std::optional<std::string> EnvironmentVariable(const std::string& name) {
+  const char* value = std::getenv(name.c_str());
+  if (value == nullptr || *value == '\0') return std::nullopt;
+  return value;
+}
+
+std::string ProgramPath() {
+  std::error_code error;
+  return FromNativePath(std::filesystem::read_symlink("/proc/self/exe", error));
+}
+
+}  // namespace quillomat

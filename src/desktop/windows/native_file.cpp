@@ -1,0 +1,107 @@
+#include "desktop/native_file.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+#include <windows.h>
+
+#include "desktop/native_path.h"
+#include "desktop/system_error.h"
+#include "desktop/windows/wide_text.h"
+
+namespace quillomat {
+namespace {
+
+// What one call reads or writes at most.
+constexpr std::size_t kMostBytesPerCall = 1U << 30U;
+
+HANDLE AsHandle(std::intptr_t handle) {
+  return reinterpret_cast<HANDLE>(handle);
+}
+
+[[noreturn]] void ThrowError(DWORD error, FileAction action, const std::string& path = {}) {
+  const std::error_code code(static_cast<int>(error), std::system_category());
+  throw ToRunTimeError(code, action, path);
+}
+
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD creation,
+                   FileAction action) {
+  if (NamesNothing(path)) ThrowError(ERROR_FILE_NOT_FOUND, action, path);
+  const std::wstring wide = ToWide(path);
+  if (IsFolder(wide)) throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
+  const HANDLE handle =
+      CreateFileW(wide.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) ThrowError(GetLastError(), action, path);
+  return reinterpret_cast<std::intptr_t>(handle);
+}
+
+}  // namespace
+
+NativeFile NativeFile::OpenForReading(const std::string& path) {
+  return NativeFile(Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                         OPEN_EXISTING, FileAction::kOpenToRead));
+}
+
+NativeFile NativeFile::OpenForWriting(const std::string& path) {
+  return NativeFile(
+      Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FileAction::kOpenToWrite));
+}
+
+NativeFile NativeFile::StandardOutput() {
+  HANDLE handle = nullptr;
+  if (DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_OUTPUT_HANDLE), GetCurrentProcess(),
+                      &handle, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+  return NativeFile(reinterpret_cast<std::intptr_t>(handle));
+}
+
+std::int64_t NativeFile::Length() const {
+  LARGE_INTEGER bytes{};
+  if (GetFileType(AsHandle(handle_)) != FILE_TYPE_DISK) return 0;
+  if (GetFileSizeEx(AsHandle(handle_), &bytes) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+  return bytes.QuadPart;
+}
+
+std::size_t NativeFile::Read(std::span<char> buffer) const {
+  const auto wanted = static_cast<DWORD>(std::min(buffer.size(), kMostBytesPerCall));
+  DWORD bytesRead = 0;
+  if (ReadFile(AsHandle(handle_), buffer.data(), wanted, &bytesRead, nullptr) == 0) {
+    const DWORD error = GetLastError();
+    if (error != ERROR_BROKEN_PIPE) ThrowError(error, FileAction::kTransfer);
+  }
+  return bytesRead;
+}
+
+void NativeFile::Write(std::string_view bytes) const {
+  while (!bytes.empty()) {
+    const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostBytesPerCall));
+    DWORD bytesWritten = 0;
+    if (WriteFile(AsHandle(handle_), bytes.data(), wanted, &bytesWritten, nullptr) == 0) {
+      ThrowError(GetLastError(), FileAction::kTransfer);
+    }
+    bytes.remove_prefix(bytesWritten);
+  }
+}
+
+void NativeFile::Empty() const noexcept {
+  const LARGE_INTEGER start{};
+  if (SetFilePointerEx(AsHandle(handle_), start, nullptr, FILE_BEGIN) != 0) {
+    SetEndOfFile(AsHandle(handle_));
+  }
+}
+
+void NativeFile::Close() {
+  if (CloseHandle(AsHandle(std::exchange(handle_, kClosed))) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,23 @@
+// Accent folding: the key under which spellings of one word meet. German umlauts and the like
+// become two letters ("Müller" and "Mueller" are the same word), other accented letters lose their
+// accent.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillomat {
+
+/// The German transliteration first, then the removal of accents. Letter case is kept; a character
+/// that neither table knows is copied.
+[[nodiscard]] std::string FoldAccents(std::string_view text);
+
+/// The sort key of a word: FoldAccents, then lower case. Words are the same when their keys are
+/// equal; keys are ordered by their bytes, which is the order of their code points.
+[[nodiscard]] std::string SortKeyOf(std::string_view word);
+
+/// As SortKeyOf, but without making a string where the word is its own key (lower-case ASCII): the
+/// result points into `word` or into `scratch`.
+[[nodiscard]] std::string_view SortKeyOf(std::string_view word, std::string& scratch);
+
+}  // namespace quillomat

@@ -1,0 +1,77 @@
+// From bytes to lines of text. A line ends at CR LF, CR or LF, in any mixture. Each line is judged
+// on its own: well-formed UTF-8 is UTF-8, anything else is Windows-1252, so every sequence of bytes
+// is some text. A UTF-8 byte-order mark at the start is dropped; bytes that start with a UTF-16
+// byte-order mark are UTF-16 from end to end.
+//
+// Bytes are read in blocks. Memory is bounded by the longest line plus two blocks.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/byte_source.h"
+
+namespace quillomat {
+
+/// `bytes` read as Windows-1252, in UTF-8. The five bytes that Windows-1252 leaves undefined become
+/// the control characters of the same number.
+[[nodiscard]] std::string DecodeWindows1252(std::string_view bytes);
+
+/// `line` as text: as it is when it is well-formed UTF-8, else as Windows-1252.
+[[nodiscard]] std::string DecodeLine(std::string_view line);
+
+/// All of the source as text, line breaks included; decoded as LineDecoder does it.
+[[nodiscard]] std::string DecodeText(ByteSource& source);
+
+/// The bytes of `source` without a byte-order mark; UTF-16 comes out as UTF-8 (a lone surrogate or
+/// an odd last byte as U+FFFD). All who look at a file's text look through this.
+class UnmarkedSource final : public ByteSource {
+ public:
+  explicit UnmarkedSource(ByteSource& source) : source_(source) {}
+
+  std::size_t Read(std::span<char> buffer) override;
+
+ private:
+  enum class Encoding { kUnknown, kBytes, kUtf16LittleEndian, kUtf16BigEndian };
+
+  void Detect();
+  void DecodeUtf16Block();
+  void TakeUnit(char16_t unit);
+
+  ByteSource& source_;
+  Encoding encoding_ = Encoding::kUnknown;
+  /// Decoded and not yet given out, from pendingStart_ on.
+  std::string pending_;
+  std::size_t pendingStart_ = 0;
+  std::optional<unsigned char> oddByte_;
+  std::optional<char16_t> highSurrogate_;
+};
+
+class LineDecoder {
+ public:
+  /// `source` must outlive the decoder.
+  explicit LineDecoder(ByteSource& source);
+
+  /// The next line without its end, or nothing after the last. The view is good until the next
+  /// call. Passes on what the source throws.
+  [[nodiscard]] std::optional<std::string_view> NextLine();
+
+ private:
+  [[nodiscard]] bool ReadBlock();
+  [[nodiscard]] std::optional<std::string_view> NextRawLine();
+
+  UnmarkedSource source_;
+  std::vector<char> buffer_;
+  /// The bytes not yet given out are begin_ to end_.
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  bool skipLineFeed_ = false;
+  std::string decoded_;
+};
+
+}  // namespace quillomat

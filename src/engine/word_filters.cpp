@@ -1,0 +1,39 @@
+#include "engine/word_filters.h"
+
+#include "base/utf8.h"
+#include "engine/word_rules.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::int32_t kFirstListedNumber = 2;
+
+bool IsExcludedRepetition(std::string_view word, std::int32_t length) {
+  const bool startsWithDigit = word[0] >= '0' && word[0] <= '9';
+  return length > 1 && !startsWithDigit && IsRepetition(word);
+}
+
+bool IsExcluded(const WordRec& record, const FilterChoices& choices) {
+  const auto length = static_cast<std::int32_t>(CharacterCount(record.Word));
+  if (IsSet(choices.ignoreInfrequentWords) &&
+      record.Count < choices.thresholdFrequencyIndex + kFirstListedNumber) {
+    return true;
+  }
+  if (IsSet(choices.ignoreShortWords) && length < choices.shortWordSizeIndex + kFirstListedNumber) {
+    return true;
+  }
+  if (length > choices.longWordSize) return true;
+  if (IsSet(choices.ignoreRepetitions) && IsExcludedRepetition(record.Word, length)) return true;
+  if (IsSet(choices.ignoreRomNum40) && IsRomanNumeral(record.Word, true)) return true;
+  return IsSet(choices.ignoreNoVowelOrY) && LacksVowel(record.Word, true);
+}
+
+}  // namespace
+
+void ApplyWordFilters(WordStore& store, const FilterChoices& choices) {
+  for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
+    store.SetIncluded(index, !IsExcluded(store.At(index), choices));
+  }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,29 @@
+// The filters: which of the counted words are listed. They act on the finished store and look at
+// the spelling that was first met; an excluded word keeps its count.
+#pragma once
+
+#include <cstdint>
+
+#include "base/check_state.h"
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+/// The user's choices about the list, as the parameters panel stands when the filters run. The two
+/// `...Index` values are places in lists of numbers that begin with 2.
+struct FilterChoices {
+  CheckState ignoreInfrequentWords = CheckState::kUnchecked;
+  std::int32_t thresholdFrequencyIndex = 0;
+  CheckState ignoreShortWords = CheckState::kUnchecked;
+  std::int32_t shortWordSizeIndex = 0;
+  /// In characters; words longer than this are never listed.
+  std::int32_t longWordSize = 50;
+  CheckState ignoreRepetitions = CheckState::kUnchecked;
+  CheckState ignoreRomNum40 = CheckState::kUnchecked;
+  CheckState ignoreNoVowelOrY = CheckState::kUnchecked;
+};
+
+/// Sets `Included` of every record.
+void ApplyWordFilters(WordStore& store, const FilterChoices& choices);
+
+}  // namespace quillomat

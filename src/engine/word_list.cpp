@@ -1,0 +1,39 @@
+#include "engine/word_list.h"
+
+#include <algorithm>
+
+#include "base/letter_case.h"
+#include "base/text_helpers.h"
+#include "engine/word_rules.h"
+
+namespace quillomat {
+
+bool WordLists::Admits(std::string_view word, bool countOnlyMode) const {
+  if (countOnlyMode) {
+    const std::string lower = LowerCase(word);
+    return ExtraCountOnlyList.IsInList(lower) || CountOnlyList.IsInList(lower);
+  }
+  if (ExtraIgnoreList.Count() == 0 && IgnoreList.Count() == 0) return true;
+  const std::string lower = LowerCase(word);
+  return !ExtraIgnoreList.IsInList(lower) && !IgnoreList.IsInList(lower);
+}
+
+SplitResult SplitList(std::string_view text, std::string_view separators, std::size_t capacity) {
+  SplitResult result;
+  std::size_t start = text.find_first_not_of(separators);
+  while (start != std::string_view::npos) {
+    if (result.items.size() == capacity) return {false, {}};
+    const std::size_t end = std::min(text.find_first_of(separators, start), text.size());
+    result.items.emplace_back(text.substr(start, end - start));
+    start = text.find_first_not_of(separators, end);
+  }
+  return result;
+}
+
+SplitResult ParseTypedWords(std::string_view text) {
+  SplitResult result = SplitList(LowerCase(text), " ", kMaxTypedWords);
+  for (std::string& item : result.items) item.resize(TrimTrailingChars(item, "-'_.,:").size());
+  return result;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,80 @@
+// The lists of words that a count goes by: words to ignore and count-only words, each typed by hand
+// ("extra") or read from a words file.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace quillomat {
+
+/// The two kinds of list; also the index of the controls that belong to them.
+enum class WordListKind { kIgnore = 0, kCountOnly = 1 };
+
+/// A list of words in its own order. A word is found by exact comparison, accents and letter case
+/// included.
+class WordList {
+ public:
+  WordList() = default;
+  /// Empty words stand in the list, and count, but are never found.
+  explicit WordList(std::vector<std::string> words)
+      : words_(std::move(words)), lookup_(words_.begin(), words_.end()) {}
+
+  [[nodiscard]] bool IsInList(std::string_view word) const {
+    return !word.empty() && !words_.empty() && lookup_.find(word) != lookup_.end();
+  }
+  [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(words_.size()); }
+  [[nodiscard]] const std::vector<std::string>& Words() const { return words_; }
+
+ private:
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view word) const {
+      return std::hash<std::string_view>{}(word);
+    }
+  };
+
+  std::vector<std::string> words_;
+  std::unordered_set<std::string, Hash, std::equal_to<>> lookup_;
+};
+
+struct WordLists {
+  WordList IgnoreList;
+  WordList ExtraIgnoreList;
+  WordList CountOnlyList;
+  WordList ExtraCountOnlyList;
+
+  /// Whether any count-only word is given: then only these are counted, and the words to ignore
+  /// have no effect.
+  [[nodiscard]] bool HasCountOnlyWords() const {
+    return CountOnlyList.Count() >= 1 || ExtraCountOnlyList.Count() >= 1;
+  }
+
+  /// Whether the lists let `word` be counted. Letter case and accents of the lower-cased word must
+  /// be those of the list.
+  [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode) const;
+};
+
+struct SplitResult {
+  /// False when there were too many items; `items` is empty then.
+  bool fits = true;
+  std::vector<std::string> items;
+};
+
+/// Cuts `text` at every character of `separators`. Separators in a row make no empty item. At most
+/// `capacity` items fit.
+[[nodiscard]] SplitResult SplitList(std::string_view text, std::string_view separators,
+                                    std::size_t capacity);
+
+/// The most words that a list typed by hand takes.
+inline constexpr std::size_t kMaxTypedWords = 1000;
+
+/// A list typed by hand, lower-cased, split and with the trailing characters "-'_.,:" taken off
+/// each word; `fits` is false when it has more than kMaxTypedWords words.
+[[nodiscard]] SplitResult ParseTypedWords(std::string_view text);
+
+}  // namespace quillomat

@@ -1,0 +1,103 @@
+#include "engine/word_rules.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "base/letter_case.h"
+#include "base/utf8.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kContractionStems =
+    "aren couldn didn doesn hadn hasn isn shouldn wasn weren wouldn ";
+
+constexpr std::array<std::string_view, 8> kRomanExceptions = {"dim", "mid",   "vim",   "cid",
+                                                              "lid", "livid", "civil", "dill"};
+
+/// The small vowels of U+00E0-U+00FF: all letters but c with cedilla, eth, n with tilde, y and
+/// thorn. Sharp s (U+00DF), the signs and the letters y are none.
+bool IsSmallLatin1Vowel(char32_t codePoint) {
+  if (codePoint < 0xE0 || codePoint > 0xFC) return false;
+  return codePoint != 0xE7 && codePoint != 0xF0 && codePoint != 0xF1 && codePoint != 0xF7;
+}
+
+bool IsVowelCodePoint(char32_t codePoint, bool lowerOnly) {
+  constexpr char32_t kToSmall = 0x20;
+  if (codePoint < 0x80) {
+    const std::string_view vowels = lowerOnly ? "aeiou" : "aeiouAEIOU";
+    return vowels.find(static_cast<char>(codePoint)) != std::string_view::npos;
+  }
+  if (IsSmallLatin1Vowel(codePoint)) return true;
+  return !lowerOnly && codePoint >= 0xC0 && codePoint <= 0xDC &&
+         IsSmallLatin1Vowel(codePoint + kToSmall);
+}
+
+}  // namespace
+
+std::string_view TrimTrailingChars(std::string_view text, std::string_view set) {
+  return text.substr(0, text.find_last_not_of(set) + 1);
+}
+
+void RemoveSuffix(std::string& text, std::string_view suffix) {
+  if (text.ends_with(suffix)) text.resize(text.size() - suffix.size());
+}
+
+bool IsVowel(std::string_view ch, bool lowerOnly) {
+  return !ch.empty() && IsVowelCodePoint(CharacterAt(ch, 0).codePoint, lowerOnly);
+}
+
+bool IsContractionStem(std::string_view word) {
+  return kContractionStems.find(LowerCase(word) + ' ') != std::string_view::npos;
+}
+
+std::string_view DropFinalS(std::string_view word) {
+  if (!word.ends_with('s') || word.ends_with("ss") || word.ends_with("'s")) return word;
+  if (LowerCase(word) == "maths") return word;
+  const std::string_view before = word.substr(0, word.size() - 1);
+  const std::size_t secondToLast = LastCharacterStart(before);
+  if (secondToLast == 0) return word;  // at most two characters
+  if (EqualIgnoringCase(word.substr(word.size() >= 3 ? word.size() - 3 : 0), "ics")) return word;
+  if (IsVowel(before.substr(secondToLast), true)) return word;
+  return before;
+}
+
+bool IsApostropheFragment(std::string_view word) {
+  if (word.size() == 1 && std::string_view("sStT").find(word[0]) != std::string_view::npos) {
+    return true;
+  }
+  return IsContractionStem(word);
+}
+
+bool IsRepetition(std::string_view word) {
+  if (word.empty()) return false;
+  const std::size_t bytes = CharacterAt(word, 0).bytes;
+  const std::string_view first = word.substr(0, bytes);
+  for (std::size_t position = 0; position < word.size(); position += bytes) {
+    if (word.substr(position, bytes) != first) return false;
+  }
+  return true;
+}
+
+bool IsRomanNumeral(std::string_view word, bool belowXL) {
+  const std::string lower = LowerCase(word);
+  if (belowXL) return lower.find_first_not_of("ivx") == std::string::npos;
+  if (std::find(kRomanExceptions.begin(), kRomanExceptions.end(), lower) !=
+      kRomanExceptions.end()) {
+    return false;
+  }
+  return lower.find_first_not_of("ivxlcdm") == std::string::npos;
+}
+
+bool LacksVowel(std::string_view word, bool withY) {
+  for (std::size_t position = 0; position < word.size();) {
+    const Utf8Character character = CharacterAt(word, position);
+    if (IsVowelCodePoint(character.codePoint, false)) return false;
+    if (withY && (character.codePoint == 'y' || character.codePoint == 'Y')) return false;
+    position += character.bytes;
+  }
+  return true;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,89 @@
+// The scanner: finds the words in a piece of text (a line of a file, a whole clipboard text, a line
+// of a words file), cuts each to its final form, decides whether it is to be counted, and hands it
+// to the word store. It skips comments and decodes entities.
+//
+// One scanner serves one run. Text is well-formed UTF-8. The caller has lower-cased the text unless
+// letter case is significant, and has appended one blank: the last character of a text never starts
+// a word.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "engine/char_class.h"
+#include "engine/scan_settings.h"
+#include "engine/word_list.h"
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+/// Lets the user interface live while text is scanned.
+class ScanYield {
+ public:
+  ScanYield() = default;
+  ScanYield(const ScanYield&) = delete;
+  ScanYield& operator=(const ScanYield&) = delete;
+  ScanYield(ScanYield&&) = delete;
+  ScanYield& operator=(ScanYield&&) = delete;
+  virtual ~ScanYield() = default;
+
+  /// Called after every candidate word, so it must cost next to nothing. True when the user has
+  /// asked the run to stop.
+  virtual bool Yield() = 0;
+};
+
+class WordScanner {
+ public:
+  /// Everything referred to must outlive the scanner. `settings` is ready (SetAllowWordsFlags,
+  /// BuildExtraWordChars); its markers may change between texts, its flags and lists may not.
+  WordScanner(ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
+              WordStore& store, ScanYield& yield);
+
+  /// Scans one piece of text. Throws RunTimeError 6 when a counter overflows.
+  void GetWords(std::string_view lineBuffer);
+
+  /// Candidate words read so far, whether they were counted or not.
+  [[nodiscard]] std::int32_t WordsRead() const { return wordsRead_; }
+  void SetWordsRead(std::int32_t wordsRead) { wordsRead_ = wordsRead; }
+
+ private:
+  /// What stays to be done after comments were skipped.
+  enum class AfterComments { kScan, kStop };
+
+  std::string_view Rewritten(std::string_view text);
+  void PrepareMarkers();
+  [[nodiscard]] int FindCommentStart() const;
+  void SkipComment();
+  AfterComments SkipComments();
+  [[nodiscard]] std::string_view GetNextWord();
+  [[nodiscard]] std::string_view CutToken();
+  void TakeWord(std::string_view word);
+  [[nodiscard]] bool RestIsOneBlank() const { return text_.substr(position_) == " "; }
+  [[nodiscard]] std::size_t CharacterBytes() const;
+
+  ScanSettings& settings_;
+  const ScanChoices& choices_;
+  const WordLists& lists_;
+  WordStore& store_;
+  ScanYield& yield_;
+  CharClass charClass_;
+
+  /// The text being scanned, and the byte position of the next character to examine. A position
+  /// past the end is text_.size().
+  std::string_view text_;
+  std::size_t position_ = 0;
+  std::string rewritten_;
+  std::array<std::string, 2> lowerStart_;
+  std::array<std::string, 2> lowerEnd_;
+  std::int32_t wordsRead_ = 0;
+};
+
+/// `line` as GetWords wants a line of text to be counted: lower-cased unless letter case is
+/// significant, with one blank appended. The result stays in `buffer`.
+[[nodiscard]] std::string_view PrepareLine(std::string_view line, bool caseSignificant,
+                                           std::string& buffer);
+
+}  // namespace quillomat

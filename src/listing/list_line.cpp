@@ -1,0 +1,220 @@
+#include "listing/list_line.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+#include "base/text_helpers.h"
+#include "base/utf8.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kFolderMark = "{Folder}";
+constexpr std::size_t kLongestBareFolder = kFolderMark.size() + 5;
+constexpr std::size_t kFilesWidth = 4;
+constexpr std::size_t kFileFrequencyWidth = 5;
+
+std::size_t DecimalWidth(std::int32_t number) {
+  return std::to_string(number).size();
+}
+
+void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
+  if (text.size() < width) line.append(width - text.size(), ' ');
+  line.append(text);
+}
+
+void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
+  std::array<char, 12> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+  AppendPadded(line, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+}
+
+/// Four decimals, and no zero before the point.
+void AppendLogarithm(std::string& line, std::int32_t number, bool useLog10, std::size_t width) {
+  const double value = useLog10 ? Log10(number) : std::log(number);
+  std::array<char, 32> text{};
+  const int length = std::snprintf(text.data(), text.size(), "%.4f", value);
+  std::string_view shown(text.data(), static_cast<std::size_t>(length));
+  if (shown.starts_with("0.")) shown.remove_prefix(1);
+  AppendPadded(line, shown, width);
+}
+
+/// How the columns of a format follow each other. In a layout R, F, N, L, M and W stand for the
+/// rank, frequency, files, log-rank, log-frequency and word cells, w for the word without padding;
+/// all else stands for itself. The leads and separators are uneven, and are kept so.
+struct Layout {
+  std::string_view plain;
+  std::string_view withCommas;
+};
+constexpr std::array<Layout, 12> kLayouts = {{
+    {" R  F  w", "  R,  F,  w"},
+    {" R  W  F", "  R,  W,  F"},
+    {" R  F", "  R,  F"},
+    {" R  w", "  R,  w"},
+    {" F  R", "  F,  R"},
+    {"  F  w", "  F,  w"},
+    {"  W R", "  W, R"},
+    {"  W F", "  W, F"},
+    {"w", "w"},
+    {"w", "w"},
+    {" R  F  L  M  w", "  R,  F,  L,  M,  w"},
+    {"  W F N", "  W F N"},
+}};
+
+bool IsFileList(DisplayFormat format) {
+  return format == DisplayFormat::kWordFileList || format == DisplayFormat::kWordFileListFreq;
+}
+
+/// The formats whose header tells the length of the longest word: the word comes last and is what
+/// the list is about.
+bool TellsLongestWord(DisplayFormat format) {
+  return format == DisplayFormat::kRankFrequencyWord || format == DisplayFormat::kRankWord ||
+         format == DisplayFormat::kFrequencyWord || format == DisplayFormat::kWord;
+}
+
+}  // namespace
+
+double Log10(double x) {
+  return std::log(x) / std::log(10.0);
+}
+
+LineFormatter::LineFormatter(const CountedWords& words, LineOptions options)
+    : words_(words), options_(std::move(options)) {
+  ComputeColumnWidths(options_.minimumColumnWidth);
+}
+
+void LineFormatter::ComputeColumnWidths(std::int16_t minimumColumnWidth) {
+  const auto minimum = static_cast<std::size_t>(minimumColumnWidth);
+  rankWidth_ = std::max(minimum, DecimalWidth(words_.totals.NumIncludedWords));
+  frequencyWidth_ = std::max(minimum, DecimalWidth(words_.totals.MaxCount));
+  wordWidth_ = std::max(minimum, static_cast<std::size_t>(words_.totals.MaxWordLength));
+}
+
+std::string_view LineFormatter::BareWord(std::int32_t index) const {
+  return index == 0 ? std::string_view("Word") : words_.store.At(index).Word;
+}
+
+std::int32_t LineFormatter::RankOf(std::int32_t index) const {
+  return words_.ranking.rankOf[static_cast<std::size_t>(index)];
+}
+
+void LineFormatter::RankCell(std::string& line, std::int32_t index) const {
+  if (index == 0) return AppendPadded(line, "Rank", rankWidth_);
+  AppendNumber(line, RankOf(index), rankWidth_);
+}
+
+void LineFormatter::FreqCell(std::string& line, std::int32_t index) const {
+  if (index == 0) return AppendPadded(line, "Freq", frequencyWidth_);
+  AppendNumber(line, words_.store.At(index).Count, frequencyWidth_);
+}
+
+void LineFormatter::FilesCell(std::string& line, std::int32_t index) const {
+  if (index == 0) {
+    line.append("  No. files");
+    return;
+  }
+  const FileTally* files = words_.store.FilesOf(index);
+  AppendNumber(line, files == nullptr ? 0 : files->NumFiles(), kFilesWidth);
+}
+
+void LineFormatter::LogRankCell(std::string& line, std::int32_t index, bool useLog10) const {
+  if (index == 0) return AppendPadded(line, useLog10 ? "L10(R)" : "LN(R)", rankWidth_);
+  AppendLogarithm(line, RankOf(index), useLog10, rankWidth_);
+}
+
+void LineFormatter::LogFreqCell(std::string& line, std::int32_t index, bool useLog10) const {
+  if (index == 0) return AppendPadded(line, useLog10 ? "L10(F)" : "LN(F)", frequencyWidth_);
+  AppendLogarithm(line, words_.store.At(index).Count, useLog10, frequencyWidth_);
+}
+
+void LineFormatter::WordCell(std::string& line, std::int32_t index) const {
+  const std::string_view word = BareWord(index);
+  line.append(word);
+  const std::size_t length = CharacterCount(word);
+  if (length < wordWidth_) line.append(wordWidth_ - length, ' ');
+}
+
+void LineFormatter::AppendColumns(std::string& line, std::int32_t index) const {
+  const Layout& layout = kLayouts[static_cast<std::size_t>(options_.format)];
+  for (const char column : options_.withCommas ? layout.withCommas : layout.plain) {
+    switch (column) {
+      case 'R':
+        RankCell(line, index);
+        break;
+      case 'F':
+        FreqCell(line, index);
+        break;
+      case 'N':
+        FilesCell(line, index);
+        break;
+      case 'L':
+        LogRankCell(line, index, options_.useLog10);
+        break;
+      case 'M':
+        LogFreqCell(line, index, options_.useLog10);
+        break;
+      case 'W':
+        WordCell(line, index);
+        break;
+      case 'w':
+        line.append(BareWord(index));
+        break;
+      default:
+        line.push_back(column);
+    }
+  }
+}
+
+void LineFormatter::FormatWordLine(std::string& line, std::int32_t index) const {
+  if (!IsFileList(options_.format)) {
+    AppendColumns(line, index);
+    if (index == 0) FinishHeader(line);
+    return;
+  }
+  if (index == 0) return FolderHeader(line);
+  line.append(BareWord(index)).append(options_.lineBreak);
+  FileListText(line, index, options_.format == DisplayFormat::kWordFileListFreq);
+}
+
+void LineFormatter::FinishHeader(std::string& line) const {
+  if (!TellsLongestWord(options_.format)) return;
+  line.append(" (longest has ").append(std::to_string(words_.totals.MaxWordLength));
+  line.append(" characters)");
+}
+
+/// A folder of a few characters is not worth a name of its own.
+bool LineFormatter::ShowsPathsInFolder() const {
+  return CharacterCount(options_.folder) > kLongestBareFolder;
+}
+
+void LineFormatter::FolderHeader(std::string& line) const {
+  if (!ShowsPathsInFolder()) return;
+  line.append(options_.lineBreak).append(kFolderMark).append(" = ").append(options_.folder);
+  line.append(options_.lineBreak);
+}
+
+void LineFormatter::FileListText(std::string& line, std::int32_t index, bool withFreq) const {
+  const FileTally* files = words_.store.FilesOf(index);
+  if (files == nullptr) return;
+  const std::vector<std::string>& paths = words_.store.Files().FileList();
+  for (std::size_t k = 0; k < files->FileNumbers.size(); ++k) {
+    if (withFreq) {
+      AppendNumber(line, files->FileCounts[k], kFileFrequencyWidth);
+      line.push_back(' ');
+    } else {
+      line.append(4, ' ');
+    }
+    std::string_view path = paths[static_cast<std::size_t>(files->FileNumbers[k])];
+    if (ShowsPathsInFolder()) {
+      line.append(kFolderMark);
+      path.remove_prefix(std::min(path.size(), options_.folder.size()));
+    }
+    line.append(path).append(options_.lineBreak);
+  }
+}
+
+}  // namespace quillomat

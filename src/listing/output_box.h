@@ -1,0 +1,44 @@
+// The output text box: notices, the words of a running count, and the list. It holds a limited
+// text; once it has been found full nothing is added until it is cleared.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "ui/desktop.h"
+#include "ui/main_form.h"
+
+namespace quillomat {
+
+/// In characters: a list in the text box grows no further, and new words are no longer shown.
+inline constexpr std::size_t kDisplayLimit = 44'000;
+
+class OutputBox {
+ public:
+  OutputBox(MainForm& frmMain, Desktop& desktop) : frmMain_(frmMain), desktop_(desktop) {}
+
+  /// Appends `text` and puts the caret behind it, unless the box is full.
+  void OutputToTxb(std::string_view text);
+  /// Empties the box; it is not full then.
+  void ClearOutput();
+  /// Replaces the text and paints it at once.
+  void ShowText(std::string_view text);
+
+  [[nodiscard]] bool IsFull() const { return full_; }
+  void SetFull(bool full) { full_ = full; }
+  [[nodiscard]] bool IsEmpty() const { return frmMain_.txbOutput.Text().empty(); }
+
+  /// Keeps the text that stands in the box now.
+  void SaveOutputText() { saved_ = frmMain_.txbOutput.Text(); }
+  /// Puts the kept text back and moves the focus to where the user needs it.
+  void RestoreOutputText();
+
+ private:
+  MainForm& frmMain_;
+  Desktop& desktop_;
+  bool full_ = false;
+  std::string saved_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,73 @@
+// Lists the counted words: into the output file when one is named, and always into the output text
+// box. Runs at the end of a count, and again whenever the user changes the order or the format.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "desktop/output_file.h"
+#include "listing/count_state.h"
+#include "listing/list_walk.h"
+#include "listing/output_box.h"
+#include "ui/desktop.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
+#include "ui/yielder.h"
+
+namespace quillomat {
+
+class WordLister {
+ public:
+  /// All must outlive the lister.
+  WordLister(MainForm& frmMain, ParamsForm& frmParams, Desktop& desktop, EventPump& pump,
+             CountState& state, OutputBox& output);
+
+  /// Lists the words of the last count; asks before an existing output file is overwritten. What
+  /// goes wrong is shown to the user. The stop flag ends it early.
+  void ListWords();
+
+  /// A face that shows no text box can do without the list in it, and without complaints that it is
+  /// full.
+  void SetTextBoxWanted(bool wanted) { textBoxWanted_ = wanted; }
+
+  /// Writes the list into a file that is open; the caller closes it. Throws RunTimeError.
+  void WriteList(OutputFile& file);
+
+  /// Shows a problem in a message box. Code 7: the text box is full, whatever `text` says.
+  void ReportProblem(int code, std::string_view text);
+
+  /// Refuses a format that the source cannot serve: tells the user, goes back to the first format
+  /// and returns false.
+  bool CheckDisplayFormat();
+  /// While CheckDisplayFormat changes the format the change is nobody else's affair.
+  [[nodiscard]] bool IsChangingFormat() const { return changingFormat_; }
+
+  /// Whether the last ListWords wrote the output file.
+  [[nodiscard]] bool FileWritten() const { return fileWritten_; }
+
+ private:
+  [[nodiscard]] LineOptions OptionsFor(bool toFile) const;
+  [[nodiscard]] bool HasOutputFile() const;
+  /// Whether the output file may be written; the user may name another one.
+  bool AskToOverwrite();
+  bool ListIntoFile();
+  void ListIntoTextBox();
+  void Walk(const LineFormatter& formatter, ListSink& sink);
+  [[nodiscard]] std::string ScanHeader() const;
+  [[nodiscard]] bool StopsNow();
+  [[nodiscard]] std::string FullBoxMessage();
+  void RemoveLastComma();
+
+  MainForm& frmMain_;
+  ParamsForm& frmParams_;
+  Desktop& desktop_;
+  EventPump& pump_;
+  CountState& state_;
+  OutputBox& output_;
+  std::string accumulator_;
+  bool fileWritten_ = false;
+  bool changingFormat_ = false;
+  bool textBoxWanted_ = true;
+};
+
+}  // namespace quillomat

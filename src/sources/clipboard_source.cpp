@@ -1,0 +1,123 @@
+#include "sources/clipboard_source.h"
+
+#include <algorithm>
+
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
+#include "base/utf8.h"
+#include "listing/set_the_focus.h"
+#include "listing/summary.h"
+#include "sources/comment_marker_check.h"
+#include "sources/scan_job.h"
+#include "sources/window_state.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t kTextCheckLength = 3000;
+
+bool IsControlCharacter(char ch) {
+  const auto byte = static_cast<unsigned char>(ch);
+  return byte < 32 && ch != '\t' && ch != '\n' && ch != '\r';
+}
+
+}  // namespace
+
+bool IsText(std::string_view text, std::size_t maximum) {
+  const std::string_view head = text.substr(0, BytesOfFirst(text, maximum));
+  return std::none_of(head.begin(), head.end(), IsControlCharacter);
+}
+
+bool ClipboardSource::ReadClipboard(bool paste) {
+  context_.output.ClearOutput();
+  std::size_t length = 0;
+  try {
+    std::string text = context_.desktop.ClipboardText();
+    length = CharacterCount(text);
+    if (text.empty()) {
+      Refuse(context_, "Clipboard is empty.", "Clipboard empty");
+      return false;
+    }
+    if (length > kClipboardTextLimit) {
+      Refuse(context_,
+             "There are " + Grouped(context_, static_cast<std::int64_t>(length)) +
+                 " characters in the text on the clipboard." + std::string(kCrLf) +
+                 "The maximum permitted is " +
+                 Grouped(context_, static_cast<std::int64_t>(kClipboardTextLimit)) +
+                 ".  If possible," + std::string(kCrLf) +
+                 "count word frequencies for this text using an input file.",
+             "Too much clipboard text");
+      return false;
+    }
+    text_ = std::move(text);
+    if (paste) {
+      context_.frmMain.txbOutput.SetText(text_);
+      context_.state.blnWordsGot = false;
+    }
+    return true;
+  } catch (const RunTimeError& error) {
+    std::string message = error.Description();
+    if (error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory)) {
+      message = "There is too much text on the clipboard to paste into the textbox.";
+      if (length < kClipboardTextLimit) {
+        message.append(kCrLf).append(
+            "It may, however, still be possible to count word frequencies.");
+      }
+    }
+    Refuse(context_, message, context_.text.GetText(kProgramTitleText));
+    return false;
+  }
+}
+
+bool ClipboardSource::ScanClipboard() {
+  if (!IsText(text_, kTextCheckLength)) {
+    Refuse(context_,
+           "The text on the clipboard does not consist" + std::string(kCrLf) +
+               "solely of natural language words.",
+           "Invalid input");
+    return false;
+  }
+  if (!LoadMarkers()) return false;
+  CheckBox& chkSuppressWords = context_.frmMain.chkSuppressWords;
+  const CheckState suppress = chkSuppressWords.Value();
+  bool ok = true;
+  try {
+    ScanText();
+  } catch (const RunTimeError& error) {
+    context_.lister.ReportProblem(error.Number(), error.Description());
+    ok = false;
+  }
+  chkSuppressWords.SetValue(suppress);
+  SetTheFocus(context_.frmMain);
+  return ok;
+}
+
+bool ClipboardSource::LoadMarkers() {
+  ScanSettings& settings = context_.state.settings;
+  const ScanChoices choices = ReadScanChoices(context_.frmParams);
+  if (!IsSet(choices.allowCommentMarkers)) {
+    settings.SetCommentMarkers("", choices);
+    return true;
+  }
+  if (!CheckCommentMarkers(context_)) return false;
+  settings.SetCommentMarkers("according to user's settings", choices);
+  return true;
+}
+
+void ClipboardSource::ScanText() {
+  CountState& state = context_.state;
+  state.settings.ReadingWordList = false;
+  state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
+  context_.output.ClearOutput();
+  state.DiscardWords();
+  state.store.Files().Reset(false);
+  state.StopRequested = false;
+  context_.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+  EnableControls(context_, false);
+  HideNoticeLabels(context_.frmMain);
+  ScanJob job(context_);
+  if (!text_.empty()) job.ScanText(text_);
+  context_.frmMain.lblTwirler.SetCaption(" ");
+}
+
+}  // namespace quillomat

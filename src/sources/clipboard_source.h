@@ -1,0 +1,37 @@
+// The clipboard as the source of a count: its text is fetched, checked and scanned in one piece.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "sources/run_context.h"
+
+namespace quillomat {
+
+/// The longest clipboard text that is counted, in characters.
+inline constexpr std::size_t kClipboardTextLimit = 100'000;
+
+/// Whether none of the first `maximum` characters is a control character other than tab, line feed
+/// and carriage return.
+[[nodiscard]] bool IsText(std::string_view text, std::size_t maximum);
+
+class ClipboardSource {
+ public:
+  explicit ClipboardSource(const RunContext& context) : context_(context) {}
+
+  /// Fetches the text; with `paste` also into the output text box. Tells the user what is wrong
+  /// with it and returns false.
+  [[nodiscard]] bool ReadClipboard(bool paste);
+
+  /// Counts the text that ReadClipboard fetched. Tells the user what is wrong and returns false.
+  [[nodiscard]] bool ScanClipboard();
+
+ private:
+  [[nodiscard]] bool LoadMarkers();
+  void ScanText();
+
+  const RunContext& context_;
+  std::string text_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,253 @@
+#include "sources/count_run.h"
+
+#include <string>
+
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
+#include "engine/word_filters.h"
+#include "listing/set_the_focus.h"
+#include "listing/summary.h"
+#include "sources/comment_marker_check.h"
+#include "sources/panel_choices.h"
+#include "sources/window_state.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kProcessingNotice = "Processing . . . ";
+constexpr std::size_t kShortOutput = 100;
+constexpr int kInterruptedListText = 22;
+constexpr int kInterruptedListTitle = 23;
+/// While words are ranked, a step of progress is shown for so many frequencies.
+constexpr std::int32_t kFrequenciesPerStep = 100;
+
+}  // namespace
+
+void CountRun::OnCountClick() {
+  CountState& state = context_.state;
+  MainForm& frmMain = context_.frmMain;
+  if (frmMain.cmdCountWords.Caption() == kStopCaption) {
+    state.StopRequested = true;
+    return;
+  }
+  if (state.busy) return;
+  EnableListOptions(frmMain, false);
+  EnableSourceOptions(frmMain, false);
+  {
+    const BusyGuard busy(context_);
+    RunCount();
+  }
+  EnableControls(context_, true);
+  EnableListOptions(frmMain, true);
+  EnableSourceOptions(frmMain, true);
+  state.StopRequested = false;
+}
+
+void CountRun::RunCount() {
+  listWasMade_ = false;
+  if (!PrepareRun()) return;
+  try {
+    if (!ScanSource() || !HandleInterruption()) return;
+    context_.state.completeRun = !context_.state.listAfterStop;
+    if (!FolderHadFiles()) return;
+    FinishRun();
+  } catch (const RunTimeError& error) {
+    context_.lister.ReportProblem(error.Number(), error.Description());
+  }
+}
+
+bool CountRun::PrepareRun() {
+  CountState& state = context_.state;
+  context_.output.ClearOutput();
+  ConcealNumWords(context_.frmMain, false);
+  state.minimumColumnWidth = kMinimumColumnWidth;
+  state.settings.CountOnlyMode = state.lists.HasCountOnlyWords();
+  if (context_.frmParams.chkAllowCommentMarkers.IsChecked() && !CheckCommentMarkers(context_)) {
+    context_.frmParams.Show();
+    return false;
+  }
+  const bool clipboard = context_.frmMain.optOnClipboard.Value();
+  if (!clipboard && !extensions_.CheckFileExtensions()) return false;
+  state.settings.ReadingWordList = false;
+  state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
+  state.settings.BuildExtraWordChars();
+  state.listAfterStop = false;
+  state.settings.ForceCommentMarkers = false;
+  context_.output.SetFull(false);
+  state.WordsRead = 0;
+  return true;
+}
+
+/// False when the run has ended; the user has been told why.
+bool CountRun::ScanSource() {
+  if (context_.frmMain.optFolder.Value()) return folder_.ScanFolder();
+  if (context_.frmMain.optInFile.Value()) return ScanSingleFile();
+  return ScanClipboard();
+}
+
+bool CountRun::ScanSingleFile() {
+  const ScanFileResult result = file_.ScanFile();
+  file_.EndProgressBar();
+  if (result == ScanFileResult::kDone) return true;
+  if (result == ScanFileResult::kRunTimeError) {
+    context_.lister.ReportProblem(file_.Error().Number(), file_.Error().Description());
+  } else {
+    ReportInputFileError(result);
+  }
+  return false;
+}
+
+bool CountRun::ScanClipboard() {
+  if (clipboard_.ReadClipboard(false)) return clipboard_.ScanClipboard();
+  context_.frmMain.optInFile.SetValue(true);
+  return false;
+}
+
+void CountRun::ReportInputFileError(ScanFileResult code) {
+  switch (code) {
+    case ScanFileResult::kFolderNotFile:
+      return Refuse(context_, "Invalid input file specification.", "Invalid input");
+    case ScanFileResult::kNotFound:
+      return Refuse(context_, "Input file does not exist.", "File not found");
+    case ScanFileResult::kNotSpecified:
+      return Refuse(context_, "Input file not specified.", "Error");
+    case ScanFileResult::kOutputIsInput:
+      return Refuse(context_, "The output file cannot be the same as the input file.", "Error");
+    default:
+      return;
+  }
+}
+
+/// False when the user stopped the scan and does not want the words listed that were found until
+/// then.
+bool CountRun::HandleInterruption() {
+  CountState& state = context_.state;
+  if (!state.StopRequested) return true;
+  state.StopRequested = false;
+  const std::string lineBreak(kCrLf);
+  if (!context_.output.IsEmpty()) context_.output.OutputToTxb(lineBreak + lineBreak);
+  const std::int32_t words = state.store.NumDifferentWords();
+  context_.output.OutputToTxb("Stopped with " + std::to_string(words) +
+                              (words == 1 ? " word found." : " words found."));
+  const MessageAnswer answer = context_.desktop.ShowMessage(
+      {"The operation was stopped before all words were counted." + lineBreak +
+           "Do you wish to list the words which were found?",
+       "Counting interrupted", MessageIcon::kQuestion, MessageButtons::kYesNo});
+  if (answer == MessageAnswer::kYes) {
+    state.listAfterStop = true;
+    return true;
+  }
+  EnableControls(context_, true);
+  context_.frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
+  return false;
+}
+
+bool CountRun::FolderHadFiles() {
+  if (!context_.frmMain.optFolder.Value() || context_.state.filesScanned > 0) return true;
+  std::string text = "No scanable files ";
+  if (extensions_.AnyGiven()) text.append("of the specified type ");
+  text.append("were found in this folder");
+  if (context_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
+  Tell(context_, text.append("."), "No files found", MessageIcon::kInformation);
+  return false;
+}
+
+void CountRun::FinishRun() {
+  CountState& state = context_.state;
+  MainForm& frmMain = context_.frmMain;
+  ShowProcessingNotice();
+  frmMain.lblNumWordsExcluded.SetCaption("");
+  frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+  frmMain.cmdCountWords.SetEnabled(true);
+  context_.desktop.Repaint();
+  EnableSourceOptions(frmMain, false);
+  EnableListOptions(frmMain, false);
+  if (!state.settings.CountOnlyMode) {
+    ApplyWordFilters(state.store, ReadFilterChoices(context_.frmParams));
+  }
+  context_.output.ShowText(frmMain.txbOutput.Text() + ". . . ");
+  state.totals = state.store.TallyWords();
+  RankWords();
+  ShowSummary(frmMain, state, context_.desktop.DigitGroupSeparator());
+  state.blnWordsGot = true;
+  frmMain.cmdCountWords.SetEnabled(true);
+  context_.lister.ListWords();
+  listWasMade_ = state.totals.NumIncludedWords > 0;
+}
+
+void CountRun::ShowProcessingNotice() {
+  const std::string& shown = context_.frmMain.txbOutput.Text();
+  const std::size_t length = context_.frmMain.txbOutput.Length();
+  const bool keep = length >= 1 && length < kShortOutput;
+  const std::string before = keep ? shown + std::string(kCrLf) + std::string(kCrLf) : std::string();
+  context_.frmMain.txbOutput.SetText(before + std::string(kProcessingNotice));
+}
+
+void CountRun::RankWords() {
+  CountState& state = context_.state;
+  state.ranking = RankByFrequency(state.store);
+  const std::int32_t steps = state.totals.MaxCount / kFrequenciesPerStep;
+  std::string progress;
+  progress.reserve(static_cast<std::size_t>(steps) * 4);
+  for (std::int32_t step = 0; step < steps; ++step) progress.append(". . ");
+  context_.output.OutputToTxb(progress);
+}
+
+void CountRun::OnListFilesClick() {
+  if (context_.state.busy) return;
+  MainForm& frmMain = context_.frmMain;
+  ConcealNumWords(frmMain, false);
+  context_.output.ClearOutput();
+  EnableSourceOptions(frmMain, false);
+  EnableListOptions(frmMain, false);
+  {
+    const BusyGuard busy(context_);
+    context_.output.OutputToTxb("{Folder} = " + frmMain.txbFolder.Text() + std::string(kCrLf));
+    folder_.ListFiles();
+  }
+  EnableControls(context_, true);
+  EnableSourceOptions(frmMain, true);
+  EnableListOptions(frmMain, true);
+  context_.state.StopRequested = false;
+}
+
+void CountRun::OnListChoiceChanged() {
+  CountState& state = context_.state;
+  if (!state.blnStartUpCompleted || state.busy || context_.lister.IsChangingFormat()) return;
+  if (context_.lister.CheckDisplayFormat() && (state.completeRun || state.listAfterStop)) {
+    ListAgain();
+    if (state.listAfterStop) {
+      Tell(context_, context_.text.GetText(kInterruptedListText),
+           context_.text.GetText(kInterruptedListTitle), MessageIcon::kInformation);
+    }
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+void CountRun::OnDisableOutputClick() {
+  const CountState& state = context_.state;
+  const MainForm& frmMain = context_.frmMain;
+  const bool canRelist = state.blnStartUpCompleted && !state.busy && state.completeRun &&
+                         frmMain.chkDisableOutputToFile.Value() == CheckState::kUnchecked &&
+                         !frmMain.txbFile[1].Text().empty();
+  if (canRelist) {
+    const MessageAnswer answer =
+        context_.desktop.ShowMessage({"Relist words (so as to write to file)?", "Relist?",
+                                      MessageIcon::kQuestion, MessageButtons::kYesNo});
+    if (answer == MessageAnswer::kYes) ListAgain();
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+void CountRun::ListAgain() {
+  MainForm& frmMain = context_.frmMain;
+  const BusyGuard busy(context_);
+  EnableListOptions(frmMain, false);
+  frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+  context_.lister.ListWords();
+  frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
+  EnableListOptions(frmMain, true);
+  context_.state.StopRequested = false;
+}
+
+}  // namespace quillomat

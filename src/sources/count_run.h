@@ -1,0 +1,64 @@
+// The count command and one run of it: the checks, the source, an interruption by the user, and the
+// list at the end.
+#pragma once
+
+#include "sources/clipboard_source.h"
+#include "sources/file_extensions.h"
+#include "sources/file_source.h"
+#include "sources/folder_source.h"
+#include "sources/run_context.h"
+
+namespace quillomat {
+
+class CountRun {
+ public:
+  explicit CountRun(const RunContext& context)
+      : context_(context),
+        clipboard_(context),
+        file_(context),
+        extensions_(context),
+        folder_(context, file_, extensions_) {}
+
+  /// The count command was clicked: starts a run, or asks the one that is at work to stop.
+  void OnCountClick();
+
+  /// The command that lists the files of the folder.
+  void OnListFilesClick();
+
+  /// The order or the format of the list was changed.
+  void OnListChoiceChanged();
+
+  /// File output was switched on or off.
+  void OnDisableOutputClick();
+
+  [[nodiscard]] ClipboardSource& Clipboard() { return clipboard_; }
+  [[nodiscard]] FileSource& File() { return file_; }
+  [[nodiscard]] FileExtensions& Extensions() { return extensions_; }
+  [[nodiscard]] FolderSource& Folder() { return folder_; }
+
+  /// A list was made, of words that were found, since the last count began.
+  [[nodiscard]] bool ListWasMade() const { return listWasMade_; }
+
+ private:
+  void RunCount();
+  [[nodiscard]] bool PrepareRun();
+  [[nodiscard]] bool ScanSource();
+  [[nodiscard]] bool ScanSingleFile();
+  [[nodiscard]] bool ScanClipboard();
+  void ReportInputFileError(ScanFileResult code);
+  [[nodiscard]] bool HandleInterruption();
+  [[nodiscard]] bool FolderHadFiles();
+  void ShowProcessingNotice();
+  void RankWords();
+  void FinishRun();
+  void ListAgain();
+
+  const RunContext& context_;
+  ClipboardSource clipboard_;
+  FileSource file_;
+  FileExtensions extensions_;
+  FolderSource folder_;
+  bool listWasMade_ = false;
+};
+
+}  // namespace quillomat

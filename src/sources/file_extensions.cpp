@@ -1,0 +1,98 @@
+#include "sources/file_extensions.h"
+
+#include <algorithm>
+
+#include "base/letter_case.h"
+#include "base/text_helpers.h"
+#include "desktop/paths.h"
+#include "engine/char_class.h"
+#include "engine/word_list.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kInvalidInput = "Invalid input";
+
+template <typename List>
+bool Contains(const List& list, std::string_view item) {
+  return std::find(list.begin(), list.end(), item) != list.end();
+}
+
+std::string Joined(const std::vector<std::string>& items) {
+  std::string text;
+  for (const std::string& item : items) {
+    if (!text.empty()) text.push_back(' ');
+    text.append(item);
+  }
+  return text;
+}
+
+std::string Quoted(const std::string& extension) {
+  return "File extension '" + extension + "'";
+}
+
+}  // namespace
+
+bool FileExtensions::GetFileExtensions(ExtensionList which) {
+  const auto index = static_cast<std::size_t>(which);
+  TextBox& box = context_.frmMain.txbFileExtensions[index];
+  const SplitResult pieces = SplitList(box.Text(), " ,;", kMaxExtensions);
+  if (!pieces.fits) return false;
+  std::vector<std::string> entries;
+  for (const std::string& piece : pieces.items) {
+    const std::size_t start = std::min(piece.find_first_not_of("*.?"), piece.size());
+    if (start < piece.size()) entries.push_back(piece.substr(start));
+  }
+  box.SetText(Joined(entries));
+  lists_[index] = std::move(entries);
+  return true;
+}
+
+void FileExtensions::OnLostFocus(ExtensionList which) {
+  const bool included = which == ExtensionList::kIncluded;
+  if (!GetFileExtensions(which)) {
+    const std::string example = included ? "E.g.: txt htm html xml" : "E.g.: c cpp";
+    Refuse(context_,
+           std::string("Too many file extensions to ") + (included ? "include" : "exclude") + "." +
+               std::string(kCrLf) + example,
+           std::string(kInvalidInput));
+  }
+  const auto& list = List(ExtensionList::kIncluded);
+  if (included && (Contains(list, "doc") || Contains(list, "pdf"))) {
+    Refuse(context_,
+           "MS-word .doc files and .pdf files are not text files" + std::string(kCrLf) +
+               "and cannot be scanned using this software.",
+           "No doc files");
+  }
+  static_cast<void>(CheckFileExtensions());
+}
+
+bool FileExtensions::CheckFileExtensions() const {
+  const auto& included = List(ExtensionList::kIncluded);
+  const auto& excluded = List(ExtensionList::kExcluded);
+  for (const std::string& extension : included) {
+    if (!Contains(excluded, extension)) continue;
+    Refuse(context_, Quoted(extension) + " is both included and excluded.",
+           std::string(kInvalidInput));
+    return false;
+  }
+  for (const auto& list : lists_) {
+    for (const std::string& extension : list) {
+      if (!ContainsAnyOf(extension, "*?.")) continue;
+      Refuse(context_, Quoted(extension) + " contains an invalid character.",
+             std::string(kInvalidInput));
+      return false;
+    }
+  }
+  return true;
+}
+
+bool FileExtensions::IsScannable(std::string_view fileName) const {
+  const std::string extension = LowerCase(ExtensionOf(fileName));
+  if (Contains(kNonTextExtensions, extension)) return false;
+  const auto& included = List(ExtensionList::kIncluded);
+  if (!included.empty()) return Contains(included, extension);
+  return !Contains(List(ExtensionList::kExcluded), extension);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,213 @@
+#include "sources/file_source.h"
+
+#include <array>
+#include <cstdio>
+
+#include "base/letter_case.h"
+#include "base/text_helpers.h"
+#include "base/utf8.h"
+#include "desktop/file_system.h"
+#include "desktop/input_file.h"
+#include "listing/summary.h"
+#include "sources/window_state.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::int64_t kLargeFileBytes = 200'000;
+constexpr std::int64_t kProgressBarBytes = 10'240;
+constexpr std::size_t kTextTestBytes = 10'240;
+
+/// `amount` with two decimals.
+std::string TwoDecimals(double amount) {
+  std::array<char, 40> text{};
+  const int length = std::snprintf(text.data(), text.size(), "%.2f", amount);
+  return {text.data(), static_cast<std::size_t>(length)};
+}
+
+bool IsHtmlLike(const std::string& extension) {
+  return extension.find("htm") != std::string::npos || extension == "php" || extension == "xml";
+}
+
+bool IsCLike(const std::string& extension) {
+  return extension == "cpp" || extension == "c";
+}
+
+}  // namespace
+
+std::string FileSizeText(std::int64_t bytes, std::string_view separator) {
+  constexpr std::int64_t kFirstInKilobytes = 10'000;
+  constexpr std::int64_t kKilobyte = 1024;
+  constexpr std::int64_t kMegabyte = kKilobyte * kKilobyte;
+  if (bytes < kFirstInKilobytes) return "Filesize: " + GroupDigits(bytes, separator) + " bytes";
+  const bool kilobytes = bytes < kMegabyte;
+  const double amount =
+      static_cast<double>(bytes) / static_cast<double>(kilobytes ? kKilobyte : kMegabyte);
+  return "Filesize: " + TwoDecimals(amount) + (kilobytes ? " KB" : " MB");
+}
+
+ScanFileResult FileSource::ScanFile() {
+  if (const ScanFileResult refused = CheckPaths(); refused != ScanFileResult::kDone) {
+    return refused;
+  }
+  if (IsSingleFile()) {
+    if (!AskAboutLargeFile()) return ScanFileResult::kCancelled;
+    scanning_ = true;
+    ConcealNumWords(context_.frmMain, false);
+    context_.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+    EnableControls(context_, false);
+    context_.desktop.Repaint();
+  }
+  try {
+    const LineEndingType type = GetLineEndingType(path_, kTextTestBytes);
+    if (const ScanFileResult refused = CheckText(type); refused != ScanFileResult::kDone) {
+      return refused;
+    }
+    LoadMarkers();
+    ShowFileType(type);
+    if (folderJob_ != nullptr) {
+      ReadLines(*folderJob_, type);
+    } else {
+      context_.state.DiscardWords();
+      context_.state.store.Files().Reset(false);
+      ScanJob job(context_);
+      ReadLines(job, type);
+    }
+  } catch (const RunTimeError& error) {
+    error_ = error;
+    return ScanFileResult::kRunTimeError;
+  }
+  FinishFile();
+  return ScanFileResult::kDone;
+}
+
+ScanFileResult FileSource::CheckPaths() {
+  if (InputPath().empty()) return ScanFileResult::kNotSpecified;
+  if (const ScanFileResult result = CheckInputFile(InputPath()); result != ScanFileResult::kDone) {
+    return result;
+  }
+  const std::string& outputPath = context_.frmMain.txbFile[1].Text();
+  if (!outputPath.empty() && IsSameFile(outputPath, path_)) {
+    return ScanFileResult::kOutputIsInput;
+  }
+  return ScanFileResult::kDone;
+}
+
+ScanFileResult FileSource::CheckInputFile(const std::string& path) {
+  // A name in a folder may have blanks at its ends; a person who types a path does not mean any.
+  path_ = folderJob_ != nullptr ? std::string_view(path) : TrimBlanks(path);
+  ScanFileResult result = ScanFileResult::kDone;
+  if (!path_.empty() && IsPathSeparator(path_.back())) {
+    result = ScanFileResult::kFolderNotFile;
+    if (context_.state.blnStartUpCompleted) context_.frmMain.txbFile[0].SetText("");
+  } else if (!FileExists(path_)) {
+    result = ScanFileResult::kNotFound;
+  }
+  if (result == ScanFileResult::kDone) {
+    ShowFileSize();
+  } else {
+    context_.frmMain.lblFilesize.SetCaption("");
+  }
+  return result;
+}
+
+void FileSource::ShowFileSize() {
+  const auto bytes = FileLength(path_);
+  context_.frmMain.lblFilesize.SetCaption(
+      bytes ? FileSizeText(*bytes, context_.desktop.DigitGroupSeparator()) : "");
+}
+
+/// False when the user cancels. Only asked when an earlier scan ended early.
+bool FileSource::AskAboutLargeFile() {
+  const bool mayOverflow = scanning_ && context_.frmMain.txbFile[1].Text().empty() &&
+                           FileLength(path_).value_or(0) > kLargeFileBytes;
+  if (!mayOverflow) return true;
+  const MessageAnswer answer = context_.desktop.ShowMessage(
+      {"The input file is quite large.  It is advisable to specify an output file "
+       "before continuing," +
+           std::string(kCrLf) +
+           "in case the text window will not hold the result. "
+           "Do you wish to specify an output file?",
+       "Large input file", MessageIcon::kQuestion, MessageButtons::kYesNoCancel});
+  if (answer == MessageAnswer::kCancel) return false;
+  if (answer == MessageAnswer::kYes) chooseOutputFile_();
+  return true;
+}
+
+ScanFileResult FileSource::CheckText(LineEndingType type) {
+  const std::string title = "Invalid input file";
+  const std::string lineBreak(kCrLf);
+  switch (type) {
+    case LineEndingType::kNotText:
+      if (IsSingleFile()) {
+        Tell(context_,
+             "The input file contains bytes indicating that it does not consist" + lineBreak +
+                 "solely of text." + lineBreak + lineBreak +
+                 "You could try reading the file using its associated application," + lineBreak +
+                 "copying the text to the clipboard, and specifying the clipboard" + lineBreak +
+                 "as the source of the text to be scanned.",
+             title, MessageIcon::kInformation);
+      }
+      return ScanFileResult::kNotText;
+    case LineEndingType::kZeroLength:
+      if (IsSingleFile()) Refuse(context_, "This is a zero-length file.", title);
+      return ScanFileResult::kZeroLength;
+    case LineEndingType::kNotFound:  // it has just vanished
+    case LineEndingType::kCannotBeOpened:
+      if (IsSingleFile()) Refuse(context_, "This file cannot be opened.", title);
+      return ScanFileResult::kCannotBeOpened;
+    default:
+      return ScanFileResult::kDone;
+  }
+}
+
+void FileSource::LoadMarkers() {
+  ScanSettings& settings = context_.state.settings;
+  const ScanChoices choices = ReadScanChoices(context_.frmParams);
+  const std::string extension = LowerCase(ExtensionOf(path_));
+  settings.ForceCommentMarkers = IsHtmlLike(extension) || IsCLike(extension);
+  if (settings.ForceCommentMarkers) {
+    settings.SetCommentMarkers(IsHtmlLike(extension) ? "HTML" : "C", choices);
+  } else {
+    settings.SetCommentMarkers(IsSet(choices.allowCommentMarkers) ? "as per user settings" : "",
+                               choices);
+  }
+}
+
+void FileSource::ShowFileType(LineEndingType type) {
+  HideNoticeLabels(context_.frmMain);
+  std::string caption;
+  if (type == LineEndingType::kUnix) caption = "This is a Unix-type file.";
+  if (type == LineEndingType::kMacintosh) caption = "This is a Macintosh-type file.";
+  context_.frmMain.lblNumWordsExcluded.SetCaption(caption);
+  context_.frmMain.lblNumWordsExcluded.SetVisible(true);
+}
+
+void FileSource::ReadLines(ScanJob& job, LineEndingType type) {
+  constexpr std::int64_t kLineEndCharacters = 2;
+  InputFile file(path_);
+  const bool showProgress = scanning_ && file.Length() > kProgressBarBytes;
+  if (showProgress) progress_.StartProgressBar();
+  LineDecoder lines(file);
+  std::int64_t bytesRead = 0;
+  while (const auto line = lines.NextLine()) {
+    if (showProgress) {
+      bytesRead += static_cast<std::int64_t>(line->size()) + kLineEndCharacters;
+      progress_.UpdateProgressBar(bytesRead, file.Length(), type == LineEndingType::kUnix);
+    }
+    const std::string_view trimmed = TrimBlanks(*line);
+    if (!trimmed.empty()) job.ScanText(trimmed);
+    if (job.Yield()) return;
+  }
+}
+
+void FileSource::FinishFile() {
+  if (IsSingleFile()) {
+    progress_.EndProgressBar();
+    context_.frmMain.lblNumWordsExcluded.SetCaption("");
+    scanning_ = false;
+  }
+  context_.frmMain.lblTwirler.SetCaption(" ");
+}
+
+}  // namespace quillomat

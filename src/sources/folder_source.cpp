@@ -1,0 +1,264 @@
+#include "sources/folder_source.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/text_helpers.h"
+#include "desktop/file_system.h"
+#include "listing/summary.h"
+#include "sources/scan_job.h"
+#include "sources/wildcard.h"
+#include "sources/window_state.h"
+
+namespace quillomat {
+namespace {
+
+std::string Counted(std::int32_t number, std::string_view noun) {
+  return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
+}
+
+/// The contents of a folder, or nothing when it may not be read.
+std::optional<FolderListing> TryToList(const std::string& path) {
+  try {
+    return ListFolder(path);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
+/// While it lives, the input box and the file source serve one file of a folder after the other;
+/// afterwards the user's own input file stands in the box again.
+class FilesInTurn {
+ public:
+  FilesInTurn(const RunContext& context, FileSource& fileSource)
+      : txbPath_(context.frmMain.txbFile[0]),
+        usersPath_(txbPath_.Text()),
+        lblFilesize_(context.frmMain.lblFilesize),
+        usersFilesize_(lblFilesize_.Caption()),
+        fileSource_(fileSource) {
+    fileSource_.SetScanning(true);
+  }
+  FilesInTurn(const FilesInTurn&) = delete;
+  FilesInTurn& operator=(const FilesInTurn&) = delete;
+  FilesInTurn(FilesInTurn&&) = delete;
+  FilesInTurn& operator=(FilesInTurn&&) = delete;
+  ~FilesInTurn() {
+    fileSource_.SetFolderJob(nullptr);
+    fileSource_.SetScanning(false);
+    txbPath_.SetText(usersPath_);
+    lblFilesize_.SetCaption(usersFilesize_);
+  }
+
+ private:
+  TextBox& txbPath_;
+  std::string usersPath_;
+  Label& lblFilesize_;
+  std::string usersFilesize_;
+  FileSource& fileSource_;
+};
+
+}  // namespace
+
+std::string FilesInFolders(std::int32_t files, std::int32_t folders) {
+  return Counted(files, "file") + " in " + Counted(folders, "folder");
+}
+
+bool FolderHasFiles(const std::string& path, std::string_view pattern, bool includeSubfolders) {
+  const std::optional<FolderListing> listing = TryToList(path);
+  if (!listing) return false;
+  const auto fits = [pattern](const std::string& name) { return MatchesWildcard(name, pattern); };
+  if (std::any_of(listing->files.begin(), listing->files.end(), fits)) return true;
+  return includeSubfolders &&
+         std::any_of(listing->subfolders.begin(), listing->subfolders.end(),
+                     [&](const std::string& name) {
+                       return FolderHasFiles(JoinPath(path, name), pattern, true);
+                     });
+}
+
+bool FolderSource::CheckFolder() const {
+  if (Folder().empty()) {
+    Refuse(context_, "Folder not specified.", "Error");
+    return false;
+  }
+  if (!FolderExists(Folder())) {
+    Refuse(context_, "Folder does not exist", "Invalid input");
+    return false;
+  }
+  if (!FolderHasFiles(Folder(), "*.*", IncludesSubfolders())) {
+    Refuse(context_, "Folder contains no files.", "Nothing to do");
+    return false;
+  }
+  const std::string& outputPath = context_.frmMain.txbFile[1].Text();
+  if (!outputPath.empty() && IsInFolder(outputPath, Folder(), IncludesSubfolders())) {
+    Refuse(context_, "The output file cannot be in the folder or a subfolder.",
+           "Invalid output file");
+    return false;
+  }
+  return true;
+}
+
+bool FolderSource::ScanFolder() {
+  if (!CheckFolder() || !RunCountingPass(Pass::kCounting) || !AskForOutputFile()) return false;
+  RunScanningPass();
+  return true;
+}
+
+void FolderSource::ListFiles() {
+  if (!CheckFolder() || !RunCountingPass(Pass::kListOnly)) return;
+  const CountState& state = context_.state;
+  OutputLine(state.filesInPass == 0
+                 ? "No files will be scanned."
+                 : FilesInFolders(state.filesInPass, state.foldersVisited) + " will be scanned.");
+}
+
+/// False when the user stopped it.
+bool FolderSource::RunCountingPass(Pass pass) {
+  CountState& state = context_.state;
+  context_.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+  EnableControls(context_, false);
+  pass_ = pass;
+  skipped_.clear();
+  state.filesInPass = 0;
+  state.foldersVisited = 1;
+  WalkFolder(Folder());
+  filesCounted_ = state.filesInPass;
+  if (!state.StopRequested) return true;
+  OutputLine("Stopped while counting files (so far: " +
+             FilesInFolders(state.filesInPass, state.foldersVisited) + ").");
+  return false;
+}
+
+/// False when the user cancels the run.
+bool FolderSource::AskForOutputFile() const {
+  if (filesCounted_ <= 1 || !context_.frmMain.txbFile[1].Text().empty()) return true;
+  const std::string text = "When scanning multiple files or folders" + std::string(kCrLf) +
+                           "you must specify an output file in case" + std::string(kCrLf) +
+                           "the text window will not hold the result.";
+  const MessageAnswer answer = context_.desktop.ShowMessage(
+      {text, "Multiple files/folders", MessageIcon::kExclamation, MessageButtons::kOkCancel});
+  if (answer == MessageAnswer::kCancel) return false;
+  fileSource_.ChooseOutputFile();
+  return true;
+}
+
+void FolderSource::RunScanningPass() {
+  CountState& state = context_.state;
+  state.filesInPass = 0;
+  state.foldersVisited = 1;
+  state.StopRequested = false;
+  HideNoticeLabels(context_.frmMain);
+  state.DiscardWords();
+  state.store.Files().Reset(state.settings.CountOnlyMode);
+  pass_ = Pass::kScanning;
+  skipped_.clear();
+  filesTried_ = 0;
+  {
+    const FilesInTurn filesInTurn(context_, fileSource_);
+    ScanJob job(context_);
+    fileSource_.SetFolderJob(&job);
+    filesProgress_.StartProgressBar();
+    WalkFolder(Folder());
+  }
+  filesProgress_.EndProgressBar();
+  state.filesScanned = state.filesInPass;
+  state.foldersScanned = state.foldersVisited;
+  const std::string result =
+      state.filesInPass == 0 ? "No files were scanned."
+                             : FilesInFolders(state.filesInPass, state.foldersVisited) +
+                                   (state.filesInPass == 1 ? " was scanned." : " were scanned.");
+  OutputLine(result);
+}
+
+void FolderSource::WalkFolder(const std::string& path) {
+  const std::optional<FolderListing> listing = TryToList(path);
+  if (!listing) {
+    if (pass_ != Pass::kCounting) WritePathLine(path);
+    return Skip(path, "the folder cannot be read");
+  }
+  for (const std::string& name : listing->files) {
+    if (!extensions_.IsScannable(name)) continue;
+    TakeFile(PathForWalk(JoinPath(path, name)));
+    context_.pump.Yield();
+    if (context_.state.StopRequested) return;
+  }
+  if (!IncludesSubfolders()) return;
+  for (const std::string& name : listing->subfolders) {
+    ++context_.state.foldersVisited;
+    WalkFolder(JoinPath(path, name));
+    context_.pump.Yield();
+    if (context_.state.StopRequested) return;
+  }
+}
+
+void FolderSource::TakeFile(const std::string& path) {
+  switch (pass_) {
+    case Pass::kCounting:
+      ++context_.state.filesInPass;
+      return ShowFilesCounted();
+    case Pass::kListOnly:
+      ++context_.state.filesInPass;
+      return WritePathLine(path);
+    case Pass::kScanning:
+      return ScanOneFile(path);
+  }
+}
+
+/// Each of the first files is shown, then every fifth.
+void FolderSource::ShowFilesCounted() const {
+  constexpr std::int32_t kShownOneByOne = 9;
+  constexpr std::int32_t kShownEvery = 5;
+  const std::int32_t files = context_.state.filesInPass;
+  if (files > kShownOneByOne && files % kShownEvery != 0) return;
+  context_.frmMain.txbOutput.SetText("Counting files . . . " + std::to_string(files));
+}
+
+void FolderSource::ScanOneFile(const std::string& path) {
+  CountState& state = context_.state;
+  context_.frmMain.txbFile[0].SetText(path);
+  state.store.Files().SetFileBeingScanned(path);
+  WritePathLine(path);
+  const ScanFileResult result = fileSource_.ScanFile();
+  fileSource_.EndProgressBar();
+  ++filesTried_;
+  filesProgress_.UpdateProgressBar(filesTried_, std::max(filesCounted_, filesTried_), false);
+  switch (result) {
+    case ScanFileResult::kDone:
+      ++state.filesInPass;
+      break;
+    case ScanFileResult::kRunTimeError:
+      if (fileSource_.Error().Number() == static_cast<int>(RunTimeErrorNumber::kOverflow)) {
+        throw RunTimeError(fileSource_.Error());
+      }
+      Skip(path, fileSource_.Error().Description());
+      break;
+    case ScanFileResult::kNotFound:
+    case ScanFileResult::kCannotBeOpened:
+      Skip(path, "the file cannot be opened");
+      break;
+    default:
+      break;  // not text, empty, or the output file: not worth a word
+  }
+}
+
+void FolderSource::WritePathLine(const std::string& path) {
+  const std::string& folder = Folder();
+  const bool inFolder = path.starts_with(folder);
+  const std::string shown = inFolder ? "{Folder}" + path.substr(folder.size()) : path;
+  context_.output.OutputToTxb(std::string(kCrLf) + shown);
+}
+
+void FolderSource::Skip(const std::string& path, const std::string& reason) {
+  if (skipped_.size() < kMaxSkippedItems) skipped_.push_back({path, reason});
+  if (pass_ == Pass::kCounting) return;
+  context_.output.OutputToTxb(" (skipped: " + reason + ")");
+}
+
+/// Puts `line` on a line of its own.
+void FolderSource::OutputLine(const std::string& line) {
+  const bool mustBreak =
+      !context_.output.IsEmpty() && !context_.frmMain.txbOutput.Text().ends_with(kCrLf);
+  context_.output.OutputToTxb(mustBreak ? std::string(kCrLf) + line : line);
+}
+
+}  // namespace quillomat

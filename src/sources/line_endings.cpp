@@ -1,0 +1,66 @@
+#include "sources/line_endings.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/run_time_error.h"
+#include "desktop/file_system.h"
+#include "desktop/input_file.h"
+#include "engine/line_decoder.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t kPieceBytes = 16'384;
+
+struct SeenBreaks {
+  bool lineFeed = false;
+  bool carriageReturn = false;
+};
+
+/// Notes the line breaks of `piece`; false at a control character.
+bool NoteBreaks(std::string_view piece, SeenBreaks& seen) {
+  for (const char ch : piece) {
+    if (ch == '\n') {
+      seen.lineFeed = true;
+    } else if (ch == '\r') {
+      seen.carriageReturn = true;
+    } else if (static_cast<unsigned char>(ch) < 32 && ch != '\t') {
+      return false;
+    }
+  }
+  return true;
+}
+
+LineEndingType TypeOf(ByteSource& file, std::size_t maximum) {
+  UnmarkedSource text(file);
+  std::array<char, kPieceBytes> piece{};
+  SeenBreaks seen;
+  for (std::size_t left = maximum; left > 0;) {
+    const std::size_t bytes = text.Read(std::span(piece).first(std::min(left, piece.size())));
+    if (bytes == 0) break;
+    if (!NoteBreaks({piece.data(), bytes}, seen)) return LineEndingType::kNotText;
+    left -= bytes;
+  }
+  if (seen.carriageReturn == seen.lineFeed) return LineEndingType::kDos;
+  return seen.lineFeed ? LineEndingType::kUnix : LineEndingType::kMacintosh;
+}
+
+}  // namespace
+
+LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum) {
+  if (!FileExists(path)) return LineEndingType::kNotFound;
+  std::optional<InputFile> file;
+  try {
+    file.emplace(path);
+  } catch (const RunTimeError&) {
+    return LineEndingType::kCannotBeOpened;
+  }
+  if (FileLength(path) == 0) return LineEndingType::kZeroLength;
+  return TypeOf(*file, maximum);
+}
+
+}  // namespace quillomat

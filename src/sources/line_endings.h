@@ -1,0 +1,25 @@
+// What kind of text a file holds, judged by its first bytes.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace quillomat {
+
+enum class LineEndingType {
+  kCannotBeOpened = -3,
+  kZeroLength = -2,
+  kNotFound = -1,
+  kNotText = 0,
+  /// Carriage return and line feed, or no line break at all.
+  kDos = 1,
+  kUnix = 2,
+  kMacintosh = 3,
+};
+
+/// Looks at the first `maximum` bytes of the file's text (after decoding where it is UTF-16). A
+/// control character other than tab, line feed and carriage return makes it no text. Throws
+/// RunTimeError when a file that could be opened cannot be read.
+[[nodiscard]] LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum);
+
+}  // namespace quillomat

@@ -1,0 +1,34 @@
+// A progress bar made of characters, in a label of the main window: "[---->      ]".
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "ui/controls.h"
+
+namespace quillomat {
+
+class ProgressBar {
+ public:
+  /// Between the brackets, in characters.
+  static constexpr int kWidth = 39;
+
+  explicit ProgressBar(Label& label) : label_(label) {}
+
+  /// Shows the empty bar.
+  void StartProgressBar();
+  /// Shows how much of the work is done. `overstated` moves the bar on by a fifth, as it is done
+  /// for files whose line ends are shorter than the two characters that are counted for them.
+  void UpdateProgressBar(std::int64_t done, std::int64_t whole, bool overstated);
+  /// Gives the label back, empty.
+  void EndProgressBar();
+
+  /// The bar with its tip at the place `k`, 0 to kWidth.
+  [[nodiscard]] static std::string Bar(int k);
+
+ private:
+  Label& label_;
+  int shown_ = -1;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,56 @@
+// One scan from start to end: the settings as they stood when it began, the scanner, and the link
+// to the window. Made by a source when it starts reading.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "engine/word_scanner.h"
+#include "sources/panel_choices.h"
+#include "sources/run_context.h"
+#include "sources/word_echo.h"
+
+namespace quillomat {
+
+class ScanJob {
+ public:
+  /// The allow flags of the state's settings are ready.
+  explicit ScanJob(const RunContext& context)
+      : state_(context.state),
+        choices_(ReadScanChoices(context.frmParams)),
+        lists_(context.state.lists),
+        echo_(context),
+        yield_(context),
+        scanner_(context.state.settings, choices_, lists_, context.state.store, yield_) {
+    scanner_.SetWordsRead(state_.WordsRead);
+  }
+
+  [[nodiscard]] const ScanChoices& Choices() const { return choices_; }
+
+  /// Lets the windows live; true when the scan is to stop.
+  bool Yield() { return yield_.Yield(); }
+
+  /// Scans one piece of text: lower-cased unless letter case is significant, a blank appended.
+  void ScanText(std::string_view text) {
+    Scan(PrepareLine(text, IsSet(choices_.caseSignificant), buffer_));
+  }
+
+  /// Scans a line of a words file, which is always lower-cased.
+  void ScanListLine(std::string_view line) { Scan(PrepareLine(line, false, buffer_)); }
+
+ private:
+  void Scan(std::string_view lineBuffer) {
+    scanner_.GetWords(lineBuffer);
+    state_.WordsRead = scanner_.WordsRead();
+  }
+
+  CountState& state_;
+  ScanChoices choices_;
+  WordLists lists_;
+  WordEcho echo_;
+  RunYield yield_;
+  WordScanner scanner_;
+  std::string buffer_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,48 @@
+// Shows the user that a scan gets on: the number of different words so far, and each new word in
+// the output text box until that has enough.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "engine/word_scanner.h"
+#include "sources/run_context.h"
+
+namespace quillomat {
+
+class WordEcho final : public NewWordListener {
+ public:
+  explicit WordEcho(const RunContext& context);
+  WordEcho(const WordEcho&) = delete;
+  WordEcho& operator=(const WordEcho&) = delete;
+  WordEcho(WordEcho&&) = delete;
+  WordEcho& operator=(WordEcho&&) = delete;
+  /// Attached to the store for as long as it lives.
+  ~WordEcho() override;
+
+  void OnNewWord(std::string_view word, std::int32_t numDifferentWords) override;
+
+ private:
+  void ShowNumber(std::int32_t numDifferentWords);
+  void Echo(std::string_view word, bool first);
+
+  const RunContext& context_;
+  std::string separator_;
+};
+
+/// The yield of a scan: keeps the windows awake and passes on the user's wish to stop.
+class RunYield final : public ScanYield {
+ public:
+  explicit RunYield(const RunContext& context) : pump_(context.pump), state_(context.state) {}
+
+  bool Yield() override {
+    pump_.Yield();
+    return state_.StopRequested;
+  }
+
+ private:
+  EventPump& pump_;
+  CountState& state_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,227 @@
+#include "sources/word_list_reader.h"
+
+#include <array>
+#include <vector>
+
+#include "base/letter_case.h"
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
+#include "desktop/file_system.h"
+#include "desktop/input_file.h"
+#include "engine/line_decoder.h"
+#include "listing/summary.h"
+#include "sources/line_ending_warning.h"
+#include "sources/scan_job.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t kTextTestBytes = 16'384;
+constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
+
+std::size_t IndexOf(WordListKind kind) {
+  return static_cast<std::size_t>(kind);
+}
+bool IsIgnore(WordListKind kind) {
+  return kind == WordListKind::kIgnore;
+}
+
+std::string KindName(WordListKind kind) {
+  return IsIgnore(kind) ? "words-to-ignore" : "count-only words";
+}
+
+std::string Joined(const std::vector<std::string>& items) {
+  std::string text;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (i > 0) text.push_back(' ');
+    text.append(items[i]);
+  }
+  return text;
+}
+
+/// While it lives, the boxes that a words file is read with stand as it needs them.
+class ListReadingBoxes {
+ public:
+  explicit ListReadingBoxes(const RunContext& context)
+      : boxes_{&context.frmMain.chkSuppressWords, &context.frmParams.chkAllowCommentMarkers},
+        values_{boxes_[0]->Value(), boxes_[1]->Value()} {
+    for (CheckBox* box : boxes_) box->SetChecked(true);
+  }
+  ListReadingBoxes(const ListReadingBoxes&) = delete;
+  ListReadingBoxes& operator=(const ListReadingBoxes&) = delete;
+  ListReadingBoxes(ListReadingBoxes&&) = delete;
+  ListReadingBoxes& operator=(ListReadingBoxes&&) = delete;
+  ~ListReadingBoxes() {
+    for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->SetValue(values_[i]);
+  }
+
+ private:
+  std::array<CheckBox*, 2> boxes_;
+  std::array<CheckState, 2> values_;
+};
+
+}  // namespace
+
+WordList& WordListReader::FileList(WordListKind kind) {
+  WordLists& lists = context_.state.lists;
+  return IsIgnore(kind) ? lists.IgnoreList : lists.CountOnlyList;
+}
+
+WordList& WordListReader::ExtraList(WordListKind kind) {
+  WordLists& lists = context_.state.lists;
+  return IsIgnore(kind) ? lists.ExtraIgnoreList : lists.ExtraCountOnlyList;
+}
+
+TextBox& WordListReader::PathBox(WordListKind kind) {
+  return context_.frmParams.txbWordsFile[IndexOf(kind)];
+}
+
+TextBox& WordListReader::ExtraBox(WordListKind kind) {
+  return context_.frmParams.txbWordsToIgnoreOrCount[IndexOf(kind)];
+}
+
+std::string WordListReader::GetExtraWords(WordListKind kind) {
+  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()));
+  if (!typed.fits) {
+    return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
+  }
+  std::string cleaned = Joined(typed.items);
+  ExtraList(kind) = WordList(std::move(typed.items));
+  return cleaned;
+}
+
+void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
+  TextBox& box = ExtraBox(kind);
+  box.SetText(std::string(TrimBlanks(box.Text())));
+  if (box.Text().empty()) {
+    ExtraList(kind) = WordList();
+    return;
+  }
+  const std::string result = GetExtraWords(kind);
+  if (result.ends_with('.')) {
+    Refuse(context_, result, "Invalid input");
+  } else {
+    box.SetText(result);
+  }
+}
+
+bool WordListReader::ReadWords(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  try {
+    const LineEndingType type = GetLineEndingType(path, kTextTestBytes);
+    if (type == LineEndingType::kNotText) {
+      Refuse(context_, "This is not a text file.", "Invalid input");
+      return false;
+    }
+    if (!IsNativeLineEnding(type)) ShowLineEndingWarning(context_, type);
+    ScanSettings& settings = context_.state.settings;
+    const ScanChoices choices = ReadScanChoices(context_.frmParams);
+    settings.ReadingWordList = true;
+    settings.SetAllowWordsFlags(choices);
+    settings.BuildExtraWordChars();
+    settings.ClearListCharFlags();
+    settings.SetCommentMarkers("C", choices);
+    context_.state.DiscardWords();  // first, so that the boxes' handlers find no count to ask about
+    const ListReadingBoxes boxes(context_);
+    context_.state.store.Files().Reset(false);
+    ConcealNumWords(context_.frmMain, false);
+    context_.output.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
+                                            : "Now reading count-only words . . . ");
+    ScanWordsFile(path);
+    TakeWordsFromStore(kind);
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+void WordListReader::ScanWordsFile(const std::string& path) {
+  const BusyGuard busy(context_);
+  InputFile file(path);
+  LineDecoder lines(file);
+  ScanJob job(context_);
+  while (const auto line = lines.NextLine()) {
+    const std::string_view trimmed = TrimBlanks(*line);
+    if (!trimmed.empty()) job.ScanListLine(trimmed);
+    if (job.Yield()) return;
+  }
+}
+
+void WordListReader::TakeWordsFromStore(WordListKind kind) {
+  const WordStore& store = context_.state.store;
+  std::vector<std::string> words;
+  words.reserve(static_cast<std::size_t>(store.NumDifferentWords()));
+  for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
+    words.emplace_back(store.At(index).Word);
+  }
+  FileList(kind) = WordList(std::move(words));
+  if (!IsIgnore(kind)) TickAllowBoxesForListWords();
+}
+
+void WordListReader::TickAllowBoxesForListWords() {
+  const auto boxes = context_.frmParams.AllowCheckBoxes();
+  for (std::size_t flag = 0; flag < boxes.size(); ++flag) {
+    if (context_.state.settings.ListCharFlags[flag]) boxes[flag]->SetChecked(true);
+  }
+}
+
+bool WordListReader::AttemptToReadWords(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  if (!FileExists(path)) {
+    if (context_.state.blnStartUpCompleted) {
+      Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
+    } else if (IsIgnore(kind)) {
+      SetPathToCWDs_Eng();
+    }
+    return false;
+  }
+  context_.output.SaveOutputText();
+  const bool ok = ReadWords(kind);
+  if (ok) {
+    Tell(context_,
+         std::to_string(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
+         "Words loaded", MessageIcon::kInformation);
+  } else {
+    Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path, "Error");
+    PathBox(kind).SetText("");
+  }
+  context_.output.RestoreOutputText();
+  return ok;
+}
+
+void WordListReader::SelectWordsFile(WordListKind kind) {
+  const bool countOnlyGiven = !PathBox(WordListKind::kCountOnly).Text().empty() ||
+                              !ExtraBox(WordListKind::kCountOnly).Text().empty();
+  if (IsIgnore(kind) && countOnlyGiven) {
+    const std::string lineBreak(kCrLf);
+    const MessageAnswer answer = context_.desktop.ShowMessage(
+        {"Since there are count-only words (that is," + lineBreak +
+             "only specified words are to be counted)," + lineBreak +
+             "specifying words to be ignored will have no effect." + lineBreak +
+             "Do you still wish to specify words to be ignored?",
+         "Proceed?", MessageIcon::kQuestion, MessageButtons::kYesNo});
+    if (answer != MessageAnswer::kYes) return;
+  }
+  FileDialog dialog;
+  dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"
+                                : "Specify file containing count-only words";
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  dialog.hideReadOnly = true;
+  const std::optional<std::string> path = context_.desktop.ChooseFile(dialog);
+  if (!path) return;
+  PathBox(kind).SetText(*path);
+  AttemptToReadWords(kind);
+}
+
+void WordListReader::ClearWordsFile(WordListKind kind) {
+  PathBox(kind).SetText("");
+  FileList(kind) = WordList();
+}
+
+void WordListReader::SetPathToCWDs_Eng() {
+  PathBox(WordListKind::kIgnore).SetText(JoinPath(DataFolder(), kDefaultIgnoreFile));
+}
+
+}  // namespace quillomat

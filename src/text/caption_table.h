@@ -1,0 +1,125 @@
+// Which numbered text is the caption of which control. Controls go by their whole names, as
+// Form::Find takes them. Whoever changes the language sets the captions anew from these tables.
+//
+// Not in the tables, because other things than the language decide on them:
+// - the caption of the main window: the program's title and version;
+// - cmdCountWords: text 21 while no count runs, "Stop" in every language while one does;
+// - labels that show results.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace quillomat {
+
+struct ControlCaption {
+  std::string_view control;
+  int text;
+};
+
+/// Of frmMain.
+inline constexpr auto kMainFormCaptions = std::to_array<ControlCaption>({
+    {"Label1", 19},
+    {"Label2", 20},
+    {"optOnClipboard", 100},
+    {"optInFile", 101},
+    {"optFolder", 102},
+    {"cmdFile(0)", 103},
+    {"cmdFile(1)", 104},
+    {"cmdClearFile(0)", 105},
+    {"cmdClearFile(1)", 105},
+    {"cmdClearFolder", 105},
+    {"chkDisableOutputToFile", 106},
+    {"cmdFolder", 107},
+    {"chkIncludeSubfolders", 108},
+    {"lblFileExtensions", 109},
+    {"lblInclude", 110},
+    {"lblExclude", 111},
+    {"cmdListFiles", 112},
+    {"chkSuppressWords", 113},
+    {"lblCopyrightNotice", 114},
+    {"lblOnlineDocumentation", 115},
+    {"lblOrvandelSystems", 116},
+    {"cmdClearOutput", 117},
+    {"cmdCopyToClipboard", 118},
+    {"cmdClipboardViewer", 119},
+    {"cmdSetParameters", 120},
+    {"cmdSaveState", 121},
+    {"cmdHelp", 122},
+    {"cmdLanguage", 123},
+    {"cmdQuit", 124},
+});
+
+/// Tool tips of frmMain.
+inline constexpr auto kMainFormToolTips = std::to_array<ControlCaption>({
+    {"cmdListFiles", 310},
+    {"cmdSetParameters", 311},
+    {"cmdSaveState", 312},
+    {"cmdLanguage", 313},
+});
+
+/// The window frmParams itself.
+inline constexpr int kParamsFormCaption = 200;
+
+/// Of frmParams.
+inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
+    {"lblOnThisPage", 201},
+    {"lblAllowWords", 202},
+    {"chkAllowWordsWithHyphens", 203},
+    {"chkAllowWordsWithApostrophes", 204},
+    {"chkAllowWordsWithUnderscores", 205},
+    {"chkAllowWordsWithColons", 206},
+    {"chkAllowWordsWithBackslashes", 207},
+    {"chkAllowWordsWithForwardslashes", 208},
+    {"chkAllowWordsWithParentheses", 209},
+    {"chkAllowWordsWithPeriods", 210},
+    {"chkAllowWordsWithCommas", 211},
+    {"chkAllowWordsWithAtSigns", 212},
+    {"chkAllowWordsWithNumerals", 213},
+    {"chkCaseSignificant", 214},
+    {"chkDropFinalS", 215},
+    {"fraIgnoreWords", 216},
+    {"chkIgnoreShortWords", 217},
+    {"lblShortWordSize", 218},
+    {"lblLongWords", 219},
+    {"lblLongWordSize", 220},
+    {"chkIgnoreInfrequentWords", 221},
+    {"lblThresholdFrequency", 222},
+    {"chkIgnoreRepetitions", 223},
+    {"chkIgnoreRomNum40", 224},
+    {"chkIgnoreNoVowelOrY", 225},
+    {"chkAllowCommentMarkers", 226},
+    {"lblStartComment", 227},
+    {"lblEndComment", 228},
+    {"lblCommentPair(0)", 229},
+    {"lblCommentPair(1)", 230},
+    {"cmdSelectWordsFile(0)", 231},
+    {"cmdSelectWordsFile(1)", 232},
+    {"lblWordsToIgnoreOrCount(0)", 233},
+    {"lblWordsToIgnoreOrCount(1)", 234},
+    {"cmdClearWordsFile(0)", 235},
+    {"cmdClearWordsFile(1)", 235},
+    {"cmdClearWordsToIgnoreOrCount(0)", 235},
+    {"cmdClearWordsToIgnoreOrCount(1)", 235},
+    {"chkOutputWithCommas", 236},
+    {"chkUseLog10", 237},
+    {"chkWarnOnOverwrite", 238},
+    {"chkSaveStateOnQuit", 239},
+    {"cmdClearCheckboxes(0)", 240},
+    {"cmdClearCheckboxes(1)", 241},
+    {"cmdSaveLoadState(0)", 242},
+    {"cmdSaveLoadState(1)", 243},
+    {"cmdRestoreDefaults", 244},
+    {"cmdInitialize", 245},
+    {"cmdClose", 246},
+});
+
+/// The window frmHelp itself.
+inline constexpr int kHelpFormCaption = 280;
+
+/// Of frmHelp.
+inline constexpr auto kHelpFormCaptions = std::to_array<ControlCaption>({
+    {"cmdClose", 281},
+});
+
+}  // namespace quillomat

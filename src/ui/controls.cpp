@@ -1,0 +1,104 @@
+#include "ui/controls.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/run_time_error.h"
+#include "base/utf8.h"
+#include "ui/form.h"
+
+namespace quillomat {
+namespace {
+
+bool AcceptsHand(const Control& control) {
+  return control.Enabled() && control.Visible();
+}
+
+/// Moves the focus to `control`, as a click does, and tells whether the click counts: what happens
+/// on losing the focus may have disabled it.
+bool TakeClick(Control& control) {
+  if (!AcceptsHand(control)) return false;
+  control.Owner().SetFocus(control);
+  return AcceptsHand(control);
+}
+
+}  // namespace
+
+void TextBox::SetText(std::string text) {
+  SetSelStart(0);
+  if (text_ == text) return;
+  text_ = std::move(text);
+  length_ = CharacterCount(text_);
+  Changed.Fire();
+  Change.Fire();
+}
+
+void TextBox::AppendText(std::string_view text) {
+  if (text.empty()) return;
+  length_ += CharacterCount(text);
+  text_.append(text);
+  Changed.Fire();
+  Change.Fire();
+}
+
+void TextBox::SetSelStart(std::size_t selStart) {
+  Assign(selStart_, std::min(selStart, length_));
+}
+
+void CheckBox::SetValue(CheckState value) {
+  if (Assign(value_, value)) Click.Fire();
+}
+
+void CheckBox::PerformClick() {
+  if (TakeClick(*this)) SetChecked(value_ == CheckState::kUnchecked);
+}
+
+void OptionButton::SetValue(bool value) {
+  if (value) {
+    for (Control* control : Owner().Controls()) {
+      auto* other = control->As<OptionButton>();
+      if (other != nullptr && other != this && other->group_ == group_) other->SetValue(false);
+    }
+  }
+  if (Assign(value_, value) && value) Click.Fire();
+}
+
+void OptionButton::PerformClick() {
+  if (TakeClick(*this)) SetValue(true);
+}
+
+void ComboBox::AddItem(std::string item) {
+  items_.push_back(std::move(item));
+  Changed.Fire();
+}
+
+void ComboBox::Clear() {
+  if (items_.empty()) return;
+  items_.clear();
+  listIndex_ = -1;
+  Changed.Fire();
+}
+
+void ComboBox::SetListIndex(int listIndex) {
+  const bool isItem = listIndex >= 0 && std::cmp_less(listIndex, items_.size());
+  if (listIndex != -1 && !isItem) throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue);
+  if (Assign(listIndex_, listIndex)) Click.Fire();
+}
+
+std::string ComboBox::Text() const {
+  return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)];
+}
+
+void Label::PerformClick() {
+  if (AcceptsHand(*this)) Click.Fire();
+}
+
+void Label::PerformDoubleClick() {
+  if (AcceptsHand(*this)) DoubleClick.Fire();
+}
+
+void CommandButton::PerformClick() {
+  if (TakeClick(*this)) Click.Fire();
+}
+
+}  // namespace quillomat

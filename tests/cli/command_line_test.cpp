@@ -1,0 +1,106 @@
+#include "cli/command_line.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+struct Parsed {
+  ParsedCommandLine result;
+  std::string out;
+  std::string err;
+};
+
+Parsed Parse(std::vector<const char*> arguments) {
+  arguments.insert(arguments.begin(), "quillomat-cli");
+  std::ostringstream out;
+  std::ostringstream err;
+  Parsed parsed;
+  parsed.result = ParseCommandLine(static_cast<int>(arguments.size()), arguments.data(), out, err);
+  parsed.out = out.str();
+  parsed.err = err.str();
+  return parsed;
+}
+
+void ExpectWrong(const std::vector<const char*>& arguments, const std::string& named) {
+  const Parsed parsed = Parse(arguments);
+  EXPECT_EQ(parsed.result.exitStatus, 2);
+  EXPECT_THAT(parsed.err, HasSubstr(named));
+  EXPECT_EQ(parsed.err.find('\n'), parsed.err.size() - 1) << "one line: " << parsed.err;
+  EXPECT_EQ(parsed.out, "");
+}
+
+TEST(CommandLine, TakesEveryOption) {
+  const Parsed parsed =
+      Parse({"--folder", "texts", "--subfolders", "--order", "alphabetical", "--format", "7",
+             "--output", "list.txt", "--set", "chkDropFinalS=1", "--set", "txbFolder=a=b",
+             "--summary", "--window-text", "--answer", "Problem=OK"});
+  ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
+  const CommandLine& options = parsed.result.options;
+  EXPECT_EQ(options.folder, "texts");
+  EXPECT_TRUE(options.subfolders);
+  EXPECT_EQ(options.order, "alphabetical");
+  EXPECT_EQ(options.format, "7");
+  EXPECT_EQ(options.output, "list.txt");
+  ASSERT_EQ(options.set.size(), 2U);
+  EXPECT_EQ(options.set[1], std::make_pair(std::string("txbFolder"), std::string("a=b")));
+  ASSERT_EQ(options.answers.size(), 1U);
+  EXPECT_TRUE(options.summary);
+  EXPECT_TRUE(options.windowText);
+}
+
+TEST(CommandLine, DashIsStandardInput) {
+  const Parsed parsed = Parse({"--text", "-"});
+  ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
+  EXPECT_EQ(parsed.result.options.text, "-");
+}
+
+TEST(CommandLine, WantsExactlyOneSource) {
+  ExpectWrong({}, "--file");
+  ExpectWrong({"--file", "a", "--folder", "b"}, "--file");
+}
+
+TEST(CommandLine, UnknownOptionIsNamed) {
+  ExpectWrong({"--file", "a", "--bogus"}, "--bogus");
+}
+
+TEST(CommandLine, OptionWithoutItsValueIsNamed) {
+  ExpectWrong({"--file"}, "--file");
+}
+
+TEST(CommandLine, SettingWithoutEqualsSignIsNamed) {
+  ExpectWrong({"--file", "a", "--set", "chkDropFinalS"}, "chkDropFinalS");
+}
+
+TEST(CommandLine, FolderOptionsGoWithFolderOnly) {
+  ExpectWrong({"--file", "a", "--subfolders"}, "--subfolders");
+  ExpectWrong({"--file", "a", "--list-files"}, "--list-files");
+}
+
+TEST(CommandLine, OptionsToComeAreNotAvailableYetAndNotInTheHelp) {
+  for (const char* option : {"--state", "--save-state", "--user-settings"}) {
+    ExpectWrong({"--file", "a", option}, std::string(option) + ": not available yet");
+    EXPECT_THAT(Parse({"--help"}).out, Not(HasSubstr(option)));
+  }
+}
+
+TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
+  const Parsed help = Parse({"--help"});
+  EXPECT_EQ(help.result.exitStatus, 0);
+  EXPECT_THAT(help.out, HasSubstr("--set"));
+  EXPECT_THAT(help.out, HasSubstr("Exit status"));
+  EXPECT_EQ(help.err, "");
+  const Parsed version = Parse({"--version"});
+  EXPECT_EQ(version.result.exitStatus, 0);
+  EXPECT_EQ(version.out, "quillomat-cli 7.07\n");
+}
+
+}  // namespace
+}  // namespace quillomat

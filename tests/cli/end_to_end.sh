@@ -1,0 +1,115 @@
+#!/bin/sh
+# Runs quillomat-cli as a script would and checks what it prints, where, and with which exit status.
+# Usage: end_to_end.sh PROGRAM DATA_FOLDER
+set -u
+program=$1
+data=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work" || exit 1
+failed=0
+
+# check NAME STATUS [ARGUMENT...]: runs the program and compares its exit status; what it prints is in
+# out and err.
+check() {
+  name=$1
+  wanted=$2
+  shift 2
+  "$program" "$@" >out 2>err </dev/null
+  status=$?
+  if [ "$status" -ne "$wanted" ]; then
+    echo "FAILED $name: exit status $status, not $wanted"
+    cat err
+    failed=1
+  fi
+}
+
+# holds FILE TEXT, lines FILE NUMBER: about what was printed.
+holds() {
+  grep -qF -- "$2" "$1" || { echo "FAILED $name: $1 does not hold: $2"; cat "$1"; failed=1; }
+}
+lines() {
+  [ "$(wc -l <"$1")" -eq "$2" ] || { echo "FAILED $name: $1 has not $2 lines"; cat "$1"; failed=1; }
+}
+
+printf 'The cat and the dog.\nThe cat -- a well-known cat!\n' >cat.txt
+printf '' >empty.txt
+printf 'a\001b' >binary.txt
+printf '12 34\n' >numbers.txt
+mkdir folder
+cp cat.txt folder/one.txt
+printf 'The end' >folder/two.md
+
+check "a file is counted" 0 --file cat.txt --format "word frequency"
+holds out "  cat             3"
+lines out 7
+lines err 0
+check "the summary goes to standard error" 0 --file cat.txt --summary
+holds err "Number of words in this list:"
+check "a list of words runs on without a line end" 0 --file cat.txt --format 9 --order alphabetical
+[ "$(cat out)" = "a, and, cat, dog, the, well-known" ] || { echo "FAILED $name"; cat out; failed=1; }
+check "standard input is counted" 1 --text -
+holds err "Clipboard is empty."
+printf 'one two two' | "$program" --text - --format 5 | grep -q '     2  two' ||
+  { echo "FAILED: text from standard input"; failed=1; }
+check "settings reach the count" 0 --file cat.txt --set chkAllowWordsWithHyphens=0 --format 8
+holds out "known"
+check "typed words are left out" 0 --file cat.txt --set 'txbWordsToIgnoreOrCount(0)=the, and' --format 8
+grep -qx "the" out && { echo "FAILED $name"; failed=1; }
+check "a words file is read" 0 --file cat.txt --set "txbWordsFile(0)=$data/cwds_en.txt" --format 8
+holds err "words-to-ignore loaded from"
+check "a folder is counted" 0 --folder folder --format 7 --summary
+holds out "  the             4"
+check "extensions restrict the folder" 0 --folder folder --set 'txbFileExtensions(0)=md' --format 7
+holds out "  the         1"
+check "words are found in their files" 0 --folder folder --set 'txbWordsToIgnoreOrCount(1)=the' --format 13
+holds out "    3 folder/one.txt"
+check "files are listed" 0 --folder folder --list-files
+holds out "{Folder}/two.md"
+holds out "2 files in 1 folder will be scanned."
+check "the window's text is printed" 0 --file cat.txt --window-text --format 8
+holds out "well-known"
+check "an output file is written" 0 --file cat.txt --output list.txt --format 8
+lines out 0
+[ -s list.txt ] || { echo "FAILED $name: no list"; failed=1; }
+check "an output file is not overwritten" 1 --file cat.txt --output list.txt --format 7
+holds err "list.txt"
+check "an output file is overwritten on demand" 0 --file cat.txt --output list.txt --format 7 \
+  --answer "The output file exists.=OK"
+grep -q "  cat             3" list.txt || { echo "FAILED $name"; failed=1; }
+
+for case in "missing.txt 1 does not exist" "folder 1 is a folder" "empty.txt 1 is empty" \
+  "binary.txt 1 solely of text"; do
+  file=${case%% *}
+  text=${case#* 1 }
+  check "$file is refused" 1 --file "$file"
+  holds err "$file"
+  holds err "$text"
+  lines err 1
+  lines out 0
+done
+check "a file is no folder" 1 --folder cat.txt
+holds err "cat.txt is a file"
+check "a list without words is none" 1 --file numbers.txt
+lines err 1
+check "a format needs its source" 1 --file cat.txt --format "word file-list"
+holds err "only when the source of the text is a folder"
+check "an unknown format" 2 --file cat.txt --format nonsense
+holds err "nonsense"
+check "an unknown order" 2 --file cat.txt --order nonsense
+holds err "nonsense"
+check "an unknown control" 2 --file cat.txt --set nonsense=1
+holds err "nonsense"
+check "a wrong value" 2 --file cat.txt --set chkDropFinalS=7
+holds err "chkDropFinalS"
+check "a list on a full disk" 1 --file cat.txt --output /dev/full \
+  --set chkWarnOnOverwrite=0
+holds err "Error 61: Disk full"
+if [ -e /dev/full ]; then
+  "$program" --file cat.txt >/dev/full 2>err
+  [ $? -eq 1 ] || { echo "FAILED: standard output on a full disk"; failed=1; }
+  holds err "Disk full"
+fi
+
+[ "$failed" -eq 0 ] && echo "all as wanted"
+exit "$failed"

@@ -1,0 +1,4 @@
+// An include that the check must find.
+#pragma once
+
+#include "listing/example.h"

@@ -1,0 +1,17 @@
+// What comes of a case, in words that can be compared and read: everything that the rules say about
+// results, and nothing about how they were reached.
+#pragma once
+
+#include <string>
+
+#include "properties/count_case.h"
+
+namespace quillomat::properties {
+
+/// By the program's own engine and listing.
+[[nodiscard]] std::string OutcomeOfProgram(const CountCase& countCase);
+
+/// By the literal engine.
+[[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase);
+
+}  // namespace quillomat::properties

@@ -1,0 +1,58 @@
+// Holds the program's engine and listing against the literal engine: the same case must have the
+// same outcome, to the letter. A case that fails is made as small as it can be and printed as code.
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <random>
+
+#include "properties/count_case.h"
+#include "properties/count_outcome.h"
+
+namespace quillomat::properties {
+namespace {
+
+constexpr int kCasesPerSeed = 12'000;
+constexpr std::uint64_t kFixedSeed = 707;
+
+bool Differs(const CountCase& countCase) {
+  return OutcomeOfProgram(countCase) != OutcomeOfReference(countCase);
+}
+
+CountCase Smallest(CountCase failing) {
+  for (bool smaller = true; smaller;) {
+    smaller = false;
+    for (const CountCase& simpler : SimplerCases(failing)) {
+      if (!Differs(simpler)) continue;
+      failing = simpler;
+      smaller = true;
+      break;
+    }
+  }
+  return failing;
+}
+
+void CompareRandomCases(std::uint64_t seed) {
+  Random random(seed);
+  for (int i = 0; i < kCasesPerSeed; ++i) {
+    const CountCase countCase = RandomCase(random);
+    if (!Differs(countCase)) continue;
+    const CountCase smallest = Smallest(countCase);
+    FAIL() << "seed " << seed << ", case " << i << ":\n"
+           << AsCode(smallest) << "\nthe program's outcome:\n"
+           << OutcomeOfProgram(smallest) << "\nthe literal engine's:\n"
+           << OutcomeOfReference(smallest);
+  }
+}
+
+TEST(EngineProperty, RandomCasesOfFixedSeedHaveTheOutcomeOfTheLiteralEngine) {
+  CompareRandomCases(kFixedSeed);
+}
+
+TEST(EngineProperty, RandomCasesOfFreshSeedHaveTheOutcomeOfTheLiteralEngine) {
+  const std::uint64_t seed = std::random_device()();
+  std::cout << "fresh seed " << seed << std::endl;
+  CompareRandomCases(seed);
+}
+
+}  // namespace
+}  // namespace quillomat::properties

@@ -1,0 +1,233 @@
+#include <array>
+#include <sstream>
+
+#include "base/text_helpers.h"
+#include "engine/word_filters.h"
+#include "engine/word_scanner.h"
+#include "listing/file_list_sink.h"
+#include "listing/list_walk.h"
+#include "listing/text_box_list_sink.h"
+#include "properties/count_outcome.h"
+#include "support/scripted_desktop.h"
+
+namespace quillomat::properties {
+namespace {
+
+class NeverStops final : public ScanYield {
+ public:
+  bool Yield() override { return false; }
+};
+
+CheckState StateOf(int box) {
+  return static_cast<CheckState>(box);
+}
+
+ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
+  ScanChoices choices;
+  choices.allowWordsWith = {
+      StateOf(from.chkAllowWordsWithHyphens),     StateOf(from.chkAllowWordsWithApostrophes),
+      StateOf(from.chkAllowWordsWithUnderscores), StateOf(from.chkAllowWordsWithColons),
+      StateOf(from.chkAllowWordsWithBackslashes), StateOf(from.chkAllowWordsWithForwardslashes),
+      StateOf(from.chkAllowWordsWithParentheses), StateOf(from.chkAllowWordsWithPeriods),
+      StateOf(from.chkAllowWordsWithCommas),      StateOf(from.chkAllowWordsWithAtSigns),
+      StateOf(from.chkAllowWordsWithNumerals)};
+  choices.caseSignificant = StateOf(from.chkCaseSignificant);
+  choices.dropFinalS = StateOf(from.chkDropFinalS);
+  choices.allowCommentMarkers = StateOf(from.chkAllowCommentMarkers);
+  choices.startComment = from.txbStartComment;
+  choices.endComment = from.txbEndComment;
+  return choices;
+}
+
+FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {
+  FilterChoices choices;
+  choices.ignoreInfrequentWords = StateOf(from.chkIgnoreInfrequentWords);
+  choices.thresholdFrequencyIndex = from.cboThresholdFrequency;
+  choices.ignoreShortWords = StateOf(from.chkIgnoreShortWords);
+  choices.shortWordSizeIndex = from.cboShortWordSize;
+  choices.longWordSize = from.longWordSize;
+  choices.ignoreRepetitions = StateOf(from.chkIgnoreRepetitions);
+  choices.ignoreRomNum40 = StateOf(from.chkIgnoreRomNum40);
+  choices.ignoreNoVowelOrY = StateOf(from.chkIgnoreNoVowelOrY);
+  return choices;
+}
+
+std::string FiveDigits(std::int32_t number) {
+  const std::string digits = std::to_string(number);
+  return std::string(5 - digits.size(), '0') + digits;
+}
+
+class ProgramCase {
+ public:
+  explicit ProgramCase(const CountCase& countCase)
+      : case_(countCase), choices_(ScanChoicesOf(countCase.choices)) {}
+
+  std::string Outcome() {
+    for (std::size_t kind = 0; kind < 2; ++kind) ReadLists(kind);
+    Count();
+    DescribeWords();
+    List();
+    return out_.str();
+  }
+
+ private:
+  void ReadLists(std::size_t kind) {
+    SplitResult typed = ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]));
+    std::string cleaned;
+    for (std::size_t i = 0; i < typed.items.size(); ++i) {
+      cleaned += (i > 0 ? " " : "") + typed.items[i];
+    }
+    out_ << "typed: " << cleaned << '\n';
+    (kind == 0 ? lists_.ExtraIgnoreList : lists_.ExtraCountOnlyList) =
+        WordList(std::move(typed.items));
+    if (case_.wordsFiles[kind].empty()) return;
+    // Read twice, as the comment that a file leaves open goes on in the next.
+    ReadWordsFile(case_.wordsFiles[kind]);
+    out_ << "list:";
+    for (const std::string& word : WordsInStore()) out_ << ' ' << word;
+    ReadWordsFile(case_.wordsFiles[kind]);
+    (kind == 0 ? lists_.IgnoreList : lists_.CountOnlyList) = WordList(WordsInStore());
+    out_ << "\nflags:";
+    for (const bool flag : settings_.ListCharFlags) out_ << ' ' << flag;
+    out_ << '\n';
+  }
+
+  void ReadWordsFile(const std::vector<std::string>& lines) {
+    settings_.ReadingWordList = true;
+    settings_.SetAllowWordsFlags(choices_);
+    settings_.BuildExtraWordChars();
+    settings_.ClearListCharFlags();
+    settings_.SetCommentMarkers("C", choices_);
+    store_.Clear();
+    const WordLists none;
+    WordScanner scanner(settings_, choices_, none, store_, yield_);
+    for (const std::string& line : lines) {
+      const std::string_view trimmed = TrimBlanks(line);
+      if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer_));
+    }
+  }
+
+  std::vector<std::string> WordsInStore() {
+    std::vector<std::string> words;
+    for (std::int32_t i = 1; i <= store_.NumDifferentWords(); ++i) {
+      words.emplace_back(store_.At(i).Word);
+    }
+    return words;
+  }
+
+  void Count() {
+    settings_.CountOnlyMode = lists_.HasCountOnlyWords();
+    settings_.ReadingWordList = false;
+    settings_.SetAllowWordsFlags(choices_);
+    settings_.BuildExtraWordChars();
+    store_.Clear();
+    store_.Files().Reset(case_.choices.optFolder && settings_.CountOnlyMode);
+    WordScanner scanner(settings_, choices_, lists_, store_, yield_);
+    for (const CaseText& text : case_.texts) Scan(scanner, text);
+    if (!settings_.CountOnlyMode) ApplyWordFilters(store_, FilterChoicesOf(case_.choices));
+    totals_ = store_.TallyWords();
+    ranking_ = RankByFrequency(store_);
+    out_ << "read " << scanner.WordsRead() << " open " << settings_.OpenComment << '\n';
+  }
+
+  void Scan(WordScanner& scanner, const CaseText& text) {
+    settings_.SetCommentMarkers(text.markers, choices_);
+    settings_.ForceCommentMarkers = text.markers == "HTML" || text.markers == "C";
+    store_.Files().SetFileBeingScanned(text.path);
+    const bool caseSignificant = IsSet(choices_.caseSignificant);
+    std::string all;
+    for (const std::string& line : text.lines) {
+      all += line + "\r\n";
+      const std::string_view trimmed = TrimBlanks(line);
+      if (text.whole || trimmed.empty()) continue;
+      scanner.GetWords(PrepareLine(trimmed, caseSignificant, buffer_));
+    }
+    if (text.whole) scanner.GetWords(PrepareLine(all, caseSignificant, buffer_));
+  }
+
+  void DescribeWords() {
+    out_ << "included " << totals_.NumIncludedWords << " excluded " << totals_.NumExcludedWords
+         << " total " << totals_.TotalIncludedCount << " max " << totals_.MaxCount << " longest "
+         << totals_.MaxWordLength << '\n';
+    for (std::int32_t i = 1; i <= store_.NumDifferentWords(); ++i) {
+      const WordRec& record = store_.At(i);
+      out_ << record.Word << " key " << record.SortKey << " count " << record.Count
+           << (record.Included ? " listed" : " left out") << " files ";
+      const FileTally* files = store_.FilesOf(i);
+      std::string counts;
+      for (std::size_t k = 0; files != nullptr && k < files->FileNumbers.size(); ++k) {
+        out_ << FiveDigits(files->FileNumbers[k]);
+        counts += FiveDigits(files->FileCounts[k]);
+      }
+      out_ << ' ' << counts << '\n';
+    }
+  }
+
+  LineOptions OptionsFor(bool toFile) const {
+    LineOptions options;
+    options.format = static_cast<DisplayFormat>(case_.format);
+    options.withCommas = toFile && case_.choices.chkOutputWithCommas == 1;
+    options.useLog10 = case_.choices.chkUseLog10 == 1;
+    options.folder = case_.choices.txbFolder;
+    options.lineBreak = toFile ? "\n" : "\r\n";
+    return options;
+  }
+
+  void Walk(const LineFormatter& formatter, ListSink& sink) {
+    EmitHeader(formatter, sink);
+    const CountedWords words{store_, ranking_, totals_};
+    if (case_.order == 1) {
+      ListAlphabetical(words, formatter, sink);
+    } else {
+      ListByFrequency(words, formatter, sink);
+    }
+  }
+
+  void List() {
+    if (totals_.NumIncludedWords == 0) {
+      out_ << NoWordsMessage({store_.NumDifferentWords(), case_.choices.cboShortWordSize,
+                              case_.choices.cboThresholdFrequency,
+                              case_.choices.chkIgnoreInfrequentWords == 1});
+      return;
+    }
+    const CountedWords words{store_, ranking_, totals_};
+    MainForm frmMain;
+    ScriptedDesktop desktop;
+    OutputBox output(frmMain, desktop);
+    std::string accumulator;
+    const LineFormatter boxFormatter(words, OptionsFor(false));
+    TextBoxListSink box(
+        frmMain, output, accumulator, [] { return false; }, boxFormatter.Options());
+    if (case_.choices.optFolder) {
+      box.TakeNotice(ScanHeaderText(case_.numFiles, case_.numFolders, ",").append(kCrLf));
+    }
+    Walk(boxFormatter, box);
+    out_ << "box" << (output.IsFull() ? " full" : "") << ":\n" << accumulator;
+
+    out_ << "\nfile:\n";
+    const LineFormatter fileFormatter(words, OptionsFor(true));
+    FileListSink file([this](std::string_view bytes) { out_ << bytes; }, [] { return false; },
+                      fileFormatter.Options(), store_.NumDifferentWords());
+    Walk(fileFormatter, file);
+    file.Flush();
+  }
+
+  const CountCase& case_;
+  ScanChoices choices_;
+  ScanSettings settings_;
+  WordLists lists_;
+  WordStore store_;
+  WordTotals totals_;
+  FrequencyRanking ranking_;
+  NeverStops yield_;
+  std::string buffer_;
+  std::ostringstream out_;
+};
+
+}  // namespace
+
+std::string OutcomeOfProgram(const CountCase& countCase) {
+  return ProgramCase(countCase).Outcome();
+}
+
+}  // namespace quillomat::properties

@@ -1,0 +1,73 @@
+#include <sstream>
+
+#include "properties/count_outcome.h"
+#include "reference/literal_engine.h"
+
+namespace quillomat::properties {
+
+using reference::LiteralEngine;
+using reference::ToUtf8;
+
+namespace {
+
+void Scan(LiteralEngine& engine, const CaseText& text) {
+  engine.choices.txbFile0 = text.path;
+  engine.SetCommentMarkers(text.markers);
+  engine.ForceCommentMarkers = text.markers == "HTML" || text.markers == "C";
+  if (!text.whole) {
+    for (const std::string& line : text.lines) engine.ScanLine(line);
+    return;
+  }
+  std::string all;
+  for (const std::string& line : text.lines) all += line + "\r\n";
+  engine.ScanText(all);
+}
+
+void DescribeWords(const LiteralEngine& engine, std::ostream& out) {
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(engine.NumDifferentWords); ++i) {
+    const reference::WordRec& entry = engine.WordStore[i];
+    out << ToUtf8(entry.Word) << " key " << ToUtf8(entry.SortKey) << " count " << entry.Count
+        << (entry.Included ? " listed" : " left out") << " files " << ToUtf8(entry.FileNumbers)
+        << " " << ToUtf8(entry.FileCounts) << '\n';
+  }
+}
+
+}  // namespace
+
+std::string OutcomeOfReference(const CountCase& countCase) {
+  std::ostringstream out;
+  LiteralEngine engine;
+  engine.choices = countCase.choices;
+  for (int kind = 0; kind < 2; ++kind) {
+    out << "typed: " << engine.GetExtraWords(kind) << '\n';
+    const auto& lines = countCase.wordsFiles[static_cast<std::size_t>(kind)];
+    if (lines.empty()) continue;
+    out << "list:";
+    for (const std::string& word : engine.ReadListLines(lines)) out << ' ' << word;
+    engine.ReadWords(kind, lines);
+    out << "\nflags:";
+    for (const bool flag : engine.ListCharFlags) out << ' ' << flag;
+    out << '\n';
+    engine.choices = countCase.choices;  // what the reading ticked is compared by the flags
+  }
+  engine.BeginRun();
+  for (const CaseText& text : countCase.texts) Scan(engine, text);
+  engine.FinishRun();
+  out << "read " << engine.WordsRead << " open " << engine.OpenComment << '\n';
+  out << "included " << engine.NumIncludedWords << " excluded " << engine.NumExcludedWords
+      << " total " << engine.TotalIncludedCount << " max " << engine.MaxCount << " longest "
+      << engine.MaxWordLength << '\n';
+  DescribeWords(engine, out);
+  const reference::ListingRequest request{countCase.order, countCase.format, countCase.numFiles,
+                                          countCase.numFolders};
+  if (engine.NumIncludedWords == 0) {
+    out << ToUtf8(engine.NoWordsMessage());
+    return out.str();
+  }
+  const reference::TextboxListing box = engine.ListToTextbox(request);
+  out << "box" << (box.textboxFull ? " full" : "") << ":\n" << box.text;
+  out << "\nfile:\n" << engine.ListToFile(request, "\n");
+  return out.str();
+}
+
+}  // namespace quillomat::properties

@@ -1,0 +1,120 @@
+#include "reference/literal_engine.h"
+#include "reference/literal_entities.h"
+#include "reference/literal_rules.h"
+
+namespace quillomat::reference {
+
+void LiteralEngine::GetWords() {
+  PrepareLineBuffer();
+  ScanPos = 1;
+  while (ScanPos < LineBuffer.size()) {
+    if (UseCommentMarkers && !SkipCommentsHere()) return;
+    if (!MayStartWord(CharacterAt(LineBuffer, ScanPos))) {
+      ScanPos += 1;
+      if (RestIsOneBlank()) return;
+      continue;
+    }
+    const Characters word = GetNextWord();
+    if (!word.empty()) TakeWord(word);
+    Yield();
+    if (StopRequested) return;
+  }
+}
+
+void LiteralEngine::PrepareLineBuffer() {
+  if (ReadingWordList) {
+    UseCommentMarkers = true;
+    return;
+  }
+  UseCommentMarkers = (choices.chkAllowCommentMarkers == 1 &&
+                       (!CommentStart[0].empty() || !CommentStart[1].empty())) ||
+                      ForceCommentMarkers;
+  LineBuffer = Replace(LineBuffer, U"--", U" ");
+  DecodeHtmlEntities(LineBuffer);
+}
+
+/// Whether the scan of this text goes on after the comments that are open or begin here.
+bool LiteralEngine::SkipCommentsHere() {
+  if (OpenComment == -1) OpenComment = FindCommentStart();
+  while (OpenComment >= 0) {
+    SkipComment();
+    if (ScanPos > LineBuffer.size()) return false;
+    if (RestIsOneBlank()) {
+      OpenComment = -1;
+      return false;
+    }
+    OpenComment = FindCommentStart();
+  }
+  return true;
+}
+
+bool LiteralEngine::MayStartWord(const Characters& ch) const {
+  return IsWordChar(ch, false, ExtraWordChars) && InStr(1, U"-'.,()", ch) == 0;
+}
+
+bool LiteralEngine::RestIsOneBlank() const {
+  return ScanPos == LineBuffer.size() && CharacterAt(LineBuffer, ScanPos) == U" ";
+}
+
+void LiteralEngine::TakeWord(const Characters& word) {
+  if (ReadingWordList) {
+    AddWord(word);
+    return;
+  }
+  WordsRead = Sum32(WordsRead, 1);
+  const Characters w = LowerCase(word);
+  const auto isIn = [&w](const WordList& list, bool sorted) {
+    return IsInList(w, list.entries, 1, list.count, sorted);
+  };
+  if (CountOnlyMode) {
+    if (isIn(ExtraCountOnlyList, false) || isIn(CountOnlyList, false)) AddWord(word);
+    return;
+  }
+  if (ExtraIgnoreList.count == 0 && IgnoreList.count == 0) {
+    AddWord(word);
+    return;
+  }
+  if (isIn(ExtraIgnoreList, false)) return;
+  if (isIn(IgnoreList, true)) return;
+  AddWord(word);
+}
+
+Characters LiteralEngine::GetNextWord() {
+  const std::size_t n = CountWordChars(LineBuffer, ScanPos, AllowFlags[10], ExtraWordChars);
+  Characters word = Mid(LineBuffer, ScanPos, n);
+  if (word.empty()) return word;
+  ScanPos += n;
+  word = TrimTrailingChars(word, U"-'.,:()");
+  if (choices.chkDropFinalS == 1 && !ReadingWordList) word = ApplyFinalSRule(word);
+  if (choices.chkAllowWordsWithApostrophes == 0 && !ReadingWordList) {
+    word = ApplyApostropheFragmentRule(word);
+  }
+  if (!word.empty() && ReadingWordList) NoteListWordChars(word);
+  return word;
+}
+
+int LiteralEngine::FindCommentStart() const {
+  for (const int i : {0, 1}) {
+    const Characters& marker = CommentStart[static_cast<std::size_t>(i)];
+    if (marker.empty()) continue;
+    if (LowerCase(Mid(LineBuffer, ScanPos, marker.size())) != LowerCase(marker)) continue;
+    if (i == 1 && marker == U"&" && ForceCommentMarkers) {
+      return HtmlEntityEnd(Mid(LineBuffer, ScanPos)) >= 1 ? 1 : -1;
+    }
+    return i;
+  }
+  return -1;
+}
+
+void LiteralEngine::SkipComment() {
+  const Characters e = LowerCase(CommentEnd[static_cast<std::size_t>(OpenComment)]);
+  if (e.empty()) {
+    ScanPos = LineBuffer.size() + 1;
+    OpenComment = -1;
+    return;
+  }
+  const std::size_t p = InStr(ScanPos, LineBuffer, e);
+  ScanPos = p > 0 ? p + e.size() : LineBuffer.size() + 1;
+}
+
+}  // namespace quillomat::reference

@@ -1,0 +1,151 @@
+// The texts that are delivered, and the table that says what they are for.
+#include "text/caption_table.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/utf8.h"
+#include "desktop/input_file.h"
+#include "text/program_text.h"
+#include "ui/help_form.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
+
+namespace quillomat {
+namespace {
+
+const std::string kTextFile = QUILLOMAT_TEST_DATA "/qlav_text.dat";
+
+constexpr std::string_view kOnThisPage =
+    "When text is being scanned you can ignore some words and you can "
+    "fine tune how the text is scanned by checking the boxes below.  Also you can "
+    "specify words to be ignored or words only to be counted by specifying files "
+    "containing these words.";
+
+const CaptionedControl* Captioned(const Control* control) {
+  return dynamic_cast<const CaptionedControl*>(control);
+}
+
+class DeliveredTextsTest : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_GT(text.LoadFile(kTextFile), 0); }
+
+  std::string In(Language language, int number) {
+    text.SetLanguage(language);
+    return text.GetText(number);
+  }
+
+  /// Every entry names a captioned control of the form, and its English text is the caption that
+  /// the control starts with.
+  void ExpectCaptionsOf(const Form& form, std::span<const ControlCaption> captions) {
+    std::set<std::string_view> seen;
+    for (const ControlCaption& entry : captions) {
+      SCOPED_TRACE(entry.control);
+      EXPECT_TRUE(seen.insert(entry.control).second);
+      const CaptionedControl* const control = Captioned(form.Find(entry.control));
+      ASSERT_NE(control, nullptr);
+      if (!control->Caption().empty()) {
+        EXPECT_EQ(In(Language::kEnglish, entry.text), control->Caption());
+      }
+      EXPECT_NE(In(Language::kEnglish, entry.text), "");
+      EXPECT_NE(In(Language::kGerman, entry.text), "");
+    }
+  }
+
+  ProgramText text;
+};
+
+/// The controls that start with a caption and have no entry.
+std::vector<std::string> WithoutEntry(const Form& form, std::span<const ControlCaption> captions) {
+  std::vector<std::string> names;
+  for (const Control* control : form.Controls()) {
+    const CaptionedControl* const captioned = Captioned(control);
+    if (captioned == nullptr || captioned->Caption().empty()) continue;
+    if (std::ranges::find(captions, control->Name(), &ControlCaption::control) == captions.end()) {
+      names.push_back(control->Name());
+    }
+  }
+  return names;
+}
+
+TEST_F(DeliveredTextsTest, MainWindow) {
+  const MainForm form;
+  ExpectCaptionsOf(form, kMainFormCaptions);
+  EXPECT_THAT(WithoutEntry(form, kMainFormCaptions),
+              testing::ElementsAre("cmdCountWords", "lblTwirler"));
+  EXPECT_EQ(In(Language::kEnglish, 21), form.cmdCountWords.Caption());
+}
+
+TEST_F(DeliveredTextsTest, Panel) {
+  const ParamsForm form;
+  ExpectCaptionsOf(form, kParamsFormCaptions);
+  EXPECT_THAT(WithoutEntry(form, kParamsFormCaptions), testing::IsEmpty());
+  EXPECT_EQ(In(Language::kEnglish, kParamsFormCaption), form.Caption());
+  EXPECT_NE(In(Language::kGerman, kParamsFormCaption), "");
+}
+
+TEST_F(DeliveredTextsTest, HelpWindow) {
+  const HelpForm form;
+  ExpectCaptionsOf(form, kHelpFormCaptions);
+  EXPECT_THAT(WithoutEntry(form, kHelpFormCaptions), testing::IsEmpty());
+  EXPECT_EQ(In(Language::kEnglish, kHelpFormCaption), form.Caption());
+  EXPECT_NE(In(Language::kGerman, kHelpFormCaption), "");
+}
+
+TEST_F(DeliveredTextsTest, ToolTips) {
+  const MainForm form;
+  for (const ControlCaption& entry : kMainFormToolTips) {
+    SCOPED_TRACE(entry.control);
+    EXPECT_NE(form.Find(entry.control), nullptr);
+    EXPECT_NE(In(Language::kEnglish, entry.text), "");
+    EXPECT_NE(In(Language::kGerman, entry.text), "");
+  }
+}
+
+TEST_F(DeliveredTextsTest, TextsWithARoleAreThere) {
+  for (const Language language : kLanguages) {
+    for (const int number : {1, 2, 14, 19, 20, 21, 22, 23, 310, 311, 312, 313}) {
+      EXPECT_NE(In(language, number), "") << number;
+    }
+    EXPECT_EQ(In(language, kProgramTitleText), "Quillomat");
+    EXPECT_EQ(In(language, kMakerAddressText), "https://quillomat.example/");
+  }
+}
+
+TEST_F(DeliveredTextsTest, PanelExplainsItself) {
+  EXPECT_EQ(In(Language::kEnglish, 201), kOnThisPage);
+}
+
+TEST_F(DeliveredTextsTest, CountCommandIsNeverCalledStop) {
+  EXPECT_EQ(In(Language::kEnglish, 21), "Count word frequencies");
+  EXPECT_NE(In(Language::kGerman, 21), "Stop");
+  EXPECT_NE(In(Language::kGerman, 21), In(Language::kEnglish, 21));
+}
+
+TEST_F(DeliveredTextsTest, LanguageCommandNamesTheOtherLanguage) {
+  EXPECT_EQ(In(Language::kEnglish, 123), "Deutsch");
+  EXPECT_EQ(In(Language::kGerman, 123), "English");
+}
+
+TEST_F(DeliveredTextsTest, SignsStandBehindTheirNamesInBothLanguages) {
+  for (int number = 203; number <= 213; ++number) {
+    const std::string english = In(Language::kEnglish, number);
+    const std::string sign = english.substr(english.rfind(' '));
+    EXPECT_TRUE(In(Language::kGerman, number).ends_with(sign)) << number;
+  }
+}
+
+TEST(DeliveredTextFile, NoTextIsLongerThan1024Characters) {
+  InputFile file(kTextFile);
+  TextTable texts;
+  ASSERT_GT(ReadTextTable(file, texts), 0);
+  for (const auto& [key, text] : texts) EXPECT_LE(CharacterCount(text), 1024U) << key.first;
+}
+
+}  // namespace
+}  // namespace quillomat
