@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/captions.h"
 #include "sources/window_state.h"
 
 namespace quillomat {
@@ -17,10 +18,15 @@ Program::Program(Desktop& desktop, EventPump::Clock clock)
       panel_(context, wordLists) {
   mainWindow_.Connect();
   panel_.Connect();
+  frmMain.cmdLanguage.Click.Connect([this] {
+    text.ToggleLanguage(context.desktop.UserKeys());
+    SetCaptions(text, frmMain, frmParams, frmHelp);
+  });
 }
 
 bool Program::Start() {
   if (!text.LoadProgramText("qlav_text.dat", context.desktop)) return false;
+  SetCaptions(text, frmMain, frmParams, frmHelp);
   mainWindow_.FillListCombos();
   frmParams.FillNumberCombos();
   frmMain.optFolder.SetValue(true);
@@ -28,6 +34,11 @@ bool Program::Start() {
   EnableControls(context, true);
   state.blnStartUpCompleted = true;
   return true;
+}
+
+void Program::UseLanguageOfRegistry() {
+  text.SetLanguage(ReadLanguage(context.desktop.UserKeys()));
+  SetCaptions(text, frmMain, frmParams, frmHelp);
 }
 
 bool Program::TakeControlsAsTheyAre() {

@@ -12,6 +12,7 @@
 #include "sources/word_list_reader.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
+#include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
 #include "ui/yielder.h"
@@ -23,8 +24,8 @@ class Program {
   /// `desktop` must outlive the program. Tests give a clock of their own.
   explicit Program(Desktop& desktop, EventPump::Clock clock = std::chrono::steady_clock::now);
 
-  /// Loads the program text, fills the lists and puts every setting to its default. False when the
-  /// program must end; the user has been told why.
+  /// Loads the program text, sets the captions in English, fills the lists and puts every setting
+  /// to its default. False when the program must end; the user has been told why.
   [[nodiscard]] bool Start();
 
   /// The controls were set from outside: works out what hangs on them. Typed lists are parsed,
@@ -32,8 +33,12 @@ class Program {
   /// a words file could not be read.
   bool TakeControlsAsTheyAre();
 
+  /// The language that the user chose last becomes current.
+  void UseLanguageOfRegistry();
+
   MainForm frmMain;
   ParamsForm frmParams;
+  HelpForm frmHelp;
 
   CountState state;
   EventPump pump;

@@ -6,12 +6,11 @@
 #include <ostream>
 #include <string_view>
 
+#include "app/captions.h"
 #include "cli/exit_status.h"
 
 namespace quillomat {
 namespace {
-
-constexpr std::string_view kVersion = "7.07";
 
 /// Options that the program will have, and does not have yet.
 constexpr std::array<std::string_view, 3> kNotAvailableYet = {"--state", "--save-state",
@@ -115,7 +114,7 @@ ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostre
   }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
   app.set_help_flag("--help", "Print this help");
-  app.set_version_flag("--version", "quillomat-cli " + std::string(kVersion));
+  app.set_version_flag("--version", "quillomat-cli " + VersionText());
   app.footer(kFooter);
   std::vector<std::string> set;
   std::vector<std::string> answers;

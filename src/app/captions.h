@@ -1,0 +1,21 @@
+// The windows' captions and tool tips in the current language.
+#pragma once
+
+#include <string>
+
+#include "text/program_text.h"
+#include "ui/help_form.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
+
+namespace quillomat {
+
+/// The program's version as it is shown: the major number, a point, the minor number, and a 7.
+[[nodiscard]] std::string VersionText();
+
+/// Sets all captions that are numbered texts. While a count runs its command goes on reading
+/// "Stop".
+void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
+                 HelpForm& frmHelp);
+
+}  // namespace quillomat
