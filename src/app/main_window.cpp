@@ -9,14 +9,22 @@
 #include "listing/set_the_focus.h"
 #include "listing/summary.h"
 #include "sources/window_state.h"
+#include "text/help_text.h"
+#include "text/shell_helpers.h"
 
 namespace quillomat {
+namespace {
+
+constexpr std::string_view kBuildDate = "20070708";
+
+}  // namespace
 
 void MainWindow::Connect() {
   ConnectSource();
   ConnectFiles();
   ConnectFolder();
   ConnectOutput();
+  ConnectNotices();
   MainForm& frmMain = context_.frmMain;
   frmMain.cmdCountWords.Click.Connect([this] { countRun_.OnCountClick(); });
   frmMain.cmdSetParameters.Click.Connect([this] { context_.frmParams.Show(); });
@@ -139,6 +147,19 @@ void MainWindow::ConnectOutput() {
   });
   frmMain.chkDisableOutputToFile.Click.Connect([this] { countRun_.OnDisableOutputClick(); });
   frmMain.chkSuppressWords.Click.Connect([this] { OnSuppressWordsClick(); });
+}
+
+void MainWindow::ConnectNotices() {
+  MainForm& frmMain = context_.frmMain;
+  frmMain.lblOrvandelSystems.Click.Connect(
+      [this] { LaunchBrowser(context_.desktop, context_.text.GetText(kMakerAddressText)); });
+  frmMain.lblOnlineDocumentation.Click.Connect(
+      [this] { LaunchBrowser(context_.desktop, std::string(kOnlineDocumentation)); });
+  frmMain.lblCopyrightNotice.DoubleClick.Connect([this] {
+    Tell(context_, std::string(kBuildDate.substr(kBuildDate.size() - 5)), "", MessageIcon::kNone);
+  });
+  frmMain.cmdClipboardViewer.Click.Connect(
+      [this] { OpenDocument(context_.desktop, context_.state.clipboardViewerPath, false); });
 }
 
 void MainWindow::OnSuppressWordsClick() {

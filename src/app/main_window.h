@@ -22,6 +22,7 @@ class MainWindow {
   void ConnectFiles();
   void ConnectFolder();
   void ConnectOutput();
+  void ConnectNotices();
   void OnSuppressWordsClick();
   void ChooseInputFile();
   void ChooseOutputFile();

@@ -2,7 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
 
+#include "base/text_helpers.h"
 #include "listing/set_the_focus.h"
 #include "sources/panel_choices.h"
 
@@ -13,10 +18,97 @@ constexpr int kDefaultShortWordSizeIndex = 1;
 constexpr int kDefaultLongWordSizeIndex = 3;
 constexpr int kDefaultThresholdFrequencyIndex = 0;
 
+/// The boxes that decide how text is scanned: a change of theirs makes the counts on display
+/// outdated.
+std::vector<CheckBox*> ScanningBoxes(ParamsForm& panel) {
+  const auto allow = panel.AllowCheckBoxes();
+  std::vector<CheckBox*> boxes(allow.begin(), allow.end());
+  boxes.insert(boxes.end(),
+               {&panel.chkCaseSignificant, &panel.chkDropFinalS, &panel.chkAllowCommentMarkers});
+  return boxes;
+}
+
+/// All boxes in the order in which "Clear checkboxes" and "Set checkboxes" go through them.
+std::vector<CheckBox*> BoxesInClearingOrder(ParamsForm& panel) {
+  const auto allow = panel.AllowCheckBoxes();
+  std::vector<CheckBox*> boxes(allow.begin(), allow.end());
+  boxes.insert(
+      boxes.end(),
+      {&panel.chkCaseSignificant, &panel.chkDropFinalS, &panel.chkIgnoreInfrequentWords,
+       &panel.chkIgnoreRepetitions, &panel.chkIgnoreRomNum40, &panel.chkIgnoreNoVowelOrY,
+       &panel.chkIgnoreShortWords, &panel.chkOutputWithCommas, &panel.chkUseLog10,
+       &panel.chkAllowCommentMarkers, &panel.chkWarnOnOverwrite, &panel.chkSaveStateOnQuit});
+  return boxes;
+}
+
 }  // namespace
 
-void ParametersPanel::Connect() {
+void ParametersPanel::Connect(std::function<void()> initialize) {
+  initialize_ = std::move(initialize);
+  ConnectScanningBoxes();
+  ConnectListingChoices();
+  ConnectMarkers();
   ConnectWordLists();
+  ConnectCommands();
+}
+
+void ParametersPanel::ConnectScanningBoxes() {
+  for (CheckBox* box : ScanningBoxes(context_.frmParams)) {
+    box->Click.Connect([this, box] { OnScanningBoxClick(*box); });
+  }
+}
+
+void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
+  CountState& state = context_.state;
+  if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return;
+  if (ConfirmReRead()) return;
+  // No unchecks the box, whichever way it was clicked.
+  state.blnInhibitPrompt = true;
+  box.SetChecked(false);
+  state.blnInhibitPrompt = false;
+}
+
+bool ParametersPanel::ConfirmReRead() {
+  const MainForm& frmMain = context_.frmMain;
+  std::string source = "clipboard";
+  if (frmMain.optInFile.Value()) source = "file";
+  if (frmMain.optFolder.Value()) source = "files";
+  const MessageAnswer answer = context_.desktop.ShowMessage(
+      {"Changing this entails reading the " + source + " anew.  Is this OK?",
+       context_.text.GetText(kProgramTitleText), MessageIcon::kQuestion, MessageButtons::kYesNo});
+  if (answer != MessageAnswer::kYes) return false;
+  context_.state.blnWordsGot = false;
+  return true;
+}
+
+void ParametersPanel::ConnectListingChoices() {
+  ParamsForm& panel = context_.frmParams;
+  for (CheckBox* box :
+       {&panel.chkIgnoreShortWords, &panel.chkIgnoreInfrequentWords, &panel.chkIgnoreRepetitions,
+        &panel.chkIgnoreRomNum40, &panel.chkIgnoreNoVowelOrY}) {
+    box->Click.Connect([this] { FocusClose(); });
+  }
+  for (ComboBox* combo :
+       {&panel.cboShortWordSize, &panel.cboLongWordSize, &panel.cboThresholdFrequency}) {
+    combo->Click.Connect([this] { FocusClose(); });
+  }
+}
+
+void ParametersPanel::FocusClose() {
+  ParamsForm& panel = context_.frmParams;
+  if (context_.state.blnStartUpCompleted) panel.SetFocus(panel.cmdClose);
+}
+
+void ParametersPanel::ConnectMarkers() {
+  ParamsForm& panel = context_.frmParams;
+  for (std::size_t pair = 0; pair < 2; ++pair) {
+    for (TextBox* box : {&panel.txbStartComment[pair], &panel.txbEndComment[pair]}) {
+      box->LostFocus.Connect([this, box] {
+        box->SetText(std::string(TrimBlanks(box->Text())));
+        context_.state.blnWordsGot = false;
+      });
+    }
+  }
 }
 
 void ParametersPanel::ConnectWordLists() {
@@ -30,10 +122,34 @@ void ParametersPanel::ConnectWordLists() {
     panel.cmdClearWordsToIgnoreOrCount[i].Click.Connect([this, kind, i] {
       context_.frmParams.txbWordsToIgnoreOrCount[i].SetText("");
       wordLists_.OnExtraWordsLostFocus(kind);
-      context_.frmParams.Hide();
-      SetTheFocus(context_.frmMain);
+      Close();
     });
   }
+}
+
+void ParametersPanel::ConnectCommands() {
+  ParamsForm& panel = context_.frmParams;
+  panel.cmdClearCheckboxes[0].Click.Connect([this] { SetAllCheckBoxes(CheckState::kUnchecked); });
+  panel.cmdClearCheckboxes[1].Click.Connect([this] { SetAllCheckBoxes(CheckState::kChecked); });
+  panel.cmdRestoreDefaults.Click.Connect([this] {
+    SetDefaultValues();
+    FocusClose();
+  });
+  panel.cmdInitialize.Click.Connect([this] {
+    initialize_();
+    context_.frmParams.lblState.SetCaption("Program reinitialized.");
+  });
+  panel.cmdClose.Click.Connect([this] { Close(); });
+  panel.CloseRequested.Connect([this] { Close(); });
+}
+
+void ParametersPanel::Close() {
+  context_.frmParams.Hide();
+  SetTheFocus(context_.frmMain);
+}
+
+void ParametersPanel::SetAllCheckBoxes(CheckState state) {
+  for (CheckBox* box : BoxesInClearingOrder(context_.frmParams)) box->SetValue(state);
 }
 
 void ParametersPanel::SetDefaultValues() {
@@ -57,8 +173,9 @@ void ParametersPanel::SetDefaultCheckBoxes() {
       &panel.chkWarnOnOverwrite,      &panel.chkSaveStateOnQuit,
       &panel.chkAllowWordsWithHyphens};
   for (CheckBox* box : panel.AllCheckBoxes()) {
-    box->SetChecked(std::find(checkedByDefault.begin(), checkedByDefault.end(), box) !=
-                    checkedByDefault.end());
+    const bool isChecked =
+        std::find(checkedByDefault.begin(), checkedByDefault.end(), box) != checkedByDefault.end();
+    box->SetChecked(isChecked);
   }
 }
 

@@ -1,6 +1,8 @@
 // The parameters panel: what its commands and boxes do. The values themselves are its controls'.
 #pragma once
 
+#include <functional>
+
 #include "sources/run_context.h"
 #include "sources/word_list_reader.h"
 
@@ -11,18 +13,29 @@ class ParametersPanel {
   ParametersPanel(const RunContext& context, WordListReader& wordLists)
       : context_(context), wordLists_(wordLists) {}
 
-  /// Connects the panel's controls with what they do. Called once.
-  void Connect();
+  /// Connects the panel's controls with what they do. Called once. `initialize` puts the program
+  /// into its initial state.
+  void Connect(std::function<void()> initialize);
 
   /// Puts every parameter to its default.
   void SetDefaultValues();
 
  private:
-  void SetDefaultCheckBoxes();
+  void ConnectScanningBoxes();
+  void ConnectListingChoices();
+  void ConnectMarkers();
   void ConnectWordLists();
+  void ConnectCommands();
+  void OnScanningBoxClick(CheckBox& box);
+  [[nodiscard]] bool ConfirmReRead();
+  void SetAllCheckBoxes(CheckState state);
+  void SetDefaultCheckBoxes();
+  void FocusClose();
+  void Close();
 
   const RunContext& context_;
   WordListReader& wordLists_;
+  std::function<void()> initialize_;
 };
 
 }  // namespace quillomat

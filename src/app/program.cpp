@@ -1,61 +1,149 @@
 #include "app/program.h"
 
+#include <cstddef>
 #include <utility>
 
 #include "app/captions.h"
+#include "base/run_time_error.h"
+#include "desktop/file_system.h"
+#include "desktop/settings_folder.h"
+#include "listing/set_the_focus.h"
+#include "listing/summary.h"
 #include "sources/window_state.h"
+#include "text/language.h"
+#include "text/shell_helpers.h"
 
 namespace quillomat {
+namespace {
+
+constexpr const char* kProgramTextFile = "qlav_text.dat";
+constexpr const char* kSettingsFile = "qlav.usr";
+
+/// The root of the current drive; where that cannot be had, the folder stays as it is.
+void MoveToRootFolder() {
+  try {
+    SetCurrentFolder(RootFolder());
+  } catch (const RunTimeError&) {
+    return;
+  }
+}
+
+}  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
     : pump(desktop, std::move(clock)),
       output(frmMain, desktop),
       lister(frmMain, frmParams, desktop, pump, state, output),
-      context{frmMain, frmParams, desktop, pump, text, state, output, lister},
+      context{frmMain, frmParams, desktop, pump, text, state, output, lister, becameIdle_},
       countRun(context),
       wordLists(context),
+      savedState(context, countRun, wordLists),
       mainWindow_(context, countRun),
-      panel_(context, wordLists) {
+      panel_(context, wordLists),
+      help_(context, frmHelp) {
+  Connect();
+}
+
+void Program::Connect() {
   mainWindow_.Connect();
-  panel_.Connect();
-  frmMain.cmdLanguage.Click.Connect([this] {
-    text.ToggleLanguage(context.desktop.UserKeys());
-    SetCaptions(text, frmMain, frmParams, frmHelp);
+  panel_.Connect([this] { Initialize(); });
+  help_.Connect();
+  savedState.Connect([this] { Initialize(); });
+  frmMain.cmdLanguage.Click.Connect([this] { ToggleLanguage(); });
+  frmMain.cmdQuit.Click.Connect([this] { Quit(); });
+  frmMain.CloseRequested.Connect([this] { Quit(); });
+  becameIdle_.Connect([this] {
+    if (state.quitting) End();
   });
 }
 
-bool Program::Start() {
-  if (!text.LoadProgramText("qlav_text.dat", context.desktop)) return false;
+bool Program::Start(const StartOptions& options) {
+  state.blnStartUpCompleted = false;
+  if (options.userSettings) {
+    UseSettingsFolder();
+    text.SetLanguage(ReadLanguage(context.desktop.UserKeys()));
+  }
+  if (!text.LoadProgramText(kProgramTextFile, context.desktop)) return false;
   SetCaptions(text, frmMain, frmParams, frmHelp);
-  mainWindow_.FillListCombos();
-  frmParams.FillNumberCombos();
-  frmMain.optFolder.SetValue(true);
-  panel_.SetDefaultValues();
   EnableControls(context, true);
+  FillLists();
+  ConcealNumWords(frmMain, true);
+  if (options.window) frmMain.Show();
+  EnableControls(context, true);
+  Initialize();
+  if (options.userSettings) RestoreUserSettings();
+  EnableSourceControls(context);
+  if (options.window) MoveToRootFolder();
+  SetTheFocus(frmMain);
   state.blnStartUpCompleted = true;
   return true;
 }
 
-void Program::UseLanguageOfRegistry() {
-  text.SetLanguage(ReadLanguage(context.desktop.UserKeys()));
+void Program::FillLists() {
+  wordLists.SetPathToCWDs_Eng();
+  mainWindow_.FillListCombos();
+  frmParams.FillNumberCombos();
+  state.clipboardViewerPath = FindClipboardViewer();
+  frmMain.cmdClipboardViewer.SetEnabled(!state.clipboardViewerPath.empty());
+}
+
+void Program::Initialize() {
+  frmMain.optFolder.SetValue(true);
+  frmMain.lblFilesize.SetCaption("");
+  frmMain.lblTwirler.SetCaption(" ");
+  state.settings.OpenComment = -1;
+  frmMain.txbFolder.SetText("");
+  frmParams.txbStateFile.SetText("");
+  for (std::size_t i = 0; i < 2; ++i) {
+    frmMain.txbFile[i].SetText("");
+    frmMain.txbFileExtensions[i].SetText("");
+    countRun.Extensions().OnLostFocus(static_cast<ExtensionList>(i));
+    wordLists.ClearWordsFile(static_cast<WordListKind>(i));
+    frmParams.txbWordsToIgnoreOrCount[i].SetText("");
+    wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
+  }
+  panel_.SetDefaultValues();
+  frmMain.chkSuppressWords.SetChecked(false);
+  state.displayingWords = false;
+  frmMain.cboWordOrder.SetListIndex(0);
+  frmMain.cboDisplayFormat.SetListIndex(0);
+}
+
+void Program::UseSettingsFolder() {
+  savedState.SetSettingsFilePath(SettingsFilePath(kSettingsFile, std::string(kSettingsFolderName)));
+}
+
+void Program::RestoreUserSettings() {
+  const RestoreResult result = savedState.RestoreSavedState("");
+  if (result != RestoreResult::kInvalidIndex && result != RestoreResult::kError) return;
+  Refuse(context,
+         result == RestoreResult::kInvalidIndex
+             ? "Invalid combo box index when attempting to load previous state."
+             : "Error when attempting to load previous state: " + savedState.ErrorDescription(),
+         "Load state");
+  Initialize();
+}
+
+void Program::ToggleLanguage() {
+  text.ToggleLanguage(context.desktop.UserKeys());
   SetCaptions(text, frmMain, frmParams, frmHelp);
 }
 
-bool Program::TakeControlsAsTheyAre() {
-  for (std::size_t i = 0; i < 2; ++i) {
-    countRun.Extensions().OnLostFocus(static_cast<ExtensionList>(i));
-    wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
-    if (frmParams.txbStartComment[i].Text().empty()) frmParams.txbEndComment[i].SetText("");
+void Program::Quit() {
+  if (ended_) return;
+  if (!state.busy) return End();
+  state.quitting = true;
+  state.StopRequested = true;
+}
+
+void Program::End() {
+  if (ended_) return;
+  ended_ = true;
+  if (frmParams.chkSaveStateOnQuit.IsChecked()) {
+    const std::string error = savedState.SaveState("");
+    if (!error.empty()) Refuse(context, error, "Error");
   }
-  if (frmParams.txbStartComment[0].Text().empty() && frmParams.txbStartComment[1].Text().empty()) {
-    frmParams.chkAllowCommentMarkers.SetChecked(false);
-  }
-  bool ok = true;
-  for (std::size_t i = 0; i < 2; ++i) {
-    const bool given = !frmParams.txbWordsFile[i].Text().empty();
-    if (given && !wordLists.AttemptToReadWords(static_cast<WordListKind>(i))) ok = false;
-  }
-  return ok;
+  Ended.Fire();
 }
 
 }  // namespace quillomat

@@ -1,9 +1,13 @@
-// The whole program without a screen: its windows' controls, what is behind them, and the
-// connections between. A face makes one, shows its windows and passes on what the user does.
+// The whole program without a screen: its windows' controls, what is behind them, and how it starts
+// and ends. A face makes one, shows its windows and passes on what the user does.
 #pragma once
 
+#include <chrono>
+
+#include "app/help_window.h"
 #include "app/main_window.h"
 #include "app/parameters_panel.h"
+#include "app/saved_state.h"
 #include "listing/count_state.h"
 #include "listing/output_box.h"
 #include "listing/word_lister.h"
@@ -12,6 +16,7 @@
 #include "sources/word_list_reader.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
+#include "ui/event.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -19,27 +24,48 @@
 
 namespace quillomat {
 
+/// How a face wants the program to start.
+struct StartOptions {
+  /// Restore the state that the settings file holds, and use the language chosen last. Without it
+  /// the start is that of a new user, and nothing is looked up.
+  bool userSettings = true;
+  /// Show the main window and make the root folder current. A terminal keeps its folder.
+  bool window = true;
+};
+
 class Program {
  public:
   /// `desktop` must outlive the program. Tests give a clock of their own.
   explicit Program(Desktop& desktop, EventPump::Clock clock = std::chrono::steady_clock::now);
 
-  /// Loads the program text, sets the captions in English, fills the lists and puts every setting
-  /// to its default. False when the program must end; the user has been told why.
-  [[nodiscard]] bool Start();
+  /// Makes the program ready for a count. False when it must end; the user has been told why.
+  [[nodiscard]] bool Start(const StartOptions& options = {});
 
-  /// The controls were set from outside: works out what hangs on them. Typed lists are parsed,
-  /// words files read, markers without a start dropped; the user is told what is wrong. False when
-  /// a words file could not be read.
-  bool TakeControlsAsTheyAre();
+  /// Puts the windows into their initial, empty state with default parameters.
+  void Initialize();
 
-  /// The language that the user chose last becomes current.
-  void UseLanguageOfRegistry();
+  /// From now on the empty path of a state file means the one in the user's settings folder.
+  void UseSettingsFolder();
+
+  /// Restores the user's settings; a file that cannot be used is told of and has no effect.
+  void RestoreUserSettings();
+
+  /// Saves the settings if the user wants that, and fires Ended. A run that is at work is stopped
+  /// first, and Ended is fired when it has come to its end.
+  void Quit();
+  [[nodiscard]] bool HasEnded() const { return ended_; }
+
+  /// The program is over: a face closes its windows.
+  Event<> Ended;
 
   MainForm frmMain;
   ParamsForm frmParams;
   HelpForm frmHelp;
 
+ private:
+  Event<> becameIdle_;
+
+ public:
   CountState state;
   EventPump pump;
   ProgramText text;
@@ -48,10 +74,18 @@ class Program {
   RunContext context;
   CountRun countRun;
   WordListReader wordLists;
+  SavedState savedState;
 
  private:
+  void Connect();
+  void FillLists();
+  void ToggleLanguage();
+  void End();
+
   MainWindow mainWindow_;
   ParametersPanel panel_;
+  HelpWindow help_;
+  bool ended_ = false;
 };
 
 }  // namespace quillomat

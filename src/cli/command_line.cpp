@@ -12,10 +12,6 @@
 namespace quillomat {
 namespace {
 
-/// Options that the program will have, and does not have yet.
-constexpr std::array<std::string_view, 3> kNotAvailableYet = {"--state", "--save-state",
-                                                              "--user-settings"};
-
 constexpr const char* kFooter =
     "Controls for --set are those of the main window and the panel, by name:\n"
     "  --set chkDropFinalS=1   --set 'txbFileExtensions(0)=txt htm'   --set cboLongWordSize=20\n"
@@ -48,6 +44,13 @@ void DefineOptions(CLI::App& app, CommandLine& options, std::vector<std::string>
   app.add_option("--set", set, "Set a control before the count; may be repeated")
       ->type_name("CONTROL=VALUE")
       ->allow_extra_args(false);
+  app.add_option("--state", options.state, "Start from the settings in a state file")
+      ->type_name("FILE");
+  app.add_option("--save-state", options.saveState,
+                 "Write the settings of this count to a state file")
+      ->type_name("FILE");
+  app.add_flag("--user-settings", options.userSettings,
+               "Start from the settings that the program saved when the user quit");
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
@@ -78,25 +81,15 @@ std::string OneLine(std::string text) {
   return text;
 }
 
-/// The first argument that is an option of a later version, or "".
-std::string_view FindNotAvailable(int argc, const char* const* argv) {
-  for (int i = 1; i < argc; ++i) {
-    const std::string_view argument(argv[i]);
-    const std::string_view name = argument.substr(0, argument.find('='));
-    if (std::find(kNotAvailableYet.begin(), kNotAvailableYet.end(), name) !=
-        kNotAvailableYet.end()) {
-      return name;
-    }
-  }
-  return {};
-}
-
 void CheckCombinations(const CommandLine& options) {
   const auto needsFolder = [&](bool given, const char* option) {
     if (given && !options.folder) throw CLI::ValidationError(option, "goes with --folder");
   };
   needsFolder(options.subfolders, "--subfolders");
   needsFolder(options.listFiles, "--list-files");
+  if (options.state && options.userSettings) {
+    throw CLI::ValidationError("--state", "does not go with --user-settings");
+  }
 }
 
 }  // namespace
@@ -108,10 +101,6 @@ ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostre
     err << "quillomat-cli: " << OneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
-  if (const std::string_view option = FindNotAvailable(argc, argv); !option.empty()) {
-    fail(std::string(option) + ": not available yet");
-    return result;
-  }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
   app.set_help_flag("--help", "Print this help");
   app.set_version_flag("--version", "quillomat-cli " + VersionText());

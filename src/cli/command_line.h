@@ -23,6 +23,10 @@ struct CommandLine {
   std::optional<std::string> order;
   std::optional<std::string> format;
   std::optional<std::string> output;
+  /// A state file to start from, and one to write the settings into.
+  std::optional<std::string> state;
+  std::optional<std::string> saveState;
+  bool userSettings = false;
   /// Names and values of controls.
   std::vector<std::pair<std::string, std::string>> set;
   /// Titles of message boxes and the answers to them.

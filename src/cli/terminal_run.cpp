@@ -27,11 +27,12 @@ class TerminalRun {
       : options_(options), err_(err), desktop_(err, options.answers), program_(desktop_) {}
 
   int Run() {
-    if (!program_.Start()) return kRunFailed;
+    if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
+    program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
+    if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
     if (!CheckInput() || !ChooseSource()) return kRunFailed;
-    TakeEffect();
-    if (desktop_.ProblemShown()) return kRunFailed;
+    if (!TakeEffect() || !SaveState()) return kRunFailed;
     return options_.listFiles ? ListFiles() : Count();
   }
 
@@ -41,9 +42,30 @@ class TerminalRun {
     return false;
   }
 
+  bool ReadState() {
+    if (!options_.state && !options_.userSettings) return true;
+    if (options_.userSettings) program_.UseSettingsFolder();
+    const std::string path = options_.state.value_or("");
+    switch (program_.savedState.ReadControls(path)) {
+      case RestoreResult::kNoFile:
+        // Whoever has never saved settings has those of a first start.
+        return options_.userSettings || Fail(path + " does not exist; check the path");
+      case RestoreResult::kError:
+        return Fail((path.empty() ? std::string("the user's settings") : path) +
+                    " cannot be used as a state: " + program_.savedState.ErrorDescription());
+      default:
+        return true;
+    }
+  }
+
+  bool SaveState() {
+    if (!options_.saveState) return true;
+    const std::string error = program_.savedState.SaveState(*options_.saveState);
+    return error.empty() || Fail(*options_.saveState + ": " + error);
+  }
+
   bool ApplyChoices() {
     MainForm& frmMain = program_.frmMain;
-    program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
     for (const auto& [name, value] : options_.set) {
       if (const auto fault = SetControl(frmMain, program_.frmParams, name, value)) {
         return Fail("--set: " + *fault);
@@ -52,7 +74,6 @@ class TerminalRun {
     if (options_.order && !ChooseOrder(*options_.order)) return false;
     if (options_.format && !ChooseFormat(*options_.format)) return false;
     if (options_.output) frmMain.txbFile[1].SetText(*options_.output);
-    program_.state.blnStartUpCompleted = true;
     return true;
   }
 
@@ -136,7 +157,12 @@ class TerminalRun {
 
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
   /// state.
-  void TakeEffect() { program_.TakeControlsAsTheyAre(); }
+  bool TakeEffect() {
+    program_.state.blnStartUpCompleted = true;
+    const RestoreResult result = program_.savedState.TakeControlsAsTheyAre();
+    if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
+    return result == RestoreResult::kRestored && !desktop_.ProblemShown();
+  }
 
   int ListFiles() {
     program_.frmMain.cmdListFiles.PerformClick();
@@ -147,10 +173,10 @@ class TerminalRun {
   int Count() {
     program_.lister.SetTextBoxWanted(options_.windowText);
     if (!program_.lister.CheckDisplayFormat()) return kRunFailed;
+    const bool toFile = HasOutputFile();
     program_.frmMain.cmdCountWords.PerformClick();
     PrintSkipped();
     if (options_.summary) PrintSummary();
-    const bool written = options_.output ? program_.lister.FileWritten() : true;
     const bool made = program_.countRun.ListWasMade();
     if (options_.windowText) {
       return PrintWindowText() && made && !desktop_.ProblemShown() ? kListMade : kRunFailed;
@@ -159,8 +185,14 @@ class TerminalRun {
       PrintOutputAsMessage();
       return kRunFailed;
     }
-    if (!options_.output && !PrintList()) return kRunFailed;
-    return written && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+    const bool printed = toFile ? program_.lister.FileWritten() : PrintList();
+    return printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+  }
+
+  /// Whether the list goes to a file, by --output, a state or a setting.
+  bool HasOutputFile() const {
+    return !program_.frmMain.txbFile[1].Text().empty() &&
+           !program_.frmMain.chkDisableOutputToFile.IsChecked();
   }
 
   void PrintSkipped() {

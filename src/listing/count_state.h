@@ -49,6 +49,13 @@ struct CountState {
   bool blnStartUpCompleted = false;
   /// The counts on display were obtained under the current parameters.
   bool blnWordsGot = false;
+  /// The panel does not ask whether the text may be read anew.
+  bool blnInhibitPrompt = false;
+
+  /// The program that shows the clipboard, or "".
+  std::string clipboardViewerPath;
+  /// The user wants to quit as soon as the run has ended.
+  bool quitting = false;
 
   [[nodiscard]] CountedWords Counted() const { return {store, ranking, totals}; }
 

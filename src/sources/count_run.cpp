@@ -41,6 +41,7 @@ void CountRun::OnCountClick() {
   EnableListOptions(frmMain, true);
   EnableSourceOptions(frmMain, true);
   state.StopRequested = false;
+  context_.becameIdle.Fire();
 }
 
 void CountRun::RunCount() {
@@ -123,6 +124,7 @@ void CountRun::ReportInputFileError(ScanFileResult code) {
 bool CountRun::HandleInterruption() {
   CountState& state = context_.state;
   if (!state.StopRequested) return true;
+  if (state.quitting) return false;
   state.StopRequested = false;
   const std::string lineBreak(kCrLf);
   if (!context_.output.IsEmpty()) context_.output.OutputToTxb(lineBreak + lineBreak);
@@ -209,6 +211,7 @@ void CountRun::OnListFilesClick() {
   EnableSourceOptions(frmMain, true);
   EnableListOptions(frmMain, true);
   context_.state.StopRequested = false;
+  context_.becameIdle.Fire();
 }
 
 void CountRun::OnListChoiceChanged() {
@@ -241,13 +244,16 @@ void CountRun::OnDisableOutputClick() {
 
 void CountRun::ListAgain() {
   MainForm& frmMain = context_.frmMain;
-  const BusyGuard busy(context_);
-  EnableListOptions(frmMain, false);
-  frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
-  context_.lister.ListWords();
-  frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
-  EnableListOptions(frmMain, true);
+  {
+    const BusyGuard busy(context_);
+    EnableListOptions(frmMain, false);
+    frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+    context_.lister.ListWords();
+    frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
+    EnableListOptions(frmMain, true);
+  }
   context_.state.StopRequested = false;
+  context_.becameIdle.Fire();
 }
 
 }  // namespace quillomat

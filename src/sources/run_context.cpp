@@ -34,7 +34,8 @@ std::string Grouped(const RunContext& context, std::int64_t number) {
   return GroupDigits(number, context.desktop.DigitGroupSeparator());
 }
 
-BusyGuard::BusyGuard(const RunContext& context) : state_(context.state) {
+BusyGuard::BusyGuard(const RunContext& context)
+    : state_(context.state), before_(context.state.busy) {
   state_.busy = true;
   for (Control* command : CommandsThatTouchWords(context.frmParams)) {
     if (!command->Enabled()) continue;
@@ -45,7 +46,7 @@ BusyGuard::BusyGuard(const RunContext& context) : state_(context.state) {
 
 BusyGuard::~BusyGuard() {
   for (Control* command : disabled_) command->SetEnabled(true);
-  state_.busy = false;
+  state_.busy = before_;
 }
 
 }  // namespace quillomat

@@ -10,6 +10,7 @@
 #include "listing/word_lister.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
+#include "ui/event.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
 #include "ui/yielder.h"
@@ -25,6 +26,8 @@ struct RunContext {
   CountState& state;
   OutputBox& output;
   WordLister& lister;
+  /// Fired when a run, a listing or the reading of a words file has come to its end.
+  Event<>& becameIdle;
 };
 
 /// Shows a message box with an OK button.
@@ -49,6 +52,7 @@ class BusyGuard {
 
  private:
   CountState& state_;
+  bool before_;
   /// Those that were enabled.
   std::vector<Control*> disabled_;
 };

@@ -11,7 +11,7 @@ void EnableControls(const RunContext& context, bool enable) {
     DisableSourceControls(context);
   }
   MainForm& frmMain = context.frmMain;
-  frmMain.cmdClipboardViewer.SetEnabled(enable);
+  frmMain.cmdClipboardViewer.SetEnabled(enable && !context.state.clipboardViewerPath.empty());
   frmMain.cmdHelp.SetEnabled(enable);
   frmMain.cmdSetParameters.SetEnabled(enable);
   frmMain.cmdClearOutput.SetEnabled(enable);

@@ -186,6 +186,7 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
     PathBox(kind).SetText("");
   }
   context_.output.RestoreOutputText();
+  context_.becameIdle.Fire();
   return ok;
 }
 

@@ -10,7 +10,6 @@ namespace quillomat {
 namespace {
 
 using testing::HasSubstr;
-using testing::Not;
 
 struct Parsed {
   ParsedCommandLine result;
@@ -84,11 +83,13 @@ TEST(CommandLine, FolderOptionsGoWithFolderOnly) {
   ExpectWrong({"--file", "a", "--list-files"}, "--list-files");
 }
 
-TEST(CommandLine, OptionsToComeAreNotAvailableYetAndNotInTheHelp) {
-  for (const char* option : {"--state", "--save-state", "--user-settings"}) {
-    ExpectWrong({"--file", "a", option}, std::string(option) + ": not available yet");
-    EXPECT_THAT(Parse({"--help"}).out, Not(HasSubstr(option)));
-  }
+TEST(CommandLine, TakesOptionsOfState) {
+  const Parsed parsed = Parse({"--file", "a", "--state", "b.qlm", "--save-state", "c.qlm"});
+  ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
+  EXPECT_EQ(parsed.result.options.state, "b.qlm");
+  EXPECT_EQ(parsed.result.options.saveState, "c.qlm");
+  EXPECT_TRUE(Parse({"--file", "a", "--user-settings"}).result.options.userSettings);
+  ExpectWrong({"--file", "a", "--state", "b.qlm", "--user-settings"}, "--state");
 }
 
 TEST(CommandLine, HelpAndVersionGoToStandardOutput) {

@@ -102,6 +102,25 @@ check "an unknown control" 2 --file cat.txt --set nonsense=1
 holds err "nonsense"
 check "a wrong value" 2 --file cat.txt --set chkDropFinalS=7
 holds err "chkDropFinalS"
+check "settings are saved to a state file" 0 --file cat.txt --set chkDropFinalS=1 \
+  --set 'txbWordsToIgnoreOrCount(0)=dog' --save-state mine.qlm
+[ "$(wc -l <mine.qlm)" -eq 45 ] || { echo "FAILED $name: not 45 lines"; failed=1; }
+check "settings come from a state file" 0 --file cat.txt --state mine.qlm --format 8
+grep -qx dog out && { echo "FAILED $name"; failed=1; }
+check "a missing state file" 1 --file cat.txt --state missing.qlm
+holds err "missing.qlm"
+head -n 44 mine.qlm >short.qlm
+check "a state file that is cut" 1 --file cat.txt --state short.qlm
+holds err "Input past end of file"
+XDG_CONFIG_HOME=$work/config
+export XDG_CONFIG_HOME
+check "a user without settings has those of a first start" 0 --file cat.txt --user-settings
+mkdir -p "config/Orvandel Systems"
+cp mine.qlm "config/Orvandel Systems/qlav.usr"
+check "the user's settings are used on demand" 0 --file cat.txt --user-settings --format 8
+grep -qx dog out && { echo "FAILED $name"; failed=1; }
+check "the user's settings are left alone otherwise" 0 --file cat.txt --format 8
+holds out "dog"
 check "a list on a full disk" 1 --file cat.txt --output /dev/full \
   --set chkWarnOnOverwrite=0
 holds err "Error 61: Disk full"

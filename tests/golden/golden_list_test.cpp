@@ -35,7 +35,7 @@ std::string ListOf(const ListChoice& choice) {
   const TemporaryFolder folder;
   ScriptedDesktop desktop;
   Program program(desktop);
-  if (!program.Start()) return "the program did not start";
+  if (!program.Start({.userSettings = false, .window = false})) return "the program did not start";
   // The folder's name goes into the lists of files: it must be the same on every machine.
   std::filesystem::current_path(QUILLOMAT_DATA_FOLDER);
   if (NeedsFileTallies(static_cast<DisplayFormat>(choice.format))) {

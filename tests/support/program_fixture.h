@@ -21,7 +21,7 @@ namespace quillomat {
 class ProgramFixture : public testing::Test {
  protected:
   ProgramFixture() : program(desktop, [this] { return Now(); }) {
-    EXPECT_TRUE(program.Start());
+    EXPECT_TRUE(program.Start({.userSettings = false, .window = false}));
     desktop.ForgetQuestions();
   }
 

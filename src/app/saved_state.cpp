@@ -1,0 +1,172 @@
+#include "app/saved_state.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/state_file.h"
+#include "base/run_time_error.h"
+#include "desktop/file_system.h"
+#include "listing/set_the_focus.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kStateFilter = "QLM state files (*.qlm) | *.qlm";
+
+/// While it lives, the panel does not ask whether the text may be read anew.
+class PromptsInhibited {
+ public:
+  explicit PromptsInhibited(CountState& state) : state_(state), before_(state.blnInhibitPrompt) {
+    state_.blnInhibitPrompt = true;
+  }
+  PromptsInhibited(const PromptsInhibited&) = delete;
+  PromptsInhibited& operator=(const PromptsInhibited&) = delete;
+  PromptsInhibited(PromptsInhibited&&) = delete;
+  PromptsInhibited& operator=(PromptsInhibited&&) = delete;
+  ~PromptsInhibited() { state_.blnInhibitPrompt = before_; }
+
+ private:
+  CountState& state_;
+  bool before_;
+};
+
+}  // namespace
+
+void SavedState::Connect(std::function<void()> initialize) {
+  initialize_ = std::move(initialize);
+  context_.frmMain.cmdSaveState.Click.Connect([this] { OnSaveToSettingsFile(); });
+  context_.frmParams.cmdSaveLoadState[0].Click.Connect([this] { OnSaveToFile(); });
+  context_.frmParams.cmdSaveLoadState[1].Click.Connect([this] { OnLoadFromFile(); });
+}
+
+std::string SavedState::SaveState(const std::string& path) {
+  try {
+    WriteStateFile(PathOrSettings(path), context_.frmMain, context_.frmParams);
+    return {};
+  } catch (const RunTimeError& error) {
+    return "Error when attempting to save state: " + error.Description();
+  }
+}
+
+RestoreResult SavedState::ReadControls(const std::string& path) {
+  const std::string& stateFile = PathOrSettings(path);
+  if (!FileExists(stateFile)) return RestoreResult::kNoFile;
+  try {
+    const BusyGuard busy(context_);  // no handler lists words while the controls are being set
+    ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
+    return RestoreResult::kRestored;
+  } catch (const RunTimeError& error) {
+    errorDescription_ = error.Description();
+    return RestoreResult::kError;
+  }
+}
+
+RestoreResult SavedState::RestoreSavedState(const std::string& path) {
+  const RestoreResult read = ReadControls(path);
+  return read == RestoreResult::kRestored ? TakeControlsAsTheyAre() : read;
+}
+
+RestoreResult SavedState::TakeControlsAsTheyAre() {
+  context_.state.blnWordsGot = false;
+  TakeTypedLists();
+  RestoreResult result =
+      AnyComboWithoutItem() ? RestoreResult::kInvalidIndex : RestoreResult::kRestored;
+  const std::string& inputPath = context_.frmMain.txbFile[0].Text();
+  if (!inputPath.empty()) countRun_.File().CheckInputFile(inputPath);
+  context_.frmMain.txbFolder.LostFocus.Fire();
+  for (std::size_t i = 0; i < 2; ++i) {
+    if (context_.frmParams.txbWordsFile[i].Text().empty()) continue;
+    const bool read = wordLists_.AttemptToReadWords(static_cast<WordListKind>(i));
+    if (!read) result = RestoreResult::kWordsFileFailed;
+  }
+  return result;
+}
+
+void SavedState::TakeTypedLists() {
+  ParamsForm& frmParams = context_.frmParams;
+  for (std::size_t i = 0; i < 2; ++i) {
+    countRun_.Extensions().OnLostFocus(static_cast<ExtensionList>(i));
+    wordLists_.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
+    const bool startless = frmParams.txbStartComment[i].Text().empty();
+    if (startless) frmParams.txbEndComment[i].SetText("");
+  }
+  if (frmParams.txbStartComment[0].Text().empty() && frmParams.txbStartComment[1].Text().empty()) {
+    frmParams.chkAllowCommentMarkers.SetChecked(false);
+  }
+}
+
+bool SavedState::AnyComboWithoutItem() const {
+  const std::array<const ComboBox*, 5> combos = {
+      &context_.frmParams.cboShortWordSize, &context_.frmParams.cboLongWordSize,
+      &context_.frmParams.cboThresholdFrequency, &context_.frmMain.cboWordOrder,
+      &context_.frmMain.cboDisplayFormat};
+  return std::any_of(combos.begin(), combos.end(),
+                     [](const ComboBox* combo) { return combo->ListIndex() == -1; });
+}
+
+void SavedState::OnSaveToSettingsFile() {
+  const std::string title = "Save state";
+  const std::string error = SaveState("");
+  if (error.empty()) {
+    Tell(context_, "State saved.", title, MessageIcon::kInformation);
+  } else {
+    Refuse(context_, error, title);
+  }
+  SetTheFocus(context_.frmMain);
+}
+
+void SavedState::OnSaveToFile() {
+  FileDialog dialog;
+  dialog.mode = FileDialog::Mode::kSave;
+  dialog.title = "Specify file to save state to";
+  dialog.filter = kStateFilter;
+  dialog.promptBeforeOverwriting = true;
+  dialog.hideReadOnly = true;
+  dialog.pathMustExist = true;
+  dialog.noReadOnlyReturn = true;
+  const auto path = context_.desktop.ChooseFile(dialog);
+  if (!path) return;
+  ParamsForm& frmParams = context_.frmParams;
+  frmParams.lblState.SetCaption("");
+  frmParams.txbStateFile.SetText(*path);
+  const std::string error = SaveState(*path);
+  if (error.empty()) {
+    frmParams.lblState.SetCaption("State saved to");
+  } else {
+    Refuse(context_, error, "Save state");
+    frmParams.lblState.SetCaption("Error saving to");
+  }
+}
+
+void SavedState::OnLoadFromFile() {
+  FileDialog dialog;
+  dialog.title = "Specify file to load state from.";
+  dialog.filter = kStateFilter;
+  dialog.hideReadOnly = true;
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  const auto path = context_.desktop.ChooseFile(dialog);
+  if (!path) return;
+  ParamsForm& frmParams = context_.frmParams;
+  frmParams.lblState.SetCaption("");
+  frmParams.txbStateFile.SetText(*path);
+  RestoreResult result = RestoreResult::kError;
+  {
+    const PromptsInhibited inhibited(context_.state);
+    result = RestoreSavedState(*path);
+  }
+  if (result < RestoreResult::kInvalidIndex) {
+    frmParams.lblState.SetCaption("State loaded from");
+    return;
+  }
+  if (result != RestoreResult::kWordsFileFailed) {
+    const std::string message = result == RestoreResult::kInvalidIndex
+                                    ? std::string("Invalid combo box index.")
+                                    : "Error when attempting to load state: " + errorDescription_;
+    Refuse(context_, message, "Load state");
+    initialize_();
+  }
+  frmParams.lblState.SetCaption("Error loading from");
+}
+
+}  // namespace quillomat
