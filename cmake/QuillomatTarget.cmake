@@ -11,6 +11,9 @@ function(quillomat_configure target)
                                             -fno-omit-frame-pointer)
     target_link_options(${target} PUBLIC -fsanitize=address,undefined)
   endif()
+  if(QUILLOMAT_BUILD_FUZZERS)
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
 endfunction()
 
 # quillomat_library(folder SOURCES ... LINKS ...): the static library of one folder of src/.
