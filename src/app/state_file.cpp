@@ -85,7 +85,7 @@ class ValueReader {
   }
 
  private:
-  std::string_view NextLine() const {
+  [[nodiscard]] std::string_view NextLine() const {
     const std::optional<std::string_view> line = lines_.NextLine();
     if (!line) throw RunTimeError(RunTimeErrorNumber::kInputPastEnd);
     return *line;

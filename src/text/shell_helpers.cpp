@@ -28,7 +28,7 @@ bool OpenDocument(Desktop& desktop, const std::string& path, bool reportErrors) 
 std::string FindClipboardViewer() {
   for (const char drive : std::string_view("CDE")) {
     for (const std::string_view place :
-         {":\\windows\\clipbrd.exe", ":\\windows\\system32\\clipbrd.exe"}) {
+         {R"(:\windows\clipbrd.exe)", R"(:\windows\system32\clipbrd.exe)"}) {
       std::string path = std::string(1, drive).append(place);
       if (FileExists(path)) return path;
     }
