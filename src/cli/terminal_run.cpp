@@ -33,6 +33,7 @@ class TerminalRun {
     if (!ApplyChoices()) return kWrongCommandLine;
     if (!CheckInput() || !ChooseSource()) return kRunFailed;
     if (!TakeEffect() || !SaveState()) return kRunFailed;
+    desktop_.SetSubject(Subject());
     return options_.listFiles ? ListFiles() : Count();
   }
 
@@ -127,17 +128,21 @@ class TerminalRun {
       frmMain.txbFolder.SetText(*options_.folder);
       frmMain.optFolder.SetValue(true);
       if (options_.subfolders) frmMain.chkIncludeSubfolders.SetChecked(true);
-      desktop_.SetSubject(*options_.folder);
     } else if (options_.file) {
       frmMain.txbFile[0].SetText(*options_.file);
       frmMain.optInFile.SetValue(true);
-      desktop_.SetSubject(*options_.file);
     } else {
       frmMain.optOnClipboard.SetValue(true);
-      desktop_.SetSubject(*options_.text == "-" ? "standard input" : *options_.text);
       return FillClipboard(*options_.text);
     }
     return true;
+  }
+
+  /// What the count is about, for messages that do not say so themselves.
+  [[nodiscard]] std::string Subject() const {
+    if (options_.folder) return *options_.folder;
+    if (options_.file) return *options_.file;
+    return *options_.text == "-" ? "standard input" : *options_.text;
   }
 
   bool FillClipboard(const std::string& path) {

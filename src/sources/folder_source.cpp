@@ -27,23 +27,26 @@ std::optional<FolderListing> TryToList(const std::string& path) {
   }
 }
 
-/// While it lives, the input box and the file source serve one file of a folder after the other;
-/// afterwards the user's own input file stands in the box again.
+/// While it lives, the input box and the file source serve one file of a folder after the other,
+/// and a progress bar follows them; afterwards the user's own input file stands in the box again.
 class FilesInTurn {
  public:
-  FilesInTurn(const RunContext& context, FileSource& fileSource)
+  FilesInTurn(const RunContext& context, FileSource& fileSource, ProgressBar& progress)
       : txbPath_(context.frmMain.txbFile[0]),
         usersPath_(txbPath_.Text()),
         lblFilesize_(context.frmMain.lblFilesize),
         usersFilesize_(lblFilesize_.Caption()),
-        fileSource_(fileSource) {
+        fileSource_(fileSource),
+        progress_(progress) {
     fileSource_.SetScanning(true);
+    progress_.StartProgressBar();
   }
   FilesInTurn(const FilesInTurn&) = delete;
   FilesInTurn& operator=(const FilesInTurn&) = delete;
   FilesInTurn(FilesInTurn&&) = delete;
   FilesInTurn& operator=(FilesInTurn&&) = delete;
   ~FilesInTurn() {
+    progress_.EndProgressBar();
     fileSource_.SetFolderJob(nullptr);
     fileSource_.SetScanning(false);
     txbPath_.SetText(usersPath_);
@@ -56,6 +59,7 @@ class FilesInTurn {
   Label& lblFilesize_;
   std::string usersFilesize_;
   FileSource& fileSource_;
+  ProgressBar& progress_;
 };
 
 }  // namespace
@@ -136,7 +140,7 @@ bool FolderSource::AskForOutputFile() const {
                            "you must specify an output file in case" + std::string(kCrLf) +
                            "the text window will not hold the result.";
   const MessageAnswer answer = context_.desktop.ShowMessage(
-      {text, "Multiple files/folders", MessageIcon::kExclamation, MessageButtons::kOkCancel});
+      {text, "Multiple files/folders", MessageIcon::kQuestion, MessageButtons::kOkCancel});
   if (answer == MessageAnswer::kCancel) return false;
   fileSource_.ChooseOutputFile();
   return true;
@@ -154,13 +158,11 @@ void FolderSource::RunScanningPass() {
   skipped_.clear();
   filesTried_ = 0;
   {
-    const FilesInTurn filesInTurn(context_, fileSource_);
+    const FilesInTurn filesInTurn(context_, fileSource_, filesProgress_);
     ScanJob job(context_);
     fileSource_.SetFolderJob(&job);
-    filesProgress_.StartProgressBar();
     WalkFolder(Folder());
   }
-  filesProgress_.EndProgressBar();
   state.filesScanned = state.filesInPass;
   state.foldersScanned = state.foldersVisited;
   const std::string result =

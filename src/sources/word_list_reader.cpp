@@ -179,7 +179,7 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   const bool ok = ReadWords(kind);
   if (ok) {
     Tell(context_,
-         std::to_string(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
+         Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
          "Words loaded", MessageIcon::kInformation);
   } else {
     Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path, "Error");
