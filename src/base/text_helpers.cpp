@@ -40,6 +40,29 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
   return result.append(text.substr(position));
 }
 
+std::string JoinWithBlanks(std::span<const std::string> items) {
+  std::string text;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (i > 0) text.push_back(' ');
+    text.append(items[i]);
+  }
+  return text;
+}
+
+std::string OnOneLine(std::string_view text) {
+  std::string line;
+  for (const char ch : text) {
+    const bool isBreak = ch == '\r' || ch == '\n';
+    if (!isBreak) {
+      line.push_back(ch);
+    } else if (!line.ends_with(' ')) {
+      line.push_back(' ');
+    }
+  }
+  line.resize(TrimRightBlanks(line).size());
+  return line;
+}
+
 std::string GroupDigits(std::int64_t number, std::string_view separator) {
   const std::string digits = std::to_string(number);
   std::string result;

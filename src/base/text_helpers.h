@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,12 @@ inline constexpr std::string_view kPlatformLineBreak = "\n";
 /// `text` with every `from` replaced by `to`, left to right, without overlap. `from` is not empty.
 [[nodiscard]] std::string ReplaceAll(std::string_view text, std::string_view from,
                                      std::string_view to);
+
+/// The items with single blanks between them.
+[[nodiscard]] std::string JoinWithBlanks(std::span<const std::string> items);
+
+/// `text` on one line: every run of line breaks becomes one blank, and blanks at the end go.
+[[nodiscard]] std::string OnOneLine(std::string_view text);
 
 /// `number` (not negative) in decimal with `separator` between groups of three digits.
 [[nodiscard]] std::string GroupDigits(std::int64_t number, std::string_view separator);

@@ -1,12 +1,11 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <array>
 #include <ostream>
 #include <string_view>
 
 #include "app/captions.h"
+#include "base/text_helpers.h"
 #include "cli/exit_status.h"
 
 namespace quillomat {
@@ -75,12 +74,6 @@ std::vector<std::pair<std::string, std::string>> SplitPairs(const std::string& o
   return pairs;
 }
 
-std::string OneLine(std::string text) {
-  std::replace(text.begin(), text.end(), '\n', ' ');
-  while (text.ends_with(' ')) text.pop_back();
-  return text;
-}
-
 void CheckCombinations(const CommandLine& options) {
   const auto needsFolder = [&](bool given, const char* option) {
     if (given && !options.folder) throw CLI::ValidationError(option, "goes with --folder");
@@ -98,7 +91,7 @@ ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostre
                                    std::ostream& err) {
   ParsedCommandLine result;
   const auto fail = [&](const std::string& what) {
-    err << "quillomat-cli: " << OneLine(what) << " (see quillomat-cli --help)\n";
+    err << "quillomat-cli: " << OnOneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");

@@ -4,25 +4,11 @@
 #include <ostream>
 
 #include "base/letter_case.h"
+#include "base/text_helpers.h"
 #include "desktop/locale_info.h"
 
 namespace quillomat {
 namespace {
-
-/// Line breaks become single blanks: a message is one line.
-std::string OneLine(const std::string& text) {
-  std::string line;
-  for (const char ch : text) {
-    const bool isBreak = ch == '\r' || ch == '\n';
-    if (!isBreak) {
-      line.push_back(ch);
-    } else if (!line.ends_with(' ')) {
-      line.push_back(' ');
-    }
-  }
-  while (line.ends_with(' ')) line.pop_back();
-  return line;
-}
 
 MessageAnswer AnswerByRule(MessageButtons buttons) {
   switch (buttons) {
@@ -57,9 +43,9 @@ std::optional<std::string> TerminalDesktop::AnswerTo(const std::string& title) c
 }
 
 void TerminalDesktop::PrintMessage(const std::string& title, const std::string& text) {
-  err_ << (title.empty() ? "Quillomat" : title) << ": " << OneLine(text);
+  err_ << (title.empty() ? "Quillomat" : title) << ": " << OnOneLine(text);
   const bool named = subject_.empty() || text.find(subject_) != std::string::npos;
-  if (!named) err_ << " (" << OneLine(subject_) << ")";
+  if (!named) err_ << " (" << OnOneLine(subject_) << ")";
   err_ << '\n';
 }
 
@@ -75,7 +61,7 @@ MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
 std::string TerminalDesktop::AskForText(const InputBox& box) {
   const std::optional<std::string> word = AnswerTo(box.title);
   if (!word) {
-    err_ << box.title << ": " << OneLine(box.defaultAnswer) << " is left as it is (--answer '"
+    err_ << box.title << ": " << OnOneLine(box.defaultAnswer) << " is left as it is (--answer '"
          << box.title << "=OK' overwrites it)\n";
     problemShown_ = true;
     return {};

@@ -210,7 +210,7 @@ class TerminalRun {
   void PrintOutputAsMessage() {
     const std::string& shown = program_.frmMain.txbOutput.Text();
     if (shown.empty() || desktop_.ProblemShown()) return;
-    err_ << "quillomat-cli: " << ReplaceAll(shown, kCrLf, " ") << '\n';
+    err_ << "quillomat-cli: " << OnOneLine(shown) << '\n';
   }
 
   void PrintSummary() {

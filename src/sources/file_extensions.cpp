@@ -18,15 +18,6 @@ bool Contains(const List& list, std::string_view item) {
   return std::find(list.begin(), list.end(), item) != list.end();
 }
 
-std::string Joined(const std::vector<std::string>& items) {
-  std::string text;
-  for (const std::string& item : items) {
-    if (!text.empty()) text.push_back(' ');
-    text.append(item);
-  }
-  return text;
-}
-
 std::string Quoted(const std::string& extension) {
   return "File extension '" + extension + "'";
 }
@@ -43,7 +34,7 @@ bool FileExtensions::GetFileExtensions(ExtensionList which) {
     const std::size_t start = std::min(piece.find_first_not_of("*.?"), piece.size());
     if (start < piece.size()) entries.push_back(piece.substr(start));
   }
-  box.SetText(Joined(entries));
+  box.SetText(JoinWithBlanks(entries));
   lists_[index] = std::move(entries);
   return true;
 }

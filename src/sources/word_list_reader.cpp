@@ -30,15 +30,6 @@ std::string KindName(WordListKind kind) {
   return IsIgnore(kind) ? "words-to-ignore" : "count-only words";
 }
 
-std::string Joined(const std::vector<std::string>& items) {
-  std::string text;
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    if (i > 0) text.push_back(' ');
-    text.append(items[i]);
-  }
-  return text;
-}
-
 /// While it lives, the boxes that a words file is read with stand as it needs them.
 class ListReadingBoxes {
  public:
@@ -85,7 +76,7 @@ std::string WordListReader::GetExtraWords(WordListKind kind) {
   if (!typed.fits) {
     return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
   }
-  std::string cleaned = Joined(typed.items);
+  std::string cleaned = JoinWithBlanks(typed.items);
   ExtraList(kind) = WordList(std::move(typed.items));
   return cleaned;
 }
