@@ -35,7 +35,9 @@ void MakeLowerCase(std::string& text) {
     if (byte >= 'A' && byte <= 'Z') {
       text[i] = static_cast<char>(byte + 0x20);
     } else if ((byte == 0xC3 || byte == 0xC5) && i + 1 < text.size()) {
-      const auto [lead, next] = LowerTwoBytes(byte, static_cast<unsigned char>(text[i + 1]));
+      const auto second = static_cast<unsigned char>(text[i + 1]);
+      if (second < 0x80) continue;  // not well-formed: a character of its own follows
+      const auto [lead, next] = LowerTwoBytes(byte, second);
       text[i] = static_cast<char>(lead);
       text[i + 1] = static_cast<char>(next);
       ++i;

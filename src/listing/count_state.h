@@ -32,6 +32,8 @@ struct CountState {
   std::int32_t foldersVisited = 1;
   std::int32_t filesScanned = 0;
   std::int32_t foldersScanned = 1;
+  /// Lines, ended with CR LF, about files and folders that the last count had to skip.
+  std::string skippedNotice;
 
   // The count run.
   /// The user has asked the run to stop. Every long loop tests it.
@@ -64,6 +66,7 @@ struct CountState {
     store.Clear();
     totals = {};
     ranking = {};
+    skippedNotice.clear();
     completeRun = false;
     listAfterStop = false;
     blnWordsGot = false;

@@ -211,7 +211,7 @@ void LineFormatter::FileListText(std::string& line, std::int32_t index, bool wit
     std::string_view path = paths[static_cast<std::size_t>(files->FileNumbers[k])];
     if (ShowsPathsInFolder()) {
       line.append(kFolderMark);
-      path.remove_prefix(std::min(path.size(), options_.folder.size()));
+      path.remove_prefix(BytesOfFirst(path, CharacterCount(options_.folder)));
     }
     line.append(path).append(options_.lineBreak);
   }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/text_helpers.h"
+#include "base/utf8.h"
 
 namespace quillomat {
 namespace {
@@ -13,26 +14,30 @@ void Show(Label& label, std::string caption) {
   label.SetVisible(true);
 }
 
-std::string FoundWordsCaption(std::int32_t words, std::string_view separator) {
-  if (words == 1) return "The word to be counted was found.";
-  if (words == 2) return "Both words to be counted were found.";
-  return "All " + GroupDigits(words, separator) + " words to be counted were found.";
-}
-
 /// Writes the numbers of one summary, all in one width.
 class SummaryNumbers {
  public:
   SummaryNumbers(std::int32_t greatest, std::string_view separator)
-      : separator_(separator), width_(GroupDigits(greatest, separator).size() + 1) {}
+      : separator_(separator), width_(CharacterCount(GroupDigits(greatest, separator)) + 1) {}
+
+  [[nodiscard]] std::string Justified(std::int32_t number) const {
+    return PadLeft(GroupDigits(number, separator_), width_);
+  }
 
   [[nodiscard]] std::string Line(std::string_view label, std::int32_t number) const {
-    return std::string(label).append(PadLeft(GroupDigits(number, separator_), width_));
+    return std::string(label).append(Justified(number));
   }
 
  private:
   std::string_view separator_;
   std::size_t width_;
 };
+
+std::string FoundWordsCaption(std::int32_t words, const SummaryNumbers& numbers) {
+  if (words == 1) return "The word to be counted was found.";
+  if (words == 2) return "Both words to be counted were found.";
+  return "All " + numbers.Justified(words) + " words to be counted were found.";
+}
 
 }  // namespace
 
@@ -46,7 +51,7 @@ void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view se
 
   const bool allFound = countOnly && totals.NumIncludedWords == countOnlyWords;
   Show(frmMain.lblNumberOfWords,
-       allFound ? FoundWordsCaption(countOnlyWords, separator)
+       allFound ? FoundWordsCaption(countOnlyWords, numbers)
                 : numbers.Line("Number of words in this list:", totals.NumIncludedWords));
   Show(frmMain.lblNumWordsExcluded,
        countOnly ? std::string()

@@ -168,11 +168,12 @@ LineOptions WordLister::OptionsFor(bool toFile) const {
   return options;
 }
 
-/// The line about the folder with its line break; empty for other sources.
+/// The lines about the folder with their line breaks; empty for other sources.
 std::string WordLister::ScanHeader() const {
   if (!frmMain_.optFolder.Value()) return {};
   return ScanHeaderText(state_.filesScanned, state_.foldersScanned, desktop_.DigitGroupSeparator())
-      .append(kCrLf);
+      .append(kCrLf)
+      .append(state_.skippedNotice);
 }
 
 bool WordLister::StopsNow() {

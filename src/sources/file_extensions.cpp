@@ -27,16 +27,16 @@ std::string Quoted(const std::string& extension) {
 bool FileExtensions::GetFileExtensions(ExtensionList which) {
   const auto index = static_cast<std::size_t>(which);
   TextBox& box = context_.frmMain.txbFileExtensions[index];
-  const SplitResult pieces = SplitList(box.Text(), " ,;", kMaxExtensions);
-  if (!pieces.fits) return false;
   std::vector<std::string> entries;
-  for (const std::string& piece : pieces.items) {
+  for (const std::string& piece : SplitList(box.Text(), " ,;", box.Text().size()).items) {
     const std::size_t start = std::min(piece.find_first_not_of("*.?"), piece.size());
     if (start < piece.size()) entries.push_back(piece.substr(start));
   }
-  box.SetText(JoinWithBlanks(entries));
+  const bool fits = entries.size() <= kMaxExtensions;
+  if (!fits) entries.resize(kMaxExtensions);
+  if (fits) box.SetText(JoinWithBlanks(entries));
   lists_[index] = std::move(entries);
-  return true;
+  return fits;
 }
 
 void FileExtensions::OnLostFocus(ExtensionList which) {
@@ -49,7 +49,7 @@ void FileExtensions::OnLostFocus(ExtensionList which) {
            std::string(kInvalidInput));
   }
   const auto& list = List(ExtensionList::kIncluded);
-  if (included && (Contains(list, "doc") || Contains(list, "pdf"))) {
+  if (Contains(list, "doc") || Contains(list, "pdf")) {
     Refuse(context_,
            "MS-word .doc files and .pdf files are not text files" + std::string(kCrLf) +
                "and cannot be scanned using this software.",

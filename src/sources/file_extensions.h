@@ -26,8 +26,8 @@ class FileExtensions {
  public:
   explicit FileExtensions(const RunContext& context) : context_(context) {}
 
-  /// Parses one of the two boxes and writes the entries back into it. With too many entries it
-  /// returns false and leaves list and box alone.
+  /// Parses one of the two boxes and writes the entries back into it. Of too many entries the first
+  /// kMaxExtensions are kept, the box is left as it is, and the result is false.
   [[nodiscard]] bool GetFileExtensions(ExtensionList which);
 
   /// What happens when the user leaves one of the boxes: it is parsed and checked, and the user

@@ -52,6 +52,7 @@ ScanFileResult FileSource::ScanFile() {
   }
   if (IsSingleFile()) {
     if (!AskAboutLargeFile()) return ScanFileResult::kCancelled;
+    if (OutputIsInput()) return ScanFileResult::kOutputIsInput;  // it may have been chosen only now
     scanning_ = true;
     ConcealNumWords(context_.frmMain, false);
     context_.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
@@ -86,11 +87,12 @@ ScanFileResult FileSource::CheckPaths() {
   if (const ScanFileResult result = CheckInputFile(InputPath()); result != ScanFileResult::kDone) {
     return result;
   }
+  return OutputIsInput() ? ScanFileResult::kOutputIsInput : ScanFileResult::kDone;
+}
+
+bool FileSource::OutputIsInput() const {
   const std::string& outputPath = context_.frmMain.txbFile[1].Text();
-  if (!outputPath.empty() && IsSameFile(outputPath, path_)) {
-    return ScanFileResult::kOutputIsInput;
-  }
-  return ScanFileResult::kDone;
+  return !outputPath.empty() && IsSameFile(outputPath, path_);
 }
 
 ScanFileResult FileSource::CheckInputFile(const std::string& path) {

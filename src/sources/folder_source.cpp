@@ -93,17 +93,20 @@ bool FolderSource::CheckFolder() const {
     Refuse(context_, "Folder contains no files.", "Nothing to do");
     return false;
   }
+  return CheckOutputFile();
+}
+
+bool FolderSource::CheckOutputFile() const {
   const std::string& outputPath = context_.frmMain.txbFile[1].Text();
-  if (!outputPath.empty() && IsInFolder(outputPath, Folder(), IncludesSubfolders())) {
-    Refuse(context_, "The output file cannot be in the folder or a subfolder.",
-           "Invalid output file");
-    return false;
-  }
-  return true;
+  if (outputPath.empty() || !IsInFolder(outputPath, Folder(), IncludesSubfolders())) return true;
+  Refuse(context_, "The output file cannot be in the folder or a subfolder.",
+         "Invalid output file");
+  return false;
 }
 
 bool FolderSource::ScanFolder() {
   if (!CheckFolder() || !RunCountingPass(Pass::kCounting) || !AskForOutputFile()) return false;
+  if (!CheckOutputFile()) return false;  // it may have been chosen only now
   RunScanningPass();
   return true;
 }
@@ -165,6 +168,7 @@ void FolderSource::RunScanningPass() {
   }
   state.filesScanned = state.filesInPass;
   state.foldersScanned = state.foldersVisited;
+  state.skippedNotice = SkippedNotice();
   const std::string result =
       state.filesInPass == 0 ? "No files were scanned."
                              : FilesInFolders(state.filesInPass, state.foldersVisited) +
@@ -243,11 +247,29 @@ void FolderSource::ScanOneFile(const std::string& path) {
   }
 }
 
-void FolderSource::WritePathLine(const std::string& path) {
+/// The path with the chosen folder's name in place of its path.
+std::string FolderSource::ShownPath(const std::string& path) const {
   const std::string& folder = Folder();
-  const bool inFolder = path.starts_with(folder);
-  const std::string shown = inFolder ? "{Folder}" + path.substr(folder.size()) : path;
-  context_.output.OutputToTxb(std::string(kCrLf) + shown);
+  return path.starts_with(folder) ? "{Folder}" + path.substr(folder.size()) : path;
+}
+
+void FolderSource::WritePathLine(const std::string& path) {
+  context_.output.OutputToTxb(std::string(kCrLf) + ShownPath(path));
+}
+
+/// A list must not look complete when it is not.
+std::string FolderSource::SkippedNotice() const {
+  constexpr std::size_t kShownInList = 20;
+  std::string notice;
+  for (std::size_t i = 0; i < std::min(skipped_.size(), kShownInList); ++i) {
+    notice.append("Skipped: ").append(ShownPath(skipped_[i].path));
+    notice.append(" (").append(skipped_[i].reason).append(")").append(kCrLf);
+  }
+  if (skipped_.size() > kShownInList) {
+    const auto more = static_cast<std::int64_t>(skipped_.size() - kShownInList);
+    notice.append("Skipped: ").append(Grouped(context_, more)).append(" more").append(kCrLf);
+  }
+  return notice;
 }
 
 void FolderSource::Skip(const std::string& path, const std::string& reason) {

@@ -50,6 +50,7 @@ class FolderSource {
   enum class Pass { kCounting, kListOnly, kScanning };
 
   [[nodiscard]] bool CheckFolder() const;
+  [[nodiscard]] bool CheckOutputFile() const;
   [[nodiscard]] bool RunCountingPass(Pass pass);
   [[nodiscard]] bool AskForOutputFile() const;
   void RunScanningPass();
@@ -57,6 +58,8 @@ class FolderSource {
   void TakeFile(const std::string& path);
   void ScanOneFile(const std::string& path);
   void ShowFilesCounted() const;
+  [[nodiscard]] std::string ShownPath(const std::string& path) const;
+  [[nodiscard]] std::string SkippedNotice() const;
   void WritePathLine(const std::string& path);
   void Skip(const std::string& path, const std::string& reason);
   void OutputLine(const std::string& line);

@@ -6,9 +6,10 @@
 
 namespace quillomat {
 
-bool IsNativeLineEnding(LineEndingType type) {
-  if (type == LineEndingType::kUnix) return kPlatformLineBreak == "\n";
-  return type == LineEndingType::kDos;
+bool IsWorthAWarning(LineEndingType type) {
+  const bool unixAtHome = kPlatformLineBreak == "\n";
+  return type == LineEndingType::kZeroLength || type == LineEndingType::kMacintosh ||
+         (type == LineEndingType::kUnix && !unixAtHome);
 }
 
 void ShowLineEndingWarning(const RunContext& context, LineEndingType type) {

@@ -7,9 +7,9 @@
 
 namespace quillomat {
 
-/// Whether files of that type are what this system's own programs write: DOS files everywhere, Unix
-/// files everywhere but on Windows.
-[[nodiscard]] bool IsNativeLineEnding(LineEndingType type);
+/// Whether a file of that type can be read but is not what this system's own programs write. DOS
+/// files are at home everywhere, Unix files everywhere but on Windows.
+[[nodiscard]] bool IsWorthAWarning(LineEndingType type);
 
 /// Tells the user about the line ends. DOS files are never worth a word.
 void ShowLineEndingWarning(const RunContext& context, LineEndingType type);

@@ -104,7 +104,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
       Refuse(context_, "This is not a text file.", "Invalid input");
       return false;
     }
-    if (!IsNativeLineEnding(type)) ShowLineEndingWarning(context_, type);
+    if (IsWorthAWarning(type)) ShowLineEndingWarning(context_, type);
     ScanSettings& settings = context_.state.settings;
     const ScanChoices choices = ReadScanChoices(context_.frmParams);
     settings.ReadingWordList = true;

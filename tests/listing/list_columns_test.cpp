@@ -1,0 +1,178 @@
+// Column widths, logarithms and headers.
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "listing/listing_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class ListColumns : public ListingFixture {};
+
+TEST_F(ListColumns, NoColumnIsNarrowerThanSix) {
+  Add("ab", 2);
+  Finish();
+  options.format = DisplayFormat::kRankWordFrequency;
+  EXPECT_EQ(LineOf(0), "   Rank  Word      Freq");
+  EXPECT_EQ(LineOf(1), "      1  ab           2");
+}
+
+TEST_F(ListColumns, WordColumnIsAsWideAsTheLongestListedWord) {
+  Add("ab");
+  Add("international");
+  Finish();
+  options.format = DisplayFormat::kWordFrequency;
+  EXPECT_EQ(LineOf(0), "  Word            Freq");
+  EXPECT_EQ(LineOf(1), "  ab                 1");
+  EXPECT_EQ(LineOf(2), "  international      1");
+}
+
+TEST_F(ListColumns, ExcludedWordDoesNotWidenTheColumn) {
+  Add("ab");
+  Add("international");
+  store.SetIncluded(2, false);
+  Finish();
+  options.format = DisplayFormat::kWordFrequency;
+  EXPECT_EQ(LineOf(1), "  ab          1");
+}
+
+TEST_F(ListColumns, WordIsPaddedByCharactersNotBytes) {
+  Add("né");
+  Finish();
+  options.format = DisplayFormat::kWordFrequency;
+  EXPECT_EQ(LineOf(1), "  né          1");
+}
+
+TEST_F(ListColumns, FrequencyColumnIsAsWideAsTheLargestFrequency) {
+  Add("dog", 1'234'567);
+  Add("cat");
+  Finish();
+  options.format = DisplayFormat::kFrequencyRank;
+  EXPECT_EQ(LineOf(0), "    Freq    Rank");
+  EXPECT_EQ(LineOf(1), "       1       2");
+  EXPECT_EQ(LineOf(2), " 1234567       1");
+}
+
+TEST_F(ListColumns, RankColumnIsAsWideAsTheNumberOfListedWords) {
+  Add("dog");
+  Finish();
+  totals.NumIncludedWords = 12'345'678;
+  options.format = DisplayFormat::kRankFrequency;
+  EXPECT_EQ(LineOf(0), "     Rank    Freq");
+  EXPECT_EQ(LineOf(1), "        1       1");
+}
+
+TEST_F(ListColumns, LogarithmsHaveTheWidthsOfTheirColumns) {
+  Add("dog", 1'234'567);
+  Finish();
+  totals.NumIncludedWords = 12'345'678;
+  options.format = DisplayFormat::kZipfData;
+  EXPECT_EQ(LineOf(0), "     Rank     Freq     LN(R)    LN(F)  Word");
+  EXPECT_EQ(LineOf(1), "        1  1234567     .0000  14.0262  dog");
+}
+
+TEST_F(ListColumns, MinimumWidthIsTheCallers) {
+  Add("ab", 2);
+  Finish();
+  options.minimumColumnWidth = 8;
+  options.format = DisplayFormat::kRankWordFrequency;
+  EXPECT_EQ(LineOf(0), "     Rank  Word          Freq");
+  EXPECT_EQ(LineOf(1), "        1  ab               2");
+}
+
+TEST_F(ListColumns, FilesColumnIsFourWideAndItsHeaderStandsAsItIs) {
+  for (int file = 1; file <= 1234; ++file) AddInFile("file " + std::to_string(file), "dog");
+  AddInFile("file 1234", "cat");
+  Finish();
+  options.format = DisplayFormat::kWordFreqNoFiles;
+  EXPECT_EQ(LineOf(0), "  Word     Freq   No. files");
+  EXPECT_EQ(LineOf(1), "  cat         1    1");
+  EXPECT_EQ(LineOf(2), "  dog      1234 1234");
+}
+
+TEST_F(ListColumns, ZipfDataShowsNaturalLogarithms) {
+  Add("the", 20);
+  Add("cat", 2);
+  Finish();
+  options.format = DisplayFormat::kZipfData;
+  EXPECT_EQ(LineOf(2), "      1      20   .0000  2.9957  the");
+  EXPECT_EQ(LineOf(1), "      2       2   .6931   .6931  cat");
+}
+
+TEST_F(ListColumns, ZipfDataShowsLogarithmsToBaseTen) {
+  Add("the", 1000);
+  Add("cat", 2);
+  Finish();
+  options.format = DisplayFormat::kZipfData;
+  options.useLog10 = true;
+  EXPECT_EQ(LineOf(0), "   Rank    Freq  L10(R)  L10(F)  Word");
+  EXPECT_EQ(LineOf(2), "      1    1000   .0000  3.0000  the");
+  EXPECT_EQ(LineOf(1), "      2       2   .3010   .3010  cat");
+}
+
+TEST_F(ListColumns, RankOneHasALogarithmWithoutLeadingZero) {
+  Add("the");
+  Finish();
+  options.format = DisplayFormat::kZipfData;
+  EXPECT_EQ(LineOf(1), "      1       1   .0000   .0000  the");
+}
+
+TEST_F(ListColumns, ZipfHeaderDoesNotTellTheLongestWord) {
+  AddSample();
+  Finish();
+  options.format = DisplayFormat::kZipfData;
+  for (const bool useLog10 : {false, true}) {
+    for (const bool withCommas : {false, true}) {
+      options.useLog10 = useLog10;
+      options.withCommas = withCommas;
+      EXPECT_EQ(LineOf(0).find("longest"), std::string::npos);
+    }
+  }
+}
+
+TEST_F(ListColumns, HeaderTellsTheLongestListedWordHoweverShort) {
+  Add("né");
+  Finish();
+  options.format = DisplayFormat::kWord;
+  EXPECT_EQ(LineOf(0), "Word (longest has 2 characters)");
+}
+
+TEST_F(ListColumns, LinesAreAppendedToWhatTheBufferHolds) {
+  Add("dog");
+  Finish();
+  options.format = DisplayFormat::kWord;
+  std::string line = "before: ";
+  LineFormatter(Counted(), options).FormatWordLine(line, 1);
+  EXPECT_EQ(line, "before: dog");
+}
+
+TEST_F(ListColumns, EachCellIsPaddedToItsColumn) {
+  AddSample();
+  Finish();
+  const LineFormatter formatter(Counted(), options);
+  const std::int32_t the = PlaceOf("the");
+  std::string line;
+  formatter.RankCell(line, the);
+  line += '|';
+  formatter.FreqCell(line, the);
+  line += '|';
+  formatter.LogRankCell(line, the, true);
+  line += '|';
+  formatter.LogFreqCell(line, the, false);
+  line += '|';
+  formatter.WordCell(line, the);
+  line += '|';
+  formatter.FilesCell(line, the);
+  EXPECT_EQ(line, "     1|    12| .0000|2.4849|the       |   0");
+}
+
+TEST(Log10, IsTheLogarithmToBaseTen) {
+  EXPECT_DOUBLE_EQ(Log10(1), 0.0);
+  EXPECT_DOUBLE_EQ(Log10(10), 1.0);
+  EXPECT_DOUBLE_EQ(Log10(1000), 3.0);
+  EXPECT_DOUBLE_EQ(Log10(2), std::log10(2.0));
+}
+
+}  // namespace
+}  // namespace quillomat

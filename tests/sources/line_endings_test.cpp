@@ -1,0 +1,186 @@
+#include "sources/line_endings.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/stat.h>
+
+#include "desktop/desktop_test.h"
+#include "sources/line_ending_warning.h"
+#include "sources/sources_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using Type = LineEndingType;
+
+constexpr std::size_t kMaximum = 10'240;
+
+class LineEndings : public ::testing::Test {
+ protected:
+  [[nodiscard]] Type TypeOf(const std::string& contents, std::size_t maximum = kMaximum) const {
+    return GetLineEndingType(folder_.Write("text.txt", contents), maximum);
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(LineEndings, TheTypesHaveTheirCodes) {
+  EXPECT_EQ(static_cast<int>(Type::kDos), 1);
+  EXPECT_EQ(static_cast<int>(Type::kUnix), 2);
+  EXPECT_EQ(static_cast<int>(Type::kMacintosh), 3);
+  EXPECT_EQ(static_cast<int>(Type::kNotText), 0);
+  EXPECT_EQ(static_cast<int>(Type::kNotFound), -1);
+  EXPECT_EQ(static_cast<int>(Type::kZeroLength), -2);
+  EXPECT_EQ(static_cast<int>(Type::kCannotBeOpened), -3);
+}
+
+TEST_F(LineEndings, AreToldFromTheBreaksThatOccur) {
+  EXPECT_EQ(TypeOf("one\r\ntwo\r\n"), Type::kDos);
+  EXPECT_EQ(TypeOf("one\ntwo\n"), Type::kUnix);
+  EXPECT_EQ(TypeOf("one\rtwo\r"), Type::kMacintosh);
+  EXPECT_EQ(TypeOf("no break at all"), Type::kDos);
+  EXPECT_EQ(TypeOf("one\rtwo\nthree"), Type::kDos);
+}
+
+TEST_F(LineEndings, EveryControlCharacterButTabAndBreaksMakesItNoText) {
+  for (int code = 0; code < 32; ++code) {
+    const bool harmless = code == 9 || code == 10 || code == 13;
+    const std::string contents = "text" + std::string(1, static_cast<char>(code)) + "text";
+    EXPECT_EQ(TypeOf(contents) != Type::kNotText, harmless) << code;
+  }
+}
+
+TEST_F(LineEndings, HighBytesAreText) {
+  EXPECT_EQ(TypeOf("caf\xE9\x7F\x80\xFF\n"), Type::kUnix);
+  EXPECT_EQ(TypeOf("café\n"), Type::kUnix);
+}
+
+TEST_F(LineEndings, OnlyTheFirstCharactersAreLookedAt) {
+  const std::string clean(kMaximum, 'a');
+  EXPECT_EQ(TypeOf(clean + '\x01'), Type::kDos);
+  EXPECT_EQ(TypeOf(clean.substr(1) + '\x01'), Type::kNotText);
+  EXPECT_EQ(TypeOf(clean + '\n'), Type::kDos);
+  EXPECT_EQ(TypeOf(clean.substr(1) + '\n'), Type::kUnix);
+}
+
+TEST_F(LineEndings, AMaximumBeyondOnePieceIsReadPieceByPiece) {
+  const std::string clean(40'000, 'a');
+  EXPECT_EQ(TypeOf(clean + '\x01', 40'000), Type::kDos);
+  EXPECT_EQ(TypeOf(clean + '\x01', 40'001), Type::kNotText);
+  EXPECT_EQ(TypeOf(clean + '\n', 50'000), Type::kUnix);
+}
+
+TEST_F(LineEndings, AMissingFileAFolderAndAnEmptyFileAreTold) {
+  EXPECT_EQ(GetLineEndingType(folder_ / "nowhere.txt", kMaximum), Type::kNotFound);
+  EXPECT_EQ(GetLineEndingType(folder_.Path(), kMaximum), Type::kNotFound);
+  EXPECT_EQ(GetLineEndingType("", kMaximum), Type::kNotFound);
+  EXPECT_EQ(TypeOf(""), Type::kZeroLength);
+}
+
+TEST_F(LineEndings, AFileThatMayNotBeReadCannotBeOpened) {
+  const std::string path = folder_.Write("secret.txt", "text");
+  chmod(path.c_str(), 0);
+  const int type =
+      AsOrdinaryUser([&] { return static_cast<int>(GetLineEndingType(path, kMaximum)) & 0xFF; });
+  EXPECT_EQ(type, static_cast<int>(Type::kCannotBeOpened) & 0xFF);
+}
+
+TEST_F(LineEndings, Utf16IsJudgedAsTheTextThatItIs) {
+  const std::string little(
+      "\xFF\xFE"
+      "a\0\n\0b\0",
+      8);
+  const std::string big(
+      "\xFE\xFF"
+      "\0a\0\r\0b",
+      8);
+  const std::string control(
+      "\xFF\xFE"
+      "a\0\x01\0",
+      6);
+  EXPECT_EQ(TypeOf(little), Type::kUnix);
+  EXPECT_EQ(TypeOf(big), Type::kMacintosh);
+  EXPECT_EQ(TypeOf(control), Type::kNotText);
+}
+
+/// What the window says about a file's line ends, and that its lines are told apart.
+class LineEndingsOfFiles : public SourcesFixture {
+ protected:
+  /// Every caption that the notice label bore while the file was counted.
+  std::vector<std::string> NoticesOf(const std::string& name, const std::string& contents) {
+    Main().lblNumWordsExcluded.Changed.Connect([this] {
+      const Label& label = Main().lblNumWordsExcluded;
+      if (label.Visible() && !label.Caption().empty()) notices_.push_back(label.Caption());
+    });
+    CountFile(folder.Write(name, contents));
+    return notices_;
+  }
+
+ private:
+  std::vector<std::string> notices_;
+};
+
+constexpr const char* kExcludedLine = "Number of words excluded: 0";
+
+TEST_F(LineEndingsOfFiles, AUnixFileIsAnnounced) {
+  EXPECT_EQ(NoticesOf("a.txt", "cat\ndog\n\nCAT"),
+            (std::vector<std::string>{"This is a Unix-type file.", kExcludedLine}));
+  EXPECT_EQ(StoredWords(), "cat*2 dog");
+}
+
+TEST_F(LineEndingsOfFiles, AMacintoshFileIsAnnouncedAndReadLineByLine) {
+  AllowComments("#", "");
+  EXPECT_EQ(NoticesOf("a.txt", "cat # no\rdog # no\r\rcat\r"),
+            (std::vector<std::string>{"This is a Macintosh-type file.", kExcludedLine}));
+  EXPECT_EQ(StoredWords(), "cat*2 dog");
+}
+
+TEST_F(LineEndingsOfFiles, ADosFileIsNotWorthAWord) {
+  EXPECT_EQ(NoticesOf("a.txt", "cat\r\ndog\r\n"), (std::vector<std::string>{kExcludedLine}));
+  EXPECT_EQ(StoredWords(), "cat dog");
+}
+
+TEST_F(LineEndingsOfFiles, BreaksOfAllKindsEndLinesInOneFile) {
+  AllowComments("#", "");
+  CountFile(folder.Write("a.txt", "one # x\ntwo # x\rthree # x\r\nfour # x\n\r\n\rfive # x"));
+  EXPECT_EQ(StoredWords(), "five four one three two");
+}
+
+TEST_F(LineEndingsOfFiles, LinesOfAUnixFileOfSeveralBlocksAreAllRead) {
+  AllowComments("#", "");
+  std::string contents;
+  for (int i = 0; i < 20'000; ++i) contents += "cat dog # hidden\n";
+  CountFile(folder.Write("a.txt", contents + "mouse"));
+  EXPECT_EQ(StoredWords(), "cat*20000 dog*20000 mouse");
+}
+
+TEST_F(LineEndingsOfFiles, AByteOrderMarkIsNoPartOfAWord) {
+  CountFile(folder.Write("a.txt",
+                         "\xEF\xBB\xBF"
+                         "cat\ndog"));
+  EXPECT_EQ(StoredWords(), "cat dog");
+  CountFile(folder.Write("b.txt", std::string("\xFF\xFE"
+                                              "c\0a\0t\0\n\0\xE9\0",
+                                              12)));
+  EXPECT_EQ(StoredWords(), "cat é");
+}
+
+TEST_F(LineEndingsOfFiles, TheWarningsSayWhichLineEndsTheyAre) {
+  const auto warned = [this](Type type) {
+    desktop.ForgetQuestions();
+    ShowLineEndingWarning(program.context, type);
+    return OnlyMessage();
+  };
+  const auto icon = MessageIcon::kExclamation;
+  ExpectMessage(warned(Type::kZeroLength), "This is a zero-length file.", "Warning", icon);
+  ExpectMessage(warned(Type::kUnix), "This file has Unix/Linux line endings.", "Warning", icon);
+  ExpectMessage(warned(Type::kMacintosh), "This file has Macintosh line endings.", "Warning", icon);
+  ExpectMessage(warned(Type::kNotText), "This file has line endings of an unknown type.", "Warning",
+                icon);
+  desktop.ForgetQuestions();
+  ShowLineEndingWarning(program.context, Type::kDos);
+  EXPECT_TRUE(desktop.Messages().empty());
+}
+
+}  // namespace
+}  // namespace quillomat
