@@ -2,6 +2,8 @@
 #include "base/text_helpers.h"
 
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace quillomat {
 namespace {
@@ -22,6 +24,7 @@ TEST(TrimBlanks, LeavesNothingOfBlanksAlone) {
 
 TEST(TrimRightBlanks, TakesBlanksOffTheEndOnly) {
   EXPECT_EQ(TrimRightBlanks("  a  "), "  a");
+  EXPECT_EQ(TrimRightBlanks("a\t  "), "a\t");
   EXPECT_EQ(TrimRightBlanks("   "), "");
   EXPECT_EQ(TrimRightBlanks(""), "");
 }
@@ -63,6 +66,30 @@ TEST(ReplaceAll, LeavesATextWithoutMatches) {
 
 TEST(ReplaceAll, ReplacesAtBothEnds) {
   EXPECT_EQ(ReplaceAll("--a--", "--", ""), "a");
+}
+
+TEST(JoinWithBlanks, PutsSingleBlanksBetweenTheItems) {
+  EXPECT_EQ(JoinWithBlanks(std::vector<std::string>{"dog", "cat", "e-mail"}), "dog cat e-mail");
+  EXPECT_EQ(JoinWithBlanks(std::vector<std::string>{"dog"}), "dog");
+  EXPECT_EQ(JoinWithBlanks({}), "");
+}
+
+TEST(JoinWithBlanks, EmptyItemsKeepTheirPlace) {
+  EXPECT_EQ(JoinWithBlanks(std::vector<std::string>{"", "dog", ""}), " dog ");
+}
+
+TEST(OnOneLine, RunOfLineBreaksBecomesOneBlank) {
+  EXPECT_EQ(OnOneLine("one\r\ntwo\nthree\rfour"), "one two three four");
+  EXPECT_EQ(OnOneLine("one\r\n\r\ntwo"), "one two");
+}
+
+TEST(OnOneLine, NothingIsLeftOfBreaksAndBlanksAtTheEnd) {
+  EXPECT_EQ(OnOneLine("one two  \r\n"), "one two");
+  EXPECT_EQ(OnOneLine("\r\n"), "");
+}
+
+TEST(OnOneLine, LeavesBlanksInsideALine) {
+  EXPECT_EQ(OnOneLine("one  two"), "one  two");
 }
 
 TEST(GroupDigits, PutsTheSeparatorBetweenGroupsOfThree) {

@@ -195,6 +195,15 @@ TEST_F(Comments, AmpersandOfTheFirstPairNeedsNoEntityBehindIt) {
   EXPECT_EQ(Count("tea & more; cake"), "cake tea");
 }
 
+TEST_F(Comments, OnlyTheSecondPairOfAForcedMarkerNeedsAnEntity) {
+  settings.ForceCommentMarkers = true;
+  settings.CommentStart = {"&", ""};
+  settings.CommentEnd = {";", ""};
+  WordScanner scanner(settings, choices, lists, store, yield);
+  scanner.GetWords("tea & more; cake ");
+  EXPECT_EQ(Words(), "cake tea");
+}
+
 TEST_F(Comments, HiddenTextIsNotRead) {
   UsePreset("C");
   Count("a /* b c d */ e");
