@@ -193,7 +193,7 @@ TEST_F(ClipboardSourceTest, AWordIsShownAsFirstMetWhereCaseIsSignificant) {
 }
 
 TEST_F(ClipboardSourceTest, AGreyBoxDoesNotMakeCaseSignificant) {
-  Panel().chkCaseSignificant.SetValue(CheckState::kGrey);
+  Panel().chkCaseSignificant.SetValue(CheckState::kGrayed);
   CountClipboard("The");
   EXPECT_EQ(StoredWords(), "the");
 }
@@ -216,7 +216,7 @@ TEST_F(ClipboardSourceTest, CommentsAreSkippedWhereThePanelAllowsThem) {
 }
 
 TEST_F(ClipboardSourceTest, CommentsAreCountedWhereThePanelDoesNotAllowThem) {
-  for (const CheckState state : {CheckState::kUnchecked, CheckState::kGrey}) {
+  for (const CheckState state : {CheckState::kUnchecked, CheckState::kGrayed}) {
     Panel().chkAllowCommentMarkers.SetValue(state);
     CountClipboard("cat /* dog */ cow");
     EXPECT_EQ(StoredWords(), "cat cow dog");

@@ -162,7 +162,7 @@ TEST_F(CommentMarkerCheck, WhatMayStandInAWordIsThePanelsAffair) {
     sign.box->SetChecked(true);
     ExpectRefused(PartOfAWord(sign.marker));
     Panel().Hide();
-    for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrey}) {
+    for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrayed}) {
       sign.box->SetValue(notSet);
       ExpectAccepted();
       State().DiscardWords();
@@ -177,7 +177,7 @@ TEST_F(CommentMarkerCheck, EndMarkersMayBeWords) {
 
 TEST_F(CommentMarkerCheck, MarkersThatAreNotAllowedAreNotChecked) {
   SetMarkers("", "*/", "rem", "rem");
-  for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrey}) {
+  for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrayed}) {
     Panel().chkAllowCommentMarkers.SetValue(notSet);
     ExpectAccepted();
   }
