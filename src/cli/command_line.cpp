@@ -16,6 +16,11 @@ constexpr const char* kFooter =
     "  --set chkDropFinalS=1   --set 'txbFileExtensions(0)=txt htm'   --set cboLongWordSize=20\n"
     "A check box takes 0, 1 or 2 (grey), a list an item's text or #INDEX.\n"
     "\n"
+    "Formats: 0 rank frequency word, 1 rank word frequency, 2 rank frequency, 3 rank word,\n"
+    "4 frequency rank, 5 frequency word, 6 word rank, 7 word frequency, 8 word, 9 word (+commas),\n"
+    "10 Zipf data; of a folder with count-only words also 11 word freq no.files,\n"
+    "12 word file-list, 13 word file-list (+freq).\n"
+    "\n"
     "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line.";
 
 void DefineOptions(CLI::App& app, CommandLine& options, std::vector<std::string>& set,
@@ -94,6 +99,10 @@ ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostre
     err << "quillomat-cli: " << OnOneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
+  if (argc > 1 && std::string_view(argv[1]).find('-') != 0) {
+    fail("'" + std::string(argv[1]) + "': give a file with --file, a folder with --folder");
+    return result;
+  }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
   app.set_help_flag("--help", "Print this help");
   app.set_version_flag("--version", "quillomat-cli " + VersionText());

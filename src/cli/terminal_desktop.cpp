@@ -30,6 +30,11 @@ MessageAnswer AnswerOfWord(const std::string& word, MessageButtons buttons) {
   return AnswerByRule(buttons);
 }
 
+/// Boxes that look like refusals, but stop nothing.
+bool IsAdvice(const std::string& title) {
+  return title == "Warning" || title == "No doc files";
+}
+
 }  // namespace
 
 TerminalDesktop::TerminalDesktop(std::ostream& err, Answers answers)
@@ -44,31 +49,28 @@ std::optional<std::string> TerminalDesktop::AnswerTo(const std::string& title) c
 
 void TerminalDesktop::PrintMessage(const std::string& title, const std::string& text) {
   err_ << (title.empty() ? "Quillomat" : title) << ": " << OnOneLine(text);
-  const bool named = subject_.empty() || text.find(subject_) != std::string::npos;
-  if (!named) err_ << " (" << OnOneLine(subject_) << ")";
+  if (!subject_.empty()) err_ << " (" << OnOneLine(subject_) << ")";
   err_ << '\n';
 }
 
 MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
   const bool question = box.buttons != MessageButtons::kOk;
   const bool refusal = box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical;
-  if (refusal && !question) problemShown_ = true;
+  if (refusal && !question && !IsAdvice(box.title)) problemShown_ = true;
   const std::optional<std::string> word = AnswerTo(box.title);
   if (!question) PrintMessage(box.title, box.text);
   return word ? AnswerOfWord(*word, box.buttons) : AnswerByRule(box.buttons);
 }
 
 std::string TerminalDesktop::AskForText(const InputBox& box) {
-  const std::optional<std::string> word = AnswerTo(box.title);
-  if (!word) {
-    err_ << box.title << ": " << OnOneLine(box.defaultAnswer) << " is left as it is (--answer '"
-         << box.title << "=OK' overwrites it)\n";
-    problemShown_ = true;
-    return {};
-  }
-  const std::string lower = LowerCase(*word);
-  if (lower == "cancel") return {};
-  return lower == "ok" ? box.defaultAnswer : *word;
+  const std::string word = AnswerTo(box.title).value_or("cancel");
+  const std::string lower = LowerCase(word);
+  if (lower == "ok") return box.defaultAnswer;
+  if (lower != "cancel") return word;
+  err_ << box.title << ": " << OnOneLine(box.defaultAnswer) << " is left as it is (--answer '"
+       << box.title << "=OK' overwrites it)\n";
+  problemShown_ = true;
+  return {};
 }
 
 std::string TerminalDesktop::DigitGroupSeparator() {

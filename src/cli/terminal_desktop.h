@@ -21,7 +21,7 @@ class TerminalDesktop final : public Desktop {
   TerminalDesktop(std::ostream& err, Answers answers);
 
   void SetClipboardText(std::string text) { clipboard_ = std::move(text); }
-  /// What the count is about; added to messages that do not name it.
+  /// What the count is about; added to every message from now on.
   void SetSubject(std::string subject) { subject_ = std::move(subject); }
 
   /// Whether a message told of something that went wrong.

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/program.h"
+#include "base/letter_case.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "cli/control_settings.h"
@@ -17,6 +18,7 @@
 #include "desktop/input_file.h"
 #include "desktop/output_file.h"
 #include "engine/line_decoder.h"
+#include "listing/display_format.h"
 
 namespace quillomat {
 namespace {
@@ -61,8 +63,12 @@ class TerminalRun {
 
   bool SaveState() {
     if (!options_.saveState) return true;
-    const std::string error = program_.savedState.SaveState(*options_.saveState);
-    return error.empty() || Fail(*options_.saveState + ": " + error);
+    const std::string& path = *options_.saveState;
+    if (FileExists(path) && LowerCase(ExtensionOf(path)) != "qlm") {
+      return Fail(path + " exists and is no .qlm file; it is not overwritten by --save-state");
+    }
+    const std::string error = program_.savedState.SaveState(path);
+    return error.empty() || Fail(path + ": " + error);
   }
 
   bool ApplyChoices() {
@@ -89,13 +95,22 @@ class TerminalRun {
 
   bool ChooseFormat(const std::string& format) {
     const bool number = !format.empty() && format.find_first_not_of("0123456789") == format.npos;
-    const std::string value = number ? "#" + format : format;
-    if (SetControl(program_.frmMain, program_.frmParams, "cboDisplayFormat", value)) {
-      return Fail("--format: '" + format +
-                  "' is no display format; it takes a number from 0 to 13 or a name such as "
-                  "'word frequency'");
+    for (std::size_t i = 0; i < kDisplayFormatNames.size(); ++i) {
+      if (number ? format != std::to_string(i)
+                 : !EqualIgnoringCase(format, kDisplayFormatNames[i])) {
+        continue;
+      }
+      program_.frmMain.cboDisplayFormat.SetListIndex(static_cast<int>(i));
+      return true;
     }
-    return true;
+    std::string names;
+    for (const std::string_view name : kDisplayFormatNames) {
+      names.append(names.empty() ? "" : ", ").append(name);
+    }
+    return Fail("--format: '" + format +
+                "' is no display format; it takes a number from 0 to 13 or "
+                "one of: " +
+                names);
   }
 
   /// Says more about an input that cannot be read than the window would.
@@ -103,12 +118,16 @@ class TerminalRun {
     if (options_.folder) return CheckFolder(*options_.folder);
     const std::string& path = options_.file ? *options_.file : *options_.text;
     if (options_.text && path == "-") return true;
+    if (path.empty()) return Fail("--file or --text: the path is empty");
     if (FolderExists(path)) return Fail(path + " is a folder; count its files with --folder");
     if (!FileExists(path)) return Fail(path + " does not exist; check the path");
     try {
       const InputFile file(path);
     } catch (const RunTimeError& error) {
       return Fail(path + " cannot be read: " + error.Description() + "; check its permissions");
+    }
+    if (options_.file && !FileLength(path)) {
+      return Fail(path + " is no regular file; count what comes from a pipe with --text -");
     }
     if (options_.file && FileLength(path) == 0) {
       return Fail(path + " is empty; there is nothing to count");
@@ -140,9 +159,12 @@ class TerminalRun {
 
   /// What the count is about, for messages that do not say so themselves.
   [[nodiscard]] std::string Subject() const {
-    if (options_.folder) return *options_.folder;
-    if (options_.file) return *options_.file;
-    return *options_.text == "-" ? "standard input" : *options_.text;
+    std::string subject = "standard input";
+    if (options_.folder) subject = *options_.folder;
+    if (options_.file) subject = *options_.file;
+    if (options_.text && *options_.text != "-") subject = *options_.text;
+    if (HasOutputFile()) subject += ", " + program_.frmMain.txbFile[1].Text();
+    return subject;
   }
 
   bool FillClipboard(const std::string& path) {

@@ -75,7 +75,8 @@ std::size_t HtmlEntityEnd(std::string_view text) {
   if (semicolon == std::string_view::npos) return 0;
   const std::string_view inside = head.substr(1, semicolon - 1);
   if (inside.empty() || inside.find(' ') != std::string_view::npos) return 0;
-  if (inside[0] != '#' && CharClass().WordCharBytes(inside, 0) == 0) return 0;
+  static const CharClass kLetters;
+  if (inside[0] != '#' && kLetters.WordCharBytes(inside, 0) == 0) return 0;
   const std::size_t end = CharacterCount(head.substr(0, semicolon + 1));
   return end >= kShortest ? end : 0;
 }

@@ -35,8 +35,16 @@ void AppendWindows1252(std::string& text, std::string_view bytes) {
 
 /// The position of the first CR or LF of `bytes`, or its size.
 std::size_t FindLineEnd(std::string_view bytes) {
-  const std::size_t lineFeed = std::min(bytes.find('\n'), bytes.size());
-  return std::min(bytes.substr(0, lineFeed).find('\r'), lineFeed);
+  // In small steps, so that a text that has only one kind of line end is not searched for the other
+  // kind to its end for every line.
+  constexpr std::size_t kStep = 256;
+  for (std::size_t start = 0; start < bytes.size(); start += kStep) {
+    const std::string_view step = bytes.substr(start, kStep);
+    const std::size_t lineFeed = std::min(step.find('\n'), step.size());
+    const std::size_t lineEnd = std::min(step.substr(0, lineFeed).find('\r'), lineFeed);
+    if (lineEnd < step.size()) return start + lineEnd;
+  }
+  return bytes.size();
 }
 
 }  // namespace

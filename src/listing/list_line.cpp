@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <utility>
 
 #include "base/text_helpers.h"
@@ -37,8 +36,9 @@ void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
 void AppendLogarithm(std::string& line, std::int32_t number, bool useLog10, std::size_t width) {
   const double value = useLog10 ? Log10(number) : std::log(number);
   std::array<char, 32> text{};
-  const int length = std::snprintf(text.data(), text.size(), "%.4f", value);
-  std::string_view shown(text.data(), static_cast<std::size_t>(length));
+  char* const end =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 4).ptr;
+  std::string_view shown(text.data(), static_cast<std::size_t>(end - text.data()));
   if (shown.starts_with("0.")) shown.remove_prefix(1);
   AppendPadded(line, shown, width);
 }

@@ -79,7 +79,9 @@ void WordLister::RemoveLastComma() {
 
 bool WordLister::AskToOverwrite() {
   TextBox& txbPath = frmMain_.txbFile[1];
-  if (!frmParams_.chkWarnOnOverwrite.IsChecked() || !FileExists(txbPath.Text())) return true;
+  // A device exists too, but holds nothing that could be lost.
+  const bool exists = FileExists(txbPath.Text()) && FileLength(txbPath.Text()).has_value();
+  if (!frmParams_.chkWarnOnOverwrite.IsChecked() || !exists) return true;
   InputBox box;
   box.title = "The output file exists.";
   box.prompt = "To overwrite the current output file click on 'OK'." + std::string(kCrLf) +
@@ -163,7 +165,7 @@ LineOptions WordLister::OptionsFor(bool toFile) const {
   options.withCommas = toFile && frmParams_.chkOutputWithCommas.IsChecked();
   options.useLog10 = frmParams_.chkUseLog10.IsChecked();
   options.folder = frmMain_.txbFolder.Text();
-  options.lineBreak = toFile ? kPlatformLineBreak : kCrLf;
+  options.lineBreak = std::string(toFile ? kPlatformLineBreak : kCrLf);
   options.minimumColumnWidth = state_.minimumColumnWidth;
   return options;
 }

@@ -1,5 +1,6 @@
 #include "sources/count_run.h"
 
+#include <new>
 #include <string>
 
 #include "base/run_time_error.h"
@@ -53,6 +54,9 @@ void CountRun::RunCount() {
     if (!FolderHadFiles()) return;
     FinishRun();
   } catch (const RunTimeError& error) {
+    context_.lister.ReportProblem(error.Number(), error.Description());
+  } catch (const std::bad_alloc&) {
+    const RunTimeError error(RunTimeErrorNumber::kOutOfMemory);
     context_.lister.ReportProblem(error.Number(), error.Description());
   }
 }

@@ -1,7 +1,8 @@
 #include "sources/file_source.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
+#include <new>
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
@@ -21,8 +22,10 @@ constexpr std::size_t kTextTestBytes = 10'240;
 /// `amount` with two decimals.
 std::string TwoDecimals(double amount) {
   std::array<char, 40> text{};
-  const int length = std::snprintf(text.data(), text.size(), "%.2f", amount);
-  return {text.data(), static_cast<std::size_t>(length)};
+  char* const end =
+      std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::fixed, 2)
+          .ptr;
+  return {text.data(), end};
 }
 
 bool IsHtmlLike(const std::string& extension) {
@@ -76,6 +79,9 @@ ScanFileResult FileSource::ScanFile() {
     }
   } catch (const RunTimeError& error) {
     error_ = error;
+    return ScanFileResult::kRunTimeError;
+  } catch (const std::bad_alloc&) {
+    error_ = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
     return ScanFileResult::kRunTimeError;
   }
   FinishFile();

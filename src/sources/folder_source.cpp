@@ -18,6 +18,12 @@ std::string Counted(std::int32_t number, std::string_view noun) {
   return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
 }
 
+/// Whether an error is the count's own and not just that of one file.
+bool EndsTheRun(const RunTimeError& error) {
+  return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow) ||
+         error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory);
+}
+
 /// The contents of a folder, or nothing when it may not be read.
 std::optional<FolderListing> TryToList(const std::string& path) {
   try {
@@ -233,7 +239,7 @@ void FolderSource::ScanOneFile(const std::string& path) {
       ++state.filesInPass;
       break;
     case ScanFileResult::kRunTimeError:
-      if (fileSource_.Error().Number() == static_cast<int>(RunTimeErrorNumber::kOverflow)) {
+      if (EndsTheRun(fileSource_.Error())) {
         throw RunTimeError(fileSource_.Error());
       }
       Skip(path, fileSource_.Error().Description());

@@ -1,6 +1,7 @@
 #include "sources/word_list_reader.h"
 
 #include <array>
+#include <new>
 #include <vector>
 
 #include "base/letter_case.h"
@@ -122,6 +123,8 @@ bool WordListReader::ReadWords(WordListKind kind) {
     TakeWordsFromStore(kind);
     return true;
   } catch (const RunTimeError&) {
+    return false;
+  } catch (const std::bad_alloc&) {
     return false;
   }
 }

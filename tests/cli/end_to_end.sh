@@ -94,6 +94,20 @@ check "a list without words is none" 1 --file numbers.txt
 lines err 1
 check "a format needs its source" 1 --file cat.txt --format "word file-list"
 holds err "only when the source of the text is a folder"
+check "a pipe is no file" 1 --file /dev/stdin
+check "an empty path" 1 --file ""
+holds err "the path is empty"
+check "a path without an option" 2 cat.txt
+holds err "--file"
+check "the input is not overwritten by a state" 1 --file cat.txt --save-state cat.txt
+holds cat.txt "well-known"
+printf 'dog\rcat\r' >mac.txt
+check "a warning stops nothing" 0 --file cat.txt --set 'txbWordsFile(0)=mac.txt' --format 8
+holds err "This file has Macintosh line endings."
+check "the names of formats are known in capitals" 0 --file cat.txt --format "Word Frequency"
+check "a refused overwrite is told of" 1 --file cat.txt --output list.txt \
+  --answer "The output file exists.=Cancel"
+holds err "list.txt is left as it is"
 check "an unknown format" 2 --file cat.txt --format nonsense
 holds err "nonsense"
 check "an unknown order" 2 --file cat.txt --order nonsense
