@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "desktop/file_system.h"
 #include "listing/display_format.h"
@@ -141,12 +142,18 @@ void MainWindow::ConnectOutput() {
     ConcealNumWords(context_.frmMain, true);
     if (context_.state.blnStartUpCompleted) SetTheFocus(context_.frmMain);
   });
-  frmMain.cmdCopyToClipboard.Click.Connect([this] {
-    context_.desktop.ClearClipboard();
-    context_.desktop.PutClipboardText(context_.frmMain.txbOutput.Text());
-  });
+  frmMain.cmdCopyToClipboard.Click.Connect([this] { CopyOutputToClipboard(); });
   frmMain.chkDisableOutputToFile.Click.Connect([this] { countRun_.OnDisableOutputClick(); });
   frmMain.chkSuppressWords.Click.Connect([this] { OnSuppressWordsClick(); });
+}
+
+void MainWindow::CopyOutputToClipboard() {
+  try {
+    context_.desktop.ClearClipboard();
+    context_.desktop.PutClipboardText(context_.frmMain.txbOutput.Text());
+  } catch (const RunTimeError& error) {
+    Refuse(context_, error.Description(), context_.text.GetText(kProgramTitleText));
+  }
 }
 
 void MainWindow::ConnectNotices() {

@@ -23,6 +23,7 @@ class MainWindow {
   void ConnectFolder();
   void ConnectOutput();
   void ConnectNotices();
+  void CopyOutputToClipboard();
   void OnSuppressWordsClick();
   void ChooseInputFile();
   void ChooseOutputFile();

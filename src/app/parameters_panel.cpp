@@ -61,6 +61,11 @@ void ParametersPanel::ConnectScanningBoxes() {
 void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
   CountState& state = context_.state;
   if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return;
+  if (state.busy) {
+    // The words are being listed: no time for questions, but the next count must know.
+    state.blnWordsGot = false;
+    return;
+  }
   if (ConfirmReRead()) return;
   // No unchecks the box, whichever way it was clicked.
   state.blnInhibitPrompt = true;

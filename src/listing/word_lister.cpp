@@ -89,7 +89,11 @@ bool WordLister::AskToOverwrite() {
                "To disable file output click on 'Cancel'.";
   box.defaultAnswer = txbPath.Text();
   const std::string path = PathForWalk(TrimBlanks(desktop_.AskForText(box)));
-  if (!path.empty()) {
+  const bool isInput = frmMain_.optInFile.Value() && IsSameFile(path, frmMain_.txbFile[0].Text());
+  if (isInput) {
+    desktop_.ShowMessage({"The output file cannot be the same as the input file.", "Error",
+                          MessageIcon::kExclamation});
+  } else if (!path.empty()) {
     const std::string folder = FolderPartOf(path);
     if (folder.empty() || FolderExists(folder)) {
       txbPath.SetText(path);

@@ -76,6 +76,7 @@ bool CountRun::PrepareRun() {
   state.settings.ReadingWordList = false;
   state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
   state.settings.BuildExtraWordChars();
+  filterChoices_ = ReadFilterChoices(context_.frmParams);
   state.listAfterStop = false;
   state.settings.ForceCommentMarkers = false;
   context_.output.SetFull(false);
@@ -169,7 +170,7 @@ void CountRun::FinishRun() {
   EnableSourceOptions(frmMain, false);
   EnableListOptions(frmMain, false);
   if (!state.settings.CountOnlyMode) {
-    ApplyWordFilters(state.store, ReadFilterChoices(context_.frmParams));
+    ApplyWordFilters(state.store, filterChoices_);
   }
   context_.output.ShowText(frmMain.txbOutput.Text() + ". . . ");
   state.totals = state.store.TallyWords();
@@ -254,6 +255,7 @@ void CountRun::ListAgain() {
     frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
     context_.lister.ListWords();
     frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
+    frmMain.lblTwirler.SetCaption(" ");
     EnableListOptions(frmMain, true);
   }
   context_.state.StopRequested = false;

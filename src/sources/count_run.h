@@ -2,6 +2,7 @@
 // list at the end.
 #pragma once
 
+#include "engine/word_filters.h"
 #include "sources/clipboard_source.h"
 #include "sources/file_extensions.h"
 #include "sources/file_source.h"
@@ -58,6 +59,8 @@ class CountRun {
   FileSource file_;
   FileExtensions extensions_;
   FolderSource folder_;
+  /// As the panel stood when the count began, like all that a count goes by.
+  FilterChoices filterChoices_;
   bool listWasMade_ = false;
 };
 

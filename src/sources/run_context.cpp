@@ -7,10 +7,10 @@
 namespace quillomat {
 namespace {
 
-/// The panel's commands that load settings or words.
+/// The panel's commands that load settings or words, or open a dialog over a run.
 std::vector<Control*> CommandsThatTouchWords(ParamsForm& frmParams) {
   std::vector<Control*> commands = {&frmParams.cmdRestoreDefaults, &frmParams.cmdInitialize,
-                                    &frmParams.cmdSaveLoadState[1]};
+                                    &frmParams.cmdSaveLoadState[0], &frmParams.cmdSaveLoadState[1]};
   for (std::size_t i = 0; i < 2; ++i) {
     commands.insert(commands.end(),
                     {&frmParams.cmdSelectWordsFile[i], &frmParams.cmdClearWordsFile[i],

@@ -177,6 +177,7 @@ TEST_F(CommentMarkerCheck, EndMarkersMayBeWords) {
 
 TEST_F(CommentMarkerCheck, MarkersThatAreNotAllowedAreNotChecked) {
   SetMarkers("", "*/", "rem", "rem");
+  desktop.Answer("Quillomat", MessageAnswer::kYes);  // the text may be read anew
   for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrayed}) {
     Panel().chkAllowCommentMarkers.SetValue(notSet);
     ExpectAccepted();

@@ -33,10 +33,16 @@ class CountFixture : public SourcesFixture {
  protected:
   CountFixture() { EveryYieldPumps(); }
 
-  /// Does it at the n-th yield from now. A count yields after each word that it reads (a file also
-  /// after each line), then each list after each word that it lists.
+  void TearDown() override { EXPECT_EQ(actionsToCome_, 0) << "a yield was never reached"; }
+
+  /// Does it at the n-th yield from now, which the test must reach. A count yields after each word
+  /// that it reads (a file also after each line), then each list after each word that it lists.
   void AtYield(int number, std::function<void()> action) {
-    desktop.AtPump(desktop.Pumps() + number, std::move(action));
+    ++actionsToCome_;
+    desktop.AtPump(desktop.Pumps() + number, [this, action = std::move(action)] {
+      --actionsToCome_;
+      action();
+    });
   }
   void StopAtYield(int number) {
     AtYield(number, [this] { Count(); });
@@ -62,6 +68,9 @@ class CountFixture : public SourcesFixture {
     }
     return text;
   }
+
+ private:
+  int actionsToCome_ = 0;
 };
 
 }  // namespace quillomat
