@@ -63,7 +63,7 @@ MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
 }
 
 std::string TerminalDesktop::AskForText(const InputBox& box) {
-  const std::string word = AnswerTo(box.title).value_or("cancel");
+  std::string word = AnswerTo(box.title).value_or("cancel");
   const std::string lower = LowerCase(word);
   if (lower == "ok") return box.defaultAnswer;
   if (lower != "cancel") return word;

@@ -140,6 +140,15 @@ TEST_F(CountRunStop, TheNextCompleteCountIsCompleteAgain) {
   EXPECT_TRUE(State().completeRun);
 }
 
+TEST_F(CountRunStop, ARefusedRunTakesTheIncompleteListAway) {
+  StopTheScanBehind(3, MessageAnswer::kYes);
+  CountFile("");
+  desktop.ForgetQuestions();
+  ChooseOrder(WordOrder::kAlphabetical);
+  EXPECT_EQ(Output(), "");
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
 TEST_F(CountRunStop, AClickBehindTheLastWordIsAnInterruptionToo) {
   StopTheScanBehind(5, MessageAnswer::kNo);
   EXPECT_TRUE(Output().ends_with("Stopped with 5 words found."));

@@ -12,6 +12,7 @@ namespace quillomat {
 namespace {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const std::string kNotice = "Processing . . . ";
@@ -150,6 +151,17 @@ TEST_F(CountRunTest, TheListIsNotReadFromFilesChangedDuringTheRun) {
   CountClipboard("cat dog");
   EXPECT_EQ(ContentsOf(output), "Word (longest has 3 characters)\ncat\ndog\n");
   EXPECT_EQ(ContentsOf(folder / "other.txt"), "");
+}
+
+TEST_F(CountRunTest, NoCountIsStartedWhileAWordsFileIsRead) {
+  desktop.SetClipboard("hen");
+  Main().optOnClipboard.SetValue(true);
+  AtYield(2, [this] { Count(); });
+  desktop.AnswerFile(folder.Write("words.txt", "cat dog cow"));
+  Panel().cmdSelectWordsFile[0].PerformClick();
+  EXPECT_EQ(State().lists.IgnoreList.Count(), 3);
+  EXPECT_THAT(desktop.Titles(),
+              ElementsAre("Specify file containing words to ignore", "Words loaded"));
 }
 
 TEST_F(CountRunTest, TheLanguageMayBeSwitchedDuringARun) {

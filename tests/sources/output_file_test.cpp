@@ -294,6 +294,21 @@ TEST_F(OutputFileTest, WithoutACompleteCountNothingIsOffered) {
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
 
+TEST_F(OutputFileTest, SwitchingItOnDuringARunOffersNothing) {
+  CountTwoWords();
+  ListTo(path);
+  for (const int yield : {1, 3, 5}) {
+    DoNotWarn();
+    AtYield(yield, [this] {
+      Main().chkDisableOutputToFile.SetChecked(true);
+      Main().chkDisableOutputToFile.SetChecked(false);
+    });
+    CountTwoWords();
+    EXPECT_EQ(ContentsOf(path), kFileList);
+  }
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+}
+
 TEST_F(OutputFileTest, SwitchingItOnMovesTheFocus) {
   Main().Show();
   Main().optOnClipboard.SetValue(true);
@@ -376,6 +391,15 @@ TEST_F(OutputFileTest, AnErrorInTheTextBoxTellsThatTheFileIsWritten) {
             "Error 57: Device I/O error\r\nResults have been written to the output file.");
   EXPECT_EQ(ContentsOf(path), kFileList);
   ExpectIdle();
+}
+
+TEST_F(OutputFileTest, AFileOfAnEarlierListIsNotSpokenOf) {
+  ListTo(path);
+  CountTwoWords();
+  Main().chkDisableOutputToFile.SetChecked(true);
+  AtYield(1, [] { throw RunTimeError(RunTimeErrorNumber::kDeviceIo); });
+  ChooseOrder(WordOrder::kAlphabetical);
+  EXPECT_EQ(OnlyMessage().text, "Error 57: Device I/O error");
 }
 
 TEST_F(OutputFileTest, AfterAProblemTheListCanBeMadeElsewhere) {
