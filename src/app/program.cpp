@@ -103,7 +103,10 @@ void Program::Initialize() {
     wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
   panel_.SetDefaultValues();
-  frmMain.chkSuppressWords.SetChecked(false);
+  for (CheckBox* box : {&frmMain.chkSuppressWords, &frmMain.chkDisableOutputToFile,
+                        &frmMain.chkIncludeSubfolders}) {
+    box->SetChecked(false);
+  }
   state.displayingWords = false;
   frmMain.cboWordOrder.SetListIndex(0);
   frmMain.cboDisplayFormat.SetListIndex(0);

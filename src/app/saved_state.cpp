@@ -51,6 +51,7 @@ std::string SavedState::SaveState(const std::string& path) {
 RestoreResult SavedState::ReadControls(const std::string& path) {
   const std::string& stateFile = PathOrSettings(path);
   if (!FileExists(stateFile)) return RestoreResult::kNoFile;
+  context_.state.blnWordsGot = false;  // even if only some of the controls get their values
   try {
     const BusyGuard busy(context_);  // no handler lists words while the controls are being set
     ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
@@ -67,7 +68,6 @@ RestoreResult SavedState::RestoreSavedState(const std::string& path) {
 }
 
 RestoreResult SavedState::TakeControlsAsTheyAre() {
-  context_.state.blnWordsGot = false;
   TakeTypedLists();
   RestoreResult result =
       AnyComboWithoutItem() ? RestoreResult::kInvalidIndex : RestoreResult::kRestored;
@@ -75,9 +75,12 @@ RestoreResult SavedState::TakeControlsAsTheyAre() {
   if (!inputPath.empty()) countRun_.File().CheckInputFile(inputPath);
   context_.frmMain.txbFolder.LostFocus.Fire();
   for (std::size_t i = 0; i < 2; ++i) {
-    if (context_.frmParams.txbWordsFile[i].Text().empty()) continue;
-    const bool read = wordLists_.AttemptToReadWords(static_cast<WordListKind>(i));
-    if (!read) result = RestoreResult::kWordsFileFailed;
+    const auto kind = static_cast<WordListKind>(i);
+    if (context_.frmParams.txbWordsFile[i].Text().empty()) {
+      wordLists_.ClearWordsFile(kind);  // of the state before, which names another file
+    } else if (!wordLists_.AttemptToReadWords(kind)) {
+      result = RestoreResult::kWordsFileFailed;
+    }
   }
   return result;
 }

@@ -1,0 +1,80 @@
+// The end of the program: what is saved, what is told, and that nothing stops it.
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "app/state_lines.h"
+#include "support/program_fixture.h"
+#include "support/user_home.h"
+
+namespace quillomat {
+namespace {
+
+class Quitting : public ProgramFixture {
+ protected:
+  Quitting() {
+    program.UseSettingsFolder();
+    program.Ended.Connect([this] { ++ends; });
+  }
+
+  UserHome home;
+  int ends = 0;
+};
+
+TEST_F(Quitting, SavesTheStateEvenThoughNothingWasCounted) {
+  Main().cmdQuit.PerformClick();
+  EXPECT_EQ(ContentsOf(home.SettingsFile()), FileOfLines(InitialLines()));
+  EXPECT_THAT(desktop.Titles(), testing::IsEmpty());
+  EXPECT_TRUE(program.HasEnded());
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Quitting, SavesNothingWhenTheUserDoesNotWishIt) {
+  Panel().chkSaveStateOnQuit.SetChecked(false);
+  Main().cmdQuit.PerformClick();
+  EXPECT_FALSE(std::filesystem::exists(home.SettingsFile()));
+  EXPECT_TRUE(program.HasEnded());
+}
+
+TEST_F(Quitting, SavesNothingWhenTheBoxIsHalfChecked) {
+  Panel().chkSaveStateOnQuit.SetValue(CheckState::kGrayed);
+  Main().cmdQuit.PerformClick();
+  EXPECT_FALSE(std::filesystem::exists(home.SettingsFile()));
+}
+
+TEST_F(Quitting, GoesOnWhenTheStateCannotBeSaved) {
+  std::filesystem::create_directories(home.SettingsFile());
+  Main().cmdQuit.PerformClick();
+  const MessageBox box = OnlyMessage();
+  EXPECT_TRUE(box.text.starts_with("Error when attempting to save state: ")) << box.text;
+  EXPECT_EQ(box.title, "Error");
+  EXPECT_EQ(box.icon, MessageIcon::kExclamation);
+  EXPECT_EQ(box.buttons, MessageButtons::kOk);
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Quitting, ClosingTheWindowIsTheSame) {
+  Main().CloseRequested.Fire();
+  EXPECT_EQ(ContentsOf(home.SettingsFile()), FileOfLines(InitialLines()));
+  EXPECT_EQ(ends, 1);
+  Main().CloseRequested.Fire();
+  EXPECT_EQ(ends, 1) << "it ends once";
+}
+
+TEST_F(Quitting, DuringACountStopsItFirstAndAsksNothing) {
+  EveryYieldPumps();
+  bool endedInsideTheRun = false;
+  desktop.AtPump(desktop.Pumps() + 3, [&] {
+    Main().CloseRequested.Fire();
+    endedInsideTheRun = program.HasEnded();
+  });
+  std::string text;
+  for (int i = 0; i < 5000; ++i) text += "word ";
+  CountClipboard(text);
+  EXPECT_FALSE(endedInsideTheRun);
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(desktop.Titles(), testing::IsEmpty());
+  EXPECT_TRUE(std::filesystem::exists(home.SettingsFile()));
+}
+
+}  // namespace
+}  // namespace quillomat
