@@ -6,6 +6,7 @@
 #include "base/text_helpers.h"
 #include "base/utf8.h"
 #include "desktop/file_system.h"
+#include "desktop/paths.h"
 #include "listing/file_list_sink.h"
 #include "listing/text_box_list_sink.h"
 
@@ -54,7 +55,7 @@ void WordLister::ListWords() {
                         frmParams_.chkIgnoreInfrequentWords.IsChecked()}));
     return RemoveLastComma();
   }
-  if (HasOutputFile() && AskToOverwrite() && !ListIntoFile()) return;
+  if (HasOutputFile() && AskToOverwrite() && SparesTheText() && !ListIntoFile()) return;
   output_.ClearOutput();
   if (state_.StopRequested) {
     output_.OutputToTxb(std::string(kCrLf) + "Output to file was terminated.");
@@ -89,11 +90,7 @@ bool WordLister::AskToOverwrite() {
                "To disable file output click on 'Cancel'.";
   box.defaultAnswer = txbPath.Text();
   const std::string path = PathForWalk(TrimBlanks(desktop_.AskForText(box)));
-  const bool isInput = frmMain_.optInFile.Value() && IsSameFile(path, frmMain_.txbFile[0].Text());
-  if (isInput) {
-    desktop_.ShowMessage({"The output file cannot be the same as the input file.", "Error",
-                          MessageIcon::kExclamation});
-  } else if (!path.empty()) {
+  if (!path.empty()) {
     const std::string folder = FolderPartOf(path);
     if (folder.empty() || FolderExists(folder)) {
       txbPath.SetText(path);
@@ -101,6 +98,24 @@ bool WordLister::AskToOverwrite() {
     }
     desktop_.ShowMessage({"Folder does not exist.", "Error", MessageIcon::kExclamation});
   }
+  frmMain_.chkDisableOutputToFile.SetChecked(true);
+  return false;
+}
+
+bool WordLister::SparesTheText() {
+  const std::string& path = frmMain_.txbFile[1].Text();
+  MessageBox box{"", "Invalid output file", MessageIcon::kExclamation};
+  if (frmMain_.optInFile.Value() &&
+      IsSameFile(path, std::string(TrimBlanks(frmMain_.txbFile[0].Text())))) {
+    box.text = "The output file cannot be the same as the input file.";
+    box.title = "Error";
+  } else if (frmMain_.optFolder.Value() && IsInFolder(path, frmMain_.txbFolder.Text(),
+                                                      frmMain_.chkIncludeSubfolders.IsChecked())) {
+    box.text = "The output file cannot be in the folder or a subfolder.";
+  } else {
+    return true;
+  }
+  desktop_.ShowMessage(box);
   frmMain_.chkDisableOutputToFile.SetChecked(true);
   return false;
 }

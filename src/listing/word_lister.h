@@ -42,6 +42,9 @@ class WordLister {
   /// While CheckDisplayFormat changes the format the change is nobody else's affair.
   [[nodiscard]] bool IsChangingFormat() const { return changingFormat_; }
 
+  /// A new run begins: what was written before is not its result.
+  void ForgetOutputFile() { fileWritten_ = false; }
+
   /// Whether the last ListWords wrote the output file.
   [[nodiscard]] bool FileWritten() const { return fileWritten_; }
 
@@ -50,6 +53,9 @@ class WordLister {
   [[nodiscard]] bool HasOutputFile() const;
   /// Whether the output file may be written; the user may name another one.
   bool AskToOverwrite();
+  /// Whether the output file is none of those that the text comes from, which a path typed after
+  /// the count or at the question may name. If it is one, the user is told and file output is off.
+  bool SparesTheText();
   bool ListIntoFile();
   void ListIntoTextBox();
   void Walk(const LineFormatter& formatter, ListSink& sink);

@@ -78,6 +78,7 @@ bool CountRun::PrepareRun() {
   state.settings.BuildExtraWordChars();
   filterChoices_ = ReadFilterChoices(context_.frmParams);
   state.listAfterStop = false;
+  context_.lister.ForgetOutputFile();
   state.settings.ForceCommentMarkers = false;
   context_.output.SetFull(false);
   state.WordsRead = 0;

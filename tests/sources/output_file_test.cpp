@@ -226,6 +226,42 @@ TEST_F(OutputFileTest, TheInputFileIsNeverTakenForAnAnswer) {
   EXPECT_EQ(ContentsOf(input), "cat dog");
 }
 
+TEST_F(OutputFileTest, ThePathOfTheInputTypedAfterTheCountIsRefused) {
+  DoNotWarn();
+  const std::string input = folder.Write("in.txt", "cat dog");
+  CountFile("  " + input + " ");
+  desktop.ForgetQuestions();
+  ListTo(input);
+  Main().cboWordOrder.SetListIndex(1);
+  ExpectMessage(OnlyMessage(), "The output file cannot be the same as the input file.", "Error",
+                MessageIcon::kExclamation);
+  EXPECT_EQ(ContentsOf(input), "cat dog");
+  EXPECT_TRUE(Main().chkDisableOutputToFile.IsChecked());
+  EXPECT_EQ(Output(), kBoxList);
+  ExpectIdle();
+}
+
+TEST_F(OutputFileTest, AFileOfTheCountedFolderIsRefusedHoweverItIsNamed) {
+  const std::string texts = folder.Make("texts");
+  const std::string text = folder.Write("texts/in.txt", "cat dog");
+  ListTo(folder.Write("out.txt", "precious"));
+  desktop.AnswerText(text);
+  CountFolder(texts);
+  ExpectMessage(OnlyMessage(), "The output file cannot be in the folder or a subfolder.",
+                "Invalid output file", MessageIcon::kExclamation);
+  EXPECT_EQ(ContentsOf(text), "cat dog");
+  EXPECT_EQ(ContentsOf(path), "precious");
+  ExpectIdle();
+}
+
+TEST_F(OutputFileTest, AProblemOfTheNextRunDoesNotSpeakOfTheListBefore) {
+  ListTo(path);
+  CountTwoWords();
+  EXPECT_TRUE(program.lister.FileWritten());
+  CountClipboard("");
+  EXPECT_FALSE(program.lister.FileWritten());
+}
+
 TEST_F(OutputFileTest, WithoutTheWarningAnExistingFileIsOverwritten) {
   DoNotWarn();
   ListTo(folder.Write("out.txt", "precious"));
