@@ -1,14 +1,19 @@
 #!/bin/sh
-# Builds Quillomat and counts: ./run.sh --file some-book.txt
-# Without arguments it counts the bundled sample. ./run.sh --help lists the options.
+# Builds Quillomat and opens its window; ./run.sh some-book.txt opens it with that book. Without a
+# display it counts the bundled sample in the terminal.
+# ./run.sh cli --file some-book.txt counts in the terminal; ./run.sh cli --help lists the options.
 . "$(dirname "$0")/cmake/setup.sh"
 
 # shellcheck disable=SC2046 # one word a package
 need_packages $(packages_of build)
 build release
 
-program="$root/build/release/src/cli/quillomat-cli"
-if [ $# -eq 0 ]; then
-  exec "$program" --file "$root/data/samples/harbour_en.txt" --summary
+terminal="$root/build/release/src/cli/quillomat-cli"
+if [ "${1:-}" = cli ]; then
+  shift
+  exec "$terminal" "$@"
+elif [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  exec "$root/build/release/src/qt/quillomat" "$@"
 fi
-exec "$program" "$@"
+printf 'There is no display here, so this is the sample in the terminal.\n' >&2
+exec "$terminal" --file "$root/data/samples/harbour_en.txt" --summary

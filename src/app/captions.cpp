@@ -27,6 +27,14 @@ void SetCaptionsOf(Form& form, std::span<const ControlCaption> captions, const P
   }
 }
 
+void SetToolTipsOf(Form& form, std::span<const ControlCaption> toolTips, const ProgramText& text) {
+  for (const ControlCaption& toolTip : toolTips) {
+    if (Control* control = form.Find(toolTip.control)) {
+      control->SetToolTip(text.GetText(toolTip.text));
+    }
+  }
+}
+
 }  // namespace
 
 std::string VersionText() {
@@ -37,18 +45,16 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
                  HelpForm& frmHelp) {
   frmMain.SetCaption(text.GetText(kProgramTitleText) + " " + VersionText());
   SetCaptionsOf(frmMain, kMainFormCaptions, text);
-  for (const ControlCaption& toolTip : kMainFormToolTips) {
-    if (Control* control = frmMain.Find(toolTip.control)) {
-      control->SetToolTip(text.GetText(toolTip.text));
-    }
-  }
+  SetToolTipsOf(frmMain, kMainFormToolTips, text);
   if (frmMain.cmdCountWords.Caption() != kStopCaption) {
     frmMain.cmdCountWords.SetCaption(text.GetText(kCountCaptionText));
   }
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
   SetCaptionsOf(frmParams, kParamsFormCaptions, text);
+  SetToolTipsOf(frmParams, kParamsFormToolTips, text);
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
+  SetToolTipsOf(frmHelp, kHelpFormToolTips, text);
 }
 
 }  // namespace quillomat

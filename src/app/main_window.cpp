@@ -46,6 +46,21 @@ void MainWindow::FillListCombos() {
   frmMain.cboDisplayFormat.SetListIndex(0);
 }
 
+void MainWindow::ChooseText(const std::string& path) {
+  if (context_.state.busy) return;
+  MainForm& frmMain = context_.frmMain;
+  if (FolderExists(path)) {
+    frmMain.txbFolder.SetText(path);
+    frmMain.optFolder.SetValue(true);
+  } else {
+    frmMain.txbFile[0].SetText(path);
+    frmMain.optInFile.SetValue(true);
+    const bool found = countRun_.File().CheckInputFile(path) == ScanFileResult::kDone;
+    if (!found) Refuse(context_, "Input file does not exist.", "File not found");
+  }
+  SetTheFocus(frmMain);
+}
+
 void MainWindow::ConnectSource() {
   MainForm& frmMain = context_.frmMain;
   frmMain.optOnClipboard.Click.Connect([this] {

@@ -1,6 +1,8 @@
 // The main window: what its commands, boxes and labels do.
 #pragma once
 
+#include <string>
+
 #include "sources/count_run.h"
 #include "sources/run_context.h"
 
@@ -13,6 +15,10 @@ class MainWindow {
 
   /// Connects the window's controls with what they do. Called once.
   void Connect();
+
+  /// Makes a file or a folder the text to be counted, as when it is dropped on the window. A path
+  /// that is neither is taken for a file, and told of. Nothing happens while a run is at work.
+  void ChooseText(const std::string& path);
 
   /// Fills the combo boxes of word orders and display formats and selects the first items.
   void FillListCombos();

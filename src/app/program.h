@@ -44,6 +44,9 @@ class Program {
   /// Puts the windows into their initial, empty state with default parameters.
   void Initialize();
 
+  /// Makes a file or a folder the text to be counted, as when it is dropped on the main window.
+  void ChooseText(const std::string& path) { mainWindow_.ChooseText(path); }
+
   /// From now on the empty path of a state file means the one in the user's settings folder.
   void UseSettingsFolder();
 

@@ -48,14 +48,50 @@ inline constexpr auto kMainFormCaptions = std::to_array<ControlCaption>({
     {"cmdHelp", 122},
     {"cmdLanguage", 123},
     {"cmdQuit", 124},
+    {"fraSource", 125},
+    {"fraOutput", 126},
 });
 
-/// Tool tips of frmMain.
+/// Tool tips of frmMain, but for chkSuppressWords, whose tool tip goes with its value.
 inline constexpr auto kMainFormToolTips = std::to_array<ControlCaption>({
     {"cmdListFiles", 310},
     {"cmdSetParameters", 311},
     {"cmdSaveState", 312},
     {"cmdLanguage", 313},
+    {"optOnClipboard", 400},
+    {"optInFile", 401},
+    {"optFolder", 402},
+    {"txbFile(0)", 403},
+    {"cmdFile(0)", 404},
+    {"cmdClearFile(0)", 405},
+    {"lblFilesize", 406},
+    {"txbFolder", 407},
+    {"cmdFolder", 408},
+    {"cmdClearFolder", 409},
+    {"chkIncludeSubfolders", 410},
+    {"txbFileExtensions(0)", 411},
+    {"txbFileExtensions(1)", 412},
+    {"cboWordOrder", 413},
+    {"cboDisplayFormat", 414},
+    {"txbFile(1)", 415},
+    {"cmdFile(1)", 416},
+    {"cmdClearFile(1)", 417},
+    {"chkDisableOutputToFile", 418},
+    {"cmdCountWords", 419},
+    {"lblTwirler", 420},
+    {"txbOutput", 421},
+    {"cmdClearOutput", 422},
+    {"cmdCopyToClipboard", 423},
+    {"cmdClipboardViewer", 424},
+    {"cmdHelp", 425},
+    {"cmdQuit", 426},
+    {"lblOnlineDocumentation", 427},
+    {"lblOrvandelSystems", 428},
+    {"lblCopyrightNotice", 429},
+    {"lblNumberOfWords", 430},
+    {"lblNumWordsExcluded", 431},
+    {"lblNumOccurrences", 432},
+    {"lblTotalNumOccurrences", 433},
 });
 
 /// The window frmParams itself.
@@ -114,6 +150,58 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"cmdClose", 246},
 });
 
+/// Tool tips of frmParams.
+inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({
+    {"chkAllowWordsWithHyphens", 450},
+    {"chkAllowWordsWithApostrophes", 451},
+    {"chkAllowWordsWithUnderscores", 452},
+    {"chkAllowWordsWithColons", 453},
+    {"chkAllowWordsWithBackslashes", 454},
+    {"chkAllowWordsWithForwardslashes", 455},
+    {"chkAllowWordsWithParentheses", 456},
+    {"chkAllowWordsWithPeriods", 457},
+    {"chkAllowWordsWithCommas", 458},
+    {"chkAllowWordsWithAtSigns", 459},
+    {"chkAllowWordsWithNumerals", 460},
+    {"chkCaseSignificant", 461},
+    {"chkDropFinalS", 462},
+    {"chkIgnoreShortWords", 463},
+    {"cboShortWordSize", 464},
+    {"cboLongWordSize", 465},
+    {"chkIgnoreInfrequentWords", 466},
+    {"cboThresholdFrequency", 467},
+    {"chkIgnoreRepetitions", 468},
+    {"chkIgnoreRomNum40", 469},
+    {"chkIgnoreNoVowelOrY", 470},
+    {"chkAllowCommentMarkers", 471},
+    {"txbStartComment(0)", 472},
+    {"txbEndComment(0)", 473},
+    {"txbStartComment(1)", 474},
+    {"txbEndComment(1)", 475},
+    {"cmdSelectWordsFile(0)", 476},
+    {"cmdSelectWordsFile(1)", 477},
+    {"txbWordsFile(0)", 478},
+    {"txbWordsFile(1)", 479},
+    {"cmdClearWordsFile(0)", 480},
+    {"cmdClearWordsFile(1)", 481},
+    {"txbWordsToIgnoreOrCount(0)", 482},
+    {"txbWordsToIgnoreOrCount(1)", 483},
+    {"cmdClearWordsToIgnoreOrCount(0)", 484},
+    {"cmdClearWordsToIgnoreOrCount(1)", 485},
+    {"chkOutputWithCommas", 486},
+    {"chkUseLog10", 487},
+    {"chkWarnOnOverwrite", 488},
+    {"chkSaveStateOnQuit", 489},
+    {"cmdClearCheckboxes(0)", 490},
+    {"cmdClearCheckboxes(1)", 491},
+    {"cmdSaveLoadState(0)", 492},
+    {"cmdSaveLoadState(1)", 493},
+    {"txbStateFile", 494},
+    {"cmdRestoreDefaults", 495},
+    {"cmdInitialize", 496},
+    {"cmdClose", 497},
+});
+
 /// The window frmHelp itself.
 inline constexpr int kHelpFormCaption = 280;
 
@@ -121,5 +209,17 @@ inline constexpr int kHelpFormCaption = 280;
 inline constexpr auto kHelpFormCaptions = std::to_array<ControlCaption>({
     {"cmdClose", 281},
 });
+
+/// Tool tips of frmHelp.
+inline constexpr auto kHelpFormToolTips = std::to_array<ControlCaption>({
+    {"txbHelpScreen", 520},
+    {"cmdClose", 521},
+});
+
+// Texts of the bar that finds a word in the list.
+inline constexpr int kFindText = 530;
+inline constexpr int kFindNextText = 531;
+inline constexpr int kNotFoundText = 532;
+inline constexpr int kFindPreviousText = 533;
 
 }  // namespace quillomat

@@ -55,6 +55,11 @@ void Form::SetFocus(Control& control) {
   FocusMoved.Fire();
 }
 
+void Form::LoseFocus() {
+  Control* const before = std::exchange(focused_, nullptr);
+  if (before != nullptr) before->LostFocus.Fire();
+}
+
 void Form::Register(Control& control) {
   controls_.push_back(&control);
 }

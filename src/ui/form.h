@@ -46,6 +46,9 @@ class Form {
   /// Nothing happens when `control` has the focus already or cannot take it now. A handler of
   /// LostFocus that moves the focus itself has the last word.
   void SetFocus(Control& control);
+  /// Takes the focus away, as when the user goes on in another window: LostFocus of the control
+  /// that had it.
+  void LoseFocus();
   /// Null while no control has the focus.
   [[nodiscard]] Control* Focused() const { return focused_; }
 

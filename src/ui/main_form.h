@@ -14,6 +14,7 @@ class MainForm final : public Form {
   MainForm();
 
   // Where the text comes from.
+  Frame fraSource{*this, "fraSource", "Text to be counted"};
   OptionButton optOnClipboard{*this, "optOnClipboard", "Clipboard"};
   OptionButton optInFile{*this, "optInFile", "Single file"};
   OptionButton optFolder{*this, "optFolder", "Folder"};
@@ -40,6 +41,7 @@ class MainForm final : public Form {
   CommandButton cmdListFiles{*this, "cmdListFiles", "List files to be scanned"};
 
   // Counting and listing.
+  Frame fraOutput{*this, "fraOutput", "List"};
   CommandButton cmdCountWords{*this, "cmdCountWords", "Count word frequencies"};
   ComboBox cboWordOrder{*this, "cboWordOrder"};
   ComboBox cboDisplayFormat{*this, "cboDisplayFormat"};

@@ -79,14 +79,17 @@ TEST_F(StartUp, StepsComeInTheirOrder) {
     step(program.frmMain.Visible() ? "window shown" : "title: " + program.frmMain.Caption());
   });
   program.frmMain.cboDisplayFormat.Changed.Connect([&] {
-    if (program.frmMain.cboDisplayFormat.ListIndex() <= 0) step("lists filled");
+    if (program.frmMain.cboDisplayFormat.ListIndex() == 0) step("lists filled");
   });
   program.frmParams.cboLongWordSize.Changed.Connect([&] {
-    if (program.frmParams.cboLongWordSize.ListIndex() == -1) step("number lists filled");
+    const bool filled = !program.frmParams.cboLongWordSize.Items().empty();
+    if (filled && program.frmParams.cboLongWordSize.ListIndex() == -1) step("number lists filled");
     if (program.frmParams.cboLongWordSize.ListIndex() == 3) step("defaults set");
     if (program.frmParams.cboLongWordSize.ListIndex() == 5) step("settings restored");
   });
-  program.frmMain.lblNumberOfWords.Changed.Connect([&] { step("word counts hidden"); });
+  program.frmMain.lblNumberOfWords.Changed.Connect([&] {
+    if (!program.frmMain.lblNumberOfWords.Visible()) step("word counts hidden");
+  });
   program.frmMain.optFolder.Click.Connect([&] { step("folder source selected"); });
   ASSERT_TRUE(program.Start());
   EXPECT_THAT(steps, ElementsAre("title: Quillomat 7.07", "lists filled", "number lists filled",

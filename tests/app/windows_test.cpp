@@ -78,7 +78,9 @@ TEST_F(Windows, MainWindow) {
   EXPECT_EQ(frmMain.Name(), "frmMain");
   EXPECT_EQ(frmMain.Caption(), "Quillomat 7.07");
   EXPECT_TRUE(frmMain.Visible());
-  ExpectControls(frmMain, {{"optOnClipboard", kOption, "Clipboard", "0"},
+  ExpectControls(frmMain, {{"fraSource", kFrame, "Text to be counted"},
+                           {"fraOutput", kFrame, "List"},
+                           {"optOnClipboard", kOption, "Clipboard", "0"},
                            {"optInFile", kOption, "Single file", "0"},
                            {"optFolder", kOption, "Folder", "1"},
                            {"txbFile(0)", kText, kAnyCaption, ""},

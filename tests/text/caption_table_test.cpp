@@ -57,6 +57,23 @@ class DeliveredTextsTest : public testing::Test {
     }
   }
 
+  /// Every control that a hand can reach has an entry, and no entry is without its control.
+  void ExpectToolTipsOf(const Form& form, std::span<const ControlCaption> toolTips) {
+    for (const ControlCaption& entry : toolTips) {
+      SCOPED_TRACE(entry.control);
+      EXPECT_NE(form.Find(entry.control), nullptr);
+      EXPECT_NE(In(Language::kEnglish, entry.text), "");
+      EXPECT_NE(In(Language::kGerman, entry.text), In(Language::kEnglish, entry.text));
+    }
+    for (const Control* control : form.Controls()) {
+      const bool goesWithItsValue = control->Name() == "chkSuppressWords";
+      if (!control->CanTakeFocus() || goesWithItsValue) continue;
+      EXPECT_NE(std::ranges::find(toolTips, control->Name(), &ControlCaption::control),
+                toolTips.end())
+          << control->Name();
+    }
+  }
+
   ProgramText text;
 };
 
@@ -98,12 +115,18 @@ TEST_F(DeliveredTextsTest, HelpWindow) {
 }
 
 TEST_F(DeliveredTextsTest, ToolTips) {
-  const MainForm form;
-  for (const ControlCaption& entry : kMainFormToolTips) {
-    SCOPED_TRACE(entry.control);
-    EXPECT_NE(form.Find(entry.control), nullptr);
-    EXPECT_NE(In(Language::kEnglish, entry.text), "");
-    EXPECT_NE(In(Language::kGerman, entry.text), "");
+  const MainForm frmMain;
+  const ParamsForm frmParams;
+  const HelpForm frmHelp;
+  ExpectToolTipsOf(frmMain, kMainFormToolTips);
+  ExpectToolTipsOf(frmParams, kParamsFormToolTips);
+  ExpectToolTipsOf(frmHelp, kHelpFormToolTips);
+}
+
+TEST_F(DeliveredTextsTest, TextsOfTheFindBar) {
+  for (const int number : {kFindText, kFindNextText, kFindPreviousText, kNotFoundText}) {
+    EXPECT_NE(In(Language::kEnglish, number), "");
+    EXPECT_NE(In(Language::kGerman, number), In(Language::kEnglish, number));
   }
 }
 

@@ -1,0 +1,82 @@
+#include "qt/find_bar.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include "qt/text_conversion.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+
+FindBar::FindBar(QPlainTextEdit& list) : list_(list) {
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* part : {static_cast<QWidget*>(&label_), static_cast<QWidget*>(&word_),
+                        static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_),
+                        static_cast<QWidget*>(&outcome_)}) {
+    row->addWidget(part);
+  }
+  row->addStretch();
+  word_.setClearButtonEnabled(true);
+  word_.setMinimumWidth(240);
+  label_.setBuddy(&word_);
+  connect(&word_, &QLineEdit::textEdited, this, [this] { Find(false, true); });
+  connect(&previous_, &QPushButton::clicked, this, [this] { Find(true, false); });
+  connect(&next_, &QPushButton::clicked, this, [this] { Find(false, false); });
+  hide();
+}
+
+void FindBar::SetTexts(const ProgramText& text) {
+  label_.setText(ToQt(text.GetText(kFindText)));
+  next_.setText(ToQt(text.GetText(kFindNextText)));
+  previous_.setText(ToQt(text.GetText(kFindPreviousText)));
+  notFound_ = ToQt(text.GetText(kNotFoundText));
+  word_.setAccessibleName(label_.text());
+  outcome_.clear();
+}
+
+void FindBar::Open() {
+  show();
+  const QString selected = list_.textCursor().selectedText();
+  if (!selected.isEmpty() && !selected.contains(QChar(QChar::ParagraphSeparator))) {
+    word_.setText(selected);
+  }
+  word_.selectAll();
+  word_.setFocus(Qt::ShortcutFocusReason);
+}
+
+/// Goes round at the end of the list. `fromHere`: what is selected may stay found, as the user goes
+/// on typing.
+void FindBar::Find(bool backward, bool fromHere) {
+  outcome_.clear();
+  if (word_.text().isEmpty()) return;
+  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  QTextCursor start = list_.textCursor();
+  if (fromHere) start.setPosition(start.selectionStart());
+  QTextCursor found = list_.document()->find(word_.text(), start, flags);
+  if (found.isNull()) {
+    start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
+    found = list_.document()->find(word_.text(), start, flags);
+  }
+  if (found.isNull()) return outcome_.setText(notFound_);
+  list_.setTextCursor(found);
+  list_.ensureCursorVisible();
+}
+
+void FindBar::Close() {
+  hide();
+  list_.setFocus(Qt::OtherFocusReason);
+}
+
+/// The keys are the bar's own: none of them starts or stops a count.
+void FindBar::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return Close();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    return Find(event->modifiers().testFlag(Qt::ShiftModifier), false);
+  }
+  QWidget::keyPressEvent(event);
+}
+
+}  // namespace quillomat

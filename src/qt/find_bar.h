@@ -1,0 +1,41 @@
+// The bar below the list that finds a word in it.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include "text/program_text.h"
+
+namespace quillomat {
+
+class FindBar : public QWidget {
+ public:
+  /// `list` must outlive the bar.
+  explicit FindBar(QPlainTextEdit& list);
+
+  /// The bar's texts in the current language.
+  void SetTexts(const ProgramText& text);
+
+  /// Shows the bar and puts the keyboard there.
+  void Open();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Find(bool backward, bool fromHere);
+  void Close();
+
+  QPlainTextEdit& list_;
+  QLabel label_;
+  QLineEdit word_;
+  QPushButton previous_;
+  QPushButton next_;
+  QLabel outcome_;
+  QString notFound_;
+};
+
+}  // namespace quillomat

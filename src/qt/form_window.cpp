@@ -1,0 +1,239 @@
+#include "qt/form_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
+#include "qt/mnemonics.h"
+#include "qt/text_conversion.h"
+#include "ui/controls.h"
+
+namespace quillomat {
+namespace {
+
+constexpr int kF1Code = 112;
+constexpr int kEnterCode = 13;
+
+bool IsEnter(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
+/// Whether a widget is of a class that shows controls.
+bool ShowsControls(const QWidget& widget) {
+  return dynamic_cast<const QAbstractButton*>(&widget) != nullptr ||
+         dynamic_cast<const QLineEdit*>(&widget) != nullptr ||
+         dynamic_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         dynamic_cast<const QComboBox*>(&widget) != nullptr ||
+         dynamic_cast<const QGroupBox*>(&widget) != nullptr ||
+         dynamic_cast<const QLabel*>(&widget) != nullptr;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form) : QWidget(nullptr), form_(form) {}
+
+void FormWindow::BindControls() {
+  for (Control* control : form_.Controls()) BindControl(*control);
+  CheckWidgets();
+  const auto windowChanges = [this] {
+    windowChanged_ = true;
+    ScheduleShow();
+  };
+  form_.Changed.Connect(windowChanges);
+  form_.Raised.Connect([this, windowChanges] {
+    raised_ = true;
+    windowChanges();
+  });
+  form_.FocusMoved.Connect([this] {
+    focusMoved_ = true;
+    ScheduleShow();
+  });
+  ScheduleShow();
+}
+
+void FormWindow::BindControl(Control& control) {
+  auto* widget = findChild<QWidget*>(WidgetNameOf(control));
+  std::unique_ptr<WidgetBinding> binding = widget == nullptr ? nullptr : Bind(control, *widget);
+  if (binding == nullptr) throw std::logic_error("no widget shows " + control.Name());
+  widget->installEventFilter(this);
+  const std::size_t index = entries_.size();
+  entries_.push_back({std::move(binding)});
+  control.Changed.Connect([this, index] {
+    entries_[index].changed = true;
+    captionsChanged_ = captionsChanged_ || entries_[index].binding->TakesMnemonic();
+    ScheduleShow();
+  });
+}
+
+/// Parts of a widget have names of their own that start with "qt_".
+void FormWindow::CheckWidgets() const {
+  for (const QWidget* widget : findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    if (name.isEmpty() || name.startsWith(QLatin1String("qt_")) || !ShowsControls(*widget))
+      continue;
+    if (ControlOf(widget) == nullptr) {
+      throw std::logic_error("no control belongs to the widget " + FromQt(name));
+    }
+  }
+}
+
+void FormWindow::ScheduleShow() {
+  if (scheduled_) return;
+  scheduled_ = true;
+  QMetaObject::invokeMethod(
+      this, [this] { ShowChanges(); }, Qt::QueuedConnection);
+}
+
+void FormWindow::ShowChanges() {
+  scheduled_ = false;
+  if (showing_) return;
+  showing_ = true;
+  for (Entry& entry : entries_) {
+    if (entry.changed) entry.binding->ShowAccess();
+  }
+  ShowFocus();
+  for (Entry& entry : entries_) {
+    if (!entry.changed) continue;
+    entry.changed = false;
+    entry.binding->Show();
+  }
+  if (captionsChanged_) ShowCaptions();
+  if (windowChanged_) ShowWindowState();
+  showing_ = false;
+}
+
+/// Commands choose their letters first, since they are what a hand wants to reach at once.
+void FormWindow::ShowCaptions() {
+  captionsChanged_ = false;
+  std::vector<WidgetBinding*> bindings;
+  for (const Entry& entry : entries_) {
+    if (entry.binding->TakesMnemonic()) bindings.push_back(entry.binding.get());
+  }
+  std::stable_partition(bindings.begin(), bindings.end(), [](const WidgetBinding* binding) {
+    return binding->Source().Kind() == ControlKind::kCommandButton;
+  });
+  QList<QString> captions;
+  for (const WidgetBinding* binding : bindings) captions.append(binding->Caption());
+  const QList<QString> shown = WithMnemonics(captions);
+  for (std::size_t i = 0; i < bindings.size(); ++i) {
+    bindings[i]->SetShownCaption(shown[static_cast<qsizetype>(i)]);
+  }
+}
+
+void FormWindow::ShowFocus() {
+  if (!focusMoved_) return;
+  focusMoved_ = false;
+  if (form_.Focused() != nullptr) WidgetOf(*form_.Focused()).setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::ShowWindowState() {
+  windowChanged_ = false;
+  setWindowTitle(ToQt(form_.Caption()));
+  const bool minimized = form_.State() == WindowState::kMinimized;
+  if (minimized != isMinimized()) {
+    setWindowState(windowState().setFlag(Qt::WindowMinimized, minimized));
+  }
+  setVisible(form_.Visible());
+  if (raised_ && form_.Visible()) {
+    raise();
+    activateWindow();
+  }
+  raised_ = false;
+}
+
+QWidget& FormWindow::WidgetOf(const Control& control) const {
+  const auto found = std::ranges::find_if(
+      entries_, [&](const Entry& entry) { return &entry.binding->Source() == &control; });
+  if (found == entries_.end()) throw std::logic_error(control.Name() + " is not of this window");
+  return found->binding->Widget();
+}
+
+Control* FormWindow::ControlOf(const QObject* widget) const {
+  const auto found = std::ranges::find_if(
+      entries_, [&](const Entry& entry) { return &entry.binding->Widget() == widget; });
+  return found == entries_.end() ? nullptr : &found->binding->Source();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  form_.CloseRequested.Fire();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::WindowStateChange && !showing_) {
+    form_.SetState(isMinimized() ? WindowState::kMinimized : WindowState::kNormal);
+  }
+  QWidget::changeEvent(event);
+}
+
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && onActivated) onActivated();
+  return QWidget::event(event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(*event) && !event->isAutoRepeat()) {
+    auto* button = dynamic_cast<QPushButton*>(focusWidget());
+    if (button != nullptr) return button->click();
+    if (onEnter) return onEnter();
+  }
+  if (event->key() == Qt::Key_Escape && onEscape) return onEscape();
+  if (event->key() == Qt::Key_F1 && onHelp) return onHelp();
+  QWidget::keyPressEvent(event);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  Control* control = ControlOf(watched);
+  if (control == nullptr) return QWidget::eventFilter(watched, event);
+  if (event->type() == QEvent::FocusIn && !showing_) {
+    // Later: a handler may open a box, which the toolkit does not expect while it moves the focus.
+    QMetaObject::invokeMethod(
+        this, [this, control] { TakeFocus(*control); }, Qt::QueuedConnection);
+  }
+  if (event->type() == QEvent::KeyPress) {
+    if (OnKey(*control, static_cast<QKeyEvent&>(*event))) return true;
+  }
+  if (control->Kind() == ControlKind::kLabel && OnLabelEvent(*control, *event)) return true;
+  return QWidget::eventFilter(watched, event);
+}
+
+void FormWindow::TakeFocus(Control& control) {
+  if (WidgetOf(control).hasFocus()) form_.SetFocus(control);
+}
+
+/// True when the key is used up.
+bool FormWindow::OnKey(Control& control, const QKeyEvent& key) {
+  if (key.key() == Qt::Key_F1 && control.Kind() == ControlKind::kCommandButton) {
+    control.KeyDown.Fire(kF1Code);
+  } else if (IsEnter(key)) {
+    control.KeyDown.Fire(kEnterCode);
+    const bool link = control.Kind() == ControlKind::kLabel;
+    if (link) control.As<Label>()->PerformClick();
+    return link;
+  }
+  return false;
+}
+
+bool FormWindow::OnLabelEvent(Control& control, const QEvent& event) {
+  if (event.type() == QEvent::MouseButtonDblClick) {
+    control.As<Label>()->PerformDoubleClick();
+    return true;
+  }
+  if (event.type() == QEvent::MouseButtonRelease) {
+    control.As<Label>()->PerformClick();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,45 @@
+#include "qt/list_view.h"
+
+#include <QFontDatabase>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "qt/list_table.h"
+
+namespace quillomat {
+
+ListView::ListView(QWidget* parent) : QPlainTextEdit(parent) {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setStyleHint(QFont::Monospace);
+  usualSize_ = font.pointSizeF();
+  setFont(font);
+  setUndoRedoEnabled(false);
+  setTabChangesFocus(true);
+  setAcceptDrops(false);  // what is dropped here is meant for the window
+}
+
+void ListView::SetZoom(int zoom) {
+  zoom_ = std::clamp(zoom, kSmallestZoom, kLargestZoom);
+  QFont changed = font();
+  changed.setPointSizeF(std::max(usualSize_ + zoom_, 4.0));
+  setFont(changed);
+}
+
+/// The toolkit takes what is returned.
+QMimeData* ListView::createMimeDataFromSelection() const {
+  const QChar paragraphEnd(QChar::ParagraphSeparator);
+  return ClipboardDataOf(textCursor().selectedText().replace(paragraphEnd, QLatin1Char('\n')))
+      .release();
+}
+
+void ListView::insertFromMimeData(const QMimeData* source) {
+  if (source->hasText()) insertPlainText(source->text());
+}
+
+void ListView::wheelEvent(QWheelEvent* event) {
+  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(event);
+  if (event->angleDelta().y() != 0) SetZoom(zoom_ + (event->angleDelta().y() > 0 ? 1 : -1));
+  event->accept();
+}
+
+}  // namespace quillomat

@@ -1,0 +1,31 @@
+// The text box that shows the list: letters of one width whose size can be changed, and copies
+// that keep their columns.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace quillomat {
+
+class ListView : public QPlainTextEdit {
+ public:
+  explicit ListView(QWidget* parent = nullptr);
+
+  /// Steps of one point above the system's size; from kSmallestZoom to kLargestZoom.
+  [[nodiscard]] int Zoom() const { return zoom_; }
+  /// A step out of range is the nearest one.
+  void SetZoom(int zoom);
+
+  static constexpr int kSmallestZoom = -5;
+  static constexpr int kLargestZoom = 30;
+
+ protected:
+  [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  qreal usualSize_;
+  int zoom_ = 0;
+};
+
+}  // namespace quillomat

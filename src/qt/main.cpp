@@ -1,0 +1,80 @@
+// quillomat: the program with its windows.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <iostream>
+
+#include "app/captions.h"
+#include "qt/text_conversion.h"
+#include "qt/windows.h"
+
+namespace quillomat {
+namespace {
+
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+/// Without a display the toolkit would end the program with a message of its own making.
+bool HasDisplay() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+#else
+bool HasDisplay() {
+  return true;
+}
+#endif
+
+/// The file or folder to be counted, as an absolute path: the program leaves the current folder.
+QString PathFromCommandLine(const QApplication& application) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral("Counts how often each word occurs in a text."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("path"),
+                               QStringLiteral("A text file or a folder to be counted."),
+                               QStringLiteral("[path]"));
+  parser.process(application);
+  const QStringList paths = parser.positionalArguments();
+  return paths.isEmpty() ? QString() : QFileInfo(paths.constFirst()).absoluteFilePath();
+}
+
+int RunOnDesktop(QApplication& application) {
+  const QString path = PathFromCommandLine(application);
+  QtDesktop desktop;
+  Program program(desktop);
+  Windows windows(program, desktop);
+  windows.RestorePlaces();
+  program.Ended.Connect([&windows] {
+    windows.KeepPlaces();
+    // Not quit(), which would ask the windows, and they leave the answer to the program.
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+  });
+  if (!program.Start()) return 1;
+  if (!path.isEmpty()) program.ChooseText(FromQt(QDir::toNativeSeparators(path)));
+  return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace quillomat
+
+int main(int argc, char** argv) {
+  using namespace quillomat;
+  if (!HasDisplay()) {
+    std::cerr << "quillomat: there is no display. quillomat-cli counts in a terminal.\n";
+    return 1;
+  }
+  try {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillomat"));
+    QApplication::setApplicationVersion(ToQt(VersionText()));
+    QApplication::setDesktopFileName(QStringLiteral("quillomat"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillomat.png")));
+    return RunOnDesktop(application);
+  } catch (const std::exception& error) {
+    std::cerr << "quillomat: unexpected failure: " << error.what() << '\n';
+    return 1;
+  }
+}

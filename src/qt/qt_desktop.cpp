@@ -1,0 +1,175 @@
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+
+#include "desktop/locale_info.h"
+#include "desktop/shell.h"
+#include "qt/list_table.h"
+#include "qt/text_conversion.h"
+
+namespace quillomat {
+namespace {
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kNone:
+      return QMessageBox::NoIcon;
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+struct ButtonSet {
+  QMessageBox::StandardButtons buttons = QMessageBox::Ok;
+  QMessageBox::StandardButton onEscape = QMessageBox::Ok;
+};
+
+ButtonSet ButtonsOf(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kOk:
+      return {QMessageBox::Ok, QMessageBox::Ok};
+    case MessageButtons::kOkCancel:
+      return {QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
+    case MessageButtons::kYesNo:
+      return {QMessageBox::Yes | QMessageBox::No, QMessageBox::No};
+    case MessageButtons::kYesNoCancel:
+      return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel};
+  }
+  return {QMessageBox::Ok, QMessageBox::Ok};
+}
+
+MessageAnswer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return MessageAnswer::kYes;
+    case QMessageBox::No:
+      return MessageAnswer::kNo;
+    case QMessageBox::Cancel:
+      return MessageAnswer::kCancel;
+    default:
+      return MessageAnswer::kOk;
+  }
+}
+
+/// "*.*" means every file, also one without a point in its name.
+QStringList NameFiltersOf(const std::string& filter) {
+  QStringList filters;
+  for (const FileFilter& part : SplitFileFilter(filter)) {
+    const bool all = part.pattern == "*.*";
+    QString description = ToQt(part.description);
+    description.truncate(description.lastIndexOf(QLatin1Char('(')));
+    const QString pattern = all ? QStringLiteral("*") : ToQt(part.pattern);
+    filters.append(description.trimmed() + QStringLiteral(" (") + pattern + QLatin1Char(')'));
+  }
+  return filters;
+}
+
+void SetUpDialog(QFileDialog& shown, const FileDialog& dialog) {
+  const bool saving = dialog.mode == FileDialog::Mode::kSave;
+  shown.setWindowTitle(ToQt(dialog.title));
+  shown.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  shown.setFileMode(dialog.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  shown.setOption(QFileDialog::DontConfirmOverwrite, !dialog.promptBeforeOverwriting);
+  shown.setNameFilters(NameFiltersOf(dialog.filter));
+  const auto filters = SplitFileFilter(dialog.filter);
+  if (saving && !filters.empty() && filters.front().pattern.starts_with("*.") &&
+      filters.front().pattern != "*.*") {
+    shown.setDefaultSuffix(ToQt(filters.front().pattern.substr(2)));
+  }
+  shown.selectFile(ToQt(dialog.fileName));
+}
+
+bool IsReadOnly(const QString& path) {
+  const QFileInfo file(path);
+  return file.exists() && !file.isWritable();
+}
+
+}  // namespace
+
+MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
+  Repaint();
+  QMessageBox shown(QApplication::activeWindow());
+  const ButtonSet set = ButtonsOf(box.buttons);
+  shown.setWindowTitle(ToQt(box.title.empty() ? fallbackTitle_ : box.title));
+  shown.setTextFormat(Qt::PlainText);
+  shown.setText(ToQtLines(box.text));
+  shown.setIcon(IconOf(box.icon));
+  shown.setStandardButtons(set.buttons);
+  shown.setEscapeButton(set.onEscape);
+  return AnswerOf(shown.exec());
+}
+
+std::string QtDesktop::AskForText(const InputBox& box) {
+  Repaint();
+  QInputDialog shown(QApplication::activeWindow());
+  shown.setWindowTitle(ToQt(box.title));
+  shown.setLabelText(ToQtLines(box.prompt));
+  shown.setTextValue(ToQt(box.defaultAnswer));
+  constexpr int kWidth = 480;
+  shown.resize(kWidth, shown.sizeHint().height());
+  return shown.exec() == QDialog::Accepted ? FromQt(shown.textValue()) : std::string();
+}
+
+std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
+  Repaint();
+  while (true) {
+    QFileDialog shown(QApplication::activeWindow());
+    SetUpDialog(shown, dialog);
+    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
+    const QString path = QDir::toNativeSeparators(shown.selectedFiles().constFirst());
+    if (!dialog.noReadOnlyReturn || !IsReadOnly(path)) return FromQt(path);
+    ShowMessage({FromQt(path) + "\r\nThis file is read-only.  Choose another one.", dialog.title,
+                 MessageIcon::kExclamation});
+  }
+}
+
+std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title) {
+  Repaint();
+  const QString path = QFileDialog::getExistingDirectory(QApplication::activeWindow(), ToQt(title));
+  if (path.isEmpty()) return std::nullopt;
+  return FromQt(QDir::toNativeSeparators(path));
+}
+
+std::string QtDesktop::ClipboardText() {
+  return FromQt(QApplication::clipboard()->text());
+}
+
+void QtDesktop::ClearClipboard() {
+  QApplication::clipboard()->clear();
+}
+
+void QtDesktop::PutClipboardText(const std::string& text) {
+  // The clipboard takes the data over.
+  QApplication::clipboard()->setMimeData(ClipboardDataOf(ToQtLines(text)).release());
+}
+
+void QtDesktop::Repaint() {
+  if (showChanges_) showChanges_();
+}
+
+void QtDesktop::PumpEvents() {
+  QApplication::processEvents();
+}
+
+bool QtDesktop::OpenWithShell(const std::string& documentOrAddress) {
+  return quillomat::OpenWithShell(documentOrAddress);
+}
+
+std::string QtDesktop::DigitGroupSeparator() {
+  return quillomat::DigitGroupSeparator();
+}
+
+}  // namespace quillomat

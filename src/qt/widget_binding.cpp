@@ -1,0 +1,275 @@
+#include "qt/widget_binding.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "base/utf8.h"
+#include "qt/mnemonics.h"
+#include "qt/text_conversion.h"
+#include "ui/controls.h"
+
+namespace quillomat {
+namespace {
+
+class LineBinding final : public WidgetBinding {
+ public:
+  LineBinding(TextBox& box, QLineEdit& line) : WidgetBinding(box, line), box_(box), line_(line) {
+    QObject::connect(&line, &QLineEdit::textChanged,
+                     [this](const QString& text) { box_.SetText(FromQt(text)); });
+  }
+
+ private:
+  void ShowValue() override {
+    const QString text = ToQt(box_.Text());
+    if (line_.text() == text) return;
+    const QSignalBlocker blocker(line_);
+    line_.setText(text);
+    line_.setCursorPosition(0);
+  }
+
+  TextBox& box_;
+  QLineEdit& line_;
+};
+
+/// A text that grows at its end is appended to, so that showing it costs what was added.
+class LinesBinding final : public WidgetBinding {
+ public:
+  LinesBinding(TextBox& box, QPlainTextEdit& edit)
+      : WidgetBinding(box, edit), box_(box), edit_(edit) {
+    QObject::connect(&edit, &QPlainTextEdit::textChanged, [this] { TakeText(); });
+  }
+
+ private:
+  void TakeText() {
+    shown_ = FromQtLines(edit_.toPlainText());
+    box_.SetText(shown_);
+    shownCaret_ = box_.SelStart();
+  }
+
+  void ShowValue() override {
+    const QSignalBlocker blocker(edit_);
+    const std::string& text = box_.Text();
+    const bool changed = text != shown_;
+    if (changed) ShowText(text);
+    if (changed || box_.SelStart() != shownCaret_) ShowCaret();
+  }
+
+  void ShowText(const std::string& text) {
+    if (!shown_.empty() && text.starts_with(shown_)) {
+      QTextCursor cursor(edit_.document());
+      cursor.movePosition(QTextCursor::End);
+      cursor.insertText(ToQtLines(std::string_view(text).substr(shown_.size())));
+    } else {
+      edit_.setPlainText(ToQtLines(text));
+    }
+    shown_ = text;
+  }
+
+  void ShowCaret() {
+    shownCaret_ = box_.SelStart();
+    const std::string_view before(box_.Text().data(), BytesOfFirst(box_.Text(), box_.SelStart()));
+    QTextCursor cursor(edit_.document());
+    cursor.setPosition(static_cast<int>(ToQtLines(before).size()));
+    edit_.setTextCursor(cursor);
+    edit_.ensureCursorVisible();
+  }
+
+  TextBox& box_;
+  QPlainTextEdit& edit_;
+  std::string shown_;
+  std::optional<std::size_t> shownCaret_;
+};
+
+class CheckBinding final : public WidgetBinding {
+ public:
+  CheckBinding(CheckBox& box, QCheckBox& widget)
+      : WidgetBinding(box, widget), box_(box), widget_(widget) {
+    QObject::connect(&widget, &QCheckBox::clicked, [this] {
+      box_.PerformClick();
+      Show();
+    });
+  }
+
+ private:
+  void ShowValue() override {
+    const QSignalBlocker blocker(widget_);
+    const bool grayed = box_.Value() == CheckState::kGrayed;
+    widget_.setTristate(grayed);
+    if (grayed) {
+      widget_.setCheckState(Qt::PartiallyChecked);
+    } else {
+      widget_.setChecked(box_.IsChecked());
+    }
+  }
+
+  CheckBox& box_;
+  QCheckBox& widget_;
+};
+
+class OptionBinding final : public WidgetBinding {
+ public:
+  OptionBinding(OptionButton& option, QRadioButton& widget)
+      : WidgetBinding(option, widget), option_(option), widget_(widget) {
+    QObject::connect(&widget, &QRadioButton::clicked, [this] {
+      option_.PerformClick();
+      Show();
+    });
+  }
+
+ private:
+  void ShowValue() override {
+    const QSignalBlocker blocker(widget_);
+    // While one of a group is on, the toolkit does not let it be switched off.
+    widget_.setAutoExclusive(false);
+    widget_.setChecked(option_.Value());
+    widget_.setAutoExclusive(true);
+  }
+
+  OptionButton& option_;
+  QRadioButton& widget_;
+};
+
+class ComboBinding final : public WidgetBinding {
+ public:
+  ComboBinding(ComboBox& combo, QComboBox& widget)
+      : WidgetBinding(combo, widget), combo_(combo), widget_(widget) {
+    QObject::connect(&widget, &QComboBox::activated, [this](int index) {
+      combo_.SetListIndex(index);
+      Show();
+    });
+  }
+
+ private:
+  void ShowValue() override {
+    const QSignalBlocker blocker(widget_);
+    const auto items = combo_.Items();
+    if (static_cast<std::size_t>(widget_.count()) != items.size()) {
+      widget_.clear();
+      for (const std::string& item : items) widget_.addItem(ToQt(item));
+    }
+    widget_.setCurrentIndex(combo_.ListIndex());
+  }
+
+  ComboBox& combo_;
+  QComboBox& widget_;
+};
+
+class LabelBinding final : public WidgetBinding {
+ public:
+  LabelBinding(Label& label, QLabel& widget) : WidgetBinding(label, widget), label_(label) {
+    widget.setTextFormat(Qt::PlainText);
+  }
+
+ private:
+  void ShowValue() override {
+    if (!TakesMnemonic()) SetShownCaption(ToQtLines(label_.Caption()));
+  }
+
+  Label& label_;
+};
+
+class CommandBinding final : public WidgetBinding {
+ public:
+  CommandBinding(CommandButton& command, QPushButton& widget) : WidgetBinding(command, widget) {
+    QObject::connect(&widget, &QPushButton::clicked, [&command] { command.PerformClick(); });
+  }
+
+ private:
+  void ShowValue() override {}
+};
+
+class FrameBinding final : public WidgetBinding {
+ public:
+  FrameBinding(Frame& frame, QGroupBox& box) : WidgetBinding(frame, box) {}
+
+ private:
+  void ShowValue() override { SetShownCaption(WithoutMnemonic(Caption().trimmed())); }
+};
+
+template <class Binding, class Kind, class Widget>
+std::unique_ptr<WidgetBinding> BindAs(Control& control, QWidget& widget) {
+  auto* source = control.As<Kind>();
+  auto* shown = dynamic_cast<Widget*>(&widget);
+  if (source == nullptr || shown == nullptr) return nullptr;
+  return std::make_unique<Binding>(*source, *shown);
+}
+
+}  // namespace
+
+void WidgetBinding::ShowAccess() {
+  if (control_.Visible()) widget_.setVisible(true);
+  if (control_.Enabled()) widget_.setEnabled(true);
+}
+
+void WidgetBinding::Show() {
+  ShowValue();
+  widget_.setVisible(control_.Visible());
+  widget_.setEnabled(control_.Enabled());
+  const QString toolTip = ToQt(control_.ToolTip());
+  const QString caption = Caption();
+  widget_.setToolTip(toolTip);
+  widget_.setAccessibleName(caption.isEmpty() ? toolTip : caption);
+  widget_.setAccessibleDescription(toolTip);
+}
+
+QString WidgetBinding::Caption() const {
+  const auto* captioned = dynamic_cast<const CaptionedControl*>(&control_);
+  return captioned == nullptr ? QString() : ToQt(captioned->Caption());
+}
+
+void WidgetBinding::SetShownCaption(const QString& caption) {
+  if (auto* button = dynamic_cast<QAbstractButton*>(&widget_)) {
+    if (button->text() != caption) button->setText(caption);
+  } else if (auto* label = dynamic_cast<QLabel*>(&widget_)) {
+    if (label->text() != caption) label->setText(caption);
+  } else if (auto* box = dynamic_cast<QGroupBox*>(&widget_)) {
+    if (box->title() != caption) box->setTitle(caption);
+  }
+}
+
+bool WidgetBinding::TakesMnemonic() const {
+  if (dynamic_cast<const QAbstractButton*>(&widget_) != nullptr) return true;
+  const auto* label = dynamic_cast<const QLabel*>(&widget_);
+  return label != nullptr && label->buddy() != nullptr;
+}
+
+std::unique_ptr<WidgetBinding> Bind(Control& control, QWidget& widget) {
+  switch (control.Kind()) {
+    case ControlKind::kTextBox:
+      if (auto line = BindAs<LineBinding, TextBox, QLineEdit>(control, widget)) return line;
+      return BindAs<LinesBinding, TextBox, QPlainTextEdit>(control, widget);
+    case ControlKind::kCheckBox:
+      return BindAs<CheckBinding, CheckBox, QCheckBox>(control, widget);
+    case ControlKind::kOptionButton:
+      return BindAs<OptionBinding, OptionButton, QRadioButton>(control, widget);
+    case ControlKind::kComboBox:
+      return BindAs<ComboBinding, ComboBox, QComboBox>(control, widget);
+    case ControlKind::kLabel:
+      return BindAs<LabelBinding, Label, QLabel>(control, widget);
+    case ControlKind::kCommandButton:
+      return BindAs<CommandBinding, CommandButton, QPushButton>(control, widget);
+    case ControlKind::kFrame:
+      return BindAs<FrameBinding, Frame, QGroupBox>(control, widget);
+  }
+  return nullptr;
+}
+
+QString WidgetNameOf(const Control& control) {
+  QString name = ToQt(control.BaseName());
+  if (control.Index()) name += QLatin1Char('_') + QString::number(*control.Index());
+  return name;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,112 @@
+#include "qt/windows.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+#include "desktop/settings_folder.h"
+#include "qt/path_completion.h"
+#include "qt/text_conversion.h"
+#include "qt/window_memory.h"
+#include "ui_help_form.h"
+#include "ui_params_form.h"
+
+namespace quillomat {
+namespace {
+
+WindowMemory Memory() {
+  const std::string folder(kSettingsFolderName);
+  return WindowMemory(ToQt(PathInSettings("windows.ini", folder)));
+}
+
+}  // namespace
+
+Windows::Windows(Program& program, QtDesktop& desktop)
+    : program_(program),
+      main_(program),
+      panel_(std::make_unique<FormWindow>(program.frmParams)),
+      help_(std::make_unique<FormWindow>(program.frmHelp)) {
+  MakePanel();
+  MakeHelp();
+  LeaveOthersWhenActivated();
+  program.frmMain.Changed.Connect([this] { ShowLanguage(); });
+  program.frmMain.cmdLanguage.Changed.Connect([this] { ShowLanguage(); });
+  desktop.SetPainter([this] { ShowChanges(); });
+  desktop.SetFallbackTitle("Quillomat");
+}
+
+void Windows::MakePanel() {
+  Ui::frmParams ui;
+  ui.setupUi(panel_.get());
+  panel_->BindControls();
+  for (QLineEdit* box : {ui.txbWordsFile_0, ui.txbWordsFile_1, ui.txbStateFile}) {
+    CompletePaths(*box, PathKind::kFile);
+  }
+  ParamsForm& frmParams = program_.frmParams;
+  panel_->onEscape = [&frmParams] { frmParams.cmdClose.PerformClick(); };
+  panel_->onHelp = main_.onHelp;
+  frmParams.CloseRequested.Connect([&frmParams] { frmParams.cmdClose.PerformClick(); });
+}
+
+void Windows::MakeHelp() {
+  Ui::frmHelp ui;
+  ui.setupUi(help_.get());
+  help_->BindControls();
+  HelpForm& frmHelp = program_.frmHelp;
+  help_->onEscape = [&frmHelp] { frmHelp.cmdClose.PerformClick(); };
+}
+
+/// A box that is left for another window of the program is left all the same.
+void Windows::LeaveOthersWhenActivated() {
+  const std::array<FormWindow*, 3> windows = {&main_, panel_.get(), help_.get()};
+  for (FormWindow* window : windows) {
+    window->onActivated = [windows, window] {
+      for (FormWindow* other : windows) {
+        if (other == window) continue;
+        // Later: what is done on leaving a box may open another window.
+        QMetaObject::invokeMethod(
+            other, [other] { other->Source().LoseFocus(); }, Qt::QueuedConnection);
+      }
+    };
+  }
+}
+
+void Windows::ShowChanges() {
+  main_.ShowChanges();
+  panel_->ShowChanges();
+  help_->ShowChanges();
+}
+
+/// The toolkit's own buttons ("Cancel") speak the language of the program.
+void Windows::ShowLanguage() {
+  const Language language = program_.text.CurrentLanguage();
+  if (shownLanguage_ == language) return;
+  shownLanguage_ = language;
+  main_.Finder().SetTexts(program_.text);
+  QApplication::removeTranslator(&buttonTexts_);
+  const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
+  const bool loaded = buttonTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                                        QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  if (loaded) QApplication::installTranslator(&buttonTexts_);
+}
+
+void Windows::RestorePlaces() {
+  const WindowMemory memory = Memory();
+  for (QWidget* window : {static_cast<QWidget*>(&main_), static_cast<QWidget*>(panel_.get()),
+                          static_cast<QWidget*>(help_.get())}) {
+    memory.Restore(*window);
+  }
+  memory.RestoreZoom(main_.List());
+}
+
+void Windows::KeepPlaces() {
+  const WindowMemory memory = Memory();
+  for (const QWidget* window :
+       {static_cast<const QWidget*>(&main_), static_cast<const QWidget*>(panel_.get()),
+        static_cast<const QWidget*>(help_.get())}) {
+    memory.Keep(*window);
+  }
+  memory.KeepZoom(main_.List());
+}
+
+}  // namespace quillomat

@@ -1,0 +1,43 @@
+// The program's three windows on the screen, and what holds them together.
+#pragma once
+
+#include <QTranslator>
+#include <memory>
+
+#include "app/program.h"
+#include "qt/main_window_view.h"
+#include "qt/qt_desktop.h"
+
+namespace quillomat {
+
+class Windows {
+ public:
+  /// Makes the windows of a program that has not started yet. Both must outlive them.
+  Windows(Program& program, QtDesktop& desktop);
+
+  MainWindowView& Main() { return main_; }
+  FormWindow& Panel() { return *panel_; }
+  FormWindow& Help() { return *help_; }
+
+  /// Shows what has changed in any of them.
+  void ShowChanges();
+
+  /// Puts the windows where the user left them; KeepPlaces is called when the program ends.
+  void RestorePlaces();
+  void KeepPlaces();
+
+ private:
+  void MakePanel();
+  void MakeHelp();
+  void LeaveOthersWhenActivated();
+  void ShowLanguage();
+
+  Program& program_;
+  QTranslator buttonTexts_;
+  std::optional<Language> shownLanguage_;
+  MainWindowView main_;
+  std::unique_ptr<FormWindow> panel_;
+  std::unique_ptr<FormWindow> help_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,88 @@
+#!/bin/sh
+# Uses the real program on a virtual screen with real keys and clicks: counts a file into another,
+# quits, starts again, and finds everything as it was. Nothing may be said on the terminal.
+# Usage: by_hand.sh PROGRAM DATA_FOLDER
+set -eu
+program=$1
+data=$2
+work=$(mktemp -d)
+screen_pid=
+cleanup() {
+  [ -z "$screen_pid" ] || kill "$screen_pid" 2>/dev/null || true
+  rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+  printf 'FAILED: %s\n' "$1" >&2
+  cat "$work"/*.log >&2
+  exit 1
+}
+
+# wait_for SECONDS COMMAND...: until the command succeeds.
+wait_for() {
+  tries=$(($1 * 20))
+  shift
+  while ! "$@" >/dev/null 2>&1; do
+    tries=$((tries - 1))
+    [ "$tries" -gt 0 ] || return 1
+    sleep 0.05
+  done
+}
+
+Xvfb -displayfd 3 -screen 0 1280x900x24 3>"$work/display" 2>"$work/screen.log" &
+screen_pid=$!
+wait_for 20 test -s "$work/display" || fail "no virtual screen"
+DISPLAY=:$(cat "$work/display")
+mkdir -m 700 "$work/home" "$work/run"
+export DISPLAY HOME="$work/home" XDG_CONFIG_HOME="$work/home/.config" XDG_RUNTIME_DIR="$work/run"
+unset QT_QPA_PLATFORM WAYLAND_DISPLAY || true
+
+start() {
+  "$program" "$@" >"$work/program.log" 2>&1 &
+  program_pid=$!
+  wait_for 30 xdotool search --onlyvisible --name '^Quillomat 7.07$' || fail "no window"
+  window=$(xdotool search --onlyvisible --name '^Quillomat 7.07$' | head -n 1)
+  xdotool windowfocus --sync "$window"
+  sleep 0.5
+}
+
+has_ended() { ! kill -0 "$program_pid" 2>/dev/null; }
+
+end_quietly() {
+  wait_for 20 has_ended || fail "it does not end"
+  wait "$program_pid" || fail "it ends with a status"
+  [ ! -s "$work/program.log" ] || fail "it says something on the terminal"
+}
+
+# The box of the output file stands four before the count command, which has the focus.
+start "$data/samples/harbour_en.txt"
+xdotool key --delay 60 shift+Tab shift+Tab shift+Tab shift+Tab
+xdotool type --delay 20 "$work/list.txt"
+xdotool key Return
+wait_for 20 test -s "$work/list.txt" || fail "no list was written"
+sleep 0.5
+head -n 2 "$work/list.txt" | tail -n 1 | grep -q '^ *1 *267  the$' || fail "the list is wrong"
+cp "$work/list.txt" "$work/first.txt"
+
+# Quit, at the lower right.
+eval "$(xdotool getwindowgeometry --shell "$window")"
+xdotool mousemove $((X + WIDTH - 50)) $((Y + HEIGHT - 22)) click 1
+end_quietly
+settings="$XDG_CONFIG_HOME/Orvandel Systems/qlav.usr"
+grep -q "$work/list.txt" "$settings" || fail "the settings were not saved"
+
+# The question whether to overwrite shows that the second start knows both paths.
+start
+: >"$work/list.txt"
+xdotool key Return
+wait_for 20 xdotool search --onlyvisible --name '^The output file exists.$' || fail "no question"
+xdotool windowfocus --sync "$(xdotool search --onlyvisible --name '^The output file exists.$' | head -n 1)"
+sleep 0.3
+xdotool key Return
+wait_for 20 cmp "$work/list.txt" "$work/first.txt" || fail "the second list is another"
+xdotool windowfocus --sync "$window"
+sleep 0.3
+xdotool key alt+q
+end_quietly
+printf 'counted, kept and counted again\n'

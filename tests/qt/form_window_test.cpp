@@ -1,0 +1,174 @@
+// Controls and widgets: what one does, the other shows.
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <gmock/gmock.h>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class FormWindowTest : public WindowFixture {
+ protected:
+  FormWindowTest() { EXPECT_TRUE(user->Start()); }
+
+  MainForm& frmMain = user->program.frmMain;
+  ParamsForm& frmParams = user->program.frmParams;
+};
+
+class SmallForm final : public Form {
+ public:
+  SmallForm() : Form("frmSmall", "Small") {}
+  CommandButton cmdGo{*this, "cmdGo", "Go"};
+};
+
+TEST(FormWindowBinding, ControlWithoutAWidgetIsAnError) {
+  SmallForm form;
+  FormWindow window(form);
+  EXPECT_THROW(window.BindControls(), std::logic_error);
+}
+
+TEST(FormWindowBinding, WidgetWithoutAControlIsAnError) {
+  SmallForm form;
+  FormWindow window(form);
+  auto* go = new QPushButton(&window);
+  go->setObjectName("cmdGo");
+  auto* stray = new QLineEdit(&window);
+  stray->setObjectName("txbStray");
+  EXPECT_THROW(window.BindControls(), std::logic_error);
+}
+
+TEST(FormWindowBinding, WidgetOfAnotherKindIsAnError) {
+  SmallForm form;
+  FormWindow window(form);
+  auto* go = new QLineEdit(&window);
+  go->setObjectName("cmdGo");
+  EXPECT_THROW(window.BindControls(), std::logic_error);
+}
+
+TEST_F(FormWindowTest, EveryControlIsShownAsItIs) {
+  for (const Form* form : {static_cast<const Form*>(&frmMain), static_cast<const Form*>(&frmParams),
+                           static_cast<const Form*>(&user->program.frmHelp)}) {
+    for (const Control* control : form->Controls()) {
+      SCOPED_TRACE(control->Name());
+      auto& widget = user->WidgetOf<QWidget>(*control);
+      EXPECT_EQ(widget.isEnabledTo(widget.window()), control->Enabled());
+      EXPECT_EQ(widget.isVisibleTo(widget.window()), control->Visible());
+      EXPECT_EQ(FromQt(widget.toolTip()), control->ToolTip());
+      if (control->CanTakeFocus()) {
+        EXPECT_NE(widget.accessibleName(), "");
+      }
+      if (const auto* button = dynamic_cast<QAbstractButton*>(&widget)) {
+        QString text = button->text();
+        EXPECT_EQ(FromQt(text.remove(QLatin1Char('&'))),
+                  dynamic_cast<const CaptionedControl&>(*control).Caption());
+      }
+    }
+  }
+}
+
+TEST_F(FormWindowTest, TabVisitsEveryControlThatCanBeUsed) {
+  QSet<const QWidget*> visited;
+  QWidget* widget = &user->WidgetOf<QWidget>(frmMain.optOnClipboard);
+  for (int i = 0; i < 200; ++i, widget = widget->nextInFocusChain()) visited.insert(widget);
+  for (const Control* control : frmMain.Controls()) {
+    if (control->CanTakeFocus()) {
+      EXPECT_TRUE(visited.contains(&user->WidgetOf<QWidget>(*control))) << control->Name();
+      EXPECT_TRUE(user->WidgetOf<QWidget>(*control).focusPolicy() & Qt::TabFocus)
+          << control->Name();
+    }
+  }
+}
+
+TEST_F(FormWindowTest, TypedTextIsTheControlsAtOnce) {
+  user->Type(frmMain.txbFolder, "/tm");
+  EXPECT_EQ(frmMain.txbFolder.Text(), "/tm");
+  frmMain.txbFolder.SetText("/other");
+  user->Settle();
+  EXPECT_EQ(user->WidgetOf<QLineEdit>(frmMain.txbFolder).text(), "/other");
+}
+
+TEST_F(FormWindowTest, LeavingABoxIsLeavingItsControl) {
+  boxes.Answer(QMessageBox::Ok);
+  user->Type(frmMain.txbFolder, folder / "none");
+  EXPECT_EQ(frmMain.Focused(), &frmMain.txbFolder);
+  QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.txbFolder), Qt::Key_Tab);
+  user->Settle();
+  EXPECT_THAT(boxes.Texts(), testing::ElementsAre("Folder does not exist."));
+}
+
+TEST_F(FormWindowTest, LeavingABoxForAnotherWindowIsLeavingIt) {
+  user->Click(frmMain.cmdSetParameters);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&user->windows.Panel()));
+  user->Type(frmParams.txbWordsToIgnoreOrCount[0], "Cat, dog.");
+  user->Settle();
+  user->windows.Main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&user->windows.Main()));
+  user->Settle();
+  EXPECT_EQ(frmParams.txbWordsToIgnoreOrCount[0].Text(), "cat dog");
+  EXPECT_EQ(user->WidgetOf<QLineEdit>(frmParams.txbWordsToIgnoreOrCount[0]).text(), "cat dog");
+}
+
+TEST_F(FormWindowTest, BoxThatTheProgramSetsBackIsShownSo) {
+  user->program.ChooseText(folder.Write("a.txt", "cat\n"));
+  user->Click(frmMain.cmdCountWords);
+  user->Click(frmMain.cmdSetParameters);
+  boxes.Answer(QMessageBox::No);
+  user->Click(frmParams.chkAllowWordsWithPeriods);
+  EXPECT_THAT(boxes.Texts(),
+              testing::ElementsAre("Changing this entails reading the file anew.  Is this OK?"));
+  EXPECT_FALSE(user->WidgetOf<QCheckBox>(frmParams.chkAllowWordsWithPeriods).isChecked());
+  EXPECT_FALSE(frmParams.chkAllowWordsWithPeriods.IsChecked());
+}
+
+TEST_F(FormWindowTest, TextComposedInTheListIsTheControls) {
+  auto& list = user->windows.Main().List();
+  list.setFocus();
+  QTest::keyClicks(&list, "one");
+  QTest::keyClick(&list, Qt::Key_Return);
+  QTest::keyClicks(&list, "two");
+  user->Settle();
+  EXPECT_EQ(frmMain.txbOutput.Text(), "one\r\ntwo");
+  EXPECT_EQ(user->Shown(), "one\ntwo");
+}
+
+TEST_F(FormWindowTest, LanguageChangesEveryCaptionAtOnce) {
+  user->Click(frmMain.cmdLanguage);
+  QString quit = user->WidgetOf<QPushButton>(frmMain.cmdQuit).text();
+  EXPECT_EQ(quit.remove(QLatin1Char('&')), "Beenden");
+  EXPECT_EQ(user->WidgetOf<QGroupBox>(frmMain.fraOutput).title(), "Liste");
+  user->Click(frmMain.cmdLanguage);
+  EXPECT_EQ(user->WidgetOf<QGroupBox>(frmMain.fraOutput).title(), "List");
+}
+
+TEST_F(FormWindowTest, MinimizedHelpComesBackWithF1) {
+  FormWindow& help = user->windows.Help();
+  QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.cmdCountWords), Qt::Key_F1);
+  user->Settle();
+  EXPECT_TRUE(help.isVisible());
+  help.showMinimized();
+  user->Settle();
+  QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.cmdCountWords), Qt::Key_F1);
+  user->Settle();
+  EXPECT_FALSE(help.isMinimized());
+}
+
+TEST_F(FormWindowTest, HelpWindowLeavesItsMarginsWhateverItsSize) {
+  user->Click(frmMain.cmdHelp);
+  FormWindow& help = user->windows.Help();
+  const auto& screen = user->WidgetOf<QWidget>(user->program.frmHelp.txbHelpScreen);
+  const auto& close = user->WidgetOf<QWidget>(user->program.frmHelp.cmdClose);
+  for (const QSize size : {QSize(700, 500), QSize(1000, 800)}) {
+    help.resize(size);
+    user->Settle();
+    EXPECT_NEAR(screen.width(), size.width() - 350 / 15.0, 1.0);
+    EXPECT_NEAR(screen.height(), size.height() - 1080 / 15.0, 1.0);
+    EXPECT_NEAR(close.y(), size.height() - 800 / 15.0, 1.0);
+    EXPECT_NEAR(close.geometry().center().x(), size.width() / 2.0, 2.0);
+  }
+}
+
+}  // namespace
+}  // namespace quillomat

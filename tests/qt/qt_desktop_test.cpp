@@ -1,0 +1,115 @@
+// Boxes, dialogs and the clipboard of the toolkit.
+#include "qt/qt_desktop.h"
+
+#include <QClipboard>
+#include <QDialog>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <gmock/gmock.h>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class QtDesktopTest : public testing::Test {
+ protected:
+  /// Does something to the dialog that comes next.
+  template <class Dialog>
+  static void WithDialog(std::function<void(Dialog&)> action) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, action] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer->deleteLater();
+      timer->stop();
+      action(*dialog);
+    });
+    timer->start(5);
+  }
+
+  TemporaryFolder folder;
+  QtDesktop desktop;
+};
+
+TEST_F(QtDesktopTest, BoxShowsWhatItIsToldAndGivesTheAnswer) {
+  desktop.SetFallbackTitle("Quillomat");
+  for (const auto& [button, answer] : {std::pair(QMessageBox::Yes, MessageAnswer::kYes),
+                                       {QMessageBox::No, MessageAnswer::kNo},
+                                       {QMessageBox::Cancel, MessageAnswer::kCancel}}) {
+    WithDialog<QMessageBox>([clicked = button](QMessageBox& box) {
+      EXPECT_EQ(box.text(), "One\nTwo <b>");
+      EXPECT_EQ(box.windowTitle(), "Title");
+      EXPECT_EQ(box.icon(), QMessageBox::Question);
+      box.button(clicked)->click();
+    });
+    EXPECT_EQ(desktop.ShowMessage({"One\r\nTwo <b>", "Title", MessageIcon::kQuestion,
+                                   MessageButtons::kYesNoCancel}),
+              answer);
+  }
+}
+
+TEST_F(QtDesktopTest, EscapeIsCancelOrNoOrOk) {
+  const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+  for (const auto& [buttons, answer] : {std::pair(MessageButtons::kOk, MessageAnswer::kOk),
+                                        {MessageButtons::kOkCancel, MessageAnswer::kCancel},
+                                        {MessageButtons::kYesNo, MessageAnswer::kNo},
+                                        {MessageButtons::kYesNoCancel, MessageAnswer::kCancel}}) {
+    WithDialog<QMessageBox>(escape);
+    EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kNone, buttons}), answer);
+  }
+}
+
+TEST_F(QtDesktopTest, InputBoxGivesTheTextOrNothing) {
+  const InputBox box{"Title", "One\r\nTwo", "/here"};
+  WithDialog<QInputDialog>([](QInputDialog& dialog) {
+    EXPECT_EQ(dialog.labelText(), "One\nTwo");
+    EXPECT_EQ(dialog.textValue(), "/here");
+    dialog.setTextValue("/there");
+    dialog.accept();
+  });
+  EXPECT_EQ(desktop.AskForText(box), "/there");
+  WithDialog<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(desktop.AskForText(box), "");
+}
+
+TEST_F(QtDesktopTest, FileDialogIsSetUpAsAsked) {
+  const std::string path = folder.Write("mine.qlm", "");
+  FileDialog dialog;
+  dialog.title = "Specify";
+  dialog.filter = "QLM state files (*.qlm) | *.qlm";
+  dialog.fileMustExist = true;
+  WithDialog<QFileDialog>([&](QFileDialog& shown) {
+    EXPECT_EQ(shown.windowTitle(), "Specify");
+    EXPECT_EQ(shown.nameFilters(), QStringList{"QLM state files (*.qlm)"});
+    EXPECT_EQ(shown.fileMode(), QFileDialog::ExistingFile);
+    EXPECT_EQ(shown.acceptMode(), QFileDialog::AcceptOpen);
+    shown.setDirectory(ToQt(folder.Path()));
+    shown.selectFile("mine.qlm");
+    shown.findChild<QLineEdit*>("fileNameEdit")->setText(ToQt(path));
+    static_cast<QDialog&>(shown).done(QDialog::Accepted);
+  });
+  EXPECT_EQ(desktop.ChooseFile(dialog), path);
+  dialog.mode = FileDialog::Mode::kSave;
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.fileMustExist = false;
+  WithDialog<QFileDialog>([](QFileDialog& shown) {
+    EXPECT_EQ(shown.nameFilters(), QStringList{"Any text file (*)"});
+    EXPECT_EQ(shown.acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_TRUE(shown.testOption(QFileDialog::DontConfirmOverwrite));
+    EXPECT_EQ(shown.defaultSuffix(), "");
+    shown.reject();
+  });
+  EXPECT_EQ(desktop.ChooseFile(dialog), std::nullopt);
+}
+
+TEST_F(QtDesktopTest, ClipboardGoesThereAndBack) {
+  desktop.PutClipboardText("one\r\ntwo");
+  EXPECT_EQ(QApplication::clipboard()->text(), "one\ntwo");
+  EXPECT_EQ(desktop.ClipboardText(), "one\ntwo");
+  desktop.ClearClipboard();
+  EXPECT_EQ(desktop.ClipboardText(), "");
+}
+
+}  // namespace
+}  // namespace quillomat
