@@ -6,6 +6,7 @@
 #include <QShortcut>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <array>
 
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
@@ -71,12 +72,12 @@ void MainWindowView::PlaceNotices() {
 
 /// The list keeps its height when the summary appears.
 void MainWindowView::KeepRoomForSummary() {
-  for (QLabel* label : {ui_->lblNumberOfWords, ui_->lblNumWordsExcluded, ui_->lblNumOccurrences,
-                        ui_->lblTotalNumOccurrences}) {
+  const std::array<QLabel*, 4> labels = {ui_->lblNumberOfWords, ui_->lblNumWordsExcluded,
+                                         ui_->lblNumOccurrences, ui_->lblTotalNumOccurrences};
+  for (QLabel* label : labels) {
     QSizePolicy policy = label->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     label->setSizePolicy(policy);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setFont(ui_->txbOutput->font());
   }
 }

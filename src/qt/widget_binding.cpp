@@ -53,17 +53,19 @@ class LinesBinding final : public WidgetBinding {
 
  private:
   void TakeText() {
+    if (showing_) return;
     shown_ = FromQtLines(edit_.toPlainText());
     box_.SetText(shown_);
     shownCaret_ = box_.SelStart();
   }
 
   void ShowValue() override {
-    const QSignalBlocker blocker(edit_);
+    showing_ = true;  // the widget's own parts listen to its signals, so they are not blocked
     const std::string& text = box_.Text();
     const bool changed = text != shown_;
     if (changed) ShowText(text);
     if (changed || box_.SelStart() != shownCaret_) ShowCaret();
+    showing_ = false;
   }
 
   void ShowText(const std::string& text) {
@@ -90,6 +92,7 @@ class LinesBinding final : public WidgetBinding {
   QPlainTextEdit& edit_;
   std::string shown_;
   std::optional<std::size_t> shownCaret_;
+  bool showing_ = false;
 };
 
 class CheckBinding final : public WidgetBinding {

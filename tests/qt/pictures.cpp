@@ -1,0 +1,111 @@
+// Makes the pictures of the windows for the documentation: quillomat_pictures FOLDER SAMPLES_FOLDER
+#include <QDir>
+#include <iostream>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+constexpr const char* kBooks = "/tmp/books";
+
+class Photographer {
+ public:
+  Photographer(ProgramOnDesktop& user, QString folder) : user_(user), folder_(std::move(folder)) {
+    QDir().mkpath(kBooks);
+  }
+  Photographer(const Photographer&) = delete;
+  Photographer& operator=(const Photographer&) = delete;
+  Photographer(Photographer&&) = delete;
+  Photographer& operator=(Photographer&&) = delete;
+  ~Photographer() { QDir(kBooks).removeRecursively(); }
+
+  void TakeAll(const QString& samples) {
+    MainForm& frmMain = user_.program.frmMain;
+    Count(samples + "/harbour_en.txt");
+    Save(user_.windows.Main(), "main-en");
+    TakeOthers("en");
+    user_.Click(frmMain.cmdLanguage);
+    Count(samples + "/leuchtturm_de.txt");
+    Save(user_.windows.Main(), "main-de");
+    TakeOthers("de");
+    user_.Click(frmMain.cmdLanguage);
+    TakeRunning(samples);
+    TakeMessage();
+  }
+
+ private:
+  /// Counts a copy, whose path is the same on every machine.
+  void Count(const QString& sample) {
+    const QString copy = QString(kBooks) + "/" + QFileInfo(sample).fileName();
+    QFile::remove(copy);
+    if (!QFile::copy(sample, copy)) std::cerr << "cannot copy " << FromQt(sample) << '\n';
+    user_.program.ChooseText(FromQt(copy));
+    user_.Click(user_.program.frmMain.cmdCountWords);
+  }
+
+  void TakeOthers(const QString& language) {
+    user_.Click(user_.program.frmMain.cmdSetParameters);
+    Save(user_.windows.Panel(), "parameters-" + language);
+    user_.Click(user_.program.frmParams.cmdClose);
+    user_.Click(user_.program.frmMain.cmdHelp);
+    Save(user_.windows.Help(), "help-" + language);
+    user_.Click(user_.program.frmHelp.cmdClose);
+  }
+
+  void TakeRunning(const QString& samples) {
+    const QString path = QString(kBooks) + "/library.txt";
+    QFile library(path);
+    if (!library.open(QIODevice::WriteOnly)) return;
+    QFile sample(samples + "/harbour_en.txt");
+    if (!sample.open(QIODevice::ReadOnly)) return;
+    const QByteArray text = sample.readAll();
+    for (int i = 0; i < 1500; ++i) library.write(text);
+    library.close();
+    user_.program.ChooseText(FromQt(path));
+    boxes_.Answer(QMessageBox::No);
+    QTimer::singleShot(60, [this] {
+      Save(user_.windows.Main(), "running-en");
+      user_.program.frmMain.cmdCountWords.PerformClick();
+    });
+    user_.Click(user_.program.frmMain.cmdCountWords);
+  }
+
+  void TakeMessage() {
+    user_.Type(user_.program.frmMain.txbFile[0], std::string(kBooks) + "/no-such-book.txt");
+    QTimer::singleShot(40, [this] {
+      if (QWidget* box = QApplication::activeModalWidget()) Save(*box, "message-en");
+    });
+    boxes_.Pause(100);
+    boxes_.Answer(QMessageBox::Ok);
+    user_.Click(user_.program.frmMain.cmdCountWords);
+  }
+
+  void Save(QWidget& window, const QString& name) {
+    user_.Settle();
+    const QString path = QDir(folder_).filePath(name + ".png");
+    if (!window.grab().save(path)) std::cerr << "cannot write " << FromQt(path) << '\n';
+  }
+
+  ProgramOnDesktop& user_;
+  QString folder_;
+  BoxAnswerer boxes_;
+};
+
+}  // namespace
+}  // namespace quillomat
+
+int main(int argc, char** argv) {
+  using namespace quillomat;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  if (argc != 3) {
+    std::cerr << "usage: quillomat_pictures FOLDER SAMPLES_FOLDER\n";
+    return 2;
+  }
+  const UserHome home;
+  ProgramOnDesktop user;
+  if (!user.Start()) return 1;
+  Photographer(user, QString::fromLocal8Bit(argv[1])).TakeAll(QString::fromLocal8Bit(argv[2]));
+  return 0;
+}
