@@ -172,13 +172,25 @@ std::optional<std::string_view> LineDecoder::NextLine() {
   return decoded_;
 }
 
+std::string_view LineDecoder::NextLines() {
+  if (begin_ == end_) static_cast<void>(ReadBlock());
+  SkipLineFeed();
+  const std::size_t bytes = std::min(end_ - begin_, kMostBytesOfLines);
+  const std::string_view next(buffer_.data() + begin_, bytes);
+  return next.substr(0, next.rfind('\n') + 1);
+}
+
+/// The line feed of a carriage return that has ended a line.
+void LineDecoder::SkipLineFeed() {
+  if (!skipLineFeed_ || begin_ == end_) return;
+  if (buffer_[begin_] == '\n') ++begin_;
+  skipLineFeed_ = false;
+}
+
 std::optional<std::string_view> LineDecoder::NextRawLine() {
   std::size_t searched = 0;  // bytes from begin_ on that hold no line end
   for (;;) {
-    if (skipLineFeed_ && begin_ < end_) {
-      if (buffer_[begin_] == '\n') ++begin_;
-      skipLineFeed_ = false;
-    }
+    SkipLineFeed();
     const std::string_view rest(buffer_.data() + begin_, end_ - begin_);
     const std::size_t lineBytes = searched + FindLineEnd(rest.substr(searched));
     if (lineBytes < rest.size()) {

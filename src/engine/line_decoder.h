@@ -61,7 +61,17 @@ class LineDecoder {
   /// call. Passes on what the source throws.
   [[nodiscard]] std::optional<std::string_view> NextLine();
 
+  /// Whole lines that NextLine would give next, with their line feeds, as they stand in the source;
+  /// at most kMostBytesOfLines. Empty when the next line is not at hand as a whole: then NextLine
+  /// has it. The view is good until the next call of NextLine or NextLines.
+  [[nodiscard]] std::string_view NextLines();
+  /// Passes over the first `bytes` of NextLines(), which are whole lines.
+  void SkipLines(std::size_t bytes) { begin_ += bytes; }
+
+  static constexpr std::size_t kMostBytesOfLines = 8192;
+
  private:
+  void SkipLineFeed();
   [[nodiscard]] bool ReadBlock();
   [[nodiscard]] std::optional<std::string_view> NextRawLine();
 

@@ -1,5 +1,7 @@
 #include "engine/word_scanner.h"
 
+#include <algorithm>
+
 #include "base/checked_count.h"
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
@@ -35,7 +37,10 @@ WordScanner::WordScanner(ScanSettings& settings, const ScanChoices& choices, con
       store_(store),
       yield_(yield),
       charClass_(settings.AllowFlags[static_cast<std::size_t>(AllowFlag::kNumerals)],
-                 settings.ExtraWordChars) {}
+                 settings.ExtraWordChars),
+      tokenClasses_(settings.AllowFlags[static_cast<std::size_t>(AllowFlag::kNumerals)],
+                    settings.ExtraWordChars),
+      memoGeneration_(store.Generation()) {}
 
 void WordScanner::GetWords(std::string_view lineBuffer) {
   text_ = settings_.ReadingWordList ? lineBuffer : Rewritten(lineBuffer);
@@ -50,8 +55,7 @@ void WordScanner::GetWords(std::string_view lineBuffer) {
       if (++skipped % kSkippedPerYield == 0 && yield_.Yield()) return;
       continue;
     }
-    const std::string_view word = GetNextWord();
-    if (!word.empty()) TakeWord(word);
+    TakeCutToken(CutToken());
     if (yield_.Yield()) return;
   }
 }
@@ -131,9 +135,9 @@ std::string_view WordScanner::CutToken() {
   return text_.substr(start, position_ - start);
 }
 
-/// The word that starts at the position, in its final form; empty when nothing is left of it.
-std::string_view WordScanner::GetNextWord() {
-  std::string_view word = TrimTrailingChars(CutToken(), kTrimmedFromWords);
+/// What is left of a token that starts as words may start; often all of it, sometimes nothing.
+std::string_view WordScanner::FinalForm(std::string_view token) {
+  std::string_view word = TrimTrailingChars(token, kTrimmedFromWords);
   if (settings_.ReadingWordList) {
     if (!word.empty()) settings_.NoteListWordChars(word);
     return word;
@@ -144,13 +148,129 @@ std::string_view WordScanner::GetNextWord() {
   return word;
 }
 
-void WordScanner::TakeWord(std::string_view word) {
-  if (settings_.ReadingWordList) {
-    store_.AddWord(word, true);
+/// A token that starts as words may start, as it stands in a text that was lower-cased and
+/// rewritten as the settings want it.
+void WordScanner::TakeCutToken(std::string_view token) {
+  if (settings_.ReadingWordList || token.size() > TokenMemo::kMostBytes) {
+    static_cast<void>(WorkOutCutToken(token));
     return;
   }
+  ForgetTokensOfOldStore();
+  const TokenMemo::Key key = TokenMemo::KeyOf(token.data(), token.size(), token.size());
+  if (const TokenOutcome* known = memo_.Find(key)) return CountToken(*known);
+  memo_.Remember(key, WorkOutCutToken(token));
+}
+
+/// A token of a text as it stands in the file, of which `readable` bytes can be read from the
+/// token's start on.
+void WordScanner::TakeWholeToken(std::string_view token, std::size_t readable) {
+  if (token.size() > TokenMemo::kMostBytes) {
+    static_cast<void>(WorkOutWholeToken(token));
+    return;
+  }
+  ForgetTokensOfOldStore();
+  const TokenMemo::Key key = TokenMemo::KeyOf(token.data(), token.size(), readable);
+  if (const TokenOutcome* known = memo_.Find(key)) return CountToken(*known);
+  if (const auto outcome = WorkOutWholeToken(token)) memo_.Remember(key, *outcome);
+}
+
+TokenOutcome WordScanner::WorkOutCutToken(std::string_view token) {
+  const std::string_view word = FinalForm(token);
+  return word.empty() ? TokenOutcome() : TakeWord(word);
+}
+
+/// Nothing when the token holds more than one word ("well--known"), which is seldom and is worked
+/// out every time.
+std::optional<TokenOutcome> WordScanner::WorkOutWholeToken(std::string_view token) {
+  text_ = Rewritten(PrepareLine(token, IsSet(choices_.caseSignificant), tokenText_));
+  position_ = 0;
+  TokenOutcome outcome;
+  std::size_t words = 0;
+  while (position_ < text_.size()) {
+    if (!charClass_.MayStartWord(text_, position_)) {
+      position_ += CharacterBytes();
+      continue;
+    }
+    const TokenOutcome next = WorkOutCutToken(CutToken());
+    if (!next.isWord) continue;
+    outcome = next;
+    ++words;
+  }
+  if (words > 1) return std::nullopt;
+  return outcome;
+}
+
+TokenOutcome WordScanner::TakeWord(std::string_view word) {
+  TokenOutcome outcome;
+  outcome.isWord = true;
+  if (settings_.ReadingWordList) {
+    store_.AddWord(word, true);
+    return outcome;
+  }
   IncrementChecked(wordsRead_);
-  if (lists_.Admits(word, settings_.CountOnlyMode)) store_.AddWord(word);
+  if (!lists_.Admits(word, settings_.CountOnlyMode)) return outcome;
+  if (const auto place = store_.AddWord(word)) outcome.place = *place;
+  return outcome;
+}
+
+void WordScanner::CountToken(const TokenOutcome& outcome) {
+  if (outcome.isWord) IncrementChecked(wordsRead_);
+  if (outcome.place != TokenOutcome::kNotStored) store_.CountWordAt(outcome.place);
+}
+
+void WordScanner::ForgetTokensOfOldStore() {
+  if (memoGeneration_ == store_.Generation()) return;
+  memo_.Clear();
+  memoGeneration_ = store_.Generation();
+}
+
+/// Comments and entities reach beyond a token, and bytes that are not UTF-8 are not text yet.
+std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
+  constexpr std::uint32_t kTooFewToPutOff = 16;
+  if (settings_.ReadingWordList || yield_.CallsLeft() < kTooFewToPutOff) return 0;
+  PrepareMarkers();
+  if (settings_.UseCommentMarkers && settings_.OpenComment != kNoComment) return 0;
+  lines = lines.substr(0, FirstSpecialByte(lines));
+  if (!IsWellFormedUtf8(lines)) {
+    const auto isHigh = [](char ch) { return static_cast<unsigned char>(ch) >= 0x80; };
+    const auto high = std::find_if(lines.begin(), lines.end(), isHigh);
+    lines = lines.substr(0, static_cast<std::size_t>(high - lines.begin()));
+  }
+  return lines.rfind('\n') + 1;
+}
+
+/// The place of the first byte with which an entity or, while markers are in force, a comment may
+/// start; the size of `lines` when there is none.
+std::size_t WordScanner::FirstSpecialByte(std::string_view lines) const {
+  std::size_t first = std::min(lines.find('&'), lines.size());
+  if (!settings_.UseCommentMarkers) return first;
+  for (const std::string& marker : lowerStart_) {
+    if (marker.empty()) continue;
+    const auto byte = static_cast<unsigned char>(marker[0]);
+    if (byte >= 0x80) return 0;
+    first = std::min(first, lines.substr(0, first).find(marker[0]));
+    if (byte < 'a' || byte > 'z') continue;
+    const char capital = static_cast<char>(byte - ('a' - 'A'));
+    first = std::min(first, lines.substr(0, first).find(capital));
+  }
+  return first;
+}
+
+void WordScanner::GetWordsOfLines(std::string_view lines) {
+  masks_.resize((lines.size() + kBytesPerMask - 1) / kBytesPerMask);
+  FindTokenBytes(tokenClasses_, lines, masks_);
+  TokenRuns tokens(masks_);
+  std::uint32_t allowed = yield_.CallsLeft();
+  std::uint32_t taken = 0;
+  while (const auto token = tokens.Next()) {
+    TakeWholeToken(lines.substr(token->start, token->end - token->start),
+                   lines.size() - token->start);
+    if (++taken < allowed) continue;
+    if (yield_.YieldFor(taken)) return;
+    allowed = yield_.CallsLeft();
+    taken = 0;
+  }
+  if (taken > 0) static_cast<void>(yield_.YieldFor(taken));
 }
 
 std::size_t WordScanner::CharacterBytes() const {

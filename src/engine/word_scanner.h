@@ -2,6 +2,9 @@
 // of a words file), cuts each to its final form, decides whether it is to be counted, and hands it
 // to the word store. It skips comments and decodes entities.
 //
+// What becomes of a token depends on the token and the settings alone, so it is worked out once and
+// remembered; the next token like it costs one look-up.
+//
 // One scanner serves one run. Text is well-formed UTF-8. The caller has lower-cased the text unless
 // letter case is significant, and has appended one blank: the last character of a text never starts
 // a word.
@@ -10,11 +13,15 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/char_class.h"
 #include "engine/scan_settings.h"
+#include "engine/token_classes.h"
+#include "engine/token_memo.h"
 #include "engine/word_list.h"
 #include "engine/word_store.h"
 
@@ -33,6 +40,11 @@ class ScanYield {
   /// Called after every candidate word, so it must cost next to nothing. True when the user has
   /// asked the run to stop.
   virtual bool Yield() = 0;
+
+  /// For many words at once: how many calls may be put off, and what makes up for them. `calls` is
+  /// 1 to CallsLeft().
+  [[nodiscard]] virtual std::uint32_t CallsLeft() const { return 1; }
+  virtual bool YieldFor(std::uint32_t /*calls*/) { return Yield(); }
 };
 
 class WordScanner {
@@ -44,6 +56,14 @@ class WordScanner {
 
   /// Scans one piece of text. Throws RunTimeError 6 when a counter overflows.
   void GetWords(std::string_view lineBuffer);
+
+  /// How many bytes at the start of `lines`, which are whole lines with their line feeds, can be
+  /// given to GetWordsOfLines; 0 when the first line needs GetWords.
+  [[nodiscard]] std::size_t PlainLineBytes(std::string_view lines);
+
+  /// Scans lines of PlainLineBytes in one go, as they stand in the file: with the results of
+  /// GetWords for each of them, many times faster.
+  void GetWordsOfLines(std::string_view lines);
 
   /// Candidate words read so far, whether they were counted or not.
   [[nodiscard]] std::int32_t WordsRead() const { return wordsRead_; }
@@ -58,9 +78,16 @@ class WordScanner {
   [[nodiscard]] int FindCommentStart() const;
   void SkipComment();
   AfterComments SkipComments();
-  [[nodiscard]] std::string_view GetNextWord();
   [[nodiscard]] std::string_view CutToken();
-  void TakeWord(std::string_view word);
+  [[nodiscard]] std::string_view FinalForm(std::string_view token);
+  void TakeCutToken(std::string_view token);
+  void TakeWholeToken(std::string_view token, std::size_t readable);
+  TokenOutcome WorkOutCutToken(std::string_view token);
+  std::optional<TokenOutcome> WorkOutWholeToken(std::string_view token);
+  TokenOutcome TakeWord(std::string_view word);
+  void CountToken(const TokenOutcome& outcome);
+  void ForgetTokensOfOldStore();
+  [[nodiscard]] std::size_t FirstSpecialByte(std::string_view lines) const;
   [[nodiscard]] bool RestIsOneBlank() const { return text_.substr(position_) == " "; }
   [[nodiscard]] std::size_t CharacterBytes() const;
 
@@ -70,6 +97,11 @@ class WordScanner {
   WordStore& store_;
   ScanYield& yield_;
   CharClass charClass_;
+  TokenClasses tokenClasses_;
+  TokenMemo memo_;
+  std::uint64_t memoGeneration_;
+  std::vector<std::uint64_t> masks_;
+  std::string tokenText_;
 
   /// The text being scanned, and the byte position of the next character to examine. A position
   /// past the end is text_.size().

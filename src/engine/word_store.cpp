@@ -36,6 +36,7 @@ std::uint64_t LeadingBytes(std::string_view key) {
 }  // namespace
 
 void WordStore::Clear() {
+  ++generation_;
   records_.clear();
   slots_.clear();
   tallies_.clear();
@@ -43,9 +44,10 @@ void WordStore::Clear() {
   letters_.release();
 }
 
-void WordStore::AddWord(std::string_view word, bool anyLength) {
+std::optional<std::uint32_t> WordStore::AddWord(std::string_view word, bool anyLength) {
   // Bytes are at least as many as characters, so most words need no counting.
-  if (!anyLength && word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit) return;
+  if (!anyLength && word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit)
+    return {};
   if (files_.IsOn()) files_.NoteCurrentFile();
   const std::string_view key = SortKeyOf(word, keyScratch_);
   const std::uint32_t hash = HashOf(key);
@@ -58,14 +60,16 @@ void WordStore::AddWord(std::string_view word, bool anyLength) {
   Slot& slot = SlotOf(key, hash);
   if (slot.place != 0) {
     CountAgain(slot.place - 1);
-    return;
+    return slot.place - 1;
   }
   if (records_.size() == std::numeric_limits<std::int32_t>::max()) {
     throw RunTimeError(RunTimeErrorNumber::kOverflow);
   }
-  slot = {hash, static_cast<std::uint32_t>(records_.size() + 1)};
+  const auto place = static_cast<std::uint32_t>(records_.size());
+  slot = {hash, place + 1};
   AppendWordRecord(word, key);
   if (listener_ != nullptr) listener_->OnNewWord(word, NumDifferentWords());
+  return place;
 }
 
 WordStore::Slot& WordStore::SlotOf(std::string_view key, std::uint32_t hash) {
@@ -123,6 +127,7 @@ const FileTally* WordStore::FilesOf(std::int32_t index) const {
 }
 
 void WordStore::SortRecords() const {
+  ++generation_;
   struct Entry {
     std::uint64_t leadingBytes;
     std::uint32_t place;

@@ -69,8 +69,17 @@ class WordStore {
   void SetListener(NewWordListener* listener) { listener_ = listener; }
 
   /// Counts one occurrence of `word`. With `anyLength` (words files) long words are taken too.
-  /// Throws RunTimeError 6 when a count would leave the range of 32 bits.
-  void AddWord(std::string_view word, bool anyLength = false);
+  /// Throws RunTimeError 6 when a count would leave the range of 32 bits. Returns the place of the
+  /// word's record, for CountWordAt; nothing when the word is not stored.
+  std::optional<std::uint32_t> AddWord(std::string_view word, bool anyLength = false);
+
+  /// Counts one occurrence of the word that AddWord has put at `place`; throws as AddWord does.
+  /// Places change when the records are sorted or cleared, and then Generation() changes.
+  void CountWordAt(std::uint32_t place) {
+    if (files_.IsOn()) files_.NoteCurrentFile();
+    CountAgain(place);
+  }
+  [[nodiscard]] std::uint64_t Generation() const { return generation_; }
 
   [[nodiscard]] std::int32_t NumDifferentWords() const {
     return static_cast<std::int32_t>(records_.size());
@@ -122,6 +131,7 @@ class WordStore {
   /// Empty while the records are sorted: sorting moves them, and words seldom arrive afterwards.
   mutable std::vector<Slot> slots_;
   mutable bool sorted_ = true;
+  mutable std::uint64_t generation_ = 0;
 };
 
 }  // namespace quillomat

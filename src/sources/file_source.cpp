@@ -36,6 +36,21 @@ bool IsCLike(const std::string& extension) {
   return extension == "cpp" || extension == "c";
 }
 
+/// The progress bar takes every line end for two bytes.
+constexpr std::int64_t kLineEndBytes = 2;
+
+/// Of whole lines, so counted.
+std::int64_t BytesOfLines(std::string_view lines) {
+  auto bytes = static_cast<std::int64_t>(lines.size());
+  char before = '\0';
+  for (const char ch : lines) {
+    if (before == '\r' && ch != '\n') ++bytes;
+    if (ch == '\n' && before != '\r') ++bytes;
+    before = ch;
+  }
+  return bytes;
+}
+
 }  // namespace
 
 std::string FileSizeText(std::int64_t bytes, std::string_view separator) {
@@ -192,19 +207,27 @@ void FileSource::ShowFileType(LineEndingType type) {
 }
 
 void FileSource::ReadLines(ScanJob& job, LineEndingType type) {
-  constexpr std::int64_t kLineEndCharacters = 2;
   InputFile file(path_);
   const bool showProgress = scanning_ && file.Length() > kProgressBarBytes;
   if (showProgress) progress_.StartProgressBar();
   LineDecoder lines(file);
   std::int64_t bytesRead = 0;
-  while (const auto line = lines.NextLine()) {
-    if (showProgress) {
-      bytesRead += static_cast<std::int64_t>(line->size()) + kLineEndCharacters;
-      progress_.UpdateProgressBar(bytesRead, file.Length(), type == LineEndingType::kUnix);
+  const auto showBytes = [&](std::int64_t bytes) {
+    bytesRead += bytes;
+    progress_.UpdateProgressBar(bytesRead, file.Length(), type == LineEndingType::kUnix);
+  };
+  for (;;) {
+    if (const std::string_view whole = job.PlainLines(lines.NextLines()); !whole.empty()) {
+      if (showProgress) showBytes(BytesOfLines(whole));
+      job.ScanLines(whole);
+      lines.SkipLines(whole.size());
+    } else if (const auto line = lines.NextLine()) {
+      if (showProgress) showBytes(static_cast<std::int64_t>(line->size()) + kLineEndBytes);
+      const std::string_view trimmed = TrimBlanks(*line);
+      if (!trimmed.empty()) job.ScanText(trimmed);
+    } else {
+      return;
     }
-    const std::string_view trimmed = TrimBlanks(*line);
-    if (!trimmed.empty()) job.ScanText(trimmed);
     if (job.Yield()) return;
   }
 }

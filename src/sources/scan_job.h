@@ -35,6 +35,16 @@ class ScanJob {
     Scan(PrepareLine(text, IsSet(choices_.caseSignificant), buffer_));
   }
 
+  /// The start of `lines`, whole lines with their line feeds, that ScanLines takes; may be empty.
+  [[nodiscard]] std::string_view PlainLines(std::string_view lines) {
+    return lines.substr(0, scanner_.PlainLineBytes(lines));
+  }
+  /// Scans lines that PlainLines gave, as they stand in the file.
+  void ScanLines(std::string_view lines) {
+    scanner_.GetWordsOfLines(lines);
+    state_.WordsRead = scanner_.WordsRead();
+  }
+
   /// Scans a line of a words file, which is always lower-cased.
   void ScanListLine(std::string_view line) { Scan(PrepareLine(line, false, buffer_)); }
 

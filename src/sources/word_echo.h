@@ -39,6 +39,11 @@ class RunYield final : public ScanYield {
     pump_.Yield();
     return state_.StopRequested;
   }
+  [[nodiscard]] std::uint32_t CallsLeft() const override { return pump_.CallsLeft(); }
+  bool YieldFor(std::uint32_t calls) override {
+    pump_.YieldFor(calls);
+    return state_.StopRequested;
+  }
 
  private:
   EventPump& pump_;

@@ -36,6 +36,14 @@ class EventPump {
     if (--callsLeft_ == 0) LookAtClock();
   }
 
+  /// For work in larger steps: how many calls may be put off, and what makes up for them. `calls`
+  /// is 1 to CallsLeft().
+  [[nodiscard]] std::uint32_t CallsLeft() const { return callsLeft_; }
+  void YieldFor(std::uint32_t calls) {
+    callsLeft_ -= calls - 1;
+    Yield();
+  }
+
   /// Handles pending events and paints, however little time has passed.
   void YieldNow();
 
