@@ -21,6 +21,20 @@ std::string_view TrimBlanks(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : TrimRightBlanks(text.substr(first));
 }
 
+/// Counts in bytes, as many as a byte can count to, so that many are counted at a time.
+std::size_t CountOf(char ch, std::string_view text) {
+  constexpr std::size_t kMostOfAByte = 255;
+  std::size_t count = 0;
+  for (std::size_t start = 0; start < text.size(); start += kMostOfAByte) {
+    std::uint8_t some = 0;
+    for (const char next : text.substr(start, kMostOfAByte)) {
+      some = static_cast<std::uint8_t>(some + static_cast<std::uint8_t>(next == ch));
+    }
+    count += some;
+  }
+  return count;
+}
+
 std::string PadLeft(std::string_view text, std::size_t width) {
   return Blanks(text, width).append(text);
 }

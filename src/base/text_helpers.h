@@ -23,6 +23,9 @@ inline constexpr std::string_view kPlatformLineBreak = "\n";
 [[nodiscard]] std::string_view TrimBlanks(std::string_view text);
 [[nodiscard]] std::string_view TrimRightBlanks(std::string_view text);
 
+/// How often the byte `ch` occurs in `text`.
+[[nodiscard]] std::size_t CountOf(char ch, std::string_view text);
+
 /// `text` with blanks put before (after) it until it has `width` characters.
 [[nodiscard]] std::string PadLeft(std::string_view text, std::size_t width);
 [[nodiscard]] std::string PadRight(std::string_view text, std::size_t width);

@@ -74,7 +74,8 @@ std::string TerminalDesktop::AskForText(const InputBox& box) {
 }
 
 std::string TerminalDesktop::DigitGroupSeparator() {
-  return quillomat::DigitGroupSeparator();
+  if (!digitGroupSeparator_) digitGroupSeparator_ = quillomat::DigitGroupSeparator();
+  return *digitGroupSeparator_;
 }
 
 }  // namespace quillomat

@@ -55,6 +55,7 @@ class TerminalDesktop final : public Desktop {
   std::string subject_;
   bool problemShown_ = false;
   UserRegistry registry_;
+  std::optional<std::string> digitGroupSeparator_;  // asked of the system once
 };
 
 }  // namespace quillomat

@@ -90,7 +90,7 @@ bool FolderExists(const std::string& path) {
 }
 
 std::optional<std::int64_t> FileLength(const std::string& path) {
-  if (!FileExists(path)) return std::nullopt;
+  if (NamesNothing(path)) return std::nullopt;
   std::error_code error;
   const std::uintmax_t bytes = fs::file_size(ToNativePath(path), error);
   if (error) return std::nullopt;

@@ -10,6 +10,8 @@ namespace quillomat {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+/// Most files of a large folder are small, and a large buffer for each would cost more than they.
+constexpr std::size_t kFirstBufferBytes = std::size_t{16} * 1024;
 constexpr char32_t kReplacement = 0xFFFD;
 
 /// The characters of the bytes 80 to 9F.
@@ -162,7 +164,7 @@ void UnmarkedSource::TakeUnit(char16_t unit) {
   }
 }
 
-LineDecoder::LineDecoder(ByteSource& source) : source_(source), buffer_(2 * kBlockBytes) {}
+LineDecoder::LineDecoder(ByteSource& source) : source_(source), buffer_(kFirstBufferBytes) {}
 
 std::optional<std::string_view> LineDecoder::NextLine() {
   const std::optional<std::string_view> line = NextRawLine();
@@ -214,9 +216,12 @@ bool LineDecoder::ReadBlock() {
     end_ -= begin_;
     begin_ = 0;
   }
-  if (buffer_.size() - end_ < kBlockBytes) buffer_.resize(buffer_.size() * 2);
+  if (end_ == buffer_.size() || (moreToCome_ && buffer_.size() - end_ < kBlockBytes)) {
+    buffer_.resize(std::max(buffer_.size() * 2, 2 * kBlockBytes));
+  }
   const std::size_t bytes = source_.Read(std::span(buffer_).subspan(end_));
   end_ += bytes;
+  moreToCome_ = end_ == buffer_.size();
   return bytes > 0;
 }
 

@@ -81,6 +81,8 @@ class LineDecoder {
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
   bool skipLineFeed_ = false;
+  /// The last block filled the buffer, so the source is likely to have more.
+  bool moreToCome_ = false;
   std::string decoded_;
 };
 

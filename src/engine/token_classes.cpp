@@ -1,5 +1,6 @@
 #include "engine/token_classes.h"
 
+#include <bit>
 #include <cstring>
 
 #include "engine/char_class.h"
@@ -52,6 +53,28 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
   masks[whole] = MaskOf(d, rows, bits, last) & ((std::uint64_t{1} << rest) - 1);
 }
 
+/// The places of the bits that differ from the bit before them; returns how many there are. Up to
+/// kEdgesAtOnce elements behind them are written to as well.
+std::size_t FindEdges(std::span<const std::uint64_t> masks, std::uint32_t* const places) {
+  std::uint32_t* next = places;
+  std::uint64_t before = 0;
+  std::uint32_t base = 0;
+  for (const std::uint64_t mask : masks) {
+    std::uint64_t edges = mask ^ (mask << 1U | before);
+    before = mask >> (kBytesPerMask - 1);
+    const auto found = static_cast<std::size_t>(std::popcount(edges));
+    for (std::size_t written = 0; written < found; written += kEdgesAtOnce) {
+      for (std::size_t i = 0; i < kEdgesAtOnce; ++i) {
+        next[written + i] = base + static_cast<std::uint32_t>(std::countr_zero(edges));
+        edges &= edges - 1;
+      }
+    }
+    next += found;
+    base += kBytesPerMask;
+  }
+  return static_cast<std::size_t>(next - places);
+}
+
 }  // namespace quillomat::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
@@ -59,6 +82,7 @@ HWY_AFTER_NAMESPACE();
 namespace quillomat {
 
 HWY_EXPORT(FindTokenBytes);
+HWY_EXPORT(FindEdges);
 
 TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
   for (unsigned byte = 0; byte < 0x80; ++byte) {
@@ -83,6 +107,15 @@ void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
     }
     masks[k] = mask;
   }
+}
+
+void TokenEdges::Find(const TokenClasses& classes, std::string_view text) {
+  masks_.resize((text.size() + kBytesPerMask - 1) / kBytesPerMask);
+  edges_.resize(masks_.size() * kBytesPerMask + kEdgesAtOnce + 1);
+  FindTokenBytes(classes, text, masks_);
+  count_ = HWY_DYNAMIC_DISPATCH(FindEdges)(masks_, edges_.data());
+  // A token that ends with the text has its end there.
+  if (count_ % 2 != 0) edges_[count_++] = static_cast<std::uint32_t>(text.size());
 }
 
 }  // namespace quillomat

@@ -6,12 +6,11 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "engine/scan_settings.h"
 
@@ -37,6 +36,9 @@ class TokenClasses {
 };
 
 inline constexpr std::size_t kBytesPerMask = 64;
+/// How many edges are written at once: some more than there are, so that how often the loop runs is
+/// easy to foresee.
+inline constexpr std::size_t kEdgesAtOnce = 8;
 
 /// Sets bit i of masks[k] when byte 64 k + i of `text` belongs to a token. `masks` has one element
 /// for every 64 bytes that have begun; bits behind the end of the text are 0.
@@ -47,50 +49,21 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
                             std::span<std::uint64_t> masks);
 
-/// Goes through the tokens of a text, from its masks.
-class TokenRuns {
+/// The tokens of a text.
+class TokenEdges {
  public:
-  /// A token's bytes are start to end - 1.
-  struct Run {
-    std::size_t start;
-    std::size_t end;
-  };
+  /// Looks for them anew; forgets those of the text before.
+  void Find(const TokenClasses& classes, std::string_view text);
 
-  explicit TokenRuns(std::span<const std::uint64_t> masks)
-      : masks_(masks), mask_(masks.empty() ? 0 : masks[0]) {}
-
-  [[nodiscard]] std::optional<Run> Next() {
-    while (mask_ == 0) {
-      if (place_ + 1 >= masks_.size()) return std::nullopt;
-      mask_ = masks_[++place_];
-    }
-    const auto from = static_cast<std::size_t>(std::countr_zero(mask_));
-    const std::size_t start = place_ * kBytesPerMask + from;
-    const std::size_t to = from + static_cast<std::size_t>(std::countr_one(mask_ >> from));
-    if (to < kBytesPerMask) {
-      mask_ &= kAll << to;
-      return Run{start, place_ * kBytesPerMask + to};
-    }
-    return Run{start, EndInNextMasks()};
-  }
+  [[nodiscard]] std::size_t TokenCount() const { return count_ / 2; }
+  [[nodiscard]] std::size_t Start(std::size_t token) const { return edges_[2 * token]; }
+  [[nodiscard]] std::size_t End(std::size_t token) const { return edges_[2 * token + 1]; }
 
  private:
-  static constexpr std::uint64_t kAll = ~std::uint64_t{0};
-
-  std::size_t EndInNextMasks() {
-    do {
-      mask_ = 0;
-      if (place_ + 1 >= masks_.size()) return masks_.size() * kBytesPerMask;
-      mask_ = masks_[++place_];
-    } while (mask_ == kAll);
-    const int rest = std::countr_one(mask_);
-    mask_ &= kAll << rest;
-    return place_ * kBytesPerMask + static_cast<std::size_t>(rest);
-  }
-
-  std::span<const std::uint64_t> masks_;
-  std::size_t place_ = 0;
-  std::uint64_t mask_;
+  std::vector<std::uint64_t> masks_;
+  /// The first byte of the first token, the byte behind it, the first byte of the second ...
+  std::vector<std::uint32_t> edges_;
+  std::size_t count_ = 0;
 };
 
 }  // namespace quillomat

@@ -16,13 +16,13 @@ void TokenMemo::Remember(const Key& key, TokenOutcome outcome) {
       if (entry.size != 0) Place(entry);
     }
   }
-  Place({key.low, key.high, outcome, key.size});
+  Place({key.low, key.high, outcome, static_cast<std::uint8_t>(key.size)});
   ++tokens_;
 }
 
 void TokenMemo::Place(const Entry& entry) {
   const std::size_t mask = entries_.size() - 1;
-  std::size_t i = HashOf({entry.low, entry.high, entry.size}) & mask;
+  std::size_t i = HashOf(entry.low, entry.high) & mask;
   while (entries_[i].size != 0) i = (i + 1) & mask;
   entries_[i] = entry;
 }

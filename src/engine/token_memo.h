@@ -4,6 +4,7 @@
 // different tokens makes it start anew from time to time. At most 2 MiB.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -39,15 +40,21 @@ class TokenMemo {
     std::uint64_t low = 0;
     std::uint64_t high = 0;
     std::uint32_t size = 0;
+    std::uint32_t hash = 0;
   };
 
   /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
   [[nodiscard]] static Key KeyOf(const char* text, std::size_t size, std::size_t readable);
 
+  /// Begins to fetch what Find will look at.
+  void Prefetch(const Key& key) const {
+    __builtin_prefetch(&entries_[key.hash & (entries_.size() - 1)]);
+  }
+
   /// Null for a token that was not remembered.
   [[nodiscard]] const TokenOutcome* Find(const Key& key) const {
     const std::size_t mask = entries_.size() - 1;
-    for (std::size_t i = HashOf(key) & mask;; i = (i + 1) & mask) {
+    for (std::size_t i = key.hash & mask;; i = (i + 1) & mask) {
       const Entry& entry = entries_[i];
       if (entry.low == key.low && entry.high == key.high && entry.size == key.size) {
         return &entry.outcome;
@@ -66,14 +73,24 @@ class TokenMemo {
     std::uint64_t low = 0;
     std::uint64_t high = 0;
     TokenOutcome outcome;
-    std::uint32_t size = 0;  // 0 marks a free entry
+    std::uint8_t size = 0;  // 0 marks a free entry
   };
 
-  static std::size_t HashOf(const Key& key) {
+  /// Masks of the bytes that belong to a token in the upper half of its key and, 8 places further
+  /// on, in the lower. The first byte is the lowest of a number.
+  static constexpr std::array<std::uint64_t, kMostBytes + 9> kOwnBytes = [] {
+    std::array<std::uint64_t, kMostBytes + 9> masks{};
+    for (std::size_t place = 9; place < masks.size(); ++place) {
+      masks[place] = place >= 16 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (128 - 8 * place);
+    }
+    return masks;
+  }();
+
+  static std::uint32_t HashOf(std::uint64_t low, std::uint64_t high) {
     constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
     constexpr std::uint64_t kSecond = 0xC2B2AE3D27D4EB4F;
-    const std::uint64_t mixed = (key.low ^ (key.high * kSecond)) * kFirst;
-    return static_cast<std::size_t>(mixed >> 40U ^ mixed >> 17U);
+    const std::uint64_t mixed = (low ^ (high * kSecond)) * kFirst;
+    return static_cast<std::uint32_t>(mixed >> 32U);
   }
 
   void Place(const Entry& entry);
@@ -93,10 +110,9 @@ inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size, std::
   }
   std::memcpy(&key.low, bytes, sizeof key.low);
   std::memcpy(&key.high, bytes + sizeof key.low, sizeof key.high);
-  // The first byte is the lowest of the number, so what stands behind the token is at the top.
-  constexpr std::uint64_t kAll = ~std::uint64_t{0};
-  if (size < 8) key.low &= kAll >> (64 - 8 * size);
-  key.high = size <= 8 ? 0 : key.high & kAll >> (128 - 8 * size);
+  key.low &= kOwnBytes[size + 8];
+  key.high &= kOwnBytes[size];
+  key.hash = HashOf(key.low, key.high);
   return key;
 }
 

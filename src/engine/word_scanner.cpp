@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::string_view kTrimmedFromWords = "-'.,:()";
 constexpr int kNoComment = -1;
+/// As many tokens as are looked up together.
+constexpr std::size_t kTokensAtOnce = 64;
 /// A long text without any word must not keep the user waiting either.
 constexpr std::size_t kSkippedPerYield = 4096;
 
@@ -161,19 +163,6 @@ void WordScanner::TakeCutToken(std::string_view token) {
   memo_.Remember(key, WorkOutCutToken(token));
 }
 
-/// A token of a text as it stands in the file, of which `readable` bytes can be read from the
-/// token's start on.
-void WordScanner::TakeWholeToken(std::string_view token, std::size_t readable) {
-  if (token.size() > TokenMemo::kMostBytes) {
-    static_cast<void>(WorkOutWholeToken(token));
-    return;
-  }
-  ForgetTokensOfOldStore();
-  const TokenMemo::Key key = TokenMemo::KeyOf(token.data(), token.size(), readable);
-  if (const TokenOutcome* known = memo_.Find(key)) return CountToken(*known);
-  if (const auto outcome = WorkOutWholeToken(token)) memo_.Remember(key, *outcome);
-}
-
 TokenOutcome WordScanner::WorkOutCutToken(std::string_view token) {
   const std::string_view word = FinalForm(token);
   return word.empty() ? TokenOutcome() : TakeWord(word);
@@ -257,20 +246,46 @@ std::size_t WordScanner::FirstSpecialByte(std::string_view lines) const {
 }
 
 void WordScanner::GetWordsOfLines(std::string_view lines) {
-  masks_.resize((lines.size() + kBytesPerMask - 1) / kBytesPerMask);
-  FindTokenBytes(tokenClasses_, lines, masks_);
-  TokenRuns tokens(masks_);
-  std::uint32_t allowed = yield_.CallsLeft();
-  std::uint32_t taken = 0;
-  while (const auto token = tokens.Next()) {
-    TakeWholeToken(lines.substr(token->start, token->end - token->start),
-                   lines.size() - token->start);
-    if (++taken < allowed) continue;
-    if (yield_.YieldFor(taken)) return;
-    allowed = yield_.CallsLeft();
-    taken = 0;
+  edges_.Find(tokenClasses_, lines);
+  for (std::size_t first = 0; first < edges_.TokenCount();) {
+    const std::size_t left = edges_.TokenCount() - first;
+    const std::size_t count = std::min({left, kTokensAtOnce, std::size_t{yield_.CallsLeft()}});
+    TakeTokens(lines, first, count);
+    if (yield_.YieldFor(static_cast<std::uint32_t>(count))) return;
+    first += count;
   }
-  if (taken > 0) static_cast<void>(yield_.YieldFor(taken));
+}
+
+/// In three steps, so that the memory has time to bring what the next step needs.
+void WordScanner::TakeTokens(std::string_view lines, std::size_t first, std::size_t count) {
+  ForgetTokensOfOldStore();
+  std::array<TokenMemo::Key, kTokensAtOnce> keys;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t start = edges_.Start(first + i);
+    const std::size_t bytes = std::min(edges_.End(first + i) - start, TokenMemo::kMostBytes);
+    keys[i] = TokenMemo::KeyOf(lines.data() + start, bytes, lines.size() - start);
+    memo_.Prefetch(keys[i]);
+  }
+  std::array<TokenOutcome, kTokensAtOnce> outcomes;
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t start = edges_.Start(first + i);
+    const std::string_view token = lines.substr(start, edges_.End(first + i) - start);
+    const bool isLong = token.size() > TokenMemo::kMostBytes;
+    if (const TokenOutcome* known = isLong ? nullptr : memo_.Find(keys[i])) {
+      outcomes[i] = *known;
+      if (known->place != TokenOutcome::kNotStored) store_.PrefetchWordAt(known->place);
+      continue;
+    }
+    outcomes[i] = {};
+    const auto outcome = WorkOutWholeToken(token);
+    if (outcome && !isLong) memo_.Remember(keys[i], *outcome);
+  }
+  std::int32_t words = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    words += static_cast<std::int32_t>(outcomes[i].isWord);
+    if (outcomes[i].place != TokenOutcome::kNotStored) store_.CountWordAt(outcomes[i].place);
+  }
+  AddChecked(wordsRead_, words);
 }
 
 std::size_t WordScanner::CharacterBytes() const {

@@ -16,7 +16,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "engine/char_class.h"
 #include "engine/scan_settings.h"
@@ -81,7 +80,7 @@ class WordScanner {
   [[nodiscard]] std::string_view CutToken();
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
   void TakeCutToken(std::string_view token);
-  void TakeWholeToken(std::string_view token, std::size_t readable);
+  void TakeTokens(std::string_view lines, std::size_t first, std::size_t count);
   TokenOutcome WorkOutCutToken(std::string_view token);
   std::optional<TokenOutcome> WorkOutWholeToken(std::string_view token);
   TokenOutcome TakeWord(std::string_view word);
@@ -100,7 +99,7 @@ class WordScanner {
   TokenClasses tokenClasses_;
   TokenMemo memo_;
   std::uint64_t memoGeneration_;
-  std::vector<std::uint64_t> masks_;
+  TokenEdges edges_;
   std::string tokenText_;
 
   /// The text being scanned, and the byte position of the next character to examine. A position

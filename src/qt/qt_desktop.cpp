@@ -169,7 +169,8 @@ bool QtDesktop::OpenWithShell(const std::string& documentOrAddress) {
 }
 
 std::string QtDesktop::DigitGroupSeparator() {
-  return quillomat::DigitGroupSeparator();
+  if (!digitGroupSeparator_) digitGroupSeparator_ = quillomat::DigitGroupSeparator();
+  return *digitGroupSeparator_;
 }
 
 }  // namespace quillomat

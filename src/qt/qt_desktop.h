@@ -31,6 +31,7 @@ class QtDesktop final : public Desktop {
   std::function<void()> showChanges_;
   std::string fallbackTitle_;
   UserRegistry registry_;
+  std::optional<std::string> digitGroupSeparator_;  // asked of the system once
 };
 
 }  // namespace quillomat

@@ -1,5 +1,6 @@
 #include "sources/file_source.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <new>
@@ -41,14 +42,14 @@ constexpr std::int64_t kLineEndBytes = 2;
 
 /// Of whole lines, so counted.
 std::int64_t BytesOfLines(std::string_view lines) {
-  auto bytes = static_cast<std::int64_t>(lines.size());
-  char before = '\0';
-  for (const char ch : lines) {
-    if (before == '\r' && ch != '\n') ++bytes;
-    if (ch == '\n' && before != '\r') ++bytes;
-    before = ch;
+  std::size_t lineEnds = CountOf('\n', lines);
+  if (lines.find('\r') != std::string_view::npos) {
+    lineEnds += CountOf('\r', lines);
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+      if (lines[i - 1] == '\r' && lines[i] == '\n') lineEnds -= 2;
+    }
   }
-  return bytes;
+  return static_cast<std::int64_t>(lines.size() + lineEnds);
 }
 
 }  // namespace

@@ -21,18 +21,24 @@ struct SeenBreaks {
   bool carriageReturn = false;
 };
 
-/// Notes the line breaks of `piece`; false at a control character.
+/// Notes the line breaks of `piece`; false when there is a control character. Looks at all of it,
+/// so that many bytes are looked at together.
 bool NoteBreaks(std::string_view piece, SeenBreaks& seen) {
+  unsigned char lineFeeds = 0;
+  unsigned char returns = 0;
+  unsigned char controls = 0;
   for (const char ch : piece) {
-    if (ch == '\n') {
-      seen.lineFeed = true;
-    } else if (ch == '\r') {
-      seen.carriageReturn = true;
-    } else if (static_cast<unsigned char>(ch) < 32 && ch != '\t') {
-      return false;
-    }
+    const auto lineFeed = static_cast<unsigned char>(ch == '\n');
+    const auto carriageReturn = static_cast<unsigned char>(ch == '\r');
+    const auto tab = static_cast<unsigned char>(ch == '\t');
+    const auto below = static_cast<unsigned char>(static_cast<unsigned char>(ch) < 32);
+    lineFeeds = static_cast<unsigned char>(lineFeeds | lineFeed);
+    returns = static_cast<unsigned char>(returns | carriageReturn);
+    controls = static_cast<unsigned char>(controls | (below ^ lineFeed ^ carriageReturn ^ tab));
   }
-  return true;
+  seen.lineFeed = seen.lineFeed || lineFeeds != 0;
+  seen.carriageReturn = seen.carriageReturn || returns != 0;
+  return controls == 0;
 }
 
 LineEndingType TypeOf(ByteSource& file, std::size_t maximum) {

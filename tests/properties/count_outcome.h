@@ -8,8 +8,11 @@
 
 namespace quillomat::properties {
 
+/// How the engine is given its text.
+enum class Reading { kByLines, kInBlocks };
+
 /// By the program's own engine and listing.
-[[nodiscard]] std::string OutcomeOfProgram(const CountCase& countCase);
+[[nodiscard]] std::string OutcomeOfProgram(const CountCase& countCase, Reading reading);
 
 /// By the literal engine.
 [[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase);

@@ -15,7 +15,9 @@ constexpr int kCasesPerSeed = 12'000;
 constexpr std::uint64_t kFixedSeed = 707;
 
 bool Differs(const CountCase& countCase) {
-  return OutcomeOfProgram(countCase) != OutcomeOfReference(countCase);
+  const std::string expected = OutcomeOfReference(countCase);
+  return OutcomeOfProgram(countCase, Reading::kByLines) != expected ||
+         OutcomeOfProgram(countCase, Reading::kInBlocks) != expected;
 }
 
 CountCase Smallest(CountCase failing) {
@@ -38,8 +40,9 @@ void CompareRandomCases(std::uint64_t seed) {
     if (!Differs(countCase)) continue;
     const CountCase smallest = Smallest(countCase);
     FAIL() << "seed " << seed << ", case " << i << ":\n"
-           << AsCode(smallest) << "\nthe program's outcome:\n"
-           << OutcomeOfProgram(smallest) << "\nthe literal engine's:\n"
+           << AsCode(smallest) << "\nthe program's outcome by lines:\n"
+           << OutcomeOfProgram(smallest, Reading::kByLines) << "\nin blocks:\n"
+           << OutcomeOfProgram(smallest, Reading::kInBlocks) << "\nthe literal engine's:\n"
            << OutcomeOfReference(smallest);
   }
 }

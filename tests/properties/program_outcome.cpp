@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <sstream>
 
@@ -13,10 +14,28 @@
 namespace quillomat::properties {
 namespace {
 
+/// Lets `calls` words be taken at a time.
 class NeverStops final : public ScanYield {
  public:
+  explicit NeverStops(std::uint32_t calls) : calls_(calls) {}
+
   bool Yield() override { return false; }
+  [[nodiscard]] std::uint32_t CallsLeft() const override { return calls_; }
+  bool YieldFor(std::uint32_t /*calls*/) override { return false; }
+
+ private:
+  std::uint32_t calls_;
 };
+
+constexpr std::uint32_t kCallsOneByOne = 1;
+constexpr std::uint32_t kCallsOfBlocks = 100;
+
+/// Whether lines can stand in a file so that they are read as the same lines.
+bool CanStandInAFile(const std::vector<std::string>& lines) {
+  return std::ranges::all_of(lines, [](const std::string& line) {
+    return line.find_first_of("\r\n") == std::string::npos;
+  });
+}
 
 CheckState StateOf(int box) {
   return static_cast<CheckState>(box);
@@ -59,8 +78,11 @@ std::string FiveDigits(std::int32_t number) {
 
 class ProgramCase {
  public:
-  explicit ProgramCase(const CountCase& countCase)
-      : case_(countCase), choices_(ScanChoicesOf(countCase.choices)) {}
+  ProgramCase(const CountCase& countCase, Reading reading)
+      : case_(countCase),
+        reading_(reading),
+        choices_(ScanChoicesOf(countCase.choices)),
+        yield_(reading == Reading::kInBlocks ? kCallsOfBlocks : kCallsOneByOne) {}
 
   std::string Outcome() {
     for (std::size_t kind = 0; kind < 2; ++kind) ReadLists(kind);
@@ -135,6 +157,9 @@ class ProgramCase {
     settings_.ForceCommentMarkers = text.markers == "HTML" || text.markers == "C";
     store_.Files().SetFileBeingScanned(text.path);
     const bool caseSignificant = IsSet(choices_.caseSignificant);
+    if (reading_ == Reading::kInBlocks && !text.whole && CanStandInAFile(text.lines)) {
+      return ScanBlocks(scanner, text.lines);
+    }
     std::string all;
     for (const std::string& line : text.lines) {
       all += line + "\r\n";
@@ -143,6 +168,30 @@ class ProgramCase {
       scanner.GetWords(PrepareLine(trimmed, caseSignificant, buffer_));
     }
     if (text.whole) scanner.GetWords(PrepareLine(all, caseSignificant, buffer_));
+  }
+
+  /// As a file is read: many lines at a time where that can be.
+  void ScanBlocks(WordScanner& scanner, const std::vector<std::string>& lines) {
+    const bool caseSignificant = IsSet(choices_.caseSignificant);
+    std::string file;
+    for (const std::string& line : lines) file += line + (file.size() % 3 == 0 ? "\r\n" : "\n");
+    for (std::string_view rest = file; !rest.empty();) {
+      // Windows of different sizes, so that they end at different places.
+      const std::string_view window = rest.substr(0, 64 + rest.size() % 997);
+      const std::string_view whole = window.substr(0, window.rfind('\n') + 1);
+      const std::size_t plain = scanner.PlainLineBytes(whole);
+      if (plain > 0) {
+        scanner.GetWordsOfLines(whole.substr(0, plain));
+        rest.remove_prefix(plain);
+        continue;
+      }
+      const std::size_t end = rest.find('\n');
+      std::string_view line = rest.substr(0, end);
+      if (line.ends_with('\r')) line.remove_suffix(1);
+      line = TrimBlanks(line);
+      if (!line.empty()) scanner.GetWords(PrepareLine(line, caseSignificant, buffer_));
+      rest.remove_prefix(end + 1);
+    }
   }
 
   void DescribeWords() {
@@ -213,6 +262,7 @@ class ProgramCase {
   }
 
   const CountCase& case_;
+  Reading reading_;
   ScanChoices choices_;
   ScanSettings settings_;
   WordLists lists_;
@@ -226,8 +276,8 @@ class ProgramCase {
 
 }  // namespace
 
-std::string OutcomeOfProgram(const CountCase& countCase) {
-  return ProgramCase(countCase).Outcome();
+std::string OutcomeOfProgram(const CountCase& countCase, Reading reading) {
+  return ProgramCase(countCase, reading).Outcome();
 }
 
 }  // namespace quillomat::properties

@@ -112,6 +112,17 @@ class EngineFixture : public testing::Test {
     return WordList(words);
   }
 
+  /// Empties the store and makes the settings ready for a text.
+  void StartCount() {
+    store.Clear();
+    settings.ReadingWordList = false;
+    settings.SetAllowWordsFlags(choices);
+    settings.BuildExtraWordChars();
+    settings.CountOnlyMode = lists.HasCountOnlyWords();
+    settings.ForceCommentMarkers = !forcedPreset_.empty();
+    settings.SetCommentMarkers(forcedPreset_.empty() ? "user" : forcedPreset_, choices);
+  }
+
   // What came of it.
 
   [[nodiscard]] std::string Words() const { return Shown(false); }
@@ -142,16 +153,6 @@ class EngineFixture : public testing::Test {
  private:
   [[nodiscard]] static WordList Typed(std::string_view words) {
     return WordList(ParseTypedWords(words).items);
-  }
-
-  void StartCount() {
-    store.Clear();
-    settings.ReadingWordList = false;
-    settings.SetAllowWordsFlags(choices);
-    settings.BuildExtraWordChars();
-    settings.CountOnlyMode = lists.HasCountOnlyWords();
-    settings.ForceCommentMarkers = !forcedPreset_.empty();
-    settings.SetCommentMarkers(forcedPreset_.empty() ? "user" : forcedPreset_, choices);
   }
 
   [[nodiscard]] std::string Shown(bool includedOnly) const {

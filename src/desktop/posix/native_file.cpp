@@ -29,7 +29,10 @@ int Open(const std::string& path, int flags, FileAction action) {
     descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
   } while (descriptor < 0 && errno == EINTR);
   if (descriptor < 0) ThrowErrno(errno, action, path);
-  fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) & ~O_NONBLOCK);
+  struct stat status {};
+  const bool regular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+  // To a regular file the flag means nothing, and most files are such.
+  if (!regular) fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) & ~O_NONBLOCK);
   return descriptor;
 }
 
