@@ -28,9 +28,8 @@ void HelpWindow::Connect() {
 void HelpWindow::ShowHelp() {
   if (frmHelp_.State() == WindowState::kMinimized) {
     frmHelp_.SetState(WindowState::kNormal);
-  } else {
-    frmHelp_.Show();
   }
+  frmHelp_.Show();  // it may have been closed while it was minimized
 }
 
 void HelpWindow::Close() {

@@ -173,6 +173,13 @@ void MainWindow::CopyOutputToClipboard() {
 
 void MainWindow::ConnectNotices() {
   MainForm& frmMain = context_.frmMain;
+  frmMain.txbOutput.Change.Connect([this] {
+    if (!context_.output.IsEmpty()) {
+      HideNoticeLabels(context_.frmMain);
+    } else if (!context_.state.busy) {
+      ShowNoticeLabels(context_.frmMain);
+    }
+  });
   frmMain.lblOrvandelSystems.Click.Connect(
       [this] { LaunchBrowser(context_.desktop, context_.text.GetText(kMakerAddressText)); });
   frmMain.lblOnlineDocumentation.Click.Connect(

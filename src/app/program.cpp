@@ -72,6 +72,7 @@ bool Program::Start(const StartOptions& options) {
   EnableControls(context, true);
   Initialize();
   if (options.userSettings) RestoreUserSettings();
+  if (ended_) return false;  // the user has closed the window meanwhile
   EnableSourceControls(context);
   if (options.window) MoveToRootFolder();
   SetTheFocus(frmMain);
@@ -120,7 +121,7 @@ void Program::RestoreUserSettings() {
   const RestoreResult result = savedState.RestoreSavedState("");
   if (result != RestoreResult::kInvalidIndex && result != RestoreResult::kError) return;
   Refuse(context,
-         result == RestoreResult::kInvalidIndex
+         result == RestoreResult::kInvalidIndex || savedState.IndexWasOutOfRange()
              ? "Invalid combo box index when attempting to load previous state."
              : "Error when attempting to load previous state: " + savedState.ErrorDescription(),
          "Load state");

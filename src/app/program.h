@@ -38,7 +38,8 @@ class Program {
   /// `desktop` must outlive the program. Tests give a clock of their own.
   explicit Program(Desktop& desktop, EventPump::Clock clock = std::chrono::steady_clock::now);
 
-  /// Makes the program ready for a count. False when it must end; the user has been told why.
+  /// Makes the program ready for a count. False when it must end; the user has been told why, or
+  /// has closed the window already (HasEnded).
   [[nodiscard]] bool Start(const StartOptions& options = {});
 
   /// Puts the windows into their initial, empty state with default parameters.

@@ -52,11 +52,13 @@ RestoreResult SavedState::ReadControls(const std::string& path) {
   const std::string& stateFile = PathOrSettings(path);
   if (!FileExists(stateFile)) return RestoreResult::kNoFile;
   context_.state.blnWordsGot = false;  // even if only some of the controls get their values
+  indexOutOfRange_ = false;
   try {
     const BusyGuard busy(context_);  // no handler lists words while the controls are being set
     ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
     return RestoreResult::kRestored;
   } catch (const RunTimeError& error) {
+    indexOutOfRange_ = dynamic_cast<const ListIndexOutOfRange*>(&error) != nullptr;
     errorDescription_ = error.Description();
     return RestoreResult::kError;
   }

@@ -42,6 +42,8 @@ class SavedState {
   [[nodiscard]] RestoreResult RestoreSavedState(const std::string& path);
   /// The description of the error when the last reading returned kError.
   [[nodiscard]] const std::string& ErrorDescription() const { return errorDescription_; }
+  /// Whether that error was a list index beyond its list's end.
+  [[nodiscard]] bool IndexWasOutOfRange() const { return indexOutOfRange_; }
 
   /// Works out what hangs on the controls after they were set from outside: typed lists are parsed,
   /// words files read, markers without a start dropped. The user is told what is wrong.
@@ -63,6 +65,7 @@ class SavedState {
   std::function<void()> initialize_;
   std::string settingsFilePath_;
   std::string errorDescription_;
+  bool indexOutOfRange_ = false;
 };
 
 }  // namespace quillomat

@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -73,7 +74,13 @@ class ValueReader {
   explicit ValueReader(LineDecoder& lines) : lines_(lines) {}
 
   void operator()(TextBox* box) const { box->SetText(std::string(Unquoted(NextLine()))); }
-  void operator()(ComboBox* box) const { box->SetListIndex(WholeNumber(NextLine())); }
+  void operator()(ComboBox* box) const {
+    const std::int32_t index = WholeNumber(NextLine());
+    if (index < -1 || std::cmp_greater_equal(index, box->Items().size())) {
+      throw ListIndexOutOfRange();
+    }
+    box->SetListIndex(index);
+  }
   void operator()(CheckBox* box) const {
     const std::int32_t value = NumericValue(Unquoted(NextLine()));
     if (value < 0 || value > 2) throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue);

@@ -9,6 +9,7 @@
 #include <string>
 #include <variant>
 
+#include "base/run_time_error.h"
 #include "sources/run_context.h"
 
 namespace quillomat {
@@ -22,6 +23,12 @@ struct SourceButtons {
   OptionButton* folder = nullptr;
 };
 
+/// A list index in the file lies beyond its list's end.
+class ListIndexOutOfRange final : public RunTimeError {
+ public:
+  ListIndexOutOfRange() : RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue) {}
+};
+
 using StateValue = std::variant<TextBox*, ComboBox*, CheckBox*, SourceButtons>;
 
 /// The values in the order of the file.
@@ -32,8 +39,8 @@ using StateValue = std::variant<TextBox*, ComboBox*, CheckBox*, SourceButtons>;
 void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams);
 
 /// Sets all values from a file. Throws RunTimeError 62 when it has too few lines, 13 when a number
-/// is none, 380 when an index or a check box value is out of range, and what opening and reading it
-/// throw; what was set before stays set.
+/// is none, 380 when a check box value is out of range, ListIndexOutOfRange (380 too) when an index
+/// is, and what opening and reading it throw; what was set before stays set.
 void ReadStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams);
 
 }  // namespace quillomat

@@ -186,8 +186,13 @@ class TerminalRun {
   /// state.
   bool TakeEffect() {
     program_.state.blnStartUpCompleted = true;
+    // A folder that a state names and that is not there is nobody's affair when a file is counted.
+    TextBox& folder = program_.frmMain.txbFolder;
+    const std::string path = folder.Text();
+    if (!program_.frmMain.optFolder.Value()) folder.SetText("");
     const RestoreResult result = program_.savedState.TakeControlsAsTheyAre();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
+    folder.SetText(path);
     return result == RestoreResult::kRestored && !desktop_.ProblemShown();
   }
 
@@ -206,7 +211,9 @@ class TerminalRun {
     if (options_.summary) PrintSummary();
     const bool made = program_.countRun.ListWasMade();
     if (options_.windowText) {
-      return PrintWindowText() && made && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+      // That the box does not take all of a list is no failure of the run.
+      const bool failed = desktop_.ProblemShown() && !program_.output.IsFull();
+      return PrintWindowText() && made && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
       PrintOutputAsMessage();

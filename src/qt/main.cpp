@@ -51,7 +51,7 @@ int RunOnDesktop(QApplication& application) {
     QMetaObject::invokeMethod(
         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
   });
-  if (!program.Start()) return 1;
+  if (!program.Start()) return program.HasEnded() ? 0 : 1;
   if (!path.isEmpty()) program.ChooseText(FromQt(QDir::toNativeSeparators(path)));
   return QApplication::exec();
 }

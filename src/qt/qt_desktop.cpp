@@ -103,7 +103,7 @@ MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
   Repaint();
   QMessageBox shown(QApplication::activeWindow());
   const ButtonSet set = ButtonsOf(box.buttons);
-  shown.setWindowTitle(ToQt(box.title.empty() ? fallbackTitle_ : box.title));
+  shown.setWindowTitle(ToQt(box.title));
   shown.setTextFormat(Qt::PlainText);
   shown.setText(ToQtLines(box.text));
   shown.setIcon(IconOf(box.icon));

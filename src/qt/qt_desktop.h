@@ -11,8 +11,6 @@ class QtDesktop final : public Desktop {
  public:
   /// What shows the changes of the windows; nothing is shown before it is set.
   void SetPainter(std::function<void()> showChanges) { showChanges_ = std::move(showChanges); }
-  /// The title of boxes that have none, which some systems would fill with words of their own.
-  void SetFallbackTitle(std::string title) { fallbackTitle_ = std::move(title); }
 
   MessageAnswer ShowMessage(const MessageBox& box) override;
   std::string AskForText(const InputBox& box) override;
@@ -29,7 +27,6 @@ class QtDesktop final : public Desktop {
 
  private:
   std::function<void()> showChanges_;
-  std::string fallbackTitle_;
   UserRegistry registry_;
   std::optional<std::string> digitGroupSeparator_;  // asked of the system once
 };

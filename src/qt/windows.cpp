@@ -32,7 +32,6 @@ Windows::Windows(Program& program, QtDesktop& desktop)
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
   program.frmMain.cmdLanguage.Changed.Connect([this] { ShowLanguage(); });
   desktop.SetPainter([this] { ShowChanges(); });
-  desktop.SetFallbackTitle("Quillomat");
 }
 
 void Windows::MakePanel() {

@@ -105,6 +105,29 @@ TEST_F(HelpAndLabels, LabelsShowWhileTheOutputIsEmpty) {
   for (const Label* label : labels) EXPECT_TRUE(label->Visible()) << label->Name();
 }
 
+TEST_F(HelpAndLabels, LabelsGoForAnyTextOfTheOutputAndComeBackWithoutOne) {
+  static_cast<void>(folder.Make("texts"));
+  static_cast<void>(folder.Write("texts/a.txt", "cat\n"));
+  Main().txbFolder.SetText(folder / "texts");
+  Main().cmdListFiles.PerformClick();
+  EXPECT_NE(Output(), "");
+  EXPECT_FALSE(Main().lblCopyrightNotice.Visible());
+  Main().optOnClipboard.SetValue(true);  // clears the output
+  EXPECT_EQ(Output(), "");
+  EXPECT_TRUE(Main().lblCopyrightNotice.Visible());
+  Main().txbOutput.SetText("typed by the user");
+  EXPECT_FALSE(Main().lblCopyrightNotice.Visible());
+}
+
+TEST_F(HelpAndLabels, HelpThatWasClosedWhileMinimizedComesBack) {
+  Main().cmdHelp.PerformClick();
+  Help().SetState(WindowState::kMinimized);
+  Help().CloseRequested.Fire();
+  Main().cmdCountWords.KeyDown.Fire(kF1);
+  EXPECT_TRUE(Help().Visible());
+  EXPECT_EQ(Help().State(), WindowState::kNormal);
+}
+
 TEST_F(HelpAndLabels, ClipboardViewerIsOpenedWithoutAReportOfErrors) {
   State().clipboardViewerPath = "/viewer";
   Main().cmdClipboardViewer.SetEnabled(true);

@@ -144,6 +144,14 @@ TEST_F(StartUp, LostCountOnlyWordsSpoilNothingElse) {
   EXPECT_TRUE(program.frmMain.optInFile.Value());
 }
 
+TEST_F(StartUp, WindowClosedMeanwhileEndsIt) {
+  KeepSettings(FileOfLines(ChangedLines(folder)));
+  desktop.AtMessage("Words loaded", [&] { program.frmMain.CloseRequested.Fire(); });
+  EXPECT_FALSE(program.Start());
+  EXPECT_TRUE(program.HasEnded());
+  EXPECT_FALSE(program.state.blnStartUpCompleted);
+}
+
 TEST_F(StartUp, LostFolderIsTold) {
   StateLines lines = InitialLines();
   lines[0] = Quoted(folder / "lost");

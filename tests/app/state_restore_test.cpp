@@ -213,7 +213,7 @@ TEST_F(StateRestore, BadSettingsFileIsReportedOnceAtStartAndLeavesTheInitialStat
   const UserHome home;
   const std::pair<std::string, std::string> cases[] = {
       {"-1", "Invalid combo box index when attempting to load previous state."},
-      {"77", "Error when attempting to load previous state: Invalid property value"}};
+      {"77", "Invalid combo box index when attempting to load previous state."}};
   for (const auto& [index, message] : cases) {
     auto lines = initial_;
     lines[0] = R"("/f")";

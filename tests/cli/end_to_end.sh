@@ -121,6 +121,11 @@ check "settings are saved to a state file" 0 --file cat.txt --set chkDropFinalS=
 [ "$(wc -l <mine.qlm)" -eq 45 ] || { echo "FAILED $name: not 45 lines"; failed=1; }
 check "settings come from a state file" 0 --file cat.txt --state mine.qlm --format 8
 grep -qx dog out && { echo "FAILED $name"; failed=1; }
+check "a folder that is lost stops no file" 0 --file cat.txt --set txbFolder=lost --format 8
+seq 1 9000 | sed 's/.*/wa&x/' >long.txt
+check "a list too long for the window is no failure" 0 --file long.txt --window-text \
+  --set chkAllowWordsWithNumerals=1
+holds err "Textbox is full."
 check "a missing state file" 1 --file cat.txt --state missing.qlm
 holds err "missing.qlm"
 head -n 44 mine.qlm >short.qlm

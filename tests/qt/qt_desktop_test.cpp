@@ -33,7 +33,6 @@ class QtDesktopTest : public testing::Test {
 };
 
 TEST_F(QtDesktopTest, BoxShowsWhatItIsToldAndGivesTheAnswer) {
-  desktop.SetFallbackTitle("Quillomat");
   for (const auto& [button, answer] : {std::pair(QMessageBox::Yes, MessageAnswer::kYes),
                                        {QMessageBox::No, MessageAnswer::kNo},
                                        {QMessageBox::Cancel, MessageAnswer::kCancel}}) {

@@ -1,0 +1,134 @@
+#!/bin/sh
+# Measures quillomat-cli beside the tools that one would otherwise reach for, all in one run on the
+# same texts, and prints tables of medians in Markdown.
+# Usage: bench/compare.sh [BOOK]   BOOK is a plain text; without one a text is generated.
+# ROUNDS (7) says how often each command runs. Needs a release build, python3 (for the texts) and
+# coreutils; mawk, perl and findutils are measured where they are there.
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+program="$root/build/release/src/cli/quillomat-cli"
+rounds=${ROUNDS:-7}
+[ -x "$program" ] || { echo "build it first: cmake --preset release && cmake --build --preset release" >&2; exit 1; }
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+printf 'making the texts ...\n' >&2
+python3 "$root/bench/make_inputs.py" "$work" "$@"
+export LC_ALL=C.UTF-8
+
+now() { date +%s%N; }
+
+# run_once NAME COMMAND...: adds its time in microseconds to the file of that name.
+run_once() {
+  name=$1
+  shift
+  start=$(now)
+  "$@" >/dev/null 2>&1
+  end=$(now)
+  echo $(((end - start) / 1000)) >>"$work/times.$name"
+}
+
+median() { sort -n "$work/times.$1" | awk '{ t[NR] = $1 } END { print t[int((NR + 1) / 2)] }'; }
+
+count() { # FILE OPTIONS...
+  file=$1
+  shift
+  "$program" --file "$file" --output "$work/list.txt" --set chkWarnOnOverwrite=0 "$@"
+}
+count_folder() {
+  "$program" --folder "$work/many" --subfolders --output "$work/list.txt" --set chkWarnOnOverwrite=0
+}
+pipeline() {
+  tr 'A-Z' 'a-z' <"$1" | tr -cs 'a-z' '\n' | sort | uniq -c | sort -rn
+}
+with_mawk() {
+  mawk '{ n = split(tolower($0), w, /[^a-z]+/); for (i = 1; i <= n; i++) if (w[i] != "") c[w[i]]++ }
+        END { for (k in c) print c[k], k }' "$1" | sort -rn
+}
+with_perl() {
+  perl -ne 'while (/([a-z]+)/gi) { $c{lc $1}++ }
+            END { printf "%d %s\n", $c{$_}, $_ for sort { $c{$b} <=> $c{$a} } keys %c }' "$1"
+}
+with_python() {
+  python3 -c 'import collections, re, sys
+text = open(sys.argv[1], encoding="utf-8").read().lower()
+for word, n in collections.Counter(re.findall("[a-z]+", text)).most_common(): print(n, word)' "$1"
+}
+cat_all() { find "$work/many" -type f -print0 | xargs -0 cat; }
+have() { command -v "$1" >/dev/null 2>&1; }
+
+row() { # TEXT MICROSECONDS BASE
+  awk -v text="$1" -v t="$2" -v base="$3" 'BEGIN { printf "| %s | %.3f s | %.2f |\n", text, t / 1e6, t / base }'
+}
+
+settings="accents html source case ignore only everything"
+measure_setting() {
+  case $1 in
+    accents) count "$work/accents10.txt" --set chkDropFinalS=1 ;;
+    html) count "$work/html10.html" ;;
+    source) count "$work/source10.c" ;;
+    case) count "$work/book10.txt" --set chkCaseSignificant=1 ;;
+    ignore) count "$work/book10.txt" --set "txbWordsFile(0)=$work/list400.txt" ;;
+    only) count "$work/book10.txt" --set "txbWordsFile(1)=$work/list400.txt" ;;
+    everything)
+      set -- Apostrophes Underscores Colons Backslashes Forwardslashes Parentheses Periods Commas AtSigns Numerals
+      options=
+      for sign in "$@"; do options="$options --set chkAllowWordsWith$sign=1"; done
+      # shellcheck disable=SC2086 # options are words of their own
+      count "$work/book10.txt" $options ;;
+  esac
+}
+
+printf 'measuring, %s rounds ...\n' "$rounds" >&2
+i=0
+while [ "$i" -lt "$rounds" ]; do
+  run_once ours10 count "$work/book10.txt"
+  run_once wc wc -w "$work/book10.txt"
+  run_once ours1 count "$work/book.txt"
+  run_once words20k count "$work/words20k.txt"
+  run_once words2m count "$work/words2m.txt"
+  run_once folder count_folder
+  run_once cat cat_all
+  for setting in $settings; do run_once "$setting" measure_setting "$setting"; done
+  i=$((i + 1))
+done
+# The slow ones, three times.
+for i in 1 2 3; do
+  run_once pipeline pipeline "$work/book10.txt"
+  if have mawk; then run_once mawk with_mawk "$work/book10.txt"; fi
+  if have perl; then run_once perl with_perl "$work/book10.txt"; fi
+  run_once python with_python "$work/book10.txt"
+done
+
+base=$(median ours10)
+bytes=$(wc -c <"$work/book10.txt")
+printf '\nA book ten times over, %s bytes, frequency list to a file:\n\n' "$bytes"
+printf '| | time | times as long |\n|---|---|---|\n'
+row quillomat-cli "$base" "$base"
+row '`wc -w` (counts, makes no list)' "$(median wc)" "$base"
+row '`tr \| sort \| uniq -c`' "$(median pipeline)" "$base"
+if have mawk; then row mawk "$(median mawk)" "$base"; else echo '| mawk | not installed | |'; fi
+if have perl; then row perl "$(median perl)" "$base"; else echo '| perl | not installed | |'; fi
+row 'Python, `Counter` and `re`' "$(median python)" "$base"
+
+printf '\nOther texts and settings, per byte of plain English at default settings:\n\n'
+printf '| | time | times as long per byte |\n|---|---|---|\n'
+setting_row() { # TEXT NAME FILE
+  size=$(wc -c <"$work/$3")
+  row "$1" "$(median "$2")" "$(awk -v b="$base" -v s="$size" -v p="$bytes" 'BEGIN { print b * s / p }')"
+}
+setting_row 'accented text, final s dropped' accents accents10.txt
+setting_row 'HTML' html html10.html
+setting_row 'C source' source source10.c
+setting_row 'case significant' case book10.txt
+setting_row '400 words to ignore' ignore book10.txt
+setting_row '400 count-only words' only book10.txt
+setting_row 'numerals and all signs allowed' everything book10.txt
+
+printf '\nGrowth:\n\n| | time | times as long |\n|---|---|---|\n'
+row 'the book once' "$(median ours1)" "$(median ours1)"
+row 'the book ten times over' "$base" "$(median ours1)"
+row '4,000,000 words, 20,000 of them different' "$(median words20k)" "$(median words20k)"
+row '4,000,000 words, 2,000,000 of them different' "$(median words2m)" "$(median words20k)"
+printf '\n20,000 files of 2 KB in 200 folders:\n\n| | time | times as long |\n|---|---|---|\n'
+row '`find -print0 \| xargs -0 cat`' "$(median cat)" "$(median cat)"
+row quillomat-cli "$(median folder)" "$(median cat)"
