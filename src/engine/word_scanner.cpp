@@ -51,9 +51,10 @@ void WordScanner::GetWords(std::string_view lineBuffer) {
   std::size_t skipped = 0;
   const std::size_t lastCharacter = LastCharacterStart(text_);
   while (position_ < lastCharacter) {
-    if (settings_.UseCommentMarkers && SkipComments() == AfterComments::kStop) return;
+    if (MayMeetComment() && SkipComments() == AfterComments::kStop) return;
     if (!charClass_.MayStartWord(text_, position_)) {
-      position_ += CharacterBytes();
+      const bool ascii = static_cast<unsigned char>(text_[position_]) < 0x80;
+      position_ += ascii ? 1 : CharacterBytes();
       if (++skipped % kSkippedPerYield == 0 && yield_.Yield()) return;
       continue;
     }
@@ -79,11 +80,28 @@ void WordScanner::PrepareMarkers() {
                        !(settings_.CommentStart[0].empty() && settings_.CommentStart[1].empty());
   settings_.UseCommentMarkers =
       settings_.ReadingWordList || allowed || settings_.ForceCommentMarkers;
-  if (!settings_.UseCommentMarkers) return;
+  const bool prepared =
+      preparedStart_ == settings_.CommentStart && preparedEnd_ == settings_.CommentEnd;
+  if (!settings_.UseCommentMarkers || prepared) return;
+  preparedStart_ = settings_.CommentStart;
+  preparedEnd_ = settings_.CommentEnd;
+  mayStartMarker_.reset();
   for (std::size_t pair = 0; pair < 2; ++pair) {
-    lowerStart_[pair] = LowerCase(settings_.CommentStart[pair]);
-    lowerEnd_[pair] = LowerCase(settings_.CommentEnd[pair]);
+    lowerStart_[pair] = LowerCase(preparedStart_[pair]);
+    lowerEnd_[pair] = LowerCase(preparedEnd_[pair]);
+    if (!lowerStart_[pair].empty()) NoteMarkerStart(lowerStart_[pair][0]);
   }
+}
+
+/// The bytes with which a lower-cased marker may start in a text of any letter case.
+void WordScanner::NoteMarkerStart(char first) {
+  const auto byte = static_cast<unsigned char>(first);
+  if (byte >= 0x80) {
+    for (std::size_t high = 0x80; high < mayStartMarker_.size(); ++high) mayStartMarker_.set(high);
+    return;
+  }
+  mayStartMarker_.set(byte);
+  if (byte >= 'a' && byte <= 'z') mayStartMarker_.set(byte - std::size_t{'a' - 'A'});
 }
 
 /// Skips the comments that start, or go on, at the position, one directly behind the other.

@@ -11,6 +11,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -74,6 +75,13 @@ class WordScanner {
 
   std::string_view Rewritten(std::string_view text);
   void PrepareMarkers();
+  void NoteMarkerStart(char first);
+  /// Whether a comment goes on, or may start, at the position.
+  [[nodiscard]] bool MayMeetComment() const {
+    return settings_.UseCommentMarkers &&
+           (settings_.OpenComment >= 0 ||
+            mayStartMarker_[static_cast<unsigned char>(text_[position_])]);
+  }
   [[nodiscard]] int FindCommentStart() const;
   void SkipComment();
   AfterComments SkipComments();
@@ -107,6 +115,10 @@ class WordScanner {
   std::string_view text_;
   std::size_t position_ = 0;
   std::string rewritten_;
+  /// The markers for which the three members behind them were worked out.
+  std::array<std::string, 2> preparedStart_;
+  std::array<std::string, 2> preparedEnd_;
+  std::bitset<256> mayStartMarker_;
   std::array<std::string, 2> lowerStart_;
   std::array<std::string, 2> lowerEnd_;
   std::int32_t wordsRead_ = 0;
