@@ -53,7 +53,8 @@ void Program::Connect() {
   frmMain.cmdQuit.Click.Connect([this] { Quit(); });
   frmMain.CloseRequested.Connect([this] { Quit(); });
   becameIdle_.Connect([this] {
-    if (state.quitting) End();
+    if (state.quitting) return End();
+    if (output.IsEmpty()) ShowNoticeLabels(frmMain);  // a run has emptied it
   });
 }
 

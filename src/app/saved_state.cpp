@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 #include "app/state_file.h"
 #include "base/run_time_error.h"
@@ -45,6 +46,9 @@ std::string SavedState::SaveState(const std::string& path) {
     return {};
   } catch (const RunTimeError& error) {
     return "Error when attempting to save state: " + error.Description();
+  } catch (const std::bad_alloc&) {
+    return "Error when attempting to save state: " +
+           DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
   }
 }
 
@@ -61,6 +65,9 @@ RestoreResult SavedState::ReadControls(const std::string& path) {
     indexOutOfRange_ = dynamic_cast<const ListIndexOutOfRange*>(&error) != nullptr;
     errorDescription_ = error.Description();
     return RestoreResult::kError;
+  } catch (const std::bad_alloc&) {
+    errorDescription_ = DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
+    return RestoreResult::kError;
   }
 }
 
@@ -76,13 +83,13 @@ RestoreResult SavedState::TakeControlsAsTheyAre() {
   const std::string& inputPath = context_.frmMain.txbFile[0].Text();
   if (!inputPath.empty()) countRun_.File().CheckInputFile(inputPath);
   context_.frmMain.txbFolder.LostFocus.Fire();
-  for (std::size_t i = 0; i < 2; ++i) {
-    const auto kind = static_cast<WordListKind>(i);
-    if (context_.frmParams.txbWordsFile[i].Text().empty()) {
-      wordLists_.ClearWordsFile(kind);  // of the state before, which names another file
-    } else if (!wordLists_.AttemptToReadWords(kind)) {
-      result = RestoreResult::kWordsFileFailed;
-    }
+  for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
+    if (context_.state.quitting) break;
+    // Words of the state before would go on to count, although another file is named now.
+    wordLists_.ForgetWordsOfFile(kind);
+    const bool named =
+        !context_.frmParams.txbWordsFile[static_cast<std::size_t>(kind)].Text().empty();
+    if (named && !wordLists_.AttemptToReadWords(kind)) result = RestoreResult::kWordsFileFailed;
   }
   return result;
 }

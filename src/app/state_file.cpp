@@ -50,7 +50,10 @@ class ValueWriter {
  public:
   explicit ValueWriter(OutputFile& file) : file_(file) {}
 
-  void operator()(const TextBox* box) const { WriteLine("\"" + box->Text() + "\""); }
+  /// A path may hold a line break, but a value is one line.
+  void operator()(const TextBox* box) const {
+    WriteLine("\"" + ReplaceAll(ReplaceAll(box->Text(), "\r", " "), "\n", " ") + "\"");
+  }
   void operator()(const ComboBox* box) const { WriteLine(std::to_string(box->ListIndex())); }
   void operator()(const CheckBox* box) const {
     WriteLine(std::to_string(static_cast<int>(box->Value())));

@@ -82,6 +82,7 @@ void Windows::ShowLanguage() {
   if (shownLanguage_ == language) return;
   shownLanguage_ = language;
   main_.Finder().SetTexts(program_.text);
+  main_.setAccessibleDescription(ToQt(program_.text.GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
   const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
   const bool loaded = buttonTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),

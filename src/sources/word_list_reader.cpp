@@ -162,7 +162,8 @@ void WordListReader::TickAllowBoxesForListWords() {
 bool WordListReader::AttemptToReadWords(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
   if (!FileExists(path)) {
-    if (context_.state.blnStartUpCompleted) {
+    // While a state is loaded the panel says that it could not be loaded as a whole.
+    if (context_.state.blnStartUpCompleted && !context_.state.blnInhibitPrompt) {
       Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
     } else if (IsIgnore(kind)) {
       SetPathToCWDs_Eng();
@@ -171,7 +172,9 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   }
   context_.output.SaveOutputText();
   const bool ok = ReadWords(kind);
-  if (ok) {
+  if (context_.state.quitting) {
+    // The rest of the file was not read, and nobody wants to know any more.
+  } else if (ok) {
     Tell(context_,
          Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
          "Words loaded", MessageIcon::kInformation);
@@ -212,6 +215,10 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
 
 void WordListReader::ClearWordsFile(WordListKind kind) {
   PathBox(kind).SetText("");
+  ForgetWordsOfFile(kind);
+}
+
+void WordListReader::ForgetWordsOfFile(WordListKind kind) {
   FileList(kind) = WordList();
 }
 

@@ -30,6 +30,8 @@ class WordListReader {
   void SelectWordsFile(WordListKind kind);
   /// Forgets the words file and its list.
   void ClearWordsFile(WordListKind kind);
+  /// Empties the list that was read from a file; its path stays.
+  void ForgetWordsOfFile(WordListKind kind);
 
   /// Names the English common words as the words-to-ignore file.
   void SetPathToCWDs_Eng();

@@ -61,7 +61,7 @@ constexpr std::string_view kFolders =
 constexpr std::string_view kCountOnlyWords =
     "When there are count-only words the 'Ignore words' settings have no effect, and the words to "
     "ignore make no difference (except that if a word is included in both the count-only words and "
-    "the words-to-ignore then it will be counted.). When they are counted in a folder there are "
+    "the words-to-ignore then it will be counted). When they are counted in a folder there are "
     "further display formats: (i) the words found plus their frequencies and the number of files "
     "in "
     "which they occur and (ii) the words found plus a list of the files in which they occur.";

@@ -64,7 +64,7 @@ TEST_F(HelpAndLabels, HelpTextSaysWhatItMust) {
         "normally something beyond 30,000 characters, so (in the case of a large file) only about "
         "1000 to 2000 words can appear in the list.",
         "(except that if a word is included in both the count-only words and the words-to-ignore "
-        "then it will be counted.)",
+        "then it will be counted).",
         "(i) the words found plus their frequencies and the number of files in which they occur "
         "and (ii) the words found plus a list of the files in which they occur.",
         "An output file can be written as comma-delimited so that it can be read by other "
@@ -117,6 +117,14 @@ TEST_F(HelpAndLabels, LabelsGoForAnyTextOfTheOutputAndComeBackWithoutOne) {
   EXPECT_TRUE(Main().lblCopyrightNotice.Visible());
   Main().txbOutput.SetText("typed by the user");
   EXPECT_FALSE(Main().lblCopyrightNotice.Visible());
+}
+
+TEST_F(HelpAndLabels, LabelsComeBackWhenARunLeavesTheOutputEmpty) {
+  CountClipboard("cat");
+  EXPECT_FALSE(Main().lblCopyrightNotice.Visible());
+  CountFile(folder / "none.txt");
+  EXPECT_EQ(Output(), "");
+  EXPECT_TRUE(Main().lblCopyrightNotice.Visible());
 }
 
 TEST_F(HelpAndLabels, HelpThatWasClosedWhileMinimizedComesBack) {

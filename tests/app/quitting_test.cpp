@@ -60,6 +60,17 @@ TEST_F(Quitting, ClosingTheWindowIsTheSame) {
   EXPECT_EQ(ends, 1) << "it ends once";
 }
 
+TEST_F(Quitting, WhileAWordsFileIsReadTellsNothingMore) {
+  EveryYieldPumps();
+  std::string words;
+  for (int i = 0; i < 3000; ++i) words += "ox\n";
+  desktop.AtPump(desktop.Pumps() + 3, [&] { Main().CloseRequested.Fire(); });
+  desktop.AnswerFile(folder.Write("w.txt", words));
+  Panel().cmdSelectWordsFile[0].PerformClick();
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(desktop.Titles(), testing::ElementsAre("Specify file containing words to ignore"));
+}
+
 TEST_F(Quitting, DuringACountStopsItFirstAndAsksNothing) {
   EveryYieldPumps();
   bool endedInsideTheRun = false;

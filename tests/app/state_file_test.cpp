@@ -294,6 +294,26 @@ TEST_F(StateFileTest, LoadingAfterACountAsksNothing) {
   EXPECT_EQ(Saved(), FileOfLines(ChangedLines(folder)));
 }
 
+TEST_F(StateFileTest, LineBreakInAPathDoesNotMakeAnotherLine) {
+  Main().txbFolder.SetText("/a\nb");
+  const std::string saved = Saved();
+  EXPECT_TRUE(saved.starts_with("\"/a b\"\r\n"));
+  EXPECT_EQ(std::ranges::count(saved, '\n'), 45);
+}
+
+TEST_F(StateFileTest, WordsFileThatIsMissingIsToldByThePanelAloneAndItsListIsEmpty) {
+  StateLines lines = ChangedLines(folder);
+  ASSERT_EQ(Restore(lines), RestoreResult::kRestored);
+  ASSERT_EQ(State().lists.CountOnlyList.Count(), 2);
+  desktop.ForgetQuestions();
+  lines[43] = Quoted(folder / "none.txt");
+  desktop.AnswerFile(folder.Write("mine.qlm", FileOfLines(lines)));
+  Panel().cmdSaveLoadState[1].PerformClick();
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Specify file to load state from.", "Words loaded"));
+  EXPECT_EQ(Panel().lblState.Caption(), "Error loading from");
+  EXPECT_EQ(State().lists.CountOnlyList.Count(), 0);
+}
+
 TEST_F(StateFileTest, CancellingEitherDialogDoesNothing) {
   Panel().lblState.SetCaption("as before");
   Panel().txbStateFile.SetText("/before");

@@ -136,13 +136,13 @@ TEST_F(StateRestore, GarbageInAnyLineNeverHarms) {
   }
 }
 
-TEST_F(StateRestore, MissingWordsFileIsToldByItsCodeAndTheRestStands) {
+TEST_F(StateRestore, MissingWordsFileIsToldOnThePanelWithoutABoxAndTheRestStands) {
   auto lines = initial_;
   lines[0] = "\"" + folder.Path() + "\"";
   lines[43] = "\"" + (folder / "missing.txt") + "\"";
   LoadOnPanel(FileOf(lines));
   EXPECT_EQ(Panel().lblState.Caption(), "Error loading from");
-  EXPECT_THAT(desktop.Titles(), ElementsAre("Specify file to load state from.", "File not found"));
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Specify file to load state from."));
   EXPECT_EQ(Main().txbFolder.Text(), folder.Path());
 }
 

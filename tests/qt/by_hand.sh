@@ -30,7 +30,8 @@ wait_for() {
   done
 }
 
-Xvfb -displayfd 3 -screen 0 1280x900x24 3>"$work/display" 2>"$work/screen.log" &
+# Without -noreset the screen starts anew whenever the last window is gone.
+Xvfb -noreset -displayfd 3 -screen 0 1280x900x24 3>"$work/display" 2>"$work/screen.log" &
 screen_pid=$!
 wait_for 20 test -s "$work/display" || fail "no virtual screen"
 DISPLAY=:$(cat "$work/display")
