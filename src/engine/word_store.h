@@ -4,7 +4,7 @@
 // alphabetical order is made when somebody first asks for it. Words and keys live in an arena of
 // the store: a view taken from a record is good until Clear().
 //
-// Memory: a record has 48 bytes and a hash slot 8 (at most 3/4 of the slots are in use); the
+// Memory: a record has 40 bytes and a hash slot 8 (at most 3/4 of the slots are in use); the
 // letters of the word come on top, and those of its key where it differs from the word.
 #pragma once
 
