@@ -57,6 +57,7 @@ void MainWindowView::PlaceNotices() {
   column->addStretch();
   for (QLabel* notice :
        {ui_->lblCopyrightNotice, ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
+    notice->setFont(font());  // not the list's
     column->addWidget(notice, 0, Qt::AlignHCenter);
   }
   column->addStretch();
