@@ -1,5 +1,5 @@
 #!/bin/sh
-# Measures quillomat-cli beside the tools that one would otherwise reach for, all in one run on the
+# Measures quillomat-cli, with one thread where nothing else is said, beside the tools that one would otherwise reach for, all in one run on the
 # same texts, and prints tables of medians in Markdown.
 # Usage: bench/compare.sh [BOOK]   BOOK is a plain text; without one a text is generated.
 # ROUNDS (7) says how often each command runs. Needs a release build, python3 (for the texts) and
@@ -32,10 +32,10 @@ median() { sort -n "$work/times.$1" | awk '{ t[NR] = $1 } END { print t[int((NR 
 count() { # FILE OPTIONS...
   file=$1
   shift
-  "$program" --file "$file" --output "$work/list.txt" --set chkWarnOnOverwrite=0 "$@"
+  "$program" --file "$file" --threads "${threads:-1}" --output "$work/list.txt" --set chkWarnOnOverwrite=0 "$@"
 }
 count_folder() {
-  "$program" --folder "$work/many" --subfolders --output "$work/list.txt" --set chkWarnOnOverwrite=0
+  "$program" --folder "$work/many" --threads 1 --subfolders --output "$work/list.txt" --set chkWarnOnOverwrite=0
 }
 pipeline() {
   tr 'A-Z' 'a-z' <"$1" | tr -cs 'a-z' '\n' | sort | uniq -c | sort -rn
@@ -82,6 +82,9 @@ printf 'measuring, %s rounds ...\n' "$rounds" >&2
 i=0
 while [ "$i" -lt "$rounds" ]; do
   run_once ours10 count "$work/book10.txt"
+  threads=2
+  run_once threads2 count "$work/book10.txt"
+  threads=1
   run_once wc wc -w "$work/book10.txt"
   run_once ours1 count "$work/book.txt"
   run_once words20k count "$work/words20k.txt"
@@ -103,7 +106,8 @@ base=$(median ours10)
 bytes=$(wc -c <"$work/book10.txt")
 printf '\nA book ten times over, %s bytes, frequency list to a file:\n\n' "$bytes"
 printf '| | time | times as long |\n|---|---|---|\n'
-row quillomat-cli "$base" "$base"
+row 'quillomat-cli, one thread' "$base" "$base"
+row 'quillomat-cli, two threads' "$(median threads2)" "$base"
 row '`wc -w` (counts, makes no list)' "$(median wc)" "$base"
 row '`tr \| sort \| uniq -c`' "$(median pipeline)" "$base"
 if have mawk; then row mawk "$(median mawk)" "$base"; else echo '| mawk | not installed | |'; fi

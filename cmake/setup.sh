@@ -1,7 +1,7 @@
 # Shared by run.sh and test.sh: sourced, not run. Installs what is missing on Debian and builds.
 set -eu
 root=$(cd "$(dirname "$0")" && pwd)
-[ -f "$root/CMakePresets.json" ] || root=$(dirname "$root") # a script in a folder of ours
+while [ ! -f "$root/CMakePresets.json" ]; do root=$(dirname "$root"); done # a script in a folder of ours
 
 # packages_of SECTION: the packages that stand under "# SECTION" in the list.
 packages_of() {

@@ -20,6 +20,7 @@
 namespace {
 
 using quillomat::properties::CountCase;
+using quillomat::properties::Reading;
 
 /// Gives the bytes out in pieces of one size.
 class PiecewiseSource final : public quillomat::ByteSource {
@@ -113,5 +114,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string expected = OutcomeOfReference(countCase);
   Require(OutcomeOfProgram(countCase, Reading::kByLines) == expected);
   Require(OutcomeOfProgram(countCase, Reading::kInBlocks) == expected);
+  Require(OutcomeOfProgram(countCase, Reading::kOnThreads) == expected);
   return 0;
 }

@@ -1,6 +1,8 @@
 #include "app/program.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <thread>
 #include <utility>
 
 #include "app/captions.h"
@@ -28,6 +30,12 @@ void MoveToRootFolder() {
   }
 }
 
+/// One for every processor core, up to some: more would wait for the memory.
+std::size_t UsualScanThreads() {
+  constexpr unsigned kMost = 8;
+  return std::clamp(std::thread::hardware_concurrency(), 1U, kMost);
+}
+
 }  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
@@ -41,6 +49,7 @@ Program::Program(Desktop& desktop, EventPump::Clock clock)
       mainWindow_(context, countRun),
       panel_(context, wordLists),
       help_(context, frmHelp) {
+  state.scanThreads = UsualScanThreads();
   Connect();
 }
 

@@ -1,5 +1,6 @@
 #include "base/utf8.h"
 
+#include <array>
 #include <cstdint>
 #include <cstring>
 
@@ -58,6 +59,7 @@ Utf8Character CharacterAt(std::string_view text, std::size_t position) {
 }
 
 std::size_t CharacterCount(std::string_view text) {
+  if (IsAscii(text)) return text.size();
   std::size_t count = 0;
   for (std::size_t position = 0; position < text.size(); ++count) {
     position += CharacterAt(text, position).bytes;
@@ -106,6 +108,16 @@ void AppendCharacter(std::string& text, char32_t codePoint) {
 
 bool IsAscii(std::string_view bytes) {
   std::size_t position = 0;
+  // Many at once and without a look in between: compilers make vectors of that.
+  constexpr std::size_t kNumbers = 16;
+  constexpr std::size_t kAtOnce = kNumbers * sizeof(std::uint64_t);
+  for (; bytes.size() - position >= kAtOnce; position += kAtOnce) {
+    std::array<std::uint64_t, kNumbers> numbers{};
+    std::memcpy(numbers.data(), bytes.data() + position, kAtOnce);
+    std::uint64_t all = 0;
+    for (const std::uint64_t number : numbers) all |= number;
+    if ((all & 0x8080808080808080ULL) != 0) return false;
+  }
   for (; bytes.size() - position >= sizeof(std::uint64_t); position += sizeof(std::uint64_t)) {
     std::uint64_t eight = 0;
     std::memcpy(&eight, bytes.data() + position, sizeof eight);

@@ -2,7 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <ostream>
-#include <string_view>
+#include <utility>
 
 #include "app/captions.h"
 #include "base/text_helpers.h"
@@ -10,6 +10,8 @@
 
 namespace quillomat {
 namespace {
+
+constexpr unsigned kMostThreads = 64;
 
 constexpr const char* kFooter =
     "Controls for --set are those of the main window and the panel, by name:\n"
@@ -58,6 +60,10 @@ void DefineOptions(CLI::App& app, CommandLine& options, std::vector<std::string>
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
+  app.add_option("--threads", options.threads,
+                 "How many threads may scan a large text; one for every core if not given")
+      ->type_name("N")
+      ->check(CLI::Range(1U, kMostThreads));
   app.add_option("--answer", answers,
                  "The answer to the question with that title, e.g. "
                  "'The output file exists.=OK'; may be repeated")
@@ -92,15 +98,15 @@ void CheckCombinations(const CommandLine& options) {
 
 }  // namespace
 
-ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostream& out,
+ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, std::ostream& out,
                                    std::ostream& err) {
   ParsedCommandLine result;
   const auto fail = [&](const std::string& what) {
     err << "quillomat-cli: " << OnOneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
-  if (argc > 1 && std::string_view(argv[1]).find('-') != 0) {
-    fail("'" + std::string(argv[1]) + "': give a file with --file, a folder with --folder");
+  if (arguments.size() > 1 && !arguments[1].starts_with('-')) {
+    fail("'" + arguments[1] + "': give a file with --file, a folder with --folder");
     return result;
   }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
@@ -111,7 +117,10 @@ ParsedCommandLine ParseCommandLine(int argc, const char* const* argv, std::ostre
   std::vector<std::string> answers;
   DefineOptions(app, result.options, set, answers);
   try {
-    app.parse(argc, argv);
+    // The library takes them from the back on, without the program's name.
+    std::vector<std::string> remaining(arguments.rbegin(), arguments.rend());
+    if (!remaining.empty()) remaining.pop_back();
+    app.parse(std::move(remaining));
     CheckCombinations(result.options);
     result.options.set = SplitPairs("--set", set);
     result.options.answers = SplitPairs("--answer", answers);

@@ -27,6 +27,8 @@ struct CommandLine {
   std::optional<std::string> state;
   std::optional<std::string> saveState;
   bool userSettings = false;
+  /// How many threads may scan at the same time; as many as the machine has cores if not given.
+  std::optional<unsigned> threads;
   /// Names and values of controls.
   std::vector<std::pair<std::string, std::string>> set;
   /// Titles of message boxes and the answers to them.
@@ -40,8 +42,9 @@ struct ParsedCommandLine {
   CommandLine options;
 };
 
-/// Reads the arguments. Help and version go to `out`; an error is one line on `err`.
-[[nodiscard]] ParsedCommandLine ParseCommandLine(int argc, const char* const* argv,
+/// Reads the arguments, the first of which is the program's name. Help and version go to `out`; an
+/// error is one line on `err`.
+[[nodiscard]] ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments,
                                                  std::ostream& out, std::ostream& err);
 
 }  // namespace quillomat

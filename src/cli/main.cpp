@@ -5,11 +5,14 @@
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
 #include "cli/terminal_run.h"
+#include "desktop/terminal.h"
 
 int main(int argc, char** argv) {
   using namespace quillomat;
   try {
-    const ParsedCommandLine parsed = ParseCommandLine(argc, argv, std::cout, std::cerr);
+    const Terminal terminal;
+    const ParsedCommandLine parsed =
+        ParseCommandLine(ProgramArguments(argc, argv), std::cout, std::cerr);
     if (parsed.exitStatus) return *parsed.exitStatus;
     return RunInTerminal(parsed.options, std::cerr);
   } catch (const std::exception& error) {

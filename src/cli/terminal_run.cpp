@@ -30,6 +30,7 @@ class TerminalRun {
 
   int Run() {
     if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
+    if (options_.threads) program_.state.scanThreads = *options_.threads;
     program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;

@@ -1,15 +1,12 @@
 #include "desktop/paths.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
+#include <vector>
 
 #include "desktop/native_path.h"
 
 namespace quillomat {
 namespace {
-
-namespace fs = std::filesystem;
 
 /// The byte position behind the last separator; 0 without one.
 std::size_t FileNameStart(std::string_view path) {
@@ -17,12 +14,34 @@ std::size_t FileNameStart(std::string_view path) {
   return static_cast<std::size_t>(path.rend() - separator);
 }
 
-/// From the root on, without ".", ".." and a separator at the end.
-fs::path Normalised(const std::string& path) {
-  std::error_code error;
-  const fs::path absolute = fs::absolute(ToNativePath(path), error);
-  const fs::path normal = (error ? ToNativePath(path) : absolute).lexically_normal();
-  return normal.has_relative_path() && !normal.has_filename() ? normal.parent_path() : normal;
+/// A path from the root on, without "." and "..".
+struct PathParts {
+  std::string root;
+  std::vector<std::string_view> names;
+};
+
+void AddName(std::vector<std::string_view>& names, std::string_view name) {
+  if (name.empty() || name == ".") return;
+  if (name != "..") {
+    names.push_back(name);
+  } else if (!names.empty()) {
+    names.pop_back();
+  }
+}
+
+/// `complete` is a path from the root on, and outlives the parts.
+PathParts PartsOf(std::string_view complete) {
+  const std::size_t rootLength = RootLength(complete);
+  PathParts parts{std::string(complete.substr(0, rootLength)), {}};
+  if (!parts.root.empty() && !IsPathSeparator(parts.root.back())) parts.root += PathSeparator();
+  std::string_view rest = complete.substr(rootLength);
+  while (!rest.empty()) {
+    const auto separator = std::ranges::find_if(rest, IsPathSeparator);
+    const auto length = static_cast<std::size_t>(separator - rest.begin());
+    AddName(parts.names, rest.substr(0, length));
+    rest.remove_prefix(std::min(length + 1, rest.size()));
+  }
+  return parts;
 }
 
 }  // namespace
@@ -36,8 +55,8 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
 std::string FolderPartOf(std::string_view path) {
   const std::size_t nameStart = FileNameStart(path);
   if (nameStart == 0) return {};
-  const std::size_t rootLength = FromNativePath(ToNativePath(path).root_path()).size();
-  return std::string(path.substr(0, std::max(nameStart - 1, std::min(rootLength, nameStart))));
+  const std::size_t rootLength = std::min(RootLength(path), nameStart);
+  return std::string(path.substr(0, std::max(nameStart - 1, rootLength)));
 }
 
 std::string FileNamePartOf(std::string_view path) {
@@ -51,7 +70,12 @@ std::string ExtensionOf(std::string_view nameOrPath) {
 }
 
 std::string AbsolutePath(const std::string& path) {
-  return NamesNothing(path) ? path : FromNativePath(Normalised(path));
+  if (NamesNothing(path)) return path;
+  const std::string complete = FromRootOn(path);
+  const PathParts parts = PartsOf(complete);
+  std::string absolute = parts.root;
+  for (const std::string_view name : parts.names) absolute = JoinPath(absolute, name);
+  return absolute;
 }
 
 bool SamePath(const std::string& left, const std::string& right) {
@@ -61,16 +85,17 @@ bool SamePath(const std::string& left, const std::string& right) {
 
 bool IsInFolder(const std::string& path, const std::string& folder, bool includeSubfolders) {
   if (NamesNothing(path) || NamesNothing(folder)) return false;
-  const fs::path inner = Normalised(path);
-  const fs::path outer = Normalised(folder);
-  auto innerPart = inner.begin();
-  for (const fs::path& outerPart : outer) {
-    if (innerPart == inner.end()) return false;
-    if (!SamePathText(FromNativePath(*innerPart), FromNativePath(outerPart))) return false;
-    ++innerPart;
+  const std::string completePath = FromRootOn(path);
+  const std::string completeFolder = FromRootOn(folder);
+  const PathParts inner = PartsOf(completePath);
+  const PathParts outer = PartsOf(completeFolder);
+  if (!SamePathText(inner.root, outer.root) || inner.names.size() <= outer.names.size()) {
+    return false;
   }
-  const auto partsBelow = std::distance(innerPart, inner.end());
-  return includeSubfolders ? partsBelow > 0 : partsBelow == 1;
+  if (!std::equal(outer.names.begin(), outer.names.end(), inner.names.begin(), SamePathText)) {
+    return false;
+  }
+  return includeSubfolders || inner.names.size() == outer.names.size() + 1;
 }
 
 }  // namespace quillomat

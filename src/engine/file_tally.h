@@ -23,8 +23,8 @@ struct FileTally {
     return static_cast<std::int32_t>(FileNumbers.size());
   }
 
-  /// Counts one occurrence in the file. Throws RunTimeError 6 at the 32,768th in one file.
-  void CountWordInFile(std::int32_t fileNumber);
+  /// Counts occurrences in the file. Throws RunTimeError 6 at the 32,768th in one file.
+  void CountWordInFile(std::int32_t fileNumber, std::int32_t times = 1);
 };
 
 /// Which file is being scanned, and the numbered files so far. A file gets its number when the

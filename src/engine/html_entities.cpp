@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/letter_case.h"
 #include "base/utf8.h"
 #include "engine/char_class.h"
 
@@ -36,34 +37,70 @@ constexpr bool NameLess(const Entity& left, const Entity& right) {
 }
 static_assert(std::is_sorted(kEntities.begin(), kEntities.end(), NameLess));
 
+constexpr std::size_t kLongestName = 8;
+static_assert(std::ranges::all_of(kEntities, [](const Entity& entity) {
+  return entity.name.size() <= kLongestName;
+}));
+
 /// The letter of an entity ("&eacute;"), or an empty text when it is none that is decoded.
 std::string_view LetterOf(std::string_view entity) {
+  if (entity.size() > kLongestName) return {};
   const auto* const found =
       std::lower_bound(kEntities.begin(), kEntities.end(), Entity{entity, {}}, NameLess);
   return found != kEntities.end() && found->name == entity ? found->letter : std::string_view();
 }
 
-}  // namespace
+/// The same for an entity in any letter case; the letter is a small one.
+std::string_view LetterOfAnyCase(std::string_view entity) {
+  return entity.size() > kLongestName ? std::string_view() : LetterOf(LowerCase(entity));
+}
 
-void DecodeHtmlEntities(std::string& text) {
-  const std::string_view source = text;
-  std::string decoded;
+struct Decoding {
+  /// Entities do not go beyond the end of a line.
+  bool lineByLine = false;
+  bool anyCase = false;
+};
+
+/// Where what an ampersand hides ends: a semicolon or, if `inLines`, the end of the line.
+std::size_t HiddenEnd(std::string_view source, std::size_t ampersand, bool inLines) {
+  if (!inLines) return std::min(source.find(';', ampersand), source.size());
+  const auto isEnd = [](char ch) { return ch == ';' || ch == '\n' || ch == '\r'; };
+  const auto first = source.begin() + static_cast<std::ptrdiff_t>(ampersand);
+  return static_cast<std::size_t>(std::find_if(first, source.end(), isEnd) - source.begin());
+}
+
+/// Appends `source` with its letters decoded to `decoded`, which is empty; does nothing and returns
+/// false when there is none.
+bool Decode(std::string_view source, const Decoding& how, std::string& decoded) {
   std::size_t copied = 0;
   for (std::size_t position = 0;;) {
     const std::size_t ampersand = source.find('&', position);
     if (ampersand == std::string_view::npos) break;
-    const std::size_t semicolon = source.find(';', ampersand);
-    if (semicolon == std::string_view::npos) break;
-    const std::string_view letter = LetterOf(source.substr(ampersand, semicolon + 1 - ampersand));
-    if (!letter.empty()) {
-      decoded.append(source.substr(copied, ampersand - copied)).append(letter);
-      copied = semicolon + 1;
-    }
-    position = semicolon + 1;
+    const std::size_t end = HiddenEnd(source, ampersand, how.lineByLine);
+    if (end == source.size()) break;
+    position = end + 1;
+    if (source[end] != ';') continue;
+    const std::string_view entity = source.substr(ampersand, position - ampersand);
+    const std::string_view letter = how.anyCase ? LetterOfAnyCase(entity) : LetterOf(entity);
+    if (letter.empty()) continue;
+    decoded.append(source.substr(copied, ampersand - copied)).append(letter);
+    copied = position;
   }
-  if (copied == 0) return;
+  if (copied == 0) return false;
   decoded.append(source.substr(copied));
-  text = std::move(decoded);
+  return true;
+}
+
+}  // namespace
+
+void DecodeHtmlEntities(std::string& text) {
+  std::string decoded;
+  if (Decode(text, {}, decoded)) text = std::move(decoded);
+}
+
+bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase, std::string& decoded) {
+  decoded.clear();
+  return Decode(lines, {true, anyCase}, decoded);
 }
 
 std::size_t HtmlEntityEnd(std::string_view text) {

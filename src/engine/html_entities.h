@@ -12,6 +12,12 @@ namespace quillomat {
 /// ampersand without a known entity hides whatever follows up to the next ";".
 void DecodeHtmlEntities(std::string& text);
 
+/// The same for every one of `lines`, in which a name counts in any letter case if `anyCase` (as in
+/// a line that was lower-cased before). Puts the result into `decoded` and returns true; or returns
+/// false when there is nothing to replace.
+[[nodiscard]] bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase,
+                                             std::string& decoded);
+
 /// The position (1-based, in characters) of the ";" that closes an entity at the start of `text`,
 /// or 0 when none starts there: "&", then a letter or "#", at least 4 characters up to and with a
 /// ";" among the first 20, and no blank before it.

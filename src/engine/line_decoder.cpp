@@ -164,7 +164,11 @@ void UnmarkedSource::TakeUnit(char16_t unit) {
   }
 }
 
-LineDecoder::LineDecoder(ByteSource& source) : source_(source), buffer_(kFirstBufferBytes) {}
+LineDecoder::LineDecoder(ByteSource& source)
+    : source_(std::in_place, source), buffer_(kFirstBufferBytes) {}
+
+LineDecoder::LineDecoder(std::vector<char> memory, std::size_t bytes)
+    : buffer_(std::move(memory)), end_(bytes) {}
 
 std::optional<std::string_view> LineDecoder::NextLine() {
   const std::optional<std::string_view> line = NextRawLine();
@@ -211,6 +215,7 @@ std::optional<std::string_view> LineDecoder::NextRawLine() {
 
 /// Reads more bytes behind those not yet given out; false at the end.
 bool LineDecoder::ReadBlock() {
+  if (!source_) return false;
   if (begin_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
     end_ -= begin_;
@@ -219,7 +224,7 @@ bool LineDecoder::ReadBlock() {
   if (end_ == buffer_.size() || (moreToCome_ && buffer_.size() - end_ < kBlockBytes)) {
     buffer_.resize(std::max(buffer_.size() * 2, 2 * kBlockBytes));
   }
-  const std::size_t bytes = source_.Read(std::span(buffer_).subspan(end_));
+  const std::size_t bytes = source_->Read(std::span(buffer_).subspan(end_));
   end_ += bytes;
   moreToCome_ = end_ == buffer_.size();
   return bytes > 0;

@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/byte_source.h"
@@ -57,6 +58,12 @@ class LineDecoder {
   /// `source` must outlive the decoder.
   explicit LineDecoder(ByteSource& source);
 
+  /// Of a text that has no mark to be dropped, `bytes` at the front of `memory`; it is read where
+  /// it stands.
+  LineDecoder(std::vector<char> memory, std::size_t bytes);
+  /// Gives that memory back, unchanged.
+  [[nodiscard]] std::vector<char> Memory() && { return std::move(buffer_); }
+
   /// The next line without its end, or nothing after the last. The view is good until the next
   /// call. Passes on what the source throws.
   [[nodiscard]] std::optional<std::string_view> NextLine();
@@ -75,7 +82,7 @@ class LineDecoder {
   [[nodiscard]] bool ReadBlock();
   [[nodiscard]] std::optional<std::string_view> NextRawLine();
 
-  UnmarkedSource source_;
+  std::optional<UnmarkedSource> source_;  // none when the text is at hand
   std::vector<char> buffer_;
   /// The bytes not yet given out are begin_ to end_.
   std::size_t begin_ = 0;

@@ -5,6 +5,9 @@
 
 #include "engine/char_class.h"
 
+// Only Highway's headers are used: its library spends 2 ms on measuring the clock whenever a
+// program starts. Nothing here needs its debugging aids, which the library would have to provide.
+#define HWY_IS_DEBUG_BUILD 0
 // This file is compiled once for every kind of vector that Highway knows on this processor family.
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/token_classes.cpp"
@@ -81,8 +84,44 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace quillomat {
 
-HWY_EXPORT(FindTokenBytes);
-HWY_EXPORT(FindEdges);
+namespace {
+
+struct Kernels {
+  void (*findTokenBytes)(const TokenClasses&, std::string_view, std::span<std::uint64_t>);
+  std::size_t (*findEdges)(std::span<const std::uint64_t>, std::uint32_t*);
+};
+
+/// The best that this processor can do.
+Kernels ChooseKernels() {
+#if HWY_ARCH_X86
+  __builtin_cpu_init();
+#if (HWY_TARGETS & (HWY_AVX2 | HWY_AVX3)) != 0
+  const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
+                    __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
+                    __builtin_cpu_supports("aes") && __builtin_cpu_supports("pclmul");
+#endif
+#if (HWY_TARGETS & HWY_AVX3) != 0
+  if (avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
+      __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw")) {
+    return {N_AVX3::FindTokenBytes, N_AVX3::FindEdges};
+  }
+#endif
+#if (HWY_TARGETS & HWY_AVX2) != 0
+  if (avx2) return {N_AVX2::FindTokenBytes, N_AVX2::FindEdges};
+#endif
+#if (HWY_TARGETS & HWY_SSSE3) != 0
+  if (__builtin_cpu_supports("ssse3")) return {N_SSSE3::FindTokenBytes, N_SSSE3::FindEdges};
+#endif
+#endif
+  return {HWY_STATIC_DISPATCH(FindTokenBytes), HWY_STATIC_DISPATCH(FindEdges)};
+}
+
+const Kernels& BestKernels() {
+  static const Kernels kKernels = ChooseKernels();
+  return kKernels;
+}
+
+}  // namespace
 
 TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
   for (unsigned byte = 0; byte < 0x80; ++byte) {
@@ -94,7 +133,7 @@ TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
 
 void FindTokenBytes(const TokenClasses& classes, std::string_view text,
                     std::span<std::uint64_t> masks) {
-  HWY_DYNAMIC_DISPATCH(FindTokenBytes)(classes, text, masks);
+  BestKernels().findTokenBytes(classes, text, masks);
 }
 
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
@@ -109,13 +148,31 @@ void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
   }
 }
 
-void TokenEdges::Find(const TokenClasses& classes, std::string_view text) {
+void TokenEdges::Classify(const TokenClasses& classes, std::string_view text) {
   masks_.resize((text.size() + kBytesPerMask - 1) / kBytesPerMask);
-  edges_.resize(masks_.size() * kBytesPerMask + kEdgesAtOnce + 1);
   FindTokenBytes(classes, text, masks_);
-  count_ = HWY_DYNAMIC_DISPATCH(FindEdges)(masks_, edges_.data());
+}
+
+void TokenEdges::CutOut(std::size_t first, std::size_t end) {
+  if (first >= end) return;
+  const std::size_t firstMask = first / kBytesPerMask;
+  const std::size_t lastMask = (end - 1) / kBytesPerMask;
+  const std::uint64_t before = (std::uint64_t{1} << first % kBytesPerMask) - 1;
+  const std::uint64_t behind = ~std::uint64_t{1} << (end - 1) % kBytesPerMask;
+  if (firstMask == lastMask) {
+    masks_[firstMask] &= before | behind;
+    return;
+  }
+  masks_[firstMask] &= before;
+  for (std::size_t k = firstMask + 1; k < lastMask; ++k) masks_[k] = 0;
+  masks_[lastMask] &= behind;
+}
+
+void TokenEdges::Find(std::size_t size) {
+  edges_.resize(masks_.size() * kBytesPerMask + kEdgesAtOnce + 1);
+  count_ = BestKernels().findEdges(masks_, edges_.data());
   // A token that ends with the text has its end there.
-  if (count_ % 2 != 0) edges_[count_++] = static_cast<std::uint32_t>(text.size());
+  if (count_ % 2 != 0) edges_[count_++] = static_cast<std::uint32_t>(size);
 }
 
 }  // namespace quillomat

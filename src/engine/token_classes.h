@@ -52,8 +52,12 @@ void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
 /// The tokens of a text.
 class TokenEdges {
  public:
-  /// Looks for them anew; forgets those of the text before.
-  void Find(const TokenClasses& classes, std::string_view text);
+  /// Looks at the bytes of a text and forgets the text before.
+  void Classify(const TokenClasses& classes, std::string_view text);
+  /// The bytes from `first` to before `end` belong to no token.
+  void CutOut(std::size_t first, std::size_t end);
+  /// Finds the tokens of the text, which has `size` bytes.
+  void Find(std::size_t size);
 
   [[nodiscard]] std::size_t TokenCount() const { return count_ / 2; }
   [[nodiscard]] std::size_t Start(std::size_t token) const { return edges_[2 * token]; }

@@ -1,5 +1,6 @@
 #include "engine/token_memo.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace quillomat {
@@ -7,23 +8,33 @@ namespace quillomat {
 static_assert(std::endian::native == std::endian::little,
               "a token's bytes are cut out of numbers, lowest first");
 
+void TokenMemo::Clear() {
+  std::ranges::fill(entries_, Entry());
+  tokens_ = 0;
+}
+
 void TokenMemo::Remember(const Key& key, TokenOutcome outcome) {
   if (tokens_ == kMostTokens) Clear();
-  if (tokens_ * 4 >= entries_.size() * 3 && entries_.size() < kMostEntries) {
-    std::vector<Entry> old(entries_.size() * 2);
-    old.swap(entries_);
-    for (const Entry& entry : old) {
-      if (entry.size != 0) Place(entry);
-    }
+  if (tokens_ * 2 >= entries_.size() && entries_.size() < kMostEntries) {
+    Resize(entries_.size() * 2);
   }
-  Place({key.low, key.high, outcome, static_cast<std::uint8_t>(key.size)});
+  Place({key.low, key.high, outcome});
   ++tokens_;
+}
+
+void TokenMemo::Resize(std::size_t entries) {
+  std::vector<Entry> old(entries);
+  old.swap(entries_);
+  shift_ = kHashBits - static_cast<unsigned>(std::countr_zero(entries));
+  for (const Entry& entry : old) {
+    if (entry.low != 0) Place(entry);
+  }
 }
 
 void TokenMemo::Place(const Entry& entry) {
   const std::size_t mask = entries_.size() - 1;
-  std::size_t i = HashOf(entry.low, entry.high) & mask;
-  while (entries_[i].size != 0) i = (i + 1) & mask;
+  std::size_t i = MixedHash(entry.low, entry.high) >> shift_;
+  while (entries_[i].low != 0) i = (i + 1) & mask;
   entries_[i] = entry;
 }
 

@@ -1,7 +1,8 @@
 // What became of the tokens that a scan has met, so that the next one like it costs one look-up.
 //
 // Holds the tokens of at most kMostBytes bytes, and at most kMostTokens of them: a text with more
-// different tokens makes it start anew from time to time. At most 2 MiB.
+// different tokens makes it start anew from time to time. At most 1 MiB: it is to stay in the
+// caches nearest to the processor, and four tokens share a line of them.
 #pragma once
 
 #include <array>
@@ -11,58 +12,60 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/word_hash.h"
+
 namespace quillomat {
 
-/// What a token is worth.
-struct TokenOutcome {
-  static constexpr std::uint32_t kNotStored = UINT32_MAX;
+/// What a token is worth: the place in the store of the word to be counted (less than 2^31), or one
+/// of the constants below.
+using TokenOutcome = std::uint32_t;
 
-  /// The record of the store to be counted, or kNotStored.
-  std::uint32_t place = kNotStored;
-  /// Whether a word was read.
-  bool isWord = false;
-};
+/// A word was read that is not stored.
+inline constexpr TokenOutcome kWordNotStored = UINT32_MAX - 2;
+/// The token is no word.
+inline constexpr TokenOutcome kNoWord = UINT32_MAX - 1;
+/// The token was not remembered.
+inline constexpr TokenOutcome kUnknownToken = UINT32_MAX;
+
+[[nodiscard]] inline bool IsPlace(TokenOutcome outcome) {
+  return outcome < kWordNotStored;
+}
 
 class TokenMemo {
  public:
-  static constexpr std::size_t kMostBytes = 16;
-  static constexpr std::size_t kMostTokens = 49'152;
+  static constexpr std::size_t kMostBytes = 12;
+  static constexpr std::size_t kMostTokens =
+      32'768;  // half of the entries, so that few share their place
 
   TokenMemo() : entries_(kFirstEntries) {}
 
-  void Clear() {
-    entries_.assign(kFirstEntries, {});
-    tokens_ = 0;
-  }
+  void Clear();
 
-  /// A token as the memo looks it up: its bytes, with zeros behind them.
+  /// A token as the memo looks it up: its bytes, of which none is 0, with zeros behind them.
   struct Key {
-    std::uint64_t low = 0;
-    std::uint64_t high = 0;
-    std::uint32_t size = 0;
-    std::uint32_t hash = 0;
+    std::uint64_t low;
+    std::uint32_t high;
+    std::uint32_t hash;
   };
 
   /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
   [[nodiscard]] static Key KeyOf(const char* text, std::size_t size, std::size_t readable);
+  /// The key of no token.
+  [[nodiscard]] static Key NoKey() { return {0, UINT32_MAX, 0}; }
 
   /// Begins to fetch what Find will look at.
-  void Prefetch(const Key& key) const {
-    __builtin_prefetch(&entries_[key.hash & (entries_.size() - 1)]);
-  }
+  void Prefetch(const Key& key) const { __builtin_prefetch(&entries_[key.hash >> shift_]); }
 
-  /// Null for a token that was not remembered.
-  [[nodiscard]] const TokenOutcome* Find(const Key& key) const {
+  [[nodiscard]] TokenOutcome Find(const Key& key) const {
     const std::size_t mask = entries_.size() - 1;
-    for (std::size_t i = key.hash & mask;; i = (i + 1) & mask) {
+    for (std::size_t i = key.hash >> shift_;; i = (i + 1) & mask) {
       const Entry& entry = entries_[i];
-      if (entry.low == key.low && entry.high == key.high && entry.size == key.size) {
-        return &entry.outcome;
-      }
-      if (entry.size == 0) return nullptr;
+      if (entry.low == key.low && entry.high == key.high) return entry.outcome;
+      if (entry.low == 0) return kUnknownToken;
     }
   }
 
+  /// `key` is that of a token that is not remembered.
   void Remember(const Key& key, TokenOutcome outcome);
 
  private:
@@ -70,49 +73,45 @@ class TokenMemo {
   static constexpr std::size_t kMostEntries = 65'536;
 
   struct Entry {
-    std::uint64_t low = 0;
-    std::uint64_t high = 0;
-    TokenOutcome outcome;
-    std::uint8_t size = 0;  // 0 marks a free entry
+    std::uint64_t low = 0;  // 0 marks a free entry
+    std::uint32_t high = 0;
+    TokenOutcome outcome = kUnknownToken;
   };
 
-  /// Masks of the bytes that belong to a token in the upper half of its key and, 8 places further
-  /// on, in the lower. The first byte is the lowest of a number.
-  static constexpr std::array<std::uint64_t, kMostBytes + 9> kOwnBytes = [] {
-    std::array<std::uint64_t, kMostBytes + 9> masks{};
-    for (std::size_t place = 9; place < masks.size(); ++place) {
-      masks[place] = place >= 16 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (128 - 8 * place);
+  /// By the size of a token, masks of the bytes that belong to it: in the lower part of its key and
+  /// in the upper. The first byte is the lowest of a number.
+  struct OwnBytes {
+    std::uint64_t low;
+    std::uint32_t high;
+  };
+  static constexpr std::array<OwnBytes, kMostBytes + 1> kOwnBytes = [] {
+    std::array<OwnBytes, kMostBytes + 1> masks{};
+    for (std::size_t size = 1; size <= kMostBytes; ++size) {
+      masks[size].low = size >= 8 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (64 - 8 * size);
+      if (size > 8) masks[size].high = ~std::uint32_t{0} >> (96 - 8 * size);
     }
     return masks;
   }();
 
-  static std::uint32_t HashOf(std::uint64_t low, std::uint64_t high) {
-    constexpr std::uint64_t kFirst = 0x9E3779B97F4A7C15;
-    constexpr std::uint64_t kSecond = 0xC2B2AE3D27D4EB4F;
-    const std::uint64_t mixed = (low ^ (high * kSecond)) * kFirst;
-    return static_cast<std::uint32_t>(mixed >> 32U);
-  }
-
   void Place(const Entry& entry);
+  void Resize(std::size_t entries);
 
   std::vector<Entry> entries_;
+  unsigned shift_ = kHashBits - 10;  // of kFirstEntries
   std::size_t tokens_ = 0;
 };
 
 inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size, std::size_t readable) {
-  Key key;
-  key.size = static_cast<std::uint32_t>(size);
+  Key key{};
   char last[kMostBytes] = {};
   const char* bytes = text;
   if (readable < kMostBytes) {
     std::memcpy(last, text, size);
     bytes = last;
   }
-  std::memcpy(&key.low, bytes, sizeof key.low);
-  std::memcpy(&key.high, bytes + sizeof key.low, sizeof key.high);
-  key.low &= kOwnBytes[size + 8];
-  key.high &= kOwnBytes[size];
-  key.hash = HashOf(key.low, key.high);
+  key.low = LoadNumber<std::uint64_t>(bytes) & kOwnBytes[size].low;
+  key.high = LoadNumber<std::uint32_t>(bytes + sizeof key.low) & kOwnBytes[size].high;
+  key.hash = MixedHash(key.low, key.high);
   return key;
 }
 

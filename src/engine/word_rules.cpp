@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view kContractionStems =
     "aren couldn didn doesn hadn hasn isn shouldn wasn weren wouldn ";
+constexpr std::size_t kLongestStem = 7;
 
 constexpr std::array<std::string_view, 8> kRomanExceptions = {"dim", "mid",   "vim",   "cid",
                                                               "lid", "livid", "civil", "dill"};
@@ -49,6 +50,9 @@ bool IsVowel(std::string_view ch, bool lowerOnly) {
 }
 
 bool IsContractionStem(std::string_view word) {
+  // All stems end in n, so most words need no search.
+  const bool mayBeStem = !word.empty() && (word.back() == 'n' || word.back() == 'N');
+  if (word.size() > kLongestStem || !mayBeStem) return word.empty();
   return kContractionStems.find(LowerCase(word) + ' ') != std::string_view::npos;
 }
 
@@ -81,13 +85,12 @@ bool IsRepetition(std::string_view word) {
 }
 
 bool IsRomanNumeral(std::string_view word, bool belowXL) {
-  const std::string lower = LowerCase(word);
-  if (belowXL) return lower.find_first_not_of("ivx") == std::string::npos;
-  if (std::find(kRomanExceptions.begin(), kRomanExceptions.end(), lower) !=
-      kRomanExceptions.end()) {
-    return false;
-  }
-  return lower.find_first_not_of("ivxlcdm") == std::string::npos;
+  const std::string_view numerals = belowXL ? "ivxIVX" : "ivxlcdmIVXLCDM";
+  const auto isNumeral = [numerals](char ch) {
+    return numerals.find(ch) != std::string_view::npos;
+  };
+  if (!std::ranges::all_of(word, isNumeral)) return false;
+  return belowXL || std::ranges::find(kRomanExceptions, LowerCase(word)) == kRomanExceptions.end();
 }
 
 bool LacksVowel(std::string_view word, bool withY) {

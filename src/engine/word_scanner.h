@@ -2,26 +2,22 @@
 // of a words file), cuts each to its final form, decides whether it is to be counted, and hands it
 // to the word store. It skips comments and decodes entities.
 //
-// What becomes of a token depends on the token and the settings alone, so it is worked out once and
-// remembered; the next token like it costs one look-up.
-//
 // One scanner serves one run. Text is well-formed UTF-8. The caller has lower-cased the text unless
 // letter case is significant, and has appended one blank: the last character of a text never starts
 // a word.
 #pragma once
 
-#include <array>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "engine/char_class.h"
+#include "engine/comment_markers.h"
+#include "engine/line_block.h"
 #include "engine/scan_settings.h"
 #include "engine/token_classes.h"
-#include "engine/token_memo.h"
+#include "engine/token_taker.h"
 #include "engine/word_list.h"
 #include "engine/word_store.h"
 
@@ -66,8 +62,8 @@ class WordScanner {
   void GetWordsOfLines(std::string_view lines);
 
   /// Candidate words read so far, whether they were counted or not.
-  [[nodiscard]] std::int32_t WordsRead() const { return wordsRead_; }
-  void SetWordsRead(std::int32_t wordsRead) { wordsRead_ = wordsRead; }
+  [[nodiscard]] std::int32_t WordsRead() const { return taker_.WordsRead(); }
+  void SetWordsRead(std::int32_t wordsRead) { taker_.SetWordsRead(wordsRead); }
 
  private:
   /// What stays to be done after comments were skipped.
@@ -75,58 +71,32 @@ class WordScanner {
 
   std::string_view Rewritten(std::string_view text);
   void PrepareMarkers();
-  void NoteMarkerStart(char first);
   /// Whether a comment goes on, or may start, at the position.
   [[nodiscard]] bool MayMeetComment() const {
     return settings_.UseCommentMarkers &&
-           (settings_.OpenComment >= 0 ||
-            mayStartMarker_[static_cast<unsigned char>(text_[position_])]);
+           (settings_.OpenComment != kNoComment || markers_.MayStartWith(text_[position_]));
   }
-  [[nodiscard]] int FindCommentStart() const;
+  [[nodiscard]] int CommentStart() const {
+    return markers_.StartAt(text_.substr(position_), settings_.ForceCommentMarkers);
+  }
   void SkipComment();
   AfterComments SkipComments();
-  [[nodiscard]] std::string_view CutToken();
-  [[nodiscard]] std::string_view FinalForm(std::string_view token);
-  void TakeCutToken(std::string_view token);
-  void TakeTokens(std::string_view lines, std::size_t first, std::size_t count);
-  TokenOutcome WorkOutCutToken(std::string_view token);
-  std::optional<TokenOutcome> WorkOutWholeToken(std::string_view token);
-  TokenOutcome TakeWord(std::string_view word);
-  void CountToken(const TokenOutcome& outcome);
-  void ForgetTokensOfOldStore();
-  [[nodiscard]] std::size_t FirstSpecialByte(std::string_view lines) const;
   [[nodiscard]] bool RestIsOneBlank() const { return text_.substr(position_) == " "; }
-  [[nodiscard]] std::size_t CharacterBytes() const;
 
   ScanSettings& settings_;
   const ScanChoices& choices_;
-  const WordLists& lists_;
-  WordStore& store_;
   ScanYield& yield_;
   CharClass charClass_;
   TokenClasses tokenClasses_;
-  TokenMemo memo_;
-  std::uint64_t memoGeneration_;
-  TokenEdges edges_;
-  std::string tokenText_;
+  CommentMarkers markers_;
+  TokenTaker taker_;
+  LineBlock block_;
 
   /// The text being scanned, and the byte position of the next character to examine. A position
   /// past the end is text_.size().
   std::string_view text_;
   std::size_t position_ = 0;
   std::string rewritten_;
-  /// The markers for which the three members behind them were worked out.
-  std::array<std::string, 2> preparedStart_;
-  std::array<std::string, 2> preparedEnd_;
-  std::bitset<256> mayStartMarker_;
-  std::array<std::string, 2> lowerStart_;
-  std::array<std::string, 2> lowerEnd_;
-  std::int32_t wordsRead_ = 0;
 };
-
-/// `line` as GetWords wants a line of text to be counted: lower-cased unless letter case is
-/// significant, with one blank appended. The result stays in `buffer`.
-[[nodiscard]] std::string_view PrepareLine(std::string_view line, bool caseSignificant,
-                                           std::string& buffer);
 
 }  // namespace quillomat

@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
-#include <functional>
-#include <limits>
 #include <utility>
 
 #include "base/checked_count.h"
@@ -17,108 +14,129 @@ namespace {
 
 constexpr std::size_t kFirstSlots = 1024;  // a power of two, as every number of slots
 
-std::uint32_t HashOf(std::string_view key) {
-  const std::uint64_t hash = std::hash<std::string_view>{}(key);
-  return static_cast<std::uint32_t>(hash ^ (hash >> 32U));
-}
-
-/// The first 8 bytes of the key as a number whose order is the order of the bytes. A shorter key is
-/// filled up with zero bytes, which no key contains.
-std::uint64_t LeadingBytes(std::string_view key) {
-  std::uint64_t value = 0;
-  for (std::size_t i = 0; i < sizeof value; ++i) {
-    const unsigned byte = i < key.size() ? static_cast<unsigned char>(key[i]) : 0;
-    value = (value << 8U) | byte;
-  }
-  return value;
-}
-
 }  // namespace
 
 void WordStore::Clear() {
   ++generation_;
-  records_.clear();
-  slots_.clear();
+  letters_.Clear();
+  counts_.clear();
+  included_.clear();
   tallies_.clear();
+  slots_.clear();
+  arena_.Clear();
   sorted_ = true;
-  letters_.release();
+  occurrences_ = 0;
 }
 
 std::optional<std::uint32_t> WordStore::AddWord(std::string_view word, bool anyLength) {
   // Bytes are at least as many as characters, so most words need no counting.
   if (!anyLength && word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit)
     return {};
-  if (files_.IsOn()) files_.NoteCurrentFile();
   const std::string_view key = SortKeyOf(word, keyScratch_);
-  const std::uint32_t hash = HashOf(key);
-  if (sorted_) {
-    FillSlots(std::max(kFirstSlots, std::bit_ceil(records_.size() * 2)));
-    sorted_ = false;
-  } else if (slots_.size() * 3 <= records_.size() * 4) {
-    GrowSlots();
-  }
-  Slot& slot = SlotOf(key, hash);
+  return AddKeyedWord({word, key, HashOfWord(key)});
+}
+
+std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
+  if (files_.IsOn()) files_.NoteCurrentFile();
+  MakeRoom();
+  Slot& slot = slots_[FindSlot(word)];
   if (slot.place != 0) {
-    CountAgain(slot.place - 1);
-    return slot.place - 1;
+    const std::uint32_t place = slot.place - 1;
+    CountWordAt(place);
+    return place;
   }
-  if (records_.size() == std::numeric_limits<std::int32_t>::max()) {
+  if (letters_.Size() == std::numeric_limits<std::int32_t>::max()) {
     throw RunTimeError(RunTimeErrorNumber::kOverflow);
   }
-  const auto place = static_cast<std::uint32_t>(records_.size());
-  slot = {hash, place + 1};
-  AppendWordRecord(word, key);
-  if (listener_ != nullptr) listener_->OnNewWord(word, NumDifferentWords());
+  const auto place = static_cast<std::uint32_t>(letters_.Size());
+  slot = {word.hash, place + 1};
+  AppendWord(word);
+  if (listener_ != nullptr) listener_->OnNewWord(word.word, NumDifferentWords());
   return place;
 }
 
-WordStore::Slot& WordStore::SlotOf(std::string_view key, std::uint32_t hash) {
-  const std::size_t mask = slots_.size() - 1;
-  for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
-    Slot& slot = slots_[i];
-    if (slot.place == 0) return slot;
-    if (slot.hash == hash && records_[slot.place - 1].SortKey == key) return slot;
-  }
+void WordStore::CountWordAt(std::uint32_t place, std::int32_t times) {
+  AddChecked(counts_[place], times);
+  occurrences_ += times;
+  if (!files_.IsOn()) return;
+  files_.NoteCurrentFile();
+  tallies_[place].CountWordInFile(files_.CurrentFileNumber(), times);
 }
 
-void WordStore::AppendWordRecord(std::string_view word, std::string_view key) {
-  const std::string_view kept = Keep(word);
-  records_.push_back({kept, key == word ? kept : Keep(key)});
+void WordStore::CountOneByOne(std::span<const std::uint32_t> places) {
+  for (const std::uint32_t place : places) CountWordAt(place);
+}
+
+std::vector<std::int32_t> WordStore::TakeCounts() {
+  std::vector<std::int32_t> taken(counts_.size());
+  taken.swap(counts_);
+  occurrences_ = 0;
+  return taken;
+}
+
+void WordStore::AppendWord(const KeyedWord& word) {
+  letters_.PushBack({word.word, word.key, arena_});
+  counts_.push_back(1);
+  included_.push_back(1);
+  ++occurrences_;
   if (!files_.IsOn()) return;
   tallies_.emplace_back();
   tallies_.back().CountWordInFile(files_.CurrentFileNumber());
 }
 
-void WordStore::CountAgain(std::size_t place) {
-  IncrementChecked(records_[place].Count);
-  if (files_.IsOn()) tallies_[place].CountWordInFile(files_.CurrentFileNumber());
+/// The slot that holds the word, or the free slot where it belongs.
+std::size_t WordStore::FindSlot(const KeyedWord& word) const {
+  const std::size_t mask = slots_.size() - 1;
+  for (std::size_t i = word.hash >> slotShift_;; i = (i + 1) & mask) {
+    const Slot& slot = slots_[i];
+    if (slot.place == 0) return i;
+    if (slot.hash == word.hash && letters_[slot.place - 1].Key() == word.key) return i;
+  }
+}
+
+void WordStore::PrefetchLetters(std::uint32_t hash) const {
+  if (slots_.empty()) return;
+  const Slot& slot = slots_[hash >> slotShift_];
+  if (slot.place == 0 || slot.hash != hash) return;
+  __builtin_prefetch(&letters_[slot.place - 1]);
+  __builtin_prefetch(&counts_[slot.place - 1], 1);
+}
+
+/// For one more word in the hash table.
+void WordStore::MakeRoom() {
+  if (sorted_) {
+    FillSlots(std::max(kFirstSlots, std::bit_ceil(letters_.Size() * 2)));
+    sorted_ = false;
+  } else if (slots_.size() * 3 <= letters_.Size() * 4) {
+    GrowSlots();
+  }
+}
+
+void WordStore::SetSlots(std::size_t slots) {
+  slots_.assign(slots, Slot());
+  slotShift_ = kHashBits - static_cast<unsigned>(std::countr_zero(slots));
 }
 
 void WordStore::GrowSlots() {
-  std::vector<Slot> old(slots_.size() * 2);
-  old.swap(slots_);
+  const std::vector<Slot> old = std::move(slots_);
+  SetSlots(old.size() * 2);
   const std::size_t mask = slots_.size() - 1;
   for (const Slot& slot : old) {
     if (slot.place == 0) continue;
-    std::size_t i = slot.hash & mask;
+    std::size_t i = slot.hash >> slotShift_;
     while (slots_[i].place != 0) i = (i + 1) & mask;
     slots_[i] = slot;
   }
 }
 
-/// Makes the hash table anew from the records.
+/// Makes the hash table anew.
 void WordStore::FillSlots(std::size_t slots) {
-  slots_.assign(slots, Slot());
-  for (std::size_t place = 0; place < records_.size(); ++place) {
-    const std::uint32_t hash = HashOf(records_[place].SortKey);
-    SlotOf(records_[place].SortKey, hash) = {hash, static_cast<std::uint32_t>(place + 1)};
+  SetSlots(slots);
+  for (std::size_t place = 0; place < letters_.Size(); ++place) {
+    const std::string_view key = letters_[place].Key();
+    const std::uint32_t hash = HashOfWord(key);
+    slots_[FindSlot({key, key, hash})] = {hash, static_cast<std::uint32_t>(place + 1)};
   }
-}
-
-std::string_view WordStore::Keep(std::string_view text) {
-  auto* const letters = static_cast<char*>(letters_.allocate(text.size(), 1));
-  std::memcpy(letters, text.data(), text.size());
-  return {letters, text.size()};
 }
 
 const FileTally* WordStore::FilesOf(std::int32_t index) const {
@@ -126,38 +144,10 @@ const FileTally* WordStore::FilesOf(std::int32_t index) const {
   return tallies_.empty() ? nullptr : &tallies_[static_cast<std::size_t>(index - 1)];
 }
 
-void WordStore::SortRecords() const {
-  ++generation_;
-  struct Entry {
-    std::uint64_t leadingBytes;
-    std::uint32_t place;
-  };
-  slots_ = {};
-  std::vector<Entry> entries;
-  entries.reserve(records_.size());
-  for (std::uint32_t place = 0; place < records_.size(); ++place) {
-    entries.push_back({LeadingBytes(records_[place].SortKey), place});
-  }
-  std::sort(entries.begin(), entries.end(), [this](const Entry& left, const Entry& right) {
-    if (left.leadingBytes != right.leadingBytes) return left.leadingBytes < right.leadingBytes;
-    return records_[left.place].SortKey < records_[right.place].SortKey;
-  });
-  std::vector<WordRec> records;
-  std::vector<FileTally> tallies;
-  records.reserve(records_.size());
-  tallies.reserve(tallies_.size());
-  for (const Entry& entry : entries) {
-    records.push_back(records_[entry.place]);
-    if (!tallies_.empty()) tallies.push_back(std::move(tallies_[entry.place]));
-  }
-  records_ = std::move(records);
-  tallies_ = std::move(tallies);
-  sorted_ = true;
-}
-
 WordTotals WordStore::TallyWords() const {
   WordTotals totals;
-  for (const WordRec& record : records_) {
+  for (std::int32_t index = 1; index <= NumDifferentWords(); ++index) {
+    const WordRec record = At(index);
     if (!record.Included) {
       IncrementChecked(totals.NumExcludedWords);
       continue;

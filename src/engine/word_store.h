@@ -1,22 +1,28 @@
 // The word store: every different word of a count with the number of its occurrences.
 //
 // While words arrive the store is a hash table over the words' sort keys, in order of arrival; the
-// alphabetical order is made when somebody first asks for it. Words and keys live in an arena of
-// the store: a view taken from a record is good until Clear().
+// alphabetical order is made when somebody first asks for it. Words and keys live in the store: a
+// view taken from a record is good until the next word is added or the store cleared.
 //
-// Memory: a record has 40 bytes and a hash slot 8 (at most 3/4 of the slots are in use); the
-// letters of the word come on top, and those of its key where it differs from the word.
+// Memory: a word has 37 bytes, of which 30 hold its letters and those of its key where it differs
+// from the word, and a hash slot 8 (between 3/8 and 3/4 of the slots are in use). Sorting takes 32
+// more, and for a moment the 37 again. Words that do not fit have their letters on top.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <memory_resource>
+#include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "engine/chunked_vector.h"
 #include "engine/file_tally.h"
+#include "engine/letter_arena.h"
+#include "engine/word_hash.h"
+#include "engine/word_letters.h"
 
 namespace quillomat {
 
@@ -31,6 +37,15 @@ struct WordRec {
   std::int32_t Count = 1;
   /// Whether the word is listed; the filters clear it.
   bool Included = true;
+};
+
+/// A word on its way into the store.
+struct KeyedWord {
+  std::string_view word;
+  /// Its sort key.
+  std::string_view key;
+  /// HashOfWord of the key.
+  std::uint32_t hash = 0;
 };
 
 /// Sums over the store.
@@ -70,31 +85,64 @@ class WordStore {
 
   /// Counts one occurrence of `word`. With `anyLength` (words files) long words are taken too.
   /// Throws RunTimeError 6 when a count would leave the range of 32 bits. Returns the place of the
-  /// word's record, for CountWordAt; nothing when the word is not stored.
+  /// word, for CountWordAt; nothing when the word is not stored.
   std::optional<std::uint32_t> AddWord(std::string_view word, bool anyLength = false);
+  /// The same for a word that is short enough to be stored and whose key is known.
+  std::uint32_t AddKeyedWord(const KeyedWord& word);
 
-  /// Counts one occurrence of the word that AddWord has put at `place`; throws as AddWord does.
-  /// Places change when the records are sorted or cleared, and then Generation() changes.
-  void CountWordAt(std::uint32_t place) {
-    if (files_.IsOn()) files_.NoteCurrentFile();
-    CountAgain(place);
+  // For many new words at once: the slots of all are fetched, then what the slots point to, and
+  // then the words are added.
+  void PrefetchSlot(std::uint32_t hash) const {
+    if (!slots_.empty()) __builtin_prefetch(&slots_[hash >> slotShift_]);
   }
-  /// Begins to fetch what CountWordAt will change.
-  void PrefetchWordAt(std::uint32_t place) const { __builtin_prefetch(&records_[place].Count, 1); }
+  void PrefetchLetters(std::uint32_t hash) const;
+
+  /// Counts occurrences of the word that AddWord has put at `place`; throws as AddWord does. Places
+  /// change when the words are sorted or cleared, and then Generation() changes.
+  void CountWordAt(std::uint32_t place, std::int32_t times = 1);
+  /// One occurrence of each.
+  void CountWordsAt(std::span<const std::uint32_t> places) {
+    if (files_.IsOn() || !HasRoomFor(places.size())) return CountOneByOne(places);
+    for (const std::uint32_t place : places) ++counts_[place];
+    occurrences_ += static_cast<std::int64_t>(places.size());
+  }
   [[nodiscard]] std::uint64_t Generation() const { return generation_; }
 
+  /// The spelling and the occurrences of the word that AddWord has put at `place`.
+  [[nodiscard]] std::string_view WordAtPlace(std::uint32_t place) const {
+    return letters_[place].Word();
+  }
+  /// The occurrences by place, all of which begin anew at 0.
+  [[nodiscard]] std::vector<std::int32_t> TakeCounts();
+
   [[nodiscard]] std::int32_t NumDifferentWords() const {
-    return static_cast<std::int32_t>(records_.size());
+    return static_cast<std::int32_t>(letters_.Size());
   }
 
   /// The record at alphabetical place `index`, 1 to NumDifferentWords().
-  [[nodiscard]] const WordRec& At(std::int32_t index) const {
+  [[nodiscard]] WordRec At(std::int32_t index) const {
     if (!sorted_) SortRecords();
-    return records_[static_cast<std::size_t>(index - 1)];
+    const auto place = static_cast<std::size_t>(index - 1);
+    return {letters_[place].Word(), letters_[place].Key(), counts_[place], included_[place] != 0};
+  }
+  // Parts of that record, for those who need no more.
+  [[nodiscard]] std::string_view WordOf(std::int32_t index) const {
+    if (!sorted_) SortRecords();
+    return letters_[static_cast<std::size_t>(index - 1)].Word();
+  }
+  [[nodiscard]] std::int32_t CountOf(std::int32_t index) const {
+    if (!sorted_) SortRecords();
+    return counts_[static_cast<std::size_t>(index - 1)];
+  }
+  /// Begins to fetch them.
+  void PrefetchAt(std::int32_t index) const {
+    const auto place = static_cast<std::size_t>(index - 1);
+    __builtin_prefetch(&letters_[place]);
+    __builtin_prefetch(&counts_[place]);
   }
   void SetIncluded(std::int32_t index, bool included) {
     if (!sorted_) SortRecords();
-    records_[static_cast<std::size_t>(index - 1)].Included = included;
+    included_[static_cast<std::size_t>(index - 1)] = static_cast<char>(included);
   }
   /// The files of the word at alphabetical place `index`; null when files were not tracked.
   [[nodiscard]] const FileTally* FilesOf(std::int32_t index) const;
@@ -106,34 +154,52 @@ class WordStore {
 
  private:
   /// Words are told apart by their keys, so equal hashes are looked at closer. `place` is the
-  /// record's place in records_ plus 1; 0 marks a free slot.
+  /// word's place plus 1; 0 marks a free slot.
   struct Slot {
     std::uint32_t hash = 0;
     std::uint32_t place = 0;
   };
 
-  /// The slot that holds `key`, or the free slot where it belongs.
-  Slot& SlotOf(std::string_view key, std::uint32_t hash);
-  void AppendWordRecord(std::string_view word, std::string_view key);
-  void CountAgain(std::size_t place);
+  struct SortEntry {
+    std::uint64_t leadingBytes;
+    std::uint32_t place;
+  };
+
+  /// Whether no count can overflow within the next `times` occurrences.
+  [[nodiscard]] bool HasRoomFor(std::size_t times) const {
+    return occurrences_ + static_cast<std::int64_t>(times) <=
+           std::numeric_limits<std::int32_t>::max();
+  }
+  void CountOneByOne(std::span<const std::uint32_t> places);
+  [[nodiscard]] std::size_t FindSlot(const KeyedWord& word) const;
+  void AppendWord(const KeyedWord& word);
+  void MakeRoom();
   void GrowSlots();
   void FillSlots(std::size_t slots);
-  std::string_view Keep(std::string_view text);
+  void SetSlots(std::size_t slots);
   void SortRecords() const;
+  [[nodiscard]] std::vector<SortEntry> SortedEntries() const;
+  void ArrangeWords(std::span<const SortEntry> order) const;
 
-  std::pmr::monotonic_buffer_resource letters_;
   FileTracker files_;
   NewWordListener* listener_ = nullptr;
   std::string keyScratch_;
 
-  // In which order the records stand is nobody's affair but the store's: hence mutable.
-  mutable std::vector<WordRec> records_;
-  /// Parallel to records_ while files are tracked, else empty.
+  // In which order the words stand is nobody's affair but the store's: hence mutable.
+  LetterArena arena_;
+  // The words by place, in parallel.
+  mutable ChunkedVector<WordLetters> letters_;
+  mutable std::vector<std::int32_t> counts_;
+  mutable std::vector<char> included_;
+  /// While files are tracked, else empty.
   mutable std::vector<FileTally> tallies_;
-  /// Empty while the records are sorted: sorting moves them, and words seldom arrive afterwards.
+  /// Empty while the words are sorted: sorting moves them, and words seldom arrive afterwards.
   mutable std::vector<Slot> slots_;
+  mutable unsigned slotShift_ = 0;
   mutable bool sorted_ = true;
   mutable std::uint64_t generation_ = 0;
+  /// Of all words together: no count is higher.
+  std::int64_t occurrences_ = 0;
 };
 
 }  // namespace quillomat

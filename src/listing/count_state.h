@@ -2,6 +2,7 @@
 // last count went. One object for the program's whole life.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -25,6 +26,8 @@ struct CountState {
   // What a scan goes by.
   ScanSettings settings;
   WordLists lists;
+  /// How many threads may scan a large text at the same time; with 1 it is scanned by the caller's.
+  std::size_t scanThreads = 1;
 
   // The folder source: files counted or scanned in the pass that runs or ran last, and folders
   // visited in it (the chosen one included); then both as they were in the last count.

@@ -95,7 +95,7 @@ void LineFormatter::ComputeColumnWidths(std::int16_t minimumColumnWidth) {
 }
 
 std::string_view LineFormatter::BareWord(std::int32_t index) const {
-  return index == 0 ? std::string_view("Word") : words_.store.At(index).Word;
+  return index == 0 ? std::string_view("Word") : words_.store.WordOf(index);
 }
 
 std::int32_t LineFormatter::RankOf(std::int32_t index) const {
@@ -109,7 +109,7 @@ void LineFormatter::RankCell(std::string& line, std::int32_t index) const {
 
 void LineFormatter::FreqCell(std::string& line, std::int32_t index) const {
   if (index == 0) return AppendPadded(line, "Freq", frequencyWidth_);
-  AppendNumber(line, words_.store.At(index).Count, frequencyWidth_);
+  AppendNumber(line, words_.store.CountOf(index), frequencyWidth_);
 }
 
 void LineFormatter::FilesCell(std::string& line, std::int32_t index) const {
@@ -128,7 +128,7 @@ void LineFormatter::LogRankCell(std::string& line, std::int32_t index, bool useL
 
 void LineFormatter::LogFreqCell(std::string& line, std::int32_t index, bool useLog10) const {
   if (index == 0) return AppendPadded(line, useLog10 ? "L10(F)" : "LN(F)", frequencyWidth_);
-  AppendLogarithm(line, words_.store.At(index).Count, useLog10, frequencyWidth_);
+  AppendLogarithm(line, words_.store.CountOf(index), useLog10, frequencyWidth_);
 }
 
 void LineFormatter::WordCell(std::string& line, std::int32_t index) const {

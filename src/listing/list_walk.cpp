@@ -1,5 +1,8 @@
 #include "listing/list_walk.h"
 
+#include <cstddef>
+#include <vector>
+
 #include "base/text_helpers.h"
 
 namespace quillomat {
@@ -23,8 +26,13 @@ bool ListAlphabetical(const CountedWords& words, const LineFormatter& formatter,
 }
 
 bool ListByFrequency(const CountedWords& words, const LineFormatter& formatter, ListSink& sink) {
+  constexpr std::size_t kFetchedAhead = 16;
   std::string line;
-  for (const std::int32_t index : words.ranking.byRank) {
+  const std::vector<std::int32_t>& byRank = words.ranking.byRank;
+  for (std::size_t i = 0; i < byRank.size(); ++i) {
+    // Words that follow each other in this order lie anywhere in the memory.
+    if (i + kFetchedAhead < byRank.size()) words.store.PrefetchAt(byRank[i + kFetchedAhead]);
+    const std::int32_t index = byRank[i];
     line.clear();
     formatter.FormatWordLine(line, index);
     if (!sink.TakeWord(index, line)) return false;

@@ -85,8 +85,12 @@ void Windows::ShowLanguage() {
   main_.setAccessibleDescription(ToQt(program_.text.GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
   const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
-  const bool loaded = buttonTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                                        QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  const auto load = [&](const QString& folder) {
+    return buttonTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), folder);
+  };
+  // A program that has the toolkit linked in brings these texts along, too.
+  const bool loaded = load(QStringLiteral(":/translations")) ||
+                      load(QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   if (loaded) QApplication::installTranslator(&buttonTexts_);
 }
 

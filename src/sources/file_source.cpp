@@ -19,6 +19,7 @@ namespace {
 constexpr std::int64_t kLargeFileBytes = 200'000;
 constexpr std::int64_t kProgressBarBytes = 10'240;
 constexpr std::size_t kTextTestBytes = 10'240;
+constexpr std::int64_t kBytesWorthThreads = std::int64_t{2} * LinePieces::kPieceBytes;
 
 /// `amount` with two decimals.
 std::string TwoDecimals(double amount) {
@@ -39,18 +40,6 @@ bool IsCLike(const std::string& extension) {
 
 /// The progress bar takes every line end for two bytes.
 constexpr std::int64_t kLineEndBytes = 2;
-
-/// Of whole lines, so counted.
-std::int64_t BytesOfLines(std::string_view lines) {
-  std::size_t lineEnds = CountOf('\n', lines);
-  if (lines.find('\r') != std::string_view::npos) {
-    lineEnds += CountOf('\r', lines);
-    for (std::size_t i = 1; i < lines.size(); ++i) {
-      if (lines[i - 1] == '\r' && lines[i] == '\n') lineEnds -= 2;
-    }
-  }
-  return static_cast<std::int64_t>(lines.size() + lineEnds);
-}
 
 }  // namespace
 
@@ -211,15 +200,20 @@ void FileSource::ReadLines(ScanJob& job, LineEndingType type) {
   InputFile file(path_);
   const bool showProgress = scanning_ && file.Length() > kProgressBarBytes;
   if (showProgress) progress_.StartProgressBar();
-  LineDecoder lines(file);
   std::int64_t bytesRead = 0;
   const auto showBytes = [&](std::int64_t bytes) {
     bytesRead += bytes;
     progress_.UpdateProgressBar(bytesRead, file.Length(), type == LineEndingType::kUnix);
   };
+  if (context_.state.scanThreads > 1 && file.Length() >= kBytesWorthThreads) {
+    return job.ScanOnThreads(file, [&](std::int64_t bytes) {
+      if (showProgress) showBytes(bytes);
+    });
+  }
+  LineDecoder lines(file);
   for (;;) {
     if (const std::string_view whole = job.PlainLines(lines.NextLines()); !whole.empty()) {
-      if (showProgress) showBytes(BytesOfLines(whole));
+      if (showProgress) showBytes(BytesWithLongLineEnds(whole));
       job.ScanLines(whole);
       lines.SkipLines(whole.size());
     } else if (const auto line = lines.NextLine()) {

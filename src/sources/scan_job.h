@@ -2,12 +2,18 @@
 // to the window. Made by a source when it starts reading.
 #pragma once
 
+#include <cstdint>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "base/byte_source.h"
 #include "engine/word_scanner.h"
 #include "sources/panel_choices.h"
 #include "sources/run_context.h"
+#include "sources/threaded_scan.h"
 #include "sources/word_echo.h"
 
 namespace quillomat {
@@ -45,6 +51,18 @@ class ScanJob {
     state_.WordsRead = scanner_.WordsRead();
   }
 
+  /// Scans a whole text on several threads; stops early when the user wants that. `onBytes` is told
+  /// of every piece's bytes, with two for a line end, before its words are counted.
+  void ScanOnThreads(ByteSource& source, std::function<void(std::int64_t)> onBytes) {
+    if (!threaded_) {
+      const ThreadedScan::Target target{state_.settings, state_.store, state_.WordsRead};
+      threaded_.emplace(target, choices_, lists_, state_.scanThreads);
+    }
+    threaded_->Scan(source,
+                    {[this] { return yield_.YieldFor(yield_.CallsLeft()); }, std::move(onBytes)});
+    scanner_.SetWordsRead(state_.WordsRead);
+  }
+
   /// Scans a line of a words file, which is always lower-cased.
   void ScanListLine(std::string_view line) { Scan(PrepareLine(line, false, buffer_)); }
 
@@ -61,6 +79,7 @@ class ScanJob {
   RunYield yield_;
   WordScanner scanner_;
   std::string buffer_;
+  std::optional<ThreadedScan> threaded_;
 };
 
 }  // namespace quillomat

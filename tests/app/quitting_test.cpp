@@ -63,7 +63,7 @@ TEST_F(Quitting, ClosingTheWindowIsTheSame) {
 TEST_F(Quitting, WhileAWordsFileIsReadTellsNothingMore) {
   EveryYieldPumps();
   std::string words;
-  for (int i = 0; i < 3000; ++i) words += "ox\n";
+  for (int i = 0; i < 3000; ++i) words += "ox\r\n";
   desktop.AtPump(desktop.Pumps() + 3, [&] { Main().CloseRequested.Fire(); });
   desktop.AnswerFile(folder.Write("w.txt", words));
   Panel().cmdSelectWordsFile[0].PerformClick();

@@ -5,6 +5,7 @@
 
 #include "app/program_image.h"
 #include "app/state_lines.h"
+#include "support/environment.h"
 #include "support/program_fixture.h"
 #include "support/user_home.h"
 
@@ -13,30 +14,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// An environment variable with another value for the time of a test.
-class ChangedVariable {
- public:
-  ChangedVariable(const char* name, const std::string& value) : name_(name) {
-    if (const char* before = std::getenv(name)) before_ = before;
-    setenv(name, value.c_str(), 1);
-  }
-  ChangedVariable(const ChangedVariable&) = delete;
-  ChangedVariable& operator=(const ChangedVariable&) = delete;
-  ChangedVariable(ChangedVariable&&) = delete;
-  ChangedVariable& operator=(ChangedVariable&&) = delete;
-  ~ChangedVariable() {
-    if (before_) {
-      setenv(name_, before_->c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-
- private:
-  const char* name_;
-  std::optional<std::string> before_;
-};
 
 class StartUp : public testing::Test {
  protected:
@@ -69,10 +46,11 @@ TEST_F(StartUp, FirstStartMakesTheSettingsFolderSaysNothingAndSelectsTheFolderSo
 
 TEST_F(StartUp, StepsComeInTheirOrder) {
   KeepSettings(FileOfLines(ChangedLines(folder)));
+  const std::filesystem::path root = std::filesystem::current_path().root_path();
   std::vector<std::string> steps;
   const auto step = [&](const std::string& name) {
     EXPECT_FALSE(program.state.blnStartUpCompleted) << name;
-    EXPECT_NE(std::filesystem::current_path(), "/") << name;
+    EXPECT_NE(std::filesystem::current_path(), root) << name;
     if (std::ranges::find(steps, name) == steps.end()) steps.push_back(name);
   };
   program.frmMain.Changed.Connect([&] {
@@ -95,7 +73,7 @@ TEST_F(StartUp, StepsComeInTheirOrder) {
   EXPECT_THAT(steps, ElementsAre("title: Quillomat 7.07", "lists filled", "number lists filled",
                                  "word counts hidden", "window shown", "folder source selected",
                                  "defaults set", "settings restored"));
-  EXPECT_EQ(std::filesystem::current_path(), "/");
+  EXPECT_EQ(std::filesystem::current_path(), root);
   EXPECT_TRUE(program.state.blnStartUpCompleted);
 }
 
@@ -131,7 +109,7 @@ TEST_F(StartUp, LostWordsToIgnoreAreReplacedByTheCommonWordsWithoutAMessage) {
   KeepSettings(FileOfLines(lines));
   ASSERT_TRUE(program.Start());
   EXPECT_THAT(desktop.Titles(), IsEmpty());
-  EXPECT_TRUE(program.frmParams.txbWordsFile[0].Text().ends_with("/cwds_en.txt"));
+  EXPECT_TRUE(program.frmParams.txbWordsFile[0].Text().ends_with("cwds_en.txt"));
 }
 
 TEST_F(StartUp, LostCountOnlyWordsSpoilNothingElse) {
@@ -163,7 +141,7 @@ TEST_F(StartUp, LostFolderIsTold) {
 }
 
 TEST_F(StartUp, TextFileThatIsMissingEndsItBeforeTheWindowIsShown) {
-  const ChangedVariable data("QUILLOMAT_DATA", folder.Path());
+  const ScopedVariable data("QUILLOMAT_DATA", folder.Path());
   EXPECT_FALSE(program.Start());
   ASSERT_EQ(desktop.Messages().size(), 1U);
   EXPECT_EQ(desktop.Messages()[0], (MessageBox{"Cannot open file containing program text.\r\n" +
@@ -177,14 +155,14 @@ TEST_F(StartUp, TextFileWithADuplicateIsRefusedWithItsLine) {
   std::string texts = "1 EN Quillomat\n1 DE Quillomat\n";
   for (int line = 3; line < 12; ++line) texts += "#\n";
   static_cast<void>(folder.Write("qlav_text.dat", texts + "1 EN Quillomat\n"));
-  const ChangedVariable data("QUILLOMAT_DATA", folder.Path());
+  const ScopedVariable data("QUILLOMAT_DATA", folder.Path());
   EXPECT_FALSE(program.Start());
   ASSERT_EQ(desktop.Messages().size(), 1U);
   EXPECT_EQ(desktop.Messages()[0].text, "Duplicate in program text at line 12.");
 }
 
 TEST_F(StartUp, HomeThatCannotBeWrittenToIsNoHindrance) {
-  const ChangedVariable config("XDG_CONFIG_HOME", folder.Write("file", "") + "/below");
+  const ScopedVariable config(UserHome::kVariable, folder.Write("file", "") + "/below");
   ASSERT_TRUE(program.Start());
   EXPECT_THAT(desktop.Titles(), IsEmpty());
   EXPECT_TRUE(program.frmMain.Visible());
@@ -250,6 +228,7 @@ TEST_F(Initialize, GoesThroughItsStepsInOrder) {
   ASSERT_EQ(program.savedState.RestoreSavedState(
                 folder.Write("changed.qlm", FileOfLines(ChangedLines(folder)))),
             RestoreResult::kRestored);
+  const std::filesystem::path root = std::filesystem::current_path().root_path();
   std::vector<std::string> steps;
   const auto note = [&](Control& control) {
     control.Changed.Connect([&steps, &control] {

@@ -23,7 +23,8 @@ inline std::string Quoted(const std::string& text) {
   return "\"" + text + "\"";
 }
 
-/// A state in which every value is another than at a first start. Its files are made in `folder`.
+/// A state in which every value is another than at a first start. Its files are made in `folder`;
+/// their line ends are nowhere worth a warning.
 inline StateLines ChangedLines(const TemporaryFolder& folder) {
   return {Quoted(folder.Make("texts")),
           Quoted("ox cow"),
@@ -67,8 +68,8 @@ inline StateLines ChangedLines(const TemporaryFolder& folder) {
           "1",  // the main window's check boxes
           "1",
           "8",  // its combo boxes
-          Quoted(folder.Write("ignore.txt", "dog\n")),
-          Quoted(folder.Write("only.txt", "cat\nrat\n")),
+          Quoted(folder.Write("ignore.txt", "dog\r\n")),
+          Quoted(folder.Write("only.txt", "cat\r\nrat\r\n")),
           "1"};
 }
 

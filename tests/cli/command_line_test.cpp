@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -17,18 +18,18 @@ struct Parsed {
   std::string err;
 };
 
-Parsed Parse(std::vector<const char*> arguments) {
+Parsed Parse(std::vector<std::string> arguments) {
   arguments.insert(arguments.begin(), "quillomat-cli");
   std::ostringstream out;
   std::ostringstream err;
   Parsed parsed;
-  parsed.result = ParseCommandLine(static_cast<int>(arguments.size()), arguments.data(), out, err);
+  parsed.result = ParseCommandLine(arguments, out, err);
   parsed.out = out.str();
   parsed.err = err.str();
   return parsed;
 }
 
-void ExpectWrong(const std::vector<const char*>& arguments, const std::string& named) {
+void ExpectWrong(const std::vector<std::string>& arguments, const std::string& named) {
   const Parsed parsed = Parse(arguments);
   EXPECT_EQ(parsed.result.exitStatus, 2);
   EXPECT_THAT(parsed.err, HasSubstr(named));
@@ -53,6 +54,16 @@ TEST(CommandLine, TakesEveryOption) {
   ASSERT_EQ(options.answers.size(), 1U);
   EXPECT_TRUE(options.summary);
   EXPECT_TRUE(options.windowText);
+}
+
+TEST(CommandLine, TakesANumberOfThreads) {
+  const Parsed parsed = Parse({"--file", "a", "--threads", "4"});
+  ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
+  EXPECT_EQ(parsed.result.options.threads, 4U);
+  EXPECT_EQ(Parse({"--file", "a"}).result.options.threads, std::nullopt);
+  ExpectWrong({"--file", "a", "--threads", "0"}, "--threads");
+  ExpectWrong({"--file", "a", "--threads", "65"}, "--threads");
+  ExpectWrong({"--file", "a", "--threads", "two"}, "--threads");
 }
 
 TEST(CommandLine, DashIsStandardInput) {

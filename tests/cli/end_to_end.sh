@@ -126,6 +126,13 @@ seq 1 9000 | sed 's/.*/wa&x/' >long.txt
 check "a list too long for the window is no failure" 0 --file long.txt --window-text \
   --set chkAllowWordsWithNumerals=1
 holds err "Textbox is full."
+# More than a megabyte, with accents and repetitions.
+seq 1 150000 | sed 's/.*/w& caf\xc3\xa9 the The/' >large.txt
+check "one thread" 0 --file large.txt --threads 1 --set chkAllowWordsWithNumerals=1
+cp out one.txt
+check "several threads make the same list" 0 --file large.txt --threads 4 \
+  --set chkAllowWordsWithNumerals=1
+cmp -s one.txt out || { echo "FAILED $name"; failed=1; }
 check "a missing state file" 1 --file cat.txt --state missing.qlm
 holds err "missing.qlm"
 head -n 44 mine.qlm >short.qlm

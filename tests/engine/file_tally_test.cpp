@@ -123,6 +123,23 @@ TEST_F(FilesOfWords, FullRecordCountsNoMoreInItsLastFileEither) {
   EXPECT_EQ(store.At(1).Count, 8004);
 }
 
+TEST_F(FilesOfWords, ManyOccurrencesAtOnceAreLikeOneAfterTheOther) {
+  FileTally together;
+  FileTally oneByOne;
+  for (std::int32_t file = 1; file <= 8002; ++file) {
+    const std::int32_t times = file % 3;
+    together.CountWordInFile(file, times);
+    for (std::int32_t i = 0; i < times; ++i) oneByOne.CountWordInFile(file);
+  }
+  EXPECT_EQ(together.FileNumbers, oneByOne.FileNumbers);
+  EXPECT_EQ(together.FileCounts, oneByOne.FileCounts);
+  FileTally tooMany;
+  tooMany.CountWordInFile(1, 32'767);
+  EXPECT_THROW(tooMany.CountWordInFile(1, 2), RunTimeError);
+  tooMany.CountWordInFile(2, 32'767);
+  EXPECT_THROW(tooMany.CountWordInFile(2), RunTimeError);
+}
+
 TEST_F(FilesOfWords, FileNumberOfFiveDigitsIsTheLastThatIsKept) {
   NumberFilesUpTo(99'998);
   Meet("dog", "the last");

@@ -1,6 +1,7 @@
 // Lines that are scanned many at a time, and those that are not.
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 #include "support/engine_fixture.h"
 
@@ -64,9 +65,17 @@ TEST_F(PlainLines, LongTokensAreWordsToo) {
   EXPECT_EQ(wordsRead, 3);
 }
 
-TEST_F(PlainLines, EndBeforeALineWithAnEntity) {
-  EXPECT_EQ(PlainBytes("one\ntwo\ncaf&eacute;\nfour\n"), 8U);
-  EXPECT_EQ(PlainBytes("&amp;\n"), 0U);
+TEST_F(PlainLines, EntitiesOfLettersAreDecodedLineByLine) {
+  EXPECT_EQ(CountLines("caf&eacute; the\nAT&T caf&eacute;s\nQ&A\n&Eacute;t&eacute;\n"),
+            Count({"caf&eacute; the", "AT&T caf&eacute;s", "Q&A", "&Eacute;t&eacute;"}));
+  EXPECT_EQ(CountLines("a & b\nna&iuml;ve; x &amp; y\n"),
+            Count({"a & b", "na&iuml;ve; x &amp; y"}));
+}
+
+TEST_F(PlainLines, NamesOfEntitiesCountInAnyCaseWhereTheLineWouldBeLowerCased) {
+  EXPECT_EQ(CountLines("CAF&EACUTE;\n"), "caf\u00E9");
+  CaseIsSignificant();
+  EXPECT_EQ(CountLines("CAF&EACUTE;\n"), Count("CAF&EACUTE;"));
 }
 
 TEST_F(PlainLines, EndBeforeALineThatIsNotUtf8) {
@@ -74,27 +83,97 @@ TEST_F(PlainLines, EndBeforeALineThatIsNotUtf8) {
   EXPECT_EQ(PlainBytes("one\ncaf\xE9\nthree\n"), 4U);
 }
 
-TEST_F(PlainLines, EndBeforeALineWhereACommentMayStart) {
+TEST_F(PlainLines, CommentsOfCodeAreCutOut) {
   UsePreset("C");
-  EXPECT_EQ(PlainBytes("int a;\nint b; // c\nint d;\n"), 7U);
+  const std::vector<std::string> lines = {"int a; // one /* two",
+                                          "b /* three // */ c /**/ d/e",
+                                          "/* four",
+                                          "five */",
+                                          "six*/ f /*/ seven */ g",
+                                          "h /*"};
+  std::string text;
+  for (const std::string& line : lines) text += line + (line.size() % 2 == 0 ? "\n" : "\r\n");
+  const std::string together = CountLines(text);
+  EXPECT_EQ(settings.OpenComment, 0);
+  settings.OpenComment = -1;
+  EXPECT_EQ(together, Count(lines));
+  EXPECT_EQ(settings.OpenComment, 0);
+  EXPECT_EQ(together, "a b c d e f g h int seven six");
+}
+
+TEST_F(PlainLines, TagsAndEntitiesOfHtmlAreCutOut) {
+  UsePreset("HTML");
+  const std::vector<std::string> lines = {
+      "<p class=\"x\">one &nbsp;two&lt;three <b", "title=4>four</b> AT&T; five&x y; six",
+      "&a--b; seven &#65; &toolongforanentityname; eight <!-- nine", "--> ten <>eleven"};
+  std::string text;
+  for (const std::string& line : lines) text += line + "\n";
+  const std::string together = CountLines(text);
+  EXPECT_EQ(settings.OpenComment, -1);
+  EXPECT_EQ(together, Count(lines));
+}
+
+TEST_F(PlainLines, CommentToTheEndOfTheLineEndsAtACarriageReturnToo) {
+  UsePreset("C");
+  EXPECT_EQ(CountLines("one // two\rthree\n"), "one three");
+}
+
+TEST_F(PlainLines, CommentThatIsOpenGoesOn) {
+  UsePreset("C");
+  static_cast<void>(Count("a /* b"));
+  ASSERT_EQ(settings.OpenComment, 0);
+  EXPECT_EQ(CountLines("c\nd */ e\n"), "e");
+  EXPECT_EQ(settings.OpenComment, -1);
+}
+
+TEST_F(PlainLines, CommentThatEndsWithItsLineIsNotEndedByAnEmptyLine) {
+  UsePreset("C");
+  settings.OpenComment = 1;  // opened by other markers, in an earlier file
+  EXPECT_EQ(CountLines("\r\n  \n"), "");
+  EXPECT_EQ(settings.OpenComment, 1);
+  EXPECT_EQ(CountLines(" \none\ntwo\n"), "two");
+}
+
+TEST_F(PlainLines, EndBeforeALineWhereACommentOfLettersMayStart) {
   UseMarkers("rem", "");
   EXPECT_EQ(PlainBytes("one\nfive rum\n"), 4U);
   EXPECT_EQ(PlainBytes("one\nfive RUM\n"), 4U);
   UseMarkers("\u00A7", "");
+  EXPECT_EQ(PlainBytes("one\n\u00A7\n"), 4U);
+  EXPECT_EQ(PlainBytes("one\n&sect;\n"), 4U);
+  UseMarkers("(", ")");
+  EXPECT_EQ(PlainBytes("one (two)\n"), 10U);
+  Allow(AllowFlag::kParentheses);
+  EXPECT_EQ(PlainBytes("one (two)\n"), 0U);
+}
+
+TEST_F(PlainLines, ThereAreNoneInsideACommentOfLetters) {
+  UseMarkers("rem", "end");
+  static_cast<void>(Count("a rem b"));
+  ASSERT_EQ(settings.OpenComment, 0);
   EXPECT_EQ(PlainBytes("one\n"), 0U);
 }
 
-TEST_F(PlainLines, ThereAreNoneInsideAComment) {
-  UsePreset("C");
-  EXPECT_EQ(PlainBytes("one\n"), 4U);
-  static_cast<void>(Count("a /* b"));
-  ASSERT_EQ(settings.OpenComment, 0);
-  EXPECT_EQ(PlainBytes("one\n"), 0U);
+TEST_F(PlainLines, ThereAreNoneInsideACommentWhoseMarkersAreOthersMeanwhile) {
+  UseMarkers("", "END", "<", "");
+  settings.OpenComment = 0;
+  EXPECT_EQ(PlainBytes("end\nEND one\n"), 0U);
+  EXPECT_EQ(Count("END one"), "one");
 }
 
 TEST_F(PlainLines, ThereAreNoneWhileEveryWordIsLookedAt) {
   generous.callsLeft = 1;
   EXPECT_EQ(PlainBytes("one\n"), 0U);
+}
+
+TEST_F(PlainLines, NoCommentIsOpenBehindTheWordAtWhichTheyStop) {
+  UsePreset("C");
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "word\n";
+  generous.callsLeft = 30;
+  generous.stopAfter = 30;
+  EXPECT_EQ(CountLines(text + "/* open\n"), "word*30");
+  EXPECT_EQ(settings.OpenComment, -1);
 }
 
 TEST_F(PlainLines, StopWithinThem) {

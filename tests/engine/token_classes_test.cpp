@@ -24,7 +24,8 @@ std::vector<std::uint64_t> PortableMasks(const TokenClasses& classes, std::strin
 
 std::vector<std::string> Tokens(std::string_view text, const TokenClasses& classes) {
   TokenEdges edges;
-  edges.Find(classes, text);
+  edges.Classify(classes, text);
+  edges.Find(text.size());
   std::vector<std::string> tokens;
   for (std::size_t i = 0; i < edges.TokenCount(); ++i) {
     tokens.emplace_back(text.substr(edges.Start(i), edges.End(i) - edges.Start(i)));
@@ -60,6 +61,25 @@ TEST(TokenClasses, VectorsAndThePortableWayAgreeOnRandomBytesOfAnyLength) {
   for (std::size_t size = 0; size < 300; ++size) {
     const std::string text = RandomText(random, size);
     EXPECT_EQ(Masks(classes, text), PortableMasks(classes, text)) << size;
+  }
+}
+
+TEST(TokenEdges, WhatIsCutOutBelongsToNoToken) {
+  const TokenClasses classes(false, "");
+  const std::string text(200, 'a');
+  for (const std::size_t first : {0U, 1U, 63U, 64U, 70U, 128U}) {
+    for (std::size_t end = first + 1; end <= text.size(); ++end) {
+      TokenEdges edges;
+      edges.Classify(classes, text);
+      edges.CutOut(first, end);
+      edges.Find(text.size());
+      std::size_t left = 0;
+      for (std::size_t i = 0; i < edges.TokenCount(); ++i) {
+        left += edges.End(i) - edges.Start(i);
+        ASSERT_TRUE(edges.End(i) <= first || edges.Start(i) >= end) << first << ' ' << end;
+      }
+      ASSERT_EQ(left, text.size() - (end - first)) << first << ' ' << end;
+    }
   }
 }
 

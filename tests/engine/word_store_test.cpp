@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <initializer_list>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -114,6 +115,47 @@ TEST_F(WordStoreTest, GoesOnCountingAfterSomebodyLooked) {
   EXPECT_EQ(Words(), "ant cat dog*2");
   Add({"ant"});
   EXPECT_EQ(Words(), "ant*2 cat dog*2");
+}
+
+TEST_F(WordStoreTest, CountsManyOccurrencesAtOnce) {
+  const std::uint32_t dog = store.AddWord("dog").value();
+  const std::uint32_t ant = store.AddWord("ant").value();
+  const std::vector<std::uint32_t> places = {dog, ant, dog};
+  store.CountWordsAt(places);
+  store.CountWordAt(ant, 10);
+  EXPECT_EQ(Words(), "ant*12 dog*3");
+}
+
+TEST_F(WordStoreTest, CountThatLeavesItsRangeIsAnOverflow) {
+  const std::uint32_t dog = store.AddWord("dog").value();
+  const std::uint32_t ant = store.AddWord("ant").value();
+  store.CountWordAt(dog, std::numeric_limits<std::int32_t>::max() - 2);
+  const std::vector<std::uint32_t> places = {ant, dog, ant};
+  store.CountWordsAt(places);
+  EXPECT_THROW(store.CountWordsAt(places), RunTimeError);
+  EXPECT_THROW(store.AddWord("dog"), RunTimeError);
+  EXPECT_EQ(store.At(2).Count, std::numeric_limits<std::int32_t>::max());
+}
+
+TEST_F(WordStoreTest, CountsThatAreTakenBeginAnew) {
+  Add({"dog", "ant", "dog"});
+  EXPECT_THAT(store.TakeCounts(), ElementsAre(2, 1));
+  Add({"ant", "cat"});
+  EXPECT_EQ(store.WordAtPlace(2), "cat");
+  EXPECT_THAT(store.TakeCounts(), ElementsAre(0, 1, 1));
+}
+
+TEST_F(WordStoreTest, LongWordsAndLongKeysAreKeptWhole) {
+  const std::string capitals(30, 'A');
+  const std::string longWord(99, 'b');
+  const std::string umlauts = "\u00DC\u00DC\u00DC\u00DC\u00DC\u00DC\u00DC\u00DC\u00DC\u00DC";
+  Add({longWord, capitals, umlauts, "\u00E4", longWord, umlauts});
+  EXPECT_EQ(store.At(1).SortKey, std::string(30, 'a'));
+  EXPECT_EQ(store.At(1).Word, capitals);
+  EXPECT_EQ(store.At(2).SortKey, "ae");
+  EXPECT_EQ(store.At(3).Word, longWord);
+  EXPECT_EQ(store.At(4).SortKey, "ueueueueueueueueueue");
+  EXPECT_EQ(store.At(4).Count, 2);
 }
 
 TEST_F(WordStoreTest, WordOf100CharactersIsStored) {

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <sstream>
 
+#include "base/byte_source.h"
 #include "base/text_helpers.h"
 #include "engine/word_filters.h"
 #include "engine/word_scanner.h"
@@ -9,6 +11,7 @@
 #include "listing/list_walk.h"
 #include "listing/text_box_list_sink.h"
 #include "properties/count_outcome.h"
+#include "sources/threaded_scan.h"
 #include "support/scripted_desktop.h"
 
 namespace quillomat::properties {
@@ -144,18 +147,50 @@ class ProgramCase {
     settings_.BuildExtraWordChars();
     store_.Clear();
     store_.Files().Reset(case_.choices.optFolder && settings_.CountOnlyMode);
-    WordScanner scanner(settings_, choices_, lists_, store_, yield_);
-    for (const CaseText& text : case_.texts) Scan(scanner, text);
+    CountTexts();
     if (!settings_.CountOnlyMode) ApplyWordFilters(store_, FilterChoicesOf(case_.choices));
     totals_ = store_.TallyWords();
     ranking_ = RankByFrequency(store_);
-    out_ << "read " << scanner.WordsRead() << " open " << settings_.OpenComment << '\n';
+    out_ << "read " << wordsRead_ << " open " << settings_.OpenComment << '\n';
   }
 
-  void Scan(WordScanner& scanner, const CaseText& text) {
+  void CountTexts() {
+    WordScanner scanner(settings_, choices_, lists_, store_, yield_);
+    std::optional<ThreadedScan> threaded;
+    if (reading_ == Reading::kOnThreads) {
+      constexpr std::size_t kThreads = 3;
+      // Pieces of very few lines.
+      const std::size_t pieceBytes = 8 + case_.texts.size() * 37 % 200;
+      threaded.emplace(ThreadedScan::Target{settings_, store_, wordsRead_}, choices_, lists_,
+                       kThreads, pieceBytes);
+    }
+    for (const CaseText& text : case_.texts) {
+      PrepareFor(text);
+      if (threaded && !text.whole && CanStandInAFile(text.lines)) {
+        const std::string file = AsFile(text.lines);
+        TextSource source(file);
+        threaded->Scan(source, {[] { return false; }, [](std::int64_t) {}});
+        continue;
+      }
+      scanner.SetWordsRead(wordsRead_);
+      Scan(scanner, text);
+      wordsRead_ = scanner.WordsRead();
+    }
+  }
+
+  void PrepareFor(const CaseText& text) {
     settings_.SetCommentMarkers(text.markers, choices_);
     settings_.ForceCommentMarkers = text.markers == "HTML" || text.markers == "C";
     store_.Files().SetFileBeingScanned(text.path);
+  }
+
+  static std::string AsFile(const std::vector<std::string>& lines) {
+    std::string file;
+    for (const std::string& line : lines) file += line + (file.size() % 3 == 0 ? "\r\n" : "\n");
+    return file;
+  }
+
+  void Scan(WordScanner& scanner, const CaseText& text) {
     const bool caseSignificant = IsSet(choices_.caseSignificant);
     if (reading_ == Reading::kInBlocks && !text.whole && CanStandInAFile(text.lines)) {
       return ScanBlocks(scanner, text.lines);
@@ -173,8 +208,7 @@ class ProgramCase {
   /// As a file is read: many lines at a time where that can be.
   void ScanBlocks(WordScanner& scanner, const std::vector<std::string>& lines) {
     const bool caseSignificant = IsSet(choices_.caseSignificant);
-    std::string file;
-    for (const std::string& line : lines) file += line + (file.size() % 3 == 0 ? "\r\n" : "\n");
+    const std::string file = AsFile(lines);
     for (std::string_view rest = file; !rest.empty();) {
       // Windows of different sizes, so that they end at different places.
       const std::string_view window = rest.substr(0, 64 + rest.size() % 997);
@@ -269,6 +303,7 @@ class ProgramCase {
   WordStore store_;
   WordTotals totals_;
   FrequencyRanking ranking_;
+  std::int32_t wordsRead_ = 0;
   NeverStops yield_;
   std::string buffer_;
   std::ostringstream out_;

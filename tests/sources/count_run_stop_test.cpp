@@ -117,7 +117,7 @@ TEST_F(CountRunStop, YesWithNothingFoundSaysSo) {
 TEST_F(CountRunStop, YesListsIntoTheOutputFileToo) {
   ListTo(folder / "out.txt");
   StopTheScanBehind(2, MessageAnswer::kYes);
-  EXPECT_EQ(ContentsOf(folder / "out.txt"), "Word (longest has 3 characters)\none\ntwo\n");
+  EXPECT_EQ(TextOf(folder / "out.txt"), "Word (longest has 3 characters)\none\ntwo\n");
 }
 
 TEST_F(CountRunStop, ALaterListTellsThatItIsNotComplete) {
@@ -249,7 +249,7 @@ TEST_F(CountRunStop, AListInAFileEndsBehindTheWordAtHandAndIsNotRepeatedInTheWin
   ListTo(folder / "out.txt");
   StopAtYield(5);
   CountClipboard("one two three");
-  EXPECT_EQ(ContentsOf(folder / "out.txt"), kHeader + "\none\nthree\n");
+  EXPECT_EQ(TextOf(folder / "out.txt"), kHeader + "\none\nthree\n");
   EXPECT_EQ(Output(), "\r\nOutput to file was terminated.");
   EXPECT_THAT(desktop.Messages(), IsEmpty());
   ExpectIdle();
@@ -266,7 +266,7 @@ TEST_F(CountRunStop, StopInTheTextBoxLeavesTheFileWhole) {
   ListTo(folder / "out.txt");
   StopAtYield(7);  // three words read, three written, the first shown
   CountClipboard("one two three");
-  EXPECT_EQ(ContentsOf(folder / "out.txt"), kHeader + "\none\nthree\ntwo\n");
+  EXPECT_EQ(TextOf(folder / "out.txt"), kHeader + "\none\nthree\ntwo\n");
   EXPECT_EQ(Output(), kHeader + "\r\none\r\n\r\nListing stopped.\r\n");
 }
 
@@ -276,7 +276,7 @@ TEST_F(CountRunStop, AfterAStopInTheFileTheListCanBeMadeAnew) {
   StopAtYield(5);
   CountClipboard("one two three");
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(ContentsOf(folder / "out.txt"), kHeader + "\none\nthree\ntwo\n");
+  EXPECT_EQ(TextOf(folder / "out.txt"), kHeader + "\none\nthree\ntwo\n");
   EXPECT_EQ(Output(), kHeader + "\r\none\r\nthree\r\ntwo\r\n");
 }
 

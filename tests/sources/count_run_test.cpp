@@ -149,7 +149,7 @@ TEST_F(CountRunTest, TheListIsNotReadFromFilesChangedDuringTheRun) {
   AtYield(3, [this] { ListTo(folder / "other.txt"); });
   ListWordsOnly();
   CountClipboard("cat dog");
-  EXPECT_EQ(ContentsOf(output), "Word (longest has 3 characters)\ncat\ndog\n");
+  EXPECT_EQ(TextOf(output), "Word (longest has 3 characters)\ncat\ndog\n");
   EXPECT_EQ(ContentsOf(folder / "other.txt"), "");
 }
 

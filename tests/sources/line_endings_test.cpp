@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/stat.h>
 
 #include "desktop/desktop_test.h"
 #include "sources/line_ending_warning.h"
@@ -79,7 +78,7 @@ TEST_F(LineEndings, AMissingFileAFolderAndAnEmptyFileAreTold) {
 
 TEST_F(LineEndings, AFileThatMayNotBeReadCannotBeOpened) {
   const std::string path = folder_.Write("secret.txt", "text");
-  chmod(path.c_str(), 0);
+  const ClosedFile closed(path);
   const int type =
       AsOrdinaryUser([&] { return static_cast<int>(GetLineEndingType(path, kMaximum)) & 0xFF; });
   EXPECT_EQ(type, static_cast<int>(Type::kCannotBeOpened) & 0xFF);

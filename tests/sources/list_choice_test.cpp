@@ -192,9 +192,9 @@ TEST_F(ListChoice, AFolderWithTypedCountOnlyWordsHasItsFilesListed) {
   ChooseFormat(DisplayFormat::kWordFileListFreq);
   EXPECT_EQ(Output(),
             "2 files (in 1 folder) were scanned.\r\n\r\n{Folder} = " + (folder / "texts") +
-                "\r\n\r\ncat\r\n"
-                "    2 {Folder}/a.txt\r\n"
-                "    1 {Folder}/b.txt\r\n\r\n");
+                NativePaths("\r\n\r\ncat\r\n"
+                            "    2 {Folder}/a.txt\r\n"
+                            "    1 {Folder}/b.txt\r\n\r\n"));
   EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 
@@ -205,7 +205,7 @@ TEST_F(ListChoice, AFolderWithAFileOfCountOnlyWordsHasItsFilesListed) {
   static_cast<void>(folder.Write("texts/a.txt", "cat"));
   CountFolder(folder / "texts");
   ChooseFormat(DisplayFormat::kWordFileList);
-  EXPECT_TRUE(Output().ends_with("\r\ncat\r\n    {Folder}/a.txt\r\n\r\n"));
+  EXPECT_TRUE(Output().ends_with(NativePaths("\r\ncat\r\n    {Folder}/a.txt\r\n\r\n")));
   EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 

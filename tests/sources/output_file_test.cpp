@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/stat.h>
 
 #include "base/run_time_error.h"
 #include "desktop/desktop_test.h"
@@ -42,7 +41,7 @@ class OutputFileTest : public CountFixture {
 TEST_F(OutputFileTest, TheListGoesIntoTheFileAndIntoTheTextBox) {
   ListTo(path);
   CountTwoWords();
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), kBoxList);
   EXPECT_TRUE(program.lister.FileWritten());
   EXPECT_THAT(desktop.Titles(), IsEmpty());
@@ -78,7 +77,7 @@ TEST_F(OutputFileTest, TheLineAboutTheFolderStandsInTheTextBoxOnly) {
   TemporaryFolder texts;
   static_cast<void>(texts.Write("a.txt", "cat dog"));
   CountFolder(texts.Path());
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), "1 file (in 1 folder) was scanned.\r\n" + kBoxList);
 }
 
@@ -86,9 +85,9 @@ TEST_F(OutputFileTest, AListAgainGoesIntoTheFileToo) {
   DoNotWarn();
   ListTo(path);
   CountClipboard("dog cat dog");
-  EXPECT_EQ(ContentsOf(path), kHeader + "\ndog\ncat\n");
+  EXPECT_EQ(TextOf(path), kHeader + "\ndog\ncat\n");
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
 }
 
 TEST_F(OutputFileTest, AnEmptyTextBoxTellsThatTheFileIsBeingWritten) {
@@ -110,7 +109,7 @@ TEST_F(OutputFileTest, CommasStandInTheFileOnly) {
   ChooseFormat(DisplayFormat::kWordFrequency);
   ListTo(path);
   CountClipboard("cat dog cat");
-  EXPECT_EQ(ContentsOf(path), "  Word  ,   Freq\n  cat   ,      2\n  dog   ,      1\n");
+  EXPECT_EQ(TextOf(path), "  Word  ,   Freq\n  cat   ,      2\n  dog   ,      1\n");
   EXPECT_EQ(Output(), "  Word     Freq\r\n  cat         2\r\n  dog         1\r\n");
 }
 
@@ -118,7 +117,7 @@ TEST_F(OutputFileTest, WithoutTheChoiceOfCommasTheFileHasNone) {
   ChooseFormat(DisplayFormat::kWordFrequency);
   ListTo(path);
   CountClipboard("cat");
-  EXPECT_EQ(ContentsOf(path), "  Word     Freq\n  cat         1\n");
+  EXPECT_EQ(TextOf(path), "  Word     Freq\n  cat         1\n");
 }
 
 TEST_F(OutputFileTest, WordsWithCommasRunOnWithoutALineEnd) {
@@ -141,14 +140,14 @@ TEST_F(OutputFileTest, WordsWithCommasByFrequencyMissTheCommaBehindTheLastInTheA
 TEST_F(OutputFileTest, AListTooLongForTheTextBoxIsWholeInTheFile) {
   ListTo(path);
   CountClipboard("extra " + ManyWords(5'000));
-  EXPECT_EQ(ContentsOf(path).size(), 32U + 6U + 5'000U * 10);
+  EXPECT_EQ(TextOf(path).size(), 32U + 6U + 5'000U * 10);
   EXPECT_EQ(OnlyMessage().title, "Problem");
 }
 
 TEST_F(OutputFileTest, WordsAreWrittenInUtf8) {
   ListTo(path);
   CountClipboard("caf\u00E9 \u0161um");
-  EXPECT_TRUE(Has(ContentsOf(path), "\ncaf\u00E9\n"));
+  EXPECT_TRUE(Has(TextOf(path), "\ncaf\u00E9\n"));
 }
 
 // Whether an existing file is overwritten.
@@ -171,7 +170,7 @@ TEST_F(OutputFileTest, OkOnTheUnchangedPathOverwrites) {
   ListTo(folder.Write("out.txt", std::string(100, 'x')));
   desktop.AnswerText(path);
   CountTwoWords();
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), kBoxList);
   EXPECT_FALSE(Main().chkDisableOutputToFile.IsChecked());
 }
@@ -201,8 +200,8 @@ TEST_F(OutputFileTest, AnotherPathIsWrittenInstead) {
   desktop.AnswerText("  " + (folder / "Other.txt") + " ");
   CountTwoWords();
   EXPECT_EQ(ContentsOf(path), "precious");
-  EXPECT_EQ(ContentsOf(folder / "Other.txt"), kFileList);
-  EXPECT_EQ(Main().txbFile[1].Text(), folder / "Other.txt");
+  EXPECT_EQ(TextOf(folder / "Other.txt"), kFileList);
+  EXPECT_EQ(Main().txbFile[1].Text(), PathForWalk(folder / "Other.txt"));
   EXPECT_FALSE(Main().chkDisableOutputToFile.IsChecked());
 }
 
@@ -266,7 +265,7 @@ TEST_F(OutputFileTest, WithoutTheWarningAnExistingFileIsOverwritten) {
   DoNotWarn();
   ListTo(folder.Write("out.txt", "precious"));
   CountTwoWords();
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
 
@@ -274,7 +273,7 @@ TEST_F(OutputFileTest, AGreyBoxDoesNotWarn) {
   Panel().chkWarnOnOverwrite.SetValue(CheckState::kGrayed);
   ListTo(folder.Write("out.txt", "precious"));
   CountTwoWords();
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
 
@@ -288,7 +287,7 @@ TEST_F(OutputFileTest, SwitchingItOnOffersToListAgain) {
   Main().chkDisableOutputToFile.PerformClick();
   ExpectMessage(OnlyMessage(), "Relist words (so as to write to file)?", "Relist?",
                 MessageIcon::kQuestion, MessageButtons::kYesNo);
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), kBoxList);
   ExpectIdle();
 }
@@ -340,7 +339,7 @@ TEST_F(OutputFileTest, SwitchingItOnDuringARunOffersNothing) {
       Main().chkDisableOutputToFile.SetChecked(false);
     });
     CountTwoWords();
-    EXPECT_EQ(ContentsOf(path), kFileList);
+    EXPECT_EQ(TextOf(path), kFileList);
   }
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
@@ -425,7 +424,7 @@ TEST_F(OutputFileTest, AnErrorInTheTextBoxTellsThatTheFileIsWritten) {
   CountTwoWords();
   EXPECT_EQ(OnlyMessage().text,
             "Error 57: Device I/O error\r\nResults have been written to the output file.");
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   ExpectIdle();
 }
 
@@ -443,7 +442,7 @@ TEST_F(OutputFileTest, AfterAProblemTheListCanBeMadeElsewhere) {
   CountTwoWords();
   ListTo(path);
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(ContentsOf(path), kFileList);
+  EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), kBoxList);
 }
 

@@ -222,7 +222,7 @@ TEST_F(OutputTest, WithTheFileWrittenTheUserIsSentThere) {
   CountTooMuch();
   EXPECT_EQ(OnlyMessage().text,
             "Textbox is full.  \r\nResults have been written to the output file.");
-  EXPECT_EQ(ContentsOf(folder / "out.txt").size(), 32U + 6U + 5'000U * 10);
+  EXPECT_EQ(TextOf(folder / "out.txt").size(), 32U + 6U + 5'000U * 10);
 }
 
 TEST_F(OutputTest, ABoxOfExactly44000CharactersIsNotFull) {

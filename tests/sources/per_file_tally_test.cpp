@@ -28,7 +28,7 @@ class PerFileTally : public SourcesFixture {
     Main().cboDisplayFormat.SetListIndex(static_cast<int>(format));
   }
 
-  [[nodiscard]] std::string ListFile() const { return ContentsOf(folder / "list.txt"); }
+  [[nodiscard]] std::string ListFile() const { return TextOf(folder / "list.txt"); }
 
   [[nodiscard]] const FileTally& TallyOf(const std::string& word) {
     for (std::int32_t i = 1; i <= State().store.NumDifferentWords(); ++i) {
@@ -85,15 +85,16 @@ TEST_F(PerFileTally, TheFilesOfEachWordAreListedWithinTheFolder) {
   CountTexts();
   const std::string header =
       "2 files (in 2 folders) were scanned.\r\n\r\n{Folder} = " + (folder / "texts") + "\r\n\r\n";
-  EXPECT_EQ(Output(), header +
-                          "cat\r\n    {Folder}/a.txt\r\n    {Folder}/sub/b.txt\r\n\r\n"
-                          "dog\r\n    {Folder}/a.txt\r\n\r\n");
+  EXPECT_EQ(Output(),
+            header + NativePaths("cat\r\n    {Folder}/a.txt\r\n    {Folder}/sub/b.txt\r\n\r\n"
+                                 "dog\r\n    {Folder}/a.txt\r\n\r\n"));
   ListAs(DisplayFormat::kWordFileListFreq);
-  EXPECT_EQ(Output(), header +
-                          "cat\r\n    2 {Folder}/a.txt\r\n    1 {Folder}/sub/b.txt\r\n\r\n"
-                          "dog\r\n    1 {Folder}/a.txt\r\n\r\n");
+  EXPECT_EQ(Output(),
+            header + NativePaths("cat\r\n    2 {Folder}/a.txt\r\n    1 {Folder}/sub/b.txt\r\n\r\n"
+                                 "dog\r\n    1 {Folder}/a.txt\r\n\r\n"));
 }
 
+#ifndef _WIN32  // where names hold neither line breaks nor bytes that are no characters
 TEST_F(PerFileTally, NamesWithStrangeBytesAreListedAsTheyAre) {
   TypeWords(WordListKind::kCountOnly, "cat");
   Put(" two\nlines \xE9.txt", "cat");
@@ -102,6 +103,7 @@ TEST_F(PerFileTally, NamesWithStrangeBytesAreListedAsTheyAre) {
   EXPECT_TRUE(Has(Output(), "cat\r\n    {Folder}/ two\nlines \xE9.txt\r\n"));
   EXPECT_TRUE(Has(ListFile(), "cat\n    {Folder}/ two\nlines \xE9.txt\n"));
 }
+#endif
 
 TEST_F(PerFileTally, AWordsFileAndTypedWordsAreTalliedAlike) {
   desktop.AnswerFile(folder.Write("words.txt", "dog"));
@@ -184,14 +186,16 @@ TEST_F(PerFileTally, FilesAreToldForWordsInOneInTwoAndInMoreThan8000Files) {
   EXPECT_EQ(State().filesScanned, kFiles);
 
   ListAs(DisplayFormat::kWordFileListFreq);
+  EXPECT_TRUE(ListFile().ends_with(
+      NativePaths("\ntwo\n    2 {Folder}/10001.txt\n    2 {Folder}/18001.txt\n\n"
+                  "one\n    1 {Folder}/17000.txt\n\n")));
   EXPECT_TRUE(
-      ListFile().ends_with("\ntwo\n    2 {Folder}/10001.txt\n    2 {Folder}/18001.txt\n\n"
-                           "one\n    1 {Folder}/17000.txt\n\n"));
-  EXPECT_TRUE(Has(ListFile(), "\nall\n    1 {Folder}/10001.txt\n    1 {Folder}/10002.txt\n"));
-  EXPECT_TRUE(Has(ListFile(), "    1 {Folder}/18000.txt\n\ntwo\n"));
-  EXPECT_FALSE(Has(ListFile(), "    2 {Folder}/18000.txt"));
+      Has(ListFile(), NativePaths("\nall\n    1 {Folder}/10001.txt\n    1 {Folder}/10002.txt\n")));
+  EXPECT_TRUE(Has(ListFile(), NativePaths("    1 {Folder}/18000.txt\n\ntwo\n")));
+  EXPECT_FALSE(Has(ListFile(), NativePaths("    2 {Folder}/18000.txt")));
   ListAs(DisplayFormat::kWordFileList);
-  EXPECT_TRUE(Has(ListFile(), "\ntwo\n    {Folder}/10001.txt\n    {Folder}/18001.txt\n\n"));
+  EXPECT_TRUE(
+      Has(ListFile(), NativePaths("\ntwo\n    {Folder}/10001.txt\n    {Folder}/18001.txt\n\n")));
 }
 
 // 32,767 is the greatest number of occurrences in one file.

@@ -230,7 +230,7 @@ TEST_F(WholeRun, OverwriteQuestionKeepsOrReplacesTheFile) {
   Main().chkDisableOutputToFile.SetValue(CheckState::kGrayed);  // not ticked, and asks nothing
   desktop.AnswerText(" " + path + " ");
   CountClipboard("cat");
-  EXPECT_EQ(ContentsOf(path), "Word (longest has 3 characters)\ncat\n");
+  EXPECT_EQ(TextOf(path), "Word (longest has 3 characters)\ncat\n");
 }
 
 TEST_F(WholeRun, OtherFileInAMissingFolderIsRefused) {

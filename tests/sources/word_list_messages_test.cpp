@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
 
 #include "desktop/desktop_test.h"
@@ -167,7 +166,7 @@ TEST_F(WordListMessages, AMissingFileIsTold) {
 TEST_F(WordListMessages, WhileTheProgramStartsAMissingFileIsReplacedByTheDefault) {
   State().blnStartUpCompleted = false;
   EXPECT_FALSE(Attempt(kIgnore, folder / "nowhere.txt"));
-  EXPECT_TRUE(PathBox(kIgnore).Text().ends_with("/cwds_en.txt"));
+  EXPECT_TRUE(PathBox(kIgnore).Text().ends_with("cwds_en.txt"));
   EXPECT_FALSE(Attempt(kCountOnly, folder / "nowhere.txt"));
   EXPECT_EQ(PathBox(kCountOnly).Text(), folder / "nowhere.txt");
   EXPECT_THAT(desktop.Messages(), IsEmpty());
@@ -193,7 +192,7 @@ TEST_F(WordListMessages, AFileThatIsNotTextIsRefusedAndItsNameCleared) {
 
 TEST_F(WordListMessages, AFileThatMayNotBeReadIsTold) {
   const std::string path = folder.Write("secret.txt", "cat\r\n");
-  chmod(path.c_str(), 0);
+  const ClosedFile closed(path);
   EXPECT_EQ(AsOrdinaryUser([&] {
               EXPECT_FALSE(Attempt(kCountOnly, path));
               if (desktop.Messages().empty()) return 1;

@@ -295,7 +295,7 @@ TEST_F(WordListReaderTest, AClearedWordsFileHasNoEffect) {
 
 TEST_F(WordListReaderTest, TheDefaultCommonWordsFileIsTextAndCanBeRead) {
   program.wordLists.SetPathToCWDs_Eng();
-  EXPECT_TRUE(Panel().txbWordsFile[0].Text().ends_with("/cwds_en.txt"));
+  EXPECT_TRUE(Panel().txbWordsFile[0].Text().ends_with("cwds_en.txt"));
   ASSERT_TRUE(program.wordLists.AttemptToReadWords(kIgnore));
   EXPECT_THAT(Read(kIgnore), ::testing::Contains("the"));
   CountClipboard("the lighthouse of the harbour");

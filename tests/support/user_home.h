@@ -2,41 +2,35 @@
 // Afterwards the environment is as it was.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
 
+#include "support/environment.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {
 
 class UserHome {
  public:
-  UserHome() : currentFolder_(std::filesystem::current_path()) {
-    if (const char* value = std::getenv(kVariable)) before_ = value;
-    setenv(kVariable, folder_.Path().c_str(), 1);
-  }
+  UserHome() : currentFolder_(std::filesystem::current_path()) {}
   UserHome(const UserHome&) = delete;
   UserHome& operator=(const UserHome&) = delete;
   UserHome(UserHome&&) = delete;
   UserHome& operator=(UserHome&&) = delete;
-  ~UserHome() {
-    if (before_) {
-      setenv(kVariable, before_->c_str(), 1);
-    } else {
-      unsetenv(kVariable);
-    }
-    std::filesystem::current_path(currentFolder_);
-  }
+  ~UserHome() { std::filesystem::current_path(currentFolder_); }
 
   [[nodiscard]] std::string SettingsFile() const { return folder_ / "Orvandel Systems/qlav.usr"; }
 
- private:
+  /// What names the base folder of settings in the environment.
+#ifdef _WIN32
+  static constexpr const char* kVariable = "QUILLOMAT_SETTINGS";
+#else
   static constexpr const char* kVariable = "XDG_CONFIG_HOME";
+#endif
 
+ private:
   TemporaryFolder folder_;
-  std::optional<std::string> before_;
+  ScopedVariable settings_{kVariable, folder_.Path()};
   std::filesystem::path currentFolder_;
 };
 

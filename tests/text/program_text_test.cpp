@@ -337,9 +337,10 @@ TEST_F(LoadProgramTextTest, PathIsShownInFullAndWithoutDoubledSeparator) {
 TEST_F(LoadProgramTextTest, RelativeDataFolderIsShownFromTheRoot) {
   const ScopedVariable relative("QUILLOMAT_DATA", "no such folder");
   EXPECT_FALSE(text.LoadProgramText("qlav_text.dat", desktop));
-  ExpectOneCriticalMessage("Cannot open file containing program text.\r\n" +
-                           std::filesystem::current_path().string() +
-                           "/no such folder/qlav_text.dat");
+  ExpectOneCriticalMessage(
+      "Cannot open file containing program text.\r\n" +
+      JoinPath(JoinPath(std::filesystem::current_path().string(), "no such folder"),
+               "qlav_text.dat"));
 }
 
 TEST_F(LoadProgramTextTest, DuplicateOnLine12EndsTheProgram) {

@@ -4,8 +4,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "desktop/native_path.h"
-
 namespace quillomat {
 
 std::optional<std::string> EnvironmentVariable(const std::string& name) {
@@ -16,7 +14,7 @@ std::optional<std::string> EnvironmentVariable(const std::string& name) {
 
 std::string ProgramPath() {
   std::error_code error;
-  return FromNativePath(std::filesystem::read_symlink("/proc/self/exe", error));
+  return std::filesystem::read_symlink("/proc/self/exe", error).native();
 }
 
 }  // namespace quillomat

@@ -1,3 +1,6 @@
+#include <filesystem>
+#include <system_error>
+
 #include "desktop/native_path.h"
 #include "desktop/output_file.h"
 #include "desktop/paths.h"
@@ -16,12 +19,14 @@ std::string PathForWalk(std::string_view path) {
   return std::string(path);
 }
 
-std::filesystem::path ToNativePath(std::string_view path) {
-  return path;
+std::size_t RootLength(std::string_view path) {
+  return path.starts_with('/') ? 1 : 0;
 }
 
-std::string FromNativePath(const std::filesystem::path& path) {
-  return path.native();
+std::string FromRootOn(std::string_view path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  return error ? std::string(path) : absolute.native();
 }
 
 bool SamePathText(std::string_view left, std::string_view right) {

@@ -1,13 +1,14 @@
 #include "desktop/native_file.h"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 #include <windows.h>
 
 #include "desktop/native_path.h"
+#include "desktop/paths.h"
 #include "desktop/system_error.h"
-#include "desktop/windows/wide_text.h"
+#include "desktop/windows/system_path.h"
+#include "desktop/windows/windows_error.h"
 
 namespace quillomat {
 namespace {
@@ -20,22 +21,26 @@ HANDLE AsHandle(std::intptr_t handle) {
 }
 
 [[noreturn]] void ThrowError(DWORD error, FileAction action, const std::string& path = {}) {
-  const std::error_code code(static_cast<int>(error), std::system_category());
-  throw ToRunTimeError(code, action, path);
+  throw ToRunTimeError(ErrorCodeOf(error), action, path);
 }
 
-bool IsFolder(const std::wstring& path) {
+bool HasAttribute(const std::wstring& path, DWORD attribute) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
 std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD creation,
                    FileAction action) {
   if (NamesNothing(path)) ThrowError(ERROR_FILE_NOT_FOUND, action, path);
-  const std::wstring wide = ToWide(path);
-  if (IsFolder(wide)) throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
+  const std::wstring system = SystemPath(path);
+  if (!NamesFit(system)) ThrowError(ERROR_FILENAME_EXCED_RANGE, action, path);
+  if (HasAttribute(system, FILE_ATTRIBUTE_DIRECTORY)) {
+    throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
+  }
+  // A separator at the end asks for a folder.
+  if (IsPathSeparator(path.back())) ThrowError(ERROR_DIRECTORY, action, path);
   const HANDLE handle =
-      CreateFileW(wide.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+      CreateFileW(system.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) ThrowError(GetLastError(), action, path);
   return reinterpret_cast<std::intptr_t>(handle);
 }
@@ -48,6 +53,11 @@ NativeFile NativeFile::OpenForReading(const std::string& path) {
 }
 
 NativeFile NativeFile::OpenForWriting(const std::string& path) {
+  if (!MayBeMade(path)) ThrowError(ERROR_INVALID_NAME, FileAction::kOpenToWrite, path);
+  // Not every file system minds the mark.
+  if (!NamesNothing(path) && HasAttribute(SystemPath(path), FILE_ATTRIBUTE_READONLY)) {
+    ThrowError(ERROR_ACCESS_DENIED, FileAction::kOpenToWrite, path);
+  }
   return NativeFile(
       Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FileAction::kOpenToWrite));
 }

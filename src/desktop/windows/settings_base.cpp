@@ -2,7 +2,9 @@
 #include <shlobj.h>
 #include <windows.h>
 
+#include "desktop/environment.h"
 #include "desktop/settings_folder.h"
+#include "desktop/windows/drives.h"
 #include "desktop/windows/wide_text.h"
 
 namespace quillomat {
@@ -12,6 +14,8 @@ struct TaskMemoryFreer {
   void operator()(wchar_t* memory) const { CoTaskMemFree(memory); }
 };
 
+}  // namespace
+
 std::string FirstFixedDrive() {
   for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
     const std::wstring drive{letter, L':'};
@@ -20,9 +24,8 @@ std::string FirstFixedDrive() {
   return {};
 }
 
-}  // namespace
-
 std::string SettingsBaseFolder() {
+  if (auto configured = EnvironmentVariable("QUILLOMAT_SETTINGS")) return *std::move(configured);
   wchar_t* found = nullptr;
   const HRESULT result = SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &found);
   const std::unique_ptr<wchar_t, TaskMemoryFreer> folder(found);

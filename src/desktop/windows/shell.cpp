@@ -6,6 +6,7 @@
 #include <shellapi.h>
 // clang-format on
 
+#include "desktop/file_system.h"
 #include "desktop/windows/wide_text.h"
 
 namespace quillomat {
@@ -17,8 +18,11 @@ constexpr INT_PTR kLastShellError = 32;
 }  // namespace
 
 bool OpenWithShell(const std::string& documentOrAddress) {
-  const HINSTANCE result = ShellExecuteW(nullptr, nullptr, ToWide(documentOrAddress).c_str(),
-                                         nullptr, L"C:\\", SW_SHOWNORMAL);
+  // A path is made whole first: the shell would look for it from its own working folder on.
+  const bool isPath = FileExists(documentOrAddress) || FolderExists(documentOrAddress);
+  const std::string target = isPath ? AbsolutePath(documentOrAddress) : documentOrAddress;
+  const HINSTANCE result =
+      ShellExecuteW(nullptr, nullptr, ToWide(target).c_str(), nullptr, L"C:\\", SW_SHOWNORMAL);
   return reinterpret_cast<INT_PTR>(result) > kLastShellError;
 }
 

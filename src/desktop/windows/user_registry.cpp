@@ -1,11 +1,11 @@
 #include "desktop/user_registry.h"
 
 #include <memory>
-#include <system_error>
 #include <type_traits>
 #include <windows.h>
 
 #include "desktop/windows/wide_text.h"
+#include "desktop/windows/windows_error.h"
 
 namespace quillomat {
 namespace {
@@ -45,7 +45,7 @@ RegistryKeyResult CreateOrOpenUserKey(const std::string& keyPath) {
                       REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &key, &disposition);
   const Key closer(key);
   if (status != ERROR_SUCCESS) {
-    return {RegistryKeyOutcome::kFailed, std::system_category().message(status)};
+    return {RegistryKeyOutcome::kFailed, ErrorText(static_cast<DWORD>(status))};
   }
   return {OutcomeOf(disposition), {}};
 }

@@ -1,8 +1,7 @@
-#include "desktop/locale_info.h"
-
 #include <cstdlib>
 
 #include "desktop/desktop_test.h"
+#include "desktop/locale_info.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {

@@ -1,9 +1,8 @@
-#include "desktop/paths.h"
-
 #include <filesystem>
 
 #include "desktop/desktop_test.h"
 #include "desktop/file_system.h"
+#include "desktop/paths.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {

@@ -1,11 +1,10 @@
-#include "desktop/shell.h"
-
 #include <chrono>
 #include <filesystem>
 #include <thread>
 
 #include "desktop/desktop_test.h"
 #include "desktop/file_system.h"
+#include "desktop/shell.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {

@@ -1,0 +1,11 @@
+# What a build for Windows on another system needs: headers of Debian that are the same for every
+# system, by themselves (the folder that they stand in holds those of the system, too).
+set(shared_headers "${PROJECT_BINARY_DIR}/shared-headers")
+file(MAKE_DIRECTORY "${shared_headers}")
+file(CREATE_LINK /usr/include/CLI "${shared_headers}/CLI" SYMBOLIC)
+add_library(CLI11::CLI11 INTERFACE IMPORTED)
+set_target_properties(CLI11::CLI11 PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "${shared_headers}")
+
+# Windows programs run here through Wine, with a home of their own in the build folder.
+set(CMAKE_CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/packaging/windows/wine.sh"
+                                  "${PROJECT_BINARY_DIR}/wine")

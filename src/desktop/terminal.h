@@ -1,0 +1,27 @@
+// The program's side of a terminal: its arguments and standard streams.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quillomat {
+
+/// While it lives, standard input gives its bytes as they are, and a console takes and shows UTF-8.
+class Terminal {
+ public:
+  Terminal();
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+  Terminal(Terminal&&) = delete;
+  Terminal& operator=(Terminal&&) = delete;
+  ~Terminal();  // NOLINT(performance-trivially-destructible): it has nothing to do on POSIX only
+
+ private:
+  unsigned inputEncodingBefore_ = 0;
+  unsigned outputEncodingBefore_ = 0;
+};
+
+/// The arguments of `main` as UTF-8 (plain bytes where paths are those), the program's name first.
+[[nodiscard]] std::vector<std::string> ProgramArguments(int argc, const char* const* argv);
+
+}  // namespace quillomat

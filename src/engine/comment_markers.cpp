@@ -1,0 +1,76 @@
+#include "engine/comment_markers.h"
+
+#include <algorithm>
+
+#include "base/letter_case.h"
+#include "engine/html_entities.h"
+
+namespace quillomat {
+namespace {
+
+/// Whether the lower-cased `marker`, which is not empty, stands at the start of `text` in any
+/// letter case. Nearly always the first character decides.
+bool StartsWithMarker(std::string_view text, std::string_view marker) {
+  const auto first = static_cast<unsigned char>(text[0]);
+  const auto wanted = static_cast<unsigned char>(marker[0]);
+  const bool capital = first >= 'A' && first <= 'Z';
+  if (wanted < 0x80) {
+    if (wanted != (capital ? first + 0x20U : first)) return false;
+    if (marker.size() == 1) return true;
+  }
+  return EqualIgnoringCase(text.substr(0, marker.size()), marker);
+}
+
+/// A sign of which a line holds as many before it is rewritten as afterwards: no letter, no blank,
+/// and no hyphen, of which two together become a blank.
+bool IsSteadySign(char ch) {
+  const bool letter = (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z');
+  return ch > ' ' && ch < 0x7F && ch != '-' && !letter;
+}
+
+}  // namespace
+
+void CommentMarkers::Prepare(const ScanSettings& settings) {
+  if (preparedStart_ == settings.CommentStart && preparedEnd_ == settings.CommentEnd) return;
+  preparedStart_ = settings.CommentStart;
+  preparedEnd_ = settings.CommentEnd;
+  mayStart_.reset();
+  for (std::size_t pair = 0; pair < 2; ++pair) {
+    start_[pair] = LowerCase(preparedStart_[pair]);
+    end_[pair] = LowerCase(preparedEnd_[pair]);
+    if (!start_[pair].empty()) NoteStart(start_[pair][0]);
+  }
+}
+
+/// The bytes with which a lower-cased marker may start in a text of any letter case.
+void CommentMarkers::NoteStart(char first) {
+  const auto byte = static_cast<unsigned char>(first);
+  if (byte >= 0x80) {
+    for (std::size_t high = 0x80; high < mayStart_.size(); ++high) mayStart_.set(high);
+    return;
+  }
+  mayStart_.set(byte);
+  if (byte >= 'a' && byte <= 'z') mayStart_.set(byte - std::size_t{'a' - 'A'});
+}
+
+int CommentMarkers::StartAt(std::string_view text, bool forced) const {
+  for (std::size_t pair = 0; pair < 2; ++pair) {
+    const std::string& marker = start_[pair];
+    if (marker.empty() || !StartsWithMarker(text, marker)) continue;
+    const bool mustBeEntity = pair == 1 && forced && marker == "&";
+    if (mustBeEntity && HtmlEntityEnd(text) == 0) return kNoComment;
+    return static_cast<int>(pair);
+  }
+  return kNoComment;
+}
+
+bool CommentMarkers::CanBeFoundInRawLines(const TokenClasses& tokens) const {
+  for (std::size_t pair = 0; pair < 2; ++pair) {
+    if (!start_[pair].empty() && tokens.Holds(start_[pair][0])) return false;
+    // A comment may be open whose pair has lost its start marker since: its end is looked for, too.
+    if (!std::ranges::all_of(start_[pair] + end_[pair], IsSteadySign)) return false;
+  }
+  return true;
+}
+
+}  // namespace quillomat

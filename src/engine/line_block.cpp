@@ -1,0 +1,112 @@
+#include "engine/line_block.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/letter_case.h"
+#include "engine/html_entities.h"
+
+namespace quillomat {
+namespace {
+
+/// The first line end of `text` at or behind `position`, or the size of `text`.
+std::size_t LineEnd(std::string_view text, std::size_t position) {
+  const std::size_t lineFeed = std::min(text.find('\n', position), text.size());
+  return std::min(text.substr(0, lineFeed).find('\r', position), lineFeed);
+}
+
+/// Finds the places where a comment may start, in order.
+class MarkerSearch {
+ public:
+  MarkerSearch(const ScanSettings& settings, std::string_view text) : text_(text) {
+    for (const std::string& start : settings.CommentStart) {
+      if (start.empty() || (firsts_ == 1 && first_[0] == start[0])) continue;
+      first_[firsts_++] = start[0];
+    }
+  }
+
+  /// The first at or behind `position`, which never goes back; the size of the text behind the
+  /// last.
+  std::size_t Next(std::size_t position) {
+    std::size_t nearest = text_.size();
+    for (std::size_t i = 0; i < firsts_; ++i) {
+      if (!searched_[i] || next_[i] < position) {
+        next_[i] = std::min(text_.find(first_[i], position), text_.size());
+        searched_[i] = true;
+      }
+      nearest = std::min(nearest, next_[i]);
+    }
+    return nearest;
+  }
+
+ private:
+  std::string_view text_;
+  std::array<char, 2> first_{};
+  std::array<std::size_t, 2> next_{};
+  std::array<bool, 2> searched_{};
+  std::size_t firsts_ = 0;
+};
+
+}  // namespace
+
+void LineBlock::Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
+                     bool caseSignificant) {
+  const bool decoded = DecodeHtmlEntitiesOfLines(lines, !caseSignificant, decoded_);
+  caseSignificant_ = caseSignificant;
+  text_ = decoded ? std::string_view(decoded_) : lines;
+  edges_.Classify(classes_, text_);
+  if (settings.UseCommentMarkers) CutComments(markers, settings);
+  edges_.Find(text_.size());
+}
+
+void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& settings) {
+  int& open = settings.OpenComment;
+  MarkerSearch search(settings, text_);
+  std::size_t position = 0;
+  if (open != kNoComment) {
+    // Empty lines are passed over, and end no comment either.
+    const std::size_t start = std::min(text_.find_first_not_of(" \r\n"), text_.size());
+    if (start == text_.size()) return;
+    position = EndOfComment(markers, start, open);
+    edges_.CutOut(0, position);
+  }
+  for (;;) {
+    position = search.Next(position);
+    if (position == text_.size()) return;
+    // Only an entity could go beyond its line, which no marker does.
+    const std::string_view rest =
+        text_[position] == '&' ? RestOfLine(position) : text_.substr(position);
+    open = markers.StartAt(rest, settings.ForceCommentMarkers);
+    if (open == kNoComment) {
+      ++position;
+      continue;
+    }
+    const std::size_t start = position;
+    position = EndOfComment(markers, start, open);
+    edges_.CutOut(start, position);
+  }
+}
+
+/// As far as it may be an entity: two hyphens stand for a blank, beyond which none goes.
+std::string_view LineBlock::RestOfLine(std::size_t position) {
+  std::string_view line = text_.substr(position, LineEnd(text_, position) - position);
+  line = line.substr(0, line.find("--"));
+  const bool accented = line.size() > 1 && static_cast<unsigned char>(line[1]) >= 0x80;
+  if (!accented || caseSignificant_) return line;
+  // Of a letter that begins the name, its small form counts.
+  lowerCased_ = LowerCase(line);
+  return lowerCased_;
+}
+
+/// Where a comment that is open at `start` ends. A comment that does not end in the text stays
+/// open.
+std::size_t LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start,
+                                    int& open) const {
+  const std::string& marker = markers.EndMarker(open);
+  const std::size_t end = marker.empty() ? LineEnd(text_, start) : text_.find(marker, start);
+  if (end == std::string_view::npos) return text_.size();
+  open = kNoComment;
+  return end + marker.size();
+}
+
+}  // namespace quillomat

@@ -1,0 +1,55 @@
+// Many lines of a file at once, as they stand there: entities of letters are decoded, comments are
+// passed over, and the tokens of the rest are found. What is found is what the lines would give one
+// after the other.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/comment_markers.h"
+#include "engine/scan_settings.h"
+#include "engine/token_classes.h"
+
+namespace quillomat {
+
+class LineBlock {
+ public:
+  explicit LineBlock(const TokenClasses& classes) : classes_(classes) {}
+
+  /// Takes whole lines of well-formed UTF-8, and forgets those before. `settings` says whether
+  /// markers are in force, and whether a comment is open: this is carried on. The markers can be
+  /// found in raw lines. `lines` must outlive the use of the tokens.
+  void Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
+            bool caseSignificant);
+
+  [[nodiscard]] std::size_t TokenCount() const { return edges_.TokenCount(); }
+  struct Token {
+    const char* text;
+    std::size_t bytes;
+    /// So many bytes can be read at the text.
+    std::size_t readable;
+  };
+  /// `token` is less than TokenCount().
+  [[nodiscard]] Token TokenAt(std::size_t token) const {
+    const std::size_t start = edges_.Start(token);
+    return {text_.data() + start, edges_.End(token) - start, text_.size() - start};
+  }
+
+ private:
+  void CutComments(const CommentMarkers& markers, ScanSettings& settings);
+  [[nodiscard]] std::string_view RestOfLine(std::size_t position);
+  [[nodiscard]] std::size_t EndOfComment(const CommentMarkers& markers, std::size_t start,
+                                         int& open) const;
+
+  const TokenClasses& classes_;
+  std::string_view text_;
+  bool caseSignificant_ = false;
+  std::string decoded_;
+  std::string lowerCased_;
+  TokenEdges edges_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,91 @@
+// Scans pieces of a text apart from each other, so that they can be scanned at the same time, and
+// joins what was found in their order: with the result of one scan from end to end.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/line_pieces.h"
+#include "engine/scan_settings.h"
+#include "engine/word_list.h"
+#include "engine/word_scanner.h"
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+/// What a PieceScanner has found in a piece. It numbers its words as it meets them, through all its
+/// pieces.
+struct PieceCount {
+  /// The numbers begin anew with this piece.
+  bool numbersAnew = false;
+  /// Occurrences in the piece, by the number of the word.
+  std::vector<std::int32_t> counts;
+  /// The words that got their numbers in this piece, the last ones of `counts`, in order.
+  std::string newLetters;
+  std::vector<std::uint32_t> newWordBytes;
+  std::int32_t wordsRead = 0;
+  /// ScanSettings::OpenComment behind the piece.
+  int openComment = -1;
+  std::int64_t bytesWithLongLineEnds = 0;
+};
+
+/// For one thread.
+class PieceScanner {
+ public:
+  /// Everything but the settings must outlive the scanner. The settings' flags and lists are those
+  /// of all pieces. A scan ends early, and its result is worth nothing, once `stop` is set.
+  PieceScanner(ScanSettings settings, const ScanChoices& choices, const WordLists& lists,
+               const std::atomic<bool>& stop);
+
+  /// Scans `text`, whole lines. `settings` has its markers and says which comment is open.
+  [[nodiscard]] PieceCount Scan(TextPiece& text, const ScanSettings& settings);
+
+  /// Numbers the words anew: after a result was thrown away.
+  void ForgetWords();
+
+ private:
+  class StopTest final : public ScanYield {
+   public:
+    explicit StopTest(const std::atomic<bool>& stop) : stop_(stop) {}
+    bool Yield() override { return stop_.load(std::memory_order_relaxed); }
+    [[nodiscard]] std::uint32_t CallsLeft() const override { return UINT32_MAX; }
+
+   private:
+    const std::atomic<bool>& stop_;
+  };
+
+  void ScanLines(TextPiece& text);
+  void DescribeNewWords(PieceCount& count);
+
+  ScanSettings settings_;
+  const ScanChoices& choices_;
+  WordStore store_;
+  StopTest stopTest_;
+  WordScanner scanner_;
+  std::string buffer_;
+  bool numbersAnew_ = true;
+  std::int32_t wordsTold_ = 0;
+};
+
+/// Puts what one PieceScanner has found into the store of the whole text.
+class PieceJoiner {
+ public:
+  /// To be called in the order of the pieces. New words come into the store in the order of the
+  /// text. Throws RunTimeError 6 as the store does. The store is neither sorted nor cleared between
+  /// two calls.
+  void Join(const PieceCount& piece, WordStore& store);
+
+ private:
+  /// The places in the store, by the number of the word.
+  std::vector<std::uint32_t> places_;
+};
+
+/// The comment that is likely to be open behind `text`, where `before` was open in front of it; a
+/// guess that looks at the last lines only.
+[[nodiscard]] int LikelyOpenComment(std::string_view text, const ScanSettings& settings,
+                                    int before);
+
+}  // namespace quillomat

@@ -1,0 +1,206 @@
+#include "engine/token_taker.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+
+#include "base/checked_count.h"
+#include "base/letter_case.h"
+#include "base/text_helpers.h"
+#include "base/utf8.h"
+#include "engine/fold_accents.h"
+#include "engine/word_rules.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kTrimmedFromWords = "-'.,:()";
+
+bool IsLetter(char ch) {
+  return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
+}
+
+}  // namespace
+
+/// What is left of a token that starts as words may start; often all of it, sometimes nothing.
+std::string_view TokenTaker::FinalForm(std::string_view token) {
+  std::string_view word = TrimTrailingChars(token, kTrimmedFromWords);
+  if (settings_.ReadingWordList) {
+    if (!word.empty()) settings_.NoteListWordChars(word);
+    return word;
+  }
+  if (IsSet(choices_.dropFinalS)) word = DropFinalS(word);
+  const bool dropFragments = choices_.AllowWith(AllowFlag::kApostrophe) == CheckState::kUnchecked;
+  if (dropFragments && IsApostropheFragment(word)) return {};
+  return word;
+}
+
+void TokenTaker::TakeCut(std::string_view token) {
+  if (settings_.ReadingWordList || token.size() > TokenMemo::kMostBytes) {
+    static_cast<void>(WorkOutCut(token));
+    return;
+  }
+  ForgetTokensOfOldStore();
+  const TokenMemo::Key key = TokenMemo::KeyOf(token.data(), token.size(), token.size());
+  const TokenOutcome known = memo_.Find(key);
+  if (known == kUnknownToken) return memo_.Remember(key, WorkOutCut(token));
+  if (known != kNoWord) IncrementChecked(wordsRead_);
+  if (IsPlace(known)) store_.CountWordAt(known);
+}
+
+TokenOutcome TokenTaker::WorkOutCut(std::string_view token) {
+  const std::string_view word = FinalForm(token);
+  if (word.empty()) return kNoWord;
+  if (settings_.ReadingWordList) {
+    store_.AddWord(word, true);
+    return kWordNotStored;
+  }
+  IncrementChecked(wordsRead_);
+  if (!lists_.Admits(word, settings_.CountOnlyMode)) return kWordNotStored;
+  return store_.AddWord(word).value_or(kWordNotStored);
+}
+
+void TokenTaker::ForgetTokensOfOldStore() {
+  if (memoGeneration_ == store_.Generation()) return;
+  memo_.Clear();
+  memoGeneration_ = store_.Generation();
+}
+
+void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t count) {
+  ForgetTokensOfOldStore();
+  std::array<std::uint32_t, kTokensAtOnce> places{};
+  std::size_t placed = 0;
+  std::int32_t words = 0;
+  newTokens_.clear();
+  // In steps, so that the memory has time to bring what the next step needs.
+  // A kilobyte that is written before it is read.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+  std::array<TokenMemo::Key, kTokensAtOnce> keys;
+  for (std::size_t i = 0; i < count; ++i) {
+    const LineBlock::Token token = block.TokenAt(first + i);
+    keys[i] = token.bytes > TokenMemo::kMostBytes
+                  ? TokenMemo::NoKey()
+                  : TokenMemo::KeyOf(token.text, token.bytes, token.readable);
+    memo_.Prefetch(keys[i]);
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    const TokenOutcome outcome = memo_.Find(keys[i]);
+    places[placed] = outcome;
+    placed += static_cast<std::size_t>(IsPlace(outcome));
+    words += static_cast<std::int32_t>(outcome <= kWordNotStored);
+    if (outcome == kUnknownToken) newTokens_.push_back({first + i, keys[i], 0});
+  }
+  AddChecked(wordsRead_, words);
+  store_.CountWordsAt(std::span(places).first(placed));
+  if (newTokens_.empty()) return;
+  newWords_.clear();
+  newLetters_.clear();
+  for (NewToken& token : newTokens_) {
+    const LineBlock::Token found = block.TokenAt(token.number);
+    WorkOutToken({found.text, found.bytes});
+    token.wordsEnd = newWords_.size();
+  }
+  AddChecked(wordsRead_, static_cast<std::int32_t>(newWords_.size()));
+  AddNewWords();
+}
+
+/// Notes the words of a token as it stands in a file: seldom more than one ("well--known").
+void TokenTaker::WorkOutToken(std::string_view token) {
+  if (WorkOutPlainToken(token)) return;
+  std::string_view text = PrepareLine(token, IsSet(choices_.caseSignificant), tokenText_);
+  if (text.find("--") != std::string_view::npos) {
+    tokenText_ = ReplaceAll(text, "--", " ");
+    text = tokenText_;
+  }
+  for (std::size_t position = 0; position < text.size();) {
+    if (!charClass_.MayStartWord(text, position)) {
+      position += CharacterAt(text, position).bytes;
+      continue;
+    }
+    const std::size_t bytes = WordRunBytes(charClass_, text, position);
+    NoteNewWord(FinalForm(text.substr(position, bytes)));
+    position += bytes;
+  }
+}
+
+/// The same for a short token of letters without accents, which most are; false for any other.
+bool TokenTaker::WorkOutPlainToken(std::string_view token) {
+  constexpr char kToLower = 'a' - 'A';
+  std::array<char, TokenMemo::kMostBytes> letters{};
+  if (token.size() > letters.size()) return false;
+  const bool keepCase = IsSet(choices_.caseSignificant);
+  for (std::size_t i = 0; i < token.size(); ++i) {
+    if (!IsLetter(token[i])) return false;
+    letters[i] = keepCase ? token[i] : static_cast<char>(token[i] | kToLower);
+  }
+  NoteNewWord(FinalForm({letters.data(), token.size()}));
+  return true;
+}
+
+/// Nothing for a token of which nothing is left.
+void TokenTaker::NoteNewWord(std::string_view word) {
+  if (word.empty()) return;
+  NewWord noted;
+  const bool isLong = word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit;
+  noted.isStored = lists_.Admits(word, settings_.CountOnlyMode) && !isLong;
+  if (noted.isStored) {
+    const std::string_view key = SortKeyOf(word, keyText_);
+    noted.wordStart = newLetters_.size();
+    noted.wordBytes = word.size();
+    newLetters_.append(word);
+    noted.keyStart = noted.wordStart;
+    noted.keyBytes = key.size();
+    if (key.data() != word.data()) {
+      noted.keyStart = newLetters_.size();
+      newLetters_.append(key);
+    }
+    noted.hash = HashOfWord(key);
+    store_.PrefetchSlot(noted.hash);
+  }
+  newWords_.push_back(noted);
+}
+
+KeyedWord TokenTaker::Keyed(const NewWord& word) const {
+  const std::string_view letters = newLetters_;
+  return {letters.substr(word.wordStart, word.wordBytes),
+          letters.substr(word.keyStart, word.keyBytes), word.hash};
+}
+
+void TokenTaker::AddNewWords() {
+  for (const NewWord& word : newWords_) {
+    if (word.isStored) store_.PrefetchLetters(word.hash);
+  }
+  std::size_t next = 0;
+  for (const NewToken& token : newTokens_) {
+    const std::size_t words = token.wordsEnd - next;
+    TokenOutcome outcome = kNoWord;
+    for (; next < token.wordsEnd; ++next) {
+      const NewWord& word = newWords_[next];
+      outcome = word.isStored ? store_.AddKeyedWord(Keyed(word)) : kWordNotStored;
+    }
+    const bool canBeRemembered = words <= 1 && token.key.low != 0;
+    // It may stand in the block twice.
+    if (canBeRemembered && memo_.Find(token.key) == kUnknownToken) {
+      memo_.Remember(token.key, outcome);
+    }
+  }
+}
+
+std::size_t WordRunBytes(const CharClass& charClass, std::string_view text, std::size_t position) {
+  const std::size_t start = position;
+  for (std::size_t count = 0; count < kMaxWordRun && position < text.size(); ++count) {
+    const std::size_t bytes = charClass.WordCharBytes(text, position);
+    if (bytes == 0) break;
+    position += bytes;
+  }
+  return position - start;
+}
+
+std::string_view PrepareLine(std::string_view line, bool caseSignificant, std::string& buffer) {
+  buffer.assign(line);
+  if (!caseSignificant) MakeLowerCase(buffer);
+  buffer.push_back(' ');
+  return buffer;
+}
+
+}  // namespace quillomat

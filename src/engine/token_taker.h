@@ -1,0 +1,102 @@
+// Decides what becomes of a token: cuts the word in it to its final form, asks the lists whether it
+// is to be counted, and counts it in the store.
+//
+// What becomes of a token depends on the token and the settings alone, so it is worked out once and
+// remembered; the next token like it costs one look-up.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/char_class.h"
+#include "engine/line_block.h"
+#include "engine/scan_settings.h"
+#include "engine/token_memo.h"
+#include "engine/word_list.h"
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+class TokenTaker {
+ public:
+  /// As many tokens as are looked up together.
+  static constexpr std::size_t kTokensAtOnce = 64;
+
+  /// Everything referred to must outlive the taker.
+  TokenTaker(ScanSettings& settings, const ScanChoices& choices, const CharClass& charClass,
+             const WordLists& lists, WordStore& store)
+      : settings_(settings),
+        choices_(choices),
+        charClass_(charClass),
+        lists_(lists),
+        store_(store),
+        memoGeneration_(store.Generation()) {}
+
+  /// Takes a run of word characters that starts as words may start, out of a text that was
+  /// lower-cased and rewritten as the settings want it.
+  void TakeCut(std::string_view token);
+
+  /// Takes tokens of a block, at most kTokensAtOnce.
+  void TakeMany(const LineBlock& block, std::size_t first, std::size_t count);
+
+  /// Words read so far, whether they were counted or not.
+  [[nodiscard]] std::int32_t WordsRead() const { return wordsRead_; }
+  void SetWordsRead(std::int32_t wordsRead) { wordsRead_ = wordsRead; }
+
+ private:
+  /// A word of a token that is met for the first time. Its letters, and those of its key, are in
+  /// newLetters_.
+  struct NewWord {
+    std::size_t wordStart = 0;
+    std::size_t wordBytes = 0;
+    std::size_t keyStart = 0;
+    std::size_t keyBytes = 0;
+    std::uint32_t hash = 0;
+    bool isStored = false;
+  };
+  /// A token that is met for the first time, and where its words end in newWords_.
+  struct NewToken {
+    std::size_t number = 0;
+    TokenMemo::Key key{};
+    std::size_t wordsEnd = 0;
+  };
+
+  [[nodiscard]] std::string_view FinalForm(std::string_view token);
+  TokenOutcome WorkOutCut(std::string_view token);
+  void WorkOutToken(std::string_view token);
+  [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
+  void NoteNewWord(std::string_view word);
+  [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
+  void AddNewWords();
+  void ForgetTokensOfOldStore();
+
+  ScanSettings& settings_;
+  const ScanChoices& choices_;
+  const CharClass& charClass_;
+  const WordLists& lists_;
+  WordStore& store_;
+  TokenMemo memo_;
+  std::uint64_t memoGeneration_;
+  std::int32_t wordsRead_ = 0;
+
+  std::vector<NewToken> newTokens_;
+  std::vector<NewWord> newWords_;
+  std::string newLetters_;
+  std::string tokenText_;
+  std::string keyText_;
+};
+
+/// How many bytes the run of word characters has that starts at `position`; at most kMaxWordRun
+/// characters belong to one.
+[[nodiscard]] std::size_t WordRunBytes(const CharClass& charClass, std::string_view text,
+                                       std::size_t position);
+
+/// `line` as a scan wants a line of text to be counted: lower-cased unless letter case is
+/// significant, with one blank appended. The result stays in `buffer`.
+[[nodiscard]] std::string_view PrepareLine(std::string_view line, bool caseSignificant,
+                                           std::string& buffer);
+
+}  // namespace quillomat
