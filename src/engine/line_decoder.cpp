@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 #include "base/utf8.h"
 
@@ -167,9 +168,6 @@ void UnmarkedSource::TakeUnit(char16_t unit) {
 LineDecoder::LineDecoder(ByteSource& source)
     : source_(std::in_place, source), buffer_(kFirstBufferBytes) {}
 
-LineDecoder::LineDecoder(std::vector<char> memory, std::size_t bytes)
-    : buffer_(std::move(memory)), end_(bytes) {}
-
 std::optional<std::string_view> LineDecoder::NextLine() {
   const std::optional<std::string_view> line = NextRawLine();
   if (!line || IsWellFormedUtf8(*line)) return line;
@@ -181,15 +179,14 @@ std::optional<std::string_view> LineDecoder::NextLine() {
 std::string_view LineDecoder::NextLines() {
   if (begin_ == end_) static_cast<void>(ReadBlock());
   SkipLineFeed();
-  const std::size_t bytes = std::min(end_ - begin_, kMostBytesOfLines);
-  const std::string_view next(buffer_.data() + begin_, bytes);
+  const std::string_view next = AtHand(begin_, std::min(end_ - begin_, kMostBytesOfLines));
   return next.substr(0, next.rfind('\n') + 1);
 }
 
 /// The line feed of a carriage return that has ended a line.
 void LineDecoder::SkipLineFeed() {
   if (!skipLineFeed_ || begin_ == end_) return;
-  if (buffer_[begin_] == '\n') ++begin_;
+  if (AtHand(begin_, 1) == "\n") ++begin_;
   skipLineFeed_ = false;
 }
 
@@ -197,7 +194,7 @@ std::optional<std::string_view> LineDecoder::NextRawLine() {
   std::size_t searched = 0;  // bytes from begin_ on that hold no line end
   for (;;) {
     SkipLineFeed();
-    const std::string_view rest(buffer_.data() + begin_, end_ - begin_);
+    const std::string_view rest = AtHand(begin_, end_ - begin_);
     const std::size_t lineBytes = searched + FindLineEnd(rest.substr(searched));
     if (lineBytes < rest.size()) {
       skipLineFeed_ = rest[lineBytes] == '\r';
@@ -207,9 +204,7 @@ std::optional<std::string_view> LineDecoder::NextRawLine() {
     searched = rest.size();
     if (ReadBlock()) continue;
     if (searched == 0) return std::nullopt;
-    const std::string_view last(buffer_.data() + begin_, end_ - begin_);
-    begin_ = end_;
-    return last;
+    return AtHand(std::exchange(begin_, end_), searched);
   }
 }
 

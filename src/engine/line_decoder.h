@@ -12,7 +12,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "base/byte_source.h"
@@ -58,11 +57,9 @@ class LineDecoder {
   /// `source` must outlive the decoder.
   explicit LineDecoder(ByteSource& source);
 
-  /// Of a text that has no mark to be dropped, `bytes` at the front of `memory`; it is read where
-  /// it stands.
-  LineDecoder(std::vector<char> memory, std::size_t bytes);
-  /// Gives that memory back, unchanged.
-  [[nodiscard]] std::vector<char> Memory() && { return std::move(buffer_); }
+  /// Of a text that has no mark to be dropped; it is read where it stands and must outlive the
+  /// decoder.
+  explicit LineDecoder(std::string_view text) : text_(text), end_(text.size()) {}
 
   /// The next line without its end, or nothing after the last. The view is good until the next
   /// call. Passes on what the source throws.
@@ -78,13 +75,18 @@ class LineDecoder {
   static constexpr std::size_t kMostBytesOfLines = 8192;
 
  private:
+  /// `bytes` of the source from `start` on, which were read and are still at hand.
+  [[nodiscard]] std::string_view AtHand(std::size_t start, std::size_t bytes) const {
+    return source_ ? std::string_view(buffer_.data() + start, bytes) : text_.substr(start, bytes);
+  }
   void SkipLineFeed();
   [[nodiscard]] bool ReadBlock();
   [[nodiscard]] std::optional<std::string_view> NextRawLine();
 
   std::optional<UnmarkedSource> source_;  // none when the text is at hand
+  std::string_view text_;
   std::vector<char> buffer_;
-  /// The bytes not yet given out are begin_ to end_.
+  /// The bytes not yet given out are begin_ to end_, of the text or of the buffer.
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
   bool skipLineFeed_ = false;

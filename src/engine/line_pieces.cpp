@@ -36,9 +36,14 @@ bool LinePieces::Next(TextPiece& piece) {
   std::ranges::copy(rest_, piece.memory.begin());
   piece.bytes = rest_.size();
   rest_.clear();
+  std::size_t searched = 0;
   while (!ended_ && ReadMore(piece)) {
-    const std::size_t end = BehindLastLineEnd(piece.Text());
-    if (end == 0) continue;  // a long line
+    const std::size_t behind = BehindLastLineEnd(piece.Text().substr(searched));
+    if (behind == 0) {  // a long line
+      searched = piece.bytes - 1;
+      continue;
+    }
+    const std::size_t end = searched + behind;
     rest_ = piece.Text().substr(end);
     piece.bytes = end;
     return true;
@@ -46,10 +51,11 @@ bool LinePieces::Next(TextPiece& piece) {
   return piece.bytes > 0;
 }
 
-/// Fills the piece up; at least by half of its size, lest a long line be read in driblets. False at
-/// the end.
+/// Fills the piece up, and lets one that is full grow by half of its size, so that a long line
+/// costs no more than its bytes. False at the end.
 bool LinePieces::ReadMore(TextPiece& piece) {
-  const std::size_t wanted = std::max(pieceBytes_, piece.bytes + pieceBytes_ / 2 + 1);
+  const std::size_t grown = piece.bytes + std::max(pieceBytes_, piece.bytes) / 2 + 1;
+  const std::size_t wanted = std::max(pieceBytes_, grown);
   if (piece.memory.size() < wanted) piece.memory.resize(wanted);
   while (!ended_ && piece.bytes < wanted) {
     const std::size_t bytes =

@@ -6,6 +6,7 @@
 #include "base/text_helpers.h"
 #include "engine/comment_markers.h"
 #include "engine/line_decoder.h"
+#include "engine/line_pieces.h"
 
 namespace quillomat {
 namespace {
@@ -23,13 +24,13 @@ PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
       stopTest_(stop),
       scanner_(settings_, choices, lists, store_, stopTest_) {}
 
-PieceCount PieceScanner::Scan(TextPiece& text, const ScanSettings& settings) {
+PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
   if (store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
   settings_ = settings;
   scanner_.SetWordsRead(0);
   ScanLines(text);
   PieceCount count;
-  count.bytesWithLongLineEnds = BytesWithLongLineEnds(text.Text());
+  count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
   count.numbersAnew = std::exchange(numbersAnew_, false);
   count.counts = store_.TakeCounts();
   DescribeNewWords(count);
@@ -38,8 +39,8 @@ PieceCount PieceScanner::Scan(TextPiece& text, const ScanSettings& settings) {
   return count;
 }
 
-void PieceScanner::ScanLines(TextPiece& text) {
-  LineDecoder lines(std::move(text.memory), text.bytes);
+void PieceScanner::ScanLines(std::string_view text) {
+  LineDecoder lines(text);
   while (!stopTest_.Yield()) {
     const std::string_view atHand = lines.NextLines();
     if (const std::size_t plain = scanner_.PlainLineBytes(atHand); plain > 0) {
@@ -53,7 +54,6 @@ void PieceScanner::ScanLines(TextPiece& text) {
       break;
     }
   }
-  text.memory = std::move(lines).Memory();
 }
 
 void PieceScanner::DescribeNewWords(PieceCount& count) {

@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/line_pieces.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 #include "engine/word_scanner.h"
@@ -41,7 +40,7 @@ class PieceScanner {
                const std::atomic<bool>& stop);
 
   /// Scans `text`, whole lines. `settings` has its markers and says which comment is open.
-  [[nodiscard]] PieceCount Scan(TextPiece& text, const ScanSettings& settings);
+  [[nodiscard]] PieceCount Scan(std::string_view text, const ScanSettings& settings);
 
   /// Numbers the words anew: after a result was thrown away.
   void ForgetWords();
@@ -57,7 +56,7 @@ class PieceScanner {
     const std::atomic<bool>& stop_;
   };
 
-  void ScanLines(TextPiece& text);
+  void ScanLines(std::string_view text);
   void DescribeNewWords(PieceCount& count);
 
   ScanSettings settings_;

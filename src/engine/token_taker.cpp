@@ -36,28 +36,35 @@ std::string_view TokenTaker::FinalForm(std::string_view token) {
 }
 
 void TokenTaker::TakeCut(std::string_view token) {
-  if (settings_.ReadingWordList || token.size() > TokenMemo::kMostBytes) {
-    static_cast<void>(WorkOutCut(token));
+  if (settings_.ReadingWordList) {
+    const std::string_view word = FinalForm(token);
+    if (!word.empty()) store_.AddWord(word, true);
     return;
   }
   ForgetTokensOfOldStore();
-  const TokenMemo::Key key = TokenMemo::KeyOf(token.data(), token.size(), token.size());
+  const TokenMemo::Key key = KeyOf(token, token.size());
   const TokenOutcome known = memo_.Find(key);
-  if (known == kUnknownToken) return memo_.Remember(key, WorkOutCut(token));
+  if (known == kUnknownToken) {
+    ForgetNewTokens();
+    newTokens_.push_back({0, key, 0});
+    NoteNewWord(FinalForm(token));
+    newTokens_.back().wordsEnd = newWords_.size();
+    return AddNewWords();
+  }
   if (known != kNoWord) IncrementChecked(wordsRead_);
   if (IsPlace(known)) store_.CountWordAt(known);
 }
 
-TokenOutcome TokenTaker::WorkOutCut(std::string_view token) {
-  const std::string_view word = FinalForm(token);
-  if (word.empty()) return kNoWord;
-  if (settings_.ReadingWordList) {
-    store_.AddWord(word, true);
-    return kWordNotStored;
-  }
-  IncrementChecked(wordsRead_);
-  if (!lists_.Admits(word, settings_.CountOnlyMode)) return kWordNotStored;
-  return store_.AddWord(word).value_or(kWordNotStored);
+TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) {
+  return token.size() > TokenMemo::kMostBytes
+             ? TokenMemo::NoKey()
+             : TokenMemo::KeyOf(token.data(), token.size(), readable);
+}
+
+void TokenTaker::ForgetNewTokens() {
+  newTokens_.clear();
+  newWords_.clear();
+  newLetters_.clear();
 }
 
 void TokenTaker::ForgetTokensOfOldStore() {
@@ -71,16 +78,14 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
   std::array<std::uint32_t, kTokensAtOnce> places{};
   std::size_t placed = 0;
   std::int32_t words = 0;
-  newTokens_.clear();
-  // In steps, so that the memory has time to bring what the next step needs.
-  // A kilobyte that is written before it is read.
+  ForgetNewTokens();
+  // In steps, so that the memory has time to bring what the next step needs. The keys are written
+  // before they are read, and are not worth a kilobyte of zeros.
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
   std::array<TokenMemo::Key, kTokensAtOnce> keys;
   for (std::size_t i = 0; i < count; ++i) {
     const LineBlock::Token token = block.TokenAt(first + i);
-    keys[i] = token.bytes > TokenMemo::kMostBytes
-                  ? TokenMemo::NoKey()
-                  : TokenMemo::KeyOf(token.text, token.bytes, token.readable);
+    keys[i] = KeyOf({token.text, token.bytes}, token.readable);
     memo_.Prefetch(keys[i]);
   }
   for (std::size_t i = 0; i < count; ++i) {
@@ -93,14 +98,11 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
   AddChecked(wordsRead_, words);
   store_.CountWordsAt(std::span(places).first(placed));
   if (newTokens_.empty()) return;
-  newWords_.clear();
-  newLetters_.clear();
   for (NewToken& token : newTokens_) {
     const LineBlock::Token found = block.TokenAt(token.number);
     WorkOutToken({found.text, found.bytes});
     token.wordsEnd = newWords_.size();
   }
-  AddChecked(wordsRead_, static_cast<std::int32_t>(newWords_.size()));
   AddNewWords();
 }
 
@@ -141,8 +143,7 @@ bool TokenTaker::WorkOutPlainToken(std::string_view token) {
 void TokenTaker::NoteNewWord(std::string_view word) {
   if (word.empty()) return;
   NewWord noted;
-  const bool isLong = word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit;
-  noted.isStored = lists_.Admits(word, settings_.CountOnlyMode) && !isLong;
+  noted.isStored = lists_.Admits(word, settings_.CountOnlyMode) && !IsLongWord(word);
   if (noted.isStored) {
     const std::string_view key = SortKeyOf(word, keyText_);
     noted.wordStart = newLetters_.size();
@@ -167,6 +168,7 @@ KeyedWord TokenTaker::Keyed(const NewWord& word) const {
 }
 
 void TokenTaker::AddNewWords() {
+  AddChecked(wordsRead_, static_cast<std::int32_t>(newWords_.size()));
   for (const NewWord& word : newWords_) {
     if (word.isStored) store_.PrefetchLetters(word.hash);
   }

@@ -65,7 +65,9 @@ class TokenTaker {
   };
 
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
-  TokenOutcome WorkOutCut(std::string_view token);
+  /// `readable` bytes can be read at the token.
+  [[nodiscard]] static TokenMemo::Key KeyOf(std::string_view token, std::size_t readable);
+  void ForgetNewTokens();
   void WorkOutToken(std::string_view token);
   [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
   void NoteNewWord(std::string_view word);

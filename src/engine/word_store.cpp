@@ -16,6 +16,11 @@ constexpr std::size_t kFirstSlots = 1024;  // a power of two, as every number of
 
 }  // namespace
 
+bool IsLongWord(std::string_view word) {
+  // Bytes are at least as many as characters, so most words need no counting.
+  return word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit;
+}
+
 void WordStore::Clear() {
   ++generation_;
   letters_.Clear();
@@ -29,9 +34,7 @@ void WordStore::Clear() {
 }
 
 std::optional<std::uint32_t> WordStore::AddWord(std::string_view word, bool anyLength) {
-  // Bytes are at least as many as characters, so most words need no counting.
-  if (!anyLength && word.size() > kLongWordLimit && CharacterCount(word) > kLongWordLimit)
-    return {};
+  if (!anyLength && IsLongWord(word)) return {};
   const std::string_view key = SortKeyOf(word, keyScratch_);
   return AddKeyedWord({word, key, HashOfWord(key)});
 }

@@ -29,6 +29,8 @@ namespace quillomat {
 /// A word longer than this (in characters) is read but never stored when text is counted.
 inline constexpr std::size_t kLongWordLimit = 100;
 
+[[nodiscard]] bool IsLongWord(std::string_view word);
+
 struct WordRec {
   /// The spelling under which the word was first met.
   std::string_view Word;
@@ -108,7 +110,7 @@ class WordStore {
   }
   [[nodiscard]] std::uint64_t Generation() const { return generation_; }
 
-  /// The spelling and the occurrences of the word that AddWord has put at `place`.
+  /// The spelling of the word that AddWord has put at `place`.
   [[nodiscard]] std::string_view WordAtPlace(std::uint32_t place) const {
     return letters_[place].Word();
   }

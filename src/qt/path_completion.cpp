@@ -23,6 +23,12 @@ void CompletePaths(QLineEdit& box, PathKind kind) {
   QObject::connect(&box, &QLineEdit::textEdited, &box, [&box, kind] {
     if (box.completer() == nullptr) box.setCompleter(NewCompleter(box, kind));
   });
+  // A completion goes on watching the folder, and would open its list over the window as soon as a
+  // file of the typed name is there: the output file, of all files, when the count has written it.
+  // Queued, as the completion itself may be passing on the key that ends the editing.
+  QObject::connect(
+      &box, &QLineEdit::editingFinished, &box, [&box] { box.setCompleter(nullptr); },
+      Qt::QueuedConnection);
 }
 
 }  // namespace quillomat

@@ -7,7 +7,8 @@ namespace quillomat {
 
 enum class PathKind { kFile, kFolder };
 
-/// The completion belongs to the box and starts reading folders when the box is first used.
+/// Folders are read while a path is typed; nothing is offered any more once Return was pressed or
+/// the box was left.
 void CompletePaths(QLineEdit& box, PathKind kind);
 
 }  // namespace quillomat

@@ -39,7 +39,7 @@ void PiecePool::Work(std::size_t scanner) {
     lock.unlock();
     job->piece.scanner = scanner;
     try {
-      job->piece.count = scanners_[scanner]->Scan(job->piece.text, job->piece.settings);
+      job->piece.count = scanners_[scanner]->Scan(job->piece.text.Text(), job->piece.settings);
     } catch (...) {
       job->error = std::current_exception();
     }

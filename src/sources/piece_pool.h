@@ -1,7 +1,8 @@
 // Threads that scan pieces of a text at the same time. The pieces come back in their order.
 //
-// All calls come from one thread, the owner's; none of them waits for more than a piece's
-// twentieth, but WaitForFirst as long as it is told to.
+// All calls come from one thread, the owner's. WaitForFirst waits as long as it is told to; Clear,
+// ScanAnew and the destructor wait until the threads have seen that they are to stop, which they
+// look for between blocks of lines.
 #pragma once
 
 #include <atomic>

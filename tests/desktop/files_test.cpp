@@ -12,20 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string ReadWhole(ByteSource& source, std::size_t blockBytes) {
-  std::string contents;
-  std::vector<char> block(blockBytes);
-  while (const std::size_t bytes = source.Read(block)) contents.append(block.data(), bytes);
-  return contents;
-}
-
-class Files : public ::testing::Test {
- protected:
-  TemporaryFolder folder_;
-};
-
-using InputFileTest = Files;
-using OutputFileTest = Files;
+using InputFileTest = TestInAFolder;
+using OutputFileTest = TestInAFolder;
 
 TEST_F(InputFileTest, ReadsAllBytesWhateverTheBlock) {
   std::string contents("a\0b\r\n\xFF", 6);

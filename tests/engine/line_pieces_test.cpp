@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 #include <random>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/byte_source.h"
@@ -46,6 +48,41 @@ TEST(LinePieces, DoNotTearALineEndApart) {
 TEST(LinePieces, LongLineIsOnePiece) {
   const std::string longLine = std::string(1000, 'x') + "\n";
   EXPECT_TRUE(PiecesOf(longLine + "y\n", 10).front().starts_with(longLine));
+}
+
+/// Counts how often it is asked for bytes.
+class CountingSource final : public ByteSource {
+ public:
+  explicit CountingSource(std::string_view text) : source_(text) {}
+  std::size_t Read(std::span<char> buffer) override {
+    ++reads_;
+    return source_.Read(buffer);
+  }
+  [[nodiscard]] int Reads() const { return reads_; }
+
+ private:
+  TextSource source_;
+  int reads_ = 0;
+};
+
+TEST(LinePieces, LongLineIsReadInGrowingSteps) {
+  const std::string longLine(1'000'000, 'x');
+  CountingSource source(longLine);
+  LinePieces pieces(source, 100);
+  TextPiece piece;
+  ASSERT_TRUE(pieces.Next(piece));
+  EXPECT_EQ(piece.Text(), longLine);
+  EXPECT_LT(source.Reads(), 50);
+}
+
+TEST(LinePieces, LineEndIsFoundWhereTwoReadsMeet) {
+  // The carriage return is the last byte of a read, and no line end until the next is there.
+  for (std::size_t before = 1; before < 200; ++before) {
+    const std::string text = std::string(before, 'x') + "\r" + std::string(1000, 'y');
+    const std::vector<std::string> pieces = PiecesOf(text, 10);
+    EXPECT_EQ(pieces.front().size(), before + 1) << before;
+    EXPECT_EQ(Together(pieces), text);
+  }
 }
 
 TEST(LinePieces, MarkIsDroppedAtTheStartOnly) {

@@ -19,13 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string ReadWhole(ByteSource& source, std::size_t blockBytes) {
-  std::string contents;
-  std::vector<char> block(blockBytes);
-  while (const std::size_t bytes = source.Read(block)) contents.append(block.data(), bytes);
-  return contents;
-}
-
 /// Keeps the process from writing files longer than that, as a full disk would.
 class FileSizeLimit {
  public:
@@ -65,13 +58,8 @@ class RedirectedOutput {
   int before_;
 };
 
-class PosixFiles : public ::testing::Test {
- protected:
-  TemporaryFolder folder_;
-};
-
-using PosixInputFile = PosixFiles;
-using PosixOutputFile = PosixFiles;
+using PosixInputFile = TestInAFolder;
+using PosixOutputFile = TestInAFolder;
 
 TEST_F(PosixInputFile, APipeThatNobodyWritesToIsAtItsEnd) {
   ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0666), 0);
