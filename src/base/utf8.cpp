@@ -129,14 +129,19 @@ bool IsAscii(std::string_view bytes) {
   return true;
 }
 
-bool IsWellFormedUtf8(std::string_view bytes) {
-  if (IsAscii(bytes)) return true;
-  for (std::size_t position = 0; position < bytes.size();) {
+std::size_t WellFormedUtf8Bytes(std::string_view bytes) {
+  if (IsAscii(bytes)) return bytes.size();
+  std::size_t position = 0;
+  while (position < bytes.size()) {
     const Utf8Character character = WellFormedCharacterAt(bytes, position);
-    if (character.bytes == 0) return false;
+    if (character.bytes == 0) break;
     position += character.bytes;
   }
-  return true;
+  return position;
+}
+
+bool IsWellFormedUtf8(std::string_view bytes) {
+  return WellFormedUtf8Bytes(bytes) == bytes.size();
 }
 
 }  // namespace quillomat

@@ -35,6 +35,9 @@ void AppendCharacter(std::string& text, char32_t codePoint);
 /// Whether the bytes are well-formed UTF-8: shortest forms only, no surrogates, at most U+10FFFF.
 [[nodiscard]] bool IsWellFormedUtf8(std::string_view bytes);
 
+/// How many bytes at the start of `bytes` are well-formed UTF-8.
+[[nodiscard]] std::size_t WellFormedUtf8Bytes(std::string_view bytes);
+
 /// Whether no byte is above 127.
 [[nodiscard]] bool IsAscii(std::string_view bytes);
 

@@ -54,12 +54,14 @@ void CommentMarkers::NoteStart(char first) {
 }
 
 int CommentMarkers::StartAt(std::string_view text, bool forced) const {
+  const int pair = PairAt(text);
+  return MustBeEntity(pair, forced) && HtmlEntityEnd(text) == 0 ? kNoComment : pair;
+}
+
+int CommentMarkers::PairAt(std::string_view text) const {
   for (std::size_t pair = 0; pair < 2; ++pair) {
     const std::string& marker = start_[pair];
-    if (marker.empty() || !StartsWithMarker(text, marker)) continue;
-    const bool mustBeEntity = pair == 1 && forced && marker == "&";
-    if (mustBeEntity && HtmlEntityEnd(text) == 0) return kNoComment;
-    return static_cast<int>(pair);
+    if (!marker.empty() && StartsWithMarker(text, marker)) return static_cast<int>(pair);
   }
   return kNoComment;
 }

@@ -30,6 +30,11 @@ class CommentMarkers {
   /// none does. The first pair wins by order, not by length. Where the markers are forced, a start
   /// marker "&" is one only at the start of an entity.
   [[nodiscard]] int StartAt(std::string_view text, bool forced) const;
+  // Its two steps: the pair, and whether there must be an entity for it.
+  [[nodiscard]] int PairAt(std::string_view text) const;
+  [[nodiscard]] bool MustBeEntity(int pair, bool forced) const {
+    return pair == 1 && forced && start_[1] == "&";
+  }
 
   /// The end marker of a pair; empty when the comment ends with its line.
   [[nodiscard]] const std::string& EndMarker(int pair) const {

@@ -104,10 +104,9 @@ bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase, std::string
 }
 
 std::size_t HtmlEntityEnd(std::string_view text) {
-  constexpr std::size_t kLongest = 20;
   constexpr std::size_t kShortest = 4;
   if (!text.starts_with('&')) return 0;
-  const std::string_view head = text.substr(0, BytesOfFirst(text, kLongest));
+  const std::string_view head = text.substr(0, BytesOfFirst(text, kLongestHtmlEntity));
   const std::size_t semicolon = head.find(';');
   if (semicolon == std::string_view::npos) return 0;
   const std::string_view inside = head.substr(1, semicolon - 1);

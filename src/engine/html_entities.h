@@ -18,9 +18,12 @@ void DecodeHtmlEntities(std::string& text);
 [[nodiscard]] bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase,
                                              std::string& decoded);
 
+/// The most characters that HtmlEntityEnd takes for an entity.
+inline constexpr std::size_t kLongestHtmlEntity = 20;
+
 /// The position (1-based, in characters) of the ";" that closes an entity at the start of `text`,
 /// or 0 when none starts there: "&", then a letter or "#", at least 4 characters up to and with a
-/// ";" among the first 20, and no blank before it.
+/// ";" among the first kLongestHtmlEntity, and no blank before it.
 [[nodiscard]] std::size_t HtmlEntityEnd(std::string_view text);
 
 }  // namespace quillomat

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/letter_case.h"
+#include "base/utf8.h"
 #include "engine/html_entities.h"
 
 namespace quillomat {
@@ -73,10 +74,10 @@ void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& setting
   for (;;) {
     position = search.Next(position);
     if (position == text_.size()) return;
-    // Only an entity could go beyond its line, which no marker does.
-    const std::string_view rest =
-        text_[position] == '&' ? RestOfLine(position) : text_.substr(position);
-    open = markers.StartAt(rest, settings.ForceCommentMarkers);
+    open = markers.PairAt(text_.substr(position));
+    if (markers.MustBeEntity(open, settings.ForceCommentMarkers) && !IsEntityAt(position)) {
+      open = kNoComment;
+    }
     if (open == kNoComment) {
       ++position;
       continue;
@@ -87,15 +88,16 @@ void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& setting
   }
 }
 
-/// As far as it may be an entity: two hyphens stand for a blank, beyond which none goes.
-std::string_view LineBlock::RestOfLine(std::size_t position) {
-  std::string_view line = text_.substr(position, LineEnd(text_, position) - position);
-  line = line.substr(0, line.find("--"));
-  const bool accented = line.size() > 1 && static_cast<unsigned char>(line[1]) >= 0x80;
-  if (!accented || caseSignificant_) return line;
+/// Whether an entity stands there once the line is rewritten.
+bool LineBlock::IsEntityAt(std::size_t position) const {
+  const std::string_view rest = text_.substr(position);
+  std::string_view entity = rest.substr(0, BytesOfFirst(rest, kLongestHtmlEntity));
+  entity = entity.substr(0, LineEnd(entity, 0));
+  entity = entity.substr(0, entity.find("--"));  // they stand for a blank, which none holds
+  const bool accented = entity.size() > 1 && static_cast<unsigned char>(entity[1]) >= 0x80;
   // Of a letter that begins the name, its small form counts.
-  lowerCased_ = LowerCase(line);
-  return lowerCased_;
+  if (accented && !caseSignificant_) return HtmlEntityEnd(LowerCase(entity)) > 0;
+  return HtmlEntityEnd(entity) > 0;
 }
 
 /// Where a comment that is open at `start` ends. A comment that does not end in the text stays

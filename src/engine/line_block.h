@@ -40,7 +40,7 @@ class LineBlock {
 
  private:
   void CutComments(const CommentMarkers& markers, ScanSettings& settings);
-  [[nodiscard]] std::string_view RestOfLine(std::size_t position);
+  [[nodiscard]] bool IsEntityAt(std::size_t position) const;
   [[nodiscard]] std::size_t EndOfComment(const CommentMarkers& markers, std::size_t start,
                                          int& open) const;
 
@@ -48,7 +48,6 @@ class LineBlock {
   std::string_view text_;
   bool caseSignificant_ = false;
   std::string decoded_;
-  std::string lowerCased_;
   TokenEdges edges_;
 };
 

@@ -179,8 +179,13 @@ std::optional<std::string_view> LineDecoder::NextLine() {
 std::string_view LineDecoder::NextLines() {
   if (begin_ == end_) static_cast<void>(ReadBlock());
   SkipLineFeed();
-  const std::string_view next = AtHand(begin_, std::min(end_ - begin_, kMostBytesOfLines));
-  return next.substr(0, next.rfind('\n') + 1);
+  const std::size_t end = begin_ + std::min(end_ - begin_, kMostBytesOfLines);
+  // A text without line feeds is not to be searched for one again with every line.
+  const std::size_t unsearched = std::min(std::max(begin_, noLineFeedTo_), end);
+  const std::size_t behind = AtHand(unsearched, end - unsearched).rfind('\n') + 1;
+  if (behind > 0) return AtHand(begin_, unsearched + behind - begin_);
+  noLineFeedTo_ = end;
+  return {};
 }
 
 /// The line feed of a carriage return that has ended a line.
@@ -214,6 +219,7 @@ bool LineDecoder::ReadBlock() {
   if (begin_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
     end_ -= begin_;
+    noLineFeedTo_ -= std::min(noLineFeedTo_, begin_);
     begin_ = 0;
   }
   if (end_ == buffer_.size() || (moreToCome_ && buffer_.size() - end_ < kBlockBytes)) {

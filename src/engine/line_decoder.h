@@ -89,6 +89,8 @@ class LineDecoder {
   /// The bytes not yet given out are begin_ to end_, of the text or of the buffer.
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
+  /// No line feed is at hand before this place, or at none behind begin_.
+  std::size_t noLineFeedTo_ = 0;
   bool skipLineFeed_ = false;
   /// The last block filled the buffer, so the source is likely to have more.
   bool moreToCome_ = false;

@@ -48,6 +48,10 @@ bool LinePieces::Next(TextPiece& piece) {
     piece.bytes = end;
     return true;
   }
+  if (error_) {
+    piece.bytes = BehindLastLineEnd(piece.Text());
+    if (piece.bytes == 0) std::rethrow_exception(error_);
+  }
   return piece.bytes > 0;
 }
 
@@ -59,11 +63,21 @@ bool LinePieces::ReadMore(TextPiece& piece) {
   if (piece.memory.size() < wanted) piece.memory.resize(wanted);
   while (!ended_ && piece.bytes < wanted) {
     const std::size_t bytes =
-        source_.Read(std::span(piece.memory).subspan(piece.bytes, wanted - piece.bytes));
+        Read(std::span(piece.memory).subspan(piece.bytes, wanted - piece.bytes));
     piece.bytes += bytes;
     ended_ = bytes == 0;
   }
   return !ended_;
+}
+
+/// 0 at the end, and behind an error.
+std::size_t LinePieces::Read(std::span<char> buffer) {
+  try {
+    return source_.Read(buffer);
+  } catch (...) {
+    error_ = std::current_exception();
+    return 0;
+  }
 }
 
 }  // namespace quillomat

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,17 +36,19 @@ class LinePieces {
 
   /// Puts the next piece into `piece`; false when there is none. A piece has about as many bytes as
   /// were asked for, more only when one line has more. It ends behind a line end, the last one with
-  /// the text. Passes on what the source throws.
+  /// the text. Passes on what the source throws, when the lines before have been given.
   [[nodiscard]] bool Next(TextPiece& piece);
 
  private:
   [[nodiscard]] bool ReadMore(TextPiece& piece);
+  [[nodiscard]] std::size_t Read(std::span<char> buffer);
 
   UnmarkedSource source_;
   std::size_t pieceBytes_;
   /// What was read behind the end of the last piece.
   std::string rest_;
   bool ended_ = false;
+  std::exception_ptr error_;
 };
 
 }  // namespace quillomat

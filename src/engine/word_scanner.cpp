@@ -106,17 +106,15 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
   PrepareMarkers();
   if (settings_.UseCommentMarkers && !markers_.CanBeFoundInRawLines(tokenClasses_)) {
     if (settings_.OpenComment != kNoComment) return 0;
-    // An entity may become the letter with which a marker starts.
-    const auto mayStart = [this](char ch) { return ch == '&' || markers_.MayStartWith(ch); };
+    // An entity may become the letter with which a marker starts, and two hyphens the blank.
+    const bool atBlank = markers_.MayStartWith(' ');
+    const auto mayStart = [&](char ch) {
+      return ch == '&' || (ch == '-' && atBlank) || markers_.MayStartWith(ch);
+    };
     const auto start = std::ranges::find_if(lines, mayStart);
     lines = lines.substr(0, static_cast<std::size_t>(start - lines.begin()));
   }
-  if (!IsWellFormedUtf8(lines)) {
-    const auto isHigh = [](char ch) { return static_cast<unsigned char>(ch) >= 0x80; };
-    const auto high = std::ranges::find_if(lines, isHigh);
-    lines = lines.substr(0, static_cast<std::size_t>(high - lines.begin()));
-  }
-  return lines.rfind('\n') + 1;
+  return lines.substr(0, WellFormedUtf8Bytes(lines)).rfind('\n') + 1;
 }
 
 void WordScanner::GetWordsOfLines(std::string_view lines) {
@@ -127,7 +125,8 @@ void WordScanner::GetWordsOfLines(std::string_view lines) {
         std::min({left, TokenTaker::kTokensAtOnce, std::size_t{yield_.CallsLeft()}});
     taker_.TakeMany(block_, first, count);
     if (yield_.YieldFor(static_cast<std::uint32_t>(count))) {
-      settings_.OpenComment = kNoComment;  // behind a word no comment is open
+      // Behind a word no comment is open; one that is not looked for stays as it was.
+      if (settings_.UseCommentMarkers) settings_.OpenComment = kNoComment;
       return;
     }
     first += count;

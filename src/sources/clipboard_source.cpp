@@ -1,6 +1,8 @@
 #include "sources/clipboard_source.h"
 
 #include <algorithm>
+#include <new>
+#include <optional>
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -56,17 +58,22 @@ bool ClipboardSource::ReadClipboard(bool paste) {
     }
     return true;
   } catch (const RunTimeError& error) {
-    std::string message = error.Description();
-    if (error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory)) {
-      message = "There is too much text on the clipboard to paste into the textbox.";
-      if (length < kClipboardTextLimit) {
-        message.append(kCrLf).append(
-            "It may, however, still be possible to count word frequencies.");
-      }
-    }
-    Refuse(context_, message, context_.text.GetText(kProgramTitleText));
-    return false;
+    RefuseClipboard(error, length);
+  } catch (const std::bad_alloc&) {
+    RefuseClipboard(RunTimeError(RunTimeErrorNumber::kOutOfMemory), length);
   }
+  return false;
+}
+
+void ClipboardSource::RefuseClipboard(const RunTimeError& error, std::size_t length) const {
+  std::string message = error.Description();
+  if (error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory)) {
+    message = "There is too much text on the clipboard to paste into the textbox.";
+    if (length < kClipboardTextLimit) {
+      message.append(kCrLf).append("It may, however, still be possible to count word frequencies.");
+    }
+  }
+  Refuse(context_, message, context_.text.GetText(kProgramTitleText));
 }
 
 bool ClipboardSource::ScanClipboard() {
@@ -80,16 +87,18 @@ bool ClipboardSource::ScanClipboard() {
   if (!LoadMarkers()) return false;
   CheckBox& chkSuppressWords = context_.frmMain.chkSuppressWords;
   const CheckState suppress = chkSuppressWords.Value();
-  bool ok = true;
+  std::optional<RunTimeError> error;
   try {
     ScanText();
-  } catch (const RunTimeError& error) {
-    context_.lister.ReportProblem(error.Number(), error.Description());
-    ok = false;
+  } catch (const RunTimeError& thrown) {
+    error = thrown;
+  } catch (const std::bad_alloc&) {
+    error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
   }
+  if (error) context_.lister.ReportProblem(error->Number(), error->Description());
   chkSuppressWords.SetValue(suppress);
   SetTheFocus(context_.frmMain);
-  return ok;
+  return !error;
 }
 
 bool ClipboardSource::LoadMarkers() {

@@ -1,9 +1,11 @@
 // The clipboard as the source of a count: its text is fetched, checked and scanned in one piece.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "base/run_time_error.h"
 #include "sources/run_context.h"
 
 namespace quillomat {
@@ -27,6 +29,8 @@ class ClipboardSource {
   [[nodiscard]] bool ScanClipboard();
 
  private:
+  /// `length` is that of the text, in characters; 0 while it is not known.
+  void RefuseClipboard(const RunTimeError& error, std::size_t length) const;
   [[nodiscard]] bool LoadMarkers();
   void ScanText();
 

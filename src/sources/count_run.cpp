@@ -68,6 +68,7 @@ bool CountRun::PrepareRun() {
   state.minimumColumnWidth = kMinimumColumnWidth;
   state.settings.CountOnlyMode = state.lists.HasCountOnlyWords();
   if (context_.frmParams.chkAllowCommentMarkers.IsChecked() && !CheckCommentMarkers(context_)) {
+    context_.frmParams.SetState(WindowState::kNormal);  // it may be minimized
     context_.frmParams.Show();
     return false;
   }

@@ -176,7 +176,9 @@ ScanFileResult FileSource::CheckText(LineEndingType type) {
 
 void FileSource::LoadMarkers() {
   ScanSettings& settings = context_.state.settings;
-  const ScanChoices choices = ReadScanChoices(context_.frmParams);
+  // Those of a folder are the same for all of its files.
+  const ScanChoices choices =
+      folderJob_ != nullptr ? folderJob_->Choices() : ReadScanChoices(context_.frmParams);
   const std::string extension = LowerCase(ExtensionOf(path_));
   settings.ForceCommentMarkers = IsHtmlLike(extension) || IsCLike(extension);
   if (settings.ForceCommentMarkers) {

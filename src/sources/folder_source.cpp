@@ -255,8 +255,10 @@ void FolderSource::ScanOneFile(const std::string& path) {
 
 /// The path with the chosen folder's name in place of its path.
 std::string FolderSource::ShownPath(const std::string& path) const {
-  const std::string& folder = Folder();
-  return path.starts_with(folder) ? "{Folder}" + path.substr(folder.size()) : path;
+  for (const std::string& folder : {Folder(), PathForWalk(Folder())}) {
+    if (path.starts_with(folder)) return "{Folder}" + path.substr(folder.size());
+  }
+  return path;
 }
 
 void FolderSource::WritePathLine(const std::string& path) {

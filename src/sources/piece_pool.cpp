@@ -1,17 +1,21 @@
 #include "sources/piece_pool.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace quillomat {
 
 PiecePool::PiecePool(const ScanSettings& settings, const ScanChoices& choices,
                      const WordLists& lists, std::size_t threads) {
-  for (std::size_t i = 0; i < threads; ++i) {
+  threads_.reserve(threads);
+  for (std::size_t i = 0; i < std::max<std::size_t>(threads, 1); ++i) {
     scanners_.push_back(std::make_unique<PieceScanner>(settings, choices, lists, stop_));
   }
-  for (std::size_t i = 0; i < threads; ++i) {
-    threads_.emplace_back([this, i] { Work(i); });
+  try {
+    for (std::size_t i = 0; i < threads; ++i) threads_.emplace_back([this, i] { Work(i); });
+  } catch (const std::exception&) {
+    // The system gives no more: those that there are will do, or the owner's.
   }
 }
 
@@ -34,20 +38,26 @@ void PiecePool::Work(std::size_t scanner) {
       return ending_ || job != nullptr;
     });
     if (ending_) return;
-    job->progress = Progress::kAtWork;
-    ++atWork_;
-    lock.unlock();
-    job->piece.scanner = scanner;
-    try {
-      job->piece.count = scanners_[scanner]->Scan(job->piece.text.Text(), job->piece.settings);
-    } catch (...) {
-      job->error = std::current_exception();
-    }
-    lock.lock();
-    job->progress = Progress::kDone;
-    --atWork_;
-    jobDone_.notify_all();
+    Do(*job, scanner, lock);
   }
+}
+
+/// The lock is released meanwhile.
+void PiecePool::Do(Job& job, std::size_t scanner, std::unique_lock<std::mutex>& lock) {
+  job.progress = Progress::kAtWork;
+  ++atWork_;
+  lock.unlock();
+  job.piece.scanner = scanner;
+  try {
+    job.piece.count = scanners_[scanner]->Scan(job.piece.text.Text(), job.piece.settings);
+  } catch (...) {
+    job.error = std::current_exception();
+    scanners_[scanner]->ForgetWords();  // which may be half a word
+  }
+  lock.lock();
+  job.progress = Progress::kDone;
+  --atWork_;
+  jobDone_.notify_all();
 }
 
 PiecePool::Job* PiecePool::NextJob() {
@@ -69,6 +79,9 @@ void PiecePool::Submit(TextPiece text, const ScanSettings& settings) {
 
 bool PiecePool::WaitForFirst(std::chrono::milliseconds longest) {
   std::unique_lock lock(mutex_);
+  if (threads_.empty() && pieces_.front()->progress == Progress::kWaiting) {
+    Do(*pieces_.front(), 0, lock);
+  }
   return jobDone_.wait_for(lock, longest,
                            [this] { return pieces_.front()->progress == Progress::kDone; });
 }

@@ -5,6 +5,7 @@
 // look for between blocks of lines.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -34,7 +35,8 @@ class PiecePool {
     std::size_t scanner = 0;
   };
 
-  /// The arguments are those of PieceScanner.
+  /// The arguments are those of PieceScanner. As many threads are started as the system gives;
+  /// without any, WaitForFirst itself scans.
   PiecePool(const ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
             std::size_t threads);
   PiecePool(const PiecePool&) = delete;
@@ -44,7 +46,8 @@ class PiecePool {
   /// Gives up what is being scanned.
   ~PiecePool();
 
-  [[nodiscard]] std::size_t Threads() const { return scanners_.size(); }
+  /// At least one, the owner's if need be.
+  [[nodiscard]] std::size_t Threads() const { return std::max<std::size_t>(threads_.size(), 1); }
   [[nodiscard]] std::size_t Pieces() const { return pieces_.size(); }
 
   /// Has `text` scanned as the last piece.
@@ -72,6 +75,7 @@ class PiecePool {
   };
 
   void Work(std::size_t scanner);
+  void Do(Job& job, std::size_t scanner, std::unique_lock<std::mutex>& lock);
   [[nodiscard]] Job* NextJob();
   void StopWork(std::unique_lock<std::mutex>& lock);
 

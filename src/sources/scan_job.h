@@ -27,9 +27,7 @@ class ScanJob {
         lists_(context.state.lists),
         echo_(context),
         yield_(context),
-        scanner_(context.state.settings, choices_, lists_, context.state.store, yield_) {
-    scanner_.SetWordsRead(state_.WordsRead);
-  }
+        scanner_(context.state.settings, choices_, lists_, context.state.store, yield_) {}
 
   [[nodiscard]] const ScanChoices& Choices() const { return choices_; }
 
@@ -47,6 +45,7 @@ class ScanJob {
   }
   /// Scans lines that PlainLines gave, as they stand in the file.
   void ScanLines(std::string_view lines) {
+    scanner_.SetWordsRead(state_.WordsRead);
     scanner_.GetWordsOfLines(lines);
     state_.WordsRead = scanner_.WordsRead();
   }
@@ -60,7 +59,6 @@ class ScanJob {
     }
     threaded_->Scan(source,
                     {[this] { return yield_.YieldFor(yield_.CallsLeft()); }, std::move(onBytes)});
-    scanner_.SetWordsRead(state_.WordsRead);
   }
 
   /// Scans a line of a words file, which is always lower-cased.
@@ -68,6 +66,7 @@ class ScanJob {
 
  private:
   void Scan(std::string_view lineBuffer) {
+    scanner_.SetWordsRead(state_.WordsRead);
     scanner_.GetWords(lineBuffer);
     state_.WordsRead = scanner_.WordsRead();
   }

@@ -10,6 +10,7 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   LinePieces pieces(source, pieceBytes_);
   likelyOpen_ = target_.settings.OpenComment;
   sourceEnded_ = false;
+  readError_ = nullptr;
   try {
     for (ReadAhead(pieces); pool_.Pieces() > 0; ReadAhead(pieces)) {
       while (!pool_.WaitForFirst(kLongestWait)) {
@@ -28,9 +29,11 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
     pool_.Clear();
     throw;
   }
+  if (readError_) std::rethrow_exception(readError_);
 }
 
-/// So many pieces that no thread waits for work while one is joined.
+/// So many pieces that no thread waits for work while one is joined. What was read before an error
+/// is counted first.
 void ThreadedScan::ReadAhead(LinePieces& pieces) {
   while (!sourceEnded_ && pool_.Pieces() < 2 * pool_.Threads()) {
     TextPiece text;
@@ -38,10 +41,13 @@ void ThreadedScan::ReadAhead(LinePieces& pieces) {
       text = std::move(spareTexts_.back());
       spareTexts_.pop_back();
     }
-    if (!pieces.Next(text)) {
+    try {
+      sourceEnded_ = !pieces.Next(text);
+    } catch (...) {
+      readError_ = std::current_exception();
       sourceEnded_ = true;
-      return;
     }
+    if (sourceEnded_) return;
     ScanSettings settings = target_.settings;
     settings.OpenComment = likelyOpen_;
     likelyOpen_ = LikelyOpenComment(text.Text(), settings, likelyOpen_);

@@ -4,9 +4,11 @@
 // the end of a piece.
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <vector>
 
@@ -37,7 +39,7 @@ class ThreadedScan {
       : target_(target),
         pieceBytes_(pieceBytes),
         pool_(target.settings, choices, lists, threads),
-        joiners_(threads) {}
+        joiners_(std::max<std::size_t>(threads, 1)) {}
 
   struct Callbacks {
     /// Is called about every kLongestWait or more often, and says whether the scan is to stop.
@@ -64,6 +66,7 @@ class ThreadedScan {
   /// Taken to be open in front of the next piece that is read.
   int likelyOpen_ = -1;
   bool sourceEnded_ = false;
+  std::exception_ptr readError_;
 };
 
 }  // namespace quillomat

@@ -81,6 +81,8 @@ TEST_F(PlainLines, NamesOfEntitiesCountInAnyCaseWhereTheLineWouldBeLowerCased) {
 TEST_F(PlainLines, EndBeforeALineThatIsNotUtf8) {
   EXPECT_EQ(PlainBytes("one\ncaf\u00E9\n"), 10U);
   EXPECT_EQ(PlainBytes("one\ncaf\xE9\nthree\n"), 4U);
+  EXPECT_EQ(PlainBytes("caf\u00E9\none\ncaf\xE9\nthree\n"), 10U);
+  EXPECT_EQ(PlainBytes("caf\u00E9\rcaf\xE9\nthree\n"), 0U);
 }
 
 TEST_F(PlainLines, CommentsOfCodeAreCutOut) {
@@ -132,6 +134,23 @@ TEST_F(PlainLines, CommentThatEndsWithItsLineIsNotEndedByAnEmptyLine) {
   EXPECT_EQ(CountLines("\r\n  \n"), "");
   EXPECT_EQ(settings.OpenComment, 1);
   EXPECT_EQ(CountLines(" \none\ntwo\n"), "two");
+}
+
+TEST_F(PlainLines, CommentThatNobodyLooksForStaysOpenWhenTheyAreStopped) {
+  settings.OpenComment = 0;
+  generous.stopAfter = 1;
+  CountLines("one two\nthree\n");
+  EXPECT_EQ(settings.OpenComment, 0);
+  UsePreset("C");
+  settings.OpenComment = -1;
+  CountLines("one /* two\n");
+  EXPECT_EQ(settings.OpenComment, -1);
+}
+
+TEST_F(PlainLines, EndBeforeALineWhereTwoHyphensMayBeTheBlankOfAMarker) {
+  UseMarkers(" two", "");
+  EXPECT_EQ(PlainBytes("one\none-two\n"), 4U);
+  EXPECT_EQ(PlainBytes("one\none--two\n"), 4U);
 }
 
 TEST_F(PlainLines, EndBeforeALineWhereACommentOfLettersMayStart) {

@@ -111,10 +111,10 @@ constexpr std::array kPieces = std::to_array<std::string_view>({" ",
                                                                 "ns",
                                                                 "es"});
 
-constexpr std::array<std::string_view, 9> kStartMarkers = {"/*", "//",  "<", "#",       "",
-                                                           "|",  "rem", "&", "\xC3\x89"};
-constexpr std::array<std::string_view, 9> kEndMarkers = {"*/", "",    ">", "#",       "end",
-                                                         "|",  "END", ";", "\xC3\xA9"};
+constexpr auto kStartMarkers = std::to_array<std::string_view>(
+    {"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t", " ", "-"});
+constexpr auto kEndMarkers = std::to_array<std::string_view>(
+    {"*/", "", ">", "#", "end", "|", "END", ";", "\xC3\xA9", " ", "- "});
 constexpr std::array<std::string_view, 4> kMarkerKinds = {"", "HTML", "C", "user"};
 
 class CaseMaker {

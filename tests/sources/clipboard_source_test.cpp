@@ -1,9 +1,12 @@
 // The clipboard as the source of a count.
 #include "sources/clipboard_source.h"
 
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <new>
 #include <string>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "sources/count_fixture.h"
@@ -299,9 +302,14 @@ TEST_F(ClipboardSourceTest, TheFocusIsOnTheCountCommandAfterwards) {
 /// The scripted desktop, but its clipboard fails in a way of its own.
 class DesktopWithBadClipboard final : public Desktop {
  public:
-  explicit DesktopWithBadClipboard(ScriptedDesktop& desktop) : desktop_(desktop) {}
+  /// `fail` throws.
+  DesktopWithBadClipboard(ScriptedDesktop& desktop, std::function<void()> fail)
+      : desktop_(desktop), fail_(std::move(fail)) {}
 
-  std::string ClipboardText() override { throw RunTimeError(RunTimeErrorNumber::kDeviceIo); }
+  std::string ClipboardText() override {
+    fail_();
+    return {};
+  }
 
   MessageAnswer ShowMessage(const MessageBox& box) override { return desktop_.ShowMessage(box); }
   std::string AskForText(const InputBox& box) override { return desktop_.AskForText(box); }
@@ -321,15 +329,31 @@ class DesktopWithBadClipboard final : public Desktop {
 
  private:
   ScriptedDesktop& desktop_;
+  std::function<void()> fail_;
 };
 
-TEST_F(ClipboardSourceTest, AnyOtherErrorOfTheClipboardIsToldInItsOwnWords) {
-  DesktopWithBadClipboard badDesktop(desktop);
-  const RunContext& ours = program.context;
-  const RunContext context{ours.frmMain, ours.frmParams, badDesktop,  ours.pump,      ours.text,
-                           ours.state,   ours.output,    ours.lister, ours.becameIdle};
-  EXPECT_FALSE(ClipboardSource(context).ReadClipboard(false));
+class BadClipboard : public ClipboardSourceTest {
+ protected:
+  void ReadOneThat(std::function<void()> fails) {
+    DesktopWithBadClipboard badDesktop(desktop, std::move(fails));
+    const RunContext& ours = program.context;
+    const RunContext context{ours.frmMain, ours.frmParams, badDesktop,  ours.pump,      ours.text,
+                             ours.state,   ours.output,    ours.lister, ours.becameIdle};
+    EXPECT_FALSE(ClipboardSource(context).ReadClipboard(false));
+  }
+};
+
+TEST_F(BadClipboard, AnyErrorIsToldInItsOwnWords) {
+  ReadOneThat([] { throw RunTimeError(RunTimeErrorNumber::kDeviceIo); });
   ExpectMessage(OnlyMessage(), "Device I/O error", "Quillomat", MessageIcon::kExclamation);
+}
+
+TEST_F(BadClipboard, MemoryThatDoesNotSufficeIsTooMuchText) {
+  ReadOneThat([] { throw std::bad_alloc(); });
+  ExpectMessage(OnlyMessage(),
+                "There is too much text on the clipboard to paste into the textbox.\r\n"
+                "It may, however, still be possible to count word frequencies.",
+                "Quillomat", MessageIcon::kExclamation);
 }
 
 }  // namespace

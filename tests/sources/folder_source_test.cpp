@@ -313,6 +313,27 @@ TEST_F(FolderSourceTest, ListingFilesReadsNone) {
   ExpectIdle();
 }
 
+TEST_F(FolderSourceTest, FolderIsNotSpelledOutInListsHoweverItIsWritten) {
+  Put("Some Texts/A.txt");
+  ListFiles(folder / "Some Texts");
+  EXPECT_TRUE(Has(Output(), NativePaths("\r\n{Folder}/"))) << Output();
+}
+
+TEST_F(FolderSourceTest, MarkersOfARunAreThoseItBeganWith) {
+  Put("a.txt", "one {two} three");
+  Put("b.txt", "four {five} six [seven]");
+  AllowComments("{", "}");
+  bool changed = false;
+  Main().txbFile[0].Change.Connect([&] {
+    if (Main().txbFile[0].Text() != folder / "b.txt") return;
+    AllowComments("[", "]");
+    changed = true;
+  });
+  CountFolderWithoutOutputFile(folder.Path());
+  EXPECT_TRUE(changed);
+  EXPECT_EQ(StoredWords(), "four one seven six three");
+}
+
 TEST_F(FolderSourceTest, WhileFilesAreListedOnlyStopCanBeUsed) {
   Put("a.txt");
   Put("b.txt");

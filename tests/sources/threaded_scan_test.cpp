@@ -12,6 +12,7 @@
 #include "base/text_helpers.h"
 #include "engine/line_decoder.h"
 #include "support/engine_fixture.h"
+#include "support/failing_source.h"
 
 namespace quillomat {
 namespace {
@@ -22,19 +23,6 @@ class ToldWords final : public NewWordListener {
     told.append(word).append(" ").append(std::to_string(numDifferentWords)).append(" ");
   }
   std::string told;
-};
-
-/// Gives some bytes, and then fails.
-class FailingSource final : public ByteSource {
- public:
-  std::size_t Read(std::span<char> buffer) override {
-    if (++reads_ > 20) throw RunTimeError(RunTimeErrorNumber::kDeviceIo);
-    std::ranges::fill(buffer, '\n');
-    return buffer.size();
-  }
-
- private:
-  int reads_ = 0;
 };
 
 class ThreadedScanTest : public EngineFixture {
@@ -125,7 +113,7 @@ TEST_F(ThreadedScanTest, RandomTextsAreTheSameWhereverTheyAreCut) {
     const std::vector<std::string> files = {RandomText(random, random() % 400),
                                             RandomText(random, random() % 400)};
     const Outcome expected = FromEndToEnd(files);
-    const Outcome outcome = OnThreads(files, 1 + random() % 4, 1 + random() % 300);
+    const Outcome outcome = OnThreads(files, random() % 5, 1 + random() % 300);
     ASSERT_EQ(outcome.told, expected.told) << round;
     ASSERT_EQ(outcome, expected) << round;
   }
@@ -185,15 +173,26 @@ TEST_F(ThreadedScanTest, TellsOfTheBytesOfEveryPiece) {
   EXPECT_EQ(bytes, 17);
 }
 
-TEST_F(ThreadedScanTest, FailingSourceEndsTheScan) {
+TEST_F(ThreadedScanTest, LinesBeforeAFailureAreCountedAndThenTheScanEnds) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "word other\n";
   ToldWords told;
   Begin(told);
   ThreadedScan scan({settings, store, wordsRead}, choices, lists, 2, 100);
-  FailingSource source;
+  text += "unfinished";
+  FailingSource source(text);
   EXPECT_THROW(scan.Scan(source, {[] { return false; }, [](std::int64_t) {}}), RunTimeError);
+  EXPECT_EQ(Words(), "other*100 word*100");
+  EXPECT_EQ(wordsRead, 200);
   TextSource next("one\n");
   scan.Scan(next, {[] { return false; }, [](std::int64_t) {}});
-  EXPECT_EQ(Words(), "one");
+  EXPECT_EQ(Words(), "one other*100 word*100");
+}
+
+TEST_F(ThreadedScanTest, WithoutThreadsTheOwnerScans) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "word w" + std::to_string(i) + "\n";
+  EXPECT_EQ(OnThreads({text}, 0, 100), FromEndToEnd({text}));
 }
 
 TEST_F(ThreadedScanTest, WordsReadThatLeaveTheirRangeAreAnOverflow) {
