@@ -28,7 +28,10 @@ void MainWindow::Connect() {
   ConnectNotices();
   MainForm& frmMain = context_.frmMain;
   frmMain.cmdCountWords.Click.Connect([this] { countRun_.OnCountClick(); });
-  frmMain.cmdSetParameters.Click.Connect([this] { context_.frmParams.Show(); });
+  frmMain.cmdSetParameters.Click.Connect([this] {
+    context_.frmParams.SetState(WindowState::kNormal);  // it may be minimized
+    context_.frmParams.Show();
+  });
   frmMain.cboWordOrder.Click.Connect([this] { countRun_.OnListChoiceChanged(); });
   frmMain.cboDisplayFormat.Click.Connect([this] { countRun_.OnListChoiceChanged(); });
   countRun_.File().SetOutputFileChooser([this] { ChooseOutputFile(); });

@@ -38,7 +38,9 @@ std::int32_t WholeNumber(std::string_view line) {
 /// The number that a text starts with, rounded; 0 when it starts with none.
 std::int32_t NumericValue(std::string_view text) {
   double number = 0;
+  if (text.starts_with('+')) text.remove_prefix(1);
   std::from_chars(text.data(), text.data() + text.size(), number);
+  if (!std::isfinite(number)) number = 0;  // "inf" and the like, which are words here
   const double rounded = std::nearbyint(number);
   if (!(std::abs(rounded) <= std::numeric_limits<std::int16_t>::max())) {
     throw RunTimeError(RunTimeErrorNumber::kOverflow);

@@ -5,11 +5,13 @@
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
 #include "cli/terminal_run.h"
+#include "desktop/file_system.h"
 #include "desktop/terminal.h"
 
 int main(int argc, char** argv) {
   using namespace quillomat;
   try {
+    LetDrivesBeEmpty();
     const Terminal terminal;
     const ParsedCommandLine parsed =
         ParseCommandLine(ProgramArguments(argc, argv), std::cout, std::cerr);

@@ -2,6 +2,7 @@
 
 #include "desktop/environment.h"
 #include "desktop/file_system.h"
+#include "desktop/native_path.h"
 
 namespace quillomat {
 namespace {
@@ -20,8 +21,13 @@ std::string ProgramFolder() {
   return FolderPartOf(ProgramPath());
 }
 
+std::string FromProgramFolderOn(const std::string& path) {
+  return RootLength(path) > 0 ? path : JoinPath(ProgramFolder(), path);
+}
+
 std::string DataFolder() {
-  if (auto folder = EnvironmentVariable("QUILLOMAT_DATA")) return *std::move(folder);
+  if (const auto folder = EnvironmentVariable("QUILLOMAT_DATA"))
+    return FromProgramFolderOn(*folder);
   std::string programFolder = ProgramFolder();
   const std::string shared = JoinPath(JoinPath(FolderPartOf(programFolder), "share"), "quillomat");
   const std::array<std::string, 3> places{programFolder, shared, kSourceData};

@@ -47,6 +47,10 @@ void SetCurrentFolder(const std::string& path);
 /// The root of the current drive: "/", or "\".
 [[nodiscard]] std::string RootFolder();
 
+/// To be called when a program starts: an empty drive is then a drive without files, and not worth
+/// a box of the system's own.
+void LetDrivesBeEmpty();
+
 /// Replaces the file's contents at once: whoever reads it sees the old or the new, never half of
 /// it. A link stays a link. Throws a RunTimeError, and then the old contents stand.
 void ReplaceFile(const std::string& path, std::string_view contents);
@@ -54,8 +58,13 @@ void ReplaceFile(const std::string& path, std::string_view contents);
 /// The folder of the running program.
 [[nodiscard]] std::string ProgramFolder();
 
+/// The path, which counts from the program's folder unless it starts at a root: the current folder
+/// changes while the program runs.
+[[nodiscard]] std::string FromProgramFolderOn(const std::string& path);
+
 /// The folder of the program text and the common-word lists: the environment variable
-/// QUILLOMAT_DATA if it is set, else the program's folder if they are there, else
+/// QUILLOMAT_DATA if it is set (FromProgramFolderOn), else the program's folder if they are there,
+/// else
 /// ../share/quillomat beside it, else the data folder of the sources if this build may be run from
 /// them; the program's folder if they are nowhere.
 [[nodiscard]] std::string DataFolder();

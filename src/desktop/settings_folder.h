@@ -9,9 +9,9 @@ namespace quillomat {
 /// The maker's folder in the base folder of the user's settings.
 inline constexpr std::string_view kSettingsFolderName = "Orvandel Systems";
 
-/// The base folder. On Windows: %QUILLOMAT_SETTINGS% if it is set, else per-user application data,
-/// else the first fixed drive. Elsewhere: $XDG_CONFIG_HOME if it is an absolute path, else .config
-/// in the home folder. "" when there is none. Creates nothing.
+/// The base folder. On Windows: %QUILLOMAT_SETTINGS% if it is set (see FromProgramFolderOn), else
+/// per-user application data, else the first fixed drive. Elsewhere: $XDG_CONFIG_HOME if it is an
+/// absolute path, else .config in the home folder. "" when there is none. Creates nothing.
 [[nodiscard]] std::string SettingsBaseFolder();
 
 /// The path of a file in a folder of the base folder, e.g. ("qlav.usr", "Orvandel Systems").

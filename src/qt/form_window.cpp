@@ -8,11 +8,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "qt/mnemonics.h"
 #include "qt/text_conversion.h"
@@ -224,16 +226,24 @@ bool FormWindow::OnKey(Control& control, const QKeyEvent& key) {
   return false;
 }
 
+/// A click is a press and a release of the left button over the same label; of a double click the
+/// second release is none.
 bool FormWindow::OnLabelEvent(Control& control, const QEvent& event) {
-  if (event.type() == QEvent::MouseButtonDblClick) {
+  const QEvent::Type type = event.type();
+  const bool isMouse = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
+                       type == QEvent::MouseButtonDblClick;
+  if (!isMouse) return false;
+  const auto& mouse = static_cast<const QMouseEvent&>(event);
+  if (mouse.button() != Qt::LeftButton) return false;
+  const bool wasPressed = std::exchange(pressedLabel_, nullptr) == &control;
+  if (type == QEvent::MouseButtonPress) {
+    pressedLabel_ = &control;
+  } else if (type == QEvent::MouseButtonDblClick) {
     control.As<Label>()->PerformDoubleClick();
-    return true;
-  }
-  if (event.type() == QEvent::MouseButtonRelease) {
+  } else if (wasPressed && WidgetOf(control).rect().contains(mouse.position().toPoint())) {
     control.As<Label>()->PerformClick();
-    return true;
   }
-  return false;
+  return type != QEvent::MouseButtonPress;
 }
 
 }  // namespace quillomat

@@ -71,6 +71,8 @@ class FormWindow : public QWidget {
   bool captionsChanged_ = true;
   bool focusMoved_ = false;
   bool raised_ = false;
+  /// Where the left mouse button went down; null elsewhere.
+  const Control* pressedLabel_ = nullptr;
 };
 
 }  // namespace quillomat

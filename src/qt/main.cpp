@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "app/captions.h"
+#include "desktop/file_system.h"
 #include "qt/text_conversion.h"
 #include "qt/windows.h"
 
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
     return 1;
   }
   try {
+    LetDrivesBeEmpty();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));
     QApplication::setApplicationVersion(ToQt(VersionText()));

@@ -1,5 +1,6 @@
 #include "qt/main_window_view.h"
 
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QLayout>
 #include <QMimeData>
@@ -92,7 +93,8 @@ void MainWindowView::ConnectKeys() {
     if (program_.state.busy) frmMain.cmdCountWords.PerformClick();
   };
   onHelp = [&frmMain] {
-    if (frmMain.cmdHelp.Enabled()) frmMain.cmdHelp.PerformClick();
+    // The focus stays where it is.
+    if (frmMain.cmdHelp.Enabled()) frmMain.cmdHelp.Click.Fire();
   };
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
           [this] { findBar_.Open(); });
@@ -119,7 +121,7 @@ void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindowView::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  const std::string path = FromQt(DraggedPath(*event->mimeData()));
+  const std::string path = FromQt(QDir::toNativeSeparators(DraggedPath(*event->mimeData())));
   // Later: the program may answer with a box, and the dragging must have ended by then.
   QMetaObject::invokeMethod(
       this, [this, path] { program_.ChooseText(path); }, Qt::QueuedConnection);

@@ -27,10 +27,17 @@ class LineBinding final : public WidgetBinding {
  public:
   LineBinding(TextBox& box, QLineEdit& line) : WidgetBinding(box, line), box_(box), line_(line) {
     QObject::connect(&line, &QLineEdit::textChanged,
-                     [this](const QString& text) { box_.SetText(FromQt(text)); });
+                     [this](const QString& text) { box_.SetText(FromQt(OnOneLine(text))); });
   }
 
  private:
+  /// A column that is pasted becomes a line of items with blanks between them.
+  static QString OnOneLine(QString text) {
+    return text.replace(QLatin1String("\r\n"), QLatin1String(" "))
+        .replace(QLatin1Char('\n'), QLatin1Char(' '))
+        .replace(QLatin1Char('\r'), QLatin1Char(' '));
+  }
+
   void ShowValue() override {
     const QString text = ToQt(box_.Text());
     if (line_.text() == text) return;

@@ -124,6 +124,8 @@ TEST_F(StateFileTest, LastLineIsTheSource) {
 TEST_F(StateFileTest, CheckBoxValuesAreTheNumbersThatTheyStartWithRounded) {
   for (const auto& [value, state] : {std::pair<const char*, int>{"0.4", 0},
                                      {"0.6", 1},
+                                     {"+1", 1},
+                                     {"inf", 0},
                                      {"1.4", 1},
                                      {"0.5", 0},
                                      {"1.5", 2},

@@ -110,6 +110,11 @@ TEST_F(FileSystem, DataFolderIsTheOneOfTheEnvironment) {
   EXPECT_EQ(DataFolder(), folder_.Path());
 }
 
+TEST_F(FileSystem, RelativeDataFolderCountsFromTheProgramsFolder) {
+  const ScopedVariable data("QUILLOMAT_DATA", "texts");
+  EXPECT_EQ(DataFolder(), JoinPath(ProgramFolder(), "texts"));
+}
+
 TEST_F(FileSystem, DataFolderIsTheProgramsOwnWhenTheDataAreThere) {
   const ScopedVariable data("QUILLOMAT_DATA", std::nullopt);
   const fs::path text = TestPath(ProgramFolder()) / "qlav_text.dat";

@@ -143,6 +143,50 @@ TEST_F(FormWindowTest, LanguageChangesEveryCaptionAtOnce) {
   EXPECT_EQ(user->WidgetOf<QGroupBox>(frmMain.fraOutput).title(), "List");
 }
 
+TEST_F(FormWindowTest, ColumnThatIsPastedIsOneLine) {
+  auto& line = user->WidgetOf<QLineEdit>(frmParams.txbWordsToIgnoreOrCount[0]);
+  line.insert("the\r\nand\nof");
+  user->Settle();
+  EXPECT_EQ(frmParams.txbWordsToIgnoreOrCount[0].Text(), "the and of");
+  EXPECT_EQ(line.text(), "the and of");
+}
+
+TEST_F(FormWindowTest, LabelIsClickedWithTheLeftButtonOverIt) {
+  auto& label = user->WidgetOf<QLabel>(frmMain.lblCopyrightNotice);
+  int clicks = 0;
+  frmMain.lblCopyrightNotice.Click.Connect([&clicks] { ++clicks; });
+  QTest::mouseClick(&label, Qt::RightButton);
+  EXPECT_EQ(clicks, 0);
+  QTest::mousePress(&label, Qt::LeftButton);
+  QTest::mouseRelease(&label, Qt::LeftButton, {}, QPoint(-20, -20));
+  EXPECT_EQ(clicks, 0);
+  QTest::mouseClick(&label, Qt::LeftButton);
+  EXPECT_EQ(clicks, 1);
+  boxes.Answer(QMessageBox::Ok);
+  QTest::mouseClick(&label, Qt::LeftButton);
+  QTest::mouseDClick(&label, Qt::LeftButton);
+  QTest::mouseRelease(&label, Qt::LeftButton);
+  user->Settle();
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(FormWindowTest, HelpKeyLeavesTheFocusWhereItIs) {
+  user->WidgetOf<QWidget>(frmMain.cmdCountWords).setFocus();
+  user->Settle();
+  QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.cmdCountWords), Qt::Key_F1);
+  user->Settle();
+  EXPECT_TRUE(user->windows.Help().isVisible());
+  EXPECT_EQ(user->windows.Main().focusWidget(), &user->WidgetOf<QWidget>(frmMain.cmdCountWords));
+}
+
+TEST_F(FormWindowTest, MinimizedPanelComesBackWithItsCommand) {
+  user->Click(frmMain.cmdSetParameters);
+  user->windows.Panel().showMinimized();
+  user->Settle();
+  user->Click(frmMain.cmdSetParameters);
+  EXPECT_FALSE(user->windows.Panel().isMinimized());
+}
+
 TEST_F(FormWindowTest, MinimizedHelpComesBackWithF1) {
   FormWindow& help = user->windows.Help();
   QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.cmdCountWords), Qt::Key_F1);

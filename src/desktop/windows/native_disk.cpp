@@ -77,6 +77,10 @@ void TakeError(BOOL succeeded, std::error_code& error) {
 
 }  // namespace
 
+void LetDrivesBeEmpty() {
+  SetErrorMode(SetErrorMode(0) | SEM_FAILCRITICALERRORS);
+}
+
 ItemKind KindOfItem(const std::string& path) {
   if (IsDeviceName(path)) return ItemKind::kFile;
   const std::optional<Facts> facts = FactsOf(path);

@@ -24,9 +24,10 @@ HANDLE AsHandle(std::intptr_t handle) {
   throw ToRunTimeError(ErrorCodeOf(error), action, path);
 }
 
-bool HasAttribute(const std::wstring& path, DWORD attribute) {
+/// 0 for a file that is not there.
+DWORD AttributesOf(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
+  return attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes;
 }
 
 std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD creation,
@@ -34,13 +35,16 @@ std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD cre
   if (NamesNothing(path)) ThrowError(ERROR_FILE_NOT_FOUND, action, path);
   const std::wstring system = SystemPath(path);
   if (!NamesFit(system)) ThrowError(ERROR_FILENAME_EXCED_RANGE, action, path);
-  if (HasAttribute(system, FILE_ATTRIBUTE_DIRECTORY)) {
+  const DWORD attributes = AttributesOf(system);
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
     throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
   }
   // A separator at the end asks for a folder.
   if (IsPathSeparator(path.back())) ThrowError(ERROR_DIRECTORY, action, path);
-  const HANDLE handle =
-      CreateFileW(system.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+  // A hidden file or one of the system is emptied only for those who know that it is one.
+  const DWORD kept = attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  const HANDLE handle = CreateFileW(system.c_str(), access, share, nullptr, creation,
+                                    kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) ThrowError(GetLastError(), action, path);
   return reinterpret_cast<std::intptr_t>(handle);
 }
@@ -55,7 +59,7 @@ NativeFile NativeFile::OpenForReading(const std::string& path) {
 NativeFile NativeFile::OpenForWriting(const std::string& path) {
   if (!MayBeMade(path)) ThrowError(ERROR_INVALID_NAME, FileAction::kOpenToWrite, path);
   // Not every file system minds the mark.
-  if (!NamesNothing(path) && HasAttribute(SystemPath(path), FILE_ATTRIBUTE_READONLY)) {
+  if (!NamesNothing(path) && (AttributesOf(SystemPath(path)) & FILE_ATTRIBUTE_READONLY) != 0) {
     ThrowError(ERROR_ACCESS_DENIED, FileAction::kOpenToWrite, path);
   }
   return NativeFile(

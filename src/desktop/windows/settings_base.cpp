@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "desktop/environment.h"
+#include "desktop/file_system.h"
 #include "desktop/settings_folder.h"
 #include "desktop/windows/drives.h"
 #include "desktop/windows/wide_text.h"
@@ -25,7 +26,9 @@ std::string FirstFixedDrive() {
 }
 
 std::string SettingsBaseFolder() {
-  if (auto configured = EnvironmentVariable("QUILLOMAT_SETTINGS")) return *std::move(configured);
+  if (const auto configured = EnvironmentVariable("QUILLOMAT_SETTINGS")) {
+    return FromProgramFolderOn(*configured);
+  }
   wchar_t* found = nullptr;
   const HRESULT result = SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &found);
   const std::unique_ptr<wchar_t, TaskMemoryFreer> folder(found);

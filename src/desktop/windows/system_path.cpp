@@ -25,8 +25,11 @@ std::string_view DevicePartOf(std::string_view name) {
 }
 
 bool IsNumberedPort(std::string_view lowerName) {
-  return lowerName.size() == 4 && (lowerName.starts_with("com") || lowerName.starts_with("lpt")) &&
-         lowerName[3] >= '1' && lowerName[3] <= '9';
+  static constexpr std::array<std::string_view, 3> kRaised{"¹", "²", "³"};
+  if (!lowerName.starts_with("com") && !lowerName.starts_with("lpt")) return false;
+  const std::string_view number = lowerName.substr(3);
+  return (number.size() == 1 && number[0] >= '1' && number[0] <= '9') ||
+         std::ranges::find(kRaised, number) != kRaised.end();
 }
 
 bool BelongsToDevice(std::string_view name) {

@@ -30,6 +30,11 @@ TEST(SettingsFolder, IsCreatedWhenItsPathIsAskedFor) {
   EXPECT_FALSE(FileExists(folder / "d/f"));
 }
 
+TEST(SettingsFolder, RelativeOneCountsFromTheProgramsFolder) {
+  const ScopedVariable settings("QUILLOMAT_SETTINGS", "settings");
+  EXPECT_EQ(SettingsBaseFolder(), JoinPath(ProgramFolder(), "settings"));
+}
+
 TEST(SettingsFolder, OneLevelIsCreatedAndNoMore) {
   const TemporaryFolder folder;
   const ScopedVariable settings("QUILLOMAT_SETTINGS", folder / "no");
