@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "base/byte_source.h"
 #include "desktop/native_file.h"
@@ -22,9 +23,21 @@ class InputFile final : public ByteSource {
   /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
   std::size_t Read(std::span<char> buffer) override;
 
+  /// The next `bytes` bytes, or all that are left if they are fewer, which stay to be read. The
+  /// view is good until the next call. Throws as Read does.
+  [[nodiscard]] std::string_view Ahead(std::size_t bytes);
+
  private:
+  std::size_t ReadFile(std::span<char> buffer);
+
   NativeFile file_;
   std::int64_t length_;
+  /// So many bytes have been read from the file.
+  std::int64_t bytesRead_ = 0;
+  bool ended_ = false;
+  /// Read ahead, and not yet given out from aheadStart_ on.
+  std::string ahead_;
+  std::size_t aheadStart_ = 0;
 };
 
 }  // namespace quillomat

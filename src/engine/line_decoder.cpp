@@ -177,15 +177,18 @@ std::optional<std::string_view> LineDecoder::NextLine() {
 }
 
 std::string_view LineDecoder::NextLines() {
-  if (begin_ == end_) static_cast<void>(ReadBlock());
-  SkipLineFeed();
-  const std::size_t end = begin_ + std::min(end_ - begin_, kMostBytesOfLines);
-  // A text without line feeds is not to be searched for one again with every line.
-  const std::size_t unsearched = std::min(std::max(begin_, noLineFeedTo_), end);
-  const std::size_t behind = AtHand(unsearched, end - unsearched).rfind('\n') + 1;
-  if (behind > 0) return AtHand(begin_, unsearched + behind - begin_);
-  noLineFeedTo_ = end;
-  return {};
+  for (;;) {
+    SkipLineFeed();
+    const std::size_t end = begin_ + std::min(end_ - begin_, kMostBytesOfLines);
+    // A text without line feeds is not to be searched for one again with every line.
+    const std::size_t unsearched = std::min(std::max(begin_, noLineFeedTo_), end);
+    const std::size_t behind = AtHand(unsearched, end - unsearched).rfind('\n') + 1;
+    if (behind > 0) return AtHand(begin_, unsearched + behind - begin_);
+    noLineFeedTo_ = end;
+    const std::size_t bytes = end_ - begin_;
+    if (bytes >= kMostBytesOfLines) return {};
+    if (!ReadBlock() && end_ - begin_ == bytes) return {};
+  }
 }
 
 /// The line feed of a carriage return that has ended a line.
@@ -228,7 +231,14 @@ bool LineDecoder::ReadBlock() {
   const std::size_t bytes = source_->Read(std::span(buffer_).subspan(end_));
   end_ += bytes;
   moreToCome_ = end_ == buffer_.size();
+  if (bytes == 0) EndLastLine();
   return bytes > 0;
+}
+
+/// Gives the last line an end when it has none, so that it is like the others.
+void LineDecoder::EndLastLine() {
+  if (begin_ == end_ || buffer_[end_ - 1] == '\n') return;
+  buffer_[end_++] = '\n';
 }
 
 }  // namespace quillomat

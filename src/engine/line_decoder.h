@@ -66,8 +66,9 @@ class LineDecoder {
   [[nodiscard]] std::optional<std::string_view> NextLine();
 
   /// Whole lines that NextLine would give next, with their line feeds, as they stand in the source;
-  /// at most kMostBytesOfLines. Empty when the next line is not at hand as a whole: then NextLine
-  /// has it. The view is good until the next call of NextLine or NextLines.
+  /// at most kMostBytesOfLines. The last line of a source has got one if it had none. Empty when
+  /// there is no line feed so near: then NextLine has the next line. The view is good until the
+  /// next call of NextLine or NextLines.
   [[nodiscard]] std::string_view NextLines();
   /// Passes over the first `bytes` of NextLines(), which are whole lines.
   void SkipLines(std::size_t bytes) { begin_ += bytes; }
@@ -81,6 +82,7 @@ class LineDecoder {
   }
   void SkipLineFeed();
   [[nodiscard]] bool ReadBlock();
+  void EndLastLine();
   [[nodiscard]] std::optional<std::string_view> NextRawLine();
 
   std::optional<UnmarkedSource> source_;  // none when the text is at hand

@@ -68,19 +68,20 @@ ScanFileResult FileSource::ScanFile() {
     context_.desktop.Repaint();
   }
   try {
-    const LineEndingType type = GetLineEndingType(path_, kTextTestBytes);
+    std::optional<InputFile> file;
+    const LineEndingType type = OpenText(path_, kTextTestBytes, file);
     if (const ScanFileResult refused = CheckText(type); refused != ScanFileResult::kDone) {
       return refused;
     }
     LoadMarkers();
     ShowFileType(type);
     if (folderJob_ != nullptr) {
-      ReadLines(*folderJob_, type);
+      ReadLines(*folderJob_, *file, type);
     } else {
       context_.state.DiscardWords();
       context_.state.store.Files().Reset(false);
       ScanJob job(context_);
-      ReadLines(job, type);
+      ReadLines(job, *file, type);
     }
   } catch (const RunTimeError& error) {
     error_ = error;
@@ -110,22 +111,23 @@ ScanFileResult FileSource::CheckInputFile(const std::string& path) {
   // A name in a folder may have blanks at its ends; a person who types a path does not mean any.
   path_ = folderJob_ != nullptr ? std::string_view(path) : TrimBlanks(path);
   ScanFileResult result = ScanFileResult::kDone;
+  std::optional<std::int64_t> bytes;
   if (!path_.empty() && IsPathSeparator(path_.back())) {
     result = ScanFileResult::kFolderNotFile;
     if (context_.state.blnStartUpCompleted) context_.frmMain.txbFile[0].SetText("");
-  } else if (!FileExists(path_)) {
-    result = ScanFileResult::kNotFound;
-  }
-  if (result == ScanFileResult::kDone) {
-    ShowFileSize();
   } else {
-    context_.frmMain.lblFilesize.SetCaption("");
+    bytes = FileLength(path_);
+    if (!bytes && !FileExists(path_)) result = ScanFileResult::kNotFound;
   }
+  ShowFileSize(bytes);
   return result;
 }
 
 void FileSource::ShowFileSize() {
-  const auto bytes = FileLength(path_);
+  ShowFileSize(FileLength(path_));
+}
+
+void FileSource::ShowFileSize(std::optional<std::int64_t> bytes) {
   context_.frmMain.lblFilesize.SetCaption(
       bytes ? FileSizeText(*bytes, context_.desktop.DigitGroupSeparator()) : "");
 }
@@ -198,8 +200,7 @@ void FileSource::ShowFileType(LineEndingType type) {
   context_.frmMain.lblNumWordsExcluded.SetVisible(true);
 }
 
-void FileSource::ReadLines(ScanJob& job, LineEndingType type) {
-  InputFile file(path_);
+void FileSource::ReadLines(ScanJob& job, InputFile& file, LineEndingType type) {
   const bool showProgress = scanning_ && file.Length() > kProgressBarBytes;
   if (showProgress) progress_.StartProgressBar();
   std::int64_t bytesRead = 0;

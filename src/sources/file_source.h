@@ -8,6 +8,7 @@
 #include <string>
 
 #include "base/run_time_error.h"
+#include "desktop/input_file.h"
 #include "engine/line_decoder.h"
 #include "sources/line_endings.h"
 #include "sources/progress_bar.h"
@@ -73,7 +74,8 @@ class FileSource {
   [[nodiscard]] ScanFileResult CheckText(LineEndingType type);
   void LoadMarkers();
   void ShowFileType(LineEndingType type);
-  void ReadLines(ScanJob& job, LineEndingType type);
+  void ShowFileSize(std::optional<std::int64_t> bytes);
+  void ReadLines(ScanJob& job, InputFile& file, LineEndingType type);
   void FinishFile();
 
   const RunContext& context_;

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <span>
 #include <string_view>
 
+#include "base/byte_source.h"
 #include "base/run_time_error.h"
 #include "desktop/file_system.h"
-#include "desktop/input_file.h"
 #include "engine/line_decoder.h"
 
 namespace quillomat {
@@ -58,15 +57,21 @@ LineEndingType TypeOf(ByteSource& file, std::size_t maximum) {
 }  // namespace
 
 LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum) {
-  if (!FileExists(path)) return LineEndingType::kNotFound;
   std::optional<InputFile> file;
+  return OpenText(path, maximum, file);
+}
+
+LineEndingType OpenText(const std::string& path, std::size_t maximum,
+                        std::optional<InputFile>& file) {
   try {
     file.emplace(path);
   } catch (const RunTimeError&) {
-    return LineEndingType::kCannotBeOpened;
+    return FileExists(path) ? LineEndingType::kCannotBeOpened : LineEndingType::kNotFound;
   }
-  if (FileLength(path) == 0) return LineEndingType::kZeroLength;
-  return TypeOf(*file, maximum);
+  if (file->Length() == 0 && FileLength(path) == 0) return LineEndingType::kZeroLength;
+  // A mark, and of UTF-16 two bytes for a character that may be one.
+  TextSource head(file->Ahead(3 + 2 * maximum));
+  return TypeOf(head, maximum);
 }
 
 }  // namespace quillomat

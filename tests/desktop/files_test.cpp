@@ -27,6 +27,31 @@ TEST_F(InputFileTest, ReadsAllBytesWhateverTheBlock) {
   }
 }
 
+TEST_F(InputFileTest, WhatIsSeenAheadStaysToBeRead) {
+  const std::string contents(50'000, 'x');
+  const std::string path = folder_.Write("in", "start" + contents);
+  for (const std::size_t blockBytes : {1U, 7U, 65'536U}) {
+    InputFile file(path);
+    EXPECT_EQ(file.Ahead(5), "start");
+    EXPECT_EQ(file.Ahead(3), "sta");
+    EXPECT_EQ(file.Ahead(20'000), "start" + contents.substr(0, 19'995));
+    std::array<char, 2> two{};
+    EXPECT_EQ(file.Read(two), 2U);
+    EXPECT_EQ(file.Ahead(4), "artx");
+    EXPECT_EQ(ReadWhole(file, blockBytes), "art" + contents);
+    EXPECT_EQ(file.Ahead(4), "");
+  }
+}
+
+TEST_F(InputFileTest, NoMoreIsSeenAheadThanThereIs) {
+  InputFile file(folder_.Write("in", "one"));
+  EXPECT_EQ(file.Ahead(100), "one");
+  EXPECT_EQ(file.Ahead(100), "one");
+  EXPECT_EQ(ReadWhole(file, 100), "one");
+  InputFile empty(folder_.Write("empty", ""));
+  EXPECT_EQ(empty.Ahead(100), "");
+}
+
 TEST_F(InputFileTest, EmptyFileIsAtItsEnd) {
   InputFile file(folder_.Write("empty", ""));
   EXPECT_EQ(file.Length(), 0);

@@ -1,6 +1,9 @@
 // Lines across the borders of the blocks in which a file is read.
 #include <gtest/gtest.h>
+#include <optional>
+#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/decoded_lines.h"
@@ -18,6 +21,49 @@ std::vector<std::size_t> LengthsAroundBlockBorders() {
     }
   }
   return lengths;
+}
+
+/// The lines as a scan takes them: many at once where it can be.
+std::vector<std::string> LinesTakenTogether(const std::string& bytes, std::size_t chunkBytes) {
+  ChunkedSource source(bytes, chunkBytes);
+  LineDecoder decoder(source);
+  std::vector<std::string> lines;
+  for (;;) {
+    if (const std::string block(decoder.NextLines()); !block.empty()) {
+      EXPECT_EQ(block.back(), '\n');
+      for (std::string& line : LinesOf(block)) lines.push_back(std::move(line));
+      decoder.SkipLines(block.size());
+    } else if (const auto line = decoder.NextLine()) {
+      lines.emplace_back(*line);
+    } else {
+      return lines;
+    }
+  }
+}
+
+TEST(LinesTogether, AreTheLinesOneByOne) {
+  std::mt19937_64 random(std::uint64_t{5});
+  for (int round = 0; round < 400; ++round) {
+    std::string bytes;
+    const std::size_t parts = random() % 12;
+    for (std::size_t i = 0; i < parts; ++i) {
+      bytes.append(random() % 3 == 0 ? random() % 20'000 : random() % 5, 'a');
+      bytes.append(std::vector<const char*>{"\n", "\r", "\r\n", "\r\r", "\n\n", ""}[random() % 6]);
+    }
+    const std::size_t chunkBytes = 1 + random() % (random() % 2 == 0 ? 50 : 30'000);
+    ASSERT_EQ(LinesTakenTogether(bytes, chunkBytes), LinesOf(bytes)) << round;
+  }
+}
+
+TEST(LinesTogether, LastLineIsLikeTheOthersWithoutItsEndToo) {
+  ChunkedSource source("one\ntwo", kDiskBlock);
+  LineDecoder decoder(source);
+  EXPECT_EQ(decoder.NextLines(), "one\n");
+  decoder.SkipLines(4);
+  EXPECT_EQ(decoder.NextLines(), "two\n");
+  decoder.SkipLines(4);
+  EXPECT_EQ(decoder.NextLines(), "");
+  EXPECT_EQ(decoder.NextLine(), std::nullopt);
 }
 
 TEST(BlockBorders, LineLongerThanABlockIsOneLine) {

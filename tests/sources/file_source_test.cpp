@@ -31,12 +31,11 @@ class FileSourceTest : public SourcesFixture {
     return folder.Write("large.txt", contents.substr(0, bytes));
   }
 
-  /// Removes the file when it has been found to be text, and before its lines are read.
-  void RemoveBeforeItIsOpened(const std::string& path) {
-    Main().lblNumWordsExcluded.Changed.Connect([this, path] {
-      const std::string& notice = Main().lblNumWordsExcluded.Caption();
-      if (notice == "This is a Unix-type file.") fs::remove(path);
-    });
+  /// The words read of the next file leave their range at its second line.
+  void FailAtTheSecondLine() {
+    EveryYieldPumps();
+    desktop.AtPump(desktop.Pumps() + 2,
+                   [this] { State().WordsRead = std::numeric_limits<std::int32_t>::max(); });
   }
 
   void ExpectFileSize(std::uintmax_t bytes, const std::string& caption) {
@@ -342,18 +341,16 @@ TEST_F(FileSourceTest, AStoppedScanKeepsTheWordsFoundSoFar) {
 }
 
 TEST_F(FileSourceTest, AnErrorWhileReadingIsReportedWithNumberAndDescription) {
-  const std::string path = folder.Write("a.txt", "one\ntwo\n");
-  RemoveBeforeItIsOpened(path);
-  CountFile(path);
-  ExpectMessage(OnlyMessage(), "Error 53: File not found", "Problem", MessageIcon::kExclamation);
+  FailAtTheSecondLine();
+  CountFile(folder.Write("a.txt", "one\ntwo\n"));
+  ExpectMessage(OnlyMessage(), "Error 6: Overflow", "Problem", MessageIcon::kExclamation);
   EXPECT_TRUE(program.countRun.File().Scanning());
   ExpectIdle();
 }
 
 TEST_F(FileSourceTest, AfterAnErrorTheNextFileIsCountedAsEver) {
-  const std::string path = folder.Write("a.txt", "one\ntwo\n");
-  RemoveBeforeItIsOpened(path);
-  CountFile(path);
+  FailAtTheSecondLine();
+  CountFile(folder.Write("a.txt", "one\ntwo\n"));
   EXPECT_EQ(WordsCountedIn("b.txt", "three"), "three");
   EXPECT_EQ(desktop.Messages().size(), 1U);
 }

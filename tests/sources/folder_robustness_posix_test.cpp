@@ -1,4 +1,5 @@
 // Names of any bytes, links, pipes and closed folders, which only POSIX systems have in this form.
+#include <fcntl.h>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <sys/socket.h>
@@ -26,6 +27,38 @@ void MakeDeepFolder(const TemporaryFolder& folder, int depth, const std::string&
     fs::current_path(name);
   }
   fs::current_path(before);
+}
+
+/// From now on, whoever reads the file that is open as `path` meets a device that fails: the
+/// memory of this process, which has none at its start.
+void LetReadingFail(const std::string& path) {
+  for (const fs::directory_entry& open : fs::directory_iterator("/proc/self/fd")) {
+    std::error_code none;
+    if (fs::read_symlink(open.path(), none) != path) continue;
+    const int failing = ::open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
+    ASSERT_GE(dup2(failing, std::stoi(open.path().filename())), 0);
+    close(failing);
+    return;
+  }
+  FAIL() << path << " is not open";
+}
+
+TEST_F(PosixFolderRobustness, AFileWhoseDeviceFailsIsSkippedAndNamed) {
+  Put("a.txt", "cat\n");
+  Put("b.txt", "dog\n");
+  bool fails = false;
+  Main().lblNumWordsExcluded.Changed.Connect([&] {
+    const bool opened = Main().lblNumWordsExcluded.Caption() == "This is a Unix-type file.";
+    if (!opened || fails || Main().txbFile[0].Text() != folder / "a.txt") return;
+    LetReadingFail(folder / "a.txt");
+    fails = true;
+  });
+  WatchOutput();
+  CountFolderWithoutOutputFile(folder.Path());
+  EXPECT_TRUE(Has(StoredWords(), "dog"));
+  EXPECT_THAT(SkippedPaths(), ElementsAre(folder / "a.txt"));
+  EXPECT_TRUE(WasShown(" (skipped: Device I/O error)"));
+  ExpectIdle();
 }
 
 TEST_F(PosixFolderRobustness, NamesMayHoldAnyBytes) {

@@ -33,6 +33,17 @@ TEST_F(LineEndings, TheTypesHaveTheirCodes) {
   EXPECT_EQ(static_cast<int>(Type::kCannotBeOpened), -3);
 }
 
+TEST_F(LineEndings, FileThatWasLookedAtIsAtItsStart) {
+  const std::string contents = "one\n" + std::string(3 * kMaximum, 'x');
+  std::optional<InputFile> file;
+  EXPECT_EQ(OpenText(folder_.Write("text.txt", contents), kMaximum, file), Type::kUnix);
+  ASSERT_TRUE(file.has_value());
+  EXPECT_EQ(ReadWhole(*file, 4096), contents);
+  file.reset();
+  EXPECT_EQ(OpenText(folder_ / "none.txt", kMaximum, file), Type::kNotFound);
+  EXPECT_FALSE(file.has_value());
+}
+
 TEST_F(LineEndings, AreToldFromTheBreaksThatOccur) {
   EXPECT_EQ(TypeOf("one\r\ntwo\r\n"), Type::kDos);
   EXPECT_EQ(TypeOf("one\ntwo\n"), Type::kUnix);

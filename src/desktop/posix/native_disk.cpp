@@ -1,6 +1,8 @@
 #include "desktop/native_disk.h"
 
+#include <cerrno>
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace quillomat {
 namespace {
@@ -19,24 +21,45 @@ void AddItem(const fs::directory_entry& entry, FolderListing& listing) {
   }
 }
 
+/// Links are followed.
+struct stat StatusOf(const std::string& path, std::error_code& error) {
+  struct stat status {};
+  const bool known = stat(path.c_str(), &status) == 0;
+  error = known ? std::error_code() : std::error_code(errno, std::generic_category());
+  return status;
+}
+
 }  // namespace
 
 // There are none, only folders that nothing is mounted on.
 void LetDrivesBeEmpty() {}
 
+// What is asked of every file of a folder is asked of the system itself: to take a path to pieces
+// for the standard library costs as much as the answer.
+
 ItemKind KindOfItem(const std::string& path) {
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::status_known(status) || !fs::exists(status)) return ItemKind::kNothing;
-  return fs::is_directory(status) ? ItemKind::kFolder : ItemKind::kFile;
+  const struct stat status = StatusOf(path, error);
+  if (error) return ItemKind::kNothing;
+  return S_ISDIR(status.st_mode) ? ItemKind::kFolder : ItemKind::kFile;
 }
 
 std::int64_t LengthOfFile(const std::string& path, std::error_code& error) {
-  return static_cast<std::int64_t>(fs::file_size(path, error));
+  const struct stat status = StatusOf(path, error);
+  if (error) return 0;
+  if (S_ISDIR(status.st_mode)) {
+    error = make_error_code(std::errc::is_a_directory);
+  } else if (!S_ISREG(status.st_mode)) {
+    error = make_error_code(std::errc::not_supported);
+  }
+  return status.st_size;
 }
 
 bool AreSameItem(const std::string& left, const std::string& right, std::error_code& error) {
-  return fs::equivalent(left, right, error);
+  const struct stat one = StatusOf(left, error);
+  if (error) return false;
+  const struct stat other = StatusOf(right, error);
+  return !error && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
 }
 
 FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {

@@ -21,8 +21,13 @@ namespace {
   throw ToRunTimeError(std::error_code(value, std::generic_category()), action, path);
 }
 
+struct Opened {
+  int descriptor = -1;
+  mode_t mode = 0;
+};
+
 /// Opens without waiting for the other end of a pipe; reads and writes do wait.
-int Open(const std::string& path, int flags, FileAction action) {
+Opened Open(const std::string& path, int flags, FileAction action) {
   if (NamesNothing(path)) ThrowErrno(ENOENT, action, path);
   int descriptor = -1;
   do {
@@ -30,10 +35,12 @@ int Open(const std::string& path, int flags, FileAction action) {
   } while (descriptor < 0 && errno == EINTR);
   if (descriptor < 0) ThrowErrno(errno, action, path);
   struct stat status {};
-  const bool regular = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+  static_cast<void>(fstat(descriptor, &status));
   // To a regular file the flag means nothing, and most files are such.
-  if (!regular) fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) & ~O_NONBLOCK);
-  return descriptor;
+  if (!S_ISREG(status.st_mode)) {
+    fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) & ~O_NONBLOCK);
+  }
+  return {descriptor, status.st_mode};
 }
 
 void WaitUntilWritable(int descriptor) {
@@ -70,16 +77,14 @@ class SignalShield {
 }  // namespace
 
 NativeFile NativeFile::OpenForReading(const std::string& path) {
-  NativeFile file(Open(path, O_RDONLY, FileAction::kOpenToRead));
-  struct stat status {};
-  if (fstat(static_cast<int>(file.handle_), &status) == 0 && S_ISDIR(status.st_mode)) {
-    ThrowErrno(EISDIR, FileAction::kOpenToRead, path);
-  }
+  const Opened opened = Open(path, O_RDONLY, FileAction::kOpenToRead);
+  NativeFile file(opened.descriptor);
+  if (S_ISDIR(opened.mode)) ThrowErrno(EISDIR, FileAction::kOpenToRead, path);
   return file;
 }
 
 NativeFile NativeFile::OpenForWriting(const std::string& path) {
-  return NativeFile(Open(path, O_WRONLY | O_CREAT | O_TRUNC, FileAction::kOpenToWrite));
+  return NativeFile(Open(path, O_WRONLY | O_CREAT | O_TRUNC, FileAction::kOpenToWrite).descriptor);
 }
 
 NativeFile NativeFile::StandardOutput() {
