@@ -7,8 +7,8 @@ namespace quillomat {
 
 enum class PathKind { kFile, kFolder };
 
-/// Folders are read while a path is typed; nothing is offered any more once Return was pressed or
-/// the box was left.
+/// Paths are offered when the typing pauses; none any more once Return was pressed or the box was
+/// left.
 void CompletePaths(QLineEdit& box, PathKind kind);
 
 }  // namespace quillomat
