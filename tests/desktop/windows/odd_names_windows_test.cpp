@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
-#include <windows.h>
 
 #include "desktop/desktop_test.h"
 #include "desktop/file_system.h"
@@ -164,14 +163,6 @@ TEST_F(OddNames, AFileThatIsMarkedReadOnlyIsNotWritten) {
   EXPECT_EQ(Making(file), 70);
   EXPECT_EQ(ReadThrough(file), "old");
   fs::permissions(TestPath(file), fs::perms(0666));
-}
-
-TEST_F(OddNames, AHiddenFileIsWrittenAndStaysHidden) {
-  const std::string file = folder_.Write("a.txt", "old");
-  ASSERT_NE(SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_HIDDEN), 0);
-  EXPECT_EQ(Making(file), 0);
-  EXPECT_EQ(ReadThrough(file), "");
-  EXPECT_NE(GetFileAttributesA(file.c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
 }
 
 TEST_F(OddNames, TheCurrentFolderCanBeMovedToTheRoot) {
