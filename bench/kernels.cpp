@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
+#include "base/line_decoder.h"
 #include "engine/comment_markers.h"
 #include "engine/line_block.h"
-#include "engine/line_decoder.h"
-#include "engine/piece_scanner.h"
+#include "engine/parallel/piece_scanner.h"
 #include "engine/scan_settings.h"
 #include "engine/token_classes.h"
 #include "engine/word_scanner.h"

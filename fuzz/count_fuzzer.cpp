@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "base/byte_source.h"
+#include "base/line_decoder.h"
 #include "base/utf8.h"
-#include "engine/line_decoder.h"
 #include "properties/count_case.h"
 #include "properties/count_outcome.h"
 

@@ -5,11 +5,11 @@
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
-#include "desktop/file_system.h"
 #include "listing/display_format.h"
 #include "listing/set_the_focus.h"
 #include "listing/summary.h"
 #include "sources/window_state.h"
+#include "system/file_system.h"
 #include "text/help_text.h"
 #include "text/shell_helpers.h"
 

@@ -7,11 +7,11 @@
 
 #include "app/captions.h"
 #include "base/run_time_error.h"
-#include "desktop/file_system.h"
-#include "desktop/settings_folder.h"
 #include "listing/set_the_focus.h"
 #include "listing/summary.h"
 #include "sources/window_state.h"
+#include "system/file_system.h"
+#include "system/settings_folder.h"
 #include "text/language.h"
 #include "text/shell_helpers.h"
 

@@ -6,8 +6,8 @@
 
 #include "app/state_file.h"
 #include "base/run_time_error.h"
-#include "desktop/file_system.h"
 #include "listing/set_the_focus.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {

@@ -8,11 +8,11 @@
 #include <string_view>
 #include <utility>
 
+#include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
-#include "desktop/input_file.h"
-#include "desktop/output_file.h"
-#include "engine/line_decoder.h"
+#include "system/input_file.h"
+#include "system/output_file.h"
 
 namespace quillomat {
 namespace {

@@ -5,8 +5,8 @@
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
 #include "cli/terminal_run.h"
-#include "desktop/file_system.h"
-#include "desktop/terminal.h"
+#include "system/file_system.h"
+#include "system/terminal.h"
 
 int main(int argc, char** argv) {
   using namespace quillomat;

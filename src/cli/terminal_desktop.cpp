@@ -5,7 +5,7 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
-#include "desktop/locale_info.h"
+#include "system/locale_info.h"
 
 namespace quillomat {
 namespace {

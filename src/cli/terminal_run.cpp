@@ -8,17 +8,17 @@
 
 #include "app/program.h"
 #include "base/letter_case.h"
+#include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "cli/control_settings.h"
 #include "cli/exit_status.h"
 #include "cli/standard_input.h"
 #include "cli/terminal_desktop.h"
-#include "desktop/file_system.h"
-#include "desktop/input_file.h"
-#include "desktop/output_file.h"
-#include "engine/line_decoder.h"
 #include "listing/display_format.h"
+#include "system/file_system.h"
+#include "system/input_file.h"
+#include "system/output_file.h"
 
 namespace quillomat {
 namespace {

@@ -5,10 +5,10 @@
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
-#include "desktop/file_system.h"
-#include "desktop/paths.h"
 #include "listing/file_list_sink.h"
 #include "listing/text_box_list_sink.h"
+#include "system/file_system.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {

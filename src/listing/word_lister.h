@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/output_file.h"
 #include "listing/count_state.h"
 #include "listing/list_walk.h"
 #include "listing/output_box.h"
+#include "system/output_file.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"

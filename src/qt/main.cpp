@@ -7,9 +7,9 @@
 #include <iostream>
 
 #include "app/captions.h"
-#include "desktop/file_system.h"
 #include "qt/text_conversion.h"
 #include "qt/windows.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {

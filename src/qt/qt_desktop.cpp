@@ -8,10 +8,10 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
-#include "desktop/locale_info.h"
-#include "desktop/shell.h"
 #include "qt/list_table.h"
 #include "qt/text_conversion.h"
+#include "system/locale_info.h"
+#include "system/shell.h"
 
 namespace quillomat {
 namespace {

@@ -4,10 +4,10 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
-#include "desktop/settings_folder.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
+#include "system/settings_folder.h"
 #include "ui_help_form.h"
 #include "ui_params_form.h"
 

@@ -4,9 +4,9 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
-#include "desktop/paths.h"
 #include "engine/char_class.h"
 #include "engine/word_list.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {

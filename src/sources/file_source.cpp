@@ -8,10 +8,10 @@
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
-#include "desktop/file_system.h"
-#include "desktop/input_file.h"
 #include "listing/summary.h"
 #include "sources/window_state.h"
+#include "system/file_system.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 namespace {

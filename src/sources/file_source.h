@@ -7,13 +7,13 @@
 #include <optional>
 #include <string>
 
+#include "base/line_decoder.h"
 #include "base/run_time_error.h"
-#include "desktop/input_file.h"
-#include "engine/line_decoder.h"
 #include "sources/line_endings.h"
 #include "sources/progress_bar.h"
 #include "sources/run_context.h"
 #include "sources/scan_job.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 

@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "base/text_helpers.h"
-#include "desktop/file_system.h"
 #include "listing/summary.h"
 #include "sources/scan_job.h"
 #include "sources/wildcard.h"
 #include "sources/window_state.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "base/byte_source.h"
+#include "base/line_decoder.h"
 #include "base/run_time_error.h"
-#include "desktop/file_system.h"
-#include "engine/line_decoder.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {

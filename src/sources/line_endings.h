@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "desktop/input_file.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 

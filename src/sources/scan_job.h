@@ -10,10 +10,10 @@
 #include <utility>
 
 #include "base/byte_source.h"
+#include "engine/parallel/threaded_scan.h"
 #include "engine/word_scanner.h"
 #include "sources/panel_choices.h"
 #include "sources/run_context.h"
-#include "sources/threaded_scan.h"
 #include "sources/word_echo.h"
 
 namespace quillomat {

@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "base/letter_case.h"
+#include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
-#include "desktop/file_system.h"
-#include "desktop/input_file.h"
-#include "engine/line_decoder.h"
 #include "listing/summary.h"
 #include "sources/line_ending_warning.h"
 #include "sources/scan_job.h"
+#include "system/file_system.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 namespace {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "base/run_time_error.h"
-#include "desktop/file_system.h"
-#include "desktop/input_file.h"
+#include "system/file_system.h"
+#include "system/input_file.h"
 #include "text/load_result.h"
 
 namespace quillomat {

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "base/text_helpers.h"
-#include "desktop/file_system.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/line_decoder.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
-#include "engine/line_decoder.h"
 #include "text/load_result.h"
 
 namespace quillomat {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "desktop/user_registry.h"
+#include "system/user_registry.h"
 
 namespace quillomat {
 

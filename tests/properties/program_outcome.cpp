@@ -5,13 +5,13 @@
 
 #include "base/byte_source.h"
 #include "base/text_helpers.h"
+#include "engine/parallel/threaded_scan.h"
 #include "engine/word_filters.h"
 #include "engine/word_scanner.h"
 #include "listing/file_list_sink.h"
 #include "listing/list_walk.h"
 #include "listing/text_box_list_sink.h"
 #include "properties/count_outcome.h"
-#include "sources/threaded_scan.h"
 #include "support/scripted_desktop.h"
 
 namespace quillomat::properties {

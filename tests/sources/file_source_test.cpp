@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "desktop/desktop_test.h"
 #include "sources/sources_fixture.h"
+#include "system/desktop_test.h"
 
 namespace quillomat {
 namespace {

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "desktop/desktop_test.h"
 #include "sources/line_ending_warning.h"
 #include "sources/sources_fixture.h"
+#include "system/desktop_test.h"
 
 namespace quillomat {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "base/run_time_error.h"
-#include "desktop/desktop_test.h"
 #include "sources/count_fixture.h"
+#include "system/desktop_test.h"
 
 namespace quillomat {
 namespace {

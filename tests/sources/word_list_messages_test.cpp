@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "desktop/desktop_test.h"
 #include "sources/sources_fixture.h"
 #include "sources/word_list_reader.h"
+#include "system/desktop_test.h"
 
 namespace quillomat {
 namespace {

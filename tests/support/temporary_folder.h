@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "base/text_helpers.h"
-#include "desktop/paths.h"
+#include "system/paths.h"
 
 namespace quillomat {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "base/utf8.h"
-#include "desktop/input_file.h"
+#include "system/input_file.h"
 #include "text/program_text.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/desktop_test.h"
 #include "support/scripted_desktop.h"
 #include "support/temporary_folder.h"
+#include "system/desktop_test.h"
 #include "text/program_text.h"
 #include "text/registry_value.h"
 

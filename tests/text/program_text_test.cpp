@@ -9,9 +9,9 @@
 
 #include "base/run_time_error.h"
 #include "base/utf8.h"
-#include "desktop/desktop_test.h"
 #include "support/scripted_desktop.h"
 #include "support/temporary_folder.h"
+#include "system/desktop_test.h"
 #include "text/load_result.h"
 
 namespace quillomat {

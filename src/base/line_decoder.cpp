@@ -1,0 +1,244 @@
+#include "base/line_decoder.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+#include "base/utf8.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+/// Most files of a large folder are small, and a large buffer for each would cost more than they.
+constexpr std::size_t kFirstBufferBytes = std::size_t{16} * 1024;
+constexpr char32_t kReplacement = 0xFFFD;
+
+/// The characters of the bytes 80 to 9F.
+constexpr std::array<char16_t, 32> kWindows1252High = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+bool IsHighSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool IsLowSurrogate(char16_t unit) {
+  return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+void AppendWindows1252(std::string& text, std::string_view bytes) {
+  for (const char ch : bytes) {
+    const auto byte = static_cast<unsigned char>(ch);
+    const bool mapped = byte >= 0x80 && byte <= 0x9F;
+    AppendCharacter(text, mapped ? kWindows1252High[byte - 0x80U] : char32_t{byte});
+  }
+}
+
+/// The position of the first CR or LF of `bytes`, or its size.
+std::size_t FindLineEnd(std::string_view bytes) {
+  // In small steps, so that a text that has only one kind of line end is not searched for the other
+  // kind to its end for every line.
+  constexpr std::size_t kStep = 256;
+  for (std::size_t start = 0; start < bytes.size(); start += kStep) {
+    const std::string_view step = bytes.substr(start, kStep);
+    const std::size_t lineFeed = std::min(step.find('\n'), step.size());
+    const std::size_t lineEnd = std::min(step.substr(0, lineFeed).find('\r'), lineFeed);
+    if (lineEnd < step.size()) return start + lineEnd;
+  }
+  return bytes.size();
+}
+
+}  // namespace
+
+std::string DecodeWindows1252(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 4);
+  AppendWindows1252(text, bytes);
+  return text;
+}
+
+std::string DecodeLine(std::string_view line) {
+  return IsWellFormedUtf8(line) ? std::string(line) : DecodeWindows1252(line);
+}
+
+std::string DecodeText(ByteSource& source) {
+  UnmarkedSource unmarked(source);
+  std::string bytes;
+  std::vector<char> block(kBlockBytes);
+  while (const std::size_t size = unmarked.Read(block)) bytes.append(block.data(), size);
+  if (IsWellFormedUtf8(bytes)) return bytes;
+  std::string text;
+  for (std::string_view rest = bytes; !rest.empty();) {
+    const std::size_t lineBytes = std::min(FindLineEnd(rest) + 1, rest.size());
+    text.append(DecodeLine(rest.substr(0, lineBytes)));
+    rest.remove_prefix(lineBytes);
+  }
+  return text;
+}
+
+std::size_t UnmarkedSource::Read(std::span<char> buffer) {
+  if (buffer.empty()) return 0;
+  if (encoding_ == Encoding::kUnknown) Detect();
+  const bool utf16 = encoding_ != Encoding::kBytes;
+  while (pendingStart_ == pending_.size()) {
+    pending_.clear();
+    pendingStart_ = 0;
+    if (!utf16) return source_.Read(buffer);
+    DecodeUtf16Block();
+    if (pending_.empty()) return 0;
+  }
+  const std::size_t bytes = std::min(buffer.size(), pending_.size() - pendingStart_);
+  std::memcpy(buffer.data(), pending_.data() + pendingStart_, bytes);
+  pendingStart_ += bytes;
+  return bytes;
+}
+
+void UnmarkedSource::Detect() {
+  std::array<char, 3> head{};
+  std::size_t have = 0;
+  while (have < head.size()) {
+    const std::size_t bytes = source_.Read(std::span(head).subspan(have));
+    if (bytes == 0) break;
+    have += bytes;
+  }
+  const std::string_view start(head.data(), have);
+  encoding_ = Encoding::kBytes;
+  std::size_t markBytes = 0;
+  if (start.starts_with("\xFF\xFE")) {
+    encoding_ = Encoding::kUtf16LittleEndian;
+    markBytes = 2;
+  } else if (start.starts_with("\xFE\xFF")) {
+    encoding_ = Encoding::kUtf16BigEndian;
+    markBytes = 2;
+  } else if (start.starts_with("\xEF\xBB\xBF")) {
+    markBytes = 3;
+  }
+  const std::string_view rest = start.substr(markBytes);
+  if (encoding_ == Encoding::kBytes) {
+    pending_ = rest;
+  } else if (!rest.empty()) {
+    oddByte_ = static_cast<unsigned char>(rest[0]);
+  }
+}
+
+/// Decodes some more into pending_; leaves it empty only at the end of the source.
+void UnmarkedSource::DecodeUtf16Block() {
+  std::vector<char> block(kBlockBytes);
+  while (pending_.empty()) {
+    const std::size_t bytes = source_.Read(block);
+    if (bytes == 0) {
+      if (highSurrogate_ || oddByte_) AppendCharacter(pending_, kReplacement);
+      highSurrogate_.reset();
+      oddByte_.reset();
+      return;
+    }
+    for (std::size_t i = 0; i < bytes; ++i) {
+      const auto byte = static_cast<unsigned char>(block[i]);
+      if (!oddByte_) {
+        oddByte_ = byte;
+        continue;
+      }
+      const bool little = encoding_ == Encoding::kUtf16LittleEndian;
+      const unsigned high = little ? byte : *oddByte_;
+      const unsigned low = little ? *oddByte_ : byte;
+      oddByte_.reset();
+      TakeUnit(static_cast<char16_t>((high << 8U) | low));
+    }
+  }
+}
+
+void UnmarkedSource::TakeUnit(char16_t unit) {
+  if (highSurrogate_ && IsLowSurrogate(unit)) {
+    const char32_t high = *highSurrogate_ - 0xD800U;
+    AppendCharacter(pending_, 0x10000U + (high << 10U) + (unit - 0xDC00U));
+    highSurrogate_.reset();
+    return;
+  }
+  if (highSurrogate_) AppendCharacter(pending_, kReplacement);
+  highSurrogate_.reset();
+  if (IsHighSurrogate(unit)) {
+    highSurrogate_ = unit;
+  } else {
+    AppendCharacter(pending_, IsLowSurrogate(unit) ? kReplacement : char32_t{unit});
+  }
+}
+
+LineDecoder::LineDecoder(ByteSource& source)
+    : source_(std::in_place, source), buffer_(kFirstBufferBytes) {}
+
+std::optional<std::string_view> LineDecoder::NextLine() {
+  const std::optional<std::string_view> line = NextRawLine();
+  if (!line || IsWellFormedUtf8(*line)) return line;
+  decoded_.clear();
+  AppendWindows1252(decoded_, *line);
+  return decoded_;
+}
+
+std::string_view LineDecoder::NextLines() {
+  for (;;) {
+    SkipLineFeed();
+    const std::size_t end = begin_ + std::min(end_ - begin_, kMostBytesOfLines);
+    // A text without line feeds is not to be searched for one again with every line.
+    const std::size_t unsearched = std::min(std::max(begin_, noLineFeedTo_), end);
+    const std::size_t behind = AtHand(unsearched, end - unsearched).rfind('\n') + 1;
+    if (behind > 0) return AtHand(begin_, unsearched + behind - begin_);
+    noLineFeedTo_ = end;
+    const std::size_t bytes = end_ - begin_;
+    if (bytes >= kMostBytesOfLines) return {};
+    if (!ReadBlock() && end_ - begin_ == bytes) return {};
+  }
+}
+
+/// The line feed of a carriage return that has ended a line.
+void LineDecoder::SkipLineFeed() {
+  if (!skipLineFeed_ || begin_ == end_) return;
+  if (AtHand(begin_, 1) == "\n") ++begin_;
+  skipLineFeed_ = false;
+}
+
+std::optional<std::string_view> LineDecoder::NextRawLine() {
+  std::size_t searched = 0;  // bytes from begin_ on that hold no line end
+  for (;;) {
+    SkipLineFeed();
+    const std::string_view rest = AtHand(begin_, end_ - begin_);
+    const std::size_t lineBytes = searched + FindLineEnd(rest.substr(searched));
+    if (lineBytes < rest.size()) {
+      skipLineFeed_ = rest[lineBytes] == '\r';
+      begin_ += lineBytes + 1;
+      return rest.substr(0, lineBytes);
+    }
+    searched = rest.size();
+    if (ReadBlock()) continue;
+    if (searched == 0) return std::nullopt;
+    return AtHand(std::exchange(begin_, end_), searched);
+  }
+}
+
+/// Reads more bytes behind those not yet given out; false at the end.
+bool LineDecoder::ReadBlock() {
+  if (!source_) return false;
+  if (begin_ > 0) {
+    std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+    end_ -= begin_;
+    noLineFeedTo_ -= std::min(noLineFeedTo_, begin_);
+    begin_ = 0;
+  }
+  if (end_ == buffer_.size() || (moreToCome_ && buffer_.size() - end_ < kBlockBytes)) {
+    buffer_.resize(std::max(buffer_.size() * 2, 2 * kBlockBytes));
+  }
+  const std::size_t bytes = source_->Read(std::span(buffer_).subspan(end_));
+  end_ += bytes;
+  moreToCome_ = end_ == buffer_.size();
+  if (bytes == 0) EndLastLine();
+  return bytes > 0;
+}
+
+/// Gives the last line an end when it has none, so that it is like the others.
+void LineDecoder::EndLastLine() {
+  if (begin_ == end_ || buffer_[end_ - 1] == '\n') return;
+  buffer_[end_++] = '\n';
+}
+
+}  // namespace quillomat

@@ -1,0 +1,83 @@
+#include "engine/parallel/line_pieces.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+#include "base/text_helpers.h"
+
+namespace quillomat {
+namespace {
+
+/// The place behind the last line end of `text`; 0 when there is none. A carriage return at the
+/// very end is none yet: its line feed may follow.
+std::size_t BehindLastLineEnd(std::string_view text) {
+  if (const std::size_t lineFeed = text.rfind('\n'); lineFeed != std::string_view::npos) {
+    return lineFeed + 1;
+  }
+  return text.empty() ? 0 : text.substr(0, text.size() - 1).rfind('\r') + 1;
+}
+
+}  // namespace
+
+std::int64_t BytesWithLongLineEnds(std::string_view lines) {
+  std::size_t lineEnds = CountOf('\n', lines);
+  if (lines.find('\r') != std::string_view::npos) {
+    lineEnds += CountOf('\r', lines);
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+      if (lines[i - 1] == '\r' && lines[i] == '\n') lineEnds -= 2;
+    }
+  }
+  return static_cast<std::int64_t>(lines.size() + lineEnds);
+}
+
+bool LinePieces::Next(TextPiece& piece) {
+  if (piece.memory.size() < rest_.size()) piece.memory.resize(rest_.size());
+  std::ranges::copy(rest_, piece.memory.begin());
+  piece.bytes = rest_.size();
+  rest_.clear();
+  std::size_t searched = 0;
+  while (!ended_ && ReadMore(piece)) {
+    const std::size_t behind = BehindLastLineEnd(piece.Text().substr(searched));
+    if (behind == 0) {  // a long line
+      searched = piece.bytes - 1;
+      continue;
+    }
+    const std::size_t end = searched + behind;
+    rest_ = piece.Text().substr(end);
+    piece.bytes = end;
+    return true;
+  }
+  if (error_) {
+    piece.bytes = BehindLastLineEnd(piece.Text());
+    if (piece.bytes == 0) std::rethrow_exception(error_);
+  }
+  return piece.bytes > 0;
+}
+
+/// Fills the piece up, and lets one that is full grow by half of its size, so that a long line
+/// costs no more than its bytes. False at the end.
+bool LinePieces::ReadMore(TextPiece& piece) {
+  const std::size_t grown = piece.bytes + std::max(pieceBytes_, piece.bytes) / 2 + 1;
+  const std::size_t wanted = std::max(pieceBytes_, grown);
+  if (piece.memory.size() < wanted) piece.memory.resize(wanted);
+  while (!ended_ && piece.bytes < wanted) {
+    const std::size_t bytes =
+        Read(std::span(piece.memory).subspan(piece.bytes, wanted - piece.bytes));
+    piece.bytes += bytes;
+    ended_ = bytes == 0;
+  }
+  return !ended_;
+}
+
+/// 0 at the end, and behind an error.
+std::size_t LinePieces::Read(std::span<char> buffer) {
+  try {
+    return source_.Read(buffer);
+  } catch (...) {
+    error_ = std::current_exception();
+    return 0;
+  }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,54 @@
+// Cuts a text into pieces of whole lines, so that they can be scanned by themselves.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/byte_source.h"
+#include "base/line_decoder.h"
+
+namespace quillomat {
+
+/// Whole lines of a text in memory of their own, which can be used again for the next.
+struct TextPiece {
+  std::vector<char> memory;
+  /// So many bytes at the front of the memory are the text.
+  std::size_t bytes = 0;
+
+  [[nodiscard]] std::string_view Text() const { return {memory.data(), bytes}; }
+};
+
+/// The bytes of `lines`, with two for every line end, whichever it is.
+[[nodiscard]] std::int64_t BytesWithLongLineEnds(std::string_view lines);
+
+class LinePieces {
+ public:
+  static constexpr std::size_t kPieceBytes = std::size_t{512} * 1024;
+
+  /// `source` must outlive the pieces' reader. A byte-order mark is dropped, UTF-16 becomes UTF-8.
+  explicit LinePieces(ByteSource& source, std::size_t pieceBytes = kPieceBytes)
+      : source_(source), pieceBytes_(pieceBytes) {}
+
+  /// Puts the next piece into `piece`; false when there is none. A piece has about as many bytes as
+  /// were asked for, more only when one line has more. It ends behind a line end, the last one with
+  /// the text. Passes on what the source throws, when the lines before have been given.
+  [[nodiscard]] bool Next(TextPiece& piece);
+
+ private:
+  [[nodiscard]] bool ReadMore(TextPiece& piece);
+  [[nodiscard]] std::size_t Read(std::span<char> buffer);
+
+  UnmarkedSource source_;
+  std::size_t pieceBytes_;
+  /// What was read behind the end of the last piece.
+  std::string rest_;
+  bool ended_ = false;
+  std::exception_ptr error_;
+};
+
+}  // namespace quillomat

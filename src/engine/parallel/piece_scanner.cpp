@@ -1,0 +1,108 @@
+#include "engine/parallel/piece_scanner.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/line_decoder.h"
+#include "base/text_helpers.h"
+#include "engine/comment_markers.h"
+#include "engine/parallel/line_pieces.h"
+
+namespace quillomat {
+namespace {
+
+/// A scanner that has more different words forgets them: its table is to be small, and a text whose
+/// words are all different gains nothing from it.
+constexpr std::int32_t kMostWordsKept = 65'536;
+
+}  // namespace
+
+PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
+                           const WordLists& lists, const std::atomic<bool>& stop)
+    : settings_(std::move(settings)),
+      choices_(choices),
+      stopTest_(stop),
+      scanner_(settings_, choices, lists, store_, stopTest_) {}
+
+PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
+  if (store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+  settings_ = settings;
+  scanner_.SetWordsRead(0);
+  ScanLines(text);
+  PieceCount count;
+  count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
+  count.numbersAnew = std::exchange(numbersAnew_, false);
+  count.counts = store_.TakeCounts();
+  DescribeNewWords(count);
+  count.wordsRead = scanner_.WordsRead();
+  count.openComment = settings_.OpenComment;
+  return count;
+}
+
+void PieceScanner::ScanLines(std::string_view text) {
+  LineDecoder lines(text);
+  while (!stopTest_.Yield()) {
+    const std::string_view atHand = lines.NextLines();
+    if (const std::size_t plain = scanner_.PlainLineBytes(atHand); plain > 0) {
+      scanner_.GetWordsOfLines(atHand.substr(0, plain));
+      lines.SkipLines(plain);
+    } else if (const auto line = lines.NextLine()) {
+      const std::string_view trimmed = TrimBlanks(*line);
+      if (trimmed.empty()) continue;
+      scanner_.GetWords(PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_));
+    } else {
+      break;
+    }
+  }
+}
+
+void PieceScanner::DescribeNewWords(PieceCount& count) {
+  for (; wordsTold_ < store_.NumDifferentWords(); ++wordsTold_) {
+    const std::string_view word = store_.WordAtPlace(static_cast<std::uint32_t>(wordsTold_));
+    count.newLetters.append(word);
+    count.newWordBytes.push_back(static_cast<std::uint32_t>(word.size()));
+  }
+}
+
+void PieceScanner::ForgetWords() {
+  store_.Clear();
+  wordsTold_ = 0;
+  numbersAnew_ = true;
+}
+
+void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
+  if (piece.numbersAnew) places_.clear();
+  for (std::size_t number = 0; number < places_.size(); ++number) {
+    if (piece.counts[number] > 0) store.CountWordAt(places_[number], piece.counts[number]);
+  }
+  std::string_view letters = piece.newLetters;
+  for (const std::uint32_t bytes : piece.newWordBytes) {
+    const std::int32_t times = piece.counts[places_.size()];
+    const std::uint32_t place = store.AddWord(letters.substr(0, bytes)).value();
+    if (times > 1) store.CountWordAt(place, times - 1);
+    places_.push_back(place);
+    letters.remove_prefix(bytes);
+  }
+}
+
+int LikelyOpenComment(std::string_view text, const ScanSettings& settings, int before) {
+  constexpr std::size_t kLookedAt = 8192;
+  const std::string_view end = text.substr(text.size() - std::min(text.size(), kLookedAt));
+  int open = before;
+  std::size_t nearest = 0;
+  for (int pair = 0; pair < 2; ++pair) {
+    const std::string& startMarker = settings.CommentStart[static_cast<std::size_t>(pair)];
+    const std::string& endMarker = settings.CommentEnd[static_cast<std::size_t>(pair)];
+    // Entities, and comments that end with their line, are never open at its end.
+    const bool isEntity = settings.ForceCommentMarkers && startMarker == "&";
+    if (startMarker.empty() || endMarker.empty() || isEntity) continue;
+    const std::size_t start = end.rfind(startMarker) + 1;
+    const std::size_t close = end.rfind(endMarker) + 1;
+    if (std::max(start, close) <= nearest) continue;
+    nearest = std::max(start, close);
+    open = start > close ? pair : kNoComment;
+  }
+  return open;
+}
+
+}  // namespace quillomat

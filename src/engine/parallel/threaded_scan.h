@@ -1,0 +1,72 @@
+// Scans a large text on several cores: reads it piece by piece, has the pieces scanned, and joins
+// what was found in their order. Words, first spellings, the order in which new words are told of,
+// open comments, file tallies and overflows are those of a scan from end to end; a stop comes at
+// the end of a piece.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <functional>
+#include <vector>
+
+#include "base/byte_source.h"
+#include "engine/parallel/line_pieces.h"
+#include "engine/parallel/piece_pool.h"
+#include "engine/parallel/piece_scanner.h"
+#include "engine/scan_settings.h"
+#include "engine/word_list.h"
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+class ThreadedScan {
+ public:
+  /// What a scan changes.
+  struct Target {
+    /// The allow flags are ready. The markers may change between two texts.
+    ScanSettings& settings;
+    /// Neither sorted nor cleared as long as the scan lives.
+    WordStore& store;
+    std::int32_t& wordsRead;
+  };
+
+  /// Everything must outlive the scan.
+  ThreadedScan(const Target& target, const ScanChoices& choices, const WordLists& lists,
+               std::size_t threads, std::size_t pieceBytes = LinePieces::kPieceBytes)
+      : target_(target),
+        pieceBytes_(pieceBytes),
+        pool_(target.settings, choices, lists, threads),
+        joiners_(std::max<std::size_t>(threads, 1)) {}
+
+  struct Callbacks {
+    /// Is called about every kLongestWait or more often, and says whether the scan is to stop.
+    std::function<bool()> yield;
+    /// Is told of every piece's bytes, with two for a line end, before its words are counted.
+    std::function<void(std::int64_t)> onBytes;
+  };
+  static constexpr std::chrono::milliseconds kLongestWait{8};
+
+  /// Scans a text. Throws what the source throws, and RunTimeError 6 when a counter overflows.
+  void Scan(ByteSource& source, const Callbacks& callbacks);
+
+ private:
+  void ReadAhead(LinePieces& pieces);
+  void JoinFirst();
+
+  Target target_;
+  std::size_t pieceBytes_;
+  PiecePool pool_;
+  /// By the number of the pool's scanner.
+  std::vector<PieceJoiner> joiners_;
+  /// Memory for pieces.
+  std::vector<TextPiece> spareTexts_;
+  /// Taken to be open in front of the next piece that is read.
+  int likelyOpen_ = -1;
+  bool sourceEnded_ = false;
+  std::exception_ptr readError_;
+};
+
+}  // namespace quillomat

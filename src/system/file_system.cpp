@@ -1,0 +1,133 @@
+#include "system/file_system.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <random>
+#include <system_error>
+#include <utility>
+
+#include "base/letter_case.h"
+#include "system/native_disk.h"
+#include "system/native_path.h"
+#include "system/output_file.h"
+#include "system/system_error.h"
+
+namespace quillomat {
+namespace {
+
+ItemKind KindOf(const std::string& path) {
+  return NamesNothing(path) ? ItemKind::kNothing : KindOfItem(path);
+}
+
+/// A path that names nothing would be cut short, or be the current folder, on its way to the
+/// system.
+void RefuseIfItNamesNothing(const std::string& path, FileAction action) {
+  if (!NamesNothing(path)) return;
+  throw ToRunTimeError(make_error_code(std::errc::no_such_file_or_directory), action, path);
+}
+
+void ThrowIfSet(const std::error_code& error, FileAction action, const std::string& path) {
+  if (error) throw ToRunTimeError(error, action, path);
+}
+
+void SortByName(std::vector<std::string>& names) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  keyed.reserve(names.size());
+  for (std::string& name : names) {
+    std::string key = LowerCase(name);
+    keyed.emplace_back(std::move(key), std::move(name));
+  }
+  std::ranges::sort(keyed);
+  std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
+}
+
+/// A name beside `target` that no other writer uses at the same time.
+std::string FreshNameBeside(const std::string& target) {
+  std::array<char, 8> digits{};
+  std::random_device random;
+  const auto end = std::to_chars(digits.begin(), digits.end(), random(), 16).ptr;
+  return target + '.' + std::string(digits.begin(), end) + ".new";
+}
+
+}  // namespace
+
+bool FileExists(const std::string& path) {
+  return KindOf(path) == ItemKind::kFile;
+}
+
+bool FolderExists(const std::string& path) {
+  return KindOf(path) == ItemKind::kFolder;
+}
+
+std::optional<std::int64_t> FileLength(const std::string& path) {
+  if (NamesNothing(path)) return std::nullopt;
+  std::error_code error;
+  const std::int64_t bytes = LengthOfFile(path, error);
+  if (error) return std::nullopt;
+  return bytes;
+}
+
+std::int64_t FileLengthOrThrow(const std::string& path) {
+  RefuseIfItNamesNothing(path, FileAction::kOpenToRead);
+  std::error_code error;
+  const std::int64_t bytes = LengthOfFile(path, error);
+  if (FolderExists(path)) error = make_error_code(std::errc::is_a_directory);
+  ThrowIfSet(error, FileAction::kOpenToRead, path);
+  return bytes;
+}
+
+bool IsSameFile(const std::string& left, const std::string& right) {
+  if (NamesNothing(left) || NamesNothing(right)) return false;
+  std::error_code error;
+  const bool same = AreSameItem(left, right, error);
+  return error ? SamePath(left, right) : same;
+}
+
+FolderListing ListFolder(const std::string& path) {
+  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  std::error_code error;
+  FolderListing listing = ItemsOfFolder(path, error);
+  ThrowIfSet(error, FileAction::kUseFolder, path);
+  SortByName(listing.files);
+  SortByName(listing.subfolders);
+  return listing;
+}
+
+void CreateFolder(const std::string& path) {
+  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  std::error_code error;
+  MakeFolder(path, error);
+  if (FileExists(path)) error = make_error_code(std::errc::file_exists);
+  ThrowIfSet(error, FileAction::kUseFolder, path);
+}
+
+void SetCurrentFolder(const std::string& path) {
+  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  std::error_code error;
+  EnterFolder(path, error);
+  ThrowIfSet(error, FileAction::kUseFolder, path);
+}
+
+std::string RootFolder() {
+  return {PathSeparator()};
+}
+
+void ReplaceFile(const std::string& path, std::string_view contents) {
+  RefuseIfItNamesNothing(path, FileAction::kOpenToWrite);
+  const std::string target = BehindLinks(path);
+  const std::string fresh = FreshNameBeside(target);
+  try {
+    OutputFile file(fresh);
+    file.Write(contents);
+    file.Close();
+    std::error_code error;
+    MoveFileOver(fresh, target, error);
+    ThrowIfSet(error, FileAction::kOpenToWrite, target);
+  } catch (...) {
+    RemoveFile(fresh);
+    throw;
+  }
+}
+
+}  // namespace quillomat

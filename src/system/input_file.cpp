@@ -1,0 +1,48 @@
+#include "system/input_file.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace quillomat {
+
+InputFile::InputFile(const std::string& path)
+    : file_(NativeFile::OpenForReading(path)), length_(file_.Length()) {}
+
+std::size_t InputFile::Read(std::span<char> buffer) {
+  if (aheadStart_ == ahead_.size()) return ReadFile(buffer);
+  const std::size_t bytes = std::min(buffer.size(), ahead_.size() - aheadStart_);
+  if (bytes > 0) std::memcpy(buffer.data(), ahead_.data() + aheadStart_, bytes);
+  aheadStart_ += bytes;
+  return bytes;
+}
+
+std::string_view InputFile::Ahead(std::size_t bytes) {
+  ahead_.erase(0, aheadStart_);
+  aheadStart_ = 0;
+  // That a file of known length is at its end is not asked for: most files are small, and every
+  // question costs.
+  while (ahead_.size() < bytes && !ended_ && (length_ == 0 || bytesRead_ != length_)) {
+    const std::size_t before = ahead_.size();
+    ahead_.resize(bytes);
+    std::size_t bytesRead = 0;
+    try {
+      bytesRead = ReadFile(std::span(ahead_).subspan(before));
+    } catch (...) {
+      ahead_.resize(before);
+      throw;
+    }
+    ahead_.resize(before + bytesRead);
+  }
+  return std::string_view(ahead_).substr(0, bytes);
+}
+
+/// An end stays one, though a file may grow meanwhile.
+std::size_t InputFile::ReadFile(std::span<char> buffer) {
+  if (ended_ || buffer.empty()) return 0;
+  const std::size_t bytes = file_.Read(buffer);
+  ended_ = bytes == 0;
+  bytesRead_ += static_cast<std::int64_t>(bytes);
+  return bytes;
+}
+
+}  // namespace quillomat

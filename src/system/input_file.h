@@ -1,0 +1,43 @@
+// A file open for reading, from front to back. Closed when it goes out of scope.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/byte_source.h"
+#include "system/native_file.h"
+
+namespace quillomat {
+
+class InputFile final : public ByteSource {
+ public:
+  /// Throws RunTimeError 53 when there is no such file, 76 when there is not even its folder, 70
+  /// when it may not be read, 75 when it is a folder, and others as the system has it.
+  explicit InputFile(const std::string& path);
+
+  /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
+  [[nodiscard]] std::int64_t Length() const { return length_; }
+
+  /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
+  std::size_t Read(std::span<char> buffer) override;
+
+  /// The next `bytes` bytes, or all that are left if they are fewer, which stay to be read. The
+  /// view is good until the next call. Throws as Read does.
+  [[nodiscard]] std::string_view Ahead(std::size_t bytes);
+
+ private:
+  std::size_t ReadFile(std::span<char> buffer);
+
+  NativeFile file_;
+  std::int64_t length_;
+  /// So many bytes have been read from the file.
+  std::int64_t bytesRead_ = 0;
+  bool ended_ = false;
+  /// Read ahead, and not yet given out from aheadStart_ on.
+  std::string ahead_;
+  std::size_t aheadStart_ = 0;
+};
+
+}  // namespace quillomat

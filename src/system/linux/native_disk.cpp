@@ -1,0 +1,100 @@
+#include "system/native_disk.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace quillomat {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Asks no more of the system than the folder told already, so that a file which may not even be
+/// looked at is listed all the same.
+void AddItem(const fs::directory_entry& entry, FolderListing& listing) {
+  std::error_code error;
+  const bool isLink = entry.is_symlink(error);
+  if (entry.is_regular_file(error)) {
+    listing.files.push_back(entry.path().filename().native());
+  } else if (!isLink && entry.is_directory(error)) {
+    listing.subfolders.push_back(entry.path().filename().native());
+  }
+}
+
+/// Links are followed.
+struct stat StatusOf(const std::string& path, std::error_code& error) {
+  struct stat status {};
+  const bool known = stat(path.c_str(), &status) == 0;
+  error = known ? std::error_code() : std::error_code(errno, std::generic_category());
+  return status;
+}
+
+}  // namespace
+
+// There are none, only folders that nothing is mounted on.
+void LetDrivesBeEmpty() {}
+
+// What is asked of every file of a folder is asked of the system itself: to take a path to pieces
+// for the standard library costs as much as the answer.
+
+ItemKind KindOfItem(const std::string& path) {
+  std::error_code error;
+  const struct stat status = StatusOf(path, error);
+  if (error) return ItemKind::kNothing;
+  return S_ISDIR(status.st_mode) ? ItemKind::kFolder : ItemKind::kFile;
+}
+
+std::int64_t LengthOfFile(const std::string& path, std::error_code& error) {
+  const struct stat status = StatusOf(path, error);
+  if (error) return 0;
+  if (S_ISDIR(status.st_mode)) {
+    error = make_error_code(std::errc::is_a_directory);
+  } else if (!S_ISREG(status.st_mode)) {
+    error = make_error_code(std::errc::not_supported);
+  }
+  return status.st_size;
+}
+
+bool AreSameItem(const std::string& left, const std::string& right, std::error_code& error) {
+  const struct stat one = StatusOf(left, error);
+  if (error) return false;
+  const struct stat other = StatusOf(right, error);
+  return !error && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {
+  FolderListing listing;
+  fs::directory_iterator entry(path, error);
+  while (!error && entry != fs::directory_iterator()) {
+    AddItem(*entry, listing);
+    entry.increment(error);
+  }
+  return listing;
+}
+
+void MakeFolder(const std::string& path, std::error_code& error) {
+  fs::create_directory(path, error);
+}
+
+void EnterFolder(const std::string& path, std::error_code& error) {
+  fs::current_path(path, error);
+}
+
+std::string BehindLinks(const std::string& path) {
+  std::error_code error;
+  const fs::path target = fs::canonical(path, error);
+  return error ? path : target.native();
+}
+
+void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error) {
+  const fs::file_status before = fs::status(target, error);
+  if (fs::exists(before)) fs::permissions(fresh, before.permissions(), error);
+  fs::rename(fresh, target, error);
+}
+
+void RemoveFile(const std::string& path) {
+  std::error_code ignored;
+  fs::remove(path, ignored);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,121 @@
+#include "system/native_file.h"
+
+#include <algorithm>
+#include <utility>
+#include <windows.h>
+
+#include "system/native_path.h"
+#include "system/paths.h"
+#include "system/system_error.h"
+#include "system/windows/system_path.h"
+#include "system/windows/windows_error.h"
+
+namespace quillomat {
+namespace {
+
+// What one call reads or writes at most.
+constexpr std::size_t kMostBytesPerCall = 1U << 30U;
+
+HANDLE AsHandle(std::intptr_t handle) {
+  return reinterpret_cast<HANDLE>(handle);
+}
+
+[[noreturn]] void ThrowError(DWORD error, FileAction action, const std::string& path = {}) {
+  throw ToRunTimeError(ErrorCodeOf(error), action, path);
+}
+
+/// 0 for a file that is not there.
+DWORD AttributesOf(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes == INVALID_FILE_ATTRIBUTES ? 0 : attributes;
+}
+
+std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD creation,
+                   FileAction action) {
+  if (NamesNothing(path)) ThrowError(ERROR_FILE_NOT_FOUND, action, path);
+  const std::wstring system = SystemPath(path);
+  if (!NamesFit(system)) ThrowError(ERROR_FILENAME_EXCED_RANGE, action, path);
+  const DWORD attributes = AttributesOf(system);
+  if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
+  }
+  // A separator at the end asks for a folder.
+  if (IsPathSeparator(path.back())) ThrowError(ERROR_DIRECTORY, action, path);
+  // A hidden file or one of the system is emptied only for those who know that it is one.
+  const DWORD kept = attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  const HANDLE handle = CreateFileW(system.c_str(), access, share, nullptr, creation,
+                                    kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) ThrowError(GetLastError(), action, path);
+  return reinterpret_cast<std::intptr_t>(handle);
+}
+
+}  // namespace
+
+NativeFile NativeFile::OpenForReading(const std::string& path) {
+  return NativeFile(Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                         OPEN_EXISTING, FileAction::kOpenToRead));
+}
+
+NativeFile NativeFile::OpenForWriting(const std::string& path) {
+  if (!MayBeMade(path)) ThrowError(ERROR_INVALID_NAME, FileAction::kOpenToWrite, path);
+  // Not every file system minds the mark.
+  if (!NamesNothing(path) && (AttributesOf(SystemPath(path)) & FILE_ATTRIBUTE_READONLY) != 0) {
+    ThrowError(ERROR_ACCESS_DENIED, FileAction::kOpenToWrite, path);
+  }
+  return NativeFile(
+      Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FileAction::kOpenToWrite));
+}
+
+NativeFile NativeFile::StandardOutput() {
+  HANDLE handle = nullptr;
+  if (DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_OUTPUT_HANDLE), GetCurrentProcess(),
+                      &handle, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+  return NativeFile(reinterpret_cast<std::intptr_t>(handle));
+}
+
+std::int64_t NativeFile::Length() const {
+  LARGE_INTEGER bytes{};
+  if (GetFileType(AsHandle(handle_)) != FILE_TYPE_DISK) return 0;
+  if (GetFileSizeEx(AsHandle(handle_), &bytes) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+  return bytes.QuadPart;
+}
+
+std::size_t NativeFile::Read(std::span<char> buffer) const {
+  const auto wanted = static_cast<DWORD>(std::min(buffer.size(), kMostBytesPerCall));
+  DWORD bytesRead = 0;
+  if (ReadFile(AsHandle(handle_), buffer.data(), wanted, &bytesRead, nullptr) == 0) {
+    const DWORD error = GetLastError();
+    if (error != ERROR_BROKEN_PIPE) ThrowError(error, FileAction::kTransfer);
+  }
+  return bytesRead;
+}
+
+void NativeFile::Write(std::string_view bytes) const {
+  while (!bytes.empty()) {
+    const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostBytesPerCall));
+    DWORD bytesWritten = 0;
+    if (WriteFile(AsHandle(handle_), bytes.data(), wanted, &bytesWritten, nullptr) == 0) {
+      ThrowError(GetLastError(), FileAction::kTransfer);
+    }
+    bytes.remove_prefix(bytesWritten);
+  }
+}
+
+void NativeFile::Empty() const noexcept {
+  const LARGE_INTEGER start{};
+  if (SetFilePointerEx(AsHandle(handle_), start, nullptr, FILE_BEGIN) != 0) {
+    SetEndOfFile(AsHandle(handle_));
+  }
+}
+
+void NativeFile::Close() {
+  if (CloseHandle(AsHandle(std::exchange(handle_, kClosed))) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+}
+
+}  // namespace quillomat

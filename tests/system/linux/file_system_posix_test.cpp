@@ -1,0 +1,128 @@
+// Links, permissions, pipes and names of any bytes, which only POSIX systems have in this form.
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include "support/temporary_folder.h"
+#include "system/desktop_test.h"
+#include "system/file_system.h"
+
+namespace quillomat {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class PosixFileSystem : public ::testing::Test {
+ protected:
+  TemporaryFolder folder_;
+};
+
+TEST_F(PosixFileSystem, LinksAreFollowedToWhatTheyLeadTo) {
+  const std::string file = folder_.Write("a.txt", "12345");
+  fs::create_symlink(file, folder_ / "link");
+  fs::create_symlink(folder_ / "gone", folder_ / "dangling");
+  EXPECT_TRUE(FileExists(folder_ / "link"));
+  EXPECT_EQ(FileLength(folder_ / "link"), 5);
+  EXPECT_FALSE(FileExists(folder_ / "dangling"));
+}
+
+TEST_F(PosixFileSystem, TwoNamesOfOneFileAreTheSameFile) {
+  const std::string file = folder_.Write("a.txt", "");
+  const std::string other = folder_.Write("b.txt", "");
+  fs::create_symlink(file, folder_ / "soft");
+  fs::create_hard_link(file, folder_ / "hard");
+  EXPECT_TRUE(IsSameFile(file, folder_ / "soft"));
+  EXPECT_TRUE(IsSameFile(file, folder_ / "hard"));
+  EXPECT_TRUE(IsSameFile(file, folder_ / "./a.txt"));
+  EXPECT_FALSE(IsSameFile(file, other));
+}
+
+TEST_F(PosixFileSystem, ListingHoldsFilesAndLinksToFilesOnly) {
+  const std::string file = folder_.Write("file", "");
+  const std::string subfolder = folder_.Make("sub");
+  fs::create_symlink(file, folder_ / "link to file");
+  fs::create_symlink(subfolder, folder_ / "link to folder");
+  fs::create_symlink(folder_ / "gone", folder_ / "dangling");
+  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0666), 0);
+  const FolderListing listing = ListFolder(folder_.Path());
+  EXPECT_THAT(listing.files, ElementsAre("file", "link to file"));
+  EXPECT_THAT(listing.subfolders, ElementsAre("sub"));
+}
+
+TEST_F(PosixFileSystem, ListingKeepsTheBytesOfNames) {
+  (void)folder_.Write("caf\xE9", "");
+  EXPECT_THAT(ListFolder(folder_.Path()).files, ElementsAre("caf\xE9"));
+}
+
+TEST_F(PosixFileSystem, ListingOfALockedFolderIsPermissionDenied) {
+  const std::string locked = folder_.Make("locked");
+  fs::permissions(locked, fs::perms::none);
+  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { (void)ListFolder(locked); }); }), 70);
+}
+
+TEST_F(PosixFileSystem, FilesThatMayNotBeLookedAtAreListed) {
+  const std::string shelf = folder_.Make("shelf");
+  (void)folder_.Write("shelf/book", "");
+  fs::permissions(shelf, fs::perms(0444));
+  EXPECT_EQ(AsOrdinaryUser([&] { return static_cast<int>(ListFolder(shelf).files.size()); }), 1);
+}
+
+TEST_F(PosixFileSystem, CreateFolderInALockedFolderIsPermissionDenied) {
+  fs::permissions(folder_.Path(), fs::perms(0555));
+  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { CreateFolder(folder_ / "new"); }); }),
+            70);
+}
+
+TEST_F(PosixFileSystem, CurrentFolderCanBeMovedToTheRoot) {
+  const fs::path before = fs::current_path();
+  SetCurrentFolder(RootFolder());
+  EXPECT_EQ(fs::current_path(), "/");
+  EXPECT_EQ(AbsolutePath("a.txt"), "/a.txt");
+  fs::current_path(before);
+  EXPECT_EQ(ErrorNumberOf([&] { SetCurrentFolder(folder_ / "gone"); }), 76);
+}
+
+TEST_F(PosixFileSystem, ReplaceFileKeepsALinkALink) {
+  const std::string file = folder_.Write("file", "old");
+  fs::create_symlink(file, folder_ / "link");
+  ReplaceFile(folder_ / "link", "new");
+  EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
+  EXPECT_EQ(ContentsOf(file), "new");
+}
+
+TEST_F(PosixFileSystem, ReplaceFileThatFailsLeavesTheOldContents) {
+  const std::string shelf = folder_.Make("shelf");
+  const std::string book = folder_.Write("shelf/book", "old");
+  fs::permissions(shelf, fs::perms(0555));
+  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { ReplaceFile(book, "new"); }); }), 70);
+  EXPECT_EQ(ContentsOf(book), "old");
+  EXPECT_EQ(ErrorNumberOf([&] { ReplaceFile(shelf, "new"); }), 75);
+  EXPECT_THAT(ListFolder(folder_.Path()).files, IsEmpty());
+}
+
+TEST_F(PosixFileSystem, ProgramFolderHoldsTheRunningProgram) {
+  EXPECT_EQ(ProgramFolder(), fs::canonical("/proc/self/exe").parent_path().string());
+}
+
+TEST_F(PosixFileSystem, LetterCaseCountsInNames) {
+  (void)folder_.Write("B.txt", "");
+  (void)folder_.Write("b.txt", "");
+  EXPECT_THAT(ListFolder(folder_.Path()).files, ElementsAre("B.txt", "b.txt"));
+  EXPECT_FALSE(IsSameFile(folder_ / "new.txt", folder_ / "NEW.txt"));
+}
+
+TEST_F(PosixFileSystem, ADeviceIsTheSameAsItself) {
+  EXPECT_TRUE(IsSameFile("/dev/null", "/dev/null"));
+}
+
+TEST_F(PosixFileSystem, ReplaceFileKeepsPermissions) {
+  const std::string file = folder_.Write("file", "old");
+  fs::permissions(file, fs::perms(0640));
+  ReplaceFile(file, "new contents");
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+}
+
+}  // namespace
+}  // namespace quillomat

@@ -1,0 +1,195 @@
+// Limits, permissions, pipes and redirected standard output, as POSIX systems have them.
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <vector>
+
+#include "support/temporary_folder.h"
+#include "system/desktop_test.h"
+#include "system/file_system.h"
+#include "system/input_file.h"
+#include "system/output_file.h"
+
+namespace quillomat {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Keeps the process from writing files longer than that, as a full disk would.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{.rlim_cur = bytes, .rlim_max = before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+  FileSizeLimit(FileSizeLimit&&) = delete;
+  FileSizeLimit& operator=(FileSizeLimit&&) = delete;
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+/// Puts another file in the place of standard output for a while.
+class RedirectedOutput {
+ public:
+  explicit RedirectedOutput(int descriptor) : before_(dup(STDOUT_FILENO)) {
+    fflush(stdout);
+    dup2(descriptor, STDOUT_FILENO);
+    close(descriptor);
+  }
+  RedirectedOutput(const RedirectedOutput&) = delete;
+  RedirectedOutput& operator=(const RedirectedOutput&) = delete;
+  RedirectedOutput(RedirectedOutput&&) = delete;
+  RedirectedOutput& operator=(RedirectedOutput&&) = delete;
+  ~RedirectedOutput() {
+    dup2(before_, STDOUT_FILENO);
+    close(before_);
+  }
+
+ private:
+  int before_;
+};
+
+using PosixInputFile = TestInAFolder;
+using PosixOutputFile = TestInAFolder;
+
+TEST_F(PosixInputFile, APipeThatNobodyWritesToIsAtItsEnd) {
+  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0666), 0);
+  InputFile file(folder_ / "pipe");
+  EXPECT_EQ(file.Length(), 0);
+  EXPECT_EQ(ReadWhole(file, 16), "");
+}
+
+TEST_F(PosixInputFile, LeavesNoDescriptorOpen) {
+  const std::string path = folder_.Write("in", "x");
+  const int before = open("/dev/null", O_RDONLY | O_CLOEXEC);
+  close(before);
+  { const InputFile file(path); }
+  EXPECT_EQ(ErrorNumberOf([&] { const InputFile file(folder_.Path()); }), 75);
+  const int after = open("/dev/null", O_RDONLY | O_CLOEXEC);
+  close(after);
+  EXPECT_EQ(after, before);
+}
+
+TEST_F(PosixOutputFile, ALockedFolderOrFileIsPermissionDenied) {
+  const std::string locked = folder_.Make("locked");
+  const std::string file = folder_.Write("file", "x");
+  fs::permissions(locked, fs::perms(0555));
+  fs::permissions(file, fs::perms(0444));
+  const auto opening = [](const std::string& path) {
+    return AsOrdinaryUser([&] { return ErrorNumberOf([&] { const OutputFile opened(path); }); });
+  };
+  EXPECT_EQ(opening(locked + "/new"), 70);
+  EXPECT_EQ(opening(file), 70);
+  EXPECT_EQ(ContentsOf(file), "x");
+}
+
+TEST_F(PosixOutputFile, AFullDiskIsNoticedWhileWriting) {
+  OutputFile file("/dev/full");
+  const std::string block(200'000, 'x');
+  EXPECT_EQ(ErrorNumberOf([&] { file.Write(block); }), 61);
+  EXPECT_EQ(ErrorNumberOf([&] { file.Write("more"); }), 57);
+}
+
+TEST_F(PosixOutputFile, AFullDiskIsNoticedWhenClosing) {
+  OutputFile file("/dev/full");
+  file.Write("a few bytes");
+  EXPECT_EQ(ErrorNumberOf([&] { file.Close(); }), 61);
+}
+
+TEST_F(PosixOutputFile, AFailedWriteLeavesAnEmptyFile) {
+  const std::string path = folder_ / "out";
+  const FileSizeLimit limit(100'000);
+  OutputFile file(path);
+  file.Write(std::string(70'000, 'x'));
+  EXPECT_EQ(fs::file_size(path), 70'000);
+  EXPECT_EQ(ErrorNumberOf([&] { file.Write(std::string(70'000, 'x')); }), 61);
+  EXPECT_EQ(fs::file_size(path), 0);
+}
+
+TEST_F(PosixOutputFile, APartialFileStaysWhenThatIsWanted) {
+  const std::string path = folder_ / "out";
+  const FileSizeLimit limit(100'000);
+  OutputFile file(path, OutputFile::Partial::kKeep);
+  file.Write(std::string(70'000, 'x'));
+  EXPECT_EQ(ErrorNumberOf([&] { file.Write(std::string(70'000, 'x')); }), 61);
+  EXPECT_EQ(fs::file_size(path), 100'000);
+}
+
+TEST_F(PosixOutputFile, AClosedPipeIsAnErrorAndNotTheEnd) {
+  std::array<int, 2> pipeEnds{};
+  ASSERT_EQ(pipe2(pipeEnds.data(), O_CLOEXEC), 0);
+  close(pipeEnds[0]);
+  int number = 0;
+  {
+    const RedirectedOutput redirected(pipeEnds[1]);
+    OutputFile output = OutputFile::StandardOutput();
+    output.Write("nobody reads this");
+    number = ErrorNumberOf([&] { output.Close(); });
+  }
+  EXPECT_EQ(number, 57);
+  sigset_t pending{};
+  sigpending(&pending);
+  EXPECT_EQ(sigismember(&pending, SIGPIPE), 0);
+}
+
+TEST_F(PosixOutputFile, WaitsForAPipeThatIsFull) {
+  std::array<int, 2> pipeEnds{};
+  ASSERT_EQ(pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK), 0);
+  const std::string text(1'000'000, 'x');
+  const pid_t writer = fork();
+  if (writer == 0) {
+    dup2(pipeEnds[1], STDOUT_FILENO);
+    OutputFile output = OutputFile::StandardOutput();
+    _exit(ErrorNumberOf([&] {
+      output.Write(text);
+      output.Close();
+    }));
+  }
+  close(pipeEnds[1]);
+  fcntl(pipeEnds[0], F_SETFL, 0);
+  std::size_t bytesRead = 0;
+  std::array<char, 4096> block{};
+  for (ssize_t bytes = 1; bytes > 0; bytesRead += static_cast<std::size_t>(bytes)) {
+    bytes = read(pipeEnds[0], block.data(), block.size());
+    ASSERT_GE(bytes, 0);
+  }
+  close(pipeEnds[0]);
+  int status = 0;
+  waitpid(writer, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(bytesRead, text.size());
+}
+
+TEST_F(PosixOutputFile, StandardOutputGoesWhereItPoints) {
+  const std::string path = folder_.Write("out", "before ");
+  {
+    const RedirectedOutput redirected(open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    OutputFile output = OutputFile::StandardOutput();
+    output.Write("through the file ");
+    output.Close();
+    ASSERT_EQ(write(STDOUT_FILENO, "and after", 9), 9);
+  }
+  EXPECT_EQ(ContentsOf(path), "before through the file and after");
+}
+
+TEST_F(PosixOutputFile, StandardOutputIsNeverEmptied) {
+  const std::string path = folder_.Write("out", "before");
+  {
+    const RedirectedOutput redirected(open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    OutputFile output = OutputFile::StandardOutput();
+    output.Write("never closed");
+  }
+  EXPECT_EQ(ContentsOf(path), "before");
+}
+
+}  // namespace
+}  // namespace quillomat
