@@ -1,5 +1,5 @@
-// Counting that fails instead of wrapping round. A sum that does not fit its 16 or 32 bits is the
-// program's run-time error "Overflow", which ends a run.
+// Counting that fails instead of wrapping round: a sum that does not fit its 16 or 32 bits is the
+// program's run-time error "Overflow", which ends a run. And numbers as places.
 #pragma once
 
 #include <cstddef>
@@ -29,6 +29,11 @@ struct Overflow : std::runtime_error {
 [[nodiscard]] inline std::int16_t As16(std::size_t length) {
   if (length > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) throw Overflow();
   return static_cast<std::int16_t>(length);
+}
+
+/// `number`, which is not negative, as a place in a text or a list.
+[[nodiscard]] inline std::size_t Index(std::int32_t number) {
+  return static_cast<std::size_t>(number);
 }
 
 }  // namespace quillomat::reference

@@ -1,4 +1,5 @@
 // Ranks, the two walks, and where their lines go.
+#include "reference/literal_arithmetic.h"
 #include "reference/literal_engine.h"
 
 namespace quillomat::reference {
@@ -9,10 +10,6 @@ constexpr int kFormatNumFiles = 11;
 constexpr int kFormatFileList = 12;
 constexpr int kFormatFileListFreq = 13;
 constexpr std::size_t kPreviewLength = 2048;
-
-std::size_t Index(std::int32_t number) {
-  return static_cast<std::size_t>(number);
-}
 
 }  // namespace
 

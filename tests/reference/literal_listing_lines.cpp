@@ -2,16 +2,11 @@
 #include <cmath>
 #include <cstdio>
 
+#include "reference/literal_arithmetic.h"
 #include "reference/literal_engine.h"
 
 namespace quillomat::reference {
 namespace {
-
-constexpr std::size_t kDigits = 5;
-
-std::size_t Index(std::int32_t number) {
-  return static_cast<std::size_t>(number);
-}
 
 std::size_t Width(std::int16_t width) {
   return static_cast<std::size_t>(width);
@@ -166,11 +161,11 @@ Characters LiteralEngine::FileListText(std::int32_t index, bool withFreq) const 
   const std::size_t folderLength = FromUtf8(choices.txbFolder).size();
   Characters text;
   for (std::int32_t k = 1; k <= entry.NumFiles; ++k) {
-    const std::size_t start = Index(k - 1) * kDigits + 1;
-    const std::int32_t number = NumericValue(Mid(entry.FileNumbers, start, kDigits));
-    const std::int32_t frequency = NumericValue(Mid(entry.FileCounts, start, kDigits));
+    const std::size_t start = Index(k - 1) * kFileDigits + 1;
+    const std::int32_t number = NumericValue(Mid(entry.FileNumbers, start, kFileDigits));
+    const std::int32_t frequency = NumericValue(Mid(entry.FileCounts, start, kFileDigits));
     const Characters& path = FileList[Index(number)];
-    text += withFreq ? RightJustified(Decimal(frequency), kDigits) + U" " : U"    ";
+    text += withFreq ? RightJustified(Decimal(frequency), kFileDigits) + U" " : U"    ";
     if (FolderIsAbbreviated()) {
       text += U"{Folder}" + Mid(path, folderLength + 1);
     } else {

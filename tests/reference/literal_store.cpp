@@ -1,3 +1,4 @@
+#include "reference/literal_arithmetic.h"
 #include "reference/literal_engine.h"
 #include "reference/literal_rules.h"
 
@@ -7,12 +8,7 @@ namespace {
 constexpr std::size_t kStoreStep = 500;
 constexpr std::size_t kFileListStep = 100;
 constexpr std::int32_t kLargestFileNumber = 99'999;
-constexpr std::size_t kDigits = 5;
 constexpr std::size_t kMostFileNumberCharacters = 40'000;
-
-std::size_t Index(std::int32_t number) {
-  return static_cast<std::size_t>(number);
-}
 
 }  // namespace
 
@@ -134,13 +130,13 @@ void LiteralEngine::CountWordInFile(std::int32_t index) {
   if (entry.FileNumbers.size() == kMostFileNumberCharacters) return;
   if (CurrentFileNumber > kLargestFileNumber) return;
   const Characters cur = FiveDigits(CurrentFileNumber);
-  if (Right(entry.FileNumbers, kDigits) != cur) {
+  if (Right(entry.FileNumbers, kFileDigits) != cur) {
     entry.FileNumbers += cur;
     entry.FileCounts += U"00000";
     entry.NumFiles += 1;
   }
-  const std::int32_t count = Sum16(NumericValue(Right(entry.FileCounts, kDigits)), 1);
-  entry.FileCounts.resize(entry.FileCounts.size() - kDigits);
+  const std::int32_t count = Sum16(NumericValue(Right(entry.FileCounts, kFileDigits)), 1);
+  entry.FileCounts.resize(entry.FileCounts.size() - kFileDigits);
   entry.FileCounts += FiveDigits(count);
 }
 

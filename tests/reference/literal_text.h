@@ -55,6 +55,9 @@ using Characters = std::u32string;
 /// With "," between groups of three digits. `number` is not negative.
 [[nodiscard]] Characters Grouped(std::int32_t number);
 
+/// A file's number, and how often a word occurs in it, are written with so many digits.
+inline constexpr std::size_t kFileDigits = 5;
+
 /// With leading zeros. `number` is 0 to 99,999.
 [[nodiscard]] Characters FiveDigits(std::int32_t number);
 

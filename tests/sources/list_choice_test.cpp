@@ -11,7 +11,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const std::string kHeader = "Word (longest has 3 characters)\r\n";
+const std::string kHeaderLine = "Word (longest has 3 characters)\r\n";
 
 class ListChoice : public CountFixture {
  protected:
@@ -74,11 +74,11 @@ TEST_F(ListChoice, ANewOrderListsTheSameWordsWithoutACount) {
   ListWordsOnly();
   CountClipboard("dog cat dog");
   desktop.SetClipboard("hen");
-  EXPECT_EQ(Output(), kHeader + "dog\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "dog\r\ncat\r\n");
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(Output(), kHeader + "cat\r\ndog\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "cat\r\ndog\r\n");
   ChooseOrder(WordOrder::kByFrequency);
-  EXPECT_EQ(Output(), kHeader + "dog\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "dog\r\ncat\r\n");
 }
 
 TEST_F(ListChoice, ANewFormatListsTheSameWords) {
@@ -179,7 +179,7 @@ TEST_F(ListChoice, ARefusalLeavesTheListAsItIsAndTheNextChoiceListsAgain) {
   CountClipboard("dog cat dog");
   ChooseFormat(DisplayFormat::kWordFileList);
   ChooseFormat(DisplayFormat::kWord);
-  EXPECT_EQ(Output(), kHeader + "dog\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "dog\r\ncat\r\n");
 }
 
 TEST_F(ListChoice, AFolderWithTypedCountOnlyWordsHasItsFilesListed) {
@@ -243,7 +243,7 @@ TEST_F(ListChoice, AChoiceWhileAListIsMadeAgainIsNotTakenUp) {
     Main().chkDisableOutputToFile.SetChecked(false);
   });
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(Output(), kHeader + "ant\r\nbee\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "ant\r\nbee\r\ncat\r\n");
   EXPECT_THAT(desktop.Titles(), IsEmpty());
   ExpectIdle();
 }
@@ -255,7 +255,7 @@ TEST_F(ListChoice, TheCommandStopsAListThatIsMadeAgainAndStartsNoCount) {
   AtYield(1, [this] { Count(); });
   ChooseOrder(WordOrder::kAlphabetical);
   EXPECT_EQ(StoredWords(), "ant bee cat");
-  EXPECT_EQ(Output(), kHeader + "ant\r\n\r\nListing stopped.\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "ant\r\n\r\nListing stopped.\r\n");
   ExpectIdle();
 }
 
@@ -264,7 +264,7 @@ TEST_F(ListChoice, ClearingTheTextBoxWhileAListIsMadeAgainDoesNotCutIt) {
   CountClipboard("ant bee cat");
   AtYield(2, [this] { Main().cmdClearOutput.PerformClick(); });
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(Output(), kHeader + "ant\r\nbee\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "ant\r\nbee\r\ncat\r\n");
 }
 
 TEST_F(ListChoice, AClickOnTheClipboardWhileAListIsMadeAgainDoesNotEmptyIt) {
@@ -273,7 +273,7 @@ TEST_F(ListChoice, AClickOnTheClipboardWhileAListIsMadeAgainDoesNotEmptyIt) {
   CountFile(folder.Write("a.txt", "ant bee cat"));
   AtYield(2, [this] { Main().optOnClipboard.PerformClick(); });
   ChooseOrder(WordOrder::kAlphabetical);
-  EXPECT_EQ(Output(), kHeader + "ant\r\nbee\r\ncat\r\n");
+  EXPECT_EQ(Output(), kHeaderLine + "ant\r\nbee\r\ncat\r\n");
   ExpectIdle();
 }
 

@@ -15,9 +15,9 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const std::string kHeader = "Word (longest has 3 characters)";
-const std::string kFileList = kHeader + "\ncat\ndog\n";
-const std::string kBoxList = kHeader + "\r\ncat\r\ndog\r\n";
+const std::string kFileHeader = "Word (longest has 3 characters)";
+const std::string kFileList = kFileHeader + "\ncat\ndog\n";
+const std::string kBoxList = kFileHeader + "\r\ncat\r\ndog\r\n";
 
 class OutputFileTest : public CountFixture {
  protected:
@@ -85,7 +85,7 @@ TEST_F(OutputFileTest, AListAgainGoesIntoTheFileToo) {
   DoNotWarn();
   ListTo(path);
   CountClipboard("dog cat dog");
-  EXPECT_EQ(TextOf(path), kHeader + "\ndog\ncat\n");
+  EXPECT_EQ(TextOf(path), kFileHeader + "\ndog\ncat\n");
   ChooseOrder(WordOrder::kAlphabetical);
   EXPECT_EQ(TextOf(path), kFileList);
 }
@@ -372,7 +372,7 @@ TEST_F(OutputFileTest, AMissingFolderIsReported) {
   ListTo(folder / "nowhere/out.txt");
   CountTwoWords();
   ExpectProblem("Error 76: Path not found");
-  EXPECT_FALSE(Has(Output(), kHeader));
+  EXPECT_FALSE(Has(Output(), kFileHeader));
 }
 
 TEST_F(OutputFileTest, AFileInPlaceOfAFolderIsReported) {

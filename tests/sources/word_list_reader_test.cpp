@@ -16,8 +16,7 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr WordListKind kIgnore = WordListKind::kIgnore;
-constexpr WordListKind kCountOnly = WordListKind::kCountOnly;
+using enum WordListKind;
 
 class WordListReaderTest : public SourcesFixture {
  protected:

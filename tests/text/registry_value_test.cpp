@@ -8,14 +8,14 @@
 namespace quillomat {
 namespace {
 
-const std::string kKey(kProgramKeyPath);
+const std::string kProgramKey(kProgramKeyPath);
 
 class RegistryValueTest : public testing::Test {
  protected:
   MemoryRegistry registry;
 
   std::string Set(Language language) {
-    return SetRegistryValue(registry, kKey, "Language", "DE", language);
+    return SetRegistryValue(registry, kProgramKey, "Language", "DE", language);
   }
   /// What SetRegistryValue says in English and in German when the key's fate is `outcome`.
   std::array<std::string, 2> SetBoth(RegistryKeyOutcome outcome, const std::string& errorText) {
@@ -23,8 +23,8 @@ class RegistryValueTest : public testing::Test {
     return {Set(Language::kEnglish), Set(Language::kGerman)};
   }
   std::array<std::string, 2> ReadBoth(const std::string& name) {
-    return {GetRegistryValue(registry, kKey, name, Language::kEnglish).status,
-            GetRegistryValue(registry, kKey, name, Language::kGerman).status};
+    return {GetRegistryValue(registry, kProgramKey, name, Language::kEnglish).status,
+            GetRegistryValue(registry, kProgramKey, name, Language::kGerman).status};
   }
 };
 
@@ -36,16 +36,16 @@ TEST(RegistryKey, ProgramHasItsOwn) {
 
 TEST_F(RegistryValueTest, NewKeyIsCreatedAndThenExists) {
   EXPECT_EQ(Set(Language::kEnglish), "0 New key created.");
-  EXPECT_EQ(registry.Keys().at(kKey).at("Language"), "DE");
+  EXPECT_EQ(registry.Keys().at(kProgramKey).at("Language"), "DE");
   EXPECT_EQ(Set(Language::kEnglish), "0 Key already exists.");
 }
 
 TEST_F(RegistryValueTest, ValueIsReplaced) {
-  EXPECT_EQ(SetRegistryValue(registry, kKey, "Language", "DE", Language::kGerman),
+  EXPECT_EQ(SetRegistryValue(registry, kProgramKey, "Language", "DE", Language::kGerman),
             "0 Neuer Schlüssel verursacht.");
-  EXPECT_EQ(SetRegistryValue(registry, kKey, "Language", "EN", Language::kGerman),
+  EXPECT_EQ(SetRegistryValue(registry, kProgramKey, "Language", "EN", Language::kGerman),
             "0 Schlüssel besteht bereits.");
-  EXPECT_EQ(registry.Keys().at(kKey).at("Language"), "EN");
+  EXPECT_EQ(registry.Keys().at(kProgramKey).at("Language"), "EN");
 }
 
 TEST_F(RegistryValueTest, EveryFateOfTheKeyHasItsText) {
@@ -66,21 +66,21 @@ TEST_F(RegistryValueTest, FailureStartsWithTheSystemsWordsAndABlank) {
 TEST_F(RegistryValueTest, NothingIsWrittenWithoutAKey) {
   EXPECT_EQ(Set(Language::kEnglish), "0 New key created.");
   registry.ForceKeyResult(RegistryKeyResult{RegistryKeyOutcome::kFailed, "No."});
-  SetRegistryValue(registry, kKey, "Language", "EN", Language::kEnglish);
-  EXPECT_EQ(registry.Keys().at(kKey).at("Language"), "DE");
+  SetRegistryValue(registry, kProgramKey, "Language", "EN", Language::kEnglish);
+  EXPECT_EQ(registry.Keys().at(kProgramKey).at("Language"), "DE");
 }
 
 TEST_F(RegistryValueTest, StatusIsThatOfTheKeyEvenWhenTheValueCannotBeWritten) {
   registry.FailWrites(true);
   EXPECT_EQ(Set(Language::kEnglish), "0 New key created.");
-  EXPECT_TRUE(registry.Keys().at(kKey).empty());
+  EXPECT_TRUE(registry.Keys().at(kProgramKey).empty());
 }
 
 TEST_F(RegistryValueTest, EveryFateOfAReadingHasItsText) {
   EXPECT_EQ(ReadBoth("Language"),
             (Both{"1 Key not found or is empty.", "1 Schlüssel nicht gefunden oder ist leer."}));
-  SetRegistryValue(registry, kKey, "Language", "DE", Language::kEnglish);
-  SetRegistryValue(registry, kKey, "Empty", "", Language::kEnglish);
+  SetRegistryValue(registry, kProgramKey, "Language", "DE", Language::kEnglish);
+  SetRegistryValue(registry, kProgramKey, "Empty", "", Language::kEnglish);
   EXPECT_EQ(ReadBoth("Language"), (Both{"0 OK", "0 OK"}));
   EXPECT_EQ(ReadBoth("Empty"), (Both{"0 OK probably", "0 OK wahrscheinlich"}));
   EXPECT_EQ(ReadBoth(""), (Both{"2 Name not specified.", "2 Name nicht spezifiziert."}));
@@ -88,9 +88,9 @@ TEST_F(RegistryValueTest, EveryFateOfAReadingHasItsText) {
 }
 
 TEST_F(RegistryValueTest, DataComeWithTheStatus) {
-  EXPECT_EQ(GetRegistryValue(registry, kKey, "Language", Language::kEnglish).data, "");
-  SetRegistryValue(registry, kKey, "Language", "Grün", Language::kEnglish);
-  EXPECT_EQ(GetRegistryValue(registry, kKey, "Language", Language::kEnglish).data, "Grün");
+  EXPECT_EQ(GetRegistryValue(registry, kProgramKey, "Language", Language::kEnglish).data, "");
+  SetRegistryValue(registry, kProgramKey, "Language", "Grün", Language::kEnglish);
+  EXPECT_EQ(GetRegistryValue(registry, kProgramKey, "Language", Language::kEnglish).data, "Grün");
 }
 
 }  // namespace

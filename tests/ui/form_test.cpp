@@ -10,9 +10,9 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class Window final : public Form {
+class FocusWindow final : public Form {
  public:
-  Window() : Form("frmTest", "Test") {}
+  FocusWindow() : Form("frmTest", "Test") {}
 
   std::array<TextBox, 2> txbFile{TextBox{*this, {"txbFile", 0}}, TextBox{*this, {"txbFile", 1}}};
   CommandButton cmdGo{*this, "cmdGo", "Go"};
@@ -29,7 +29,7 @@ class FormTest : public ::testing::Test {
     }
   }
 
-  Window window_;
+  FocusWindow window_;
   std::vector<std::string> log_;
 };
 
