@@ -1,9 +1,13 @@
 #include "engine/token_classes.h"
 
+#include <algorithm>
 #include <bit>
+#include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "engine/char_class.h"
+#include "engine/kernel_choice.h"
 
 // Only Highway's headers are used: its library spends 2 ms on measuring the clock whenever a
 // program starts. Nothing here needs its debugging aids, which the library would have to provide.
@@ -86,42 +90,84 @@ namespace quillomat {
 
 namespace {
 
-struct Kernels {
+struct Kernel {
+  std::string_view name;
   void (*findTokenBytes)(const TokenClasses&, std::string_view, std::span<std::uint64_t>);
   std::size_t (*findEdges)(std::span<const std::uint64_t>, std::uint32_t*);
 };
 
-/// The best that this processor can do.
-Kernels ChooseKernels() {
+/// Those that this processor can run, the plainest first.
+std::vector<Kernel> UsableKernels() {
+  std::vector<Kernel> kernels{{"portable", FindTokenBytesPortably, HWY_STATIC_DISPATCH(FindEdges)}};
+#if HWY_STATIC_TARGET != HWY_SCALAR  // whose vectors of one byte cannot hold a table of sixteen
+  kernels.push_back(
+      {"baseline", HWY_STATIC_DISPATCH(FindTokenBytes), HWY_STATIC_DISPATCH(FindEdges)});
+#endif
 #if HWY_ARCH_X86
   __builtin_cpu_init();
+#if (HWY_TARGETS & HWY_SSSE3) != 0
+  if (__builtin_cpu_supports("ssse3")) {
+    kernels.push_back({"ssse3", N_SSSE3::FindTokenBytes, N_SSSE3::FindEdges});
+  }
+#endif
 #if (HWY_TARGETS & (HWY_AVX2 | HWY_AVX3)) != 0
   const bool avx2 = __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
                     __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2") &&
                     __builtin_cpu_supports("aes") && __builtin_cpu_supports("pclmul");
 #endif
+#if (HWY_TARGETS & HWY_AVX2) != 0
+  if (avx2) kernels.push_back({"avx2", N_AVX2::FindTokenBytes, N_AVX2::FindEdges});
+#endif
 #if (HWY_TARGETS & HWY_AVX3) != 0
   if (avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
       __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw")) {
-    return {N_AVX3::FindTokenBytes, N_AVX3::FindEdges};
+    kernels.push_back({"avx3", N_AVX3::FindTokenBytes, N_AVX3::FindEdges});
   }
 #endif
-#if (HWY_TARGETS & HWY_AVX2) != 0
-  if (avx2) return {N_AVX2::FindTokenBytes, N_AVX2::FindEdges};
 #endif
-#if (HWY_TARGETS & HWY_SSSE3) != 0
-  if (__builtin_cpu_supports("ssse3")) return {N_SSSE3::FindTokenBytes, N_SSSE3::FindEdges};
-#endif
-#endif
-  return {HWY_STATIC_DISPATCH(FindTokenBytes), HWY_STATIC_DISPATCH(FindEdges)};
+  return kernels;
 }
 
-const Kernels& BestKernels() {
-  static const Kernels kKernels = ChooseKernels();
-  return kKernels;
+struct KernelChoice {
+  Kernel kernel;
+  std::string fault;
+};
+
+/// `wanted` is a name, or empty for the best.
+KernelChoice ChooseKernel(std::string_view wanted) {
+  const std::vector<Kernel> kernels = UsableKernels();
+  if (wanted.empty()) return {kernels.back(), ""};
+  const auto found = std::find_if(kernels.begin(), kernels.end(),
+                                  [&](const Kernel& kernel) { return kernel.name == wanted; });
+  if (found != kernels.end()) return {*found, ""};
+  std::string fault = "QUILLOMAT_KERNEL is '" + std::string(wanted) + "'; this machine has";
+  for (const Kernel& kernel : kernels) fault += " " + std::string(kernel.name);
+  return {kernels.back(), fault};
+}
+
+const KernelChoice& Choice() {
+  static const KernelChoice kChoice = [] {
+    const char* const wanted = std::getenv("QUILLOMAT_KERNEL");
+    return ChooseKernel(wanted != nullptr ? wanted : "");
+  }();
+  return kChoice;
 }
 
 }  // namespace
+
+std::vector<std::string_view> KernelNames() {
+  std::vector<std::string_view> names;
+  for (const Kernel& kernel : UsableKernels()) names.push_back(kernel.name);
+  return names;
+}
+
+std::string_view KernelName() {
+  return Choice().kernel.name;
+}
+
+std::string KernelFault() {
+  return Choice().fault;
+}
 
 TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
   for (unsigned byte = 0; byte < 0x80; ++byte) {
@@ -133,7 +179,7 @@ TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
 
 void FindTokenBytes(const TokenClasses& classes, std::string_view text,
                     std::span<std::uint64_t> masks) {
-  BestKernels().findTokenBytes(classes, text, masks);
+  Choice().kernel.findTokenBytes(classes, text, masks);
 }
 
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
@@ -170,7 +216,7 @@ void TokenEdges::CutOut(std::size_t first, std::size_t end) {
 
 void TokenEdges::Find(std::size_t size) {
   edges_.resize(masks_.size() * kBytesPerMask + kEdgesAtOnce + 1);
-  count_ = BestKernels().findEdges(masks_, edges_.data());
+  count_ = Choice().kernel.findEdges(masks_, edges_.data());
   // A token that ends with the text has its end there.
   if (count_ % 2 != 0) edges_[count_++] = static_cast<std::uint32_t>(size);
 }

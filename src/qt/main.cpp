@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "app/captions.h"
+#include "engine/kernel_choice.h"
 #include "qt/text_conversion.h"
 #include "qt/windows.h"
 #include "system/file_system.h"
@@ -64,6 +65,10 @@ int main(int argc, char** argv) {
   using namespace quillomat;
   if (!HasDisplay()) {
     std::cerr << "quillomat: there is no display. quillomat-cli counts in a terminal.\n";
+    return 1;
+  }
+  if (const std::string fault = KernelFault(); !fault.empty()) {
+    std::cerr << "quillomat: " << fault << '\n';
     return 1;
   }
   try {

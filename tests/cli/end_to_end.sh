@@ -133,6 +133,14 @@ cp out one.txt
 check "several threads make the same list" 0 --file large.txt --threads 4 \
   --set chkAllowWordsWithNumerals=1
 cmp -s one.txt out || { echo "FAILED $name"; failed=1; }
+QUILLOMAT_KERNEL=abacus
+export QUILLOMAT_KERNEL
+check "a kernel that does not exist" 2 --file cat.txt
+holds err "quillomat-cli: QUILLOMAT_KERNEL is 'abacus'; this machine has portable"
+lines out 0
+QUILLOMAT_KERNEL=portable
+check "a kernel that does exist" 0 --file cat.txt
+unset QUILLOMAT_KERNEL
 check "a missing state file" 1 --file cat.txt --state missing.qlm
 holds err "missing.qlm"
 head -n 44 mine.qlm >short.qlm

@@ -1,9 +1,11 @@
 // Holds the program's engine and listing against the literal engine: the same case must have the
 // same outcome, to the letter. A case that fails is made as small as it can be and printed as code.
 #include <cstdint>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <random>
+#include <string>
 
 #include "properties/count_case.h"
 #include "properties/count_outcome.h"
@@ -11,7 +13,13 @@
 namespace quillomat::properties {
 namespace {
 
-constexpr int kCasesPerSeed = 12'000;
+/// As many as the environment variable QUILLOMAT_PROPERTY_CASES says, where every case takes long.
+int CasesPerSeed() {
+  constexpr int kUsual = 12'000;
+  const char* const wanted = std::getenv("QUILLOMAT_PROPERTY_CASES");
+  return wanted != nullptr ? std::stoi(wanted) : kUsual;
+}
+
 /// Threads take longer to be made than a case to be counted, so only every so manieth case has
 /// them.
 constexpr int kCasesPerThreadedCase = 24;
@@ -39,7 +47,8 @@ CountCase Smallest(CountCase failing) {
 
 void CompareRandomCases(std::uint64_t seed) {
   Random random(seed);
-  for (int i = 0; i < kCasesPerSeed; ++i) {
+  const int cases = CasesPerSeed();
+  for (int i = 0; i < cases; ++i) {
     const CountCase countCase = RandomCase(random);
     if (!Differs(countCase, i % kCasesPerThreadedCase == 0)) continue;
     const CountCase smallest = Smallest(countCase);
