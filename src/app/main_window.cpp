@@ -1,15 +1,19 @@
 #include "app/main_window.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "listing/display_format.h"
 #include "listing/set_the_focus.h"
 #include "listing/summary.h"
+#include "sources/path_boxes.h"
 #include "sources/window_state.h"
 #include "system/file_system.h"
+#include "text/caption_table.h"
 #include "text/help_text.h"
 #include "text/shell_helpers.h"
 
@@ -47,16 +51,21 @@ void MainWindow::FillListCombos() {
   }
   frmMain.cboWordOrder.SetListIndex(0);
   frmMain.cboDisplayFormat.SetListIndex(0);
+  frmMain.cboDisplayFormat.SetReasonAgainst([this](int listIndex) {
+    const bool served = context_.lister.CanServe(static_cast<DisplayFormat>(listIndex));
+    return served ? std::string() : context_.text.GetText(kFormatNotServedText);
+  });
 }
 
 void MainWindow::ChooseText(const std::string& path) {
   if (context_.state.busy) return;
   MainForm& frmMain = context_.frmMain;
+  RememberFolderOf(path, context_);
   if (FolderExists(path)) {
-    frmMain.txbFolder.SetText(path);
+    frmMain.txbFolder.EnterText(path);
     frmMain.optFolder.SetValue(true);
   } else {
-    frmMain.txbFile[0].SetText(path);
+    frmMain.txbFile[0].EnterText(path);
     frmMain.optInFile.SetValue(true);
     const bool found = countRun_.File().CheckInputFile(path) == ScanFileResult::kDone;
     if (!found) Refuse(context_, "Input file does not exist.", "File not found");
@@ -64,24 +73,60 @@ void MainWindow::ChooseText(const std::string& path) {
   SetTheFocus(frmMain);
 }
 
+void MainWindow::TakeDrop(const std::vector<std::string>& paths) {
+  if (context_.state.busy) return;
+  if (paths.size() == 1) return ChooseText(paths.front());
+  Tell(context_, context_.text.GetText(paths.empty() ? kNoPathDroppedText : kManyPathsDroppedText),
+       context_.text.GetText(kProgramTitleText), MessageIcon::kInformation);
+}
+
+std::string MainWindow::NotFoundText() const {
+  const ListPart part = context_.output.Part();
+  if (!part.IsCut()) return context_.text.GetText(kNotFoundText);
+  std::string text = context_.text.GetText(kNotFoundInPartText);
+  for (const auto& [sign, number] : {std::pair("%1", part.shown), std::pair("%2", part.all)}) {
+    const std::size_t place = text.find(sign);
+    if (place != std::string::npos) text.replace(place, 2, Grouped(context_, number));
+  }
+  return text;
+}
+
+/// The focus stays where the user is typing.
+void MainWindow::SelectSourceOf(const TextBox& box, OptionButton& source) {
+  if (box.Text().empty()) return;
+  followingTheHand_ = true;
+  source.SetValue(true);
+  followingTheHand_ = false;
+}
+
 void MainWindow::ConnectSource() {
   MainForm& frmMain = context_.frmMain;
+  frmMain.txbFile[0].Entered.Connect(
+      [this, &frmMain] { SelectSourceOf(frmMain.txbFile[0], frmMain.optInFile); });
+  frmMain.txbFolder.Entered.Connect(
+      [this, &frmMain] { SelectSourceOf(frmMain.txbFolder, frmMain.optFolder); });
   frmMain.optOnClipboard.Click.Connect([this] {
     if (!context_.state.blnStartUpCompleted || context_.state.busy) return;
     context_.output.ClearOutput();
     EnableSourceControls(context_);
     SetTheFocus(context_.frmMain);
   });
-  frmMain.optInFile.Click.Connect([this] { SetTheFocus(context_.frmMain); });
-  frmMain.optFolder.Click.Connect([this] { SetTheFocus(context_.frmMain); });
+  for (OptionButton* source : {&frmMain.optInFile, &frmMain.optFolder}) {
+    source->Click.Connect([this] {
+      if (!followingTheHand_) SetTheFocus(context_.frmMain);
+    });
+  }
 }
 
 void MainWindow::ConnectFiles() {
   MainForm& frmMain = context_.frmMain;
   frmMain.txbFile[0].LostFocus.Connect([this] {
-    const std::string& path = context_.frmMain.txbFile[0].Text();
-    if (!path.empty()) countRun_.File().CheckInputFile(path);
+    TextBox& box = context_.frmMain.txbFile[0];
+    CompletePathIn(box, context_);
+    if (!box.Text().empty()) countRun_.File().CheckInputFile(box.Text());
   });
+  frmMain.txbFile[1].LostFocus.Connect(
+      [this] { CompletePathIn(context_.frmMain.txbFile[1], context_); });
   frmMain.cmdFile[0].Click.Connect([this] { ChooseInputFile(); });
   frmMain.cmdFile[1].Click.Connect([this] { ChooseOutputFile(); });
   frmMain.cmdClearFile[0].Click.Connect([this] {
@@ -102,8 +147,10 @@ void MainWindow::ChooseInputFile() {
   dialog.pathMustExist = true;
   dialog.fileMustExist = true;
   dialog.hideReadOnly = true;
-  if (const auto path = context_.desktop.ChooseFile(dialog)) {
-    context_.frmMain.txbFile[0].SetText(*path);
+  TextBox& box = context_.frmMain.txbFile[0];
+  if (const auto path = ChooseFileFor(box, dialog, context_)) {
+    box.SetText(*path);
+    SelectSourceOf(box, context_.frmMain.optInFile);
     countRun_.File().CheckInputFile(*path);
   }
   SetTheFocus(context_.frmMain);
@@ -118,9 +165,8 @@ void MainWindow::ChooseOutputFile() {
   dialog.pathMustExist = true;
   dialog.hideReadOnly = true;
   dialog.noReadOnlyReturn = true;
-  if (const auto path = context_.desktop.ChooseFile(dialog)) {
-    context_.frmMain.txbFile[1].SetText(*path);
-  }
+  TextBox& box = context_.frmMain.txbFile[1];
+  if (const auto path = ChooseFileFor(box, dialog, context_)) box.SetText(*path);
   SetTheFocus(context_.frmMain);
 }
 
@@ -128,8 +174,10 @@ void MainWindow::ConnectFolder() {
   MainForm& frmMain = context_.frmMain;
   frmMain.cmdFolder.Click.Connect([this] {
     context_.output.ClearOutput();
-    if (const auto path = context_.desktop.BrowseForFolder("Select Folder")) {
-      context_.frmMain.txbFolder.SetText(*path);
+    TextBox& box = context_.frmMain.txbFolder;
+    if (const auto path = ChooseFolderFor(box, "Select Folder", context_)) {
+      box.SetText(*path);
+      SelectSourceOf(box, context_.frmMain.optFolder);
     }
     SetTheFocus(context_.frmMain);
   });
@@ -138,8 +186,8 @@ void MainWindow::ConnectFolder() {
     SetTheFocus(context_.frmMain);
   });
   frmMain.txbFolder.LostFocus.Connect([this] {
-    const std::string& path = context_.frmMain.txbFolder.Text();
-    if (!path.empty() && !FolderExists(path)) Refuse(context_, "Folder does not exist.", "Error");
+    CompletePathIn(context_.frmMain.txbFolder, context_);
+    if (!IsClickingForTheFolder()) context_.frmMain.AfterClick([this] { CheckFolder(); });
   });
   for (std::size_t i = 0; i < 2; ++i) {
     const auto list = static_cast<ExtensionList>(i);
@@ -151,6 +199,19 @@ void MainWindow::ConnectFolder() {
     });
   }
   frmMain.cmdListFiles.Click.Connect([this] { countRun_.OnListFilesClick(); });
+}
+
+void MainWindow::CheckFolder() {
+  const std::string& path = context_.frmMain.txbFolder.Text();
+  if (!path.empty() && !FolderExists(path)) Refuse(context_, "Folder does not exist.", "Error");
+}
+
+/// Whether the box is left for a command that looks at the folder itself.
+bool MainWindow::IsClickingForTheFolder() const {
+  const MainForm& frmMain = context_.frmMain;
+  if (!frmMain.IsInClick()) return false;
+  return frmMain.Focused() == &frmMain.cmdListFiles ||
+         (frmMain.Focused() == &frmMain.cmdCountWords && frmMain.optFolder.Value());
 }
 
 void MainWindow::ConnectOutput() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "sources/count_run.h"
 #include "sources/run_context.h"
@@ -20,6 +21,14 @@ class MainWindow {
   /// that is neither is taken for a file, and told of. Nothing happens while a run is at work.
   void ChooseText(const std::string& path);
 
+  /// What was dropped on the window: one path is chosen (ChooseText); for several, or for none as
+  /// with a piece of text, the user is told what can be dropped.
+  void TakeDrop(const std::vector<std::string>& paths);
+
+  /// What is said when something is not found in the output text box, which may hold but a part of
+  /// the list.
+  [[nodiscard]] std::string NotFoundText() const;
+
   /// Fills the combo boxes of word orders and display formats and selects the first items.
   void FillListCombos();
 
@@ -31,11 +40,16 @@ class MainWindow {
   void ConnectNotices();
   void CopyOutputToClipboard();
   void OnSuppressWordsClick();
+  void SelectSourceOf(const TextBox& box, OptionButton& source);
+  void CheckFolder();
+  [[nodiscard]] bool IsClickingForTheFolder() const;
   void ChooseInputFile();
   void ChooseOutputFile();
 
   const RunContext& context_;
   CountRun& countRun_;
+  /// A source is being selected because its row is filled in by hand.
+  bool followingTheHand_ = false;
 };
 
 }  // namespace quillomat

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <chrono>
+#include <string>
+#include <vector>
 
 #include "app/help_window.h"
 #include "app/main_window.h"
@@ -47,6 +49,12 @@ class Program {
 
   /// Makes a file or a folder the text to be counted, as when it is dropped on the main window.
   void ChooseText(const std::string& path) { mainWindow_.ChooseText(path); }
+
+  /// Takes what was dropped on the main window; no path at all stands for anything but files.
+  void TakeDrop(const std::vector<std::string>& paths) { mainWindow_.TakeDrop(paths); }
+
+  /// What is said when a word is not found in the output text box.
+  [[nodiscard]] std::string NotFoundText() const { return mainWindow_.NotFoundText(); }
 
   /// From now on the empty path of a state file means the one in the user's settings folder.
   void UseSettingsFolder();

@@ -7,6 +7,7 @@
 #include "app/state_file.h"
 #include "base/run_time_error.h"
 #include "listing/set_the_focus.h"
+#include "sources/path_boxes.h"
 #include "system/file_system.h"
 
 namespace quillomat {
@@ -136,9 +137,9 @@ void SavedState::OnSaveToFile() {
   dialog.hideReadOnly = true;
   dialog.pathMustExist = true;
   dialog.noReadOnlyReturn = true;
-  const auto path = context_.desktop.ChooseFile(dialog);
-  if (!path) return;
   ParamsForm& frmParams = context_.frmParams;
+  const auto path = ChooseFileFor(frmParams.txbStateFile, dialog, context_);
+  if (!path) return;
   frmParams.lblState.SetCaption("");
   frmParams.txbStateFile.SetText(*path);
   const std::string error = SaveState(*path);
@@ -157,9 +158,9 @@ void SavedState::OnLoadFromFile() {
   dialog.hideReadOnly = true;
   dialog.pathMustExist = true;
   dialog.fileMustExist = true;
-  const auto path = context_.desktop.ChooseFile(dialog);
-  if (!path) return;
   ParamsForm& frmParams = context_.frmParams;
+  const auto path = ChooseFileFor(frmParams.txbStateFile, dialog, context_);
+  if (!path) return;
   frmParams.lblState.SetCaption("");
   frmParams.txbStateFile.SetText(*path);
   RestoreResult result = RestoreResult::kError;

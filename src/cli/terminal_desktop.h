@@ -33,7 +33,11 @@ class TerminalDesktop final : public Desktop {
   std::string AskForText(const InputBox& box) override;
   /// There is nobody to choose.
   std::optional<std::string> ChooseFile(const FileDialog& /*dialog*/) override { return {}; }
-  std::optional<std::string> BrowseForFolder(const std::string& /*title*/) override { return {}; }
+  std::optional<std::string> BrowseForFolder(const std::string& /*title*/,
+                                             const std::string& /*folder*/) override {
+    return {};
+  }
+  std::string DocumentsFolder() override { return {}; }
 
   std::string ClipboardText() override { return clipboard_; }
   void ClearClipboard() override { clipboard_.clear(); }

@@ -57,6 +57,9 @@ struct CountState {
   /// The panel does not ask whether the text may be read anew.
   bool blnInhibitPrompt = false;
 
+  /// The folder of the file, or the folder, that the user chose or named last; "" for none yet.
+  std::string lastFolder;
+
   /// The program that shows the clipboard, or "".
   std::string clipboardViewerPath;
   /// The user wants to quit as soon as the run has ended.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,14 @@ namespace quillomat {
 
 /// In characters: a list in the text box grows no further, and new words are no longer shown.
 inline constexpr std::size_t kDisplayLimit = 44'000;
+
+/// How much of a list the box holds, in words.
+struct ListPart {
+  std::int32_t shown = 0;
+  std::int32_t all = 0;
+
+  [[nodiscard]] bool IsCut() const { return shown < all; }
+};
 
 class OutputBox {
  public:
@@ -29,8 +38,15 @@ class OutputBox {
   void SetFull(bool full) { full_ = full; }
   [[nodiscard]] bool IsEmpty() const { return frmMain_.txbOutput.Text().empty(); }
 
+  /// Of the list in the box; of no words when it holds none.
+  [[nodiscard]] ListPart Part() const { return IsEmpty() ? ListPart() : part_; }
+  void SetListPart(ListPart part) { part_ = part; }
+
   /// Keeps the text that stands in the box now.
-  void SaveOutputText() { saved_ = frmMain_.txbOutput.Text(); }
+  void SaveOutputText() {
+    saved_ = frmMain_.txbOutput.Text();
+    savedPart_ = part_;
+  }
   /// Puts the kept text back and moves the focus to where the user needs it.
   void RestoreOutputText();
 
@@ -38,7 +54,9 @@ class OutputBox {
   MainForm& frmMain_;
   Desktop& desktop_;
   bool full_ = false;
+  ListPart part_;
   std::string saved_;
+  ListPart savedPart_;
 };
 
 }  // namespace quillomat

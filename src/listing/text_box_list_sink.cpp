@@ -27,7 +27,7 @@ TextBoxListSink::TextBoxListSink(MainForm& frmMain, OutputBox& output, std::stri
 }
 
 void TextBoxListSink::Append(std::string_view line, std::string_view ending) {
-  if (length_ >= kDisplayLimit) return;
+  if (!HasRoom()) return;
   accumulator_.append(line).append(ending);
   length_ += CharacterCount(line) + ending.size();
   output_.SetFull(length_ > kDisplayLimit);
@@ -45,6 +45,7 @@ void TextBoxListSink::TakeHeader(std::string_view line) {
 }
 
 bool TextBoxListSink::TakeWord(std::int32_t index, std::string_view line) {
+  if (HasRoom()) ++wordsTaken_;
   Append(line, runsOn_ ? std::string_view(", ") : kCrLf);
   if (!previewShown_ && length_ > kPreviewLength) {
     frmMain_.txbOutput.SetText(accumulator_);

@@ -28,7 +28,11 @@ class TextBoxListSink final : public ListSink {
   void TakeHeader(std::string_view line) override;
   bool TakeWord(std::int32_t index, std::string_view line) override;
 
+  /// How many words the accumulator has taken; the others found no room.
+  [[nodiscard]] std::int32_t WordsTaken() const { return wordsTaken_; }
+
  private:
+  [[nodiscard]] bool HasRoom() const { return length_ < kDisplayLimit; }
   void Append(std::string_view line, std::string_view ending);
   void TurnTwirler(std::int32_t index);
 
@@ -39,6 +43,7 @@ class TextBoxListSink final : public ListSink {
   bool runsOn_;
   /// Of the accumulator, in characters.
   std::size_t length_ = 0;
+  std::int32_t wordsTaken_ = 0;
   bool previewShown_ = false;
 };
 

@@ -14,6 +14,7 @@ namespace quillomat {
 namespace {
 
 constexpr int kTextBoxFull = static_cast<int>(RunTimeErrorNumber::kOutOfMemory);
+constexpr std::string_view kWritingNotice = "Now writing to output file . . . ";
 constexpr std::size_t kFewCharacters = 256;
 constexpr std::size_t kFirstPartOfList = 4096;
 
@@ -78,6 +79,14 @@ void WordLister::RemoveLastComma() {
   if (text.ends_with(", ")) txbOutput.SetText(text.substr(0, text.size() - 2));
 }
 
+/// A bare name is meant to stand beside the file that is there, unless paths count from the current
+/// folder.
+std::string WordLister::InOutputFolder(std::string_view path) const {
+  std::string answer(path);
+  if (desktop_.DocumentsFolder().empty()) return answer;
+  return FullPathIn(FolderPartOf(frmMain_.txbFile[1].Text()), answer);
+}
+
 bool WordLister::AskToOverwrite() {
   TextBox& txbPath = frmMain_.txbFile[1];
   // A device exists too, but holds nothing that could be lost.
@@ -89,7 +98,7 @@ bool WordLister::AskToOverwrite() {
                "To write to a different file edit the filepath below." + std::string(kCrLf) +
                "To disable file output click on 'Cancel'.";
   box.defaultAnswer = txbPath.Text();
-  const std::string path = PathForWalk(TrimBlanks(desktop_.AskForText(box)));
+  const std::string path = PathForWalk(InOutputFolder(TrimBlanks(desktop_.AskForText(box))));
   if (!path.empty()) {
     const std::string folder = FolderPartOf(path);
     if (folder.empty() || FolderExists(folder)) {
@@ -120,9 +129,15 @@ bool WordLister::SparesTheText() {
   return false;
 }
 
+/// Who is denied a file must know which: the path is not always the one that was meant.
+std::string WordLister::PathWorthNaming(const RunTimeError& error) const {
+  const bool denied = error.Number() == static_cast<int>(RunTimeErrorNumber::kPermissionDenied);
+  return denied ? std::string(kCrLf) + frmMain_.txbFile[1].Text() : std::string();
+}
+
 /// False when it went wrong and the user has been told.
 bool WordLister::ListIntoFile() {
-  if (output_.IsEmpty()) output_.ShowText("Now writing to output file . . . ");
+  if (output_.IsEmpty()) output_.ShowText(kWritingNotice);
   try {
     OutputFile file(frmMain_.txbFile[1].Text());
     output_.ClearOutput();
@@ -133,7 +148,8 @@ bool WordLister::ListIntoFile() {
     return true;
   } catch (const RunTimeError& error) {
     frmMain_.lblTwirler.SetCaption(" ");
-    ReportProblem(error.Number(), error.Description());
+    ReportProblem(error.Number(), error.Description() + PathWorthNaming(error));
+    if (frmMain_.txbOutput.Text() == kWritingNotice) output_.ClearOutput();
     frmMain_.txbOutput.SetSelStart(0);
     return false;
   }
@@ -164,6 +180,7 @@ void WordLister::ListIntoTextBox() {
     return;
   }
   output_.ShowText(accumulator_);
+  output_.SetListPart({sink.WordsTaken(), state_.totals.NumIncludedWords});
   if (output_.IsFull()) ReportProblem(kTextBoxFull, "Insufficient memory");
 }
 
@@ -231,10 +248,14 @@ std::string WordLister::FullBoxMessage() {
   return message;
 }
 
+bool WordLister::CanServe(DisplayFormat format) const {
+  return !NeedsFileTallies(format) ||
+         (frmMain_.optFolder.Value() && state_.lists.HasCountOnlyWords());
+}
+
 bool WordLister::CheckDisplayFormat() {
   const DisplayFormat format = ChosenFormat(frmMain_);
-  const bool served = frmMain_.optFolder.Value() && state_.lists.HasCountOnlyWords();
-  if (!NeedsFileTallies(format) || served) return true;
+  if (CanServe(format)) return true;
   const std::string text = "The display format '" + std::string(NameInRefusal(format)) +
                            "' is available" + std::string(kCrLf) +
                            "only when the source of the text is a folder" + std::string(kCrLf) +

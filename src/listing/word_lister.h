@@ -5,7 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/run_time_error.h"
 #include "listing/count_state.h"
+#include "listing/display_format.h"
 #include "listing/list_walk.h"
 #include "listing/output_box.h"
 #include "system/output_file.h"
@@ -36,6 +38,9 @@ class WordLister {
   /// Shows a problem in a message box. Code 7: the text box is full, whatever `text` says.
   void ReportProblem(int code, std::string_view text);
 
+  /// Whether the source that is chosen can serve a format.
+  [[nodiscard]] bool CanServe(DisplayFormat format) const;
+
   /// Refuses a format that the source cannot serve: tells the user, goes back to the first format
   /// and returns false.
   bool CheckDisplayFormat();
@@ -51,12 +56,14 @@ class WordLister {
  private:
   [[nodiscard]] LineOptions OptionsFor(bool toFile) const;
   [[nodiscard]] bool HasOutputFile() const;
+  [[nodiscard]] std::string InOutputFolder(std::string_view path) const;
   /// Whether the output file may be written; the user may name another one.
   bool AskToOverwrite();
   /// Whether the output file is none of those that the text comes from, which a path typed after
   /// the count or at the question may name. If it is one, the user is told and file output is off.
   bool SparesTheText();
   bool ListIntoFile();
+  [[nodiscard]] std::string PathWorthNaming(const RunTimeError& error) const;
   void ListIntoTextBox();
   void Walk(const LineFormatter& formatter, ListSink& sink);
   [[nodiscard]] std::string ScanHeader() const;

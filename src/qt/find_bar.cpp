@@ -10,7 +10,8 @@
 
 namespace quillomat {
 
-FindBar::FindBar(QPlainTextEdit& list) : list_(list) {
+FindBar::FindBar(QPlainTextEdit& list, std::function<QString()> notFound)
+    : list_(list), notFound_(std::move(notFound)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   for (QWidget* part : {static_cast<QWidget*>(&label_), static_cast<QWidget*>(&word_),
@@ -18,7 +19,8 @@ FindBar::FindBar(QPlainTextEdit& list) : list_(list) {
                         static_cast<QWidget*>(&outcome_)}) {
     row->addWidget(part);
   }
-  row->addStretch();
+  row->setStretchFactor(&outcome_, 1);
+  outcome_.setWordWrap(true);
   word_.setClearButtonEnabled(true);
   word_.setMinimumWidth(240);
   label_.setBuddy(&word_);
@@ -32,7 +34,6 @@ void FindBar::SetTexts(const ProgramText& text) {
   label_.setText(ToQt(text.GetText(kFindText)));
   next_.setText(ToQt(text.GetText(kFindNextText)));
   previous_.setText(ToQt(text.GetText(kFindPreviousText)));
-  notFound_ = ToQt(text.GetText(kNotFoundText));
   word_.setAccessibleName(label_.text());
   outcome_.clear();
 }
@@ -60,7 +61,7 @@ void FindBar::Find(bool backward, bool fromHere) {
     start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
     found = list_.document()->find(word_.text(), start, flags);
   }
-  if (found.isNull()) return outcome_.setText(notFound_);
+  if (found.isNull()) return outcome_.setText(notFound_());
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
 }

@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QWidget>
+#include <functional>
 
 #include "text/program_text.h"
 
@@ -13,8 +14,8 @@ namespace quillomat {
 
 class FindBar : public QWidget {
  public:
-  /// `list` must outlive the bar.
-  explicit FindBar(QPlainTextEdit& list);
+  /// `list` must outlive the bar. `notFound` says what is shown when a word is not there.
+  FindBar(QPlainTextEdit& list, std::function<QString()> notFound);
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);
@@ -35,7 +36,7 @@ class FindBar : public QWidget {
   QPushButton previous_;
   QPushButton next_;
   QLabel outcome_;
-  QString notFound_;
+  std::function<QString()> notFound_;
 };
 
 }  // namespace quillomat

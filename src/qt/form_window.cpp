@@ -42,7 +42,12 @@ bool ShowsControls(const QWidget& widget) {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form) : QWidget(nullptr), form_(form) {}
+FormWindow::FormWindow(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+  if (parent != nullptr) {
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
+  }
+}
 
 void FormWindow::BindControls() {
   for (Control* control : form_.Controls()) BindControl(*control);
@@ -58,6 +63,7 @@ void FormWindow::BindControls() {
   });
   form_.FocusMoved.Connect([this] {
     focusMoved_ = true;
+    arriving_ = nullptr;  // the program has decided otherwise
     ScheduleShow();
   });
   ScheduleShow();
@@ -68,6 +74,9 @@ void FormWindow::BindControl(Control& control) {
   std::unique_ptr<WidgetBinding> binding = widget == nullptr ? nullptr : Bind(control, *widget);
   if (binding == nullptr) throw std::logic_error("no widget shows " + control.Name());
   widget->installEventFilter(this);
+  if (auto* button = dynamic_cast<QAbstractButton*>(widget)) {
+    connect(button, &QAbstractButton::released, this, [this] { AwaitFocus(); });
+  }
   const std::size_t index = entries_.size();
   entries_.push_back({std::move(binding)});
   control.Changed.Connect([this, index] {
@@ -104,6 +113,7 @@ void FormWindow::ShowChanges() {
     if (entry.changed) entry.binding->ShowAccess();
   }
   ShowFocus();
+  DropFocusOfDisabled();
   for (Entry& entry : entries_) {
     if (!entry.changed) continue;
     entry.changed = false;
@@ -132,10 +142,22 @@ void FormWindow::ShowCaptions() {
   }
 }
 
+/// The form's word counts when it has moved the focus, and when no widget has it.
 void FormWindow::ShowFocus() {
-  if (!focusMoved_) return;
-  focusMoved_ = false;
-  if (form_.Focused() != nullptr) WidgetOf(*form_.Focused()).setFocus(Qt::OtherFocusReason);
+  const bool lost = focusWidget() == nullptr && arriving_ == nullptr;
+  if (!std::exchange(focusMoved_, false) && !lost) return;
+  const Control* focused = form_.Focused();
+  if (focused != nullptr && focused->CanTakeFocus()) {
+    WidgetOf(*focused).setFocus(Qt::OtherFocusReason);
+  }
+}
+
+/// Otherwise the toolkit would hand the focus of a widget that is disabled to a neighbour, and keys
+/// would go there.
+void FormWindow::DropFocusOfDisabled() {
+  QWidget* focused = focusWidget();
+  const Control* control = focused == nullptr ? nullptr : ControlOf(focused);
+  if (control != nullptr && !(control->Enabled() && control->Visible())) focused->clearFocus();
 }
 
 void FormWindow::ShowWindowState() {
@@ -198,9 +220,13 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   Control* control = ControlOf(watched);
   if (control == nullptr) return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::FocusIn && !showing_) {
-    // Later: a handler may open a box, which the toolkit does not expect while it moves the focus.
-    QMetaObject::invokeMethod(
-        this, [this, control] { TakeFocus(*control); }, Qt::QueuedConnection);
+    arriving_ = control;
+    AwaitFocus();
+  }
+  if (event->type() == QEvent::Wheel && control->Kind() == ControlKind::kComboBox &&
+      !WidgetOf(*control).hasFocus()) {
+    event->ignore();  // what it stands on scrolls
+    return true;
   }
   if (event->type() == QEvent::KeyPress) {
     if (OnKey(*control, static_cast<QKeyEvent&>(*event))) return true;
@@ -209,8 +235,21 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void FormWindow::TakeFocus(Control& control) {
-  if (WidgetOf(control).hasFocus()) form_.SetFocus(control);
+/// Later: a handler may open a box, which the toolkit does not expect while it moves the focus.
+void FormWindow::AwaitFocus() {
+  QMetaObject::invokeMethod(
+      this, [this] { TakeFocus(); }, Qt::QueuedConnection);
+}
+
+/// Not in the middle of a click or of a choice from a drop-down, which the box of a handler would
+/// swallow: both end with another call.
+void FormWindow::TakeFocus() {
+  if (arriving_ == nullptr || QApplication::activePopupWidget() != nullptr) return;
+  const QWidget& widget = WidgetOf(*arriving_);
+  const auto* button = dynamic_cast<const QAbstractButton*>(&widget);
+  if (button != nullptr && button->isDown()) return;
+  Control* control = std::exchange(arriving_, nullptr);
+  if (widget.hasFocus()) form_.SetFocus(*control);
 }
 
 /// True when the key is used up.

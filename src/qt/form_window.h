@@ -18,7 +18,8 @@ namespace quillomat {
 class FormWindow : public QWidget {
  public:
   /// `form` must outlive the window.
-  explicit FormWindow(Form& form);
+  /// A window with a parent stays above it.
+  explicit FormWindow(Form& form, QWidget* parent = nullptr);
 
   /// Binds the controls to the child widgets of their names. Throws std::logic_error that names
   /// the control without a widget, or the widget without a control.
@@ -58,7 +59,9 @@ class FormWindow : public QWidget {
   void ShowCaptions();
   void ShowFocus();
   void ShowWindowState();
-  void TakeFocus(Control& control);
+  void AwaitFocus();
+  void TakeFocus();
+  void DropFocusOfDisabled();
   [[nodiscard]] bool OnKey(Control& control, const QKeyEvent& key);
   [[nodiscard]] bool OnLabelEvent(Control& control, const QEvent& event);
   [[nodiscard]] Control* ControlOf(const QObject* widget) const;
@@ -70,6 +73,8 @@ class FormWindow : public QWidget {
   bool windowChanged_ = true;
   bool captionsChanged_ = true;
   bool focusMoved_ = false;
+  /// Where the user has put the keyboard, as long as the form has not been told; null for nowhere.
+  Control* arriving_ = nullptr;
   bool raised_ = false;
   /// Where the left mouse button went down; null elsewhere.
   const Control* pressedLabel_ = nullptr;

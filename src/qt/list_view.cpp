@@ -13,7 +13,6 @@ ListView::ListView(QWidget* parent) : QPlainTextEdit(parent) {
   font.setStyleHint(QFont::Monospace);
   usualSize_ = font.pointSizeF();
   setFont(font);
-  setUndoRedoEnabled(false);
   setTabChangesFocus(true);
   setAcceptDrops(false);  // what is dropped here is meant for the window
 }
@@ -34,6 +33,18 @@ QMimeData* ListView::createMimeDataFromSelection() const {
 
 void ListView::insertFromMimeData(const QMimeData* source) {
   if (source->hasText()) insertPlainText(source->text());
+}
+
+/// Enter is the window's, which counts; in a text that the user is writing it breaks the line, and
+/// Ctrl+Enter is the window's.
+void ListView::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+  const bool writing = document()->isUndoAvailable();
+  if (isEnter && (held == Qt::ControlModifier || (held == Qt::NoModifier && !writing))) {
+    return event->ignore();
+  }
+  QPlainTextEdit::keyPressEvent(event);
 }
 
 void ListView::wheelEvent(QWheelEvent* event) {

@@ -21,6 +21,7 @@ class ListView : public QPlainTextEdit {
  protected:
   [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* source) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:

@@ -8,6 +8,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
@@ -16,10 +18,19 @@
 namespace quillomat {
 namespace {
 
-/// The path of what is dragged, if it is one file or folder of this machine.
-QString DraggedPath(const QMimeData& data) {
-  const QList<QUrl> urls = data.urls();
-  return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+/// The files and folders of this machine.
+std::vector<std::string> DroppedPaths(const QMimeData& data) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile()) paths.push_back(FromQt(QDir::toNativeSeparators(url.toLocalFile())));
+  }
+  return paths;
+}
+
+/// Whoever offers a file to be moved would remove it afterwards.
+void TakeAsCopy(QDropEvent& event) {
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
 }
 
 }  // namespace
@@ -28,16 +39,19 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_((ui_->setupUi(this), *ui_->txbOutput)) {
+      findBar_((ui_->setupUi(this), *ui_->txbOutput),
+               [&program] { return ToQt(program.NotFoundText()); }) {
   setAcceptDrops(true);
   PlaceNotices();
   KeepRoomForSummary();
   BindControls();
   auto* rows = static_cast<QVBoxLayout*>(layout());
   rows->insertWidget(rows->indexOf(ui_->txbOutput) + 1, &findBar_);
-  CompletePaths(*ui_->txbFile_0, PathKind::kFile);
-  CompletePaths(*ui_->txbFile_1, PathKind::kFile);
-  CompletePaths(*ui_->txbFolder, PathKind::kFolder);
+  for (QLineEdit* box : {ui_->txbFile_0, ui_->txbFile_1}) {
+    new PathSuggestions(*box, PathKind::kFile);
+  }
+  new PathSuggestions(*ui_->txbFolder, PathKind::kFolder);
+  for (QLineEdit* source : {ui_->txbFile_0, ui_->txbFolder}) source->setAcceptDrops(false);
   ConnectKeys();
   ConnectZoom();
 }
@@ -113,18 +127,36 @@ void MainWindowView::ConnectZoom() {
   zoom({QKeySequence(Qt::CTRL | Qt::Key_0)}, [](int) { return 0; });
 }
 
-void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
-  if (!program_.state.busy && !DraggedPath(*event->mimeData()).isEmpty()) {
-    event->acceptProposedAction();
+/// A file that is dropped on the box of the output file is meant for it.
+bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
+  const bool drags = event->type() == QEvent::DragEnter || event->type() == QEvent::Drop;
+  if (watched == ui_->txbFile_1 && drags) {
+    auto& drop = static_cast<QDropEvent&>(*event);
+    const std::vector<std::string> paths = DroppedPaths(*drop.mimeData());
+    if (paths.size() == 1) {
+      TakeAsCopy(drop);
+      if (event->type() == QEvent::Drop) program_.frmMain.txbFile[1].EnterText(paths.front());
+      return true;
+    }
   }
+  return FormWindow::eventFilter(watched, event);
+}
+
+/// Any drop is taken, so that the program can say what it makes of it.
+void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
+  if (!program_.state.busy) TakeAsCopy(*event);
+}
+
+void MainWindowView::dragMoveEvent(QDragMoveEvent* event) {
+  TakeAsCopy(*event);
 }
 
 void MainWindowView::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
-  const std::string path = FromQt(QDir::toNativeSeparators(DraggedPath(*event->mimeData())));
+  TakeAsCopy(*event);
   // Later: the program may answer with a box, and the dragging must have ended by then.
   QMetaObject::invokeMethod(
-      this, [this, path] { program_.ChooseText(path); }, Qt::QueuedConnection);
+      this, [this, paths = DroppedPaths(*event->mimeData())] { program_.TakeDrop(paths); },
+      Qt::QueuedConnection);
 }
 
 }  // namespace quillomat

@@ -2,8 +2,6 @@
 // dropped on the window, completed paths, finding in the list, the size of its letters).
 #pragma once
 
-#include <QCompleter>
-#include <QFileSystemModel>
 #include <memory>
 
 #include "app/program.h"
@@ -30,7 +28,9 @@ class MainWindowView final : public FormWindow {
   [[nodiscard]] FindBar& Finder() { return findBar_; }
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 #include "qt/list_table.h"
 #include "qt/text_conversion.h"
@@ -89,6 +90,7 @@ void SetUpDialog(QFileDialog& shown, const FileDialog& dialog) {
       filters.front().pattern != "*.*") {
     shown.setDefaultSuffix(ToQt(filters.front().pattern.substr(2)));
   }
+  if (!dialog.folder.empty()) shown.setDirectory(ToQt(dialog.folder));
   shown.selectFile(ToQt(dialog.fileName));
 }
 
@@ -99,9 +101,23 @@ bool IsReadOnly(const QString& path) {
 
 }  // namespace
 
+/// Between two boxes no window is active.
+QWidget* QtDesktop::BoxParent() const {
+  if (QWidget* box = QApplication::activeModalWidget()) return box;
+  if (QWidget* window = QApplication::activeWindow()) return window;
+  // What is shown over a window that is hidden would be hidden with it.
+  if (window_ == nullptr || window_->isVisible()) return window_;
+  return window_->parentWidget();
+}
+
+std::string QtDesktop::DocumentsFolder() {
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return FromQt(QDir::toNativeSeparators(QDir(documents).exists() ? documents : QDir::homePath()));
+}
+
 MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
   Repaint();
-  QMessageBox shown(QApplication::activeWindow());
+  QMessageBox shown(BoxParent());
   const ButtonSet set = ButtonsOf(box.buttons);
   shown.setWindowTitle(ToQt(box.title));
   shown.setTextFormat(Qt::PlainText);
@@ -114,7 +130,7 @@ MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
 
 std::string QtDesktop::AskForText(const InputBox& box) {
   Repaint();
-  QInputDialog shown(QApplication::activeWindow());
+  QInputDialog shown(BoxParent());
   shown.setWindowTitle(ToQt(box.title));
   shown.setLabelText(ToQtLines(box.prompt));
   shown.setTextValue(ToQt(box.defaultAnswer));
@@ -126,7 +142,7 @@ std::string QtDesktop::AskForText(const InputBox& box) {
 std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
   Repaint();
   while (true) {
-    QFileDialog shown(QApplication::activeWindow());
+    QFileDialog shown(BoxParent());
     SetUpDialog(shown, dialog);
     if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
     const QString path = QDir::toNativeSeparators(shown.selectedFiles().constFirst());
@@ -136,9 +152,10 @@ std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
   }
 }
 
-std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title) {
+std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title,
+                                                      const std::string& folder) {
   Repaint();
-  const QString path = QFileDialog::getExistingDirectory(QApplication::activeWindow(), ToQt(title));
+  const QString path = QFileDialog::getExistingDirectory(BoxParent(), ToQt(title), ToQt(folder));
   if (path.isEmpty()) return std::nullopt;
   return FromQt(QDir::toNativeSeparators(path));
 }

@@ -1,6 +1,8 @@
 // The desktop as the toolkit gives it: boxes, dialogs, the clipboard.
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
 #include <functional>
 
 #include "ui/desktop.h"
@@ -12,10 +14,15 @@ class QtDesktop final : public Desktop {
   /// What shows the changes of the windows; nothing is shown before it is set.
   void SetPainter(std::function<void()> showChanges) { showChanges_ = std::move(showChanges); }
 
+  /// The window that the user is in, or was in last: boxes are shown over it. It outlives them.
+  void SetWindow(QWidget* window) { window_ = window; }
+
   MessageAnswer ShowMessage(const MessageBox& box) override;
   std::string AskForText(const InputBox& box) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
-  std::optional<std::string> BrowseForFolder(const std::string& title) override;
+  std::optional<std::string> BrowseForFolder(const std::string& title,
+                                             const std::string& folder) override;
+  std::string DocumentsFolder() override;
   std::string ClipboardText() override;
   void ClearClipboard() override;
   void PutClipboardText(const std::string& text) override;
@@ -26,7 +33,10 @@ class QtDesktop final : public Desktop {
   std::string DigitGroupSeparator() override;
 
  private:
+  [[nodiscard]] QWidget* BoxParent() const;
+
   std::function<void()> showChanges_;
+  QPointer<QWidget> window_;
   UserRegistry registry_;
   std::optional<std::string> digitGroupSeparator_;  // asked of the system once
 };

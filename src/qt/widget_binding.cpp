@@ -1,6 +1,7 @@
 #include "qt/widget_binding.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -27,7 +29,7 @@ class LineBinding final : public WidgetBinding {
  public:
   LineBinding(TextBox& box, QLineEdit& line) : WidgetBinding(box, line), box_(box), line_(line) {
     QObject::connect(&line, &QLineEdit::textChanged,
-                     [this](const QString& text) { box_.SetText(FromQt(OnOneLine(text))); });
+                     [this](const QString& text) { box_.EnterText(FromQt(OnOneLine(text))); });
   }
 
  private:
@@ -55,6 +57,7 @@ class LinesBinding final : public WidgetBinding {
  public:
   LinesBinding(TextBox& box, QPlainTextEdit& edit)
       : WidgetBinding(box, edit), box_(box), edit_(edit) {
+    edit.setUndoRedoEnabled(!edit.isReadOnly());
     QObject::connect(&edit, &QPlainTextEdit::textChanged, [this] { TakeText(); });
   }
 
@@ -62,7 +65,7 @@ class LinesBinding final : public WidgetBinding {
   void TakeText() {
     if (showing_) return;
     shown_ = FromQtLines(edit_.toPlainText());
-    box_.SetText(shown_);
+    box_.EnterText(shown_);
     shownCaret_ = box_.SelStart();
   }
 
@@ -75,7 +78,9 @@ class LinesBinding final : public WidgetBinding {
     showing_ = false;
   }
 
+  /// What the program shows is not undone; what the user does to it afterwards is.
   void ShowText(const std::string& text) {
+    edit_.setUndoRedoEnabled(false);
     if (!shown_.empty() && text.starts_with(shown_)) {
       QTextCursor cursor(edit_.document());
       cursor.movePosition(QTextCursor::End);
@@ -84,6 +89,7 @@ class LinesBinding final : public WidgetBinding {
       edit_.setPlainText(ToQtLines(text));
     }
     shown_ = text;
+    edit_.setUndoRedoEnabled(!edit_.isReadOnly());
   }
 
   void ShowCaret() {
@@ -151,17 +157,37 @@ class OptionBinding final : public WidgetBinding {
   QRadioButton& widget_;
 };
 
-class ComboBinding final : public WidgetBinding {
+/// What is of no use now is greyed in the drop-down, and its tip says why. Without the drop-down
+/// the keyboard reaches every item, and the program answers.
+class ComboBinding final : public QObject, public WidgetBinding {
  public:
   ComboBinding(ComboBox& combo, QComboBox& widget)
       : WidgetBinding(combo, widget), combo_(combo), widget_(widget) {
+    widget.setFocusPolicy(Qt::StrongFocus);  // the wheel alone does not bring the keyboard here
+    widget.view()->installEventFilter(this);
     QObject::connect(&widget, &QComboBox::activated, [this](int index) {
-      combo_.SetListIndex(index);
+      combo_.PerformChoice(index);
       Show();
     });
   }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show) GreyItems(true);
+    if (event->type() == QEvent::Hide) GreyItems(false);
+    return QObject::eventFilter(watched, event);
+  }
+
  private:
+  void GreyItems(bool open) {
+    auto* model = qobject_cast<QStandardItemModel*>(widget_.model());
+    for (int i = 0; model != nullptr && i < model->rowCount(); ++i) {
+      const QString reason = ToQt(combo_.ReasonAgainst(i));
+      model->item(i)->setEnabled(!open || reason.isEmpty());
+      model->item(i)->setToolTip(reason);
+    }
+  }
+
   void ShowValue() override {
     const QSignalBlocker blocker(widget_);
     const auto items = combo_.Items();

@@ -6,6 +6,7 @@ namespace quillomat {
 namespace {
 
 const char* const kZoomKey = "list/zoom";
+const char* const kLastFolderKey = "dialogs/folder";
 
 QString PlaceKeyOf(const QWidget& window) {
   return window.objectName() + QStringLiteral("/place");
@@ -32,6 +33,14 @@ void WindowMemory::RestoreZoom(ListView& list) const {
 void WindowMemory::KeepZoom(const ListView& list) const {
   QSettings settings(path_, QSettings::IniFormat);
   settings.setValue(QLatin1String(kZoomKey), list.Zoom());
+}
+
+QString WindowMemory::LastFolder() const {
+  return QSettings(path_, QSettings::IniFormat).value(QLatin1String(kLastFolderKey)).toString();
+}
+
+void WindowMemory::KeepLastFolder(const QString& folder) const {
+  QSettings(path_, QSettings::IniFormat).setValue(QLatin1String(kLastFolderKey), folder);
 }
 
 }  // namespace quillomat

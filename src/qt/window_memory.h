@@ -1,5 +1,5 @@
-// Remembers the windows' places and sizes and the size of the list's letters, in a file of the
-// user's settings folder.
+// Remembers the windows' places and sizes, the size of the list's letters and the folder used last,
+// in a file of the user's settings folder.
 #pragma once
 
 #include <QString>
@@ -19,6 +19,9 @@ class WindowMemory {
   void Keep(const QWidget& window) const;
   void RestoreZoom(ListView& list) const;
   void KeepZoom(const ListView& list) const;
+  /// The folder in which the next dialog opens; "" for none.
+  [[nodiscard]] QString LastFolder() const;
+  void KeepLastFolder(const QString& folder) const;
 
  private:
   QString path_;

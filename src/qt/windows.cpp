@@ -24,11 +24,12 @@ WindowMemory Memory() {
 Windows::Windows(Program& program, QtDesktop& desktop)
     : program_(program),
       main_(program),
-      panel_(std::make_unique<FormWindow>(program.frmParams)),
-      help_(std::make_unique<FormWindow>(program.frmHelp)) {
+      panel_(std::make_unique<FormWindow>(program.frmParams, &main_)),
+      help_(std::make_unique<FormWindow>(program.frmHelp, &main_)) {
   MakePanel();
   MakeHelp();
-  LeaveOthersWhenActivated();
+  LeaveOthersWhenActivated(desktop);
+  desktop.SetWindow(&main_);
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
   program.frmMain.cmdLanguage.Changed.Connect([this] { ShowLanguage(); });
   desktop.SetPainter([this] { ShowChanges(); });
@@ -39,7 +40,7 @@ void Windows::MakePanel() {
   ui.setupUi(panel_.get());
   panel_->BindControls();
   for (QLineEdit* box : {ui.txbWordsFile_0, ui.txbWordsFile_1, ui.txbStateFile}) {
-    CompletePaths(*box, PathKind::kFile);
+    new PathSuggestions(*box, PathKind::kFile);
   }
   ParamsForm& frmParams = program_.frmParams;
   panel_->onEscape = [&frmParams] { frmParams.cmdClose.PerformClick(); };
@@ -56,10 +57,11 @@ void Windows::MakeHelp() {
 }
 
 /// A box that is left for another window of the program is left all the same.
-void Windows::LeaveOthersWhenActivated() {
+void Windows::LeaveOthersWhenActivated(QtDesktop& desktop) {
   const std::array<FormWindow*, 3> windows = {&main_, panel_.get(), help_.get()};
   for (FormWindow* window : windows) {
-    window->onActivated = [windows, window] {
+    window->onActivated = [windows, window, &desktop] {
+      desktop.SetWindow(window);
       for (FormWindow* other : windows) {
         if (other == window) continue;
         // Later: what is done on leaving a box may open another window.
@@ -101,6 +103,7 @@ void Windows::RestorePlaces() {
     memory.Restore(*window);
   }
   memory.RestoreZoom(main_.List());
+  program_.state.lastFolder = FromQt(memory.LastFolder());
 }
 
 void Windows::KeepPlaces() {
@@ -111,6 +114,7 @@ void Windows::KeepPlaces() {
     memory.Keep(*window);
   }
   memory.KeepZoom(main_.List());
+  memory.KeepLastFolder(ToQt(program_.state.lastFolder));
 }
 
 }  // namespace quillomat

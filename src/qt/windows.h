@@ -29,7 +29,7 @@ class Windows {
  private:
   void MakePanel();
   void MakeHelp();
-  void LeaveOthersWhenActivated();
+  void LeaveOthersWhenActivated(QtDesktop& desktop);
   void ShowLanguage();
 
   Program& program_;

@@ -2,6 +2,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -37,6 +38,7 @@ void CountRun::OnCountClick() {
   {
     const BusyGuard busy(context_);
     RunCount();
+    DropProcessingNotice();
   }
   EnableControls(context_, true);
   EnableListOptions(frmMain, true);
@@ -188,8 +190,17 @@ void CountRun::ShowProcessingNotice() {
   const std::string& shown = context_.frmMain.txbOutput.Text();
   const std::size_t length = context_.frmMain.txbOutput.Length();
   const bool keep = length >= 1 && length < kShortOutput;
-  const std::string before = keep ? shown + std::string(kCrLf) + std::string(kCrLf) : std::string();
-  context_.frmMain.txbOutput.SetText(before + std::string(kProcessingNotice));
+  outputBeforeNotice_ = keep ? shown : std::string();
+  shownNotice_ = keep ? shown + std::string(kCrLf) + std::string(kCrLf) : std::string();
+  shownNotice_.append(kProcessingNotice);
+  context_.frmMain.txbOutput.SetText(shownNotice_);
+}
+
+/// A run that went wrong behind the notice has put no list in its place.
+void CountRun::DropProcessingNotice() {
+  const std::string notice = std::exchange(shownNotice_, {});
+  if (notice.empty() || !context_.frmMain.txbOutput.Text().starts_with(notice)) return;
+  context_.frmMain.txbOutput.SetText(outputBeforeNotice_);
 }
 
 void CountRun::RankWords() {

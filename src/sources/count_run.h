@@ -2,6 +2,8 @@
 // list at the end.
 #pragma once
 
+#include <string>
+
 #include "engine/word_filters.h"
 #include "sources/clipboard_source.h"
 #include "sources/file_extensions.h"
@@ -50,6 +52,7 @@ class CountRun {
   [[nodiscard]] bool HandleInterruption();
   [[nodiscard]] bool FolderHadFiles();
   void ShowProcessingNotice();
+  void DropProcessingNotice();
   void RankWords();
   void FinishRun();
   void ListAgain();
@@ -61,6 +64,9 @@ class CountRun {
   FolderSource folder_;
   /// As the panel stood when the count began, like all that a count goes by.
   FilterChoices filterChoices_;
+  /// The output with the processing notice, and as it was before.
+  std::string shownNotice_;
+  std::string outputBeforeNotice_;
   bool listWasMade_ = false;
 };
 

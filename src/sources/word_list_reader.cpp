@@ -10,6 +10,7 @@
 #include "base/text_helpers.h"
 #include "listing/summary.h"
 #include "sources/line_ending_warning.h"
+#include "sources/path_boxes.h"
 #include "sources/scan_job.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
@@ -207,7 +208,7 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
   dialog.pathMustExist = true;
   dialog.fileMustExist = true;
   dialog.hideReadOnly = true;
-  const std::optional<std::string> path = context_.desktop.ChooseFile(dialog);
+  const std::optional<std::string> path = ChooseFileFor(PathBox(kind), dialog, context_);
   if (!path) return;
   PathBox(kind).SetText(*path);
   AttemptToReadWords(kind);

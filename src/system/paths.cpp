@@ -69,6 +69,11 @@ std::string ExtensionOf(std::string_view nameOrPath) {
   return dot == std::string_view::npos ? std::string() : std::string(name.substr(dot + 1));
 }
 
+std::string FullPathIn(const std::string& folder, const std::string& path) {
+  if (NamesNothing(path) || RootLength(path) > 0) return path;
+  return AbsolutePath(JoinPath(folder, path));
+}
+
 std::string AbsolutePath(const std::string& path) {
   if (NamesNothing(path)) return path;
   const std::string complete = FromRootOn(path);

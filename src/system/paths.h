@@ -31,6 +31,10 @@ namespace quillomat {
 /// difference to paths, else unchanged.
 [[nodiscard]] std::string PathForWalk(std::string_view path);
 
+/// The path if it starts at a root, else the same path in `folder`, without "." and ".." parts; ""
+/// stays "".
+[[nodiscard]] std::string FullPathIn(const std::string& folder, const std::string& path);
+
 /// The path from the root on, without "." and ".." parts; "" stays "".
 [[nodiscard]] std::string AbsolutePath(const std::string& path);
 

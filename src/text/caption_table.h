@@ -221,5 +221,14 @@ inline constexpr int kFindText = 530;
 inline constexpr int kFindNextText = 531;
 inline constexpr int kNotFoundText = 532;
 inline constexpr int kFindPreviousText = 533;
+/// In place of kNotFoundText while the text box holds a part of the list: "%1" stands for the
+/// number of its words that it holds, "%2" for the number of all.
+inline constexpr int kNotFoundInPartText = 534;
+
+/// Why a display format is of no use now.
+inline constexpr int kFormatNotServedText = 540;
+/// Answers to what was dropped on the window.
+inline constexpr int kManyPathsDroppedText = 541;
+inline constexpr int kNoPathDroppedText = 542;
 
 }  // namespace quillomat

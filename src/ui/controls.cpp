@@ -14,12 +14,14 @@ bool AcceptsHand(const Control& control) {
   return control.Enabled() && control.Visible();
 }
 
-/// Moves the focus to `control`, as a click does, and tells whether the click counts: what happens
-/// on losing the focus may have disabled it.
-bool TakeClick(Control& control) {
-  if (!AcceptsHand(control)) return false;
-  control.Owner().SetFocus(control);
-  return AcceptsHand(control);
+/// Moves the focus to `control`, as a click does, and carries the click out if it counts: what
+/// happens on losing the focus may have disabled the control.
+void TakeClick(Control& control, const std::function<void()>& action) {
+  if (!AcceptsHand(control)) return;
+  control.Owner().CarryOutClick([&] {
+    control.Owner().SetFocus(control);
+    if (AcceptsHand(control)) action();
+  });
 }
 
 }  // namespace
@@ -31,6 +33,12 @@ void TextBox::SetText(std::string text) {
   length_ = CharacterCount(text_);
   Changed.Fire();
   Change.Fire();
+}
+
+void TextBox::EnterText(std::string text) {
+  if (text_ == text) return;
+  SetText(std::move(text));
+  Entered.Fire();
 }
 
 void TextBox::AppendText(std::string_view text) {
@@ -50,7 +58,7 @@ void CheckBox::SetValue(CheckState value) {
 }
 
 void CheckBox::PerformClick() {
-  if (TakeClick(*this)) SetChecked(value_ == CheckState::kUnchecked);
+  TakeClick(*this, [this] { SetChecked(value_ == CheckState::kUnchecked); });
 }
 
 void OptionButton::SetValue(bool value) {
@@ -64,7 +72,7 @@ void OptionButton::SetValue(bool value) {
 }
 
 void OptionButton::PerformClick() {
-  if (TakeClick(*this)) SetValue(true);
+  TakeClick(*this, [this] { SetValue(true); });
 }
 
 void ComboBox::AddItem(std::string item) {
@@ -85,6 +93,14 @@ void ComboBox::SetListIndex(int listIndex) {
   if (Assign(listIndex_, listIndex)) Click.Fire();
 }
 
+void ComboBox::PerformChoice(int listIndex) {
+  TakeClick(*this, [this, listIndex] { SetListIndex(listIndex); });
+}
+
+std::string ComboBox::ReasonAgainst(int listIndex) const {
+  return reasonAgainst_ ? reasonAgainst_(listIndex) : std::string();
+}
+
 std::string ComboBox::Text() const {
   return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)];
 }
@@ -98,7 +114,7 @@ void Label::PerformDoubleClick() {
 }
 
 void CommandButton::PerformClick() {
-  if (TakeClick(*this)) Click.Fire();
+  TakeClick(*this, [this] { Click.Fire(); });
 }
 
 }  // namespace quillomat

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,6 +27,8 @@ class TextBox final : public Control {
   [[nodiscard]] const std::string& Text() const { return text_; }
   /// A new text puts the caret at its start.
   void SetText(std::string text);
+  /// A hand's doing, typed, pasted or dropped: as SetText, and a new text fires Entered, too.
+  void EnterText(std::string text);
   /// Adds whole characters at the end, in amortised constant time for each; the caret stays.
   void AppendText(std::string_view text);
   /// In characters; costs nothing.
@@ -36,8 +39,10 @@ class TextBox final : public Control {
   /// A place behind the end is the end.
   void SetSelStart(std::size_t selStart);
 
-  /// The text has changed.
+  /// The text has changed, whoever changed it.
   Event<> Change;
+  /// The user has changed the text.
+  Event<> Entered;
 
  private:
   std::string text_;
@@ -127,10 +132,22 @@ class ComboBox final : public Control {
   /// The selected item, or "".
   [[nodiscard]] std::string Text() const;
 
+  /// Takes an item by hand.
+  void PerformChoice(int listIndex);
+
+  /// Why an item is of no use now, in words for the user; "" when it is of use. A face shows such
+  /// an item greyed. It can be selected all the same, and Click tells what comes of it.
+  [[nodiscard]] std::string ReasonAgainst(int listIndex) const;
+  /// `reasonAgainst` is asked whenever somebody wants to know.
+  void SetReasonAgainst(std::function<std::string(int listIndex)> reasonAgainst) {
+    reasonAgainst_ = std::move(reasonAgainst);
+  }
+
   Event<> Click;
 
  private:
   std::vector<std::string> items_;
+  std::function<std::string(int)> reasonAgainst_;
   int listIndex_ = -1;
 };
 

@@ -43,6 +43,7 @@ struct FileDialog {
   Mode mode = Mode::kOpen;
   std::string title;
   std::string filter;  // "description | pattern", see SplitFileFilter
+  std::string folder;  // where it opens; "" leaves that to the desktop
   std::string fileName;
 
   bool promptBeforeOverwriting = false;
@@ -85,8 +86,14 @@ class Desktop {
   /// if `promptBeforeOverwriting` is set.
   virtual std::optional<std::string> ChooseFile(const FileDialog& dialog) = 0;
 
-  /// The path of the folder chosen; nothing when the user cancelled.
-  virtual std::optional<std::string> BrowseForFolder(const std::string& title) = 0;
+  /// The path of the folder chosen; nothing when the user cancelled. Opens at `folder`; "" leaves
+  /// that to the desktop.
+  virtual std::optional<std::string> BrowseForFolder(const std::string& title,
+                                                     const std::string& folder) = 0;
+
+  /// Where the user keeps documents: a folder that is there. "" where paths count from the current
+  /// folder and nobody is asked for any.
+  virtual std::string DocumentsFolder() = 0;
 
   /// The text on the clipboard; "" when there is none. Throws RunTimeError 7 when there is more
   /// than can be had, other RunTimeErrors when the clipboard cannot be read.

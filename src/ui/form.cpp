@@ -47,12 +47,36 @@ Control* Form::Find(std::string_view name) const {
 }
 
 void Form::SetFocus(Control& control) {
-  if (focused_ == &control || !control.CanTakeFocus()) return;
+  if (!control.CanTakeFocus()) return;
+  if (focused_ == &control) return FocusMoved.Fire();
   Control* const before = std::exchange(focused_, &control);
   if (before != nullptr) before->LostFocus.Fire();
   if (focused_ != &control) return;
   control.GotFocus.Fire();
   FocusMoved.Fire();
+}
+
+void Form::CarryOutClick(const std::function<void()>& click) {
+  struct Counted {
+    int& clicks;
+    explicit Counted(int& number) : clicks(number) { ++clicks; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+    Counted(Counted&&) = delete;
+    Counted& operator=(Counted&&) = delete;
+    ~Counted() { --clicks; }
+  };
+  {
+    const Counted counted(clicks_);
+    click();
+  }
+  if (IsInClick()) return;
+  for (const auto& action : std::exchange(afterClick_, {})) action();
+}
+
+void Form::AfterClick(std::function<void()> action) {
+  if (!IsInClick()) return action();
+  afterClick_.push_back(std::move(action));
 }
 
 void Form::LoseFocus() {

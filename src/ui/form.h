@@ -1,6 +1,7 @@
 // A window: a name, a caption, the controls that are its members, and which of them has the focus.
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -43,14 +44,21 @@ class Form {
   [[nodiscard]] Control* Find(std::string_view name) const;
 
   /// Moves the keyboard focus: LostFocus of the control that had it, then GotFocus of `control`.
-  /// Nothing happens when `control` has the focus already or cannot take it now. A handler of
-  /// LostFocus that moves the focus itself has the last word.
+  /// Neither is fired when `control` has the focus already, and nothing happens when it cannot take
+  /// it now. A handler of LostFocus that moves the focus itself has the last word.
   void SetFocus(Control& control);
   /// Takes the focus away, as when the user goes on in another window: LostFocus of the control
   /// that had it.
   void LoseFocus();
   /// Null while no control has the focus.
   [[nodiscard]] Control* Focused() const { return focused_; }
+
+  /// Carries out a click on one of the controls, and then what AfterClick has put off.
+  void CarryOutClick(const std::function<void()>& click);
+  [[nodiscard]] bool IsInClick() const { return clicks_ > 0; }
+  /// Does `action` now or, during a click, when that has been carried out. For a question that
+  /// comes up when a box is left: the click that leaves it may be the answer.
+  void AfterClick(std::function<void()> action);
 
   /// Caption, visibility or state has changed.
   Event<> Changed;
@@ -59,7 +67,7 @@ class Form {
   /// The user asks to close the window. What happens then is its handlers' affair; a face closes
   /// nothing by itself.
   Event<> CloseRequested;
-  /// Focused() has changed; a face moves the real focus.
+  /// SetFocus has put the focus on Focused(); a face moves the real one there, wherever it was.
   Event<> FocusMoved;
 
  private:
@@ -72,6 +80,8 @@ class Form {
   WindowState state_ = WindowState::kNormal;
   std::vector<Control*> controls_;
   Control* focused_ = nullptr;
+  int clicks_ = 0;
+  std::vector<std::function<void()>> afterClick_;
 };
 
 }  // namespace quillomat

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QWheelEvent>
 #include <gmock/gmock.h>
 
 #include "window_fixture.h"
@@ -211,6 +212,133 @@ TEST_F(FormWindowTest, HelpWindowLeavesItsMarginsWhateverItsSize) {
     EXPECT_NEAR(screen.height(), size.height() - 1080 / 15.0, 1.0);
     EXPECT_NEAR(close.y(), size.height() - 800 / 15.0, 1.0);
     EXPECT_NEAR(close.geometry().center().x(), size.width() / 2.0, 2.0);
+  }
+}
+
+TEST_F(FormWindowTest, FocusIsWhereTheFormSaysAfterAChangeOfFormat) {
+  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  frmMain.txbFile[1].SetText(folder / "list.txt");
+  user->Click(frmMain.cmdCountWords);
+  auto& combo = user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat);
+  for (const int format : {7, 8}) {
+    frmParams.chkWarnOnOverwrite.SetChecked(false);
+    combo.setFocus(Qt::MouseFocusReason);
+    combo.setCurrentIndex(format);
+    emit combo.activated(format);
+    user->Settle();
+    EXPECT_EQ(frmMain.Focused(), &frmMain.cmdCountWords);
+    EXPECT_TRUE(user->WidgetOf<QWidget>(frmMain.cmdCountWords).hasFocus());
+  }
+}
+
+TEST_F(FormWindowTest, NoNeighbourGetsTheFocusOfAWidgetThatIsDisabled) {
+  auto& combo = user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat);
+  combo.setFocus();
+  user->Settle();
+  frmMain.cboDisplayFormat.SetEnabled(false);
+  user->windows.ShowChanges();
+  EXPECT_EQ(user->windows.Main().focusWidget(), nullptr);
+  frmMain.cboDisplayFormat.SetEnabled(true);
+  user->windows.ShowChanges();
+  EXPECT_TRUE(combo.hasFocus()) << "the form has never said otherwise";
+}
+
+TEST_F(FormWindowTest, FastClickOnClearLeavesTheFocusToTheProgram) {
+  frmMain.txbFile[0].EnterText(folder / "a.txt");
+  frmMain.txbOutput.SetText("x");
+  user->Settle();
+  auto& clear = user->WidgetOf<QWidget>(frmMain.cmdClearOutput);
+  clear.setFocus(Qt::MouseFocusReason);
+  QTest::mouseClick(&clear, Qt::LeftButton);  // before anything that is pending happens
+  user->Settle();
+  EXPECT_EQ(frmMain.Focused(), &frmMain.cmdCountWords);
+  EXPECT_TRUE(user->WidgetOf<QWidget>(frmMain.cmdCountWords).hasFocus());
+}
+
+TEST_F(FormWindowTest, ClickThatLeavesABadBoxIsCarriedOut) {
+  user->Type(frmMain.txbFolder, folder / "none");
+  auto& clear = user->WidgetOf<QWidget>(frmMain.cmdClearFolder);
+  clear.setFocus(Qt::MouseFocusReason);
+  QTest::mousePress(&clear, Qt::LeftButton);
+  user->Settle();
+  EXPECT_THAT(boxes.Texts(), testing::IsEmpty()) << "not in the middle of the click";
+  QTest::mouseRelease(&clear, Qt::LeftButton);
+  user->Settle();
+  EXPECT_EQ(frmMain.txbFolder.Text(), "");
+  EXPECT_THAT(boxes.Texts(), testing::IsEmpty());
+}
+
+TEST_F(FormWindowTest, WheelChangesNoComboBoxThatTheKeyboardIsNotIn) {
+  auto& combo = user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat);
+  const auto turn = [&combo] {
+    QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&combo, &wheel);
+  };
+  user->WidgetOf<QWidget>(frmMain.cmdCountWords).setFocus();
+  turn();
+  EXPECT_EQ(combo.currentIndex(), 0);
+  combo.setFocus();
+  turn();
+  EXPECT_EQ(combo.currentIndex(), 1);
+}
+
+TEST_F(FormWindowTest, FormatThatIsOfNoUseIsGreyInTheDropDownAndSaysWhy) {
+  auto& combo = user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat);
+  combo.showPopup();
+  user->Settle();
+  const auto flags = [&combo](int row) { return combo.model()->index(row, 0).flags(); };
+  EXPECT_FALSE(flags(11) & Qt::ItemIsEnabled);
+  EXPECT_TRUE(flags(10) & Qt::ItemIsEnabled);
+  EXPECT_NE(combo.itemData(11, Qt::ToolTipRole).toString(), "");
+  EXPECT_EQ(combo.itemData(10, Qt::ToolTipRole).toString(), "");
+  combo.hidePopup();
+  boxes.Answer(QMessageBox::Ok);
+  user->Choose(frmMain.cboDisplayFormat, 11);
+  ASSERT_EQ(boxes.TitlesSeen().size(), 1U);
+  EXPECT_EQ(boxes.TitlesSeen()[0], "Invalid display format");
+}
+
+TEST_F(FormWindowTest, KeysInTheListAreUndoneAndTheProgramsTextIsNot) {
+  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  user->Click(frmMain.cmdCountWords);
+  auto& list = user->windows.Main().List();
+  const QString shown = list.toPlainText();
+  list.setFocus();
+  list.selectAll();
+  QTest::keyClicks(&list, "x");
+  user->Settle();
+  EXPECT_EQ(frmMain.txbOutput.Text(), "x");
+  QTest::keySequence(&list, QKeySequence::Undo);
+  QTest::keySequence(&list, QKeySequence::Undo);
+  user->Settle();
+  EXPECT_EQ(list.toPlainText(), shown);
+  EXPECT_EQ(ToQtLines(frmMain.txbOutput.Text()), shown);
+}
+
+TEST_F(FormWindowTest, EnterInTheListCountsUnlessATextIsBeingWrittenThere) {
+  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  auto& list = user->windows.Main().List();
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_Return);
+  user->Settle();
+  EXPECT_THAT(user->Shown(), testing::HasSubstr("dog"));
+  list.setFocus();
+  QTest::keyClicks(&list, "y");
+  QTest::keyClick(&list, Qt::Key_Return);
+  user->Settle();
+  EXPECT_THAT(user->Shown(), testing::StartsWith("y\n"));
+  QTest::keyClick(&list, Qt::Key_Return, Qt::ControlModifier);
+  user->Settle();
+  EXPECT_THAT(user->Shown(), testing::Not(testing::StartsWith("y\n")));
+}
+
+TEST_F(FormWindowTest, PanelAndHelpBelongToTheMainWindow) {
+  user->Click(frmMain.cmdSetParameters);
+  for (const FormWindow* window : {&user->windows.Panel(), &user->windows.Help()}) {
+    EXPECT_EQ(window->parentWidget(), &user->windows.Main());
+    EXPECT_TRUE(window->isWindow());
+    EXPECT_TRUE(window->windowFlags() & Qt::WindowMinimizeButtonHint);
   }
 }
 

@@ -14,16 +14,28 @@ class MainWindowViewTest : public WindowFixture {
  protected:
   MainWindowViewTest() { EXPECT_TRUE(user->Start()); }
 
-  void Drop(const std::string& path) {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(ToQt(path))});
-    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&user->windows.Main(), &enter);
+  /// What a file manager offers to be moved.
+  static void DropOn(QWidget& widget, const QMimeData& data) {
+    const Qt::DropActions possible = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(10, 10), possible, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&widget, &enter);
     EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&user->windows.Main(), &drop);
-    user->Settle();
+    EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop(QPointF(10, 10), possible, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&widget, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    ProgramOnDesktop::Settle();
   }
+  static void DropFilesOn(QWidget& widget, const std::vector<std::string>& paths) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const std::string& path : paths) urls.append(QUrl::fromLocalFile(ToQt(path)));
+    data.setUrls(urls);
+    DropOn(widget, data);
+  }
+  void Drop(const std::string& path) { DropFilesOn(user->windows.Main(), {path}); }
 
   void Press(const QKeySequence& keys) {
     QTest::keySequence(&user->windows.Main(), keys);
@@ -42,6 +54,25 @@ TEST_F(MainWindowViewTest, DroppedFileAndFolderAreChosen) {
   Drop(folder.Path());
   EXPECT_TRUE(frmMain.optFolder.Value());
   EXPECT_EQ(frmMain.txbFolder.Text(), folder.Path());
+}
+
+TEST_F(MainWindowViewTest, SeveralFilesAndTextAreAnswered) {
+  boxes.Answer(QMessageBox::Ok);
+  DropFilesOn(user->windows.Main(), {folder.Write("a.txt", "cat"), folder.Write("b.txt", "dog")});
+  boxes.Answer(QMessageBox::Ok);
+  QMimeData text;
+  text.setText("a piece of text");
+  DropOn(user->windows.Main(), text);
+  EXPECT_THAT(boxes.Texts(), testing::ElementsAre(testing::HasSubstr("one file or one folder"),
+                                                  testing::HasSubstr("Only a file or a folder")));
+  EXPECT_EQ(frmMain.txbFile[0].Text(), "");
+}
+
+TEST_F(MainWindowViewTest, FileDroppedOnTheBoxOfTheOutputFileIsThat) {
+  const std::string path = folder.Write("list.txt", "");
+  DropFilesOn(user->WidgetOf<QWidget>(frmMain.txbFile[1]), {path});
+  EXPECT_EQ(frmMain.txbFile[1].Text(), path);
+  EXPECT_EQ(frmMain.txbFile[0].Text(), "");
 }
 
 TEST_F(MainWindowViewTest, EnterStartsTheCount) {
@@ -107,6 +138,14 @@ TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
   user = std::make_unique<ProgramOnDesktop>();
   ASSERT_TRUE(user->Start());
   EXPECT_EQ(user->windows.Main().List().Zoom(), -1);
+}
+
+TEST_F(MainWindowViewTest, FolderUsedLastIsRemembered) {
+  user->program.ChooseText(folder.Write("a.txt", "cat\n"));
+  user->Click(frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_EQ(user->program.state.lastFolder, folder.Path());
 }
 
 TEST_F(MainWindowViewTest, SizeOfTheWindowIsRemembered) {

@@ -1,12 +1,9 @@
-// Paths that are completed while they are typed.
+// Paths that are offered while they are typed.
 #include "qt/path_completion.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QCompleter>
 #include <QDir>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
@@ -20,23 +17,23 @@ class PathCompletion : public ::testing::Test {
  protected:
   PathCompletion() {
     auto* column = new QVBoxLayout(&window_);
-    for (QLineEdit* box : {box_, otherBox_}) {
-      column->addWidget(box);
-      CompletePaths(*box, PathKind::kFile);
-    }
+    column->addWidget(box_);
+    column->addWidget(otherBox_);
+    suggestions_ = new PathSuggestions(*box_, PathKind::kFile);
     window_.show();
     static_cast<void>(QTest::qWaitForWindowActive(&window_));
     box_->setFocus();
   }
 
   void PutFile(const char* name) { static_cast<void>(folder_.Write(name, "x")); }
+  [[nodiscard]] QString Path(const char* name) const {
+    return QDir::toNativeSeparators(QString::fromStdString(folder_ / name));
+  }
   void Type(const char* name) {
     box_->clear();
-    QTest::keyClicks(box_, QString::fromStdString(folder_ / name));
+    QTest::keyClicks(box_, Path(name));
   }
-  [[nodiscard]] bool IsOffering() const {
-    return box_->completer() != nullptr && box_->completer()->popup()->isVisible();
-  }
+  [[nodiscard]] bool IsOffering() const { return suggestions_->IsOffering(); }
   [[nodiscard]] bool OffersSoon() const {
     return QTest::qWaitFor([this] { return IsOffering(); }, kLongEnough);
   }
@@ -44,71 +41,115 @@ class PathCompletion : public ::testing::Test {
   static void Pause() { QTest::qWait(kPause); }
 
   static constexpr int kLongEnough = 20'000;
-  static constexpr int kPause = 1500;
+  static constexpr int kPause = 900;
 
   TemporaryFolder folder_;
   QWidget window_;
   QLineEdit* box_ = new QLineEdit;
   QLineEdit* otherBox_ = new QLineEdit;
+  PathSuggestions* suggestions_ = nullptr;
 };
 
 TEST_F(PathCompletion, OffersWhatIsInTheFolder) {
   PutFile("harbour.txt");
+  PutFile("harvest.txt");
   PutFile("meadow.txt");
   Type("har");
   ASSERT_TRUE(OffersSoon());
-  EXPECT_EQ(box_->completer()->currentCompletion(),
-            QDir::toNativeSeparators(QString::fromStdString(folder_ / "harbour.txt")));
-  EXPECT_EQ(box_->completer()->completionCount(), 1);
+  EXPECT_EQ(suggestions_->Offered(), (QStringList{Path("harbour.txt"), Path("harvest.txt")}));
+  QTest::keyClicks(box_, "v");
+  EXPECT_EQ(suggestions_->Offered(), QStringList{Path("harvest.txt")}) << "at once";
 }
 
 TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
   PutFile("harbour.txt");
   Type("har");
-  EXPECT_EQ(box_->completer(), nullptr);
+  EXPECT_FALSE(IsOffering());
   QTest::keyClick(box_, Qt::Key_Return);
   Pause();
   EXPECT_FALSE(IsOffering());
 }
 
-TEST_F(PathCompletion, OffersNothingOnceReturnWasPressed) {
-  Type("list.txt");
-  Pause();
-  QTest::keyClick(box_, Qt::Key_Return);
-  PutFile("list.txt");
-  Pause();
-  EXPECT_FALSE(IsOffering());
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST_F(PathCompletion, OffersNothingOnceTheBoxWasLeft) {
-  Type("list.txt");
-  Pause();
-  otherBox_->setFocus();
-  PutFile("list.txt");
-  Pause();
-  EXPECT_FALSE(IsOffering());
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
-TEST_F(PathCompletion, OffersAgainWhenTypingGoesOn) {
+TEST_F(PathCompletion, OffersNothingWithoutAKey) {
   PutFile("harbour.txt");
-  Type("nothing");
-  QTest::keyClick(box_, Qt::Key_Return);
-  QTest::qWait(10);
-  Type("har");
-  EXPECT_TRUE(OffersSoon());
+  box_->setText(Path("har"));
+  Pause();
+  EXPECT_FALSE(IsOffering());
 }
 
-TEST_F(PathCompletion, WhatIsOfferedIsTakenByReturn) {
+TEST_F(PathCompletion, OffersNothingThatIsAlreadyThere) {
+  PutFile("harbour.txt");
+  Type("harbour.txt");
+  Pause();
+  EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, OffersNothingOnceReturnWasPressedOrTheBoxLeft) {
+  Type("list");
+  Pause();
+  QTest::keyClick(box_, Qt::Key_Return);
+  PutFile("list.txt");
+  Pause();
+  EXPECT_FALSE(IsOffering());
+  Type("lis");
+  otherBox_->setFocus();
+  Pause();
+  EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, EscapeClosesItUntilTheNextKey) {
   PutFile("harbour.txt");
   Type("har");
   ASSERT_TRUE(OffersSoon());
-  QAbstractItemView* offered = box_->completer()->popup();
-  QTest::keyClick(offered, Qt::Key_Down);
-  QTest::keyClick(offered, Qt::Key_Return);
-  EXPECT_EQ(box_->text().toStdString(), folder_ / "harbour.txt");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !IsOffering(); }, kLongEnough));
+  QTest::keyClick(box_, Qt::Key_Escape);
+  EXPECT_FALSE(IsOffering());
+  PutFile("harvest.txt");
+  Pause();
+  EXPECT_FALSE(IsOffering()) << "the folder has changed, but nobody has typed";
+  QTest::keyClicks(box_, "b");
+  EXPECT_TRUE(OffersSoon());
+}
+
+TEST_F(PathCompletion, WhatIsMarkedIsTakenByReturn) {
+  PutFile("harbour.txt");
+  Type("har");
+  ASSERT_TRUE(OffersSoon());
+  QTest::keyClick(box_, Qt::Key_Down);
+  QTest::keyClick(box_, Qt::Key_Return);
+  EXPECT_EQ(box_->text(), Path("harbour.txt"));
+  Pause();
+  EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, ReturnIsTheWindowsWhenNothingIsMarked) {
+  PutFile("harbour.txt");
+  Type("har");
+  ASSERT_TRUE(OffersSoon());
+  int pressed = 0;
+  QObject::connect(box_, &QLineEdit::returnPressed, [&pressed] { ++pressed; });
+  QTest::keyClick(box_, Qt::Key_Return);
+  EXPECT_EQ(pressed, 1);
+  EXPECT_EQ(box_->text(), Path("har"));
+  EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, EntryIsTakenByAClickAndTheMouseIsLeftAlone) {
+  PutFile("harbour.txt");
+  Type("har");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "it would swallow the next click";
+  const QListWidget& list = suggestions_->List();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                    list.visualItemRect(list.item(0)).center());
+  EXPECT_EQ(box_->text(), Path("harbour.txt"));
+  EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, NameMayHoldSignsThatStandForOthersElsewhere) {
+  PutFile("[har]bour.txt");
+  Type("[har]");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{Path("[har]bour.txt")});
 }
 
 }  // namespace

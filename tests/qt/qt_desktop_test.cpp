@@ -110,5 +110,36 @@ TEST_F(QtDesktopTest, ClipboardGoesThereAndBack) {
   EXPECT_EQ(desktop.ClipboardText(), "");
 }
 
+TEST_F(QtDesktopTest, EveryBoxOfARowBelongsToTheWindow) {
+  QWidget window;
+  desktop.SetWindow(&window);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (int i = 0; i < 2; ++i) {
+    WithDialog<QMessageBox>([&window](QMessageBox& box) {
+      EXPECT_EQ(box.parentWidget(), &window);
+      box.button(QMessageBox::Ok)->click();
+    });
+    desktop.ShowMessage({"One", "Title"});
+    window.clearFocus();
+    QApplication::setActiveWindow(nullptr);  // until the window system gives it back
+  }
+}
+
+TEST_F(QtDesktopTest, DialogOpensInTheFolder) {
+  FileDialog dialog;
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.folder = folder.Path();
+  WithDialog<QFileDialog>([&](QFileDialog& shown) {
+    EXPECT_EQ(FromQt(shown.directory().path()), folder.Path());
+    shown.reject();
+  });
+  EXPECT_EQ(desktop.ChooseFile(dialog), std::nullopt);
+}
+
+TEST_F(QtDesktopTest, DocumentsAreInAFolderThatIsThere) {
+  EXPECT_TRUE(QFileInfo(ToQt(desktop.DocumentsFolder())).isDir());
+}
+
 }  // namespace
 }  // namespace quillomat

@@ -316,9 +316,11 @@ class DesktopWithBadClipboard final : public Desktop {
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override {
     return desktop_.ChooseFile(dialog);
   }
-  std::optional<std::string> BrowseForFolder(const std::string& title) override {
-    return desktop_.BrowseForFolder(title);
+  std::optional<std::string> BrowseForFolder(const std::string& title,
+                                             const std::string& folder) override {
+    return desktop_.BrowseForFolder(title, folder);
   }
+  std::string DocumentsFolder() override { return desktop_.DocumentsFolder(); }
   void ClearClipboard() override { desktop_.ClearClipboard(); }
   void PutClipboardText(const std::string& text) override { desktop_.PutClipboardText(text); }
   void Repaint() override { desktop_.Repaint(); }

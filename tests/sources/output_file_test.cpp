@@ -395,7 +395,7 @@ TEST_F(OutputFileTest, AFileThatMayNotBeWrittenIsReportedAndLeft) {
   fs::permissions(path, fs::perms(0444));
   EXPECT_EQ(AsOrdinaryUser([this] {
               CountTwoWords();
-              ExpectProblem("Error 70: Permission denied");
+              ExpectProblem("Error 70: Permission denied\r\n" + path);
               return HasFailure() ? 1 : 0;
             }),
             0);

@@ -124,8 +124,10 @@ std::optional<std::string> ScriptedDesktop::ChooseFile(const FileDialog& dialog)
   return TakeFront(fileAnswers_, "the file dialog \"" + dialog.title + "\"");
 }
 
-std::optional<std::string> ScriptedDesktop::BrowseForFolder(const std::string& title) {
+std::optional<std::string> ScriptedDesktop::BrowseForFolder(const std::string& title,
+                                                            const std::string& folder) {
   folderBrowses_.push_back(title);
+  browsesAt_.push_back(folder);
   titles_.push_back(title);
   return TakeFront(folderAnswers_, "the folder browser \"" + title + "\"");
 }

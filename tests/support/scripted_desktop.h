@@ -61,6 +61,7 @@ class ScriptedDesktop final : public Desktop {
   /// For ChooseFile and BrowseForFolder; nothing is Cancel.
   void AnswerFile(std::optional<std::string> path) { fileAnswers_.push_back(std::move(path)); }
   void AnswerFolder(std::optional<std::string> path) { folderAnswers_.push_back(std::move(path)); }
+  void SetDocumentsFolder(std::string folder) { documentsFolder_ = std::move(folder); }
   /// Runs the action inside the n-th PumpEvents, counted from 1 and from the desktop's beginning.
   void AtPump(int number, std::function<void()> action);
   /// Runs the action when a message with that title is shown, before it is answered.
@@ -79,6 +80,8 @@ class ScriptedDesktop final : public Desktop {
   [[nodiscard]] const std::vector<InputBox>& InputBoxes() const { return inputBoxes_; }
   [[nodiscard]] const std::vector<FileDialog>& FileDialogs() const { return fileDialogs_; }
   [[nodiscard]] const std::vector<std::string>& FolderBrowses() const { return folderBrowses_; }
+  /// Where the folder browsers opened.
+  [[nodiscard]] const std::vector<std::string>& BrowsesAt() const { return browsesAt_; }
   /// The titles of all of these together.
   [[nodiscard]] const std::vector<std::string>& Titles() const { return titles_; }
   [[nodiscard]] const std::vector<std::string>& Opened() const { return opened_; }
@@ -96,7 +99,9 @@ class ScriptedDesktop final : public Desktop {
   MessageAnswer ShowMessage(const MessageBox& box) override;
   std::string AskForText(const InputBox& box) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
-  std::optional<std::string> BrowseForFolder(const std::string& title) override;
+  std::optional<std::string> BrowseForFolder(const std::string& title,
+                                             const std::string& folder) override;
+  std::string DocumentsFolder() override { return documentsFolder_; }
   std::string ClipboardText() override;
   void ClearClipboard() override;
   void PutClipboardText(const std::string& text) override;
@@ -129,6 +134,7 @@ class ScriptedDesktop final : public Desktop {
   std::vector<InputBox> inputBoxes_;
   std::vector<FileDialog> fileDialogs_;
   std::vector<std::string> folderBrowses_;
+  std::vector<std::string> browsesAt_;
   std::vector<std::string> titles_;
   std::vector<std::string> opened_;
 
@@ -137,6 +143,7 @@ class ScriptedDesktop final : public Desktop {
   bool clipboardWriteFails_ = false;
   bool shellRefuses_ = false;
   std::string separator_ = ",";
+  std::string documentsFolder_;
   MemoryRegistry registry_;
   int repaints_ = 0;
   int pumps_ = 0;

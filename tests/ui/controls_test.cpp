@@ -243,5 +243,41 @@ TEST_F(Controls, ControlIsSeenAsItsOwnKindOnly) {
   EXPECT_EQ(constant.As<CheckBox>(), &window_.chkBox);
 }
 
+TEST_F(Controls, OnlyAHandEntersText) {
+  const Counter changes(window_.txbText.Change);
+  const Counter entered(window_.txbText.Entered);
+  window_.txbText.SetText("from code");
+  EXPECT_EQ(entered.Count(), 0);
+  window_.txbText.EnterText("by hand");
+  window_.txbText.EnterText("by hand");
+  EXPECT_EQ(window_.txbText.Text(), "by hand");
+  EXPECT_EQ(entered.Count(), 1);
+  EXPECT_EQ(changes.Count(), 2);
+}
+
+TEST_F(Controls, ChoiceByHandTakesTheFocusFirst) {
+  window_.cboList.AddItem("one");
+  window_.SetFocus(window_.txbText);
+  window_.txbText.LostFocus.Connect([this] { EXPECT_EQ(window_.cboList.ListIndex(), -1); });
+  const Counter lost(window_.txbText.LostFocus);
+  window_.cboList.PerformChoice(0);
+  EXPECT_EQ(window_.cboList.ListIndex(), 0);
+  EXPECT_EQ(lost.Count(), 1);
+  window_.cboList.SetEnabled(false);
+  window_.cboList.PerformChoice(-1);
+  EXPECT_EQ(window_.cboList.ListIndex(), 0);
+}
+
+TEST_F(Controls, ItemOfNoUseHasAReasonAndCanBeSelected) {
+  window_.cboList.AddItem("one");
+  window_.cboList.AddItem("two");
+  EXPECT_EQ(window_.cboList.ReasonAgainst(1), "");
+  window_.cboList.SetReasonAgainst([](int index) { return index == 1 ? "no" : ""; });
+  EXPECT_EQ(window_.cboList.ReasonAgainst(0), "");
+  EXPECT_EQ(window_.cboList.ReasonAgainst(1), "no");
+  window_.cboList.SetListIndex(1);
+  EXPECT_EQ(window_.cboList.ListIndex(), 1);
+}
+
 }  // namespace
 }  // namespace quillomat

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <gmock/gmock.h>
+#include <stdexcept>
 
 #include "ui/controls.h"
 
@@ -118,6 +119,39 @@ TEST_F(FormTest, CaptionAndStateChange) {
   EXPECT_EQ(window_.Caption(), "New");
   window_.Show();
   EXPECT_EQ(window_.State(), WindowState::kMinimized);
+}
+
+TEST_F(FormTest, FocusIsMovedAnewWhereTheFormHasItAlready) {
+  window_.SetFocus(window_.cmdGo);
+  int moved = 0;
+  window_.FocusMoved.Connect([&moved] { ++moved; });
+  WatchFocus();
+  window_.SetFocus(window_.cmdGo);
+  EXPECT_EQ(moved, 1) << "the real focus may be elsewhere";
+  EXPECT_THAT(log_, testing::IsEmpty());
+}
+
+TEST_F(FormTest, WhatIsPutOffComesAfterTheClick) {
+  window_.SetFocus(window_.txbFile[0]);
+  window_.txbFile[0].LostFocus.Connect([this] {
+    EXPECT_TRUE(window_.IsInClick());
+    window_.AfterClick([this] { log_.emplace_back("question"); });
+  });
+  window_.cmdGo.Click.Connect([this] { log_.emplace_back("click"); });
+  window_.cmdGo.PerformClick();
+  EXPECT_THAT(log_, ElementsAre("click", "question"));
+  EXPECT_FALSE(window_.IsInClick());
+}
+
+TEST_F(FormTest, WithoutAClickNothingIsPutOff) {
+  window_.AfterClick([this] { log_.emplace_back("question"); });
+  EXPECT_THAT(log_, ElementsAre("question"));
+}
+
+TEST_F(FormTest, ClickThatFailsIsOver) {
+  window_.cmdGo.Click.Connect([] { throw std::runtime_error("fails"); });
+  EXPECT_THROW(window_.cmdGo.PerformClick(), std::runtime_error);
+  EXPECT_FALSE(window_.IsInClick());
 }
 
 }  // namespace

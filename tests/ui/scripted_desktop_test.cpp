@@ -68,7 +68,7 @@ TEST(ScriptedDesktopTest, UnscriptedQuestionFailsTheTest) {
                           "the input box \"Path\"");
   EXPECT_NONFATAL_FAILURE(AskUnscripted([] { (void)ScriptedDesktop().ChooseFile({}); }),
                           "the file dialog");
-  EXPECT_NONFATAL_FAILURE(AskUnscripted([] { (void)ScriptedDesktop().BrowseForFolder("x"); }),
+  EXPECT_NONFATAL_FAILURE(AskUnscripted([] { (void)ScriptedDesktop().BrowseForFolder("x", ""); }),
                           "the folder browser \"x\"");
 }
 
@@ -90,7 +90,7 @@ TEST(ScriptedDesktopTest, DialogsAreAnsweredInOrder) {
   EXPECT_EQ(desktop.AskForText({"Path", "Where?", "here"}), "typed");
   EXPECT_EQ(desktop.ChooseFile(DialogTitled("Open")), "/tmp/a.txt");
   EXPECT_EQ(desktop.ChooseFile(DialogTitled("Again")), std::nullopt);
-  EXPECT_EQ(desktop.BrowseForFolder("Select Folder"), "/tmp");
+  EXPECT_EQ(desktop.BrowseForFolder("Select Folder", ""), "/tmp");
   EXPECT_THAT(desktop.Titles(), ElementsAre("Path", "Open", "Again", "Select Folder"));
   EXPECT_EQ(desktop.InputBoxes().front().defaultAnswer, "here");
   desktop.ForgetQuestions();
