@@ -5,39 +5,8 @@
 set -eu
 program=$1
 data=$2
-work=$(mktemp -d)
-screen_pid=
-cleanup() {
-  [ -z "$screen_pid" ] || kill "$screen_pid" 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-fail() {
-  printf 'FAILED: %s\n' "$1" >&2
-  cat "$work"/*.log >&2
-  exit 1
-}
-
-# wait_for SECONDS COMMAND...: until the command succeeds.
-wait_for() {
-  tries=$(($1 * 20))
-  shift
-  while ! "$@" >/dev/null 2>&1; do
-    tries=$((tries - 1))
-    [ "$tries" -gt 0 ] || return 1
-    sleep 0.05
-  done
-}
-
-# Without -noreset the screen starts anew whenever the last window is gone.
-Xvfb -noreset -displayfd 3 -screen 0 1280x900x24 3>"$work/display" 2>"$work/screen.log" &
-screen_pid=$!
-wait_for 20 test -s "$work/display" || fail "no virtual screen"
-DISPLAY=:$(cat "$work/display")
-mkdir -m 700 "$work/home" "$work/run"
-export DISPLAY HOME="$work/home" XDG_CONFIG_HOME="$work/home/.config" XDG_RUNTIME_DIR="$work/run"
-unset QT_QPA_PLATFORM WAYLAND_DISPLAY || true
+. "$(dirname "$0")/virtual_screen.sh"
+start_screen
 
 start() {
   "$program" "$@" >"$work/program.log" 2>&1 &
