@@ -3,6 +3,8 @@
 // Holds the tokens of at most kMostBytes bytes, and at most kMostTokens of them: a text with more
 // different tokens makes it start anew from time to time. At most 1 MiB: it is to stay in the
 // caches nearest to the processor, and four tokens share a line of them.
+//
+// Tokens that meet in one place of it make it crowded; once cleared, it goes by another seed.
 #pragma once
 
 #include <array>
@@ -37,9 +39,14 @@ class TokenMemo {
   static constexpr std::size_t kMostTokens =
       32'768;  // half of the entries, so that few share their place
 
-  TokenMemo() : entries_(kFirstEntries) {}
+  explicit TokenMemo(const HashSeed& seed = DrawnHashSeed())
+      : seed_(seed), entries_(kFirstEntries) {}
 
   void Clear();
+
+  /// Whether a token lies so far from its place that the memo should be cleared, for which it is
+  /// ready as soon as no key is in use that was made before.
+  [[nodiscard]] bool IsCrowded() const { return crowded_; }
 
   /// A token as the memo looks it up: its bytes, of which none is 0, with zeros behind them.
   struct Key {
@@ -49,7 +56,7 @@ class TokenMemo {
   };
 
   /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
-  [[nodiscard]] static Key KeyOf(const char* text, std::size_t size, std::size_t readable);
+  [[nodiscard]] Key KeyOf(const char* text, std::size_t size, std::size_t readable) const;
   /// The key of no token.
   [[nodiscard]] static Key NoKey() { return {0, UINT32_MAX, 0}; }
 
@@ -71,6 +78,8 @@ class TokenMemo {
  private:
   static constexpr std::size_t kFirstEntries = 1024;  // a power of two, as every number of entries
   static constexpr std::size_t kMostEntries = 65'536;
+  /// No half-filled table of chance comes near it.
+  static constexpr std::size_t kFarthest = 256;
 
   struct Entry {
     std::uint64_t low = 0;  // 0 marks a free entry
@@ -93,15 +102,19 @@ class TokenMemo {
     return masks;
   }();
 
+  void ForgetAll();
   void Place(const Entry& entry);
   void Resize(std::size_t entries);
 
+  HashSeed seed_;
+  bool crowded_ = false;
   std::vector<Entry> entries_;
   unsigned shift_ = kHashBits - 10;  // of kFirstEntries
   std::size_t tokens_ = 0;
 };
 
-inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size, std::size_t readable) {
+inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size,
+                                       std::size_t readable) const {
   Key key{};
   char last[kMostBytes] = {};
   const char* bytes = text;
@@ -111,7 +124,7 @@ inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size, std::
   }
   key.low = LoadNumber<std::uint64_t>(bytes) & kOwnBytes[size].low;
   key.high = LoadNumber<std::uint32_t>(bytes + sizeof key.low) & kOwnBytes[size].high;
-  key.hash = MixedHash(key.low, key.high);
+  key.hash = MixedHash(key.low, key.high, seed_);
   return key;
 }
 

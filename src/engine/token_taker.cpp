@@ -55,20 +55,20 @@ void TokenTaker::TakeCut(std::string_view token) {
   if (IsPlace(known)) store_.CountWordAt(known);
 }
 
-TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) {
-  return token.size() > TokenMemo::kMostBytes
-             ? TokenMemo::NoKey()
-             : TokenMemo::KeyOf(token.data(), token.size(), readable);
+TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) const {
+  return token.size() > TokenMemo::kMostBytes ? TokenMemo::NoKey()
+                                              : memo_.KeyOf(token.data(), token.size(), readable);
 }
 
 void TokenTaker::ForgetNewTokens() {
+  store_.SettleHashes();
   newTokens_.clear();
   newWords_.clear();
   newLetters_.clear();
 }
 
 void TokenTaker::ForgetTokensOfOldStore() {
-  if (memoGeneration_ == store_.Generation()) return;
+  if (memoGeneration_ == store_.Generation() && !memo_.IsCrowded()) return;
   memo_.Clear();
   memoGeneration_ = store_.Generation();
 }
@@ -155,7 +155,7 @@ void TokenTaker::NoteNewWord(std::string_view word) {
       noted.keyStart = newLetters_.size();
       newLetters_.append(key);
     }
-    noted.hash = HashOfWord(key);
+    noted.hash = store_.HashOf(key);
     store_.PrefetchSlot(noted.hash);
   }
   newWords_.push_back(noted);

@@ -66,7 +66,7 @@ class TokenTaker {
 
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
   /// `readable` bytes can be read at the token.
-  [[nodiscard]] static TokenMemo::Key KeyOf(std::string_view token, std::size_t readable);
+  [[nodiscard]] TokenMemo::Key KeyOf(std::string_view token, std::size_t readable) const;
   void ForgetNewTokens();
   void WorkOutToken(std::string_view token);
   [[nodiscard]] bool WorkOutPlainToken(std::string_view token);

@@ -10,10 +10,21 @@
 #include <utility>
 #include <vector>
 
+#include "engine/word_hash.h"
+
 namespace quillomat {
 
 /// The two kinds of list; also the index of the controls that belong to them.
 enum class WordListKind { kIgnore = 0, kCountOnly = 1 };
+
+/// For a standard container of words.
+struct SeededHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view word) const {
+    return static_cast<std::size_t>(LongHashOfWord(word, seed));
+  }
+  HashSeed seed = DrawnHashSeed();
+};
 
 /// A list of words in its own order. A word is found by exact comparison, accents and letter case
 /// included.
@@ -31,15 +42,8 @@ class WordList {
   [[nodiscard]] const std::vector<std::string>& Words() const { return words_; }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view word) const {
-      return std::hash<std::string_view>{}(word);
-    }
-  };
-
   std::vector<std::string> words_;
-  std::unordered_set<std::string, Hash, std::equal_to<>> lookup_;
+  std::unordered_set<std::string, SeededHash, std::equal_to<>> lookup_;
 };
 
 struct WordLists {

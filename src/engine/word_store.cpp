@@ -36,13 +36,15 @@ void WordStore::Clear() {
 std::optional<std::uint32_t> WordStore::AddWord(std::string_view word, bool anyLength) {
   if (!anyLength && IsLongWord(word)) return {};
   const std::string_view key = SortKeyOf(word, keyScratch_);
-  return AddKeyedWord({word, key, HashOfWord(key)});
+  SettleHashes();
+  return AddKeyedWord({word, key, HashOf(key)});
 }
 
 std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
   if (files_.IsOn()) files_.NoteCurrentFile();
   MakeRoom();
-  Slot& slot = slots_[FindSlot(word)];
+  const std::size_t found = FindSlot(word);
+  Slot& slot = slots_[found];
   if (slot.place != 0) {
     const std::uint32_t place = slot.place - 1;
     CountWordAt(place);
@@ -51,6 +53,7 @@ std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
   if (letters_.Size() == std::numeric_limits<std::int32_t>::max()) {
     throw RunTimeError(RunTimeErrorNumber::kOverflow);
   }
+  if (((found - (word.hash >> slotShift_)) & (slots_.size() - 1)) > kFarthest) crowded_ = true;
   const auto place = static_cast<std::uint32_t>(letters_.Size());
   slot = {word.hash, place + 1};
   AppendWord(word);
@@ -137,9 +140,16 @@ void WordStore::FillSlots(std::size_t slots) {
   SetSlots(slots);
   for (std::size_t place = 0; place < letters_.Size(); ++place) {
     const std::string_view key = letters_[place].Key();
-    const std::uint32_t hash = HashOfWord(key);
+    const std::uint32_t hash = HashOf(key);
     slots_[FindSlot({key, key, hash})] = {hash, static_cast<std::uint32_t>(place + 1)};
   }
+}
+
+void WordStore::ChangeSeed() {
+  seed_ = HashSeedAfter(seed_);
+  ++seedChanges_;
+  crowded_ = false;
+  if (!sorted_) FillSlots(slots_.size());
 }
 
 const FileTally* WordStore::FilesOf(std::int32_t index) const {

@@ -46,7 +46,7 @@ struct KeyedWord {
   std::string_view word;
   /// Its sort key.
   std::string_view key;
-  /// HashOfWord of the key.
+  /// WordStore::HashOf the key.
   std::uint32_t hash = 0;
 };
 
@@ -77,7 +77,8 @@ class NewWordListener {
 
 class WordStore {
  public:
-  WordStore() = default;
+  /// `seed` is that of the first hashes.
+  explicit WordStore(const HashSeed& seed = DrawnHashSeed()) : seed_(seed) {}
 
   /// Empties the store. The file tracker is left alone.
   void Clear();
@@ -93,7 +94,16 @@ class WordStore {
   std::uint32_t AddKeyedWord(const KeyedWord& word);
 
   // For many new words at once: the slots of all are fetched, then what the slots point to, and
-  // then the words are added.
+  // then the words are added. Hashes are good until SettleHashes is called.
+
+  /// Takes another seed when a word lies too far from its slot. To be called before hashes are
+  /// asked for, once for some words.
+  void SettleHashes() {
+    if (crowded_) ChangeSeed();
+  }
+  [[nodiscard]] std::uint32_t HashOf(std::string_view key) const { return HashOfWord(key, seed_); }
+  /// How often another seed was taken.
+  [[nodiscard]] std::size_t SeedChanges() const { return seedChanges_; }
   void PrefetchSlot(std::uint32_t hash) const {
     if (!slots_.empty()) __builtin_prefetch(&slots_[hash >> slotShift_]);
   }
@@ -162,6 +172,10 @@ class WordStore {
     std::uint32_t place = 0;
   };
 
+  /// A table that is three quarters full and has 2^31 words reaches this distance once in ten
+  /// million times, smaller ones never.
+  static constexpr std::size_t kFarthest = 1024;
+
   struct SortEntry {
     std::uint64_t leadingBytes;
     std::uint32_t place;
@@ -179,6 +193,7 @@ class WordStore {
   void GrowSlots();
   void FillSlots(std::size_t slots);
   void SetSlots(std::size_t slots);
+  void ChangeSeed();
   void SortRecords() const;
   [[nodiscard]] std::vector<SortEntry> SortedEntries() const;
   void ArrangeWords(std::span<const SortEntry> order) const;
@@ -198,6 +213,9 @@ class WordStore {
   /// Empty while the words are sorted: sorting moves them, and words seldom arrive afterwards.
   mutable std::vector<Slot> slots_;
   mutable unsigned slotShift_ = 0;
+  HashSeed seed_;
+  bool crowded_ = false;
+  std::size_t seedChanges_ = 0;
   mutable bool sorted_ = true;
   mutable std::uint64_t generation_ = 0;
   /// Of all words together: no count is higher.

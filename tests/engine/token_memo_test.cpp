@@ -7,13 +7,13 @@ namespace quillomat {
 namespace {
 
 /// As a token stands in a text, with other bytes behind it.
-TokenMemo::Key InText(const std::string& token, char behind) {
+TokenMemo::Key InText(const TokenMemo& memo, const std::string& token, char behind) {
   const std::string text = token + std::string(TokenMemo::kMostBytes, behind);
-  return TokenMemo::KeyOf(text.data(), token.size(), text.size());
+  return memo.KeyOf(text.data(), token.size(), text.size());
 }
 
-TokenMemo::Key AtTheEnd(const std::string& token) {
-  return TokenMemo::KeyOf(token.data(), token.size(), token.size());
+TokenMemo::Key AtTheEnd(const TokenMemo& memo, const std::string& token) {
+  return memo.KeyOf(token.data(), token.size(), token.size());
 }
 
 TEST(TokenMemo, RemembersTokensOfEverySize) {
@@ -21,26 +21,27 @@ TEST(TokenMemo, RemembersTokensOfEverySize) {
   std::string token;
   for (std::uint32_t size = 1; size <= TokenMemo::kMostBytes; ++size) {
     token += static_cast<char>('a' + size);
-    EXPECT_EQ(memo.Find(InText(token, 'z')), kUnknownToken);
-    memo.Remember(InText(token, 'z'), size);
-    EXPECT_EQ(memo.Find(InText(token, 'q')), size);
-    EXPECT_EQ(memo.Find(AtTheEnd(token)), size);
+    EXPECT_EQ(memo.Find(InText(memo, token, 'z')), kUnknownToken);
+    memo.Remember(InText(memo, token, 'z'), size);
+    EXPECT_EQ(memo.Find(InText(memo, token, 'q')), size);
+    EXPECT_EQ(memo.Find(AtTheEnd(memo, token)), size);
   }
 }
 
 TEST(TokenMemo, NoKeyIsNeverFound) {
   TokenMemo memo;
   EXPECT_EQ(memo.Find(TokenMemo::NoKey()), kUnknownToken);
-  for (std::uint32_t i = 0; i < 2'000; ++i) memo.Remember(AtTheEnd("t" + std::to_string(i)), i);
+  for (std::uint32_t i = 0; i < 2'000; ++i)
+    memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i);
   EXPECT_EQ(memo.Find(TokenMemo::NoKey()), kUnknownToken);
 }
 
 TEST(TokenMemo, KeepsEveryKindOfOutcome) {
   TokenMemo memo;
-  memo.Remember(AtTheEnd("-"), kNoWord);
-  memo.Remember(AtTheEnd("the"), kWordNotStored);
-  EXPECT_EQ(memo.Find(AtTheEnd("-")), kNoWord);
-  EXPECT_EQ(memo.Find(AtTheEnd("the")), kWordNotStored);
+  memo.Remember(AtTheEnd(memo, "-"), kNoWord);
+  memo.Remember(AtTheEnd(memo, "the"), kWordNotStored);
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "-")), kNoWord);
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "the")), kWordNotStored);
   EXPECT_FALSE(IsPlace(kNoWord) || IsPlace(kWordNotStored) || IsPlace(kUnknownToken));
   EXPECT_TRUE(IsPlace(INT32_MAX));
 }
@@ -48,28 +49,28 @@ TEST(TokenMemo, KeepsEveryKindOfOutcome) {
 TEST(TokenMemo, GrowsAndKeepsWhatItHas) {
   TokenMemo memo;
   for (std::uint32_t i = 0; i < 20'000; ++i) {
-    memo.Remember(AtTheEnd("token" + std::to_string(i)), i);
+    memo.Remember(AtTheEnd(memo, "token" + std::to_string(i)), i);
   }
   for (std::uint32_t i = 0; i < 20'000; ++i) {
-    EXPECT_EQ(memo.Find(AtTheEnd("token" + std::to_string(i))), i);
+    EXPECT_EQ(memo.Find(AtTheEnd(memo, "token" + std::to_string(i))), i);
   }
 }
 
 TEST(TokenMemo, StartsAnewWhenItIsFull) {
   TokenMemo memo;
   for (std::uint32_t i = 0; i <= TokenMemo::kMostTokens; ++i) {
-    memo.Remember(AtTheEnd("t" + std::to_string(i)), i);
+    memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i);
   }
-  EXPECT_EQ(memo.Find(AtTheEnd("t0")), kUnknownToken);
-  EXPECT_EQ(memo.Find(AtTheEnd("t" + std::to_string(TokenMemo::kMostTokens))),
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "t0")), kUnknownToken);
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "t" + std::to_string(TokenMemo::kMostTokens))),
             TokenMemo::kMostTokens);
 }
 
 TEST(TokenMemo, ForgetsWhenItIsCleared) {
   TokenMemo memo;
-  memo.Remember(AtTheEnd("a"), 1);
+  memo.Remember(AtTheEnd(memo, "a"), 1);
   memo.Clear();
-  EXPECT_EQ(memo.Find(AtTheEnd("a")), kUnknownToken);
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "a")), kUnknownToken);
 }
 
 }  // namespace
