@@ -52,15 +52,32 @@ class MarkerSearch {
 
 void LineBlock::Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
                      bool caseSignificant) {
-  const bool decoded = DecodeHtmlEntitiesOfLines(lines, !caseSignificant, decoded_);
-  caseSignificant_ = caseSignificant;
-  text_ = decoded ? std::string_view(decoded_) : lines;
+  Rewrite(lines, caseSignificant);
   edges_.Classify(classes_, text_);
-  if (settings.UseCommentMarkers) CutComments(markers, settings);
+  if (settings.UseCommentMarkers) {
+    const auto cutOut = [this](std::size_t first, std::size_t end) { edges_.CutOut(first, end); };
+    FindComments(markers, settings, cutOut);
+  }
   edges_.Find(text_.size());
 }
 
-void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& settings) {
+void LineBlock::PassOver(std::string_view lines, const CommentMarkers& markers,
+                         ScanSettings& settings, bool caseSignificant) {
+  if (!settings.UseCommentMarkers) return;
+  Rewrite(lines, caseSignificant);
+  FindComments(markers, settings, [](std::size_t /*first*/, std::size_t /*end*/) {});
+}
+
+void LineBlock::Rewrite(std::string_view lines, bool caseSignificant) {
+  const bool decoded = DecodeHtmlEntitiesOfLines(lines, !caseSignificant, decoded_);
+  caseSignificant_ = caseSignificant;
+  text_ = decoded ? std::string_view(decoded_) : lines;
+}
+
+/// Tells where every comment starts, and where it ends.
+template <typename OnComment>
+void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settings,
+                             OnComment onComment) {
   int& open = settings.OpenComment;
   MarkerSearch search(settings, text_);
   std::size_t position = 0;
@@ -69,7 +86,7 @@ void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& setting
     const std::size_t start = std::min(text_.find_first_not_of(" \r\n"), text_.size());
     if (start == text_.size()) return;
     position = EndOfComment(markers, start, open);
-    edges_.CutOut(0, position);
+    onComment(std::size_t{0}, position);
   }
   for (;;) {
     position = search.Next(position);
@@ -84,7 +101,7 @@ void LineBlock::CutComments(const CommentMarkers& markers, ScanSettings& setting
     }
     const std::size_t start = position;
     position = EndOfComment(markers, start, open);
-    edges_.CutOut(start, position);
+    onComment(start, position);
   }
 }
 

@@ -25,6 +25,10 @@ class LineBlock {
   void Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
             bool caseSignificant);
 
+  /// Carries the open comment on as Take does, and finds no tokens.
+  void PassOver(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
+                bool caseSignificant);
+
   [[nodiscard]] std::size_t TokenCount() const { return edges_.TokenCount(); }
   struct Token {
     const char* text;
@@ -39,7 +43,9 @@ class LineBlock {
   }
 
  private:
-  void CutComments(const CommentMarkers& markers, ScanSettings& settings);
+  void Rewrite(std::string_view lines, bool caseSignificant);
+  template <typename OnComment>
+  void FindComments(const CommentMarkers& markers, ScanSettings& settings, OnComment onComment);
   [[nodiscard]] bool IsEntityAt(std::size_t position) const;
   [[nodiscard]] std::size_t EndOfComment(const CommentMarkers& markers, std::size_t start,
                                          int& open) const;

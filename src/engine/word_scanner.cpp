@@ -29,6 +29,20 @@ WordScanner::WordScanner(ScanSettings& settings, const ScanChoices& choices, con
       block_(tokenClasses_) {}
 
 void WordScanner::GetWords(std::string_view lineBuffer) {
+  ScanText(lineBuffer, [this](std::string_view token) { taker_.TakeCut(token); });
+}
+
+void WordScanner::PassOver(std::string_view lineBuffer) {
+  ScanText(lineBuffer, [](std::string_view /*token*/) {});
+}
+
+void WordScanner::PassOverLines(std::string_view lines) {
+  block_.PassOver(lines, markers_, settings_, IsSet(choices_.caseSignificant));
+}
+
+/// `take` is given every token that may hold a word.
+template <typename Take>
+void WordScanner::ScanText(std::string_view lineBuffer, Take take) {
   text_ = settings_.ReadingWordList ? lineBuffer : Rewritten(lineBuffer);
   PrepareMarkers();
   position_ = 0;
@@ -43,7 +57,7 @@ void WordScanner::GetWords(std::string_view lineBuffer) {
       continue;
     }
     const std::size_t bytes = WordRunBytes(charClass_, text_, position_);
-    taker_.TakeCut(text_.substr(position_, bytes));
+    take(text_.substr(position_, bytes));
     position_ += bytes;
     if (yield_.Yield()) return;
   }

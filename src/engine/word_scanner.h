@@ -61,6 +61,16 @@ class WordScanner {
   /// GetWords for each of them, many times faster.
   void GetWordsOfLines(std::string_view lines);
 
+  // Of a text that somebody else counts: carry on the open comment alone.
+
+  void PassOver(std::string_view lineBuffer);
+  void PassOverLines(std::string_view lines);
+  /// Whether markers are in force, without which no comment begins or ends.
+  [[nodiscard]] bool LooksForComments() {
+    PrepareMarkers();
+    return settings_.UseCommentMarkers;
+  }
+
   /// Candidate words read so far, whether they were counted or not.
   [[nodiscard]] std::int32_t WordsRead() const { return taker_.WordsRead(); }
   void SetWordsRead(std::int32_t wordsRead) { taker_.SetWordsRead(wordsRead); }
@@ -69,6 +79,8 @@ class WordScanner {
   /// What stays to be done after comments were skipped.
   enum class AfterComments { kScan, kStop };
 
+  template <typename Take>
+  void ScanText(std::string_view lineBuffer, Take take);
   std::string_view Rewritten(std::string_view text);
   void PrepareMarkers();
   /// Whether a comment goes on, or may start, at the position.

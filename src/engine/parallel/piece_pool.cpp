@@ -100,33 +100,12 @@ TextPiece PiecePool::DropFirst() {
   return text;
 }
 
-/// Afterwards no thread is at work, and none begins before the lock is released and stop_ cleared.
-void PiecePool::StopWork(std::unique_lock<std::mutex>& lock) {
+/// Afterwards no thread is at work, and none begins before the lock is released.
+void PiecePool::Clear() {
+  std::unique_lock lock(mutex_);
   stop_ = true;
   jobDone_.wait(lock, [this] { return atWork_ == 0; });
   for (const auto& scanner : scanners_) scanner->ForgetWords();
-}
-
-int PiecePool::ScanAnew(int openComment) {
-  {
-    std::unique_lock lock(mutex_);
-    StopWork(lock);
-    for (const auto& job : pieces_) {
-      Piece& piece = job->piece;
-      piece.settings.OpenComment = openComment;
-      openComment = LikelyOpenComment(piece.text.Text(), piece.settings, openComment);
-      job->progress = Progress::kWaiting;
-      job->error = nullptr;
-    }
-    stop_ = false;
-  }
-  workChanged_.notify_all();
-  return openComment;
-}
-
-void PiecePool::Clear() {
-  std::unique_lock lock(mutex_);
-  StopWork(lock);
   pieces_.clear();
   stop_ = false;
 }

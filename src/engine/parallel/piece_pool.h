@@ -1,7 +1,7 @@
 // Threads that scan pieces of a text at the same time. The pieces come back in their order.
 //
-// All calls come from one thread, the owner's. WaitForFirst waits as long as it is told to; Clear,
-// ScanAnew and the destructor wait until the threads have seen that they are to stop, which they
+// All calls come from one thread, the owner's. WaitForFirst waits as long as it is told to; Clear
+// and the destructor wait until the threads have seen that they are to stop, which they
 // look for between blocks of lines.
 #pragma once
 
@@ -28,7 +28,7 @@ class PiecePool {
  public:
   struct Piece {
     TextPiece text;
-    /// Its markers, and the comment that is taken to be open in front of it.
+    /// Its markers, and the comment that is open in front of it.
     ScanSettings settings;
     PieceCount count;
     /// Which of the pool's scanners has scanned it, 0 to Threads() - 1.
@@ -60,9 +60,6 @@ class PiecePool {
   /// Drops the first piece, and returns its text so that its memory can be used again.
   TextPiece DropFirst();
 
-  /// Throws away what was found in the pieces, and has them scanned anew: the comment that is open
-  /// in front of the first was another. Returns the one that is likely to be open behind the last.
-  int ScanAnew(int openComment);
   /// Throws the pieces away.
   void Clear();
 
@@ -77,7 +74,6 @@ class PiecePool {
   void Work(std::size_t scanner);
   void Do(Job& job, std::size_t scanner, std::unique_lock<std::mutex>& lock);
   [[nodiscard]] Job* NextJob();
-  void StopWork(std::unique_lock<std::mutex>& lock);
 
   mutable std::mutex mutex_;
   std::condition_variable workChanged_;

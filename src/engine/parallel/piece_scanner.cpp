@@ -1,11 +1,9 @@
 #include "engine/parallel/piece_scanner.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "base/line_decoder.h"
 #include "base/text_helpers.h"
-#include "engine/comment_markers.h"
 #include "engine/parallel/line_pieces.h"
 
 namespace quillomat {
@@ -83,26 +81,6 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
     places_.push_back(place);
     letters.remove_prefix(bytes);
   }
-}
-
-int LikelyOpenComment(std::string_view text, const ScanSettings& settings, int before) {
-  constexpr std::size_t kLookedAt = 8192;
-  const std::string_view end = text.substr(text.size() - std::min(text.size(), kLookedAt));
-  int open = before;
-  std::size_t nearest = 0;
-  for (int pair = 0; pair < 2; ++pair) {
-    const std::string& startMarker = settings.CommentStart[static_cast<std::size_t>(pair)];
-    const std::string& endMarker = settings.CommentEnd[static_cast<std::size_t>(pair)];
-    // Entities, and comments that end with their line, are never open at its end.
-    const bool isEntity = settings.ForceCommentMarkers && startMarker == "&";
-    if (startMarker.empty() || endMarker.empty() || isEntity) continue;
-    const std::size_t start = end.rfind(startMarker) + 1;
-    const std::size_t close = end.rfind(endMarker) + 1;
-    if (std::max(start, close) <= nearest) continue;
-    nearest = std::max(start, close);
-    open = start > close ? pair : kNoComment;
-  }
-  return open;
 }
 
 }  // namespace quillomat

@@ -82,9 +82,4 @@ class PieceJoiner {
   std::vector<std::uint32_t> places_;
 };
 
-/// The comment that is likely to be open behind `text`, where `before` was open in front of it; a
-/// guess that looks at the last lines only.
-[[nodiscard]] int LikelyOpenComment(std::string_view text, const ScanSettings& settings,
-                                    int before);
-
 }  // namespace quillomat

@@ -8,7 +8,7 @@ namespace quillomat {
 
 void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   LinePieces pieces(source, pieceBytes_);
-  likelyOpen_ = target_.settings.OpenComment;
+  nextOpen_ = target_.settings.OpenComment;
   sourceEnded_ = false;
   readError_ = nullptr;
   try {
@@ -16,12 +16,7 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
       while (!pool_.WaitForFirst(kLongestWait)) {
         if (callbacks.yield()) return pool_.Clear();
       }
-      const PiecePool::Piece& first = pool_.First();
-      if (first.settings.OpenComment != target_.settings.OpenComment) {
-        likelyOpen_ = pool_.ScanAnew(target_.settings.OpenComment);
-        continue;
-      }
-      callbacks.onBytes(first.count.bytesWithLongLineEnds);
+      callbacks.onBytes(pool_.First().count.bytesWithLongLineEnds);
       JoinFirst();
       if (callbacks.yield()) return pool_.Clear();
     }
@@ -49,8 +44,8 @@ void ThreadedScan::ReadAhead(LinePieces& pieces) {
     }
     if (sourceEnded_) return;
     ScanSettings settings = target_.settings;
-    settings.OpenComment = likelyOpen_;
-    likelyOpen_ = LikelyOpenComment(text.Text(), settings, likelyOpen_);
+    settings.OpenComment = nextOpen_;
+    nextOpen_ = openComments_.Behind(text.Text(), settings);
     pool_.Submit(std::move(text), settings);
   }
 }

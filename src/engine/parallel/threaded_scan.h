@@ -14,6 +14,7 @@
 
 #include "base/byte_source.h"
 #include "engine/parallel/line_pieces.h"
+#include "engine/parallel/open_comment_finder.h"
 #include "engine/parallel/piece_pool.h"
 #include "engine/parallel/piece_scanner.h"
 #include "engine/scan_settings.h"
@@ -39,7 +40,8 @@ class ThreadedScan {
       : target_(target),
         pieceBytes_(pieceBytes),
         pool_(target.settings, choices, lists, threads),
-        joiners_(std::max<std::size_t>(threads, 1)) {}
+        joiners_(std::max<std::size_t>(threads, 1)),
+        openComments_(target.settings, choices, lists) {}
 
   struct Callbacks {
     /// Is called about every kLongestWait or more often, and says whether the scan is to stop.
@@ -63,8 +65,9 @@ class ThreadedScan {
   std::vector<PieceJoiner> joiners_;
   /// Memory for pieces.
   std::vector<TextPiece> spareTexts_;
-  /// Taken to be open in front of the next piece that is read.
-  int likelyOpen_ = -1;
+  OpenCommentFinder openComments_;
+  /// Open in front of the next piece that is read.
+  int nextOpen_ = -1;
   bool sourceEnded_ = false;
   std::exception_ptr readError_;
 };
