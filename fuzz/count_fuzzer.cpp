@@ -114,6 +114,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string expected = OutcomeOfReference(countCase);
   Require(OutcomeOfProgram(countCase, Reading::kByLines) == expected);
   Require(OutcomeOfProgram(countCase, Reading::kInBlocks) == expected);
+  Require(OutcomeOfProgram(countCase, Reading::kInParts) == expected);
   Require(OutcomeOfProgram(countCase, Reading::kOnThreads) == expected);
   return 0;
 }

@@ -216,6 +216,24 @@ std::optional<std::string_view> LineDecoder::NextRawLine() {
   }
 }
 
+bool LineDecoder::IsAtLongLine() const {
+  return end_ - begin_ >= kMostBytesOfLines &&
+         FindLineEnd(AtHand(begin_, kMostBytesOfLines)) == kMostBytesOfLines;
+}
+
+std::string_view LineDecoder::NextPartOfLine() {
+  if (begin_ == end_ && !ReadBlock()) return {};
+  const std::string_view atHand = AtHand(begin_, end_ - begin_);
+  const std::size_t bytes = FindLineEnd(atHand);
+  if (bytes == 0) {
+    skipLineFeed_ = atHand[0] == '\r';
+    ++begin_;
+  } else {
+    begin_ += bytes;
+  }
+  return atHand.substr(0, bytes);
+}
+
 /// Reads more bytes behind those not yet given out; false at the end.
 bool LineDecoder::ReadBlock() {
   if (!source_) return false;

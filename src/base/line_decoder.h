@@ -3,7 +3,8 @@
 // is some text. A UTF-8 byte-order mark at the start is dropped; bytes that start with a UTF-16
 // byte-order mark are UTF-16 from end to end.
 //
-// Bytes are read in blocks. Memory is bounded by the longest line plus two blocks.
+// Bytes are read in blocks. Memory is bounded by the longest line plus two blocks; by two blocks
+// where long lines are taken part by part.
 #pragma once
 
 #include <cstddef>
@@ -74,6 +75,13 @@ class LineDecoder {
   void SkipLines(std::size_t bytes) { begin_ += bytes; }
 
   static constexpr std::size_t kMostBytesOfLines = 8192;
+
+  /// Whether the line that NextLine would give has more than so many bytes, and can be had part by
+  /// part instead. To be asked when NextLines() is empty.
+  [[nodiscard]] bool IsAtLongLine() const;
+  /// The next bytes of that line, as they stand in the source; empty behind its end, which is
+  /// passed over. The view is good until the next call.
+  [[nodiscard]] std::string_view NextPartOfLine();
 
  private:
   /// `bytes` of the source from `start` on, which were read and are still at hand.

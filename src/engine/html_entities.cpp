@@ -59,6 +59,8 @@ struct Decoding {
   /// Entities do not go beyond the end of a line.
   bool lineByLine = false;
   bool anyCase = false;
+  /// Whether an ampersand hides what follows: in front, and then behind.
+  bool hidden = false;
 };
 
 /// Where what an ampersand hides ends: a semicolon or, if `inLines`, the end of the line.
@@ -71,13 +73,20 @@ std::size_t HiddenEnd(std::string_view source, std::size_t ampersand, bool inLin
 
 /// Appends `source` with its letters decoded to `decoded`, which is empty; does nothing and returns
 /// false when there is none.
-bool Decode(std::string_view source, const Decoding& how, std::string& decoded) {
+bool Decode(std::string_view source, Decoding& how, std::string& decoded) {
   std::size_t copied = 0;
-  for (std::size_t position = 0;;) {
+  std::size_t position = 0;
+  if (how.hidden) {
+    position = source.find(';');
+    if (position == std::string_view::npos) return false;
+    how.hidden = false;
+  }
+  for (;;) {
     const std::size_t ampersand = source.find('&', position);
     if (ampersand == std::string_view::npos) break;
     const std::size_t end = HiddenEnd(source, ampersand, how.lineByLine);
-    if (end == source.size()) break;
+    how.hidden = end == source.size();
+    if (how.hidden) break;
     position = end + 1;
     if (source[end] != ';') continue;
     const std::string_view entity = source.substr(ampersand, position - ampersand);
@@ -95,12 +104,23 @@ bool Decode(std::string_view source, const Decoding& how, std::string& decoded) 
 
 void DecodeHtmlEntities(std::string& text) {
   std::string decoded;
-  if (Decode(text, {}, decoded)) text = std::move(decoded);
+  Decoding how;
+  if (Decode(text, how, decoded)) text = std::move(decoded);
 }
 
 bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase, std::string& decoded) {
   decoded.clear();
-  return Decode(lines, {true, anyCase}, decoded);
+  Decoding how{true, anyCase};
+  return Decode(lines, how, decoded);
+}
+
+bool DecodeHtmlEntitiesOfPart(std::string_view part, bool anyCase, bool& hidden,
+                              std::string& decoded) {
+  decoded.clear();
+  Decoding how{false, anyCase, hidden};
+  const bool any = Decode(part, how, decoded);
+  hidden = how.hidden;
+  return any;
 }
 
 std::size_t HtmlEntityEnd(std::string_view text) {

@@ -18,6 +18,11 @@ void DecodeHtmlEntities(std::string& text);
 [[nodiscard]] bool DecodeHtmlEntitiesOfLines(std::string_view lines, bool anyCase,
                                              std::string& decoded);
 
+/// The same for a part of one line, cut where no entity that is decoded lies across. `hidden` says,
+/// before and behind the part, whether an ampersand hides what follows up to the next ";".
+[[nodiscard]] bool DecodeHtmlEntitiesOfPart(std::string_view part, bool anyCase, bool& hidden,
+                                            std::string& decoded);
+
 /// The most characters that HtmlEntityEnd takes for an entity.
 inline constexpr std::size_t kLongestHtmlEntity = 20;
 

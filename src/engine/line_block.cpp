@@ -53,6 +53,21 @@ class MarkerSearch {
 void LineBlock::Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
                      bool caseSignificant) {
   Rewrite(lines, caseSignificant);
+  FindTokens(markers, settings);
+}
+
+void LineBlock::TakePart(std::string_view part, const CommentMarkers& markers,
+                         ScanSettings& settings, bool caseSignificant, LinePartState& state) {
+  caseSignificant_ = caseSignificant;
+  const bool decoded = DecodeHtmlEntitiesOfPart(part, !caseSignificant, state.hidden, decoded_);
+  text_ = decoded ? std::string_view(decoded_) : part;
+  if (state.inLineComment) text_ = {};
+  endsInLineComment_ = state.inLineComment;
+  FindTokens(markers, settings);
+  state.inLineComment = endsInLineComment_;
+}
+
+void LineBlock::FindTokens(const CommentMarkers& markers, ScanSettings& settings) {
   edges_.Classify(classes_, text_);
   if (settings.UseCommentMarkers) {
     const auto cutOut = [this](std::size_t first, std::size_t end) { edges_.CutOut(first, end); };
@@ -119,11 +134,11 @@ bool LineBlock::IsEntityAt(std::size_t position) const {
 
 /// Where a comment that is open at `start` ends. A comment that does not end in the text stays
 /// open.
-std::size_t LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start,
-                                    int& open) const {
+std::size_t LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start, int& open) {
   const std::string& marker = markers.EndMarker(open);
   const std::size_t end = marker.empty() ? LineEnd(text_, start) : text_.find(marker, start);
   if (end == std::string_view::npos) return text_.size();
+  endsInLineComment_ = marker.empty() && end == text_.size();
   open = kNoComment;
   return end + marker.size();
 }

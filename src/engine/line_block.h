@@ -15,6 +15,14 @@
 
 namespace quillomat {
 
+/// What is open where a line is cut, besides a comment that has an end marker.
+struct LinePartState {
+  /// An ampersand, which hides entities up to the next ";".
+  bool hidden = false;
+  /// A comment up to the end of the line: nothing of the rest counts.
+  bool inLineComment = false;
+};
+
 class LineBlock {
  public:
   explicit LineBlock(const TokenClasses& classes) : classes_(classes) {}
@@ -24,6 +32,10 @@ class LineBlock {
   /// found in raw lines. `lines` must outlive the use of the tokens.
   void Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
             bool caseSignificant);
+
+  /// Takes a part of one line, cut as LineCutter does, in the same way.
+  void TakePart(std::string_view part, const CommentMarkers& markers, ScanSettings& settings,
+                bool caseSignificant, LinePartState& state);
 
   /// Carries the open comment on as Take does, and finds no tokens.
   void PassOver(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
@@ -44,16 +56,19 @@ class LineBlock {
 
  private:
   void Rewrite(std::string_view lines, bool caseSignificant);
+  void FindTokens(const CommentMarkers& markers, ScanSettings& settings);
   template <typename OnComment>
   void FindComments(const CommentMarkers& markers, ScanSettings& settings, OnComment onComment);
   [[nodiscard]] bool IsEntityAt(std::size_t position) const;
   [[nodiscard]] std::size_t EndOfComment(const CommentMarkers& markers, std::size_t start,
-                                         int& open) const;
+                                         int& open);
 
   const TokenClasses& classes_;
   std::string_view text_;
   bool caseSignificant_ = false;
   std::string decoded_;
+  /// Whether a comment ends at the end of the text, and with its line.
+  bool endsInLineComment_ = false;
   TokenEdges edges_;
 };
 

@@ -133,6 +133,23 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
 
 void WordScanner::GetWordsOfLines(std::string_view lines) {
   block_.Take(lines, markers_, settings_, IsSet(choices_.caseSignificant));
+  TakeTokens();
+}
+
+bool WordScanner::CanTakeParts() {
+  if (settings_.ReadingWordList) return false;
+  PrepareMarkers();
+  return !settings_.UseCommentMarkers || markers_.CanBeFoundInRawLines(tokenClasses_);
+}
+
+void WordScanner::GetWordsOfPart(std::string_view part, LinePartState& state) {
+  PrepareMarkers();
+  block_.TakePart(part, markers_, settings_, IsSet(choices_.caseSignificant), state);
+  TakeTokens();
+}
+
+/// Those of the block.
+void WordScanner::TakeTokens() {
   for (std::size_t first = 0; first < block_.TokenCount();) {
     const std::size_t left = block_.TokenCount() - first;
     const std::size_t count =

@@ -61,6 +61,13 @@ class WordScanner {
   /// GetWords for each of them, many times faster.
   void GetWordsOfLines(std::string_view lines);
 
+  /// Whether lines can be scanned in parts: the markers are such that GetWordsOfLines finds them.
+  [[nodiscard]] bool CanTakeParts();
+  /// Scans a part of one line, well-formed UTF-8 that was cut as LineCutter does. `state` is that
+  /// behind the part before, and then behind this one.
+  void GetWordsOfPart(std::string_view part, LinePartState& state);
+  [[nodiscard]] const TokenClasses& Classes() const { return tokenClasses_; }
+
   // Of a text that somebody else counts: carry on the open comment alone.
 
   void PassOver(std::string_view lineBuffer);
@@ -83,6 +90,7 @@ class WordScanner {
   void ScanText(std::string_view lineBuffer, Take take);
   std::string_view Rewritten(std::string_view text);
   void PrepareMarkers();
+  void TakeTokens();
   /// Whether a comment goes on, or may start, at the position.
   [[nodiscard]] bool MayMeetComment() const {
     return settings_.UseCommentMarkers &&

@@ -213,12 +213,17 @@ void FileSource::ReadLines(ScanJob& job, InputFile& file, LineEndingType type) {
       if (showProgress) showBytes(bytes);
     });
   }
+  const auto showPart = [&](std::int64_t bytes) {
+    if (showProgress) showBytes(bytes);
+  };
   LineDecoder lines(file);
   for (;;) {
     if (const std::string_view whole = job.PlainLines(lines.NextLines()); !whole.empty()) {
       if (showProgress) showBytes(BytesWithLongLineEnds(whole));
       job.ScanLines(whole);
       lines.SkipLines(whole.size());
+    } else if (job.ScanLongLine(lines, showPart)) {
+      if (showProgress) showBytes(kLineEndBytes);
     } else if (const auto line = lines.NextLine()) {
       if (showProgress) showBytes(static_cast<std::int64_t>(line->size()) + kLineEndBytes);
       const std::string_view trimmed = TrimBlanks(*line);

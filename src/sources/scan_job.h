@@ -10,6 +10,8 @@
 #include <utility>
 
 #include "base/byte_source.h"
+#include "base/line_decoder.h"
+#include "engine/long_line.h"
 #include "engine/parallel/threaded_scan.h"
 #include "engine/word_scanner.h"
 #include "sources/panel_choices.h"
@@ -48,6 +50,23 @@ class ScanJob {
     scanner_.SetWordsRead(state_.WordsRead);
     scanner_.GetWordsOfLines(lines);
     state_.WordsRead = scanner_.WordsRead();
+  }
+
+  /// Scans the line that `lines` is at part by part, if it is long and its markers let it be;
+  /// returns false otherwise. `onBytes` is told of the bytes of every part.
+  bool ScanLongLine(LineDecoder& lines, const std::function<void(std::int64_t)>& onBytes) {
+    if (!lines.IsAtLongLine() || !scanner_.CanTakeParts()) return false;
+    scanner_.SetWordsRead(state_.WordsRead);
+    LongLine line({state_.settings, choices_, lists_, state_.store, yield_, scanner_});
+    for (std::string_view part = lines.NextPartOfLine(); !part.empty();
+         part = lines.NextPartOfLine()) {
+      onBytes(static_cast<std::int64_t>(part.size()));
+      line.Take(part);
+      if (yield_.Yield()) break;
+    }
+    line.End();
+    state_.WordsRead = scanner_.WordsRead();
+    return true;
   }
 
   /// Scans a whole text on several threads; stops early when the user wants that. `onBytes` is told

@@ -9,7 +9,7 @@
 namespace quillomat::properties {
 
 /// How the engine is given its text.
-enum class Reading { kByLines, kInBlocks, kOnThreads };
+enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };
 
 /// By the program's own engine and listing.
 [[nodiscard]] std::string OutcomeOfProgram(const CountCase& countCase, Reading reading);

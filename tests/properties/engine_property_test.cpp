@@ -29,6 +29,7 @@ bool Differs(const CountCase& countCase, bool onThreads) {
   const std::string expected = OutcomeOfReference(countCase);
   return OutcomeOfProgram(countCase, Reading::kByLines) != expected ||
          OutcomeOfProgram(countCase, Reading::kInBlocks) != expected ||
+         OutcomeOfProgram(countCase, Reading::kInParts) != expected ||
          (onThreads && OutcomeOfProgram(countCase, Reading::kOnThreads) != expected);
 }
 
@@ -55,7 +56,8 @@ void CompareRandomCases(std::uint64_t seed) {
     FAIL() << "seed " << seed << ", case " << i << ":\n"
            << AsCode(smallest) << "\nthe program's outcome by lines:\n"
            << OutcomeOfProgram(smallest, Reading::kByLines) << "\nin blocks:\n"
-           << OutcomeOfProgram(smallest, Reading::kInBlocks) << "\non threads:\n"
+           << OutcomeOfProgram(smallest, Reading::kInBlocks) << "\nin parts of lines:\n"
+           << OutcomeOfProgram(smallest, Reading::kInParts) << "\non threads:\n"
            << OutcomeOfProgram(smallest, Reading::kOnThreads) << "\nthe literal engine's:\n"
            << OutcomeOfReference(smallest);
   }

@@ -5,6 +5,7 @@
 
 #include "base/byte_source.h"
 #include "base/text_helpers.h"
+#include "engine/long_line.h"
 #include "engine/parallel/threaded_scan.h"
 #include "engine/word_filters.h"
 #include "engine/word_scanner.h"
@@ -195,6 +196,9 @@ class ProgramCase {
     if (reading_ == Reading::kInBlocks && !text.whole && CanStandInAFile(text.lines)) {
       return ScanBlocks(scanner, text.lines);
     }
+    if (reading_ == Reading::kInParts && !text.whole && CanStandInAFile(text.lines)) {
+      return ScanParts(scanner, text.lines);
+    }
     std::string all;
     for (const std::string& line : text.lines) {
       all += line + "\r\n";
@@ -225,6 +229,21 @@ class ProgramCase {
       line = TrimBlanks(line);
       if (!line.empty()) scanner.GetWords(PrepareLine(line, caseSignificant, buffer_));
       rest.remove_prefix(end + 1);
+    }
+  }
+
+  /// As long lines are scanned, with parts of a few bytes.
+  void ScanParts(WordScanner& scanner, const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) {
+      const std::string_view trimmed = TrimBlanks(line);
+      if (scanner.CanTakeParts()) {
+        LongLine longLine({settings_, choices_, lists_, store_, yield_, scanner},
+                          1 + line.size() % 17);
+        longLine.Take(line);
+        longLine.End();
+      } else if (!trimmed.empty()) {
+        scanner.GetWords(PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_));
+      }
     }
   }
 

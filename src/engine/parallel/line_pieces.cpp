@@ -31,15 +31,23 @@ std::int64_t BytesWithLongLineEnds(std::string_view lines) {
   return static_cast<std::int64_t>(lines.size() + lineEnds);
 }
 
-bool LinePieces::Next(TextPiece& piece) {
+bool LinePieces::Next(TextPiece& piece, bool cutLongLines) {
   if (piece.memory.size() < rest_.size()) piece.memory.resize(rest_.size());
   std::ranges::copy(rest_, piece.memory.begin());
   piece.bytes = rest_.size();
   rest_.clear();
+  if (inLongLine_) {
+    if (piece.bytes < pieceBytes_) (void)ReadMore(piece);
+    EndLongLine(piece);
+    return piece.bytes > 0;
+  }
   std::size_t searched = 0;
   while (!ended_ && ReadMore(piece)) {
     const std::size_t behind = BehindLastLineEnd(piece.Text().substr(searched));
     if (behind == 0) {  // a long line
+      // A carriage return at the very end may end the line.
+      inLongLine_ = cutLongLines && piece.bytes > 2 * pieceBytes_ && !piece.Text().ends_with('\r');
+      if (inLongLine_) return true;
       searched = piece.bytes - 1;
       continue;
     }
@@ -53,6 +61,16 @@ bool LinePieces::Next(TextPiece& piece) {
     if (piece.bytes == 0) std::rethrow_exception(error_);
   }
   return piece.bytes > 0;
+}
+
+/// Cuts the piece off behind the end of its line, if that is there.
+void LinePieces::EndLongLine(TextPiece& piece) {
+  const std::string_view text = piece.Text();
+  const std::size_t lineBytes = text.find_first_of("\r\n");
+  inLongLine_ = lineBytes == std::string_view::npos && !ended_;
+  if (lineBytes == std::string_view::npos) return;
+  rest_ = text.substr(lineBytes + 1);
+  piece.bytes = lineBytes + 1;
 }
 
 /// Fills the piece up, and lets one that is full grow by half of its size, so that a long line

@@ -37,9 +37,15 @@ class LinePieces {
   /// Puts the next piece into `piece`; false when there is none. A piece has about as many bytes as
   /// were asked for, more only when one line has more. It ends behind a line end, the last one with
   /// the text. Passes on what the source throws, when the lines before have been given.
-  [[nodiscard]] bool Next(TextPiece& piece);
+  ///
+  /// With `cutLongLines`, a line with more than twice as many bytes comes in pieces of its own,
+  /// from one that begins with it to one that ends with it: see IsInLongLine.
+  [[nodiscard]] bool Next(TextPiece& piece, bool cutLongLines = false);
+  /// Whether the line with which the last piece ended goes on in the next.
+  [[nodiscard]] bool IsInLongLine() const { return inLongLine_; }
 
  private:
+  void EndLongLine(TextPiece& piece);
   [[nodiscard]] bool ReadMore(TextPiece& piece);
   [[nodiscard]] std::size_t Read(std::span<char> buffer);
 
@@ -48,6 +54,7 @@ class LinePieces {
   /// What was read behind the end of the last piece.
   std::string rest_;
   bool ended_ = false;
+  bool inLongLine_ = false;
   std::exception_ptr error_;
 };
 

@@ -1,7 +1,8 @@
 // Scans a large text on several cores: reads it piece by piece, has the pieces scanned, and joins
 // what was found in their order. Words, first spellings, the order in which new words are told of,
 // open comments, file tallies and overflows are those of a scan from end to end; a stop comes at
-// the end of a piece.
+// the end of a piece. A line that is longer than two pieces is scanned by the caller's thread, part
+// by part (LongLine), so memory does not grow with it.
 #pragma once
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <cstdint>
 #include <exception>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "base/byte_source.h"
@@ -19,6 +21,7 @@
 #include "engine/parallel/piece_scanner.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
+#include "engine/word_scanner.h"
 #include "engine/word_store.h"
 
 namespace quillomat {
@@ -41,7 +44,10 @@ class ThreadedScan {
         pieceBytes_(pieceBytes),
         pool_(target.settings, choices, lists, threads),
         joiners_(std::max<std::size_t>(threads, 1)),
-        openComments_(target.settings, choices, lists) {}
+        openComments_(target.settings, choices, lists),
+        choices_(choices),
+        lists_(lists),
+        scanner_(target_.settings, choices, lists, target_.store, yield_) {}
 
   struct Callbacks {
     /// Is called about every kLongestWait or more often, and says whether the scan is to stop.
@@ -57,6 +63,31 @@ class ThreadedScan {
  private:
   void ReadAhead(LinePieces& pieces);
   void JoinFirst();
+  [[nodiscard]] bool ScanLongLine(LinePieces& pieces, const Callbacks& callbacks);
+
+  /// Asks the callback from time to time.
+  class CallbackYield final : public ScanYield {
+   public:
+    bool Yield() override { return YieldFor(1); }
+    [[nodiscard]] std::uint32_t CallsLeft() const override { return kWordsPerCall; }
+    bool YieldFor(std::uint32_t calls) override {
+      words += calls;
+      if (words >= kWordsPerCall) Ask();
+      return stopped;
+    }
+    void Ask() {
+      words = 0;
+      stopped = stopped || (*yield)();
+    }
+
+    const std::function<bool()>* yield = nullptr;
+    std::uint32_t words = 0;
+    bool stopped = false;
+
+   private:
+    /// So many take some microseconds.
+    static constexpr std::uint32_t kWordsPerCall = 1024;
+  };
 
   Target target_;
   std::size_t pieceBytes_;
@@ -68,6 +99,13 @@ class ThreadedScan {
   OpenCommentFinder openComments_;
   /// Open in front of the next piece that is read.
   int nextOpen_ = -1;
+  const ScanChoices& choices_;
+  const WordLists& lists_;
+  CallbackYield yield_;
+  /// For what is scanned here.
+  WordScanner scanner_;
+  /// The start of a long line, which is next.
+  std::optional<TextPiece> longLine_;
   bool sourceEnded_ = false;
   std::exception_ptr readError_;
 };

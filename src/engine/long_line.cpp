@@ -1,0 +1,115 @@
+#include "engine/long_line.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+#include "base/checked_count.h"
+#include "base/line_decoder.h"
+#include "base/utf8.h"
+
+namespace quillomat {
+
+/// One way of reading the line, apart from the store of the count.
+class LongLine::Alternative {
+ public:
+  Alternative(const Scan& scan, const LinePartState& state)
+      : settings_(scan.settings),
+        state_(state),
+        scanner_(settings_, scan.choices, scan.lists, store_, scan.yield) {}
+
+  void Take(std::string_view part) { scanner_.GetWordsOfPart(part, state_); }
+
+  [[nodiscard]] const LinePartState& State() const { return state_; }
+
+  /// Counts in `scan` what was found.
+  void Join(const Scan& scan) {
+    std::int32_t read = scan.scanner.WordsRead();
+    AddChecked(read, scanner_.WordsRead());
+    scan.scanner.SetWordsRead(read);
+    scan.settings.OpenComment = settings_.OpenComment;
+    const std::vector<std::int32_t> counts = store_.TakeCounts();
+    for (std::size_t place = 0; place < counts.size(); ++place) {
+      const std::string_view word = store_.WordAtPlace(static_cast<std::uint32_t>(place));
+      const std::uint32_t joined = scan.store.AddWord(word).value();
+      if (counts[place] > 1) scan.store.CountWordAt(joined, counts[place] - 1);
+    }
+  }
+
+ private:
+  ScanSettings settings_;
+  LinePartState state_;
+  WordStore store_;
+  WordScanner scanner_;
+};
+
+LongLine::LongLine(const Scan& scan, std::size_t partBytes)
+    : scan_(scan), partBytes_(partBytes), cutter_(scan.scanner.Classes(), scan.settings) {}
+
+LongLine::~LongLine() = default;
+
+void LongLine::Take(std::string_view bytes) {
+  if (held_.empty()) {
+    held_ = bytes.substr(ScanParts(bytes));
+  } else {
+    held_.append(bytes);
+    held_.erase(0, ScanParts(held_));
+  }
+}
+
+void LongLine::End() {
+  ScanPart(held_);
+  held_.clear();
+  if (encoding_ == Encoding::kOpen) Settle(*asUtf8_);
+}
+
+/// Scans what can be cut off the front of `bytes`, and returns how many bytes that are.
+std::size_t LongLine::ScanParts(std::string_view bytes) {
+  std::size_t scanned = 0;
+  std::size_t window = std::max(partBytes_, searched_ + 1);
+  while (scanned + window <= bytes.size()) {
+    const std::string_view atHand = bytes.substr(scanned, window);
+    if (const std::size_t cut = cutter_.LastCut(atHand, searched_); cut > 0) {
+      ScanPart(atHand.substr(0, cut));
+      scanned += cut;
+      searched_ = 0;
+      window = partBytes_;
+    } else {
+      searched_ = window - 1;  // the last byte may be cut off once it is seen what follows
+      window += std::max(partBytes_, window / 2);
+    }
+  }
+  return scanned;
+}
+
+void LongLine::ScanPart(std::string_view part) {
+  if (encoding_ == Encoding::kAscii && !IsAscii(part)) {
+    encoding_ = Encoding::kOpen;
+    asUtf8_ = std::make_unique<Alternative>(scan_, state_);
+    asWindows1252_ = std::make_unique<Alternative>(scan_, state_);
+  }
+  switch (encoding_) {
+    case Encoding::kAscii:
+      return scan_.scanner.GetWordsOfPart(part, state_);
+    case Encoding::kOpen:
+      return ScanBothWays(part);
+    case Encoding::kWindows1252:
+      return scan_.scanner.GetWordsOfPart(DecodeWindows1252(part), state_);
+  }
+}
+
+void LongLine::ScanBothWays(std::string_view part) {
+  asWindows1252_->Take(DecodeWindows1252(part));
+  if (IsWellFormedUtf8(part)) return asUtf8_->Take(part);
+  encoding_ = Encoding::kWindows1252;
+  Settle(*asWindows1252_);
+}
+
+void LongLine::Settle(Alternative& chosen) {
+  chosen.Join(scan_);
+  state_ = chosen.State();
+  asUtf8_.reset();
+  asWindows1252_.reset();
+}
+
+}  // namespace quillomat
