@@ -19,12 +19,14 @@ bool IsAsciiByte(char ch) {
   return static_cast<unsigned char>(ch) < 0x80;
 }
 
-/// Between characters of which the second is never part of a word. In Windows-1252 the first byte
-/// is none, either: bytes from 80 to BF are no letters.
+/// Between characters of which the second is never part of a word, in small letters either: C3
+/// leads letters, C5 the capital of U+00FF. In Windows-1252 the first byte is none: bytes from 80
+/// to BF are no letters but 9F, that capital again.
 bool IsBetweenForeignCharacters(char before, char behind) {
   const auto last = static_cast<unsigned char>(before);
   const auto lead = static_cast<unsigned char>(behind);
-  return last >= 0x80 && last <= 0xBF && lead >= 0xC2 && lead <= 0xF4 && lead != 0xC3;
+  return last >= 0x80 && last <= 0xBF && last != 0x9F && lead >= 0xC2 && lead <= 0xF4 &&
+         lead != 0xC3 && lead != 0xC5;
 }
 
 }  // namespace

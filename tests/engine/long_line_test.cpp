@@ -76,7 +76,8 @@ std::string RandomLine(std::mt19937_64& random) {
       "&nbsp;", "&#8212;", "&eacute;", "&Eacute;", "caf&eacute;", "e-mail", "don't", "1,2",
       "x.y",    "'",       ":",        "&a,b;",    "Cafe ",       "_",      "&amp"};
   static const std::vector<std::string> kHighPieces = {
-      "\u00E9", "caf\u00E9 ", "Caf\u00C9", "\u4E2D\u6587", "\u0416", "\u00D7", "\u0152", "\u2014"};
+      "\u00E9", "caf\u00E9 ", "Caf\u00C9", "\u4E2D\u6587", "\u0416",
+      "\u00D7", "\u0152",     "\u2014",    "\u0178",       "\u00DF"};
   const bool high = random() % 2 == 0;
   std::string line;
   for (std::size_t parts = random() % 60; parts > 0; --parts) {
