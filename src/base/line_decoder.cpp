@@ -36,7 +36,8 @@ void AppendWindows1252(std::string& text, std::string_view bytes) {
   }
 }
 
-/// The position of the first CR or LF of `bytes`, or its size.
+}  // namespace
+
 std::size_t FindLineEnd(std::string_view bytes) {
   // In small steps, so that a text that has only one kind of line end is not searched for the other
   // kind to its end for every line.
@@ -49,8 +50,6 @@ std::size_t FindLineEnd(std::string_view bytes) {
   }
   return bytes.size();
 }
-
-}  // namespace
 
 std::string DecodeWindows1252(std::string_view bytes) {
   std::string text;

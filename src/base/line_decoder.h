@@ -19,6 +19,9 @@
 
 namespace quillomat {
 
+/// The position of the first CR or LF of `bytes`, or its size.
+[[nodiscard]] std::size_t FindLineEnd(std::string_view bytes);
+
 /// `bytes` read as Windows-1252, in UTF-8. The five bytes that Windows-1252 leaves undefined become
 /// the control characters of the same number.
 [[nodiscard]] std::string DecodeWindows1252(std::string_view bytes);

@@ -62,6 +62,7 @@ class ScanJob {
          part = lines.NextPartOfLine()) {
       onBytes(static_cast<std::int64_t>(part.size()));
       line.Take(part);
+      state_.WordsRead = scanner_.WordsRead();  // whatever becomes of the rest
       if (yield_.Yield()) break;
     }
     line.End();

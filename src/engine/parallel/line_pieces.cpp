@@ -66,9 +66,9 @@ bool LinePieces::Next(TextPiece& piece, bool cutLongLines) {
 /// Cuts the piece off behind the end of its line, if that is there.
 void LinePieces::EndLongLine(TextPiece& piece) {
   const std::string_view text = piece.Text();
-  const std::size_t lineBytes = text.find_first_of("\r\n");
-  inLongLine_ = lineBytes == std::string_view::npos && !ended_;
-  if (lineBytes == std::string_view::npos) return;
+  const std::size_t lineBytes = FindLineEnd(text);
+  inLongLine_ = lineBytes == text.size() && !ended_;
+  if (lineBytes == text.size()) return;
   rest_ = text.substr(lineBytes + 1);
   piece.bytes = lineBytes + 1;
 }

@@ -29,7 +29,7 @@ int OpenCommentFinder::Behind(std::string_view text, const ScanSettings& setting
 std::string_view OpenCommentFinder::LastLines(std::string_view text) const {
   if (text.size() <= lookedAt_) return {};
   const std::string_view last = text.substr(text.size() - lookedAt_);
-  const std::size_t lineEnd = last.find_first_of("\r\n");
+  const std::size_t lineEnd = FindLineEnd(last);
   return last.substr(std::min(lineEnd, last.size() - 1) + 1);
 }
 

@@ -71,7 +71,8 @@ bool ThreadedScan::ScanLongLine(LinePieces& pieces, const Callbacks& callbacks) 
   for (bool more = true; more && !yield_.stopped; yield_.Ask()) {
     const std::string_view text = part.Text();
     callbacks.onBytes(BytesWithLongLineEnds(text));
-    line.Take(text.substr(0, text.find_first_of("\r\n")));
+    line.Take(text.substr(0, FindLineEnd(text)));
+    target_.wordsRead = scanner_.WordsRead();  // whatever becomes of the rest
     more = pieces.IsInLongLine() && pieces.Next(part);
   }
   line.End();
