@@ -223,7 +223,7 @@ void FileSource::ReadLines(ScanJob& job, InputFile& file, LineEndingType type) {
       job.ScanLines(whole);
       lines.SkipLines(whole.size());
     } else if (job.ScanLongLine(lines, showPart)) {
-      if (showProgress) showBytes(kLineEndBytes);
+      // Its bytes are shown.
     } else if (const auto line = lines.NextLine()) {
       if (showProgress) showBytes(static_cast<std::int64_t>(line->size()) + kLineEndBytes);
       const std::string_view trimmed = TrimBlanks(*line);

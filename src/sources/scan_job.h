@@ -53,19 +53,23 @@ class ScanJob {
   }
 
   /// Scans the line that `lines` is at part by part, if it is long and its markers let it be;
-  /// returns false otherwise. `onBytes` is told of the bytes of every part.
+  /// returns false otherwise. `onBytes` is told of its bytes, with two for the line end: at once
+  /// unless they are many.
   bool ScanLongLine(LineDecoder& lines, const std::function<void(std::int64_t)>& onBytes) {
     if (!lines.IsAtLongLine() || !scanner_.CanTakeParts()) return false;
     scanner_.SetWordsRead(state_.WordsRead);
     LongLine line({state_.settings, choices_, lists_, state_.store, yield_, scanner_});
+    std::int64_t untold = 0;
     for (std::string_view part = lines.NextPartOfLine(); !part.empty();
          part = lines.NextPartOfLine()) {
-      onBytes(static_cast<std::int64_t>(part.size()));
+      if (untold >= kBytesWorthTelling) onBytes(std::exchange(untold, 0));
+      untold += static_cast<std::int64_t>(part.size());
       line.Take(part);
       state_.WordsRead = scanner_.WordsRead();  // whatever becomes of the rest
       if (yield_.Yield()) break;
     }
     line.End();
+    onBytes(untold + kLineEndBytes);
     state_.WordsRead = scanner_.WordsRead();
     return true;
   }
@@ -90,6 +94,9 @@ class ScanJob {
     scanner_.GetWords(lineBuffer);
     state_.WordsRead = scanner_.WordsRead();
   }
+
+  static constexpr std::int64_t kBytesWorthTelling = std::int64_t{64} * 1024;
+  static constexpr std::int64_t kLineEndBytes = 2;
 
   CountState& state_;
   ScanChoices choices_;
