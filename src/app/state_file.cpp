@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/byte_sink.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -50,7 +51,7 @@ std::int32_t NumericValue(std::string_view text) {
 
 class ValueWriter {
  public:
-  explicit ValueWriter(OutputFile& file) : file_(file) {}
+  explicit ValueWriter(ByteSink& file) : file_(file) {}
 
   /// A path may hold a line break, but a value is one line.
   void operator()(const TextBox* box) const {
@@ -71,7 +72,7 @@ class ValueWriter {
     file_.Write(kCrLf);
   }
 
-  OutputFile& file_;
+  ByteSink& file_;
 };
 
 class ValueReader {
@@ -157,7 +158,7 @@ std::array<StateValue, kStateValues> StateValuesOf(MainForm& frmMain, ParamsForm
 }
 
 void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams) {
-  OutputFile file(path, OutputFile::Partial::kKeep);
+  OutputFile file(path);
   const ValueWriter writer(file);
   for (const StateValue& value : StateValuesOf(frmMain, frmParams)) std::visit(writer, value);
   file.Close();

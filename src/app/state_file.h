@@ -35,7 +35,7 @@ using StateValue = std::variant<TextBox*, ComboBox*, CheckBox*, SourceButtons>;
 [[nodiscard]] std::array<StateValue, kStateValues> StateValuesOf(MainForm& frmMain,
                                                                  ParamsForm& frmParams);
 
-/// Writes all values into a file, replacing it. Throws RunTimeError; a partial file stays.
+/// Writes all values into a file, replacing it. Throws RunTimeError; then the file is as it was.
 void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams);
 
 /// Sets all values from a file. Throws RunTimeError 62 when it has too few lines, 13 when a number

@@ -23,7 +23,8 @@ constexpr const char* kFooter =
     "10 Zipf data; of a folder with count-only words also 11 word freq no.files,\n"
     "12 word file-list, 13 word file-list (+freq).\n"
     "\n"
-    "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line.";
+    "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line,\n"
+    "130 interrupted (Ctrl+C), 143 asked to end; then every file is as it was.";
 
 void DefineOptions(CLI::App& app, CommandLine& options, std::vector<std::string>& set,
                    std::vector<std::string>& answers) {

@@ -7,12 +7,14 @@
 #include "cli/terminal_run.h"
 #include "engine/kernel_choice.h"
 #include "system/file_system.h"
+#include "system/interruption.h"
 #include "system/terminal.h"
 
 int main(int argc, char** argv) {
   using namespace quillomat;
   try {
     LetDrivesBeEmpty();
+    const Interruption interruption;
     const Terminal terminal;
     const ParsedCommandLine parsed =
         ParseCommandLine(ProgramArguments(argc, argv), std::cout, std::cerr);

@@ -8,6 +8,7 @@
 #include "listing/file_list_sink.h"
 #include "listing/text_box_list_sink.h"
 #include "system/file_system.h"
+#include "system/output_file.h"
 #include "system/paths.h"
 
 namespace quillomat {
@@ -143,6 +144,7 @@ bool WordLister::ListIntoFile() {
     output_.ClearOutput();
     frmMain_.txbOutput.SetText(ScanHeader());
     WriteList(file);
+    if (state_.StopRequested) return true;  // part of a list takes no file's place
     file.Close();
     fileWritten_ = true;
     return true;
@@ -155,7 +157,7 @@ bool WordLister::ListIntoFile() {
   }
 }
 
-void WordLister::WriteList(OutputFile& file) {
+void WordLister::WriteList(ByteSink& file) {
   accumulator_ = ScanHeader();
   const LineFormatter formatter(state_.Counted(), OptionsFor(true));
   FileListSink sink([&file](std::string_view bytes) { file.Write(bytes); },

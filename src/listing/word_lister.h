@@ -6,11 +6,11 @@
 #include <string_view>
 
 #include "base/run_time_error.h"
+#include "base/byte_sink.h"
 #include "listing/count_state.h"
 #include "listing/display_format.h"
 #include "listing/list_walk.h"
 #include "listing/output_box.h"
-#include "system/output_file.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -25,15 +25,17 @@ class WordLister {
              CountState& state, OutputBox& output);
 
   /// Lists the words of the last count; asks before an existing output file is overwritten. What
-  /// goes wrong is shown to the user. The stop flag ends it early.
+  /// goes wrong is shown to the user. The stop flag ends it early; an output file that is not whole
+  /// then is as it was.
   void ListWords();
 
   /// A face that shows no text box can do without the list in it, and without complaints that it is
   /// full.
   void SetTextBoxWanted(bool wanted) { textBoxWanted_ = wanted; }
 
-  /// Writes the list into a file that is open; the caller closes it. Throws RunTimeError.
-  void WriteList(OutputFile& file);
+  /// Writes the list into a file that is open; the caller closes it, unless the list was stopped.
+  /// Throws RunTimeError.
+  void WriteList(ByteSink& file);
 
   /// Shows a problem in a message box. Code 7: the text box is full, whatever `text` says.
   void ReportProblem(int code, std::string_view text);

@@ -11,6 +11,7 @@
 #include "qt/text_conversion.h"
 #include "qt/windows.h"
 #include "system/file_system.h"
+#include "system/interruption.h"
 
 namespace quillomat {
 namespace {
@@ -73,6 +74,7 @@ int main(int argc, char** argv) {
   }
   try {
     LetDrivesBeEmpty();
+    const Interruption interruption;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));
     QApplication::setApplicationVersion(ToQt(VersionText()));

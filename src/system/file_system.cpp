@@ -1,9 +1,6 @@
 #include "system/file_system.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <random>
 #include <system_error>
 #include <utility>
 
@@ -40,14 +37,6 @@ void SortByName(std::vector<std::string>& names) {
   }
   std::ranges::sort(keyed);
   std::ranges::transform(keyed, names.begin(), [](auto& entry) { return std::move(entry.second); });
-}
-
-/// A name beside `target` that no other writer uses at the same time.
-std::string FreshNameBeside(const std::string& target) {
-  std::array<char, 8> digits{};
-  std::random_device random;
-  const auto end = std::to_chars(digits.begin(), digits.end(), random(), 16).ptr;
-  return target + '.' + std::string(digits.begin(), end) + ".new";
 }
 
 }  // namespace
@@ -114,20 +103,9 @@ std::string RootFolder() {
 }
 
 void ReplaceFile(const std::string& path, std::string_view contents) {
-  RefuseIfItNamesNothing(path, FileAction::kOpenToWrite);
-  const std::string target = BehindLinks(path);
-  const std::string fresh = FreshNameBeside(target);
-  try {
-    OutputFile file(fresh);
-    file.Write(contents);
-    file.Close();
-    std::error_code error;
-    MoveFileOver(fresh, target, error);
-    ThrowIfSet(error, FileAction::kOpenToWrite, target);
-  } catch (...) {
-    RemoveFile(fresh);
-    throw;
-  }
+  OutputFile file(path);
+  file.Write(contents);
+  file.Close();
 }
 
 }  // namespace quillomat

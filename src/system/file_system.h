@@ -51,8 +51,7 @@ void SetCurrentFolder(const std::string& path);
 /// a box of the system's own.
 void LetDrivesBeEmpty();
 
-/// Replaces the file's contents at once: whoever reads it sees the old or the new, never half of
-/// it. A link stays a link. Throws a RunTimeError, and then the old contents stand.
+/// Replaces the file's contents at once, as an OutputFile that is written and closed does.
 void ReplaceFile(const std::string& path, std::string_view contents);
 
 /// The folder of the running program.

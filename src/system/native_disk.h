@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -33,11 +34,12 @@ enum class ItemKind { kNothing, kFile, kFolder };
 void MakeFolder(const std::string& path, std::error_code& error);
 void EnterFolder(const std::string& path, std::error_code& error);
 
-/// The file itself when the path is a link to one; else the path.
-[[nodiscard]] std::string BehindLinks(const std::string& path);
+/// Where the path leads to when it is a link, or a link to a link, whether there is something or
+/// not; else the path. Nothing when it cannot be told, or is none that could be replaced: the name
+/// that the system gives to an open file.
+[[nodiscard]] std::optional<std::string> BehindLinks(const std::string& path);
 
-/// Puts the file `fresh` in the place of `target`, with the permissions of the latter if it is
-/// there.
+/// Puts the file `fresh` in the place of `target`, and asks the disk to keep that.
 void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error);
 
 /// Never complains.

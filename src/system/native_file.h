@@ -5,11 +5,20 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
+#include "base/run_time_error.h"
+
 namespace quillomat {
+
+/// Nobody reads any more what goes into a pipe.
+class ReaderGone final : public RunTimeError {
+ public:
+  ReaderGone() : RunTimeError(RunTimeErrorNumber::kDeviceIo) {}
+};
 
 class NativeFile {
  public:
@@ -17,6 +26,13 @@ class NativeFile {
   [[nodiscard]] static NativeFile OpenForReading(const std::string& path);
   /// Creates the file, or empties it.
   [[nodiscard]] static NativeFile OpenForWriting(const std::string& path);
+  /// Makes a file at `path`, where nothing must be, that can take the place of `target`: with the
+  /// owner, the group and the permissions of that one if it is there. Nothing when `target` is none
+  /// that can be replaced (a device, a pipe, a folder, what may not be written) or `path` cannot be
+  /// made there or not be made like it; then there is no such file. Throws when the disk is full or
+  /// fails.
+  [[nodiscard]] static std::optional<NativeFile> CreateInPlaceOf(const std::string& target,
+                                                                 const std::string& path);
   /// A second handle to the program's standard output, which closing this one leaves open.
   [[nodiscard]] static NativeFile StandardOutput();
 
@@ -35,11 +51,15 @@ class NativeFile {
   /// At least one byte unless at the end, or `buffer` is empty.
   [[nodiscard]] std::size_t Read(std::span<char> buffer) const;
 
-  /// Writes all of `bytes`. A pipe without a reader is an error (57), never the end of the program.
+  /// Writes all of `bytes`. A pipe without a reader is an error (ReaderGone), never the end of the
+  /// program.
   void Write(std::string_view bytes) const;
 
   /// Cuts the file to no bytes, if it is of a kind that can be cut.
   void Empty() const noexcept;
+
+  /// Waits until all that was written is on the disk, where there is one.
+  void Flush() const;
 
   /// Throws when the system reports that bytes have been lost. Closed in any case.
   void Close();

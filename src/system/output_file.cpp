@@ -12,16 +12,22 @@ constexpr std::size_t kBlockBytes = 65'536;
 
 }  // namespace
 
-OutputFile::OutputFile(const std::string& path, Partial partial)
-    : OutputFile(NativeFile::OpenForWriting(path), path, partial) {}
+OutputFile::OutputFile(const std::string& path) : OutputFile(TemporaryFile::For(path), path) {}
 
-OutputFile::OutputFile(NativeFile file, std::string path, Partial partial)
-    : file_(std::move(file)), path_(std::move(path)), partial_(partial) {
+OutputFile::OutputFile(TemporaryFile::Made made, const std::string& path)
+    : kind_(made.file ? Kind::kTemporary : Kind::kInPlace),
+      temporary_(std::move(made.temporary)),
+      file_(made.file ? *std::move(made.file) : NativeFile::OpenForWriting(path)) {
+  buffer_.reserve(kBlockBytes);
+}
+
+OutputFile::OutputFile(NativeFile standardOutput)
+    : kind_(Kind::kStandardOutput), file_(std::move(standardOutput)) {
   buffer_.reserve(kBlockBytes);
 }
 
 OutputFile OutputFile::StandardOutput() {
-  return {NativeFile::StandardOutput(), {}, Partial::kKeep};
+  return OutputFile(NativeFile::StandardOutput());
 }
 
 OutputFile::~OutputFile() {
@@ -46,11 +52,14 @@ void OutputFile::Close() {
   WriteThrough(buffer_);
   buffer_.clear();
   try {
+    if (kind_ != Kind::kStandardOutput) file_.Flush();
     file_.Close();
+    if (temporary_) temporary_->TakeItsPlace();
   } catch (...) {
     Abandon();
     throw;
   }
+  temporary_.reset();
 }
 
 void OutputFile::WriteThrough(std::string_view bytes) {
@@ -62,19 +71,16 @@ void OutputFile::WriteThrough(std::string_view bytes) {
   }
 }
 
-/// Also when the file could not be closed properly: then it is opened once more, to be emptied.
 void OutputFile::Abandon() noexcept {
   buffer_.clear();
   try {
-    const bool empty = partial_ == Partial::kEmpty;
     if (file_.IsOpen()) {
-      if (empty) file_.Empty();
+      if (kind_ == Kind::kInPlace) file_.Empty();
       file_.Close();
-    } else if (empty) {
-      NativeFile::OpenForWriting(path_).Close();
     }
   } catch (...) {  // NOLINT(bugprone-empty-catch): the first error is the one to tell
   }
+  temporary_.reset();
 }
 
 }  // namespace quillomat

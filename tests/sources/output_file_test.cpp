@@ -410,12 +410,13 @@ TEST_F(OutputFileTest, APlaceThatTakesNoFilesIsReported) {
   EXPECT_TRUE(OnlyMessage().text.starts_with("Error 7"));
 }
 
-TEST_F(OutputFileTest, AnErrorInTheMiddleLeavesNoFileThatLooksWhole) {
-  ListTo(path);
+TEST_F(OutputFileTest, AnErrorInTheMiddleLeavesTheFileAsItWas) {
+  DoNotWarn();
+  ListTo(folder.Write("out.txt", "the old list"));
   AtYield(3, [] { throw RunTimeError(RunTimeErrorNumber::kDeviceIo); });
   CountTwoWords();
   ExpectProblem("Error 57: Device I/O error");
-  EXPECT_EQ(ContentsOf(path), "");
+  EXPECT_EQ(ContentsOf(path), "the old list");
 }
 
 TEST_F(OutputFileTest, AnErrorInTheTextBoxTellsThatTheFileIsWritten) {

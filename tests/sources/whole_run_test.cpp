@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "support/program_fixture.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {
@@ -145,7 +146,19 @@ TEST_F(WholeRun, StopWhileTheOutputFileIsWrittenSaysSo) {
   desktop.AtPump(5, [this] { Main().cmdCountWords.PerformClick(); });
   CountClipboard("cat dog emu fox");
   EXPECT_EQ(Output(), "\r\nOutput to file was terminated.");
+  EXPECT_FALSE(FileExists(folder / "list.txt"));
   ExpectIdle();
+}
+
+TEST_F(WholeRun, StopWhileTheOutputFileIsWrittenLeavesTheOldList) {
+  EveryYieldPumps();
+  Main().txbFile[1].SetText(folder.Write("list.txt", "the old list"));
+  Panel().chkWarnOnOverwrite.SetChecked(false);
+  desktop.AtPump(5, [this] { Main().cmdCountWords.PerformClick(); });
+  CountClipboard("cat dog emu fox");
+  EXPECT_EQ(Output(), "\r\nOutput to file was terminated.");
+  EXPECT_EQ(ContentsOf(folder / "list.txt"), "the old list");
+  EXPECT_FALSE(program.lister.FileWritten());
 }
 
 TEST_F(WholeRun, MarkersThatAreMissingOpenThePanel) {

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <vector>
 
 #include "support/temporary_folder.h"
@@ -9,8 +8,6 @@
 
 namespace quillomat {
 namespace {
-
-namespace fs = std::filesystem;
 
 using InputFileTest = TestInAFolder;
 using OutputFileTest = TestInAFolder;
@@ -96,12 +93,14 @@ TEST_F(OutputFileTest, WritesAllBytesInOrder) {
   EXPECT_EQ(ContentsOf(path), expected);
 }
 
-TEST_F(OutputFileTest, OpeningEmptiesAnExistingFile) {
+TEST_F(OutputFileTest, TheOldFileStandsUntilTheNewOneIsClosed) {
   const std::string path = folder_.Write("out", "something long");
   OutputFile file(path);
-  file.Write("new");
+  file.Write(std::string(200'000, 'x'));
+  EXPECT_EQ(ContentsOf(path), "something long");
   file.Close();
-  EXPECT_EQ(ContentsOf(path), "new");
+  EXPECT_EQ(ContentsOf(path), std::string(200'000, 'x'));
+  EXPECT_EQ(ListFolder(folder_.Path()).files, std::vector<std::string>{"out"});
 }
 
 TEST_F(OutputFileTest, TellsWhyAFileCannotBeOpened) {
@@ -115,14 +114,32 @@ TEST_F(OutputFileTest, TellsWhyAFileCannotBeOpened) {
   EXPECT_EQ(opening(""), 76);
 }
 
-TEST_F(OutputFileTest, AFileThatIsNeverClosedIsEmptied) {
-  const std::string path = folder_ / "out";
+TEST_F(OutputFileTest, AFileThatIsNeverClosedIsAsItWas) {
+  const std::string path = folder_.Write("out", "old");
   {
     OutputFile file(path);
     file.Write(std::string(70'000, 'x'));
+    OutputFile fresh(folder_ / "new");
+    fresh.Write(std::string(70'000, 'x'));
   }
-  EXPECT_TRUE(FileExists(path));
-  EXPECT_EQ(fs::file_size(path), 0);
+  EXPECT_EQ(ContentsOf(path), "old");
+  EXPECT_EQ(ListFolder(folder_.Path()).files, std::vector<std::string>{"out"});
+}
+
+TEST_F(OutputFileTest, AVeryLongNameIsNoHindrance) {
+  const std::string path = folder_ / std::string(250, 'x');
+  OutputFile file(path);
+  file.Write("new");
+  file.Close();
+  EXPECT_EQ(ContentsOf(path), "new");
+}
+
+TEST_F(OutputFileTest, ATargetThatBecomesAFolderMeanwhileIsToldOf) {
+  OutputFile file(folder_ / "out");
+  file.Write("new");
+  (void)folder_.Make("out");
+  EXPECT_EQ(ErrorNumberOf([&] { file.Close(); }), 75);
+  EXPECT_TRUE(ListFolder(folder_.Path()).files.empty());
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include "system/native_disk.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quillomat {
 namespace {
@@ -19,6 +21,15 @@ void AddItem(const fs::directory_entry& entry, FolderListing& listing) {
   } else if (!isLink && entry.is_directory(error)) {
     listing.subfolders.push_back(entry.path().filename().native());
   }
+}
+
+/// What a folder tells of its files is on the disk afterwards, if this is a folder and a disk where
+/// that can be asked for. The files stand in their places in any case.
+void FlushFolder(const std::string& path) {
+  const int descriptor = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  fsync(descriptor);
+  close(descriptor);
 }
 
 /// Links are followed.
@@ -80,16 +91,25 @@ void EnterFolder(const std::string& path, std::error_code& error) {
   fs::current_path(path, error);
 }
 
-std::string BehindLinks(const std::string& path) {
+std::optional<std::string> BehindLinks(const std::string& path) {
+  constexpr int kMostLinks = 40;
   std::error_code error;
-  const fs::path target = fs::canonical(path, error);
-  return error ? path : target.native();
+  fs::path place = path;
+  for (int links = 0; links < kMostLinks; ++links) {
+    if (!fs::is_symlink(fs::symlink_status(place, error))) return place.native();
+    const fs::path folder = place.has_parent_path() ? place.parent_path() : ".";
+    const fs::path realFolder = fs::canonical(folder, error);
+    // "/dev/stdout" leads to one of its links, which stand for files that are open.
+    if (error || realFolder.native().starts_with("/proc/")) return std::nullopt;
+    place = realFolder / fs::read_symlink(place, error);
+    if (error) return std::nullopt;
+  }
+  return std::nullopt;
 }
 
 void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error) {
-  const fs::file_status before = fs::status(target, error);
-  if (fs::exists(before)) fs::permissions(fresh, before.permissions(), error);
   fs::rename(fresh, target, error);
+  if (!error) FlushFolder(FolderPartOf(target));
 }
 
 void RemoveFile(const std::string& path) {

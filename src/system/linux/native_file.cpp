@@ -1,24 +1,41 @@
 #include "system/native_file.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <ctime>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
 #include "system/native_path.h"
+#include "system/paths.h"
 #include "system/system_error.h"
 
 namespace quillomat {
 namespace {
 
+/// Before the user's mask.
+constexpr mode_t kUsualMode = 0666;
+constexpr mode_t kPermissionBits = 07777;
+
 [[noreturn]] void ThrowErrno(int errnoValue, FileAction action, const std::string& path = {}) {
   const int value = errnoValue == EDQUOT ? ENOSPC : errnoValue;
   throw ToRunTimeError(std::error_code(value, std::generic_category()), action, path);
+}
+
+/// -1 and errno when it cannot be opened.
+int TryToOpen(const std::string& path, int flags, mode_t mode) {
+  int descriptor = -1;
+  do {
+    descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode);
+  } while (descriptor < 0 && errno == EINTR);
+  return descriptor;
 }
 
 struct Opened {
@@ -29,10 +46,7 @@ struct Opened {
 /// Opens without waiting for the other end of a pipe; reads and writes do wait.
 Opened Open(const std::string& path, int flags, FileAction action) {
   if (NamesNothing(path)) ThrowErrno(ENOENT, action, path);
-  int descriptor = -1;
-  do {
-    descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
-  } while (descriptor < 0 && errno == EINTR);
+  const int descriptor = TryToOpen(path, flags, kUsualMode);
   if (descriptor < 0) ThrowErrno(errno, action, path);
   struct stat status {};
   static_cast<void>(fstat(descriptor, &status));
@@ -74,6 +88,48 @@ class SignalShield {
   sigset_t before_{};
 };
 
+/// Whether an error in making one file says that another would not fare better.
+bool IsOfTheDisk(int errnoValue) {
+  constexpr std::array<int, 7> kOfTheDisk = {ENOSPC, EDQUOT, EIO, ENOMEM, EMFILE, ENFILE, ENOBUFS};
+  return std::ranges::find(kOfTheDisk, errnoValue) != kOfTheDisk.end();
+}
+
+/// Whether files in the folder may be moved by their owner only, and that is somebody else.
+bool IsHeldByItsFolder(const std::string& path, const struct stat& status) {
+  struct stat folder {};
+  const std::string folderPath = FolderPartOf(path);
+  if (stat(folderPath.empty() ? "." : folderPath.c_str(), &folder) != 0) return false;
+  const uid_t user = geteuid();
+  return (folder.st_mode & S_ISVTX) != 0 && user != 0 && user != folder.st_uid &&
+         user != status.st_uid;
+}
+
+/// The list of who else has access, and other notes that the system keeps with a file. False when
+/// the former cannot be kept: without it the permissions would mean something else.
+bool KeepAttributes(int from, int to) {
+  constexpr std::size_t kMostNameBytes = 65'536;
+  std::string names(kMostNameBytes, '\0');
+  const ssize_t nameBytes = flistxattr(from, names.data(), names.size());
+  names.resize(nameBytes < 0 ? 0 : static_cast<std::size_t>(nameBytes));
+  std::string value(kMostNameBytes, '\0');
+  for (std::size_t start = 0; start < names.size(); start = names.find('\0', start) + 1) {
+    const char* const name = names.c_str() + start;
+    const ssize_t bytes = fgetxattr(from, name, value.data(), value.size());
+    const bool kept =
+        bytes >= 0 && fsetxattr(to, name, value.data(), static_cast<std::size_t>(bytes), 0) == 0;
+    if (!kept && std::string_view(name) == "system.posix_acl_access") return false;
+  }
+  return true;
+}
+
+/// The owner is kept where the system allows it; the group must be, as its permissions are.
+bool MakeLike(int model, const struct stat& status, int descriptor) {
+  const bool ownerKept = fchown(descriptor, status.st_uid, status.st_gid) == 0;
+  if (!ownerKept && fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) return false;
+  const mode_t kept = ownerKept ? kPermissionBits : kPermissionBits & ~(S_ISUID | S_ISGID);
+  return fchmod(descriptor, status.st_mode & kept) == 0 && KeepAttributes(model, descriptor);
+}
+
 }  // namespace
 
 NativeFile NativeFile::OpenForReading(const std::string& path) {
@@ -85,6 +141,28 @@ NativeFile NativeFile::OpenForReading(const std::string& path) {
 
 NativeFile NativeFile::OpenForWriting(const std::string& path) {
   return NativeFile(Open(path, O_WRONLY | O_CREAT | O_TRUNC, FileAction::kOpenToWrite).descriptor);
+}
+
+std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
+                                                      const std::string& path) {
+  struct stat status {};
+  const bool isThere = stat(target.c_str(), &status) == 0;
+  if (!isThere && errno != ENOENT) return std::nullopt;
+  // A pipe must not be opened just to look at it: its reader would take the closing for the end.
+  if (isThere && (!S_ISREG(status.st_mode) || IsHeldByItsFolder(target, status))) {
+    return std::nullopt;
+  }
+  const NativeFile model(isThere ? TryToOpen(target, O_WRONLY, 0) : kClosed);
+  if (isThere && !model.IsOpen()) return std::nullopt;
+  // Nobody else shall look into it before it has its permissions.
+  const mode_t mode = isThere ? S_IRUSR | S_IWUSR : kUsualMode;
+  const int descriptor = TryToOpen(path, O_WRONLY | O_CREAT | O_EXCL, mode);
+  if (descriptor < 0 && IsOfTheDisk(errno)) ThrowErrno(errno, FileAction::kOpenToWrite, path);
+  if (descriptor < 0) return std::nullopt;
+  NativeFile file(descriptor);
+  if (!isThere || MakeLike(static_cast<int>(model.handle_), status, descriptor)) return file;
+  unlink(path.c_str());
+  return std::nullopt;
 }
 
 NativeFile NativeFile::StandardOutput() {
@@ -117,9 +195,22 @@ void NativeFile::Write(std::string_view bytes) const {
       bytes.remove_prefix(static_cast<std::size_t>(bytesWritten));
     } else if (errno == EAGAIN) {
       WaitUntilWritable(descriptor);
+    } else if (errno == EPIPE) {
+      throw ReaderGone();
     } else if (errno != EINTR) {
       ThrowErrno(errno, FileAction::kTransfer);
     }
+  }
+}
+
+void NativeFile::Flush() const {
+  int result = -1;
+  do {
+    result = fsync(static_cast<int>(handle_));
+  } while (result != 0 && errno == EINTR);
+  // A pipe or a device has nothing to be flushed to.
+  if (result != 0 && errno != EINVAL && errno != ENOTSUP && errno != EROFS) {
+    ThrowErrno(errno, FileAction::kTransfer);
   }
 }
 

@@ -11,6 +11,9 @@
 namespace quillomat {
 namespace {
 
+constexpr DWORD kAttributesKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                                  FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+
 struct HandleCloser {
   using pointer = HANDLE;
   void operator()(HANDLE handle) const { CloseHandle(handle); }
@@ -152,7 +155,7 @@ void EnterFolder(const std::string& path, std::error_code& error) {
   TakeError(SetCurrentDirectoryW(ToWide(path).c_str()), error);
 }
 
-std::string BehindLinks(const std::string& path) {
+std::optional<std::string> BehindLinks(const std::string& path) {
   const std::wstring system = SystemPath(path);
   const DWORD attributes = GetFileAttributesW(system.c_str());
   const bool mayBeLink =
@@ -174,10 +177,11 @@ void MoveFileOver(const std::string& fresh, const std::string& target, std::erro
     return;
   }
   // The first keeps attributes and permissions, but not every file system has it.
+  if (before) SetFileAttributesW(from.c_str(), before->attributes & kAttributesKept);
   const BOOL replaced =
       before ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr) : FALSE;
-  TakeError(replaced != 0 || MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0,
-            error);
+  constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  TakeError(replaced != 0 || MoveFileExW(from.c_str(), to.c_str(), kHow) != 0, error);
 }
 
 void RemoveFile(const std::string& path) {

@@ -66,6 +66,30 @@ NativeFile NativeFile::OpenForWriting(const std::string& path) {
       Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FileAction::kOpenToWrite));
 }
 
+std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
+                                                      const std::string& path) {
+  if (!MayBeMade(target) || IsDeviceName(target)) return std::nullopt;
+  const std::wstring system = SystemPath(target);
+  const DWORD attributes = AttributesOf(system);
+  if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return std::nullopt;
+  // A file that may not be written, or that others hold open, tells why when it is opened in place.
+  const NativeFile model(
+      reinterpret_cast<std::intptr_t>(CreateFileW(system.c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                                  nullptr, OPEN_EXISTING, attributes, nullptr)));
+  if (!model.IsOpen() && GetLastError() != ERROR_FILE_NOT_FOUND) return std::nullopt;
+  if (model.IsOpen() && GetFileType(AsHandle(model.handle_)) != FILE_TYPE_DISK) return std::nullopt;
+  // It may be removed while it is open, when the program is interrupted.
+  const HANDLE handle =
+      CreateFileW(SystemPath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                  nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle != INVALID_HANDLE_VALUE) return NativeFile(reinterpret_cast<std::intptr_t>(handle));
+  const DWORD error = GetLastError();
+  if (error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL) {
+    ThrowError(error, FileAction::kOpenToWrite, path);
+  }
+  return std::nullopt;
+}
+
 NativeFile NativeFile::StandardOutput() {
   HANDLE handle = nullptr;
   if (DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_OUTPUT_HANDLE), GetCurrentProcess(),
@@ -99,10 +123,18 @@ void NativeFile::Write(std::string_view bytes) const {
     const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostBytesPerCall));
     DWORD bytesWritten = 0;
     if (WriteFile(AsHandle(handle_), bytes.data(), wanted, &bytesWritten, nullptr) == 0) {
-      ThrowError(GetLastError(), FileAction::kTransfer);
+      const DWORD error = GetLastError();
+      if (error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA) throw ReaderGone();
+      ThrowError(error, FileAction::kTransfer);
     }
     bytes.remove_prefix(bytesWritten);
   }
+}
+
+void NativeFile::Flush() const {
+  // A pipe without a reader, or a console, has nothing to be flushed to.
+  if (GetFileType(AsHandle(handle_)) != FILE_TYPE_DISK) return;
+  if (FlushFileBuffers(AsHandle(handle_)) == 0) ThrowError(GetLastError(), FileAction::kTransfer);
 }
 
 void NativeFile::Empty() const noexcept {

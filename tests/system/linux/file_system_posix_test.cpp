@@ -84,24 +84,6 @@ TEST_F(PosixFileSystem, CurrentFolderCanBeMovedToTheRoot) {
   EXPECT_EQ(ErrorNumberOf([&] { SetCurrentFolder(folder_ / "gone"); }), 76);
 }
 
-TEST_F(PosixFileSystem, ReplaceFileKeepsALinkALink) {
-  const std::string file = folder_.Write("file", "old");
-  fs::create_symlink(file, folder_ / "link");
-  ReplaceFile(folder_ / "link", "new");
-  EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
-  EXPECT_EQ(ContentsOf(file), "new");
-}
-
-TEST_F(PosixFileSystem, ReplaceFileThatFailsLeavesTheOldContents) {
-  const std::string shelf = folder_.Make("shelf");
-  const std::string book = folder_.Write("shelf/book", "old");
-  fs::permissions(shelf, fs::perms(0555));
-  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { ReplaceFile(book, "new"); }); }), 70);
-  EXPECT_EQ(ContentsOf(book), "old");
-  EXPECT_EQ(ErrorNumberOf([&] { ReplaceFile(shelf, "new"); }), 75);
-  EXPECT_THAT(ListFolder(folder_.Path()).files, IsEmpty());
-}
-
 TEST_F(PosixFileSystem, ProgramFolderHoldsTheRunningProgram) {
   EXPECT_EQ(ProgramFolder(), fs::canonical("/proc/self/exe").parent_path().string());
 }
@@ -115,13 +97,6 @@ TEST_F(PosixFileSystem, LetterCaseCountsInNames) {
 
 TEST_F(PosixFileSystem, ADeviceIsTheSameAsItself) {
   EXPECT_TRUE(IsSameFile("/dev/null", "/dev/null"));
-}
-
-TEST_F(PosixFileSystem, ReplaceFileKeepsPermissions) {
-  const std::string file = folder_.Write("file", "old");
-  fs::permissions(file, fs::perms(0640));
-  ReplaceFile(file, "new contents");
-  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <vector>
 
 #include "support/temporary_folder.h"
@@ -58,6 +59,16 @@ class RedirectedOutput {
   int before_;
 };
 
+std::vector<std::string> NamesIn(const std::string& folder) {
+  return ListFolder(folder).files;
+}
+
+void WriteWhole(const std::string& path, const std::string& contents) {
+  OutputFile file(path);
+  file.Write(contents);
+  file.Close();
+}
+
 using PosixInputFile = TestInAFolder;
 using PosixOutputFile = TestInAFolder;
 
@@ -105,37 +116,151 @@ TEST_F(PosixOutputFile, AFullDiskIsNoticedWhenClosing) {
   EXPECT_EQ(ErrorNumberOf([&] { file.Close(); }), 61);
 }
 
-TEST_F(PosixOutputFile, AFailedWriteLeavesAnEmptyFile) {
-  const std::string path = folder_ / "out";
+TEST_F(PosixOutputFile, AFailedWriteLeavesTheOldFileAndNoOther) {
+  const std::string path = folder_.Write("out", "old");
   const FileSizeLimit limit(100'000);
   OutputFile file(path);
   file.Write(std::string(70'000, 'x'));
-  EXPECT_EQ(fs::file_size(path), 70'000);
   EXPECT_EQ(ErrorNumberOf([&] { file.Write(std::string(70'000, 'x')); }), 61);
-  EXPECT_EQ(fs::file_size(path), 0);
+  EXPECT_EQ(ContentsOf(path), "old");
+  EXPECT_EQ(NamesIn(folder_.Path()), std::vector<std::string>{"out"});
 }
 
-TEST_F(PosixOutputFile, APartialFileStaysWhenThatIsWanted) {
-  const std::string path = folder_ / "out";
-  const FileSizeLimit limit(100'000);
-  OutputFile file(path, OutputFile::Partial::kKeep);
-  file.Write(std::string(70'000, 'x'));
-  EXPECT_EQ(ErrorNumberOf([&] { file.Write(std::string(70'000, 'x')); }), 61);
-  EXPECT_EQ(fs::file_size(path), 100'000);
+TEST_F(PosixOutputFile, WhereNoFileCanBeMadeAFailedWriteLeavesAnEmptyOne) {
+  const std::string shelf = folder_.Make("shelf");
+  const std::string path = folder_.Write("shelf/out", "old");
+  fs::permissions(path, fs::perms(0666));
+  fs::permissions(shelf, fs::perms(0555));
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              const FileSizeLimit limit(100'000);
+              OutputFile file(path);
+              file.Write(std::string(70'000, 'x'));
+              return ErrorNumberOf([&] { file.Write(std::string(70'000, 'x')); });
+            }),
+            61);
+  EXPECT_EQ(ContentsOf(path), "");
+}
+
+TEST_F(PosixOutputFile, WhereNoFileCanBeMadeTheTargetIsWrittenInPlace) {
+  const std::string shelf = folder_.Make("shelf");
+  const std::string path = folder_.Write("shelf/out", "something long");
+  fs::permissions(path, fs::perms(0666));
+  fs::permissions(shelf, fs::perms(0555));
+  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { WriteWhole(path, "new"); }); }), 0);
+  EXPECT_EQ(ContentsOf(path), "new");
+}
+
+TEST_F(PosixOutputFile, ALinkStaysALinkAndWhatItLeadsToIsReplaced) {
+  const std::string shelf = folder_.Make("shelf");
+  const std::string path = folder_.Write("shelf/out", "old");
+  fs::create_symlink("shelf/out", folder_ / "second");
+  fs::create_symlink("second", folder_ / "first");
+  const fs::path hardLink = folder_ / "kept";
+  fs::create_hard_link(path, hardLink);
+  WriteWhole(folder_ / "first", "new");
+  EXPECT_TRUE(fs::is_symlink(folder_ / "first"));
+  EXPECT_TRUE(fs::is_symlink(folder_ / "second"));
+  EXPECT_EQ(ContentsOf(path), "new");
+  EXPECT_EQ(ContentsOf(hardLink.string()), "old");
+  EXPECT_EQ(NamesIn(shelf), std::vector<std::string>{"out"});
+}
+
+TEST_F(PosixOutputFile, ALinkThatLeadsNowhereGetsItsFile) {
+  fs::create_symlink("file", folder_ / "link");
+  WriteWhole(folder_ / "link", "new");
+  EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
+  EXPECT_EQ(ContentsOf(folder_ / "file"), "new");
+}
+
+TEST_F(PosixOutputFile, ALinkToItselfIsAnError) {
+  fs::create_symlink("link", folder_ / "link");
+  EXPECT_EQ(ErrorNumberOf([&] { WriteWhole(folder_ / "link", "new"); }), 75);
+}
+
+TEST_F(PosixOutputFile, OwnerAndPermissionsAreKept) {
+  const std::string path = folder_.Write("out", "old");
+  fs::permissions(path, fs::perms(0642));
+  const bool given = chown(path.c_str(), 12345, 23456) == 0;  // only root may give a file away
+  WriteWhole(path, "new");
+  struct stat status {};
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777U, 0642U);
+  if (given) {
+    EXPECT_EQ(status.st_uid, 12345U);
+    EXPECT_EQ(status.st_gid, 23456U);
+  }
+  EXPECT_EQ(ContentsOf(path), "new");
+}
+
+TEST_F(PosixOutputFile, ANewFileHasThePermissionsThatTheUserGivesNewFiles) {
+  const mode_t before = umask(027);
+  WriteWhole(folder_ / "out", "new");
+  umask(before);
+  EXPECT_EQ(fs::status(folder_ / "out").permissions(), fs::perms(0640));
+}
+
+TEST_F(PosixOutputFile, NobodyElseMayLookIntoTheTemporaryFileOfAPrivateOne) {
+  const std::string path = folder_.Write("out", "old");
+  fs::permissions(path, fs::perms(0600));
+  OutputFile file(path);
+  for (const std::string& name : NamesIn(folder_.Path())) {
+    EXPECT_EQ(fs::status(folder_ / name).permissions(), fs::perms(0600)) << name;
+  }
+  EXPECT_EQ(NamesIn(folder_.Path()).size(), 2U);
+}
+
+TEST_F(PosixOutputFile, WhatTheSystemKeepsWithAFileIsKept) {
+  const std::string path = folder_.Write("out", "old");
+  if (setxattr(path.c_str(), "user.origin", "archive", 7, 0) != 0) GTEST_SKIP() << "no attributes";
+  WriteWhole(path, "new");
+  std::string value(7, ' ');
+  EXPECT_EQ(getxattr(path.c_str(), "user.origin", value.data(), value.size()), 7);
+  EXPECT_EQ(value, "archive");
+}
+
+TEST_F(PosixOutputFile, AFileOfOthersInAFolderWhereOnlyOwnersMoveFilesIsWrittenInPlace) {
+  const std::string shelf = folder_.Make("shelf");
+  const std::string path = folder_.Write("shelf/out", "old");
+  fs::permissions(path, fs::perms(0666));
+  fs::permissions(shelf, fs::perms(01777));
+  EXPECT_EQ(AsOrdinaryUser([&] { return ErrorNumberOf([&] { WriteWhole(path, "new"); }); }), 0);
+  EXPECT_EQ(ContentsOf(path), "new");
+}
+
+TEST_F(PosixOutputFile, APipesReaderGetsAllAndThenTheEnd) {
+  const std::string path = folder_ / "pipe";
+  ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
+  const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  WriteWhole(path, "through the pipe");
+  std::string text(100, ' ');
+  text.resize(static_cast<std::size_t>(read(reader, text.data(), text.size())));
+  close(reader);
+  EXPECT_EQ(text, "through the pipe");
+  struct stat status {};
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+TEST_F(PosixOutputFile, TheSystemsNameForStandardOutputIsWrittenInPlace) {
+  const std::string path = folder_.Write("out", "");
+  {
+    const RedirectedOutput redirected(open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    WriteWhole("/dev/stdout", "the list ");
+    ASSERT_EQ(write(STDOUT_FILENO, "and after", 9), 9);
+  }
+  EXPECT_EQ(ContentsOf(path), "the list and after");
 }
 
 TEST_F(PosixOutputFile, AClosedPipeIsAnErrorAndNotTheEnd) {
   std::array<int, 2> pipeEnds{};
   ASSERT_EQ(pipe2(pipeEnds.data(), O_CLOEXEC), 0);
   close(pipeEnds[0]);
-  int number = 0;
   {
     const RedirectedOutput redirected(pipeEnds[1]);
     OutputFile output = OutputFile::StandardOutput();
     output.Write("nobody reads this");
-    number = ErrorNumberOf([&] { output.Close(); });
+    EXPECT_THROW(output.Close(), ReaderGone);
   }
-  EXPECT_EQ(number, 57);
   sigset_t pending{};
   sigpending(&pending);
   EXPECT_EQ(sigismember(&pending, SIGPIPE), 0);

@@ -1,0 +1,42 @@
+// What happens when somebody ends the program from outside: Ctrl+C, a request to end (SIGTERM), a
+// terminal or a console window that is closed.
+//
+// While an Interruption lives, the program ends at once and leaves no unfinished file behind: files
+// on their way into the place of another are removed (see output_file.h), so that what stood there
+// stands there still. The exit status tells the reason. A signal that was ignored when the program
+// started, as under nohup, stays ignored. A kill that cannot be caught leaves an unfinished file,
+// but never under the name that was asked for.
+//
+// Who would rather finish something first asks for First::kIsNoted and looks at WasInterrupted from
+// time to time; the second interruption ends the program at once all the same.
+#pragma once
+
+namespace quillomat {
+
+inline constexpr int kInterruptedStatus = 130;
+inline constexpr int kAskedToEndStatus = 143;
+/// The terminal was closed.
+inline constexpr int kHungUpStatus = 129;
+
+/// One at a time, from the start of the program on.
+class Interruption {
+ public:
+  enum class First { kEndsTheProgram, kIsNoted };
+
+  explicit Interruption(First first = First::kEndsTheProgram);
+  Interruption(const Interruption&) = delete;
+  Interruption& operator=(const Interruption&) = delete;
+  Interruption(Interruption&&) = delete;
+  Interruption& operator=(Interruption&&) = delete;
+  /// The system does again what it did before.
+  ~Interruption();
+};
+
+/// The exit status that the interruption asks for; 0 as long as there was none. Costs next to
+/// nothing.
+[[nodiscard]] int InterruptionStatus() noexcept;
+[[nodiscard]] inline bool WasInterrupted() noexcept {
+  return InterruptionStatus() != 0;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,83 @@
+#include "system/interruption.h"
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <poll.h>
+#include <unistd.h>
+
+#include "system/signals.h"
+#include "system/unfinished_files.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::array<int, 3> kSignals = {SIGHUP, SIGINT, SIGTERM};
+constexpr int kStatusOfSignals = 128;
+
+// Not constant: all that a signal handler can get at are variables of the process.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<bool> firstIsNoted{false};
+std::atomic<int> statusNoted{0};
+std::array<struct sigaction, kSignals.size()> handledBefore{};
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
+void OnSignal(int signal) {
+  const int status = kStatusOfSignals + signal;
+  int none = 0;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return;
+  RemoveUnfinishedFiles();
+  _exit(status);
+}
+
+sigset_t SignalsThatEnd() {
+  sigset_t signals{};
+  sigemptyset(&signals);
+  for (const int signal : kSignals) sigaddset(&signals, signal);
+  return signals;
+}
+
+}  // namespace
+
+Interruption::Interruption(First first) {
+  firstIsNoted = first == First::kIsNoted;
+  statusNoted = 0;
+  struct sigaction action {};
+  action.sa_handler = OnSignal;
+  // While one is handled the others wait: two handlers would wait for each other's threads.
+  action.sa_mask = SignalsThatEnd();
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    sigaction(kSignals[i], nullptr, &handledBefore[i]);
+    if (handledBefore[i].sa_handler != SIG_IGN) sigaction(kSignals[i], &action, nullptr);
+  }
+}
+
+Interruption::~Interruption() {
+  for (std::size_t i = 0; i < kSignals.size(); ++i) {
+    sigaction(kSignals[i], &handledBefore[i], nullptr);
+  }
+}
+
+int InterruptionStatus() noexcept {
+  return statusNoted;
+}
+
+void HoldSignalsBack() noexcept {
+  const sigset_t signals = SignalsThatEnd();
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+}
+
+void LetSignalsCome() noexcept {
+  const sigset_t signals = SignalsThatEnd();
+  pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+void WaitAMoment() noexcept {
+  poll(nullptr, 0, 1);
+}
+
+void RemoveFileInHandler(const char* path) noexcept {
+  unlink(path);
+}
+
+}  // namespace quillomat

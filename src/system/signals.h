@@ -1,0 +1,14 @@
+// The little that unfinished_files.h needs of the system's signals. For the files of this folder.
+#pragma once
+
+namespace quillomat {
+
+/// Signals that end the program wait, as far as this thread is concerned. Not to be nested.
+void HoldSignalsBack() noexcept;
+void LetSignalsCome() noexcept;
+
+/// As far as a signal handler may do these: to wait a moment, and to remove a file.
+void WaitAMoment() noexcept;
+void RemoveFileInHandler(const char* path) noexcept;
+
+}  // namespace quillomat

@@ -1,0 +1,65 @@
+#include "system/temporary_file.h"
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <random>
+#include <system_error>
+
+#include "base/utf8.h"
+#include "system/native_disk.h"
+#include "system/native_path.h"
+#include "system/paths.h"
+#include "system/system_error.h"
+
+namespace quillomat {
+namespace {
+
+/// Names may have 255 bytes, on some disks fewer.
+constexpr std::size_t kMostCharactersOfTargetsName = 30;
+
+std::string RandomDigits() {
+  std::random_device random;
+  const std::uint64_t number = std::uint64_t{random()} << 32U | random();
+  std::array<char, 16> digits{};
+  return {digits.data(),
+          std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr};
+}
+
+std::string NameBeside(const std::string& target) {
+  const std::string name = FileNamePartOf(target);
+  const std::string start = name.substr(0, BytesOfFirst(name, kMostCharactersOfTargetsName));
+  return JoinPath(FolderPartOf(target), "." + start + "." + RandomDigits() + ".new");
+}
+
+}  // namespace
+
+TemporaryFile::TemporaryFile(std::string target, std::string path)
+    : target_(std::move(target)), path_(std::move(path)), unfinished_(path_) {}
+
+TemporaryFile::Made TemporaryFile::For(const std::string& path) {
+  if (NamesNothing(path)) return {};
+  const std::optional<std::string> behind = BehindLinks(path);
+  if (!behind || FileNamePartOf(*behind).empty()) return {};
+  const std::string target = FromRootOn(*behind);
+  std::unique_ptr<TemporaryFile> temporary(new TemporaryFile(target, NameBeside(target)));
+  std::optional<NativeFile> file = NativeFile::CreateInPlaceOf(target, temporary->path_);
+  if (!file) return {};
+  temporary->isThere_ = true;
+  temporary->unfinished_.HasBeenMade();
+  return {std::move(temporary), std::move(file)};
+}
+
+TemporaryFile::~TemporaryFile() {
+  if (isThere_) RemoveFile(path_);
+}
+
+void TemporaryFile::TakeItsPlace() {
+  std::error_code error;
+  MoveFileOver(path_, target_, error);
+  if (error) throw ToRunTimeError(error, FileAction::kOpenToWrite, target_);
+  isThere_ = false;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,74 @@
+#include "system/unfinished_files.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+
+#include "system/signals.h"
+
+namespace quillomat {
+namespace {
+
+/// More than the program writes at the same time, and longer than the system's paths are.
+constexpr std::size_t kPlaces = 32;
+constexpr std::size_t kMostPathBytes = 4096;
+
+enum class Use { kFree, kBeingMade, kThere };
+
+struct Place {
+  std::atomic<Use> use = Use::kFree;
+  std::array<char, kMostPathBytes> path{};
+};
+static_assert(std::atomic<Use>::is_always_lock_free);
+
+/// Not constant: all that a signal handler can get at are variables of the process.
+std::array<Place, kPlaces> places;     // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<bool> programEnds{false};  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+
+/// The place that was free and is taken now; kPlaces when the table is full.
+std::size_t TakePlace() {
+  std::size_t place = 0;
+  for (Use free = Use::kFree; place < kPlaces; ++place, free = Use::kFree) {
+    if (places[place].use.compare_exchange_strong(free, Use::kBeingMade)) break;
+  }
+  return place;
+}
+
+void Release(std::size_t place) {
+  if (place < kPlaces) places[place].use = Use::kFree;
+}
+
+}  // namespace
+
+UnfinishedFile::UnfinishedFile(const std::string& path) noexcept {
+  HoldSignalsBack();
+  place_ = path.size() < kMostPathBytes ? TakePlace() : kPlaces;
+  if (programEnds) {
+    Release(place_);
+    for (;;) WaitAMoment();
+  }
+  // Only now: who ends the program reads no path of a place that is just being taken.
+  if (place_ < kPlaces) *std::ranges::copy(path, places[place_].path.begin()).out = '\0';
+}
+
+void UnfinishedFile::HasBeenMade() noexcept {
+  if (place_ < kPlaces) places[place_].use = Use::kThere;
+  signalsWait_ = false;
+  LetSignalsCome();
+}
+
+UnfinishedFile::~UnfinishedFile() {
+  Release(place_);
+  if (signalsWait_) LetSignalsCome();
+}
+
+void RemoveUnfinishedFiles() noexcept {
+  programEnds = true;
+  for (const Place& place : places) {
+    // Another thread is making it: this one may not be, as its signals wait.
+    while (place.use == Use::kBeingMade) WaitAMoment();
+    if (place.use == Use::kThere) RemoveFileInHandler(place.path.data());
+  }
+}
+
+}  // namespace quillomat

@@ -1,0 +1,38 @@
+// The files that are being written and are not yet whole: those that must not stay behind when a
+// signal ends the program (see interruption.h).
+//
+// A signal may come at any moment, in any thread, and its handler may neither allocate nor lock. So
+// their paths stand in a fixed table of the process, and each place of it is handed over with one
+// atomic step.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace quillomat {
+
+/// One such file. While it lives, an end by a signal removes the file.
+class UnfinishedFile {
+ public:
+  /// To be made before the file is: until HasBeenMade or the destructor no signal ends the program,
+  /// so that none can come between the file and the note of it. `path` starts at a root.
+  explicit UnfinishedFile(const std::string& path) noexcept;
+  UnfinishedFile(const UnfinishedFile&) = delete;
+  UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+  UnfinishedFile(UnfinishedFile&&) = delete;
+  UnfinishedFile& operator=(UnfinishedFile&&) = delete;
+  /// The file is whole and has another name, is gone, or was never made.
+  ~UnfinishedFile();
+
+  void HasBeenMade() noexcept;
+
+ private:
+  std::size_t place_;
+  bool signalsWait_ = true;
+};
+
+/// Removes them all. The program must end at once afterwards: from now on none can be made, and
+/// whoever tries waits for the end. May be called by a signal handler.
+void RemoveUnfinishedFiles() noexcept;
+
+}  // namespace quillomat

@@ -1,0 +1,59 @@
+#include "system/interruption.h"
+
+#include <atomic>
+#include <windows.h>
+
+#include "system/native_disk.h"
+#include "system/signals.h"
+#include "system/unfinished_files.h"
+
+namespace quillomat {
+namespace {
+
+// Not constant: the system calls the handler without an object.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<bool> firstIsNoted{false};
+std::atomic<int> statusNoted{0};
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
+/// The system calls it on a thread of its own.
+BOOL WINAPI OnConsoleEvent(DWORD event) {
+  const bool byHand = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+  const int status = byHand ? kInterruptedStatus : kAskedToEndStatus;
+  int none = 0;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) return TRUE;
+  RemoveUnfinishedFiles();
+  TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
+  return TRUE;
+}
+
+}  // namespace
+
+Interruption::Interruption(First first) {
+  firstIsNoted = first == First::kIsNoted;
+  statusNoted = 0;
+  SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
+}
+
+Interruption::~Interruption() {
+  SetConsoleCtrlHandler(OnConsoleEvent, FALSE);
+}
+
+int InterruptionStatus() noexcept {
+  return statusNoted;
+}
+
+// Whoever ends the program waits by itself for what is being made.
+void HoldSignalsBack() noexcept {}
+void LetSignalsCome() noexcept {}
+
+void WaitAMoment() noexcept {
+  Sleep(1);
+}
+
+// The thread is an ordinary one, so that it may do what others may.
+void RemoveFileInHandler(const char* path) noexcept {
+  RemoveFile(path);
+}
+
+}  // namespace quillomat
