@@ -1,6 +1,5 @@
 #include "sources/clipboard_source.h"
 
-#include <algorithm>
 #include <new>
 #include <optional>
 
@@ -14,21 +13,6 @@
 #include "sources/window_state.h"
 
 namespace quillomat {
-namespace {
-
-constexpr std::size_t kTextCheckLength = 3000;
-
-bool IsControlCharacter(char ch) {
-  const auto byte = static_cast<unsigned char>(ch);
-  return byte < 32 && ch != '\t' && ch != '\n' && ch != '\r';
-}
-
-}  // namespace
-
-bool IsText(std::string_view text, std::size_t maximum) {
-  const std::string_view head = text.substr(0, BytesOfFirst(text, maximum));
-  return std::none_of(head.begin(), head.end(), IsControlCharacter);
-}
 
 bool ClipboardSource::ReadClipboard(bool paste) {
   context_.output.ClearOutput();
@@ -77,7 +61,7 @@ void ClipboardSource::RefuseClipboard(const RunTimeError& error, std::size_t len
 }
 
 bool ClipboardSource::ScanClipboard() {
-  if (!IsText(text_, kTextCheckLength)) {
+  if (!IsText(text_, kClipboardTestLength)) {
     Refuse(context_,
            "The text on the clipboard does not consist" + std::string(kCrLf) +
                "solely of natural language words.",

@@ -3,19 +3,15 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 #include "base/run_time_error.h"
 #include "sources/run_context.h"
+#include "sources/text_test.h"
 
 namespace quillomat {
 
 /// The longest clipboard text that is counted, in characters.
 inline constexpr std::size_t kClipboardTextLimit = 100'000;
-
-/// Whether none of the first `maximum` characters is a control character other than tab, line feed
-/// and carriage return.
-[[nodiscard]] bool IsText(std::string_view text, std::size_t maximum);
 
 class ClipboardSource {
  public:

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <span>
-#include <string_view>
 
 #include "base/byte_source.h"
 #include "base/line_decoder.h"
@@ -40,7 +39,10 @@ bool NoteBreaks(std::string_view piece, SeenBreaks& seen) {
   return controls == 0;
 }
 
-LineEndingType TypeOf(ByteSource& file, std::size_t maximum) {
+}  // namespace
+
+LineEndingType LineEndingTypeOf(std::string_view head, std::size_t maximum) {
+  TextSource file(head);
   UnmarkedSource text(file);
   std::array<char, kPieceBytes> piece{};
   SeenBreaks seen;
@@ -53,8 +55,6 @@ LineEndingType TypeOf(ByteSource& file, std::size_t maximum) {
   if (seen.carriageReturn == seen.lineFeed) return LineEndingType::kDos;
   return seen.lineFeed ? LineEndingType::kUnix : LineEndingType::kMacintosh;
 }
-
-}  // namespace
 
 LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum) {
   std::optional<InputFile> file;
@@ -69,9 +69,7 @@ LineEndingType OpenText(const std::string& path, std::size_t maximum,
     return FileExists(path) ? LineEndingType::kCannotBeOpened : LineEndingType::kNotFound;
   }
   if (file->Length() == 0 && FileLength(path) == 0) return LineEndingType::kZeroLength;
-  // A mark, and of UTF-16 two bytes for a character that may be one.
-  TextSource head(file->Ahead(3 + 2 * maximum));
-  return TypeOf(head, maximum);
+  return LineEndingTypeOf(file->Ahead(HeadBytes(maximum)), maximum);
 }
 
 }  // namespace quillomat

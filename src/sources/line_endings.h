@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "system/input_file.h"
 
@@ -19,6 +20,15 @@ enum class LineEndingType {
   kUnix = 2,
   kMacintosh = 3,
 };
+
+/// So many bytes at the start of a file are enough to look at `maximum` bytes of its text: those of
+/// a mark, and of UTF-16 two for a character that may be one.
+[[nodiscard]] constexpr std::size_t HeadBytes(std::size_t maximum) {
+  return 3 + 2 * maximum;
+}
+
+/// The type of the text that starts with `head`, HeadBytes(maximum) or all there are.
+[[nodiscard]] LineEndingType LineEndingTypeOf(std::string_view head, std::size_t maximum);
 
 /// Looks at the first `maximum` bytes of the file's text (after decoding where it is UTF-16). A
 /// control character other than tab, line feed and carriage return makes it no text. Throws

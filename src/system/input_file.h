@@ -1,6 +1,7 @@
 // A file open for reading, from front to back. Closed when it goes out of scope.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -19,6 +20,11 @@ class InputFile final : public ByteSource {
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
+
+  /// Whether bytes are at hand, or there will be none; see NativeFile::IsReady.
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {
+    return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);
+  }
 
   /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
   std::size_t Read(std::span<char> buffer) override;

@@ -3,6 +3,7 @@
 // assigned to and asked IsOpen.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -47,6 +48,11 @@ class NativeFile {
 
   /// In bytes; 0 for what has no length.
   [[nodiscard]] std::int64_t Length() const;
+
+  /// Whether a Read would not wait: bytes have come, or there will be none. Waits for that, but no
+  /// longer than it is told. A pipe is not ready before somebody has opened it for writing. Where
+  /// the system has no answer, a file is ready.
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const;
 
   /// At least one byte unless at the end, or `buffer` is empty.
   [[nodiscard]] std::size_t Read(std::span<char> buffer) const;

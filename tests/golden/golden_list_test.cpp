@@ -8,10 +8,11 @@
 #include <string>
 #include <tuple>
 
-#include "app/program.h"
 #include "base/text_helpers.h"
 #include "listing/display_format.h"
-#include "support/scripted_desktop.h"
+#include "listing/file_list_sink.h"
+#include "listing/list_walk.h"
+#include "sources/counter.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {
@@ -31,30 +32,54 @@ struct ListChoice {
   }
 };
 
-/// The list as it stands in an output file, with line feeds.
-std::string ListOf(const ListChoice& choice) {
-  const TemporaryFolder folder;
-  ScriptedDesktop desktop;
-  Program program(desktop);
-  if (!program.Start({.userSettings = false, .window = false})) return "the program did not start";
+/// As the panel stands when the program starts.
+CountRequest DefaultRequest() {
+  CountRequest request;
+  request.scan.allowWordsWith[static_cast<std::size_t>(AllowFlag::kHyphen)] = CheckState::kChecked;
+  request.filters.shortWordSizeIndex = 1;
+  request.filters.ignoreRepetitions = CheckState::kChecked;
+  request.filters.ignoreRomNum40 = CheckState::kChecked;
+  request.filters.ignoreNoVowelOrY = CheckState::kChecked;
+  return request;
+}
+
+CountResult CountSamples(bool wholeFolder) {
   // The folder's name goes into the lists of files: it must be the same on every machine.
   std::filesystem::current_path(QUILLOMAT_DATA_FOLDER);
-  if (NeedsFileTallies(static_cast<DisplayFormat>(choice.format))) {
-    program.frmMain.txbFolder.SetText("samples");
-    program.frmMain.optFolder.SetValue(true);
-    program.frmParams.txbWordsToIgnoreOrCount[1].SetText("the de la harbour hafen port");
-    program.wordLists.OnExtraWordsLostFocus(WordListKind::kCountOnly);
+  CountRequest request = DefaultRequest();
+  if (wholeFolder) {
+    request.source = TextOfFolder{"samples", false, {}};
+    request.lists.ExtraCountOnlyList =
+        WordList(ParseTypedWords("the de la harbour hafen port").items);
   } else {
-    program.frmMain.txbFile[0].SetText("samples/harbour_en.txt");
-    program.frmMain.optInFile.SetValue(true);
+    request.source = TextOfFile{"samples/harbour_en.txt"};
   }
-  program.frmMain.txbFile[1].SetText(folder / "list.txt");
-  program.frmMain.cboDisplayFormat.SetListIndex(choice.format);
-  program.frmMain.cboWordOrder.SetListIndex(choice.order);
-  program.frmParams.chkOutputWithCommas.SetChecked(choice.commas);
-  program.frmMain.cmdCountWords.PerformClick();
-  // Line ends and the separators of paths are the platform's; all else is the same everywhere.
-  return ReplaceAll(TextOf(folder / "list.txt"), std::string(1, PathSeparator()), "/");
+  CountResult result = Counter(request).Run();
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  result.Rank(request.filters);
+  return result;
+}
+
+/// The list as it stands in an output file, with line feeds.
+std::string ListOf(const ListChoice& choice) {
+  LineOptions options;
+  options.format = static_cast<DisplayFormat>(choice.format);
+  options.withCommas = choice.commas;
+  options.useLog10 = true;
+  options.lineBreak = "\n";
+  const bool wholeFolder = NeedsFileTallies(options.format);
+  if (wholeFolder) options.folder = "samples";
+  const CountResult result = CountSamples(wholeFolder);
+  const LineFormatter formatter(result.Counted(), options);
+  std::string list;
+  FileListSink sink([&list](std::string_view bytes) { list += bytes; }, [] { return false; },
+                    options, result.store.NumDifferentWords());
+  EmitHeader(formatter, sink);
+  choice.order == 1 ? ListAlphabetical(result.Counted(), formatter, sink)
+                    : ListByFrequency(result.Counted(), formatter, sink);
+  sink.Flush();
+  // The separators of paths are the platform's; all else is the same everywhere.
+  return ReplaceAll(list, std::string(1, PathSeparator()), "/");
 }
 
 class GoldenList : public testing::TestWithParam<std::tuple<int, int, bool>> {};

@@ -177,6 +177,12 @@ std::int64_t NativeFile::Length() const {
   return S_ISREG(status.st_mode) ? std::int64_t{status.st_size} : 0;
 }
 
+bool NativeFile::IsReady(std::chrono::milliseconds longest) const {
+  pollfd waiting{.fd = static_cast<int>(handle_), .events = POLLIN, .revents = 0};
+  // What goes wrong here, Read will tell; an interrupted wait is one that was too short.
+  return poll(&waiting, 1, static_cast<int>(longest.count())) != 0 && waiting.revents != 0;
+}
+
 std::size_t NativeFile::Read(std::span<char> buffer) const {
   ssize_t bytesRead = -1;
   do {

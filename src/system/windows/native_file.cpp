@@ -108,6 +108,10 @@ std::int64_t NativeFile::Length() const {
   return bytes.QuadPart;
 }
 
+bool NativeFile::IsReady(std::chrono::milliseconds /*longest*/) const {
+  return true;
+}
+
 std::size_t NativeFile::Read(std::span<char> buffer) const {
   const auto wanted = static_cast<DWORD>(std::min(buffer.size(), kMostBytesPerCall));
   DWORD bytesRead = 0;

@@ -1,0 +1,125 @@
+// What came of a count, as one value: how it ended, the words, the files, and what was skipped.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "engine/word_filters.h"
+#include "engine/word_store.h"
+#include "listing/frequency_ranking.h"
+#include "listing/list_line.h"
+#include "sources/line_endings.h"
+#include "sources/marker_fault.h"
+
+namespace quillomat {
+
+/// Why something is not read.
+enum class Refusal {
+  kNone,
+  // The request. See FindMarkerFault and FindExtensionFault for the first two.
+  kBadMarkers,
+  kBadExtensions,
+  /// No path, or no stream.
+  kNothingNamed,
+  kFolderNotFound,
+  kFolderHasNoFiles,
+  kOutputInFolder,
+  /// The observer did not want to go on.
+  kDeclined,
+  // A single text, or one of many.
+  kIsFolder,
+  kNotFound,
+  kCannotBeOpened,
+  kNotText,
+  kEmpty,
+  kIsOutput,
+  /// Reading began and failed; the error goes with it. Words read before it count.
+  kReadFailed,
+  kFolderUnreadable,
+};
+
+/// Whether a file or folder that is left out for that reason should have been read: a list without
+/// it is not complete. What is no text, or empty, or the output file, is left out by design.
+[[nodiscard]] bool IsFault(Refusal reason);
+
+/// What the bytes of a text are. Without a mark each line is judged on its own.
+enum class TextEncoding { kUtf8OrWindows1252, kUtf8WithMark, kUtf16LittleEndian, kUtf16BigEndian };
+
+/// What became of one file.
+struct FileReport {
+  /// As it was walked to or given; a stream's name.
+  std::string path;
+  /// kNone for one that was read, if only until a stop.
+  Refusal refusal = Refusal::kNone;
+  /// Why it could not be opened or read.
+  std::optional<RunTimeError> error;
+  /// So many were read.
+  std::int64_t bytesRead = 0;
+  TextEncoding encoding = TextEncoding::kUtf8OrWindows1252;
+  /// Judged by the first bytes.
+  LineEndingType lineEnds = LineEndingType::kDos;
+};
+
+struct SkippedFile {
+  /// A folder's, for kFolderUnreadable.
+  std::string path;
+  Refusal reason = Refusal::kNone;
+  std::optional<RunTimeError> error;
+};
+
+enum class CountEnd {
+  kComplete,
+  /// The observer asked for it while text was read; the words found until then are there.
+  kStopped,
+  /// The observer asked for it in the counting pass.
+  kStoppedCounting,
+  /// Nothing was read, see `refusal`.
+  kRefused,
+  /// See `error`.
+  kFailed,
+};
+
+struct CountResult {
+  /// So many skipped files are kept.
+  static constexpr std::size_t kMaxSkipped = 1000;
+
+  CountEnd end = CountEnd::kComplete;
+  Refusal refusal = Refusal::kNone;
+  std::optional<RunTimeError> error;
+
+  WordStore store;
+  WordTotals totals;
+  FrequencyRanking ranking;
+  /// Candidate words read, counted or not.
+  std::int32_t wordsRead = 0;
+  bool countOnlyMode = false;
+
+  /// Files that were read, and folders visited, the chosen one included. After a stop in the
+  /// counting pass those that were met.
+  std::int32_t files = 0;
+  std::int32_t folders = 0;
+  /// Every file that was met, in their order; only if the request wants them, and for a single one.
+  std::vector<FileReport> reports;
+  /// What was left out of a folder or a list of paths although it should have been read (IsFault):
+  /// the first kMaxSkipped, and how many in all.
+  std::vector<SkippedFile> skipped;
+  std::int64_t skippedInAll = 0;
+  /// Files that were left out by design: no text, empty, the output file.
+  std::int64_t leftOut = 0;
+
+  /// The open comment that the last text has left behind.
+  int openComment = -1;
+
+  /// Works out which words are listed, the totals and the ranking. May be called again with other
+  /// filters. With count-only words every one that was found is listed.
+  void Rank(const FilterChoices& filters);
+
+  /// What the listing wants. Rank comes first.
+  [[nodiscard]] CountedWords Counted() const { return {store, ranking, totals}; }
+};
+
+}  // namespace quillomat

@@ -1,0 +1,43 @@
+// One count, without a window: a request goes in, an observer is told and asked, a result comes
+// out. Nothing here shows a message; what went wrong is a value in the result.
+//
+//   const CountResult result = Counter(request).Run();
+//
+// What ends a count, and what does not: a single text that cannot be read is refused, or fails with
+// a run-time error. Of a folder or a list of paths it is skipped, also when memory runs out over
+// it, and the count goes on. An overflow of a counter fails any count.
+#pragma once
+
+#include "sources/count_observer.h"
+#include "sources/count_request.h"
+#include "sources/count_result.h"
+
+namespace quillomat {
+
+class Counter {
+ public:
+  /// Counts for nobody.
+  explicit Counter(const CountRequest& request) : Counter(request, nobody_) {}
+  /// Both outlive the counter.
+  Counter(const CountRequest& request, CountObserver& observer)
+      : request_(request), observer_(observer) {}
+  Counter(const Counter&) = delete;
+  Counter& operator=(const Counter&) = delete;
+  Counter(Counter&&) = delete;
+  Counter& operator=(Counter&&) = delete;
+  ~Counter() = default;
+
+  /// Makes the count. To be called once.
+  [[nodiscard]] CountResult Run();
+
+  /// Why a count would be refused before anything is read, as far as that can be told without
+  /// opening a file; kNone if it would not.
+  [[nodiscard]] static Refusal Check(const CountRequest& request);
+
+ private:
+  CountObserver nobody_;
+  const CountRequest& request_;
+  CountObserver& observer_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,31 @@
+// The walk through a folder: its files in the order of their names, then its subfolders.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "sources/count_request.h"
+
+namespace quillomat {
+
+/// What a walk does with what it meets.
+struct FolderVisitor {
+  std::function<void(const std::string& path)> onFile;
+  /// A folder below the one that the walk started in.
+  std::function<void()> onSubfolder;
+  std::function<void(const std::string& path)> onUnreadableFolder;
+  /// Asked after every file and every subfolder; true ends the walk.
+  std::function<bool()> stops;
+};
+
+/// Visits the files that the folder's filter admits, each with its path as PathForWalk writes it.
+void WalkFolder(const TextOfFolder& folder, const FolderVisitor& visitor);
+
+/// Whether a file whose name fits `pattern` (wildcard.h) is in the folder or, if asked for,
+/// anywhere below it. What may not be read holds none.
+[[nodiscard]] bool FolderHasFile(const std::string& path, std::string_view pattern,
+                                 bool includeSubfolders);
+
+}  // namespace quillomat
