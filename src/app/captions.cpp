@@ -3,7 +3,6 @@
 #include <span>
 
 #include "sources/window_state.h"
-#include "text/caption_table.h"
 
 namespace quillomat {
 namespace {
@@ -17,6 +16,18 @@ void SetCaption(Control& control, const std::string& caption) {
   if (auto* box = control.As<CheckBox>()) box->SetCaption(caption);
   if (auto* option = control.As<OptionButton>()) option->SetCaption(caption);
   if (auto* frame = control.As<Frame>()) frame->SetCaption(caption);
+}
+
+/// `others` and what the settings of the window have by `number`.
+std::vector<ControlCaption> WithSettings(SettingWindow window,
+                                         std::span<const ControlCaption> others,
+                                         int Setting::*number) {
+  std::vector<ControlCaption> all(others.begin(), others.end());
+  for (const Setting& setting : AllSettings()) {
+    if (setting.window != window || setting.*number == 0) continue;
+    all.push_back({setting.control, setting.*number});
+  }
+  return all;
 }
 
 void SetCaptionsOf(Form& form, std::span<const ControlCaption> captions, const ProgramText& text) {
@@ -41,17 +52,33 @@ std::string VersionText() {
   return std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "7";
 }
 
+std::vector<ControlCaption> CaptionsOf(SettingWindow window) {
+  const bool main = window == SettingWindow::kMain;
+  return WithSettings(window,
+                      main ? std::span<const ControlCaption>(kMainFormCaptions)
+                           : std::span<const ControlCaption>(kParamsFormCaptions),
+                      &Setting::caption);
+}
+
+std::vector<ControlCaption> ToolTipsOf(SettingWindow window) {
+  const bool main = window == SettingWindow::kMain;
+  return WithSettings(window,
+                      main ? std::span<const ControlCaption>(kMainFormToolTips)
+                           : std::span<const ControlCaption>(kParamsFormToolTips),
+                      &Setting::toolTip);
+}
+
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
                  HelpForm& frmHelp) {
   frmMain.SetCaption(text.GetText(kProgramTitleText) + " " + VersionText());
-  SetCaptionsOf(frmMain, kMainFormCaptions, text);
-  SetToolTipsOf(frmMain, kMainFormToolTips, text);
+  SetCaptionsOf(frmMain, CaptionsOf(SettingWindow::kMain), text);
+  SetToolTipsOf(frmMain, ToolTipsOf(SettingWindow::kMain), text);
   if (frmMain.cmdCountWords.Caption() != kStopCaption) {
     frmMain.cmdCountWords.SetCaption(text.GetText(kCountCaptionText));
   }
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
-  SetCaptionsOf(frmParams, kParamsFormCaptions, text);
-  SetToolTipsOf(frmParams, kParamsFormToolTips, text);
+  SetCaptionsOf(frmParams, CaptionsOf(SettingWindow::kPanel), text);
+  SetToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel), text);
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
   SetToolTipsOf(frmHelp, kHelpFormToolTips, text);

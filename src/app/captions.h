@@ -2,7 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "app/settings_table.h"
+#include "text/caption_table.h"
 #include "text/program_text.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
@@ -12,6 +15,11 @@ namespace quillomat {
 
 /// The program's version as it is shown: the major number, a point, the minor number, and a 7.
 [[nodiscard]] std::string VersionText();
+
+/// Which text is the caption (tool tip) of which control of a window: of its settings and of the
+/// others.
+[[nodiscard]] std::vector<ControlCaption> CaptionsOf(SettingWindow window);
+[[nodiscard]] std::vector<ControlCaption> ToolTipsOf(SettingWindow window);
 
 /// Sets all captions that are numbered texts. While a count runs its command goes on reading
 /// "Stop".

@@ -1,12 +1,10 @@
 #include "app/parameters_panel.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <utility>
-#include <vector>
 
+#include "app/setting_values.h"
 #include "base/text_helpers.h"
 #include "listing/set_the_focus.h"
 #include "sources/panel_choices.h"
@@ -14,48 +12,47 @@
 namespace quillomat {
 namespace {
 
-constexpr int kDefaultShortWordSizeIndex = 1;
-constexpr int kDefaultLongWordSizeIndex = 3;
-constexpr int kDefaultThresholdFrequencyIndex = 0;
-
-/// The boxes that decide how text is scanned: a change of theirs makes the counts on display
-/// outdated.
-std::vector<CheckBox*> ScanningBoxes(ParamsForm& panel) {
-  const auto allow = panel.AllowCheckBoxes();
-  std::vector<CheckBox*> boxes(allow.begin(), allow.end());
-  boxes.insert(boxes.end(),
-               {&panel.chkCaseSignificant, &panel.chkDropFinalS, &panel.chkAllowCommentMarkers});
-  return boxes;
-}
-
-/// All boxes in the order in which "Clear checkboxes" and "Set checkboxes" go through them.
-std::vector<CheckBox*> BoxesInClearingOrder(ParamsForm& panel) {
-  const auto allow = panel.AllowCheckBoxes();
-  std::vector<CheckBox*> boxes(allow.begin(), allow.end());
-  boxes.insert(
-      boxes.end(),
-      {&panel.chkCaseSignificant, &panel.chkDropFinalS, &panel.chkIgnoreInfrequentWords,
-       &panel.chkIgnoreRepetitions, &panel.chkIgnoreRomNum40, &panel.chkIgnoreNoVowelOrY,
-       &panel.chkIgnoreShortWords, &panel.chkOutputWithCommas, &panel.chkUseLog10,
-       &panel.chkAllowCommentMarkers, &panel.chkWarnOnOverwrite, &panel.chkSaveStateOnQuit});
-  return boxes;
+/// Whether a row is a parameter of the panel: what "Restore defaults" puts to its default.
+bool IsParameter(const Setting& setting) {
+  return setting.window == SettingWindow::kPanel && setting.resetBy == ResetBy::kRestoreDefaults;
 }
 
 }  // namespace
 
 void ParametersPanel::Connect(std::function<void()> initialize) {
   initialize_ = std::move(initialize);
-  ConnectScanningBoxes();
-  ConnectListingChoices();
-  ConnectMarkers();
+  ConnectParameters();
   ConnectWordLists();
   ConnectCommands();
 }
 
-void ParametersPanel::ConnectScanningBoxes() {
-  for (CheckBox* box : ScanningBoxes(context_.frmParams)) {
+void ParametersPanel::ConnectParameters() {
+  for (const Setting& setting : AllSettings()) {
+    if (!IsParameter(setting) || setting.entails == Entails::kNothing) continue;
+    Control& control = ControlOf(setting, context_.frmMain, context_.frmParams);
+    if (setting.entails == Entails::kRescan) {
+      ConnectScanningChoice(control);
+    } else {
+      ConnectListingChoice(control);
+    }
+  }
+}
+
+void ParametersPanel::ConnectScanningChoice(Control& control) {
+  if (auto* box = control.As<CheckBox>()) {
     box->Click.Connect([this, box] { OnScanningBoxClick(*box); });
   }
+  if (auto* box = control.As<TextBox>()) {
+    box->LostFocus.Connect([this, box] {
+      box->SetText(std::string(TrimBlanks(box->Text())));
+      context_.state.blnWordsGot = false;
+    });
+  }
+}
+
+void ParametersPanel::ConnectListingChoice(Control& control) {
+  if (auto* box = control.As<CheckBox>()) box->Click.Connect([this] { FocusClose(); });
+  if (auto* combo = control.As<ComboBox>()) combo->Click.Connect([this] { FocusClose(); });
 }
 
 void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
@@ -86,34 +83,9 @@ bool ParametersPanel::ConfirmReRead() {
   return true;
 }
 
-void ParametersPanel::ConnectListingChoices() {
-  ParamsForm& panel = context_.frmParams;
-  for (CheckBox* box :
-       {&panel.chkIgnoreShortWords, &panel.chkIgnoreInfrequentWords, &panel.chkIgnoreRepetitions,
-        &panel.chkIgnoreRomNum40, &panel.chkIgnoreNoVowelOrY}) {
-    box->Click.Connect([this] { FocusClose(); });
-  }
-  for (ComboBox* combo :
-       {&panel.cboShortWordSize, &panel.cboLongWordSize, &panel.cboThresholdFrequency}) {
-    combo->Click.Connect([this] { FocusClose(); });
-  }
-}
-
 void ParametersPanel::FocusClose() {
   ParamsForm& panel = context_.frmParams;
   if (context_.state.blnStartUpCompleted) panel.SetFocus(panel.cmdClose);
-}
-
-void ParametersPanel::ConnectMarkers() {
-  ParamsForm& panel = context_.frmParams;
-  for (std::size_t pair = 0; pair < 2; ++pair) {
-    for (TextBox* box : {&panel.txbStartComment[pair], &panel.txbEndComment[pair]}) {
-      box->LostFocus.Connect([this, box] {
-        box->SetText(std::string(TrimBlanks(box->Text())));
-        context_.state.blnWordsGot = false;
-      });
-    }
-  }
 }
 
 void ParametersPanel::ConnectWordLists() {
@@ -158,29 +130,16 @@ void ParametersPanel::SetAllCheckBoxes(CheckState state) {
 }
 
 void ParametersPanel::SetDefaultValues() {
-  SetDefaultCheckBoxes();
-  ParamsForm& panel = context_.frmParams;
-  context_.state.settings.SetCommentMarkers("C", ReadScanChoices(panel));
-  panel.txbStartComment[0].SetText("/*");
-  panel.txbEndComment[0].SetText("*/");
-  panel.txbStartComment[1].SetText("//");
-  panel.txbEndComment[1].SetText("");
-  panel.cboShortWordSize.SetListIndex(kDefaultShortWordSizeIndex);
-  panel.cboLongWordSize.SetListIndex(kDefaultLongWordSizeIndex);
-  panel.cboThresholdFrequency.SetListIndex(kDefaultThresholdFrequencyIndex);
+  SetDefaults(true);
+  context_.state.settings.SetCommentMarkers("C", ReadScanChoices(context_.frmParams));
+  SetDefaults(false);
 }
 
-void ParametersPanel::SetDefaultCheckBoxes() {
-  ParamsForm& panel = context_.frmParams;
-  const std::array<const CheckBox*, 7> checkedByDefault = {
-      &panel.chkIgnoreRepetitions,    &panel.chkIgnoreRomNum40,
-      &panel.chkIgnoreNoVowelOrY,     &panel.chkUseLog10,
-      &panel.chkWarnOnOverwrite,      &panel.chkSaveStateOnQuit,
-      &panel.chkAllowWordsWithHyphens};
-  for (CheckBox* box : panel.AllCheckBoxes()) {
-    const bool isChecked =
-        std::find(checkedByDefault.begin(), checkedByDefault.end(), box) != checkedByDefault.end();
-    box->SetChecked(isChecked);
+void ParametersPanel::SetDefaults(bool checkBoxes) {
+  for (const Setting& setting : AllSettings()) {
+    if (!IsParameter(setting)) continue;
+    Control& control = ControlOf(setting, context_.frmMain, context_.frmParams);
+    if ((control.Kind() == ControlKind::kCheckBox) == checkBoxes) SetToDefault(setting, control);
   }
 }
 

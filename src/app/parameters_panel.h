@@ -21,15 +21,16 @@ class ParametersPanel {
   void SetDefaultValues();
 
  private:
-  void ConnectScanningBoxes();
-  void ConnectListingChoices();
-  void ConnectMarkers();
+  void ConnectParameters();
+  void ConnectScanningChoice(Control& control);
+  void ConnectListingChoice(Control& control);
   void ConnectWordLists();
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
   [[nodiscard]] bool ConfirmReRead();
   void SetAllCheckBoxes(CheckState state);
-  void SetDefaultCheckBoxes();
+  /// Of the check boxes, or of all parameters that are none.
+  void SetDefaults(bool checkBoxes);
   void FocusClose();
   void Close();
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/captions.h"
+#include "app/setting_values.h"
 #include "base/run_time_error.h"
 #include "listing/set_the_focus.h"
 #include "listing/summary.h"
@@ -114,13 +115,17 @@ void Program::Initialize() {
     wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
   panel_.SetDefaultValues();
-  for (CheckBox* box : {&frmMain.chkSuppressWords, &frmMain.chkDisableOutputToFile,
-                        &frmMain.chkIncludeSubfolders}) {
-    box->SetChecked(false);
-  }
+  SetMainWindowsDefaults(ControlKind::kCheckBox);
   state.displayingWords = false;
-  frmMain.cboWordOrder.SetListIndex(0);
-  frmMain.cboDisplayFormat.SetListIndex(0);
+  SetMainWindowsDefaults(ControlKind::kComboBox);
+}
+
+void Program::SetMainWindowsDefaults(ControlKind kind) {
+  for (const Setting& setting : AllSettings()) {
+    if (setting.window != SettingWindow::kMain) continue;
+    Control& control = ControlOf(setting, frmMain, frmParams);
+    if (control.Kind() == kind) SetToDefault(setting, control);
+  }
 }
 
 void Program::UseSettingsFolder() {

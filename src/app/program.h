@@ -91,6 +91,7 @@ class Program {
  private:
   void Connect();
   void FillLists();
+  void SetMainWindowsDefaults(ControlKind kind);
   void ToggleLanguage();
   void End();
 

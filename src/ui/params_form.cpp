@@ -22,32 +22,6 @@ std::array<CheckBox*, ParamsForm::kAllowFlagCount> ParamsForm::AllowCheckBoxes()
           &chkAllowWordsWithNumerals};
 }
 
-std::array<CheckBox*, ParamsForm::kCheckBoxCount> ParamsForm::AllCheckBoxes() {
-  return {&chkCaseSignificant,
-          &chkIgnoreShortWords,
-          &chkIgnoreInfrequentWords,
-          &chkIgnoreRepetitions,
-          &chkIgnoreRomNum40,
-          &chkIgnoreNoVowelOrY,
-          &chkAllowWordsWithHyphens,
-          &chkAllowWordsWithApostrophes,
-          &chkAllowWordsWithUnderscores,
-          &chkAllowWordsWithColons,
-          &chkAllowWordsWithBackslashes,
-          &chkAllowWordsWithForwardslashes,
-          &chkAllowWordsWithParentheses,
-          &chkAllowWordsWithPeriods,
-          &chkAllowWordsWithCommas,
-          &chkAllowWordsWithAtSigns,
-          &chkAllowWordsWithNumerals,
-          &chkDropFinalS,
-          &chkOutputWithCommas,
-          &chkUseLog10,
-          &chkAllowCommentMarkers,
-          &chkWarnOnOverwrite,
-          &chkSaveStateOnQuit};
-}
-
 void ParamsForm::FillNumberCombos() {
   AddNumbers(cboShortWordSize, 2, 9, 1);
   AddNumbers(cboLongWordSize, 20, 100, 10);

@@ -15,12 +15,9 @@ class ParamsForm final : public Form {
   ParamsForm();
 
   static constexpr std::size_t kAllowFlagCount = 11;
-  static constexpr std::size_t kCheckBoxCount = 23;
 
   /// The boxes that allow a sign in words, in the order of the allow flags: hyphens to numerals.
   [[nodiscard]] std::array<CheckBox*, kAllowFlagCount> AllowCheckBoxes();
-  /// All check boxes, in the order in which they are put to their defaults.
-  [[nodiscard]] std::array<CheckBox*, kCheckBoxCount> AllCheckBoxes();
 
   /// Fills the three lists of numbers; called once, at start-up. None is selected then.
   void FillNumberCombos();

@@ -1,6 +1,7 @@
 // The question of the parameters panel whether the text may be read anew.
 #include <gmock/gmock.h>
 
+#include "app/setting_values.h"
 #include "support/program_fixture.h"
 
 namespace quillomat {
@@ -35,7 +36,7 @@ TEST_F(PanelPrompts, YesMakesTheCountsOutdatedAndAsksNoMore) {
   Panel().cmdClearCheckboxes[1].PerformClick();
   EXPECT_EQ(OnlyMessage().text, "Changing this entails reading the clipboard anew.  Is this OK?");
   EXPECT_FALSE(State().blnWordsGot);
-  for (CheckBox* box : Panel().AllCheckBoxes()) EXPECT_TRUE(box->IsChecked()) << box->Name();
+  for (CheckBox* box : BoxesInClearingOrder(Panel())) EXPECT_TRUE(box->IsChecked()) << box->Name();
 }
 
 TEST_F(PanelPrompts, SetCheckboxesAsksForEveryScanningBoxUntilYes) {

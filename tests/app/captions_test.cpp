@@ -1,5 +1,5 @@
-// The texts that are delivered, and the table that says what they are for.
-#include "text/caption_table.h"
+// The texts that are delivered, and the tables that say what they are for.
+#include "app/captions.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -92,16 +92,16 @@ std::vector<std::string> WithoutEntry(const Form& form, std::span<const ControlC
 
 TEST_F(DeliveredTextsTest, MainWindow) {
   const MainForm form;
-  ExpectCaptionsOf(form, kMainFormCaptions);
-  EXPECT_THAT(WithoutEntry(form, kMainFormCaptions),
+  ExpectCaptionsOf(form, CaptionsOf(SettingWindow::kMain));
+  EXPECT_THAT(WithoutEntry(form, CaptionsOf(SettingWindow::kMain)),
               testing::ElementsAre("cmdCountWords", "lblTwirler"));
   EXPECT_EQ(In(Language::kEnglish, 21), form.cmdCountWords.Caption());
 }
 
 TEST_F(DeliveredTextsTest, Panel) {
   const ParamsForm form;
-  ExpectCaptionsOf(form, kParamsFormCaptions);
-  EXPECT_THAT(WithoutEntry(form, kParamsFormCaptions), testing::IsEmpty());
+  ExpectCaptionsOf(form, CaptionsOf(SettingWindow::kPanel));
+  EXPECT_THAT(WithoutEntry(form, CaptionsOf(SettingWindow::kPanel)), testing::IsEmpty());
   EXPECT_EQ(In(Language::kEnglish, kParamsFormCaption), form.Caption());
   EXPECT_NE(In(Language::kGerman, kParamsFormCaption), "");
 }
@@ -118,8 +118,8 @@ TEST_F(DeliveredTextsTest, ToolTips) {
   const MainForm frmMain;
   const ParamsForm frmParams;
   const HelpForm frmHelp;
-  ExpectToolTipsOf(frmMain, kMainFormToolTips);
-  ExpectToolTipsOf(frmParams, kParamsFormToolTips);
+  ExpectToolTipsOf(frmMain, ToolTipsOf(SettingWindow::kMain));
+  ExpectToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel));
   ExpectToolTipsOf(frmHelp, kHelpFormToolTips);
 }
 
