@@ -1,5 +1,6 @@
 #include "app/state_file.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -7,8 +8,10 @@
 #include <optional>
 #include <string_view>
 #include <utility>
+#include <vector>
 
-#include "base/byte_sink.h"
+#include "app/escaped_text.h"
+#include "app/setting_values.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -17,6 +20,11 @@
 
 namespace quillomat {
 namespace {
+
+/// A text as its line holds it. A path may hold a line break, but a value is one line.
+std::string Quoted(std::string_view text) {
+  return "\"" + ReplaceAll(ReplaceAll(text, "\r", " "), "\n", " ") + "\"";
+}
 
 /// The text of a line: what stands between the quotes, or the whole line where there are none.
 std::string_view Unquoted(std::string_view line) {
@@ -49,62 +57,122 @@ std::int32_t NumericValue(std::string_view text) {
   return static_cast<std::int32_t>(rounded);
 }
 
-class ValueWriter {
- public:
-  explicit ValueWriter(ByteSink& file) : file_(file) {}
-
-  /// A path may hold a line break, but a value is one line.
-  void operator()(const TextBox* box) const {
-    WriteLine("\"" + ReplaceAll(ReplaceAll(box->Text(), "\r", " "), "\n", " ") + "\"");
+/// A value as its line holds it.
+struct LineOf {
+  std::string operator()(const TextBox* box) const { return Quoted(box->Text()); }
+  std::string operator()(const ComboBox* box) const { return std::to_string(box->ListIndex()); }
+  std::string operator()(const CheckBox* box) const {
+    return std::to_string(static_cast<int>(box->Value()));
   }
-  void operator()(const ComboBox* box) const { WriteLine(std::to_string(box->ListIndex())); }
-  void operator()(const CheckBox* box) const {
-    WriteLine(std::to_string(static_cast<int>(box->Value())));
+  std::string operator()(const SourceButtons& source) const {
+    return std::to_string(source.clipboard->Value() ? 0 : source.file->Value() ? 1 : 2);
   }
-  void operator()(const SourceButtons& source) const {
-    const int button = source.clipboard->Value() ? 0 : source.file->Value() ? 1 : 2;
-    WriteLine(std::to_string(button));
-  }
-
- private:
-  void WriteLine(const std::string& value) const {
-    file_.Write(value);
-    file_.Write(kCrLf);
-  }
-
-  ByteSink& file_;
 };
 
 class ValueReader {
  public:
-  explicit ValueReader(LineDecoder& lines) : lines_(lines) {}
+  explicit ValueReader(std::string_view line) : line_(line) {}
 
-  void operator()(TextBox* box) const { box->SetText(std::string(Unquoted(NextLine()))); }
+  void operator()(TextBox* box) const { box->SetText(std::string(Unquoted(line_))); }
   void operator()(ComboBox* box) const {
-    const std::int32_t index = WholeNumber(NextLine());
+    const std::int32_t index = WholeNumber(line_);
     if (index < -1 || std::cmp_greater_equal(index, box->Items().size())) {
       throw ListIndexOutOfRange();
     }
     box->SetListIndex(index);
   }
   void operator()(CheckBox* box) const {
-    const std::int32_t value = NumericValue(Unquoted(NextLine()));
+    const std::int32_t value = NumericValue(Unquoted(line_));
     if (value < 0 || value > 2) throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue);
     box->SetValue(static_cast<CheckState>(value));
   }
   void operator()(const SourceButtons& source) const {
-    const std::int32_t button = WholeNumber(NextLine());
+    const std::int32_t button = WholeNumber(line_);
     (button == 0 ? source.clipboard : button == 1 ? source.file : source.folder)->SetValue(true);
   }
 
  private:
-  [[nodiscard]] std::string_view NextLine() const {
-    const std::optional<std::string_view> line = lines_.NextLine();
-    if (!line) throw RunTimeError(RunTimeErrorNumber::kInputPastEnd);
-    return *line;
+  std::string_view line_;
+};
+
+std::string_view NextLine(LineDecoder& lines) {
+  const std::optional<std::string_view> line = lines.NextLine();
+  if (!line) throw RunTimeError(RunTimeErrorNumber::kInputPastEnd);
+  return *line;
+}
+
+/// What may stand behind the 45 lines.
+class NamedLines {
+ public:
+  NamedLines(MainForm& frmMain, ParamsForm& frmParams, std::span<const Setting> settings)
+      : frmMain_(frmMain), frmParams_(frmParams), settings_(settings) {
+    for (const StateValue& value : StateValuesOf(frmMain, frmParams)) {
+      std::visit([this](const auto& control) { NoteLineOf(control); }, value);
+    }
   }
 
-  LineDecoder& lines_;
+  [[nodiscard]] std::string Text() const {
+    std::string text;
+    for (const Setting& setting : settings_) {
+      const Control& control = ControlOf(setting, frmMain_, frmParams_);
+      if (HasLine(control) ? IsKeptByItsLine(setting, control) : HasDefault(setting, control)) {
+        continue;
+      }
+      text.append(setting.control).append("=").append(ValueOf(control)).append(kCrLf);
+    }
+    return text;
+  }
+
+  void Read(LineDecoder& lines) const {
+    for (const Setting& setting : settings_) {
+      Control& control = ControlOf(setting, frmMain_, frmParams_);
+      if (!HasLine(control)) SetToDefault(setting, control);
+    }
+    while (const auto line = lines.NextLine()) Take(*line);
+  }
+
+ private:
+  void NoteLineOf(const Control* control) { controlsWithLine_.push_back(control); }
+  void NoteLineOf(const SourceButtons& /*noSetting*/) {}
+
+  [[nodiscard]] bool HasLine(const Control& control) const {
+    return std::ranges::find(controlsWithLine_, &control) != controlsWithLine_.end();
+  }
+
+  static bool IsKeptByItsLine(const Setting& setting, const Control& control) {
+    if (!setting.isPath) return true;
+    const std::string& path = control.As<TextBox>()->Text();
+    return Unquoted(DecodeLine(Quoted(path))) == path;
+  }
+
+  static std::string ValueOf(const Control& control) {
+    if (const auto* text = control.As<TextBox>()) return EscapedText(text->Text());
+    if (const auto* combo = control.As<ComboBox>()) return LineOf()(combo);
+    return LineOf()(control.As<CheckBox>());
+  }
+
+  void Take(std::string_view line) const {
+    const std::size_t equals = line.find('=');
+    if (equals == std::string_view::npos) return;
+    const Setting* const setting = FindSetting(settings_, line.substr(0, equals));
+    if (setting == nullptr) return;
+    const std::string_view value = line.substr(equals + 1);
+    Control& control = ControlOf(*setting, frmMain_, frmParams_);
+    if (auto* text = control.As<TextBox>()) {
+      std::optional<std::string> unescaped = UnescapedText(value);
+      if (!unescaped) throw RunTimeError(RunTimeErrorNumber::kTypeMismatch);
+      return text->SetText(std::move(*unescaped));
+    }
+    static_cast<void>(WholeNumber(value));  // here a check box takes nothing else either
+    const ValueReader reader(value);
+    if (auto* combo = control.As<ComboBox>()) reader(combo);
+    if (auto* box = control.As<CheckBox>()) reader(box);
+  }
+
+  MainForm& frmMain_;
+  ParamsForm& frmParams_;
+  std::span<const Setting> settings_;
+  std::vector<const Control*> controlsWithLine_;
 };
 
 }  // namespace
@@ -157,18 +225,25 @@ std::array<StateValue, kStateValues> StateValuesOf(MainForm& frmMain, ParamsForm
           SourceButtons{&frmMain.optOnClipboard, &frmMain.optInFile, &frmMain.optFolder}};
 }
 
-void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams) {
+void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
+                    std::span<const Setting> settings) {
   OutputFile file(path);
-  const ValueWriter writer(file);
-  for (const StateValue& value : StateValuesOf(frmMain, frmParams)) std::visit(writer, value);
+  for (const StateValue& value : StateValuesOf(frmMain, frmParams)) {
+    file.Write(std::visit(LineOf(), value));
+    file.Write(kCrLf);
+  }
+  file.Write(NamedLines(frmMain, frmParams, settings).Text());
   file.Close();
 }
 
-void ReadStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams) {
+void ReadStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
+                   std::span<const Setting> settings) {
   InputFile file(path);
   LineDecoder lines(file);
-  const ValueReader reader(lines);
-  for (const StateValue& value : StateValuesOf(frmMain, frmParams)) std::visit(reader, value);
+  for (const StateValue& value : StateValuesOf(frmMain, frmParams)) {
+    std::visit(ValueReader(NextLine(lines)), value);
+  }
+  NamedLines(frmMain, frmParams, settings).Read(lines);
 }
 
 }  // namespace quillomat

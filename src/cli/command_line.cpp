@@ -1,12 +1,17 @@
 #include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <memory>
 #include <ostream>
+#include <string_view>
 #include <utility>
 
 #include "app/captions.h"
 #include "base/text_helpers.h"
 #include "cli/exit_status.h"
+#include "cli/help_formatter.h"
 
 namespace quillomat {
 namespace {
@@ -14,9 +19,12 @@ namespace {
 constexpr unsigned kMostThreads = 64;
 
 constexpr const char* kFooter =
+    "An option and its opposite: (on) tells what holds without them.\n"
+    "\n"
     "Controls for --set are those of the main window and the panel, by name:\n"
     "  --set chkDropFinalS=1   --set 'txbFileExtensions(0)=txt htm'   --set cboLongWordSize=20\n"
-    "A check box takes 0, 1 or 2 (grey), a list an item's text or #INDEX.\n"
+    "A check box takes 0, 1 or 2 (grey), a list an item's text or #INDEX. Options and --set\n"
+    "are applied together, after a state; two that contradict each other are an error.\n"
     "\n"
     "Formats: 0 rank frequency word, 1 rank word frequency, 2 rank frequency, 3 rank word,\n"
     "4 frequency rank, 5 frequency word, 6 word rank, 7 word frequency, 8 word, 9 word (+commas),\n"
@@ -26,50 +34,109 @@ constexpr const char* kFooter =
     "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line,\n"
     "130 interrupted (Ctrl+C), 143 asked to end; then every file is as it was.";
 
-void DefineOptions(CLI::App& app, CommandLine& options, std::vector<std::string>& set,
-                   std::vector<std::string>& answers) {
-  auto* source = app.add_option_group("source", "Where the text comes from (one of these)");
-  source->add_option("--file", options.file, "Count the words of a text file")->type_name("PATH");
-  source->add_option("--folder", options.folder, "Count the words of a folder's files")
-      ->type_name("PATH");
-  source
-      ->add_option("--text", options.text,
-                   "Count the words of PATH, or of standard input for -, as a clipboard text")
-      ->type_name("PATH|-");
-  source->require_option(1);
-  app.add_flag("--subfolders", options.subfolders, "With --folder: the folders below it, too");
+/// The headings of help, in their order.
+constexpr auto kHeadings = std::to_array<std::pair<OptionGroup, const char*>>(
+    {{OptionGroup::kTheText, "The text (one of the first three)"},
+     {OptionGroup::kTheList, "The list"},
+     {OptionGroup::kWhatAWordIs, "What a word is"},
+     {OptionGroup::kWordsLeftOut, "Words that are left out"},
+     {OptionGroup::kWordLists, "Words to ignore, or to count alone"},
+     {OptionGroup::kStates, "Settings"}});
+constexpr const char* kRunHeading = "The run";
+
+/// An option that takes a value, or several when it may be repeated.
+template <typename Value>
+CLI::Option* AddValue(CLI::App& app, const char* name, Value& value, const char* argument,
+                      const char* help) {
+  return app.add_option(name, value, help)->option_text(argument)->allow_extra_args(false);
+}
+
+void DefineText(CLI::App& app, CommandLine& options) {
+  AddValue(app, "--file", options.file, "PATH", "Count the words of a text file");
+  AddValue(app, "--folder", options.folder, "PATH", "Count the words of a folder's files");
+  AddValue(app, "--text", options.text, "PATH|-",
+           "Count the words of PATH, or of standard input for -, as a clipboard text");
   app.add_flag("--list-files", options.listFiles,
                "With --folder: list the files that would be read, and count nothing");
-  app.add_option("--order", options.order, "frequency (the default) or alphabetical")
-      ->type_name("ORDER");
-  app.add_option(
-         "--format", options.format,
-         "A display format by its name or number, 0 to 13; 'rank frequency word' if not given")
-      ->type_name("FORMAT");
-  app.add_option("--output", options.output, "Write the list to a file, not to standard output")
-      ->type_name("PATH");
-  app.add_option("--set", set, "Set a control before the count; may be repeated")
-      ->type_name("CONTROL=VALUE")
-      ->allow_extra_args(false);
-  app.add_option("--state", options.state, "Start from the settings in a state file")
-      ->type_name("FILE");
-  app.add_option("--save-state", options.saveState,
-                 "Write the settings of this count to a state file")
-      ->type_name("FILE");
+}
+
+void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>& set) {
+  AddValue(app, "--set", set, "CONTROL=VALUE", "Set a control before the count; may be repeated");
+  AddValue(app, "--state", options.state, "FILE", "Start from the settings in a state file");
+  AddValue(app, "--save-state", options.saveState, "FILE",
+           "Write the settings of this count to a state file");
   app.add_flag("--user-settings", options.userSettings,
                "Start from the settings that the program saved when the user quit");
+}
+
+void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& answers) {
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
-  app.add_option("--threads", options.threads,
-                 "How many threads may scan a large text; one for every core if not given")
-      ->type_name("N")
+  AddValue(app, "--threads", options.threads, "N",
+           "How many threads may scan a large text; one for every core if not given")
       ->check(CLI::Range(1U, kMostThreads));
-  app.add_option("--answer", answers,
-                 "The answer to the question with that title, e.g. "
-                 "'The output file exists.=OK'; may be repeated")
-      ->type_name("TITLE=ANSWER")
-      ->allow_extra_args(false);
+  AddValue(app, "--answer", answers, "TITLE=ANSWER",
+           "The answer to the question with that title, e.g. "
+           "'The output file exists.=OK'; may be repeated");
+}
+
+/// The options of the table of settings.
+class SettingOptions {
+ public:
+  SettingOptions() {
+    for (const Setting& setting : AllSettings()) {
+      if (setting.option.kind != OptionKind::kNone) given_.push_back({&setting, {}});
+    }
+    defined_.resize(given_.size());
+  }
+
+  void Define(CLI::App& app, OptionGroup group) {
+    for (std::size_t i = 0; i < given_.size(); ++i) {
+      const SettingOption& option = given_[i].setting->option;
+      if (option.group == group) defined_[i] = Define(app, option, given_[i].values);
+    }
+  }
+
+  /// What was given, once the arguments are parsed.
+  [[nodiscard]] std::vector<GivenOption> Given() const {
+    std::vector<GivenOption> given;
+    for (std::size_t i = 0; i < given_.size(); ++i) {
+      if (!defined_[i]->results().empty()) {
+        given.push_back({given_[i].setting, defined_[i]->results()});
+      }
+    }
+    return given;
+  }
+
+ private:
+  static CLI::Option* Define(CLI::App& app, const SettingOption& option,
+                             std::vector<std::string>& values) {
+    const std::string name(option.name);
+    const std::string help(option.help);
+    if (option.kind == OptionKind::kSwitch) {
+      return app.add_flag(name + ",!" + std::string(option.opposite), help);
+    }
+    return AddValue(app, name.c_str(), values, std::string(option.argument).c_str(), help.c_str());
+  }
+
+  std::vector<GivenOption> given_;
+  std::vector<CLI::Option*> defined_;
+};
+
+/// Options get the heading of the group under which they are defined.
+void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings,
+                   std::vector<std::string>& set, std::vector<std::string>& answers) {
+  for (const auto& [group, heading] : kHeadings) {
+    app.option_defaults()->group(heading);
+    if (group == OptionGroup::kTheText) DefineText(app, options);
+    if (group == OptionGroup::kStates) DefineStates(app, options, set);
+    settings.Define(app, group);
+  }
+  app.option_defaults()->group(kRunHeading);
+  DefineRun(app, options, answers);
+  app.set_help_flag("--help", "Print this help");
+  app.set_version_flag("--version", "quillomat-cli " + VersionText(), "Print the version");
 }
 
 /// Splits "NAME=VALUE" at the first "="; without one the argument is at fault.
@@ -86,11 +153,24 @@ std::vector<std::pair<std::string, std::string>> SplitPairs(const std::string& o
   return pairs;
 }
 
+bool IsGiven(const CommandLine& options, std::string_view name) {
+  return std::ranges::any_of(options.settings, [&](const GivenOption& given) {
+    return given.setting->option.name == name && given.values.back() != "false";
+  });
+}
+
 void CheckCombinations(const CommandLine& options) {
+  const int sources = static_cast<int>(options.file.has_value()) +
+                      static_cast<int>(options.folder.has_value()) +
+                      static_cast<int>(options.text.has_value());
+  if (sources != 1) {
+    throw CLI::ValidationError(sources == 0 ? "no text" : "more than one text",
+                               "give one of --file, --folder and --text");
+  }
   const auto needsFolder = [&](bool given, const char* option) {
     if (given && !options.folder) throw CLI::ValidationError(option, "goes with --folder");
   };
-  needsFolder(options.subfolders, "--subfolders");
+  needsFolder(IsGiven(options, "--subfolders"), "--subfolders");
   needsFolder(options.listFiles, "--list-files");
   if (options.state && options.userSettings) {
     throw CLI::ValidationError("--state", "does not go with --user-settings");
@@ -111,17 +191,18 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
     return result;
   }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
-  app.set_help_flag("--help", "Print this help");
-  app.set_version_flag("--version", "quillomat-cli " + VersionText());
+  app.formatter(std::make_shared<HelpFormatter>());
   app.footer(kFooter);
+  SettingOptions settings;
   std::vector<std::string> set;
   std::vector<std::string> answers;
-  DefineOptions(app, result.options, set, answers);
+  DefineOptions(app, result.options, settings, set, answers);
   try {
     // The library takes them from the back on, without the program's name.
     std::vector<std::string> remaining(arguments.rbegin(), arguments.rend());
     if (!remaining.empty()) remaining.pop_back();
     app.parse(std::move(remaining));
+    result.options.settings = settings.Given();
     CheckCombinations(result.options);
     result.options.set = SplitPairs("--set", set);
     result.options.answers = SplitPairs("--answer", answers);

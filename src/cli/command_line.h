@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "cli/setting_options.h"
+
 namespace quillomat {
 
 struct CommandLine {
@@ -16,21 +18,19 @@ struct CommandLine {
   /// A path, or "-" for standard input.
   std::optional<std::string> text;
 
-  bool subfolders = false;
   bool listFiles = false;
   bool windowText = false;
   bool summary = false;
-  std::optional<std::string> order;
-  std::optional<std::string> format;
-  std::optional<std::string> output;
   /// A state file to start from, and one to write the settings into.
   std::optional<std::string> state;
   std::optional<std::string> saveState;
   bool userSettings = false;
   /// How many threads may scan at the same time; as many as the machine has cores if not given.
   std::optional<unsigned> threads;
-  /// Names and values of controls.
-  std::vector<std::pair<std::string, std::string>> set;
+  /// Options that stand for settings, in the order of the table of settings.
+  std::vector<GivenOption> settings;
+  /// What --set was given.
+  ControlValues set;
   /// Titles of message boxes and the answers to them.
   std::vector<std::pair<std::string, std::string>> answers;
 };

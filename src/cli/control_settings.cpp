@@ -55,6 +55,13 @@ std::optional<std::string> SetCombo(ComboBox& box, const std::string& value) {
   return std::nullopt;
 }
 
+}  // namespace
+
+Control* FindControl(const MainForm& frmMain, const ParamsForm& frmParams, std::string_view name) {
+  Control* const control = frmParams.Find(name);
+  return control != nullptr ? control : frmMain.Find(name);
+}
+
 std::optional<std::string> SetValue(Control& control, const std::string& value) {
   if (auto* box = control.As<CheckBox>()) return SetCheckBox(*box, value);
   if (auto* option = control.As<OptionButton>()) return SetOption(*option, value);
@@ -64,18 +71,6 @@ std::optional<std::string> SetValue(Control& control, const std::string& value) 
     return std::nullopt;
   }
   return "has no value that could be set";
-}
-
-}  // namespace
-
-std::optional<std::string> SetControl(MainForm& frmMain, ParamsForm& frmParams,
-                                      const std::string& name, const std::string& value) {
-  Control* control = frmParams.Find(name);
-  if (control == nullptr) control = frmMain.Find(name);
-  if (control == nullptr) return "there is no control named '" + name + "'";
-  const std::optional<std::string> fault = SetValue(*control, value);
-  if (!fault) return std::nullopt;
-  return name + "=" + value + ": " + *fault;
 }
 
 }  // namespace quillomat

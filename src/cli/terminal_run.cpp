@@ -11,11 +11,10 @@
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
-#include "cli/control_settings.h"
 #include "cli/exit_status.h"
+#include "cli/setting_options.h"
 #include "cli/standard_input.h"
 #include "cli/terminal_desktop.h"
-#include "listing/display_format.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
 #include "system/output_file.h"
@@ -73,45 +72,9 @@ class TerminalRun {
   }
 
   bool ApplyChoices() {
-    MainForm& frmMain = program_.frmMain;
-    for (const auto& [name, value] : options_.set) {
-      if (const auto fault = SetControl(frmMain, program_.frmParams, name, value)) {
-        return Fail("--set: " + *fault);
-      }
-    }
-    if (options_.order && !ChooseOrder(*options_.order)) return false;
-    if (options_.format && !ChooseFormat(*options_.format)) return false;
-    if (options_.output) frmMain.txbFile[1].SetText(*options_.output);
-    return true;
-  }
-
-  bool ChooseOrder(const std::string& order) {
-    const bool alphabetical = order == "alphabetical";
-    if (!alphabetical && order != "frequency") {
-      return Fail("--order: '" + order + "' is neither frequency nor alphabetical");
-    }
-    program_.frmMain.cboWordOrder.SetListIndex(alphabetical ? 1 : 0);
-    return true;
-  }
-
-  bool ChooseFormat(const std::string& format) {
-    const bool number = !format.empty() && format.find_first_not_of("0123456789") == format.npos;
-    for (std::size_t i = 0; i < kDisplayFormatNames.size(); ++i) {
-      if (number ? format != std::to_string(i)
-                 : !EqualIgnoringCase(format, kDisplayFormatNames[i])) {
-        continue;
-      }
-      program_.frmMain.cboDisplayFormat.SetListIndex(static_cast<int>(i));
-      return true;
-    }
-    std::string names;
-    for (const std::string_view name : kDisplayFormatNames) {
-      names.append(names.empty() ? "" : ", ").append(name);
-    }
-    return Fail("--format: '" + format +
-                "' is no display format; it takes a number from 0 to 13 or "
-                "one of: " +
-                names);
+    const auto fault =
+        ApplySettings(program_.frmMain, program_.frmParams, options_.settings, options_.set);
+    return !fault || Fail(OnOneLine(*fault));
   }
 
   /// Says more about an input that cannot be read than the window would.
@@ -147,7 +110,6 @@ class TerminalRun {
     if (options_.folder) {
       frmMain.txbFolder.SetText(*options_.folder);
       frmMain.optFolder.SetValue(true);
-      if (options_.subfolders) frmMain.chkIncludeSubfolders.SetChecked(true);
     } else if (options_.file) {
       frmMain.txbFile[0].SetText(*options_.file);
       frmMain.optInFile.SetValue(true);

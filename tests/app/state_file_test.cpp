@@ -142,13 +142,14 @@ TEST_F(StateFileTest, CheckBoxValuesAreTheNumbersThatTheyStartWithRounded) {
   }
 }
 
-TEST_F(StateFileTest, DoubleQuoteInATextIsNotKept) {
-  Main().txbFile[0].SetText("a\"b");
+TEST_F(StateFileTest, DoubleQuoteInATextThatIsNoPathIsNotKept) {
+  Panel().txbWordsToIgnoreOrCount[0].SetText("a\"b");
   Panel().txbStartComment[0].SetText("\"");
   static_cast<void>(Saved());
   program.Initialize();
   EXPECT_EQ(program.savedState.RestoreSavedState(folder / "saved.qlm"), RestoreResult::kRestored);
-  EXPECT_EQ(Main().txbFile[0].Text(), "a");
+  EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[0].Text(), "a");
+  EXPECT_EQ(Panel().txbStartComment[0].Text(), "");
   EXPECT_EQ(Main().txbFileExtensions[0].Text(), "") << "the next line is read as itself";
 }
 
@@ -300,7 +301,8 @@ TEST_F(StateFileTest, LineBreakInAPathDoesNotMakeAnotherLine) {
   Main().txbFolder.SetText("/a\nb");
   const std::string saved = Saved();
   EXPECT_TRUE(saved.starts_with("\"/a b\"\r\n"));
-  EXPECT_EQ(std::ranges::count(saved, '\n'), 45);
+  EXPECT_TRUE(saved.ends_with("\r\ntxbFolder=/a%0Ab\r\n")) << "behind the 45 lines";
+  EXPECT_EQ(std::ranges::count(saved, '\n'), 46);
 }
 
 TEST_F(StateFileTest, WordsFileThatIsMissingIsToldByThePanelAloneAndItsListIsEmpty) {

@@ -45,10 +45,12 @@ TEST(CommandLine, TakesEveryOption) {
   ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
   const CommandLine& options = parsed.result.options;
   EXPECT_EQ(options.folder, "texts");
-  EXPECT_TRUE(options.subfolders);
-  EXPECT_EQ(options.order, "alphabetical");
-  EXPECT_EQ(options.format, "7");
-  EXPECT_EQ(options.output, "list.txt");
+  std::vector<std::string> given;
+  for (const GivenOption& option : options.settings) {
+    given.push_back(std::string(option.setting->option.name) + " " + option.values.at(0));
+  }
+  EXPECT_THAT(given, testing::UnorderedElementsAre("--subfolders true", "--order alphabetical",
+                                                   "--format 7", "--output list.txt"));
   ASSERT_EQ(options.set.size(), 2U);
   EXPECT_EQ(options.set[1], std::make_pair(std::string("txbFolder"), std::string("a=b")));
   ASSERT_EQ(options.answers.size(), 1U);
@@ -91,6 +93,7 @@ TEST(CommandLine, SettingWithoutEqualsSignIsNamed) {
 
 TEST(CommandLine, FolderOptionsGoWithFolderOnly) {
   ExpectWrong({"--file", "a", "--subfolders"}, "--subfolders");
+  EXPECT_FALSE(Parse({"--file", "a", "--no-subfolders"}).result.exitStatus);
   ExpectWrong({"--file", "a", "--list-files"}, "--list-files");
 }
 

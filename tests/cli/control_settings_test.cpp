@@ -15,7 +15,8 @@ class ControlSettings : public testing::Test {
   ControlSettings() { frmParams.FillNumberCombos(); }
 
   std::optional<std::string> Set(const std::string& name, const std::string& value) {
-    return SetControl(frmMain, frmParams, name, value);
+    Control* const control = FindControl(frmMain, frmParams, name);
+    return control == nullptr ? "no control" : SetValue(*control, value);
   }
 
   MainForm frmMain;
@@ -51,7 +52,7 @@ TEST_F(ControlSettings, ListTakesAnItemByItsText) {
 
 TEST_F(ControlSettings, ListRefusesWhatItDoesNotHold) {
   for (const char* value : {"25", "", "#9", "#-1", "#x", "#"}) {
-    EXPECT_THAT(Set("cboLongWordSize", value).value_or(""), HasSubstr("cboLongWordSize")) << value;
+    EXPECT_THAT(Set("cboLongWordSize", value).value_or(""), HasSubstr("20, 30")) << value;
   }
 }
 
@@ -63,8 +64,8 @@ TEST_F(ControlSettings, CheckBoxTakesItsThreeValuesAndNoOther) {
   }
 }
 
-TEST_F(ControlSettings, UnknownControlIsNamed) {
-  EXPECT_THAT(Set("chkNothing", "1").value_or(""), HasSubstr("chkNothing"));
+TEST_F(ControlSettings, UnknownControlIsNone) {
+  EXPECT_EQ(FindControl(frmMain, frmParams, "chkNothing"), nullptr);
 }
 
 TEST_F(ControlSettings, MainWindowsControlsAreReachedToo) {

@@ -54,6 +54,17 @@ printf 'one two two' | "$program" --text - --format 5 | grep -q '     2  two' ||
   { echo "FAILED: text from standard input"; failed=1; }
 check "settings reach the count" 0 --file cat.txt --set chkAllowWordsWithHyphens=0 --format 8
 holds out "known"
+check "an option stands for a setting" 0 --file cat.txt --no-hyphens --format 8
+holds out "known"
+check "words to leave out" 0 --file cat.txt --ignore-words the,and --min-length 4 --format 8
+lines out 2
+check "only some words" 0 --folder folder --only-words "the cat" --only-extensions txt --format 8
+lines out 3
+check "an option out of range" 2 --file cat.txt --min-length 12
+holds err "--min-length 12: takes one of 1, 2, 3"
+lines err 1
+check "an option against a setting" 2 --file cat.txt --hyphens --set chkAllowWordsWithHyphens=0
+holds err "contradicts --hyphens"
 check "typed words are left out" 0 --file cat.txt --set 'txbWordsToIgnoreOrCount(0)=the, and' --format 8
 grep -qx "the" out && { echo "FAILED $name"; failed=1; }
 check "a words file is read" 0 --file cat.txt --set "txbWordsFile(0)=$data/cwds_en.txt" --format 8
@@ -77,6 +88,13 @@ holds err "list.txt"
 check "an output file is overwritten on demand" 0 --file cat.txt --output list.txt --format 7 \
   --answer "The output file exists.=OK"
 grep -q "  cat             3" list.txt || { echo "FAILED $name"; failed=1; }
+check "an output file is overwritten by an option" 0 --file cat.txt --output list.txt --format 8 --overwrite
+grep -qx cat list.txt || { echo "FAILED $name"; failed=1; }
+cp list.txt kept.txt
+check "an output file that a state names is left alone on demand" 0 --file cat.txt \
+  --set 'txbFile(1)=list.txt' --disable-output --format 7
+holds out "  cat             3"
+cmp -s list.txt kept.txt || { echo "FAILED $name"; failed=1; }
 
 for case in "missing.txt 1 does not exist" "folder 1 is a folder" "empty.txt 1 is empty" \
   "binary.txt 1 solely of text"; do
@@ -119,6 +137,10 @@ holds err "chkDropFinalS"
 check "settings are saved to a state file" 0 --file cat.txt --set chkDropFinalS=1 \
   --set 'txbWordsToIgnoreOrCount(0)=dog' --save-state mine.qlm
 [ "$(wc -l <mine.qlm)" -eq 45 ] || { echo "FAILED $name: not 45 lines"; failed=1; }
+odd=$(printf 'a"b\nc\351')
+check "a state keeps any path" 0 --file cat.txt --set "txbFile(1)=$odd" --disable-output --save-state odd.qlm
+printf 'txbFile(1)=a"b%%0Ac%%E9\r\n' >wanted
+tail -n 1 odd.qlm | cmp -s - wanted || { echo "FAILED $name"; tail -n 1 odd.qlm; failed=1; }
 check "settings come from a state file" 0 --file cat.txt --state mine.qlm --format 8
 grep -qx dog out && { echo "FAILED $name"; failed=1; }
 check "a folder that is lost stops no file" 0 --file cat.txt --set txbFolder=lost --format 8
