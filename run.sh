@@ -7,6 +7,7 @@
 # shellcheck disable=SC2046 # one word a package
 need_packages $(packages_of build)
 build release
+export QUILLOMAT_DATA="${QUILLOMAT_DATA:-$root/data}"
 
 terminal="$root/build/release/src/cli/quillomat-cli"
 if [ "${1:-}" = cli ]; then

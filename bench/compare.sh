@@ -13,7 +13,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 printf 'making the texts ...\n' >&2
 python3 "$root/bench/make_inputs.py" "$work" "$@"
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 QUILLOMAT_DATA="$root/data"
 
 now() { date +%s%N; }
 

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Makes Quillomat-7.07-win64.zip in build/: the program for Windows, to be unpacked and started.
+# Makes Quillomat-VERSION-win64.zip in build/: the program for Windows, to be unpacked and started.
 # The toolkit is built first if need be (build-qt.sh, once, some 20 minutes).
 . "$(dirname "$0")/../../cmake/setup.sh"
 

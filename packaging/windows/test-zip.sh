@@ -67,6 +67,7 @@ done
 
 unzip -q "$archive" -d "$drive"
 folder=$(find "$drive" -maxdepth 1 -name 'Quillomat-*' -type d)
+version=$(basename "$folder" | cut -d- -f2)
 for program in quillomat:30 quillomat-cli:5; do
   "$here/check-program.sh" "$folder/${program%:*}.exe" "${program#*:}" >"$work/check.log" 2>&1 ||
     fail "the program is not as it should be"
@@ -81,8 +82,8 @@ start() {
   wine_run "$folder/quillomat.exe" -platform windows:fontengine=freetype \
     >"$work/program.log" 2>&1 &
   program_pid=$!
-  wait_for 60 xdotool search --onlyvisible --name '^Quillomat 7.07$' || fail "no window"
-  window=$(xdotool search --onlyvisible --name '^Quillomat 7.07$' | head -n 1)
+  wait_for 60 xdotool search --onlyvisible --name "^Quillomat $version\$" || fail "no window"
+  window=$(xdotool search --onlyvisible --name "^Quillomat $version\$" | head -n 1)
   eval "$(xdotool getwindowgeometry --shell "$window")"
   xdotool windowfocus --sync "$window"
   sleep 2

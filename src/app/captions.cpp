@@ -2,13 +2,11 @@
 
 #include <span>
 
+#include "base/version.h"
 #include "sources/window_state.h"
 
 namespace quillomat {
 namespace {
-
-constexpr int kMajorVersion = 7;
-constexpr int kMinorVersion = 0;
 
 void SetCaption(Control& control, const std::string& caption) {
   if (auto* label = control.As<Label>()) label->SetCaption(caption);
@@ -47,10 +45,6 @@ void SetToolTipsOf(Form& form, std::span<const ControlCaption> toolTips, const P
 }
 
 }  // namespace
-
-std::string VersionText() {
-  return std::to_string(kMajorVersion) + "." + std::to_string(kMinorVersion) + "7";
-}
 
 std::vector<ControlCaption> CaptionsOf(SettingWindow window) {
   const bool main = window == SettingWindow::kMain;

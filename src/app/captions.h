@@ -13,9 +13,6 @@
 
 namespace quillomat {
 
-/// The program's version as it is shown: the major number, a point, the minor number, and a 7.
-[[nodiscard]] std::string VersionText();
-
 /// Which text is the caption (tool tip) of which control of a window: of its settings and of the
 /// others.
 [[nodiscard]] std::vector<ControlCaption> CaptionsOf(SettingWindow window);

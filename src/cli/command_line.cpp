@@ -8,8 +8,8 @@
 #include <string_view>
 #include <utility>
 
-#include "app/captions.h"
 #include "base/text_helpers.h"
+#include "base/version.h"
 #include "cli/exit_status.h"
 #include "cli/help_formatter.h"
 
@@ -137,6 +137,7 @@ void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings
   DefineRun(app, options, answers);
   app.set_help_flag("--help", "Print this help");
   app.set_version_flag("--version", "quillomat-cli " + VersionText(), "Print the version");
+  app.footer(kFooter);
 }
 
 /// Splits "NAME=VALUE" at the first "="; without one the argument is at fault.
@@ -157,6 +158,20 @@ bool IsGiven(const CommandLine& options, std::string_view name) {
   return std::ranges::any_of(options.settings, [&](const GivenOption& given) {
     return given.setting->option.name == name && given.values.back() != "false";
   });
+}
+
+void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& descriptions) {
+  for (const CLI::Option* option : app.get_options()) {
+    const bool takesValue = option->get_items_expected_max() > 0;
+    for (const std::string& name : option->get_lnames()) {
+      descriptions.push_back(
+          {"--" + name, takesValue ? option->get_type_name() : "", option->get_description()});
+    }
+  }
+  // Groups of options are parts of their own there.
+  for (const CLI::App* group : app.get_subcommands([](const CLI::App*) { return true; })) {
+    DescribeOptionsOf(*group, descriptions);
+  }
 }
 
 void CheckCombinations(const CommandLine& options) {
@@ -192,7 +207,6 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
   }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
   app.formatter(std::make_shared<HelpFormatter>());
-  app.footer(kFooter);
   SettingOptions settings;
   std::vector<std::string> set;
   std::vector<std::string> answers;
@@ -216,6 +230,22 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
     fail(error.what());
   }
   return result;
+}
+
+std::vector<OptionDescription> DescribeOptions() {
+  CLI::App app;
+  CommandLine options;
+  SettingOptions settings;
+  std::vector<std::string> set;
+  std::vector<std::string> answers;
+  DefineOptions(app, options, settings, set, answers);
+  std::vector<OptionDescription> descriptions;
+  DescribeOptionsOf(app, descriptions);
+  return descriptions;
+}
+
+std::string HelpNotes() {
+  return kFooter;
 }
 
 }  // namespace quillomat

@@ -47,4 +47,19 @@ struct ParsedCommandLine {
 [[nodiscard]] ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments,
                                                  std::ostream& out, std::ostream& err);
 
+/// What the manual and the completions say of an option.
+struct OptionDescription {
+  /// With its two hyphens.
+  std::string name;
+  /// What its value is called, e.g. "PATH"; empty for an option that takes none.
+  std::string value;
+  std::string description;
+};
+
+/// All options, --help and --version among them.
+[[nodiscard]] std::vector<OptionDescription> DescribeOptions();
+
+/// What stands behind the options in the help.
+[[nodiscard]] std::string HelpNotes();
+
 }  // namespace quillomat

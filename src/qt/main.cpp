@@ -6,10 +6,10 @@
 #include <QIcon>
 #include <iostream>
 
-#include "app/captions.h"
+#include "base/version.h"
 #include "engine/kernel_choice.h"
+#include "qt/program_windows.h"
 #include "qt/text_conversion.h"
-#include "qt/windows.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
 

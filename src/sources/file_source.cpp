@@ -123,10 +123,6 @@ ScanFileResult FileSource::CheckInputFile(const std::string& path) {
   return result;
 }
 
-void FileSource::ShowFileSize() {
-  ShowFileSize(FileLength(path_));
-}
-
 void FileSource::ShowFileSize(std::optional<std::int64_t> bytes) {
   context_.frmMain.lblFilesize.SetCaption(
       bytes ? FileSizeText(*bytes, context_.desktop.DigitGroupSeparator()) : "");

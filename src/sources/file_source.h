@@ -45,9 +45,6 @@ class FileSource {
   /// size of the file, or nothing.
   ScanFileResult CheckInputFile(const std::string& path);
 
-  /// Shows the size of the file that was checked last.
-  void ShowFileSize();
-
   /// Ends the progress bar that a file left in its label.
   void EndProgressBar() { progress_.EndProgressBar(); }
 

@@ -27,9 +27,6 @@
 
 namespace quillomat {
 
-/// The line end of text files here: "\r\n" on Windows, "\n" elsewhere.
-[[nodiscard]] std::string_view PlatformLineEnd();
-
 class OutputFile final : public ByteSink {
  public:
   /// Throws RunTimeError 76 when there is no such folder, 75 when it is itself a folder or stands

@@ -101,7 +101,6 @@ class OptionButton final : public CaptionedControl {
   [[nodiscard]] bool Value() const { return value_; }
   /// True first sets the others of the group to false, and fires Click if this one was false.
   void SetValue(bool value);
-  [[nodiscard]] int Group() const { return group_; }
 
   void PerformClick();
 

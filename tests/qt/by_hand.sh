@@ -7,12 +7,13 @@ program=$1
 data=$2
 . "$(dirname "$0")/virtual_screen.sh"
 start_screen
+version=$("$program" --version | sed 's/.* //')
 
 start() {
   "$program" "$@" >"$work/program.log" 2>&1 &
   program_pid=$!
-  wait_for 30 xdotool search --onlyvisible --name '^Quillomat 7.07$' || fail "no window"
-  window=$(xdotool search --onlyvisible --name '^Quillomat 7.07$' | head -n 1)
+  wait_for 30 xdotool search --onlyvisible --name "^Quillomat $version\$" || fail "no window"
+  window=$(xdotool search --onlyvisible --name "^Quillomat $version\$" | head -n 1)
   xdotool windowfocus --sync "$window"
   sleep 0.5
 }

@@ -19,8 +19,8 @@
 #include <vector>
 
 #include "app/program.h"
+#include "qt/program_windows.h"
 #include "qt/text_conversion.h"
-#include "qt/windows.h"
 #include "support/temporary_folder.h"
 #include "support/user_home.h"
 

@@ -33,8 +33,4 @@ bool SamePathText(std::string_view left, std::string_view right) {
   return left == right;
 }
 
-std::string_view PlatformLineEnd() {
-  return "\n";
-}
-
 }  // namespace quillomat

@@ -97,8 +97,4 @@ bool SamePathText(std::string_view left, std::string_view right) {
                               static_cast<int>(other.size()), TRUE) == CSTR_EQUAL;
 }
 
-std::string_view PlatformLineEnd() {
-  return "\r\n";
-}
-
 }  // namespace quillomat

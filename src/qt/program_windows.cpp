@@ -1,4 +1,4 @@
-#include "qt/windows.h"
+#include "qt/program_windows.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
