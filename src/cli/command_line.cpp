@@ -162,6 +162,8 @@ bool IsGiven(const CommandLine& options, std::string_view name) {
 
 void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& descriptions) {
   for (const CLI::Option* option : app.get_options()) {
+    // Every group has the help of its own.
+    if (!descriptions.empty() && option->get_name() == descriptions.front().name) continue;
     const bool takesValue = option->get_items_expected_max() > 0;
     for (const std::string& name : option->get_lnames()) {
       descriptions.push_back(

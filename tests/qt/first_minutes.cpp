@@ -17,8 +17,8 @@
 #include <string>
 
 #include "qt/path_completion.h"
+#include "qt/program_windows.h"
 #include "qt/text_conversion.h"
-#include "qt/windows.h"
 
 namespace quillomat {
 namespace {
