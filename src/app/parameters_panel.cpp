@@ -125,7 +125,7 @@ void ParametersPanel::Close() {
   SetTheFocus(context_.frmMain);
 }
 
-void ParametersPanel::SetAllCheckBoxes(CheckState state) {
+void ParametersPanel::SetAllCheckBoxes(CheckState state) const {
   for (CheckBox* box : BoxesInClearingOrder(context_.frmParams)) box->SetValue(state);
 }
 
@@ -135,7 +135,7 @@ void ParametersPanel::SetDefaultValues() {
   SetDefaults(false);
 }
 
-void ParametersPanel::SetDefaults(bool checkBoxes) {
+void ParametersPanel::SetDefaults(bool checkBoxes) const {
   for (const Setting& setting : AllSettings()) {
     if (!IsParameter(setting)) continue;
     Control& control = ControlOf(setting, context_.frmMain, context_.frmParams);

@@ -28,9 +28,9 @@ class ParametersPanel {
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
   [[nodiscard]] bool ConfirmReRead();
-  void SetAllCheckBoxes(CheckState state);
+  void SetAllCheckBoxes(CheckState state) const;
   /// Of the check boxes, or of all parameters that are none.
-  void SetDefaults(bool checkBoxes);
+  void SetDefaults(bool checkBoxes) const;
   void FocusClose();
   void Close();
 

@@ -39,7 +39,7 @@ std::vector<CheckBox*> BoxesInClearingOrder(const ParamsForm& frmParams) {
     if (Control* const control = frmParams.Find(name)) boxes.push_back(control->As<CheckBox>());
   }
   for (Control* control : frmParams.Controls()) {
-    CheckBox* const box = control->As<CheckBox>();
+    auto* const box = control->As<CheckBox>();
     if (box != nullptr && std::ranges::find(boxes, box) == boxes.end()) boxes.push_back(box);
   }
   return boxes;
