@@ -12,6 +12,8 @@
 
 #include "app/escaped_text.h"
 #include "app/setting_values.h"
+#include "base/byte_sink.h"
+#include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -25,6 +27,10 @@ namespace {
 std::string Quoted(std::string_view text) {
   return "\"" + ReplaceAll(ReplaceAll(text, "\r", " "), "\n", " ") + "\"";
 }
+
+/// A path or a list of typed words is far shorter.
+constexpr std::size_t kMostStateLineBytes = std::size_t{16} * 1024 * 1024;
+constexpr std::size_t kMostStateBytes = std::size_t{64} * 1024 * 1024;
 
 /// The text of a line: what stands between the quotes, or the whole line where there are none.
 std::string_view Unquoted(std::string_view line) {
@@ -239,7 +245,8 @@ void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmP
 void ReadStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
                    std::span<const Setting> settings) {
   InputFile file(path);
-  LineDecoder lines(file);
+  LimitedSource limited(file, {.lineBytes = kMostStateLineBytes, .bytes = kMostStateBytes});
+  LineDecoder lines(limited);
   for (const StateValue& value : StateValuesOf(frmMain, frmParams)) {
     std::visit(ValueReader(NextLine(lines)), value);
   }

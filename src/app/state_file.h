@@ -52,7 +52,8 @@ void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmP
 /// Sets all values from a file; a setting of which it tells nothing gets its default. Throws
 /// RunTimeError 62 when it has too few lines, 13 when a number
 /// is none, 380 when a check box value is out of range, ListIndexOutOfRange (380 too) when an index
-/// is, and what opening and reading it throw; what was set before stays set.
+/// is, InputTooLong when it is longer than such files are, and what opening and reading it throw;
+/// what was set before stays set.
 void ReadStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
                    std::span<const Setting> settings = AllSettings());
 

@@ -31,6 +31,9 @@ std::string DescriptionOf(RunTimeErrorNumber number) {
 }
 
 RunTimeError::RunTimeError(RunTimeErrorNumber number)
-    : std::runtime_error(DescriptionOf(number)), number_(number) {}
+    : RunTimeError(number, DescriptionOf(number)) {}
+
+RunTimeError::RunTimeError(RunTimeErrorNumber number, const std::string& description)
+    : std::runtime_error(description), number_(number) {}
 
 }  // namespace quillomat

@@ -29,6 +29,8 @@ enum class RunTimeErrorNumber {
 class RunTimeError : public std::runtime_error {
  public:
   explicit RunTimeError(RunTimeErrorNumber number);
+  /// With a description that says more than that of the number.
+  RunTimeError(RunTimeErrorNumber number, const std::string& description);
 
   [[nodiscard]] int Number() const { return static_cast<int>(number_); }
   [[nodiscard]] std::string Description() const { return what(); }
@@ -36,5 +38,9 @@ class RunTimeError : public std::runtime_error {
  private:
   RunTimeErrorNumber number_;
 };
+
+[[nodiscard]] inline bool IsOutOfMemory(const RunTimeError& error) {
+  return error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory);
+}
 
 }  // namespace quillomat

@@ -70,6 +70,8 @@ void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>&
 }
 
 void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& answers) {
+  app.add_flag("--null", options.null,
+               "End the lines of the list with a NUL byte: names of files may hold line breaks");
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
@@ -189,6 +191,9 @@ void CheckCombinations(const CommandLine& options) {
   };
   needsFolder(IsGiven(options, "--subfolders"), "--subfolders");
   needsFolder(options.listFiles, "--list-files");
+  if (options.null && (options.windowText || options.listFiles)) {
+    throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
+  }
   if (options.state && options.userSettings) {
     throw CLI::ValidationError("--state", "does not go with --user-settings");
   }
@@ -203,6 +208,13 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
     err << "quillomat-cli: " << OnOneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
+  // Most often a variable without a value; the library would take one for the end of all options.
+  const auto empty = std::ranges::find(arguments, std::string());
+  if (empty != arguments.end() && empty != arguments.begin()) {
+    fail("argument " + std::to_string(empty - arguments.begin()) +
+         " is empty; check what should stand there");
+    return result;
+  }
   if (arguments.size() > 1 && !arguments[1].starts_with('-')) {
     fail("'" + arguments[1] + "': give a file with --file, a folder with --folder");
     return result;

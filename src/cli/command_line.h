@@ -21,6 +21,8 @@ struct CommandLine {
   bool listFiles = false;
   bool windowText = false;
   bool summary = false;
+  /// NUL bytes in place of the list's line ends.
+  bool null = false;
   /// A state file to start from, and one to write the settings into.
   std::optional<std::string> state;
   std::optional<std::string> saveState;

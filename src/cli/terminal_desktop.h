@@ -20,7 +20,11 @@ class TerminalDesktop final : public Desktop {
   /// box). `err` must outlive the desktop.
   TerminalDesktop(std::ostream& err, Answers answers);
 
-  void SetClipboardText(std::string text) { clipboard_ = std::move(text); }
+  /// `goesOn`: it is only the start of the text.
+  void SetClipboardText(std::string text, bool goesOn = false) {
+    clipboard_ = std::move(text);
+    clipboardGoesOn_ = goesOn;
+  }
   /// What the count is about; added to every message from now on.
   void SetSubject(std::string subject) { subject_ = std::move(subject); }
 
@@ -40,6 +44,7 @@ class TerminalDesktop final : public Desktop {
   std::string DocumentsFolder() override { return {}; }
 
   std::string ClipboardText() override { return clipboard_; }
+  bool ClipboardGoesOn() override { return clipboardGoesOn_; }
   void ClearClipboard() override { clipboard_.clear(); }
   void PutClipboardText(const std::string& text) override { clipboard_ = text; }
 
@@ -56,6 +61,7 @@ class TerminalDesktop final : public Desktop {
   std::ostream& err_;
   Answers answers_;
   std::string clipboard_;
+  bool clipboardGoesOn_ = false;
   std::string subject_;
   bool problemShown_ = false;
   UserRegistry registry_;

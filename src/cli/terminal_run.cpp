@@ -4,20 +4,22 @@
 #include <iostream>
 #include <ostream>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/program.h"
 #include "base/letter_case.h"
+#include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "cli/exit_status.h"
 #include "cli/setting_options.h"
 #include "cli/standard_input.h"
+#include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
-#include "system/output_file.h"
 
 namespace quillomat {
 namespace {
@@ -134,15 +136,24 @@ class TerminalRun {
     try {
       if (path == "-") {
         StandardInput input;
-        desktop_.SetClipboardText(DecodeText(input));
+        TakeAsClipboard(input);
       } else {
         InputFile input(path);
-        desktop_.SetClipboardText(DecodeText(input));
+        TakeAsClipboard(input);
       }
       return true;
     } catch (const RunTimeError& error) {
       return Fail(path + " cannot be read: " + error.Description());
     }
+  }
+
+  /// No more is read than makes certain that the clipboard would not take it: input may be endless.
+  void TakeAsClipboard(ByteSource& input) {
+    constexpr std::size_t kMostBytesPerCharacter = 4;
+    constexpr std::size_t kMarkBytes = 3;
+    StartOfSource start(input, kMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
+    std::string text = DecodeText(start);
+    desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
 
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
@@ -167,6 +178,7 @@ class TerminalRun {
 
   int Count() {
     program_.lister.SetTextBoxWanted(options_.windowText);
+    if (options_.null) program_.lister.SetFileLineBreak(std::string(1, '\0'));
     if (!program_.lister.CheckDisplayFormat()) return kRunFailed;
     const bool toFile = HasOutputFile();
     program_.frmMain.cmdCountWords.PerformClick();
@@ -216,29 +228,13 @@ class TerminalRun {
   }
 
   bool PrintList() {
-    return Print([this](OutputFile& out) { program_.lister.WriteList(out); });
+    return PrintToStandardOutput([this](ByteSink& out) { program_.lister.WriteList(out); }, err_);
   }
 
   bool PrintWindowText() {
-    return Print([this](OutputFile& out) {
-      std::string text = ReplaceAll(program_.frmMain.txbOutput.Text(), kCrLf, kPlatformLineBreak);
-      if (!text.ends_with('\n')) text.append(kPlatformLineBreak);
-      out.Write(text);
-    });
-  }
-
-  template <typename Writer>
-  bool Print(const Writer& write) {
-    try {
-      OutputFile out = OutputFile::StandardOutput();
-      write(out);
-      out.Close();
-      return true;
-    } catch (const RunTimeError& error) {
-      // A reader that has seen enough, such as head, is no failure worth a message.
-      const bool readerGone = error.Number() == static_cast<int>(RunTimeErrorNumber::kDeviceIo);
-      return !readerGone && Fail("standard output: " + error.Description());
-    }
+    std::string text = ReplaceAll(program_.frmMain.txbOutput.Text(), kCrLf, kPlatformLineBreak);
+    if (!text.ends_with('\n')) text.append(kPlatformLineBreak);
+    return PrintToStandardOutput([&text](ByteSink& out) { out.Write(text); }, err_);
   }
 
   const CommandLine& options_;

@@ -203,7 +203,7 @@ LineOptions WordLister::OptionsFor(bool toFile) const {
   options.withCommas = toFile && frmParams_.chkOutputWithCommas.IsChecked();
   options.useLog10 = frmParams_.chkUseLog10.IsChecked();
   options.folder = frmMain_.txbFolder.Text();
-  options.lineBreak = std::string(toFile ? kPlatformLineBreak : kCrLf);
+  options.lineBreak = toFile ? fileLineBreak_ : std::string(kCrLf);
   options.minimumColumnWidth = state_.minimumColumnWidth;
   return options;
 }
@@ -222,14 +222,22 @@ bool WordLister::StopsNow() {
 }
 
 void WordLister::ReportProblem(int code, std::string_view text) {
-  std::string message;
-  if (code == kTextBoxFull) {
-    message = FullBoxMessage();
-  } else {
-    message = "Error " + std::to_string(code) + ": " + std::string(text);
-    if (fileWritten_) message.append(kCrLf).append("Results have been written to the output file.");
-  }
+  const std::string message = code == kTextBoxFull ? FullBoxMessage() : ErrorMessage(code, text);
   desktop_.ShowMessage({message, "Problem", MessageIcon::kExclamation});
+}
+
+void WordLister::ReportOutOfMemory(std::string_view path) {
+  std::string text = DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
+  if (!path.empty()) text.append(" while reading ").append(path);
+  const std::string message =
+      ErrorMessage(static_cast<int>(RunTimeErrorNumber::kOutOfMemory), text);
+  desktop_.ShowMessage({message, "Problem", MessageIcon::kExclamation});
+}
+
+std::string WordLister::ErrorMessage(int code, std::string_view text) const {
+  std::string message = "Error " + std::to_string(code) + ": " + std::string(text);
+  if (fileWritten_) message.append(kCrLf).append("Results have been written to the output file.");
+  return message;
 }
 
 std::string WordLister::FullBoxMessage() {

@@ -4,9 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "base/run_time_error.h"
 #include "base/byte_sink.h"
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
 #include "listing/count_state.h"
 #include "listing/display_format.h"
 #include "listing/list_walk.h"
@@ -33,12 +35,19 @@ class WordLister {
   /// full.
   void SetTextBoxWanted(bool wanted) { textBoxWanted_ = wanted; }
 
+  /// What ends the lines of a list that goes to a file or to standard output; the platform's line
+  /// break if not set.
+  void SetFileLineBreak(std::string lineBreak) { fileLineBreak_ = std::move(lineBreak); }
+
   /// Writes the list into a file that is open; the caller closes it, unless the list was stopped.
   /// Throws RunTimeError.
   void WriteList(ByteSink& file);
 
   /// Shows a problem in a message box. Code 7: the text box is full, whatever `text` says.
   void ReportProblem(int code, std::string_view text);
+  /// Tells that there was not enough memory, which is another thing than a full text box; while
+  /// `path` was read, unless it is empty.
+  void ReportOutOfMemory(std::string_view path = {});
 
   /// Whether the source that is chosen can serve a format.
   [[nodiscard]] bool CanServe(DisplayFormat format) const;
@@ -71,6 +80,7 @@ class WordLister {
   [[nodiscard]] std::string ScanHeader() const;
   [[nodiscard]] bool StopsNow();
   [[nodiscard]] std::string FullBoxMessage();
+  [[nodiscard]] std::string ErrorMessage(int code, std::string_view text) const;
   void RemoveLastComma();
 
   MainForm& frmMain_;
@@ -83,6 +93,7 @@ class WordLister {
   bool fileWritten_ = false;
   bool changingFormat_ = false;
   bool textBoxWanted_ = true;
+  std::string fileLineBreak_{kPlatformLineBreak};
 };
 
 }  // namespace quillomat

@@ -42,7 +42,16 @@ QString PathFromCommandLine(const QApplication& application) {
   return paths.isEmpty() ? QString() : QFileInfo(paths.constFirst()).absoluteFilePath();
 }
 
+/// An empty one, most often a variable without a value, would be the current folder.
+bool HasEmptyArgument() {
+  return QCoreApplication::arguments().contains(QString());
+}
+
 int RunOnDesktop(QApplication& application) {
+  if (HasEmptyArgument()) {
+    std::cerr << "quillomat: an argument is empty; check what should stand there\n";
+    return 2;
+  }
   const QString path = PathFromCommandLine(application);
   QtDesktop desktop;
   Program program(desktop);

@@ -25,14 +25,17 @@ bool ClipboardSource::ReadClipboard(bool paste) {
       return false;
     }
     if (length > kClipboardTextLimit) {
-      Refuse(context_,
-             "There are " + Grouped(context_, static_cast<std::int64_t>(length)) +
-                 " characters in the text on the clipboard." + std::string(kCrLf) +
-                 "The maximum permitted is " +
-                 Grouped(context_, static_cast<std::int64_t>(kClipboardTextLimit)) +
-                 ".  If possible," + std::string(kCrLf) +
-                 "count word frequencies for this text using an input file.",
-             "Too much clipboard text");
+      const bool goesOn = context_.desktop.ClipboardGoesOn();
+      Refuse(
+          context_,
+          std::string("There are ") + (goesOn ? "more than " : "") +
+              Grouped(context_, static_cast<std::int64_t>(goesOn ? kClipboardTextLimit : length)) +
+              " characters in the text on the clipboard." + std::string(kCrLf) +
+              "The maximum permitted is " +
+              Grouped(context_, static_cast<std::int64_t>(kClipboardTextLimit)) +
+              ".  If possible," + std::string(kCrLf) +
+              "count word frequencies for this text using an input file.",
+          "Too much clipboard text");
       return false;
     }
     text_ = std::move(text);
@@ -79,7 +82,11 @@ bool ClipboardSource::ScanClipboard() {
   } catch (const std::bad_alloc&) {
     error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
   }
-  if (error) context_.lister.ReportProblem(error->Number(), error->Description());
+  if (error && IsOutOfMemory(*error)) {
+    context_.lister.ReportOutOfMemory("the text on the clipboard");
+  } else if (error) {
+    context_.lister.ReportProblem(error->Number(), error->Description());
+  }
   chkSuppressWords.SetValue(suppress);
   SetTheFocus(context_.frmMain);
   return !error;

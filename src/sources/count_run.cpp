@@ -58,8 +58,7 @@ void CountRun::RunCount() {
   } catch (const RunTimeError& error) {
     context_.lister.ReportProblem(error.Number(), error.Description());
   } catch (const std::bad_alloc&) {
-    const RunTimeError error(RunTimeErrorNumber::kOutOfMemory);
-    context_.lister.ReportProblem(error.Number(), error.Description());
+    context_.lister.ReportOutOfMemory();
   }
 }
 
@@ -100,7 +99,11 @@ bool CountRun::ScanSingleFile() {
   file_.EndProgressBar();
   if (result == ScanFileResult::kDone) return true;
   if (result == ScanFileResult::kRunTimeError) {
-    context_.lister.ReportProblem(file_.Error().Number(), file_.Error().Description());
+    if (IsOutOfMemory(file_.Error())) {
+      context_.lister.ReportOutOfMemory(file_.Path());
+    } else {
+      context_.lister.ReportProblem(file_.Error().Number(), file_.Error().Description());
+    }
   } else {
     ReportInputFileError(result);
   }

@@ -41,6 +41,9 @@ class FileSource {
   /// What went wrong when ScanFile returned kRunTimeError.
   [[nodiscard]] const RunTimeError& Error() const { return *error_; }
 
+  /// The file that was read, or checked, last.
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
   /// Checks an input path: kDone, kFolderNotFile (the input box is emptied) or kNotFound. Shows the
   /// size of the file, or nothing.
   ScanFileResult CheckInputFile(const std::string& path);

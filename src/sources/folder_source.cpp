@@ -18,10 +18,10 @@ std::string Counted(std::int32_t number, std::string_view noun) {
   return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
 }
 
-/// Whether an error is the count's own and not just that of one file.
+/// Whether an error is the count's own and not just that of one file: there may be memory for the
+/// next one.
 bool EndsTheRun(const RunTimeError& error) {
-  return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow) ||
-         error.Number() == static_cast<int>(RunTimeErrorNumber::kOutOfMemory);
+  return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow);
 }
 
 /// The contents of a folder, or nothing when it may not be read.

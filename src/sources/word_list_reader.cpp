@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/letter_case.h"
+#include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -19,6 +20,9 @@ namespace quillomat {
 namespace {
 
 constexpr std::size_t kTextTestBytes = 16'384;
+/// Of a line of a words file, and of one that has no length of its own and may have no end: a pipe,
+/// a device.
+constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
 constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
 
 std::size_t IndexOf(WordListKind kind) {
@@ -100,6 +104,7 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
 
 bool WordListReader::ReadWords(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
+  tooLong_.clear();
   try {
     const LineEndingType type = GetLineEndingType(path, kTextTestBytes);
     if (type == LineEndingType::kNotText) {
@@ -123,6 +128,9 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ScanWordsFile(path);
     TakeWordsFromStore(kind);
     return true;
+  } catch (const InputTooLong& error) {
+    tooLong_ = ":" + std::string(kCrLf) + error.Description();
+    return false;
   } catch (const RunTimeError&) {
     return false;
   } catch (const std::bad_alloc&) {
@@ -133,7 +141,10 @@ bool WordListReader::ReadWords(WordListKind kind) {
 void WordListReader::ScanWordsFile(const std::string& path) {
   const BusyGuard busy(context_);
   InputFile file(path);
-  LineDecoder lines(file);
+  SourceLimits limits{.lineBytes = kMostWordsBytes};
+  if (file.Length() == 0) limits.bytes = kMostWordsBytes;
+  LimitedSource limited(file, limits);
+  LineDecoder lines(limited);
   ScanJob job(context_);
   while (const auto line = lines.NextLine()) {
     const std::string_view trimmed = TrimBlanks(*line);
@@ -180,7 +191,8 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
          Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
          "Words loaded", MessageIcon::kInformation);
   } else {
-    Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path, "Error");
+    Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
+           "Error");
     PathBox(kind).SetText("");
   }
   context_.output.RestoreOutputText();

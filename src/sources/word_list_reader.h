@@ -46,6 +46,8 @@ class WordListReader {
   [[nodiscard]] TextBox& ExtraBox(WordListKind kind);
 
   const RunContext& context_;
+  /// A line for the message about the last words file: what of it was too long, if that was it.
+  std::string tooLong_;
 };
 
 }  // namespace quillomat

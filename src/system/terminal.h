@@ -7,6 +7,8 @@
 namespace quillomat {
 
 /// While it lives, standard input gives its bytes as they are, and a console takes and shows UTF-8.
+/// A standard stream that is closed stays one that fails: no file that is opened later takes its
+/// place.
 class Terminal {
  public:
   Terminal();
@@ -20,6 +22,11 @@ class Terminal {
   unsigned inputEncodingBefore_ = 0;
   unsigned outputEncodingBefore_ = 0;
 };
+
+enum class StandardStream { kOutput, kError };
+
+/// Whether a person sees what goes there, and no file or pipe takes it.
+[[nodiscard]] bool IsTerminal(StandardStream stream);
 
 /// The arguments of `main` as UTF-8 (plain bytes where paths are those), the program's name first.
 [[nodiscard]] std::vector<std::string> ProgramArguments(int argc, const char* const* argv);

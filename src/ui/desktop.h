@@ -98,6 +98,8 @@ class Desktop {
   /// The text on the clipboard; "" when there is none. Throws RunTimeError 7 when there is more
   /// than can be had, other RunTimeErrors when the clipboard cannot be read.
   virtual std::string ClipboardText() = 0;
+  /// Whether ClipboardText gives only the start of a text that is too long to be taken in.
+  virtual bool ClipboardGoesOn() { return false; }
   virtual void ClearClipboard() = 0;
   /// Throws a RunTimeError when the clipboard does not take the text.
   virtual void PutClipboardText(const std::string& text) = 0;

@@ -1,6 +1,7 @@
 // The state file line by line, and the commands that write and read one.
 #include <filesystem>
 #include <gmock/gmock.h>
+#include <thread>
 
 #include "app/program_image.h"
 #include "app/state_lines.h"
@@ -193,6 +194,39 @@ TEST_F(StateFileTest, WriteErrorsAreDescribed) {
             "Error when attempting to save state: Path not found");
   EXPECT_EQ(program.savedState.SaveState("/dev/full"),
             "Error when attempting to save state: Disk full");
+}
+
+TEST_F(StateFileTest, AFailedSaveLeavesTheStateAsItWas) {
+  const std::string path = folder.Write("state.qlm", "the old state");
+  EXPECT_NE(program.savedState.SaveState(path + "/x"), "");
+  EXPECT_EQ(ContentsOf(path), "the old state");
+}
+
+TEST_F(StateFileTest, AReaderNeverSeesHalfOfWhatAWriterWrites) {
+  constexpr int kTurns = 300;
+  const std::string path = folder / "state.qlm";
+  ASSERT_EQ(program.savedState.SaveState(path), "");
+  ScriptedDesktop otherDesktop;
+  Program other(otherDesktop);
+  ASSERT_TRUE(other.Start({.userSettings = false, .window = false}));
+  std::thread writer([&] {
+    for (int turn = 0; turn < kTurns; ++turn) {
+      const std::string folderName(static_cast<std::size_t>(turn) * 50, 'x');
+      other.frmMain.txbFolder.SetText(folderName);
+      EXPECT_EQ(other.savedState.SaveState(path), "");
+    }
+  });
+  for (int turn = 0; turn < kTurns; ++turn) {
+    ASSERT_EQ(program.savedState.ReadControls(path), RestoreResult::kRestored)
+        << program.savedState.ErrorDescription();
+  }
+  writer.join();
+}
+
+TEST_F(StateFileTest, ALineThatIsTooLongIsNamed) {
+  const std::string path = folder.Write("state.qlm", std::string(17'000'000, 'x'));
+  EXPECT_EQ(program.savedState.ReadControls(path), RestoreResult::kError);
+  EXPECT_EQ(program.savedState.ErrorDescription(), "a line of it is longer than 16,777,216 bytes");
 }
 
 TEST_F(StateFileTest, MarkersAreMendedPairByPair) {

@@ -58,6 +58,19 @@ TEST(CommandLine, TakesEveryOption) {
   EXPECT_TRUE(options.windowText);
 }
 
+TEST(CommandLine, AnEmptyArgumentIsRefusedWhereverItStands) {
+  ExpectWrong({"--file", "a.txt", "", "--output", "o"}, "argument 3 is empty");
+  ExpectWrong({""}, "argument 1 is empty");
+  ExpectWrong({"--file", ""}, "argument 2 is empty");
+  ExpectWrong({"--file", "a.txt", "--set", ""}, "argument 4 is empty");
+}
+
+TEST(CommandLine, NulBytesEndTheLinesOfListsOnly) {
+  EXPECT_TRUE(Parse({"--file", "a", "--null"}).result.options.null);
+  ExpectWrong({"--file", "a", "--null", "--window-text"}, "--null");
+  ExpectWrong({"--folder", "a", "--null", "--list-files"}, "--null");
+}
+
 TEST(CommandLine, TakesANumberOfThreads) {
   const Parsed parsed = Parse({"--file", "a", "--threads", "4"});
   ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;

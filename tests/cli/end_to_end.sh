@@ -113,8 +113,10 @@ lines err 1
 check "a format needs its source" 1 --file cat.txt --format "word file-list"
 holds err "only when the source of the text is a folder"
 check "a pipe is no file" 1 --file /dev/stdin
-check "an empty path" 1 --file ""
-holds err "the path is empty"
+check "an empty path" 2 --file ""
+holds err "argument 2 is empty"
+check "an empty argument" 2 --file cat.txt '' --output list.txt
+holds err "argument 3 is empty"
 check "a path without an option" 2 cat.txt
 holds err "--file"
 check "the input is not overwritten by a state" 1 --file cat.txt --save-state cat.txt
@@ -185,6 +187,63 @@ if [ -e /dev/full ]; then
   [ $? -eq 1 ] || { echo "FAILED: standard output on a full disk"; failed=1; }
   holds err "Disk full"
 fi
+if [ -e /dev/full ]; then
+  name="help on a full disk"
+  "$program" --help >/dev/full 2>err
+  [ $? -eq 1 ] || { echo "FAILED $name"; failed=1; }
+  holds err "standard output: Disk full"
+fi
+for arguments in "--help" "--version" "--file cat.txt" "--folder folder --list-files"; do
+  name="closed standard output, $arguments"
+  "$program" $arguments >&- 2>err
+  [ $? -eq 1 ] || { echo "FAILED $name: not status 1"; failed=1; }
+  holds err "standard output: Device I/O error"
+done
+name="a reader that has seen enough"
+"$program" --file large.txt --set chkAllowWordsWithNumerals=1 2>err | head -n 1 >out
+lines out 1
+lines err 0
+
+# Input without an end.
+limited() { # NAME [ARGUMENT...]: as check with status 1, within a time; standard input stays
+  name=$1
+  shift
+  timeout 30 "$program" "$@" >out 2>err
+  status=$?
+  [ "$status" -eq 1 ] || { echo "FAILED $name: exit status $status"; cat err; failed=1; }
+}
+if [ -e /dev/zero ]; then
+  limited "a text without an end" --text /dev/zero
+  holds err "Too much clipboard text: There are more than 100,000 characters in the text on the clipboard. The maximum permitted is 100,000."
+  yes | limited "standard input without an end" --text -
+  holds err "There are more than 100,000 characters"
+  limited "a state without an end" --file cat.txt --state /dev/zero
+  holds err "/dev/zero cannot be used as a state: a line of it is longer than 16,777,216 bytes"
+  limited "words without an end" --file cat.txt --set 'txbWordsFile(0)=/dev/zero'
+  holds err "not a text file"
+  yes | tr -d '\n' | limited "a word without an end" --file cat.txt --set 'txbWordsFile(0)=/dev/stdin'
+  holds err "/dev/stdin: it is longer than 16,777,216 bytes"
+  yes | limited "words in lines without an end" --file cat.txt --set 'txbWordsFile(0)=/dev/stdin'
+  holds err "/dev/stdin: it is longer than 16,777,216 bytes"
+fi
+
+# Control characters: escaped for a terminal, untouched for files and pipes.
+mkdir odd
+printf 'cat' >"odd/$(printf 'a\033]0;title\007\nb').txt"
+tally="--folder odd --format 12 --set txbWordsToIgnoreOrCount(1)=cat"
+check "bytes for a pipe" 0 $tally
+holds out "$(printf 'a\033]0;title\007')"
+if command -v script >/dev/null; then
+  name="on a terminal"
+  script -qec "'$program' $(printf '%s' "$tally" | sed 's/(1)/\\(1\\)/')" /dev/null </dev/null >out 2>&1
+  holds out 'a\x1B]0;title\x07'
+  script -qec "'$program' --file '$(printf 'no\033[1mfile')'" /dev/null </dev/null >out 2>&1
+  holds out 'no\x1B[1mfile does not exist'
+fi
+check "NUL bytes end lines" 0 $tally --null
+[ "$(tr -cd '\000' <out | wc -c)" -eq 4 ] || { echo "FAILED $name"; od -c out; failed=1; }
+check "NUL bytes in an output file" 0 --file cat.txt --format 8 --null --output null.txt
+[ "$(tr -cd '\000' <null.txt | wc -c)" -eq 7 ] || { echo "FAILED $name"; od -c null.txt; failed=1; }
 
 [ "$failed" -eq 0 ] && echo "all as wanted"
 exit "$failed"

@@ -1,11 +1,24 @@
 #include "system/terminal.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace quillomat {
 
 // Streams are bytes here, and the terminal says itself which encoding it shows.
-Terminal::Terminal() = default;
+Terminal::Terminal() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(stream, F_GETFD) != -1) continue;
+    // Takes the lowest number that is free, which is the stream's; the wrong way round it fails.
+    static_cast<void>(open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+  }
+}
 
 Terminal::~Terminal() = default;
+
+bool IsTerminal(StandardStream stream) {
+  return isatty(stream == StandardStream::kOutput ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
 
 std::vector<std::string> ProgramArguments(int argc, const char* const* argv) {
   return {argv, argv + argc};

@@ -34,6 +34,13 @@ Terminal::~Terminal() {
   SetConsoleOutputCP(outputEncodingBefore_);
 }
 
+bool IsTerminal(StandardStream stream) {
+  DWORD mode = 0;
+  return GetConsoleMode(
+             GetStdHandle(stream == StandardStream::kOutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE),
+             &mode) != 0;
+}
+
 // Those of `main` have lost every character that the system's old encoding does not know.
 std::vector<std::string> ProgramArguments(int argc, const char* const* argv) {
   int count = 0;

@@ -1,0 +1,93 @@
+// What a user is told when there is not enough memory: every allocation of this program goes
+// through the operators below, which a test can make refuse the large ones.
+#include <atomic>
+#include <cstdlib>
+#include <gmock/gmock.h>
+#include <limits>
+#include <new>
+
+#include "support/program_fixture.h"
+
+namespace {
+
+std::atomic<std::size_t> largestAllocation{std::numeric_limits<std::size_t>::max()};
+
+void* Allocate(std::size_t bytes) {
+  void* const memory = bytes > largestAllocation ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+void* operator new(std::size_t bytes) {
+  return Allocate(bytes);
+}
+void* operator new[](std::size_t bytes) {
+  return Allocate(bytes);
+}
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*bytes*/) noexcept {
+  std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*bytes*/) noexcept {
+  std::free(memory);
+}
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+class OutOfMemory : public ProgramFixture {
+ protected:
+  OutOfMemory() { State().scanThreads = 1; }
+
+  /// More different words than such memory holds; "cat" is the first.
+  std::string WriteManyWords(const std::string& name) {
+    std::string text = "cat\n";
+    for (int number = 0; number < 60'000; ++number) {
+      std::string word = "word";
+      for (int rest = number; rest > 0; rest /= 26) word += static_cast<char>('a' + rest % 26);
+      text += word + "\n";
+    }
+    return folder.Write(name, text);
+  }
+
+  void CountWithLittleMemory(const std::function<void()>& count) {
+    largestAllocation = 600'000;
+    count();
+    largestAllocation = std::numeric_limits<std::size_t>::max();
+  }
+};
+
+TEST_F(OutOfMemory, IsToldAsWhatItIsAndNamesTheFile) {
+  const std::string path = WriteManyWords("many.txt");
+  CountWithLittleMemory([&] { CountFile(path); });
+  ExpectMessage(OnlyMessage(), "Error 7: Out of memory while reading " + path, "Problem",
+                MessageIcon::kExclamation);
+  EXPECT_FALSE(program.output.IsFull());
+}
+
+TEST_F(OutOfMemory, EndsTheFileAndNotTheFolder) {
+  (void)folder.Make("texts");
+  (void)WriteManyWords("texts/many.txt");
+  (void)folder.Write("texts/small.txt", "cat");
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  CountWithLittleMemory([&] { CountFolder(folder / "texts"); });
+  ASSERT_EQ(program.countRun.Folder().Skipped().size(), 1U);
+  EXPECT_THAT(program.countRun.Folder().Skipped()[0].path, HasSubstr("many.txt"));
+  EXPECT_EQ(program.countRun.Folder().Skipped()[0].reason, "Out of memory");
+  EXPECT_EQ(State().filesScanned, 1);
+  EXPECT_THAT(StoredWords(), testing::StartsWith("cat*2 "));
+}
+
+}  // namespace
+}  // namespace quillomat
