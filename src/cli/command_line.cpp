@@ -169,7 +169,7 @@ void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& desc
     const bool takesValue = option->get_items_expected_max() > 0;
     for (const std::string& name : option->get_lnames()) {
       descriptions.push_back(
-          {"--" + name, takesValue ? option->get_type_name() : "", option->get_description()});
+          {"--" + name, takesValue ? option->get_option_text() : "", option->get_description()});
     }
   }
   // Groups of options are parts of their own there.
