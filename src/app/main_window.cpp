@@ -108,6 +108,7 @@ void MainWindow::ConnectSource() {
   frmMain.optOnClipboard.Click.Connect([this] {
     if (!context_.state.blnStartUpCompleted || context_.state.busy) return;
     context_.output.ClearOutput();
+    ConcealNumWords(context_.frmMain, true);
     EnableSourceControls(context_);
     SetTheFocus(context_.frmMain);
   });
@@ -120,6 +121,9 @@ void MainWindow::ConnectSource() {
 
 void MainWindow::ConnectFiles() {
   MainForm& frmMain = context_.frmMain;
+  frmMain.txbFile[0].Change.Connect([&frmMain] {
+    if (frmMain.txbFile[0].Text().empty()) frmMain.lblFilesize.SetCaption("");
+  });
   frmMain.txbFile[0].LostFocus.Connect([this] {
     TextBox& box = context_.frmMain.txbFile[0];
     CompletePathIn(box, context_);
@@ -131,7 +135,6 @@ void MainWindow::ConnectFiles() {
   frmMain.cmdFile[1].Click.Connect([this] { ChooseOutputFile(); });
   frmMain.cmdClearFile[0].Click.Connect([this] {
     context_.frmMain.txbFile[0].SetText("");
-    context_.frmMain.lblFilesize.SetCaption("");
     SetTheFocus(context_.frmMain);
   });
   frmMain.cmdClearFile[1].Click.Connect([this] {
@@ -174,6 +177,7 @@ void MainWindow::ConnectFolder() {
   MainForm& frmMain = context_.frmMain;
   frmMain.cmdFolder.Click.Connect([this] {
     context_.output.ClearOutput();
+    ConcealNumWords(context_.frmMain, true);
     TextBox& box = context_.frmMain.txbFolder;
     if (const auto path = ChooseFolderFor(box, "Select Folder", context_)) {
       box.SetText(*path);

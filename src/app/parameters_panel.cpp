@@ -94,6 +94,8 @@ void ParametersPanel::ConnectWordLists() {
     const auto kind = static_cast<WordListKind>(i);
     panel.cmdSelectWordsFile[i].Click.Connect([this, kind] { wordLists_.SelectWordsFile(kind); });
     panel.cmdClearWordsFile[i].Click.Connect([this, kind] { wordLists_.ClearWordsFile(kind); });
+    panel.txbWordsFile[i].LostFocus.Connect(
+        [this, kind] { wordLists_.OnWordsFileLostFocus(kind); });
     panel.txbWordsToIgnoreOrCount[i].LostFocus.Connect(
         [this, kind] { wordLists_.OnExtraWordsLostFocus(kind); });
     panel.cmdClearWordsToIgnoreOrCount[i].Click.Connect([this, kind, i] {

@@ -44,8 +44,8 @@ Program::Program(Desktop& desktop, EventPump::Clock clock)
       output(frmMain, desktop),
       lister(frmMain, frmParams, desktop, pump, state, output),
       context{frmMain, frmParams, desktop, pump, text, state, output, lister, becameIdle_},
-      countRun(context),
       wordLists(context),
+      countRun(context, wordLists),
       savedState(context, countRun, wordLists),
       mainWindow_(context, countRun),
       panel_(context, wordLists),
@@ -100,6 +100,7 @@ void Program::FillLists() {
 }
 
 void Program::Initialize() {
+  ForgetWords();
   frmMain.optFolder.SetValue(true);
   frmMain.lblFilesize.SetCaption("");
   frmMain.lblTwirler.SetCaption(" ");
@@ -126,6 +127,15 @@ void Program::SetMainWindowsDefaults(ControlKind kind) {
     Control& control = ControlOf(setting, frmMain, frmParams);
     if (control.Kind() == kind) SetToDefault(setting, control);
   }
+}
+
+/// What was counted, and what is shown of it, so that nothing old is ever listed again.
+void Program::ForgetWords() {
+  state.DiscardWords();
+  state.filesScanned = 0;
+  state.foldersScanned = 0;
+  output.ClearOutput();
+  ConcealNumWords(frmMain, true);
 }
 
 void Program::UseSettingsFolder() {

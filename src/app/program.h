@@ -84,12 +84,13 @@ class Program {
   OutputBox output;
   WordLister lister;
   RunContext context;
-  CountRun countRun;
   WordListReader wordLists;
+  CountRun countRun;
   SavedState savedState;
 
  private:
   void Connect();
+  void ForgetWords();
   void FillLists();
   void SetMainWindowsDefaults(ControlKind kind);
   void ToggleLanguage();

@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <new>
+#include <optional>
 
 #include "app/state_file.h"
 #include "base/run_time_error.h"
+#include "listing/output_rules.h"
 #include "listing/set_the_focus.h"
+#include "sources/named_text.h"
 #include "sources/path_boxes.h"
 #include "system/file_system.h"
 
@@ -42,6 +45,9 @@ void SavedState::Connect(std::function<void()> initialize) {
 }
 
 std::string SavedState::SaveState(const std::string& path) {
+  if (const std::string refusal = WhyNotToSaveTo(path); !refusal.empty()) {
+    return "Error when attempting to save state: " + refusal;
+  }
   try {
     WriteStateFile(PathOrSettings(path), context_.frmMain, context_.frmParams);
     return {};
@@ -53,6 +59,20 @@ std::string SavedState::SaveState(const std::string& path) {
   }
 }
 
+/// "" for no reason. The state that was loaded may be saved again: that is how it is kept up to
+/// date.
+std::string SavedState::WhyNotToSaveTo(const std::string& path) const {
+  if (path.empty()) return {};  // the settings file, which is nobody's text
+  const CountState& state = context_.state;
+  std::optional<NeededAs> neededAs = WhyNotToWrite(path, state.counted);
+  if (!neededAs) neededAs = WhyNotToWrite(path, TextNamedIn(context_.frmMain));
+  if (!neededAs) neededAs = WhyNotToWrite(path, state.filesRead);
+  if (!neededAs || *neededAs == NeededAs::kState) return {};
+  if (*neededAs == NeededAs::kText) return "the file is the text that is counted.";
+  if (*neededAs == NeededAs::kWordsFile) return "the file is a words file.";
+  return "the file lies in the folder that is counted.";
+}
+
 RestoreResult SavedState::ReadControls(const std::string& path) {
   const std::string& stateFile = PathOrSettings(path);
   if (!FileExists(stateFile)) return RestoreResult::kNoFile;
@@ -61,6 +81,7 @@ RestoreResult SavedState::ReadControls(const std::string& path) {
   try {
     const BusyGuard busy(context_);  // no handler lists words while the controls are being set
     ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
+    context_.state.filesRead.state = AbsolutePath(stateFile);
     return RestoreResult::kRestored;
   } catch (const RunTimeError& error) {
     indexOutOfRange_ = dynamic_cast<const ListIndexOutOfRange*>(&error) != nullptr;
@@ -78,6 +99,7 @@ RestoreResult SavedState::RestoreSavedState(const std::string& path) {
 }
 
 RestoreResult SavedState::TakeControlsAsTheyAre() {
+  const bool listStood = countRun_.ListStands();
   TakeTypedLists();
   RestoreResult result =
       AnyComboWithoutItem() ? RestoreResult::kInvalidIndex : RestoreResult::kRestored;
@@ -92,13 +114,14 @@ RestoreResult SavedState::TakeControlsAsTheyAre() {
         !context_.frmParams.txbWordsFile[static_cast<std::size_t>(kind)].Text().empty();
     if (named && !wordLists_.AttemptToReadWords(kind)) result = RestoreResult::kWordsFileFailed;
   }
+  if (result != RestoreResult::kInvalidIndex) countRun_.OnRestored(listStood);
   return result;
 }
 
 void SavedState::TakeTypedLists() {
   ParamsForm& frmParams = context_.frmParams;
+  countRun_.Extensions().OnRestored();
   for (std::size_t i = 0; i < 2; ++i) {
-    countRun_.Extensions().OnLostFocus(static_cast<ExtensionList>(i));
     wordLists_.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
     const bool startless = frmParams.txbStartComment[i].Text().empty();
     if (startless) frmParams.txbEndComment[i].SetText("");

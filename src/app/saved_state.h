@@ -53,6 +53,7 @@ class SavedState {
   void OnSaveToSettingsFile();
   void OnSaveToFile();
   void OnLoadFromFile();
+  [[nodiscard]] std::string WhyNotToSaveTo(const std::string& path) const;
   void TakeTypedLists();
   [[nodiscard]] bool AnyComboWithoutItem() const;
   [[nodiscard]] const std::string& PathOrSettings(const std::string& path) const {

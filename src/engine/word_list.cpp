@@ -31,8 +31,9 @@ SplitResult SplitList(std::string_view text, std::string_view separators, std::s
 }
 
 SplitResult ParseTypedWords(std::string_view text) {
-  SplitResult result = SplitList(LowerCase(text), " ", kMaxTypedWords);
+  SplitResult result = SplitList(LowerCase(text), " \t\r\n", kMaxTypedWords);
   for (std::string& item : result.items) item.resize(TrimTrailingChars(item, "-'_.,:").size());
+  std::erase(result.items, std::string());
   return result;
 }
 

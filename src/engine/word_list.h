@@ -77,8 +77,9 @@ struct SplitResult {
 /// The most words that a list typed by hand takes.
 inline constexpr std::size_t kMaxTypedWords = 1000;
 
-/// A list typed by hand, lower-cased, split and with the trailing characters "-'_.,:" taken off
-/// each word; `fits` is false when it has more than kMaxTypedWords words.
+/// A list typed by hand, lower-cased, split at blanks, tabs and line breaks, and with the trailing
+/// characters "-'_.,:" taken off each word; an item of such characters alone is no word. `fits` is
+/// false when it has more than kMaxTypedWords items.
 [[nodiscard]] SplitResult ParseTypedWords(std::string_view text);
 
 }  // namespace quillomat

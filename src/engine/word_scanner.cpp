@@ -150,18 +150,31 @@ void WordScanner::GetWordsOfPart(std::string_view part, LinePartState& state) {
 
 /// Those of the block.
 void WordScanner::TakeTokens() {
+  try {
+    if (!TakeTokensOfBlock()) LeaveBlock();
+  } catch (...) {  // a counter has overflowed, or a handler of the user's doing has failed
+    LeaveBlock();
+    throw;
+  }
+}
+
+/// False when the scan is to stop before all are taken.
+bool WordScanner::TakeTokensOfBlock() {
   for (std::size_t first = 0; first < block_.TokenCount();) {
     const std::size_t left = block_.TokenCount() - first;
     const std::size_t count =
         std::min({left, TokenTaker::kTokensAtOnce, std::size_t{yield_.CallsLeft()}});
     taker_.TakeMany(block_, first, count);
-    if (yield_.YieldFor(static_cast<std::uint32_t>(count))) {
-      // Behind a word no comment is open; one that is not looked for stays as it was.
-      if (settings_.UseCommentMarkers) settings_.OpenComment = kNoComment;
-      return;
-    }
+    if (yield_.YieldFor(static_cast<std::uint32_t>(count))) return false;
     first += count;
   }
+  return true;
+}
+
+/// Behind a word no comment is open, whatever stands in the rest of the block; one that is not
+/// looked for stays as it was.
+void WordScanner::LeaveBlock() {
+  if (settings_.UseCommentMarkers) settings_.OpenComment = kNoComment;
 }
 
 }  // namespace quillomat

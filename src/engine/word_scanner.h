@@ -101,6 +101,8 @@ class WordScanner {
   }
   void SkipComment();
   AfterComments SkipComments();
+  [[nodiscard]] bool TakeTokensOfBlock();
+  void LeaveBlock();
   [[nodiscard]] bool RestIsOneBlank() const { return text_.substr(position_) == " "; }
 
   ScanSettings& settings_;

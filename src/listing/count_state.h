@@ -11,6 +11,7 @@
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
+#include "listing/output_rules.h"
 
 namespace quillomat {
 
@@ -22,6 +23,9 @@ struct CountState {
   /// Candidate words read, counted or not.
   std::int32_t WordsRead = 0;
   std::int16_t minimumColumnWidth = kMinimumColumnWidth;
+  /// Where they come from.
+  CountedText counted;
+  FilesRead filesRead;
 
   // What a scan goes by.
   ScanSettings settings;
@@ -34,7 +38,7 @@ struct CountState {
   std::int32_t filesInPass = 0;
   std::int32_t foldersVisited = 1;
   std::int32_t filesScanned = 0;
-  std::int32_t foldersScanned = 1;
+  std::int32_t foldersScanned = 0;
   /// Lines, ended with CR LF, about files and folders that the last count had to skip.
   std::string skippedNotice;
 
@@ -72,6 +76,7 @@ struct CountState {
     store.Clear();
     totals = {};
     ranking = {};
+    counted = {};
     skippedNotice.clear();
     completeRun = false;
     listAfterStop = false;

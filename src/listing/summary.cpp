@@ -59,9 +59,11 @@ void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view se
 
   std::string occurrences;
   std::string allOccurrences;
-  if (!countOnly && !state.listAfterStop && totals.TotalIncludedCount > 0) {
-    occurrences =
-        numbers.Line("Number of instances of words in this list:", totals.TotalIncludedCount);
+  if (!countOnly && !state.listAfterStop) {
+    if (totals.TotalIncludedCount > 0) {
+      occurrences =
+          numbers.Line("Number of instances of words in this list:", totals.TotalIncludedCount);
+    }
     allOccurrences = numbers.Line("Total number of instances of words:", state.WordsRead);
   }
   Show(frmMain.lblNumOccurrences, std::move(occurrences));

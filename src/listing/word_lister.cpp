@@ -1,6 +1,7 @@
 #include "listing/word_lister.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -49,21 +50,29 @@ bool WordLister::HasOutputFile() const {
 
 void WordLister::ListWords() {
   fileWritten_ = false;
-  if (state_.totals.NumIncludedWords == 0) {
-    output_.ClearOutput();
-    output_.OutputToTxb(
-        NoWordsMessage({state_.store.NumDifferentWords(), frmParams_.cboShortWordSize.ListIndex(),
-                        frmParams_.cboThresholdFrequency.ListIndex(),
-                        frmParams_.chkIgnoreInfrequentWords.IsChecked()}));
-    return RemoveLastComma();
-  }
-  if (HasOutputFile() && AskToOverwrite() && SparesTheText() && !ListIntoFile()) return;
+  if (state_.totals.NumIncludedWords == 0) return ListNoWords();
+  const bool toFile =
+      HasOutputFile() && SparesWhatIsRead() && AskToOverwrite() && SparesWhatIsRead();
+  if (toFile && !ListIntoFile()) return;
   output_.ClearOutput();
   if (state_.StopRequested) {
     output_.OutputToTxb(std::string(kCrLf) + "Output to file was terminated.");
     return;
   }
-  if (!textBoxWanted_) return;
+  if (textBoxWanted_) ListInTextBox();
+}
+
+void WordLister::ListNoWords() {
+  output_.ClearOutput();
+  output_.OutputToTxb(
+      NoWordsMessage({state_.store.NumDifferentWords(), frmParams_.cboShortWordSize.ListIndex(),
+                      frmParams_.cboThresholdFrequency.ListIndex(),
+                      frmParams_.chkIgnoreInfrequentWords.IsChecked()}));
+  RemoveLastComma();
+}
+
+void WordLister::ListInTextBox() {
+  if (state_.totals.NumIncludedWords == 0) return ListNoWords();
   ListIntoTextBox();
   if (state_.StopRequested) {
     output_.OutputToTxb(std::string(kCrLf).append("Listing stopped.").append(kCrLf));
@@ -112,20 +121,17 @@ bool WordLister::AskToOverwrite() {
   return false;
 }
 
-bool WordLister::SparesTheText() {
+bool WordLister::MayWriteOutputFile(const CountedText& text) const {
+  if (!HasOutputFile()) return true;
   const std::string& path = frmMain_.txbFile[1].Text();
-  MessageBox box{"", "Invalid output file", MessageIcon::kExclamation};
-  if (frmMain_.optInFile.Value() &&
-      IsSameFile(path, std::string(TrimBlanks(frmMain_.txbFile[0].Text())))) {
-    box.text = "The output file cannot be the same as the input file.";
-    box.title = "Error";
-  } else if (frmMain_.optFolder.Value() && IsInFolder(path, frmMain_.txbFolder.Text(),
-                                                      frmMain_.chkIncludeSubfolders.IsChecked())) {
-    box.text = "The output file cannot be in the folder or a subfolder.";
-  } else {
-    return true;
-  }
-  desktop_.ShowMessage(box);
+  std::optional<NeededAs> neededAs = WhyNotToWrite(path, text);
+  if (!neededAs) neededAs = WhyNotToWrite(path, state_.filesRead);
+  if (neededAs) desktop_.ShowMessage(OutputRefusal(*neededAs));
+  return !neededAs;
+}
+
+bool WordLister::SparesWhatIsRead() {
+  if (MayWriteOutputFile(state_.counted)) return true;
   frmMain_.chkDisableOutputToFile.SetChecked(true);
   return false;
 }
@@ -261,6 +267,11 @@ std::string WordLister::FullBoxMessage() {
 bool WordLister::CanServe(DisplayFormat format) const {
   return !NeedsFileTallies(format) ||
          (frmMain_.optFolder.Value() && state_.lists.HasCountOnlyWords());
+}
+
+bool WordLister::FormatFitsWords() const {
+  return !NeedsFileTallies(ChosenFormat(frmMain_)) ||
+         (state_.counted.source == CountedText::Source::kFolder && state_.settings.CountOnlyMode);
 }
 
 bool WordLister::CheckDisplayFormat() {

@@ -13,6 +13,7 @@
 #include "listing/display_format.h"
 #include "listing/list_walk.h"
 #include "listing/output_box.h"
+#include "listing/output_rules.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -35,6 +36,9 @@ class WordLister {
   /// full.
   void SetTextBoxWanted(bool wanted) { textBoxWanted_ = wanted; }
 
+  /// As ListWords, but into the text box alone.
+  void ListInTextBox();
+
   /// What ends the lines of a list that goes to a file or to standard output; the platform's line
   /// break if not set.
   void SetFileLineBreak(std::string lineBreak) { fileLineBreak_ = std::move(lineBreak); }
@@ -55,11 +59,17 @@ class WordLister {
   /// Refuses a format that the source cannot serve: tells the user, goes back to the first format
   /// and returns false.
   bool CheckDisplayFormat();
+  /// Whether the words on display can be listed in the chosen format.
+  [[nodiscard]] bool FormatFitsWords() const;
   /// While CheckDisplayFormat changes the format the change is nobody else's affair.
   [[nodiscard]] bool IsChangingFormat() const { return changingFormat_; }
 
   /// A new run begins: what was written before is not its result.
   void ForgetOutputFile() { fileWritten_ = false; }
+
+  /// Whether no output file is wanted, or one that nothing is read from: neither `text`, nor a
+  /// words file, nor the state that was loaded, by any link. If not, the user is told.
+  [[nodiscard]] bool MayWriteOutputFile(const CountedText& text) const;
 
   /// Whether the last ListWords wrote the output file.
   [[nodiscard]] bool FileWritten() const { return fileWritten_; }
@@ -70,9 +80,10 @@ class WordLister {
   [[nodiscard]] std::string InOutputFolder(std::string_view path) const;
   /// Whether the output file may be written; the user may name another one.
   bool AskToOverwrite();
-  /// Whether the output file is none of those that the text comes from, which a path typed after
-  /// the count or at the question may name. If it is one, the user is told and file output is off.
-  bool SparesTheText();
+  /// MayWriteOutputFile for the text that was counted, which a path typed after the count or at the
+  /// question may forbid; file output is off then.
+  bool SparesWhatIsRead();
+  void ListNoWords();
   bool ListIntoFile();
   [[nodiscard]] std::string PathWorthNaming(const RunTimeError& error) const;
   void ListIntoTextBox();

@@ -110,6 +110,7 @@ void ClipboardSource::ScanText() {
   state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
   context_.output.ClearOutput();
   state.DiscardWords();
+  state.counted = {CountedText::Source::kClipboard};
   state.store.Files().Reset(false);
   state.StopRequested = false;
   context_.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));

@@ -64,8 +64,10 @@ void CountRun::RunCount() {
 
 bool CountRun::PrepareRun() {
   CountState& state = context_.state;
+  const bool listsTaken = wordLists_.TakeBoxes();
   context_.output.ClearOutput();
   ConcealNumWords(context_.frmMain, false);
+  if (!listsTaken || !context_.lister.MayWriteOutputFile({})) return false;
   state.minimumColumnWidth = kMinimumColumnWidth;
   state.settings.CountOnlyMode = state.lists.HasCountOnlyWords();
   if (context_.frmParams.chkAllowCommentMarkers.IsChecked() && !CheckCommentMarkers(context_)) {
@@ -74,7 +76,7 @@ bool CountRun::PrepareRun() {
     return false;
   }
   const bool clipboard = context_.frmMain.optOnClipboard.Value();
-  if (!clipboard && !extensions_.CheckFileExtensions()) return false;
+  if (!clipboard && !(extensions_.TakeBoxes() && extensions_.CheckFileExtensions())) return false;
   state.settings.ReadingWordList = false;
   state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
   state.settings.BuildExtraWordChars();
@@ -238,8 +240,8 @@ void CountRun::OnListFilesClick() {
 void CountRun::OnListChoiceChanged() {
   CountState& state = context_.state;
   if (!state.blnStartUpCompleted || state.busy || context_.lister.IsChangingFormat()) return;
-  if (context_.lister.CheckDisplayFormat() && (state.completeRun || state.listAfterStop)) {
-    ListAgain();
+  if (context_.lister.CheckDisplayFormat() && ListStands()) {
+    ListAgain(ListTarget::kAll);
     if (state.listAfterStop) {
       Tell(context_, context_.text.GetText(kInterruptedListText),
            context_.text.GetText(kInterruptedListTitle), MessageIcon::kInformation);
@@ -258,18 +260,29 @@ void CountRun::OnDisableOutputClick() {
     const MessageAnswer answer =
         context_.desktop.ShowMessage({"Relist words (so as to write to file)?", "Relist?",
                                       MessageIcon::kQuestion, MessageButtons::kYesNo});
-    if (answer == MessageAnswer::kYes) ListAgain();
+    if (answer == MessageAnswer::kYes) ListAgain(ListTarget::kAll);
   }
   SetTheFocus(context_.frmMain);
 }
 
-void CountRun::ListAgain() {
+void CountRun::OnRestored(bool listStood) {
+  if (!listStood) return;
+  if (ListStands() && context_.lister.FormatFitsWords()) return ListAgain(ListTarget::kTextBox);
+  context_.output.ClearOutput();
+  ConcealNumWords(context_.frmMain, true);
+}
+
+void CountRun::ListAgain(ListTarget target) {
   MainForm& frmMain = context_.frmMain;
   {
     const BusyGuard busy(context_);
     EnableListOptions(frmMain, false);
     frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
-    context_.lister.ListWords();
+    if (target == ListTarget::kTextBox) {
+      context_.lister.ListInTextBox();
+    } else {
+      context_.lister.ListWords();
+    }
     frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
     frmMain.lblTwirler.SetCaption(" ");
     EnableListOptions(frmMain, true);

@@ -2,6 +2,7 @@
 // list at the end.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "engine/word_filters.h"
@@ -10,13 +11,15 @@
 #include "sources/file_source.h"
 #include "sources/folder_source.h"
 #include "sources/run_context.h"
+#include "sources/word_list_reader.h"
 
 namespace quillomat {
 
 class CountRun {
  public:
-  explicit CountRun(const RunContext& context)
+  CountRun(const RunContext& context, WordListReader& wordLists)
       : context_(context),
+        wordLists_(wordLists),
         clipboard_(context),
         file_(context),
         extensions_(context),
@@ -34,6 +37,14 @@ class CountRun {
   /// File output was switched on or off.
   void OnDisableOutputClick();
 
+  /// Whether a list of words stands that can be made anew.
+  [[nodiscard]] bool ListStands() const {
+    return context_.state.completeRun || context_.state.listAfterStop;
+  }
+  /// The settings were restored. A list that stood before is made anew as they want it, in the text
+  /// box alone; where its words are gone, or are not what the format needs, the box is emptied.
+  void OnRestored(bool listStood);
+
   [[nodiscard]] ClipboardSource& Clipboard() { return clipboard_; }
   [[nodiscard]] FileSource& File() { return file_; }
   [[nodiscard]] FileExtensions& Extensions() { return extensions_; }
@@ -43,6 +54,8 @@ class CountRun {
   [[nodiscard]] bool ListWasMade() const { return listWasMade_; }
 
  private:
+  enum class ListTarget : std::uint8_t { kAll, kTextBox };
+
   void RunCount();
   [[nodiscard]] bool PrepareRun();
   [[nodiscard]] bool ScanSource();
@@ -55,9 +68,10 @@ class CountRun {
   void DropProcessingNotice();
   void RankWords();
   void FinishRun();
-  void ListAgain();
+  void ListAgain(ListTarget target);
 
   const RunContext& context_;
+  WordListReader& wordLists_;
   ClipboardSource clipboard_;
   FileSource file_;
   FileExtensions extensions_;

@@ -34,20 +34,50 @@ bool FileExtensions::GetFileExtensions(ExtensionList which) {
   }
   const bool fits = entries.size() <= kMaxExtensions;
   if (!fits) entries.resize(kMaxExtensions);
-  if (fits) box.SetText(JoinWithBlanks(entries));
+  box.SetText(JoinWithBlanks(entries));
   lists_[index] = std::move(entries);
   return fits;
 }
 
-void FileExtensions::OnLostFocus(ExtensionList which) {
+FileExtensions::BoxTexts FileExtensions::Texts() const {
+  const auto& boxes = context_.frmMain.txbFileExtensions;
+  return {boxes[0].Text(), boxes[1].Text()};
+}
+
+void FileExtensions::TellTooMany(ExtensionList which) const {
   const bool included = which == ExtensionList::kIncluded;
-  if (!GetFileExtensions(which)) {
-    const std::string example = included ? "E.g.: txt htm html xml" : "E.g.: c cpp";
-    Refuse(context_,
-           std::string("Too many file extensions to ") + (included ? "include" : "exclude") + "." +
-               std::string(kCrLf) + example,
-           std::string(kInvalidInput));
+  const std::string example = included ? "E.g.: txt htm html xml" : "E.g.: c cpp";
+  Refuse(context_,
+         std::string("Too many file extensions to ") + (included ? "include" : "exclude") + "." +
+             std::string(kCrLf) + example,
+         std::string(kInvalidInput));
+}
+
+void FileExtensions::OnLostFocus(ExtensionList which) {
+  const bool fits = GetFileExtensions(which);
+  if (fits && checked_ == Texts()) return;
+  checked_ = Texts();  // first: a message takes the focus from the box, which is left once more
+  if (!fits) TellTooMany(which);
+  TellFaults();
+}
+
+void FileExtensions::OnRestored() {
+  static_cast<void>(TakeBoxes());
+  checked_ = Texts();
+  TellFaults();
+}
+
+bool FileExtensions::TakeBoxes() {
+  bool fit = true;
+  for (const ExtensionList which : {ExtensionList::kIncluded, ExtensionList::kExcluded}) {
+    if (GetFileExtensions(which)) continue;
+    TellTooMany(which);
+    fit = false;
   }
+  return fit;
+}
+
+void FileExtensions::TellFaults() const {
   const auto& list = List(ExtensionList::kIncluded);
   if (Contains(list, "doc") || Contains(list, "pdf")) {
     Refuse(context_,

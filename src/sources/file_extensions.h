@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,13 +27,20 @@ class FileExtensions {
  public:
   explicit FileExtensions(const RunContext& context) : context_(context) {}
 
-  /// Parses one of the two boxes and writes the entries back into it. Of too many entries the first
-  /// kMaxExtensions are kept, the box is left as it is, and the result is false.
+  /// Parses one of the two boxes and writes the entries that count back into it. Of too many
+  /// entries these are the first kMaxExtensions, and the result is false.
   [[nodiscard]] bool GetFileExtensions(ExtensionList which);
 
-  /// What happens when the user leaves one of the boxes: it is parsed and checked, and the user
-  /// told.
+  /// What happens when the user leaves one of the boxes, or presses Enter in it: it is parsed and
+  /// checked, and the user told, once for the texts that stand in the boxes.
   void OnLostFocus(ExtensionList which);
+
+  /// The boxes were set from outside: both are parsed and checked, and the user told.
+  void OnRestored();
+
+  /// Makes the lists what the boxes say, before a count. False when one holds too many entries; the
+  /// user has been told.
+  [[nodiscard]] bool TakeBoxes();
 
   /// Checks the lists against each other; tells the user about the first fault and returns false.
   [[nodiscard]] bool CheckFileExtensions() const;
@@ -41,20 +49,23 @@ class FileExtensions {
   /// with the lower-cased extension, so an entry in capitals matches nothing.
   [[nodiscard]] bool IsScannable(std::string_view fileName) const;
 
-  /// Back to the start: nothing included or excluded but what is built in. The boxes are left
-  /// alone.
-  void Reset() { lists_ = {}; }
-
   /// Whether the user restricts the files at all.
   [[nodiscard]] bool AnyGiven() const { return !lists_[0].empty() || !lists_[1].empty(); }
 
  private:
+  using BoxTexts = std::array<std::string, 2>;
+
+  void TellTooMany(ExtensionList which) const;
+  void TellFaults() const;
+  [[nodiscard]] BoxTexts Texts() const;
   [[nodiscard]] const std::vector<std::string>& List(ExtensionList which) const {
     return lists_[static_cast<std::size_t>(which)];
   }
 
   const RunContext& context_;
   std::array<std::vector<std::string>, 2> lists_;
+  /// What the boxes held when the user was last told of their faults.
+  std::optional<BoxTexts> checked_;
 };
 
 }  // namespace quillomat

@@ -79,6 +79,7 @@ ScanFileResult FileSource::ScanFile() {
       ReadLines(*folderJob_, *file, type);
     } else {
       context_.state.DiscardWords();
+      context_.state.counted = AsText();
       context_.state.store.Files().Reset(false);
       ScanJob job(context_);
       ReadLines(job, *file, type);
@@ -102,9 +103,14 @@ ScanFileResult FileSource::CheckPaths() {
   return OutputIsInput() ? ScanFileResult::kOutputIsInput : ScanFileResult::kDone;
 }
 
+CountedText FileSource::AsText() const {
+  return {CountedText::Source::kFile, AbsolutePath(path_)};
+}
+
 bool FileSource::OutputIsInput() const {
-  const std::string& outputPath = context_.frmMain.txbFile[1].Text();
-  return !outputPath.empty() && IsSameFile(outputPath, path_);
+  // That no file of a folder is the output file is found out before the first is read.
+  if (folderJob_ != nullptr) return false;
+  return WhyNotToWrite(context_.frmMain.txbFile[1].Text(), AsText()).has_value();
 }
 
 ScanFileResult FileSource::CheckInputFile(const std::string& path) {

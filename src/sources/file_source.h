@@ -69,6 +69,7 @@ class FileSource {
   [[nodiscard]] bool IsSingleFile() const { return context_.frmMain.optInFile.Value(); }
   [[nodiscard]] const std::string& InputPath() const { return context_.frmMain.txbFile[0].Text(); }
   [[nodiscard]] ScanFileResult CheckPaths();
+  [[nodiscard]] CountedText AsText() const;
   [[nodiscard]] bool OutputIsInput() const;
   [[nodiscard]] bool AskAboutLargeFile();
   [[nodiscard]] ScanFileResult CheckText(LineEndingType type);

@@ -6,6 +6,7 @@
 
 #include "base/text_helpers.h"
 #include "listing/summary.h"
+#include "sources/named_text.h"
 #include "sources/scan_job.h"
 #include "sources/wildcard.h"
 #include "sources/window_state.h"
@@ -14,8 +15,8 @@
 namespace quillomat {
 namespace {
 
-std::string Counted(std::int32_t number, std::string_view noun) {
-  return std::to_string(number).append(" ").append(noun).append(number == 1 ? "" : "s");
+std::string Counted(std::int32_t number, std::string_view noun, std::string_view separator) {
+  return GroupDigits(number, separator).append(" ").append(noun).append(number == 1 ? "" : "s");
 }
 
 /// Whether an error is the count's own and not just that of one file: there may be memory for the
@@ -70,20 +71,22 @@ class FilesInTurn {
 
 }  // namespace
 
-std::string FilesInFolders(std::int32_t files, std::int32_t folders) {
-  return Counted(files, "file") + " in " + Counted(folders, "folder");
+std::string FilesInFolders(std::int32_t files, std::int32_t folders, std::string_view separator) {
+  return Counted(files, "file", separator) + " in " + Counted(folders, "folder", separator);
 }
 
 bool FolderHasFiles(const std::string& path, std::string_view pattern, bool includeSubfolders) {
-  const std::optional<FolderListing> listing = TryToList(path);
-  if (!listing) return false;
+  const FolderListing listing = ListFolder(path);
   const auto fits = [pattern](const std::string& name) { return MatchesWildcard(name, pattern); };
-  if (std::any_of(listing->files.begin(), listing->files.end(), fits)) return true;
-  return includeSubfolders &&
-         std::any_of(listing->subfolders.begin(), listing->subfolders.end(),
-                     [&](const std::string& name) {
-                       return FolderHasFiles(JoinPath(path, name), pattern, true);
-                     });
+  if (std::ranges::any_of(listing.files, fits)) return true;
+  const auto hasFiles = [&](const std::string& name) {
+    try {
+      return FolderHasFiles(JoinPath(path, name), pattern, true);
+    } catch (const RunTimeError&) {
+      return false;
+    }
+  };
+  return includeSubfolders && std::ranges::any_of(listing.subfolders, hasFiles);
 }
 
 bool FolderSource::CheckFolder() const {
@@ -95,19 +98,29 @@ bool FolderSource::CheckFolder() const {
     Refuse(context_, "Folder does not exist", "Invalid input");
     return false;
   }
-  if (!FolderHasFiles(Folder(), "*.*", IncludesSubfolders())) {
-    Refuse(context_, "Folder contains no files.", "Nothing to do");
+  try {
+    if (!FolderHasFiles(Folder(), "*.*", IncludesSubfolders())) {
+      Refuse(context_, "Folder contains no files.", "Nothing to do");
+      return false;
+    }
+  } catch (const RunTimeError& error) {
+    Refuse(context_, "Folder cannot be read: " + error.Description() + ".", "Error");
     return false;
   }
   return CheckOutputFile();
 }
 
 bool FolderSource::CheckOutputFile() const {
-  const std::string& outputPath = context_.frmMain.txbFile[1].Text();
-  if (outputPath.empty() || !IsInFolder(outputPath, Folder(), IncludesSubfolders())) return true;
-  Refuse(context_, "The output file cannot be in the folder or a subfolder.",
-         "Invalid output file");
-  return false;
+  const auto neededAs =
+      WhyNotToWrite(context_.frmMain.txbFile[1].Text(), TextNamedIn(context_.frmMain));
+  if (neededAs) context_.desktop.ShowMessage(OutputRefusal(*neededAs));
+  return !neededAs;
+}
+
+std::string FolderSource::FilesInPass() const {
+  const CountState& state = context_.state;
+  return FilesInFolders(state.filesInPass, state.foldersVisited,
+                        context_.desktop.DigitGroupSeparator());
 }
 
 bool FolderSource::ScanFolder() {
@@ -120,9 +133,8 @@ bool FolderSource::ScanFolder() {
 void FolderSource::ListFiles() {
   if (!CheckFolder() || !RunCountingPass(Pass::kListOnly)) return;
   const CountState& state = context_.state;
-  OutputLine(state.filesInPass == 0
-                 ? "No files will be scanned."
-                 : FilesInFolders(state.filesInPass, state.foldersVisited) + " will be scanned.");
+  OutputLine(state.filesInPass == 0 ? "No files will be scanned."
+                                    : FilesInPass() + " will be scanned.");
 }
 
 /// False when the user stopped it.
@@ -137,8 +149,7 @@ bool FolderSource::RunCountingPass(Pass pass) {
   WalkFolder(Folder());
   filesCounted_ = state.filesInPass;
   if (!state.StopRequested) return true;
-  OutputLine("Stopped while counting files (so far: " +
-             FilesInFolders(state.filesInPass, state.foldersVisited) + ").");
+  OutputLine("Stopped while counting files (so far: " + FilesInPass() + ").");
   return false;
 }
 
@@ -162,6 +173,7 @@ void FolderSource::RunScanningPass() {
   state.StopRequested = false;
   HideNoticeLabels(context_.frmMain);
   state.DiscardWords();
+  state.counted = TextNamedIn(context_.frmMain);
   state.store.Files().Reset(state.settings.CountOnlyMode);
   pass_ = Pass::kScanning;
   skipped_.clear();
@@ -176,9 +188,9 @@ void FolderSource::RunScanningPass() {
   state.foldersScanned = state.foldersVisited;
   state.skippedNotice = SkippedNotice();
   const std::string result =
-      state.filesInPass == 0 ? "No files were scanned."
-                             : FilesInFolders(state.filesInPass, state.foldersVisited) +
-                                   (state.filesInPass == 1 ? " was scanned." : " were scanned.");
+      state.filesInPass == 0
+          ? "No files were scanned."
+          : FilesInPass() + (state.filesInPass == 1 ? " was scanned." : " were scanned.");
   OutputLine(result);
 }
 
@@ -222,7 +234,7 @@ void FolderSource::ShowFilesCounted() const {
   constexpr std::int32_t kShownEvery = 5;
   const std::int32_t files = context_.state.filesInPass;
   if (files > kShownOneByOne && files % kShownEvery != 0) return;
-  context_.frmMain.txbOutput.SetText("Counting files . . . " + std::to_string(files));
+  context_.frmMain.txbOutput.SetText("Counting files . . . " + Grouped(context_, files));
 }
 
 void FolderSource::ScanOneFile(const std::string& path) {

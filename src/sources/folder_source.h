@@ -13,11 +13,12 @@
 
 namespace quillomat {
 
-/// "2 files in 1 folder".
-[[nodiscard]] std::string FilesInFolders(std::int32_t files, std::int32_t folders);
+/// "2 files in 1 folder", with `separator` between groups of digits.
+[[nodiscard]] std::string FilesInFolders(std::int32_t files, std::int32_t folders,
+                                         std::string_view separator);
 
 /// Whether a file whose name fits `pattern` is in the folder or, if asked for, anywhere below it.
-/// What may not be read holds none.
+/// A subfolder that may not be read holds none; throws RunTimeError when the folder itself may not.
 [[nodiscard]] bool FolderHasFiles(const std::string& path, std::string_view pattern,
                                   bool includeSubfolders);
 
@@ -51,6 +52,7 @@ class FolderSource {
 
   [[nodiscard]] bool CheckFolder() const;
   [[nodiscard]] bool CheckOutputFile() const;
+  [[nodiscard]] std::string FilesInPass() const;
   [[nodiscard]] bool RunCountingPass(Pass pass);
   [[nodiscard]] bool AskForOutputFile() const;
   void RunScanningPass();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <new>
+#include <optional>
 #include <vector>
 
 #include "base/letter_case.h"
@@ -11,10 +12,10 @@
 #include "base/text_helpers.h"
 #include "listing/summary.h"
 #include "sources/line_ending_warning.h"
+#include "sources/line_endings.h"
 #include "sources/path_boxes.h"
 #include "sources/scan_job.h"
 #include "system/file_system.h"
-#include "system/input_file.h"
 
 namespace quillomat {
 namespace {
@@ -77,6 +78,10 @@ TextBox& WordListReader::ExtraBox(WordListKind kind) {
   return context_.frmParams.txbWordsToIgnoreOrCount[IndexOf(kind)];
 }
 
+std::string& WordListReader::FileInForce(WordListKind kind) {
+  return context_.state.filesRead.wordsFiles[IndexOf(kind)];
+}
+
 std::string WordListReader::GetExtraWords(WordListKind kind) {
   SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()));
   if (!typed.fits) {
@@ -104,9 +109,12 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
 
 bool WordListReader::ReadWords(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
+  ForgetWordsOfFile(kind);
   tooLong_.clear();
   try {
-    const LineEndingType type = GetLineEndingType(path, kTextTestBytes);
+    std::optional<InputFile> file;  // opened once: what comes from a pipe comes only once
+    const LineEndingType type = OpenText(path, kTextTestBytes, file);
+    if (!file) return false;
     if (type == LineEndingType::kNotText) {
       Refuse(context_, "This is not a text file.", "Invalid input");
       return false;
@@ -125,8 +133,9 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ConcealNumWords(context_.frmMain, false);
     context_.output.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
                                             : "Now reading count-only words . . . ");
-    ScanWordsFile(path);
+    ScanWordsFile(*file);
     TakeWordsFromStore(kind);
+    FileInForce(kind) = path;
     return true;
   } catch (const InputTooLong& error) {
     tooLong_ = ":" + std::string(kCrLf) + error.Description();
@@ -138,9 +147,8 @@ bool WordListReader::ReadWords(WordListKind kind) {
   }
 }
 
-void WordListReader::ScanWordsFile(const std::string& path) {
+void WordListReader::ScanWordsFile(InputFile& file) {
   const BusyGuard busy(context_);
-  InputFile file(path);
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (file.Length() == 0) limits.bytes = kMostWordsBytes;
   LimitedSource limited(file, limits);
@@ -173,15 +181,7 @@ void WordListReader::TickAllowBoxesForListWords() {
 
 bool WordListReader::AttemptToReadWords(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
-  if (!FileExists(path)) {
-    // While a state is loaded the panel says that it could not be loaded as a whole.
-    if (context_.state.blnStartUpCompleted && !context_.state.blnInhibitPrompt) {
-      Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
-    } else if (IsIgnore(kind)) {
-      SetPathToCWDs_Eng();
-    }
-    return false;
-  }
+  if (!FileExists(path)) return TellNotFound(kind);
   context_.output.SaveOutputText();
   const bool ok = ReadWords(kind);
   if (context_.state.quitting) {
@@ -191,12 +191,65 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
          Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
          "Words loaded", MessageIcon::kInformation);
   } else {
-    Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
-           "Error");
-    PathBox(kind).SetText("");
+    TellNotLoaded(kind, path);
   }
   context_.output.RestoreOutputText();
   context_.becameIdle.Fire();
+  return ok;
+}
+
+/// False. While a state is restored the panel says that it could not be loaded as a whole, and the
+/// box keeps the path: the next count will tell.
+bool WordListReader::TellNotFound(WordListKind kind) {
+  ForgetWordsOfFile(kind);
+  if (context_.state.blnStartUpCompleted && !context_.state.blnInhibitPrompt) {
+    Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
+    PathBox(kind).SetText("");
+  } else if (IsIgnore(kind)) {
+    SetPathToCWDs_Eng();
+  }
+  return false;
+}
+
+void WordListReader::TellNotLoaded(WordListKind kind, const std::string& path) {
+  Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
+         "Error");
+  PathBox(kind).SetText("");
+}
+
+void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
+  if (context_.state.busy) return;  // the next count will see to it
+  CompletePathIn(PathBox(kind), context_);
+  const std::string& path = PathBox(kind).Text();
+  if (path.empty()) {
+    ForgetWordsOfFile(kind);
+  } else if (path != FileInForce(kind)) {
+    AttemptToReadWords(kind);
+  }
+}
+
+bool WordListReader::TakeBoxes() {
+  for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
+    if (!TakeTypedWords(kind) || !TakeWordsFile(kind)) return false;
+  }
+  return true;
+}
+
+bool WordListReader::TakeTypedWords(WordListKind kind) {
+  const std::string result = GetExtraWords(kind);
+  if (!result.ends_with('.')) return true;
+  Refuse(context_, result, "Invalid input");
+  return false;
+}
+
+bool WordListReader::TakeWordsFile(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  if (path.empty()) ForgetWordsOfFile(kind);
+  if (path == FileInForce(kind)) return true;
+  if (!FileExists(path)) return TellNotFound(kind);
+  const bool ok = ReadWords(kind);
+  if (context_.state.quitting) return false;
+  if (!ok) TellNotLoaded(kind, path);
   return ok;
 }
 
@@ -233,6 +286,7 @@ void WordListReader::ClearWordsFile(WordListKind kind) {
 
 void WordListReader::ForgetWordsOfFile(WordListKind kind) {
   FileList(kind) = WordList();
+  FileInForce(kind).clear();
 }
 
 void WordListReader::SetPathToCWDs_Eng() {

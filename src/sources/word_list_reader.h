@@ -8,6 +8,7 @@
 
 #include "engine/word_list.h"
 #include "sources/run_context.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 
@@ -24,26 +25,41 @@ class WordListReader {
   /// Reads the words file named on the panel into its list; false when it cannot be read or is no
   /// text (only the latter is told to the user).
   [[nodiscard]] bool ReadWords(WordListKind kind);
-  /// ReadWords with a check that the file is there, and a message about the outcome.
+  /// ReadWords with a check that the file is there, and a message about the outcome. A file that is
+  /// refused leaves its list empty, and its box as well unless a state is being restored.
   bool AttemptToReadWords(WordListKind kind);
+  /// What happens when the user leaves the box of a words file: another file than the one in force
+  /// is read, and an emptied box empties its list.
+  void OnWordsFileLostFocus(WordListKind kind);
+
+  /// Makes the lists what their boxes say, before a count: what is in force already costs nothing.
+  /// False when a box does not stand for a list; the user has been told, about nothing else.
+  [[nodiscard]] bool TakeBoxes();
   /// Lets the user choose a words file and reads it.
   void SelectWordsFile(WordListKind kind);
   /// Forgets the words file and its list.
   void ClearWordsFile(WordListKind kind);
-  /// Empties the list that was read from a file; its path stays.
+  /// Empties the list that was read from a file; its path stays, and is read before a count.
   void ForgetWordsOfFile(WordListKind kind);
 
   /// Names the English common words as the words-to-ignore file.
   void SetPathToCWDs_Eng();
 
  private:
-  void ScanWordsFile(const std::string& path);
+  [[nodiscard]] bool TellNotFound(WordListKind kind);
+  void TellNotLoaded(WordListKind kind, const std::string& path);
+  [[nodiscard]] bool TakeWordsFile(WordListKind kind);
+  [[nodiscard]] bool TakeTypedWords(WordListKind kind);
+  void ScanWordsFile(InputFile& file);
   void TakeWordsFromStore(WordListKind kind);
   void TickAllowBoxesForListWords();
   [[nodiscard]] WordList& FileList(WordListKind kind);
   [[nodiscard]] WordList& ExtraList(WordListKind kind);
   [[nodiscard]] TextBox& PathBox(WordListKind kind);
   [[nodiscard]] TextBox& ExtraBox(WordListKind kind);
+
+  /// The file that the list was read from; "" when it was read from none.
+  [[nodiscard]] std::string& FileInForce(WordListKind kind);
 
   const RunContext& context_;
   /// A line for the message about the last words file: what of it was too long, if that was it.

@@ -51,8 +51,6 @@ class BadStateFile : public ProgramFixture {
   RestoreResult LoadOnPanel(const std::string& contents) {
     program.Initialize();
     CountClipboard("cat dog");
-    Panel().chkDropFinalS.SetValue(CheckState::kUnchecked);
-    program.Initialize();
     EXPECT_TRUE(State().blnWordsGot);
     desktop.ForgetQuestions();
     desktop.AnswerFile(folder.Write("bad.qlm", contents));
@@ -188,6 +186,9 @@ TEST_F(BadStateFile, WithoutAnItemSelectedTheProgramStillCounts) {
   lines[43] = Quoted(folder / "none.txt");
   EXPECT_EQ(LoadOnPanel(FileOfLines(lines)), RestoreResult::kWordsFileFailed);
   Main().txbFile[1].SetText("");
+  desktop.ForgetQuestions();
+  CountClipboard("cat hen dog hen");
+  EXPECT_EQ(OnlyMessage().text, "File for count-only words not found.");
   CountClipboard("cat hen dog hen");
   EXPECT_EQ(StoredWords(), "hen*2");
   EXPECT_NE(Output(), "");

@@ -247,8 +247,8 @@ TEST_F(Initialize, GoesThroughItsStepsInOrder) {
   steps.clear();
   program.Initialize();
   EXPECT_THAT(steps,
-              ElementsAre("optInFile", "optFolder", "lblFilesize", "txbFolder", "txbStateFile",
-                          "txbFile(0)", "txbFileExtensions(0)", "txbWordsFile(0)",
+              ElementsAre("lblNumberOfWords", "optInFile", "optFolder", "lblFilesize", "txbFolder",
+                          "txbStateFile", "txbFile(0)", "txbFileExtensions(0)", "txbWordsFile(0)",
                           "txbWordsToIgnoreOrCount(0)", "txbFile(1)", "txbFileExtensions(1)",
                           "txbWordsFile(1)", "txbWordsToIgnoreOrCount(1)", "chkCaseSignificant",
                           "txbEndComment(0)", "cboThresholdFrequency", "chkSuppressWords",

@@ -179,14 +179,13 @@ TEST_F(StateFileTest, FileThatDoesNotExistChangesNothing) {
   EXPECT_TRUE(State().blnWordsGot);
 }
 
-TEST_F(StateFileTest, RestoredStateMakesTheCountsOutdatedAndListsNothingAnew) {
+TEST_F(StateFileTest, RestoredStateMakesTheCountsOutdatedAndListsThemAsItWants) {
   CountClipboard("cat dog");
-  const std::string output = Output();
   StateLines lines = InitialLines();
   lines[41] = "8";
   EXPECT_EQ(Restore(lines), RestoreResult::kRestored);
   EXPECT_FALSE(State().blnWordsGot);
-  EXPECT_EQ(Output(), output);
+  EXPECT_TRUE(Output().ends_with("\r\ncat\r\ndog\r\n")) << Output();
 }
 
 TEST_F(StateFileTest, WriteErrorsAreDescribed) {

@@ -1,8 +1,12 @@
 // Lines that are scanned many at a time, and those that are not.
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "base/run_time_error.h"
 #include "support/engine_fixture.h"
 
 namespace quillomat {
@@ -118,6 +122,16 @@ TEST_F(PlainLines, TagsAndEntitiesOfHtmlAreCutOut) {
 TEST_F(PlainLines, CommentToTheEndOfTheLineEndsAtACarriageReturnToo) {
   UsePreset("C");
   EXPECT_EQ(CountLines("one // two\rthree\n"), "one three");
+}
+
+TEST_F(PlainLines, OverflowLeavesTheCommentsBehindItAlone) {
+  UsePreset("C");
+  WordScanner scanner = Scanner();
+  const std::string_view text = "one two three /* four\n";
+  ASSERT_EQ(scanner.PlainLineBytes(text), text.size());
+  scanner.SetWordsRead(std::numeric_limits<std::int32_t>::max() - 1);
+  EXPECT_THROW(scanner.GetWordsOfLines(text), RunTimeError);
+  EXPECT_EQ(settings.OpenComment, -1);
 }
 
 TEST_F(PlainLines, CommentThatIsOpenGoesOn) {

@@ -55,8 +55,14 @@ TEST(ParseTypedWords, LeavesLeadingAndOtherSigns) {
   EXPECT_THAT(ParseTypedWords("-dog (cat) 'tis").items, ElementsAre("-dog", "(cat)", "'tis"));
 }
 
-TEST(ParseTypedWords, ItemOfSignsAloneStaysAsAnEmptyOne) {
-  EXPECT_THAT(ParseTypedWords("-- dog").items, ElementsAre("", "dog"));
+TEST(ParseTypedWords, ItemOfSignsAloneIsNoWord) {
+  EXPECT_THAT(ParseTypedWords("-- dog . - cat ,").items, ElementsAre("dog", "cat"));
+  EXPECT_THAT(ParseTypedWords("-").items, IsEmpty());
+}
+
+TEST(ParseTypedWords, TabsAndLineBreaksSeparateAsBlanksDo) {
+  EXPECT_THAT(ParseTypedWords("dog\tcat\r\nhen\nox\rcow").items,
+              ElementsAre("dog", "cat", "hen", "ox", "cow"));
 }
 
 std::string ManyWords(int words) {

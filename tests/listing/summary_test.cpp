@@ -101,12 +101,12 @@ TEST_F(Summary, StoppedCountHasNoTotals) {
   EXPECT_EQ(frmMain.lblTotalNumOccurrences.Caption(), "");
 }
 
-TEST_F(Summary, ListWithoutWordsHasNoTotals) {
+TEST_F(Summary, ListWithoutWordsStillHasTheTotalOfWordsRead) {
   state.totals = {};
   Show();
   EXPECT_EQ(frmMain.lblNumberOfWords.Caption(), "Number of words in this list:      0");
   EXPECT_EQ(frmMain.lblNumOccurrences.Caption(), "");
-  EXPECT_EQ(frmMain.lblTotalNumOccurrences.Caption(), "");
+  EXPECT_EQ(frmMain.lblTotalNumOccurrences.Caption(), "Total number of instances of words: 12,345");
 }
 
 TEST_F(Summary, ConcealedLabelsMakeRoomForTheNoticesIfAsked) {

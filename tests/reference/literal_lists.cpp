@@ -49,7 +49,10 @@ std::int32_t SplitList(const Characters& text, char32_t separator, std::vector<C
 
 std::string LiteralEngine::GetExtraWords(int index) {
   const std::string& typed = choices.txbWordsToIgnoreOrCount[static_cast<std::size_t>(index)];
-  const Characters text = Trim(LowerCase(FromUtf8(typed)));
+  Characters text = Trim(LowerCase(FromUtf8(typed)));
+  for (char32_t& character : text) {
+    if (character == U'\t' || character == U'\r' || character == U'\n') character = U' ';
+  }
   std::vector<Characters> work(1001);
   const std::int32_t n = SplitList(text, U' ', work);
   if (n == kItemsDoNotFit) {
@@ -59,11 +62,12 @@ std::string LiteralEngine::GetExtraWords(int index) {
   Characters cleaned;
   for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
     const Characters item = TrimTrailingChars(work[i], U"-'_.,:");
-    if (i > 0) cleaned += U" ";
+    if (item.empty()) continue;  // signs alone are no word
+    if (!cleaned.empty()) cleaned += U" ";
     cleaned += item;
     list.entries.push_back(item);
+    ++list.count;
   }
-  list.count = n;
   (index == 0 ? ExtraIgnoreList : ExtraCountOnlyList) = list;
   return ToUtf8(cleaned);
 }

@@ -29,9 +29,9 @@ class FolderSourceTest : public SourcesFixture {
 };
 
 TEST(FilesInFolders, KnowsTheSingular) {
-  EXPECT_EQ(FilesInFolders(0, 1), "0 files in 1 folder");
-  EXPECT_EQ(FilesInFolders(1, 1), "1 file in 1 folder");
-  EXPECT_EQ(FilesInFolders(2, 3), "2 files in 3 folders");
+  EXPECT_EQ(FilesInFolders(0, 1, ","), "0 files in 1 folder");
+  EXPECT_EQ(FilesInFolders(1, 1, ","), "1 file in 1 folder");
+  EXPECT_EQ(FilesInFolders(2, 3, ","), "2 files in 3 folders");
 }
 
 // Refusals.

@@ -81,7 +81,8 @@ TEST_F(SummaryLabels, TellHowManyCountOnlyWordsWereFoundWhenSomeAreMissing) {
 
 TEST_F(SummaryLabels, TellOfNothingFound) {
   CountClipboard("xiv");
-  ExpectCaptions("Number of words in this list: 0", "Number of words excluded: 1", "", "");
+  ExpectCaptions("Number of words in this list: 0", "Number of words excluded: 1", "",
+                 "Total number of instances of words: 1");
 }
 
 TEST_F(SummaryLabels, HaveNoTotalsAfterAnInterruption) {

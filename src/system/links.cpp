@@ -1,0 +1,55 @@
+#include "system/links.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/run_time_error.h"
+#include "system/file_system.h"
+#include "system/native_disk.h"
+#include "system/native_path.h"
+
+namespace quillomat {
+namespace {
+
+/// Whether the file that the path leads to is in the folder, or would be if it were there: going up
+/// from it, the folder is met.
+bool LeadsInto(const std::string& folder, bool includeSubfolders, const std::string& path) {
+  std::string above = FolderPartOf(FromRootOn(BehindLinks(path).value_or(path)));
+  while (!IsSameFile(above, folder)) {
+    if (!includeSubfolders) return false;
+    // The system's own way up: a folder may be known by a link.
+    std::string next = JoinPath(above, "..");
+    if (IsSameFile(next, above)) return false;
+    above = std::move(next);
+  }
+  return true;
+}
+
+/// Whether the file at `path` is one of the folder's.
+bool HoldsFile(const std::string& folder, bool includeSubfolders, const std::string& path) {
+  FolderListing listing;
+  try {
+    listing = ListFolder(folder);
+  } catch (const RunTimeError&) {
+    return false;
+  }
+  const auto isFile = [&](const std::string& name) {
+    return IsSameFile(JoinPath(folder, name), path);
+  };
+  const auto holdsFile = [&](const std::string& name) {
+    return HoldsFile(JoinPath(folder, name), true, path);
+  };
+  return std::ranges::any_of(listing.files, isFile) ||
+         (includeSubfolders && std::ranges::any_of(listing.subfolders, holdsFile));
+}
+
+}  // namespace
+
+bool LiesInFolder(const std::string& path, const std::string& folder, bool includeSubfolders) {
+  if (NamesNothing(path) || NamesNothing(folder)) return false;
+  if (IsInFolder(path, folder, includeSubfolders)) return true;
+  if (LeadsInto(folder, includeSubfolders, path)) return true;
+  return FileLength(path).has_value() && HoldsFile(folder, includeSubfolders, path);
+}
+
+}  // namespace quillomat
