@@ -19,6 +19,10 @@ class InputFile final : public ByteSource {
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
+  /// So many bytes have been given out.
+  [[nodiscard]] std::int64_t BytesGiven() const {
+    return bytesRead_ - static_cast<std::int64_t>(ahead_.size() - aheadStart_);
+  }
 
   /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
   std::size_t Read(std::span<char> buffer) override;
