@@ -24,8 +24,10 @@ class SummaryNumbers {
     return PadLeft(GroupDigits(number, separator_), width_);
   }
 
-  [[nodiscard]] std::string Line(std::string_view label, std::int32_t number) const {
-    return std::string(label).append(Justified(number));
+  /// Shows a label with a text and a number.
+  void Show(Label& label, std::string_view text, std::int32_t number) const {
+    label.SetCaption(text, Justified(number));
+    label.SetVisible(true);
   }
 
  private:
@@ -49,25 +51,30 @@ void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view se
   const std::int32_t countOnlyWords =
       state.lists.CountOnlyList.Count() + state.lists.ExtraCountOnlyList.Count();
 
-  const bool allFound = countOnly && totals.NumIncludedWords == countOnlyWords;
-  Show(frmMain.lblNumberOfWords,
-       allFound ? FoundWordsCaption(countOnlyWords, numbers)
-                : numbers.Line("Number of words in this list:", totals.NumIncludedWords));
-  Show(frmMain.lblNumWordsExcluded,
-       countOnly ? std::string()
-                 : numbers.Line("Number of words excluded:", totals.NumExcludedWords));
-
-  std::string occurrences;
-  std::string allOccurrences;
-  if (!countOnly && !state.listAfterStop) {
-    if (totals.TotalIncludedCount > 0) {
-      occurrences =
-          numbers.Line("Number of instances of words in this list:", totals.TotalIncludedCount);
-    }
-    allOccurrences = numbers.Line("Total number of instances of words:", state.WordsRead);
+  if (countOnly && totals.NumIncludedWords == countOnlyWords) {
+    Show(frmMain.lblNumberOfWords, FoundWordsCaption(countOnlyWords, numbers));
+  } else {
+    numbers.Show(frmMain.lblNumberOfWords,
+                 "Number of words in this list:", totals.NumIncludedWords);
   }
-  Show(frmMain.lblNumOccurrences, std::move(occurrences));
-  Show(frmMain.lblTotalNumOccurrences, std::move(allOccurrences));
+  if (countOnly) {
+    Show(frmMain.lblNumWordsExcluded, "");
+  } else {
+    numbers.Show(frmMain.lblNumWordsExcluded, "Number of words excluded:", totals.NumExcludedWords);
+  }
+  const bool counted = !countOnly && !state.listAfterStop;
+  if (counted && totals.TotalIncludedCount > 0) {
+    numbers.Show(frmMain.lblNumOccurrences,
+                 "Number of instances of words in this list:", totals.TotalIncludedCount);
+  } else {
+    Show(frmMain.lblNumOccurrences, "");
+  }
+  if (counted) {
+    numbers.Show(frmMain.lblTotalNumOccurrences,
+                 "Total number of instances of words:", state.WordsRead);
+  } else {
+    Show(frmMain.lblTotalNumOccurrences, "");
+  }
 }
 
 void ConcealNumWords(MainForm& frmMain, bool showNotice) {

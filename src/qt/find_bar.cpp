@@ -1,10 +1,11 @@
 #include "qt/find_bar.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include "qt/accessible_names.h"
+#include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
@@ -12,17 +13,17 @@ namespace quillomat {
 
 FindBar::FindBar(QPlainTextEdit& list, std::function<QString()> notFound)
     : list_(list), notFound_(std::move(notFound)) {
-  auto* row = new QHBoxLayout(this);
+  auto* row = new FlowLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   for (QWidget* part : {static_cast<QWidget*>(&label_), static_cast<QWidget*>(&word_),
                         static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_),
                         static_cast<QWidget*>(&outcome_)}) {
     row->addWidget(part);
   }
-  row->setStretchFactor(&outcome_, 1);
+  outcome_.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   outcome_.setWordWrap(true);
   word_.setClearButtonEnabled(true);
-  word_.setMinimumWidth(240);
+  word_.setMinimumWidth(120);
   label_.setBuddy(&word_);
   connect(&word_, &QLineEdit::textEdited, this, [this] { Find(false, true); });
   connect(&previous_, &QPushButton::clicked, this, [this] { Find(true, false); });
@@ -61,7 +62,10 @@ void FindBar::Find(bool backward, bool fromHere) {
     start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
     found = list_.document()->find(word_.text(), start, flags);
   }
-  if (found.isNull()) return outcome_.setText(notFound_());
+  if (found.isNull()) {
+    outcome_.setText(notFound_());
+    return Announce(outcome_);
+  }
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
 }

@@ -11,12 +11,13 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QVariant>
 #include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
-#include "qt/mnemonics.h"
+#include "qt/accessible_names.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
 
@@ -38,6 +39,12 @@ bool ShowsControls(const QWidget& widget) {
          dynamic_cast<const QComboBox*>(&widget) != nullptr ||
          dynamic_cast<const QGroupBox*>(&widget) != nullptr ||
          dynamic_cast<const QLabel*>(&widget) != nullptr;
+}
+
+int AccessRank(const WidgetBinding* binding) {
+  const QVariant rank = binding->Widget().property("accessRank");
+  if (rank.isValid()) return rank.toInt();
+  return binding->Source().Kind() == ControlKind::kCommandButton ? 1 : 2;
 }
 
 }  // namespace
@@ -119,24 +126,25 @@ void FormWindow::ShowChanges() {
     entry.changed = false;
     entry.binding->Show();
   }
+  const bool renamed = captionsChanged_ || windowChanged_;
   if (captionsChanged_) ShowCaptions();
   if (windowChanged_) ShowWindowState();
+  if (renamed) ShowAccessibleNames(*this);
   showing_ = false;
 }
 
-/// Commands choose their letters first, since they are what a hand wants to reach at once.
+/// Commands choose their letters first, since they are what a hand wants to reach at once; a widget
+/// says with its property "accessRank" that it comes sooner (0) or later.
 void FormWindow::ShowCaptions() {
   captionsChanged_ = false;
   std::vector<WidgetBinding*> bindings;
   for (const Entry& entry : entries_) {
     if (entry.binding->TakesMnemonic()) bindings.push_back(entry.binding.get());
   }
-  std::stable_partition(bindings.begin(), bindings.end(), [](const WidgetBinding* binding) {
-    return binding->Source().Kind() == ControlKind::kCommandButton;
-  });
+  std::ranges::stable_sort(bindings, {}, AccessRank);
   QList<QString> captions;
   for (const WidgetBinding* binding : bindings) captions.append(binding->Caption());
-  const QList<QString> shown = WithMnemonics(captions);
+  const QList<QString> shown = mnemonics_.Assign(captions);
   for (std::size_t i = 0; i < bindings.size(); ++i) {
     bindings[i]->SetShownCaption(shown[static_cast<qsizetype>(i)]);
   }

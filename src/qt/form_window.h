@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+#include "qt/mnemonics.h"
 #include "qt/widget_binding.h"
 #include "ui/form.h"
 
@@ -68,6 +69,7 @@ class FormWindow : public QWidget {
 
   Form& form_;
   std::vector<Entry> entries_;
+  Mnemonics mnemonics_;
   bool scheduled_ = false;
   bool showing_ = false;
   bool windowChanged_ = true;

@@ -1,16 +1,16 @@
 #include "qt/list_view.h"
 
-#include <QFontDatabase>
+#include <QLayout>
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "qt/fixed_font.h"
 #include "qt/list_table.h"
 
 namespace quillomat {
 
 ListView::ListView(QWidget* parent) : QPlainTextEdit(parent) {
-  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setStyleHint(QFont::Monospace);
+  const QFont font = ListFont();
   usualSize_ = font.pointSizeF();
   setFont(font);
   setTabChangesFocus(true);
@@ -22,6 +22,14 @@ void ListView::SetZoom(int zoom) {
   QFont changed = font();
   changed.setPointSizeF(std::max(usualSize_ + zoom_, 4.0));
   setFont(changed);
+}
+
+/// What stands on the empty list is not cut.
+QSize ListView::minimumSizeHint() const {
+  const QSize usual = QPlainTextEdit::minimumSizeHint();
+  if (layout() == nullptr) return usual;
+  const QSize frame(2 * frameWidth(), 2 * frameWidth());
+  return usual.expandedTo(layout()->totalMinimumSize() + frame);
 }
 
 /// The toolkit takes what is returned.

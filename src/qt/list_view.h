@@ -15,6 +15,8 @@ class ListView : public QPlainTextEdit {
   /// A step out of range is the nearest one.
   void SetZoom(int zoom);
 
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
   static constexpr int kSmallestZoom = -5;
   static constexpr int kLargestZoom = 30;
 

@@ -2,17 +2,25 @@
 
 #include <QDir>
 #include <QDragEnterEvent>
-#include <QLayout>
+#include <QLabel>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QShortcut>
+#include <QSplitter>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
+#include "qt/window_memory.h"
+#include "text/caption_table.h"
 #include "ui_main_form.h"
 
 namespace quillomat {
@@ -42,11 +50,14 @@ MainWindowView::MainWindowView(Program& program)
       findBar_((ui_->setupUi(this), *ui_->txbOutput),
                [&program] { return ToQt(program.NotFoundText()); }) {
   setAcceptDrops(true);
+  MakeRowsFlow(*this);
+  ui_->splitter->setStretchFactor(1, 1);  // a wider window is for the list
+  connect(ui_->splitter, &QSplitter::splitterMoved, this,
+          [this] { ui_->splitter->setProperty(kPlacedByUser, true); });
   PlaceNotices();
-  KeepRoomForSummary();
   BindControls();
-  auto* rows = static_cast<QVBoxLayout*>(layout());
-  rows->insertWidget(rows->indexOf(ui_->txbOutput) + 1, &findBar_);
+  auto* result = static_cast<QVBoxLayout*>(ui_->paneResult->layout());
+  result->insertWidget(result->indexOf(ui_->txbOutput) + 1, &findBar_);
   for (QLineEdit* box : {ui_->txbFile_0, ui_->txbFile_1}) {
     new PathSuggestions(*box, PathKind::kFile);
   }
@@ -54,6 +65,7 @@ MainWindowView::MainWindowView(Program& program)
   for (QLineEdit* source : {ui_->txbFile_0, ui_->txbFolder}) source->setAcceptDrops(false);
   ConnectKeys();
   ConnectZoom();
+  ConnectProgress();
 }
 
 MainWindowView::~MainWindowView() {
@@ -70,32 +82,75 @@ void MainWindowView::PlaceNotices() {
   auto* column = new QVBoxLayout(ui_->txbOutput);
   column->setSpacing(kBetween);
   column->addStretch();
-  for (QLabel* notice :
-       {ui_->lblCopyrightNotice, ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
-    notice->setFont(font());  // not the list's
-    column->addWidget(notice, 0, Qt::AlignHCenter);
-  }
+  for (QLabel* notice : Notices()) column->addWidget(notice, 0, Qt::AlignHCenter);
   column->addStretch();
   for (QLabel* link : {ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
     link->setCursor(Qt::PointingHandCursor);
     link->setForegroundRole(QPalette::Link);
     link->setFocusPolicy(Qt::TabFocus);
-    QFont underlined = link->font();
-    underlined.setUnderline(true);
-    link->setFont(underlined);
+  }
+  ShowNoticesInWindowFont();
+}
+
+std::array<QLabel*, 3> MainWindowView::Notices() const {
+  return {ui_->lblCopyrightNotice, ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems};
+}
+
+/// They are children of the list and would take its font and its zoom.
+void MainWindowView::ShowNoticesInWindowFont() {
+  for (QLabel* notice : Notices()) {
+    QFont own = font();
+    own.setFamilies(own.families());
+    if (own.pointSizeF() > 0) own.setPointSizeF(own.pointSizeF());
+    own.setUnderline(notice != ui_->lblCopyrightNotice);
+    notice->setFont(own);
   }
 }
 
-/// The list keeps its height when the summary appears.
-void MainWindowView::KeepRoomForSummary() {
-  const std::array<QLabel*, 4> labels = {ui_->lblNumberOfWords, ui_->lblNumWordsExcluded,
-                                         ui_->lblNumOccurrences, ui_->lblTotalNumOccurrences};
-  for (QLabel* label : labels) {
-    QSizePolicy policy = label->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    label->setSizePolicy(policy);
-    label->setFont(ui_->txbOutput->font());
+void MainWindowView::changeEvent(QEvent* event) {
+  FormWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) ShowNoticesInWindowFont();
+}
+
+void MainWindowView::SetTexts(const ProgramText& text) {
+  findBar_.SetTexts(text);
+  fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
+  ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
+  ShowProgress();
+  // Later, when the captions stand.
+  QTimer::singleShot(0, this, [this] { FitSettings(); });
+}
+
+/// The settings get the width that their captions want, up to half of the window, until the user
+/// has placed the splitter.
+void MainWindowView::FitSettings() {
+  QSplitter& splitter = *ui_->splitter;
+  if (splitter.property(kPlacedByUser).toBool()) return;
+  const int settings = std::min(ui_->paneSettings->sizeHint().width(), splitter.width() / 2);
+  splitter.setSizes({settings, splitter.width() - settings - splitter.handleWidth()});
+}
+
+/// One bar for the whole run: of a folder, its own, else the file's.
+void MainWindowView::ConnectProgress() {
+  MainForm& frmMain = program_.frmMain;
+  frmMain.lblNumOccurrences.Changed.Connect([this] { ShowProgress(); });
+  frmMain.lblTotalNumOccurrences.Changed.Connect([this] { ShowProgress(); });
+}
+
+void MainWindowView::ShowProgress() {
+  const MainForm& frmMain = program_.frmMain;
+  const std::optional<Progress>& ofFolder = frmMain.lblNumOccurrences.ShownProgress();
+  const std::optional<Progress>& shown =
+      ofFolder ? ofFolder : frmMain.lblTotalNumOccurrences.ShownProgress();
+  QProgressBar& bar = *ui_->barProgress;
+  bar.setVisible(shown.has_value());
+  if (!shown) return;
+  QString format = QStringLiteral("%p %");
+  if (shown->files > 0) {
+    format = fileOfFiles_.arg(shown->file).arg(shown->files) + QStringLiteral(" \u2013 ") + format;
   }
+  if (bar.format() != format) bar.setFormat(format);
+  bar.setValue(static_cast<int>(shown->Share() * bar.maximum()));
 }
 
 void MainWindowView::ConnectKeys() {

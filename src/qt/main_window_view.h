@@ -2,6 +2,8 @@
 // dropped on the window, completed paths, finding in the list, the size of its letters).
 #pragma once
 
+#include <QLabel>
+#include <array>
 #include <memory>
 
 #include "app/program.h"
@@ -27,21 +29,31 @@ class MainWindowView final : public FormWindow {
   [[nodiscard]] ListView& List() const;
   [[nodiscard]] FindBar& Finder() { return findBar_; }
 
+  /// The texts that are the window's own, in the current language.
+  void SetTexts(const ProgramText& text);
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
   void PlaceNotices();
-  void KeepRoomForSummary();
+  [[nodiscard]] std::array<QLabel*, 3> Notices() const;
+  void ShowNoticesInWindowFont();
   void ConnectKeys();
   void ConnectZoom();
+  void FitSettings();
+  void ConnectProgress();
+  void ShowProgress();
 
   Program& program_;
   std::unique_ptr<Ui::frmMain> ui_;
   FindBar findBar_;
+  /// "File %1 of %2".
+  QString fileOfFiles_;
 };
 
 }  // namespace quillomat

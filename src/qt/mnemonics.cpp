@@ -24,26 +24,69 @@ qsizetype FreeLetter(const QString& caption, const Letters& taken, bool atWordSt
   return -1;
 }
 
+/// The caption with a letter that is free, which is taken then.
+QString WithFreeLetter(const QString& caption, Letters& taken) {
+  qsizetype place = FreeLetter(caption, taken, true);
+  if (place < 0) place = FreeLetter(caption, taken, false);
+  if (place < 0) return WithoutMnemonic(caption);
+  taken.set(caption[place].toLower().unicode());
+  return WithoutMnemonic(caption.left(place)) + QLatin1Char('&') +
+         WithoutMnemonic(caption.mid(place));
+}
+
+/// Takes the letter that a caption bears already.
+void Take(const QString& shownCaption, Letters& taken) {
+  for (qsizetype place = 0; place + 1 < shownCaption.size(); ++place) {
+    if (shownCaption[place] != QLatin1Char('&')) continue;
+    const QChar letter = shownCaption[++place].toLower();
+    if (letter != QLatin1Char('&')) taken.set(letter.unicode());
+  }
+}
+
 }  // namespace
 
 QString WithoutMnemonic(QString caption) {
   return caption.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
-QList<QString> WithMnemonics(const QList<QString>& captions) {
-  Letters taken;
-  QList<QString> result;
-  for (const QString& caption : captions) {
-    qsizetype place = FreeLetter(caption, taken, true);
-    if (place < 0) place = FreeLetter(caption, taken, false);
-    if (place < 0) {
-      result.append(WithoutMnemonic(caption));
-      continue;
-    }
-    taken.set(caption[place].toLower().unicode());
-    result.append(WithoutMnemonic(caption.left(place)) + QLatin1Char('&') +
-                  WithoutMnemonic(caption.mid(place)));
+QString Readable(const QString& shownCaption) {
+  QString text;
+  for (qsizetype place = 0; place < shownCaption.size(); ++place) {
+    if (shownCaption[place] == QLatin1Char('&') && ++place >= shownCaption.size()) break;
+    text.append(shownCaption[place]);
   }
+  return text;
+}
+
+/// Of the one caption that has changed, if it has found no letter.
+void Mnemonics::ShareLetter(const QList<QString>& captions, QList<QString>& shown) const {
+  for (qsizetype i = 0; i < captions.size(); ++i) {
+    if (captions[i] == captions_[i] || shown[i] != WithoutMnemonic(captions[i])) continue;
+    Letters nothingTaken;
+    shown[i] = WithFreeLetter(captions[i], nothingTaken);
+  }
+}
+
+QList<QString> WithMnemonics(const QList<QString>& captions) {
+  return Mnemonics().Assign(captions);
+}
+
+QList<QString> Mnemonics::Assign(const QList<QString>& captions) {
+  const bool sameWindow = captions.size() == captions_.size();
+  const auto stays = [&](qsizetype i) { return sameWindow && captions[i] == captions_[i]; };
+  Letters taken;
+  for (qsizetype i = 0; i < captions.size(); ++i) {
+    if (stays(i)) Take(shown_[i], taken);
+  }
+  QList<QString> result;
+  qsizetype changed = 0;
+  for (qsizetype i = 0; i < captions.size(); ++i) {
+    if (!stays(i)) ++changed;
+    result.append(stays(i) ? shown_[i] : WithFreeLetter(captions[i], taken));
+  }
+  if (sameWindow && changed == 1) ShareLetter(captions, result);
+  captions_ = captions;
+  shown_ = result;
   return result;
 }
 

@@ -15,5 +15,23 @@ namespace quillomat {
 
 /// A caption as the toolkit takes it, without a mnemonic.
 [[nodiscard]] QString WithoutMnemonic(QString caption);
+/// What a person reads in a caption that was made for the toolkit.
+[[nodiscard]] QString Readable(const QString& shownCaption);
+
+/// The letters of one window. A caption that stays keeps its letter while others change: the hand
+/// has learnt it. A caption that changes alone, as that of a command that has begun its work,
+/// shares a letter when none is free: what else bears it rests meanwhile, and the toolkit passes it
+/// over.
+class Mnemonics {
+ public:
+  /// As WithMnemonics, for the same captions in the same order time and again.
+  [[nodiscard]] QList<QString> Assign(const QList<QString>& captions);
+
+ private:
+  void ShareLetter(const QList<QString>& captions, QList<QString>& shown) const;
+
+  QList<QString> captions_;
+  QList<QString> shown_;
+};
 
 }  // namespace quillomat

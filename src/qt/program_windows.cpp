@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+#include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
@@ -28,6 +29,9 @@ Windows::Windows(Program& program, QtDesktop& desktop)
       help_(std::make_unique<FormWindow>(program.frmHelp, &main_)) {
   MakePanel();
   MakeHelp();
+  ResizeOnScreen(main_, QSize(1024, 700).expandedTo(main_.sizeHint()));
+  ResizeOnScreen(*panel_, QSize(860, 660).expandedTo(panel_->sizeHint()));
+  ResizeOnScreen(*help_, QSize(760, 600).expandedTo(help_->sizeHint()));
   LeaveOthersWhenActivated(desktop);
   desktop.SetWindow(&main_);
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
@@ -38,6 +42,7 @@ Windows::Windows(Program& program, QtDesktop& desktop)
 void Windows::MakePanel() {
   Ui::frmParams ui;
   ui.setupUi(panel_.get());
+  MakeRowsFlow(*panel_);
   panel_->BindControls();
   for (QLineEdit* box : {ui.txbWordsFile_0, ui.txbWordsFile_1, ui.txbStateFile}) {
     new PathSuggestions(*box, PathKind::kFile);
@@ -83,7 +88,7 @@ void Windows::ShowLanguage() {
   const Language language = program_.text.CurrentLanguage();
   if (shownLanguage_ == language) return;
   shownLanguage_ = language;
-  main_.Finder().SetTexts(program_.text);
+  main_.SetTexts(program_.text);
   main_.setAccessibleDescription(ToQt(program_.text.GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
   const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
@@ -98,10 +103,9 @@ void Windows::ShowLanguage() {
 
 void Windows::RestorePlaces() {
   const WindowMemory memory = Memory();
-  for (QWidget* window : {static_cast<QWidget*>(&main_), static_cast<QWidget*>(panel_.get()),
-                          static_cast<QWidget*>(help_.get())}) {
-    memory.Restore(*window);
-  }
+  memory.Restore(main_);
+  memory.Restore(*panel_);
+  memory.Restore(*help_);
   memory.RestoreZoom(main_.List());
   program_.state.lastFolder = FromQt(memory.LastFolder());
 }

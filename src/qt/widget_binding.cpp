@@ -18,6 +18,7 @@
 #include <string>
 
 #include "base/utf8.h"
+#include "qt/figure_label.h"
 #include "qt/mnemonics.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
@@ -210,7 +211,16 @@ class LabelBinding final : public WidgetBinding {
 
  private:
   void ShowValue() override {
-    if (!TakesMnemonic()) SetShownCaption(ToQtLines(label_.Caption()));
+    if (auto* summary = dynamic_cast<FigureLabel*>(&Widget())) {
+      summary->Show(ToQt(label_.CaptionText()), ToQt(label_.Figure()));
+    } else if (!TakesMnemonic()) {
+      SetShownCaption(ToQtLines(label_.Caption()));
+    }
+  }
+
+  /// A bar made of characters is not for the screen, which has a real one.
+  [[nodiscard]] bool IsShown() const override {
+    return label_.Visible() && !label_.ShownProgress();
   }
 
   Label& label_;
@@ -245,19 +255,21 @@ std::unique_ptr<WidgetBinding> BindAs(Control& control, QWidget& widget) {
 }  // namespace
 
 void WidgetBinding::ShowAccess() {
-  if (control_.Visible()) widget_.setVisible(true);
+  if (IsShown()) widget_.setVisible(true);
   if (control_.Enabled()) widget_.setEnabled(true);
 }
 
 void WidgetBinding::Show() {
   ShowValue();
-  widget_.setVisible(control_.Visible());
+  widget_.setVisible(IsShown());
   widget_.setEnabled(control_.Enabled());
   const QString toolTip = ToQt(control_.ToolTip());
-  const QString caption = Caption();
   widget_.setToolTip(toolTip);
-  widget_.setAccessibleName(caption.isEmpty() ? toolTip : caption);
   widget_.setAccessibleDescription(toolTip);
+}
+
+bool WidgetBinding::IsShown() const {
+  return control_.Visible();
 }
 
 QString WidgetBinding::Caption() const {

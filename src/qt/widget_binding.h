@@ -39,6 +39,7 @@ class WidgetBinding {
   WidgetBinding(Control& control, QWidget& widget) : control_(control), widget_(widget) {}
 
   virtual void ShowValue() = 0;
+  [[nodiscard]] virtual bool IsShown() const;
 
  private:
   Control& control_;

@@ -1,5 +1,6 @@
-// Remembers the windows' places and sizes, the size of the list's letters and the folder used last,
-// in a file of the user's settings folder.
+// Remembers the windows' places and sizes, how their splitters stand, the size of the list's
+// letters and the folder used last, in a file of the user's settings folder. No window opens larger
+// than its screen.
 #pragma once
 
 #include <QString>
@@ -8,6 +9,9 @@
 #include "qt/list_view.h"
 
 namespace quillomat {
+
+/// The property of a splitter that the user has moved: only such a place is kept, and restored.
+inline constexpr const char* kPlacedByUser = "placedByUser";
 
 class WindowMemory {
  public:
@@ -26,5 +30,11 @@ class WindowMemory {
  private:
   QString path_;
 };
+
+/// The size of a window that wants to be `wanted` on a screen with so much room, in logical pixels:
+/// the frame that the desktop puts round it is left room, too.
+[[nodiscard]] QSize SizeOnScreen(QSize wanted, QSize available);
+/// Gives a window that size, as far as its screen has room.
+void ResizeOnScreen(QWidget& window, QSize wanted);
 
 }  // namespace quillomat

@@ -209,6 +209,8 @@ void FileSource::ReadLines(ScanJob& job, InputFile& file, LineEndingType type) {
   const auto showBytes = [&](std::int64_t bytes) {
     bytesRead += bytes;
     progress_.UpdateProgressBar(bytesRead, file.Length(), type == LineEndingType::kUnix);
+    progress_.SetProgress({file.BytesGiven(), file.Length()});
+    if (onBytesRead_) onBytesRead_(file.BytesGiven());
   };
   if (context_.state.scanThreads > 1 && file.Length() >= kBytesWorthThreads) {
     return job.ScanOnThreads(file, [&](std::int64_t bytes) {

@@ -58,6 +58,10 @@ class FileSource {
 
   /// The folder source's scan, which its files take part in; null for a single file.
   void SetFolderJob(ScanJob* job) { folderJob_ = job; }
+  /// Told of the bytes of the file that have been read so far, again and again; empty for nobody.
+  void SetBytesListener(std::function<void(std::int64_t)> listener) {
+    onBytesRead_ = std::move(listener);
+  }
 
   /// Called when the user is to choose an output file.
   void SetOutputFileChooser(std::function<void()> chooser) {
@@ -82,6 +86,7 @@ class FileSource {
   const RunContext& context_;
   ProgressBar progress_;
   std::function<void()> chooseOutputFile_;
+  std::function<void(std::int64_t)> onBytesRead_;
   ScanJob* folderJob_ = nullptr;
   bool scanning_ = false;
   /// The input path that was checked last.

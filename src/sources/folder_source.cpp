@@ -54,6 +54,7 @@ class FilesInTurn {
   FilesInTurn& operator=(FilesInTurn&&) = delete;
   ~FilesInTurn() {
     progress_.EndProgressBar();
+    fileSource_.SetBytesListener({});
     fileSource_.SetFolderJob(nullptr);
     fileSource_.SetScanning(false);
     txbPath_.SetText(usersPath_);
@@ -146,6 +147,7 @@ bool FolderSource::RunCountingPass(Pass pass) {
   skipped_.clear();
   state.filesInPass = 0;
   state.foldersVisited = 1;
+  bytesCounted_ = 0;
   WalkFolder(Folder());
   filesCounted_ = state.filesInPass;
   if (!state.StopRequested) return true;
@@ -178,10 +180,12 @@ void FolderSource::RunScanningPass() {
   pass_ = Pass::kScanning;
   skipped_.clear();
   filesTried_ = 0;
+  bytesTried_ = 0;
   {
     const FilesInTurn filesInTurn(context_, fileSource_, filesProgress_);
     ScanJob job(context_);
     fileSource_.SetFolderJob(&job);
+    fileSource_.SetBytesListener([this](std::int64_t bytes) { ShowProgress(bytes); });
     WalkFolder(Folder());
   }
   state.filesScanned = state.filesInPass;
@@ -219,6 +223,7 @@ void FolderSource::TakeFile(const std::string& path) {
   switch (pass_) {
     case Pass::kCounting:
       ++context_.state.filesInPass;
+      bytesCounted_ += FileLength(path).value_or(0);
       return ShowFilesCounted();
     case Pass::kListOnly:
       ++context_.state.filesInPass;
@@ -242,8 +247,10 @@ void FolderSource::ScanOneFile(const std::string& path) {
   context_.frmMain.txbFile[0].SetText(path);
   state.store.Files().SetFileBeingScanned(path);
   WritePathLine(path);
+  ShowProgress(0);
   const ScanFileResult result = fileSource_.ScanFile();
   fileSource_.EndProgressBar();
+  bytesTried_ += FileLength(path).value_or(0);
   ++filesTried_;
   filesProgress_.UpdateProgressBar(filesTried_, std::max(filesCounted_, filesTried_), false);
   switch (result) {
@@ -263,6 +270,13 @@ void FolderSource::ScanOneFile(const std::string& path) {
     default:
       break;  // not text, empty, or the output file: not worth a word
   }
+}
+
+/// How far the run has come, when so many bytes of the current file have been read.
+void FolderSource::ShowProgress(std::int64_t bytesOfFile) {
+  const std::int32_t file = filesTried_ + 1;
+  filesProgress_.SetProgress(
+      {bytesTried_ + bytesOfFile, bytesCounted_, file, std::max(filesCounted_, file)});
 }
 
 /// The path with the chosen folder's name in place of its path.

@@ -60,6 +60,7 @@ class FolderSource {
   void TakeFile(const std::string& path);
   void ScanOneFile(const std::string& path);
   void ShowFilesCounted() const;
+  void ShowProgress(std::int64_t bytesOfFile);
   [[nodiscard]] std::string ShownPath(const std::string& path) const;
   [[nodiscard]] std::string SkippedNotice() const;
   void WritePathLine(const std::string& path);
@@ -76,6 +77,9 @@ class FolderSource {
   Pass pass_ = Pass::kCounting;
   std::int32_t filesCounted_ = 0;
   std::int32_t filesTried_ = 0;
+  /// Of the files of the counting pass, and of those that have been read or refused since.
+  std::int64_t bytesCounted_ = 0;
+  std::int64_t bytesTried_ = 0;
   ProgressBar filesProgress_;
   std::vector<SkippedItem> skipped_;
 };

@@ -15,6 +15,7 @@ void ProgressBar::StartProgressBar() {
   label_.SetFontName("Courier New");
   label_.SetCaption("[" + std::string(kWidth, ' ') + "]");
   label_.SetVisible(true);
+  label_.SetProgress(Progress{});
   shown_ = -1;
 }
 
@@ -31,6 +32,7 @@ void ProgressBar::UpdateProgressBar(std::int64_t done, std::int64_t whole, bool 
 void ProgressBar::EndProgressBar() {
   label_.SetFontName("Arial");
   label_.SetCaption("");
+  label_.SetProgress(std::nullopt);
 }
 
 }  // namespace quillomat

@@ -1,4 +1,5 @@
-// A progress bar made of characters, in a label of the main window: "[---->      ]".
+// A progress bar made of characters, in a label of the main window: "[---->      ]". Beside the
+// characters the label holds the share as a value, which a face with real bars shows.
 #pragma once
 
 #include <cstdint>
@@ -17,6 +18,8 @@ class ProgressBar {
 
   /// Shows the empty bar.
   void StartProgressBar();
+  /// Sets the value alone, which is finer than the characters.
+  void SetProgress(const Progress& progress) { label_.SetProgress(progress); }
   /// Shows how much of the work is done. `overstated` moves the bar on by a fifth, as it is done
   /// for files whose line ends are shorter than the two characters that are counted for them.
   void UpdateProgressBar(std::int64_t done, std::int64_t whole, bool overstated);

@@ -164,4 +164,8 @@ inline constexpr int kFormatNotServedText = 540;
 inline constexpr int kManyPathsDroppedText = 541;
 inline constexpr int kNoPathDroppedText = 542;
 
+// Texts of the progress bar.
+inline constexpr int kProgressText = 550;
+inline constexpr int kFileOfFilesText = 551;
+
 }  // namespace quillomat

@@ -105,6 +105,26 @@ std::string ComboBox::Text() const {
   return listIndex_ < 0 ? std::string() : items_[static_cast<std::size_t>(listIndex_)];
 }
 
+void Label::SetCaption(std::string caption) {
+  textBytes_.reset();
+  CaptionedControl::SetCaption(std::move(caption));
+}
+
+void Label::SetCaption(std::string_view text, std::string_view justifiedFigure) {
+  textBytes_ = text.size();
+  CaptionedControl::SetCaption(std::string(text).append(justifiedFigure));
+}
+
+std::string_view Label::CaptionText() const {
+  return std::string_view(Caption()).substr(0, textBytes_.value_or(Caption().size()));
+}
+
+std::string_view Label::Figure() const {
+  std::string_view figure = std::string_view(Caption()).substr(CaptionText().size());
+  figure.remove_prefix(std::min(figure.find_first_not_of(' '), figure.size()));
+  return figure;
+}
+
 void Label::PerformClick() {
   if (AcceptsHand(*this)) Click.Fire();
 }

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@
 
 #include "base/check_state.h"
 #include "ui/control.h"
+#include "ui/progress.h"
 
 namespace quillomat {
 
@@ -161,6 +163,18 @@ class Label final : public CaptionedControl {
   [[nodiscard]] const std::string& FontName() const { return fontName_; }
   void SetFontName(std::string fontName) { Assign(fontName_, std::move(fontName)); }
 
+  void SetCaption(std::string caption);
+  /// A caption that ends in a number: `text`, blanks up to the number's width, and `figure`. A face
+  /// may put the two apart.
+  void SetCaption(std::string_view text, std::string_view justifiedFigure);
+  /// The caption without its number, and the number without blanks; "" when there is none.
+  [[nodiscard]] std::string_view CaptionText() const;
+  [[nodiscard]] std::string_view Figure() const;
+
+  /// While the caption is a bar made of characters: the share that it stands for.
+  [[nodiscard]] const std::optional<Progress>& ShownProgress() const { return progress_; }
+  void SetProgress(std::optional<Progress> progress) { Assign(progress_, progress); }
+
   void PerformClick();
   void PerformDoubleClick();
 
@@ -169,6 +183,9 @@ class Label final : public CaptionedControl {
 
  private:
   std::string fontName_;
+  /// Of the caption's text, in bytes; nothing when there is no number behind it.
+  std::optional<std::size_t> textBytes_;
+  std::optional<Progress> progress_;
 };
 
 class CommandButton final : public CaptionedControl {

@@ -36,9 +36,10 @@ sleep 0.5
 head -n 2 "$work/list.txt" | tail -n 1 | grep -q '^ *1 *267  the$' || fail "the list is wrong"
 cp "$work/list.txt" "$work/first.txt"
 
-# Quit, at the lower right.
+# A click into the list, and Quit by its letter.
 eval "$(xdotool getwindowgeometry --shell "$window")"
-xdotool mousemove $((X + WIDTH - 50)) $((Y + HEIGHT - 22)) click 1
+xdotool mousemove $((X + WIDTH - 100)) $((Y + HEIGHT / 2)) click 1
+xdotool key alt+q
 end_quietly
 settings="$XDG_CONFIG_HOME/Orvandel Systems/qlav.usr"
 grep -q "$work/list.txt" "$settings" || fail "the settings were not saved"

@@ -91,11 +91,16 @@ TEST_F(DayOnTheDesktop, StopsALongFolderCountWithTheStopButton) {
   user->Type(Main().txbFile[1], lists / "list.txt");
   boxes.Answer(QMessageBox::Yes);
   std::string captionWhileRunning;
-  QTimer::singleShot(60, [&] {
+  QTimer untilItReads;
+  untilItReads.callOnTimeout([&] {
+    const auto& progress = Main().lblNumOccurrences.ShownProgress();
+    if (!progress || progress->done == 0) return;  // it still counts the files
+    untilItReads.stop();
     auto& button = user->WidgetOf<QPushButton>(Main().cmdCountWords);
     captionWhileRunning = FromQt(button.text().remove(QLatin1Char('&')));
     QTest::mouseClick(&button, Qt::LeftButton);
   });
+  untilItReads.start(5);
   user->Click(Main().cmdCountWords);
   EXPECT_EQ(captionWhileRunning, "Stop");
   EXPECT_THAT(boxes.TitlesSeen(), ElementsAre("Counting interrupted"));

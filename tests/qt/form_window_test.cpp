@@ -1,10 +1,12 @@
 // Controls and widgets: what one does, the other shows.
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
+#include <map>
 
 #include "window_fixture.h"
 
@@ -59,7 +61,10 @@ TEST_F(FormWindowTest, EveryControlIsShownAsItIs) {
       EXPECT_EQ(widget.isVisibleTo(widget.window()), control->Visible());
       EXPECT_EQ(FromQt(widget.toolTip()), control->ToolTip());
       if (control->CanTakeFocus()) {
-        EXPECT_NE(widget.accessibleName(), "");
+        QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&widget);
+        EXPECT_NE(read->text(QAccessible::Name), "");
+        EXPECT_NE(read->text(QAccessible::Name), widget.toolTip());
+        EXPECT_EQ(read->text(QAccessible::Description), widget.toolTip());
       }
       if (const auto* button = dynamic_cast<QAbstractButton*>(&widget)) {
         QString text = button->text();
@@ -68,6 +73,28 @@ TEST_F(FormWindowTest, EveryControlIsShownAsItIs) {
       }
     }
   }
+}
+
+TEST_F(FormWindowTest, ScreenReaderTellsControlsApart) {
+  for (int language = 0; language < 2; ++language) {
+    for (const Form* form :
+         {static_cast<const Form*>(&frmMain), static_cast<const Form*>(&frmParams)}) {
+      std::map<std::pair<int, QString>, std::string> names;
+      for (const Control* control : form->Controls()) {
+        if (!control->CanTakeFocus()) continue;
+        QAccessibleInterface* read =
+            QAccessible::queryAccessibleInterface(&user->WidgetOf<QWidget>(*control));
+        const auto [other, isNew] =
+            names.try_emplace({read->role(), read->text(QAccessible::Name)}, control->Name());
+        EXPECT_TRUE(isNew) << control->Name() << " is called as " << other->second << ", "
+                           << FromQt(other->first.second);
+      }
+    }
+    user->Click(frmMain.cmdLanguage);
+  }
+  EXPECT_EQ(user->WidgetOf<QWidget>(frmMain.cmdClearFolder).accessibleName(), "Clear Folder");
+  EXPECT_EQ(user->WidgetOf<QWidget>(frmParams.chkIgnoreShortWords).accessibleName(),
+            "Ignore words with fewer than characters");
 }
 
 TEST_F(FormWindowTest, TabVisitsEveryControlThatCanBeUsed) {
@@ -210,8 +237,9 @@ TEST_F(FormWindowTest, HelpWindowLeavesItsMarginsWhateverItsSize) {
     user->Settle();
     EXPECT_NEAR(screen.width(), size.width() - 350 / 15.0, 1.0);
     EXPECT_NEAR(screen.height(), size.height() - 1080 / 15.0, 1.0);
-    EXPECT_NEAR(close.y(), size.height() - 800 / 15.0, 1.0);
-    EXPECT_NEAR(close.geometry().center().x(), size.width() / 2.0, 2.0);
+    const QPoint middle = close.mapTo(&help, close.rect().center());
+    EXPECT_NEAR(close.mapTo(&help, QPoint(0, 0)).y(), size.height() - 800 / 15.0, 1.0);
+    EXPECT_NEAR(middle.x(), size.width() / 2.0, 2.0);
   }
 }
 

@@ -1,10 +1,13 @@
 // What people expect of a window on top of its controls.
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QShortcut>
 #include <QUrl>
 #include <gmock/gmock.h>
 
+#include "qt/figure_label.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -149,28 +152,70 @@ TEST_F(MainWindowViewTest, FolderUsedLastIsRemembered) {
 }
 
 TEST_F(MainWindowViewTest, SizeOfTheWindowIsRemembered) {
-  user->windows.Main().resize(900, 640);
+  user->windows.Main().resize(770, 590);
   user->Click(frmMain.cmdQuit);
   user = std::make_unique<ProgramOnDesktop>();
   ASSERT_TRUE(user->Start());
-  EXPECT_EQ(user->windows.Main().size(), QSize(900, 640));
+  EXPECT_EQ(user->windows.Main().size(), QSize(770, 590));
 }
 
-TEST_F(MainWindowViewTest, NothingIsCutOffAtTheSmallestSize) {
-  for (int language = 0; language < 2; ++language) {
-    FormWindow& window = user->windows.Main();
-    window.resize(1024, 700);
-    user->Settle();
-    EXPECT_LE(window.minimumSizeHint().width(), 1024);
-    EXPECT_LE(window.minimumSizeHint().height(), 700);
+TEST_F(MainWindowViewTest, OneBarShowsTheWholeRun) {
+  auto* bar = user->windows.Main().findChild<QProgressBar*>();
+  EXPECT_FALSE(bar->isVisible());
+  frmMain.lblTotalNumOccurrences.SetVisible(true);
+  frmMain.lblTotalNumOccurrences.SetCaption("[->     ]");
+  frmMain.lblTotalNumOccurrences.SetProgress(Progress{500, 1000});
+  user->Settle();
+  EXPECT_TRUE(bar->isVisible());
+  EXPECT_EQ(bar->text(), "50 %");
+  EXPECT_FALSE(user->WidgetOf<QLabel>(frmMain.lblTotalNumOccurrences).isVisible());
+  frmMain.lblNumOccurrences.SetProgress(Progress{100, 1000, 3, 12});
+  user->Settle();
+  EXPECT_EQ(FromQt(bar->text()), "File 3 of 12 \u2013 10 %") << "a folder's, not its file's";
+  EXPECT_EQ(bar->accessibleName(), "Progress of the count");
+  frmMain.lblNumOccurrences.SetProgress(std::nullopt);
+  frmMain.lblTotalNumOccurrences.SetProgress(std::nullopt);
+  user->Settle();
+  EXPECT_FALSE(bar->isVisible());
+  EXPECT_TRUE(user->WidgetOf<QLabel>(frmMain.lblTotalNumOccurrences).isVisible());
+}
+
+TEST_F(MainWindowViewTest, NumbersOfTheSummaryStandApart) {
+  user->program.ChooseText(folder.Write("a.txt", "cat dog emu cat\n"));
+  user->Click(frmMain.cmdCountWords);
+  const auto& label = user->WidgetOf<FigureLabel>(frmMain.lblNumOccurrences);
+  EXPECT_EQ(label.text(), "Number of instances of words in this list:");
+  EXPECT_EQ(label.Figure(), "4");
+  EXPECT_EQ(frmMain.lblNumOccurrences.Caption(), "Number of instances of words in this list: 4");
+}
+
+TEST_F(MainWindowViewTest, LettersStayWhereTheyAreWhileACountRuns) {
+  const auto shown = [this] {
+    QStringList captions;
     for (const Control* control : frmMain.Controls()) {
-      const auto& widget = user->WidgetOf<QWidget>(*control);
-      if (control->Kind() != ControlKind::kTextBox && widget.isVisible()) {
-        EXPECT_GE(widget.width(), widget.minimumSizeHint().width()) << control->Name();
-        EXPECT_TRUE(
-            window.rect().contains(QRect(widget.mapTo(&window, QPoint(0, 0)), widget.size())))
-            << control->Name();
-      }
+      const auto* button = qobject_cast<QAbstractButton*>(&user->WidgetOf<QWidget>(*control));
+      if (button != nullptr && control != &frmMain.cmdCountWords) captions.append(button->text());
+    }
+    return captions;
+  };
+  const QStringList before = shown();
+  const QString count = user->WidgetOf<QPushButton>(frmMain.cmdCountWords).text();
+  frmMain.cmdCountWords.SetCaption("Stop");
+  user->Settle();
+  EXPECT_TRUE(user->WidgetOf<QPushButton>(frmMain.cmdCountWords).text().contains('&'));
+  EXPECT_EQ(shown(), before);
+  frmMain.cmdCountWords.SetCaption("Count word frequencies");
+  user->Settle();
+  EXPECT_EQ(user->WidgetOf<QPushButton>(frmMain.cmdCountWords).text(), count);
+}
+
+TEST_F(MainWindowViewTest, ListsOfOrderAndFormatAreReachedByALetter) {
+  for (int language = 0; language < 2; ++language) {
+    for (const Label* label : {&frmMain.Label1, &frmMain.Label2}) {
+      const auto& widget = user->WidgetOf<QLabel>(*label);
+      EXPECT_TRUE(widget.isVisible());
+      EXPECT_TRUE(widget.text().contains('&')) << label->Name();
+      EXPECT_TRUE(qobject_cast<QComboBox*>(widget.buddy())) << label->Name();
     }
     user->Click(frmMain.cmdLanguage);
   }

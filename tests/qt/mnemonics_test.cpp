@@ -15,6 +15,26 @@ TEST(Mnemonics, SignsOfTheCaptionStandAsTheyAre) {
   EXPECT_EQ(WithoutMnemonic("R&D"), "R&&D");
 }
 
+TEST(Mnemonics, CaptionsThatStayKeepTheirLetters) {
+  Mnemonics letters;
+  const QList<QString> before = letters.Assign({"Count", "Save", "Clear"});
+  EXPECT_EQ(before, (QList<QString>{"&Count", "&Save", "C&lear"}));
+  EXPECT_EQ(letters.Assign({"Stop", "Save", "Clear"}),
+            (QList<QString>{"S&top", "&Save", "C&lear"}));
+  EXPECT_EQ(letters.Assign({"Count", "Save", "Clear"}), before);
+}
+
+TEST(Mnemonics, CaptionThatChangesAloneSharesALetterRatherThanHaveNone) {
+  Mnemonics letters;
+  EXPECT_EQ(letters.Assign({"Go", "s", "t"}), (QList<QString>{"&Go", "&s", "&t"}));
+  EXPECT_EQ(letters.Assign({"St", "s", "t"}), (QList<QString>{"&St", "&s", "&t"}));
+}
+
+TEST(Mnemonics, ReadableCaptionHasNoMarks) {
+  EXPECT_EQ(Readable("&R&&D"), "R&D");
+  EXPECT_EQ(Readable("plain"), "plain");
+}
+
 TEST(Mnemonics, OnlyLettersOfEveryKeyboardAreGiven) {
   EXPECT_EQ(WithMnemonics({QString::fromUtf8("\u00D6ffnen")}),
             (QList<QString>{QString::fromUtf8("\u00D6&ffnen")}));

@@ -22,6 +22,7 @@ class Photographer {
 
   void TakeAll(const QString& samples) {
     MainForm& frmMain = user_.program.frmMain;
+    user_.windows.Main().resize(1024, 700);
     Count(samples + "/harbour_en.txt");
     Save(user_.windows.Main(), "main-en");
     TakeOthers("en");
@@ -32,6 +33,7 @@ class Photographer {
     user_.Click(frmMain.cmdLanguage);
     TakeRunning(samples);
     TakeMessage();
+    TakeDark();
   }
 
  private:
@@ -79,6 +81,15 @@ class Photographer {
     boxes_.Pause(100);
     boxes_.Answer(QMessageBox::Ok);
     user_.Click(user_.program.frmMain.cmdCountWords);
+  }
+
+  void TakeDark() {
+    QPalette dark(QColor(53, 53, 53), QColor(35, 35, 35));
+    dark.setColor(QPalette::Link, QColor(100, 160, 255));
+    QApplication::setPalette(dark);
+    user_.program.ChooseText(std::string(kBooks) + "/harbour_en.txt");
+    user_.Click(user_.program.frmMain.cmdCountWords);
+    Save(user_.windows.Main(), "main-dark");
   }
 
   void Save(QWidget& window, const QString& name) {

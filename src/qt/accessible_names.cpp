@@ -1,0 +1,42 @@
+#include "qt/accessible_names.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QGroupBox>
+#include <QLabel>
+#include <QStringList>
+#include <QVariant>
+
+#include "qt/mnemonics.h"
+
+namespace quillomat {
+namespace {
+
+QString CaptionOf(const QWidget& widget) {
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) return button->text();
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) return label->text();
+  if (const auto* box = qobject_cast<const QGroupBox*>(&widget)) return box->title();
+  return widget.isWindow() ? widget.windowTitle() : QString();
+}
+
+}  // namespace
+
+void ShowAccessibleNames(const QWidget& window) {
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const QString namedBy = widget->property("namedBy").toString();
+    QStringList captions;
+    for (const QString& name : namedBy.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+      const QWidget* other =
+          name == window.objectName() ? &window : window.findChild<QWidget*>(name);
+      if (other != nullptr) captions.append(Readable(CaptionOf(*other)));
+    }
+    if (!captions.isEmpty()) widget->setAccessibleName(captions.join(QLatin1Char(' ')));
+  }
+}
+
+void Announce(QWidget& label) {
+  QAccessibleEvent event(&label, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace quillomat

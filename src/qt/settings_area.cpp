@@ -1,0 +1,46 @@
+#include "qt/settings_area.h"
+
+#include <QEvent>
+#include <QResizeEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace quillomat {
+
+SettingsArea::SettingsArea(QWidget* parent) : QScrollArea(parent) {
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+int SettingsArea::BarWidth() const {
+  return verticalScrollBar()->sizeHint().width();
+}
+
+QSize SettingsArea::sizeHint() const {
+  if (widget() == nullptr) return QScrollArea::sizeHint();
+  const QSize content = widget()->sizeHint();
+  const int shownWidth = std::max(viewport()->width(), widget()->minimumSizeHint().width());
+  const int height =
+      widget()->hasHeightForWidth() ? widget()->heightForWidth(shownWidth) : content.height();
+  return {content.width() + BarWidth(), height};
+}
+
+QSize SettingsArea::minimumSizeHint() const {
+  constexpr int kLines = 4;
+  const int width = widget() == nullptr ? 0 : widget()->minimumSizeHint().width();
+  return {width + BarWidth(), kLines * fontMetrics().lineSpacing()};
+}
+
+/// What it holds may need more room from now on.
+bool SettingsArea::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+/// Rows break into more of them where it is narrower.
+void SettingsArea::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  if (event->oldSize().width() != event->size().width()) updateGeometry();
+}
+
+}  // namespace quillomat

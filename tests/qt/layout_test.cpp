@@ -1,0 +1,316 @@
+// However large the window and the letters, in either language: nothing lies over anything else,
+// nothing is cut, and all can be reached.
+#include <QFontInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <gmock/gmock.h>
+
+#include "qt/figure_label.h"
+#include "qt/fixed_font.h"
+#include "qt/window_memory.h"
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+/// What a person sees and uses, without the parts that it is made of.
+bool IsPart(const QWidget& widget) {
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+         qobject_cast<const QLabel*>(&widget) != nullptr ||
+         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         qobject_cast<const QProgressBar*>(&widget) != nullptr;
+}
+
+/// A notice stands on the list, and is none of its parts.
+bool IsInsideAPart(const QWidget& widget) {
+  const QWidget* parent = widget.parentWidget();
+  const bool notice = qobject_cast<const QLabel*>(&widget) != nullptr &&
+                      qobject_cast<const QPlainTextEdit*>(parent) != nullptr;
+  return IsPart(*parent) && !notice;
+}
+
+std::vector<QWidget*> PartsOf(const QWidget& window) {
+  std::vector<QWidget*> parts;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    if (widget->isVisible() && IsPart(*widget) && !IsInsideAPart(*widget)) parts.push_back(widget);
+  }
+  return parts;
+}
+
+std::string NameOf(const QWidget& widget) {
+  const std::string name = FromQt(widget.objectName());
+  return name.empty() ? widget.metaObject()->className() : name;
+}
+
+bool IsViewport(const QWidget& widget) {
+  const auto* area = qobject_cast<const QAbstractScrollArea*>(widget.parentWidget());
+  return area != nullptr && area->viewport() == &widget;
+}
+
+/// The place in its window that can be seen.
+QRect SeenPlace(const QWidget& widget) {
+  QRect place(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
+  for (const QWidget* above = widget.parentWidget(); above != nullptr;
+       above = above->isWindow() ? nullptr : above->parentWidget()) {
+    place &= QRect(above->mapTo(above->window(), QPoint(0, 0)), above->size());
+  }
+  return place;
+}
+
+void ExpectNothingOverlaps(const QWidget& window) {
+  const std::vector<QWidget*> parts = PartsOf(window);
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    for (std::size_t j = i + 1; j < parts.size(); ++j) {
+      if (parts[i]->isAncestorOf(parts[j]) || parts[j]->isAncestorOf(parts[i])) continue;
+      EXPECT_FALSE(SeenPlace(*parts[i]).intersects(SeenPlace(*parts[j])))
+          << NameOf(*parts[i]) << " and " << NameOf(*parts[j]);
+    }
+  }
+}
+
+void ExpectTextFits(const QWidget& part) {
+  const auto* label = qobject_cast<const QLabel*>(&part);
+  if (part.hasHeightForWidth()) {
+    EXPECT_GE(part.width(), part.minimumSizeHint().width()) << NameOf(part);
+    EXPECT_GE(part.height(), part.heightForWidth(part.width())) << NameOf(part);
+  } else if (label != nullptr || qobject_cast<const QAbstractButton*>(&part) != nullptr ||
+             qobject_cast<const QComboBox*>(&part) != nullptr) {
+    EXPECT_GE(part.width(), part.sizeHint().width()) << NameOf(part);
+    EXPECT_GE(part.height(), part.sizeHint().height()) << NameOf(part);
+  } else {
+    EXPECT_GE(part.height(), part.minimumSizeHint().height()) << NameOf(part);
+    constexpr int kLetters = 3;  // to be typed in, and seen
+    EXPECT_GE(part.width(), kLetters * part.fontMetrics().averageCharWidth()) << NameOf(part);
+  }
+}
+
+/// Nothing reaches out of what holds it; what scrolls is reached by scrolling.
+void ExpectReachable(const QWidget& part) {
+  for (const QWidget* widget = &part; !widget->isWindow(); widget = widget->parentWidget()) {
+    const QWidget& above = *widget->parentWidget();
+    if (!IsViewport(above)) {
+      EXPECT_TRUE(above.rect().contains(widget->geometry()))
+          << NameOf(part) << ": " << NameOf(*widget) << " in " << NameOf(above);
+    } else {
+      EXPECT_LE(widget->width(), above.width()) << NameOf(*widget) << " scrolls sideways";
+    }
+  }
+}
+
+void ExpectWellLaidOut(const QWidget& window) {
+  ExpectNothingOverlaps(window);
+  for (const QWidget* part : PartsOf(window)) {
+    ExpectTextFits(*part);
+    ExpectReachable(*part);
+  }
+}
+
+/// While it lives, the letters of all windows have another size.
+class Letters {
+ public:
+  explicit Letters(int points) : usual_(QApplication::font()) {
+    QFont font = usual_;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+  }
+  Letters(const Letters&) = delete;
+  Letters& operator=(const Letters&) = delete;
+  Letters(Letters&&) = delete;
+  Letters& operator=(Letters&&) = delete;
+  ~Letters() { QApplication::setFont(usual_); }
+
+ private:
+  QFont usual_;
+};
+
+class LayoutTest : public WindowFixture, public testing::WithParamInterface<int> {
+ protected:
+  LayoutTest() { EXPECT_TRUE(user->Start()); }
+
+  void ExpectWellLaidOutAt(QWidget& window, QSize size) {
+    window.resize(size);
+    user->Settle();
+    SCOPED_TRACE(FromQt(QString("%1x%2 in %3")
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(ToQt(frmMain.cmdQuit.Caption()))));
+    EXPECT_EQ(window.width(), size.width()) << "it cannot be made so small";
+    EXPECT_EQ(window.height(), size.height()) << "it cannot be made so small";
+    ExpectWellLaidOut(window);
+  }
+
+  void ExpectWellLaidOutAtAllSizes(QWidget& window) {
+    // Letters of 16 points need a little more: the window does not let itself be made smaller.
+    const QSize smallest(GetParam() < 16 ? 760 : 840, 560);
+    for (const QSize size :
+         {smallest, QSize(860, 600), QSize(1024, 700), QSize(1366, 720), QSize(1900, 1000)}) {
+      ExpectWellLaidOutAt(window, size);
+    }
+  }
+
+  void Count() {
+    std::string text;
+    for (int i = 0; i < 20'000; ++i) text += "word" + std::to_string(i % 900) + " ";
+    user->program.ChooseText(folder.Write("a text.txt", text));
+    user->Click(frmMain.cmdCountWords);
+  }
+
+  const Letters letters{GetParam()};
+  MainForm& frmMain = user->program.frmMain;
+};
+
+TEST_P(LayoutTest, MainWindow) {
+  for (int language = 0; language < 2; ++language) {
+    user->Click(frmMain.cmdClearOutput);
+    ExpectWellLaidOutAtAllSizes(user->windows.Main());
+    Count();
+    EXPECT_FALSE(frmMain.lblTotalNumOccurrences.Figure().empty());
+    ExpectWellLaidOutAtAllSizes(user->windows.Main());
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+TEST_P(LayoutTest, MainWindowWithTheFindBar) {
+  Count();
+  user->windows.Main().Finder().Open();
+  auto* word = user->windows.Main().Finder().findChild<QLineEdit*>();
+  for (int language = 0; language < 2; ++language) {
+    QTest::keyClicks(word, "nowhere");
+    ExpectWellLaidOutAtAllSizes(user->windows.Main());
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+TEST_P(LayoutTest, MainWindowWhileItCounts) {
+  frmMain.cmdCountWords.SetCaption("Stop");
+  frmMain.lblNumWordsExcluded.SetCaption("This is a Macintosh-type file.");
+  frmMain.lblNumWordsExcluded.SetVisible(true);
+  frmMain.lblNumOccurrences.SetVisible(true);
+  frmMain.lblNumOccurrences.SetProgress(Progress{500, 1000, 123'456, 234'567});
+  ExpectWellLaidOutAtAllSizes(user->windows.Main());
+}
+
+TEST_P(LayoutTest, Panel) {
+  user->program.frmParams.lblState.SetCaption("State restored.");
+  for (int language = 0; language < 2; ++language) {
+    user->Click(frmMain.cmdSetParameters);
+    ExpectWellLaidOutAtAllSizes(user->windows.Panel());
+    user->Click(user->program.frmParams.cmdClose);
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+TEST_P(LayoutTest, Help) {
+  for (int language = 0; language < 2; ++language) {
+    user->Click(frmMain.cmdHelp);
+    ExpectWellLaidOutAtAllSizes(user->windows.Help());
+    user->Click(user->program.frmHelp.cmdClose);
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Points, LayoutTest, testing::Values(8, 9, 12, 16));
+
+using WindowLayout = WindowFixture;
+
+TEST_F(WindowLayout, ListShowsThirtyLinesInAWindowOfUsualSize) {
+  ASSERT_TRUE(user->Start());
+  for (const bool finding : {false, true}) {
+    if (finding) user->windows.Main().Finder().Open();
+    user->windows.Main().resize(1024, 700);
+    user->Settle();
+    const ListView& list = user->windows.Main().List();
+    EXPECT_GE(list.viewport()->height() / list.fontMetrics().lineSpacing(), 30);
+  }
+}
+
+TEST_F(WindowLayout, SettingsScrollOnlyWhereTheyMust) {
+  const Letters letters(9);
+  ASSERT_TRUE(user->Start());
+  QWidget& window = user->windows.Main();
+  const auto* area = window.findChild<QScrollArea*>("areaSettings");
+  for (int language = 0; language < 2; ++language) {
+    for (const int width : {800, 1024, 1600}) {
+      window.resize(width, 760);
+      user->Settle();
+      EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << width;
+    }
+    user->Click(user->program.frmMain.cmdLanguage);
+  }
+}
+
+TEST_F(WindowLayout, SplitterIsRemembered) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().resize(780, 600);
+  user->Settle();
+  auto* splitter = user->windows.Main().findChild<QSplitter*>();
+  QWidget* handle = splitter->handle(1);
+  QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(4, 100));
+  QTest::mouseMove(handle, QPoint(34, 100));
+  QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(34, 100));
+  user->Settle();
+  const QList<int> sizes = splitter->sizes();
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+}
+
+TEST_F(WindowLayout, NoWindowOpensLargerThanItsScreen) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().resize(5000, 5000);
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  const QSize room = user->windows.Main().screen()->availableSize();
+  for (const QWidget* window :
+       {static_cast<QWidget*>(&user->windows.Main()), static_cast<QWidget*>(&user->windows.Panel()),
+        static_cast<QWidget*>(&user->windows.Help())}) {
+    EXPECT_LE(window->width(), room.width());
+    EXPECT_LE(window->height(), room.height());
+  }
+  EXPECT_EQ(SizeOnScreen(QSize(1024, 700), QSize(1600, 1000)), QSize(1024, 700));
+  EXPECT_EQ(SizeOnScreen(QSize(1024, 700), QSize(683, 384)), QSize(667, 336));
+}
+
+TEST_F(WindowLayout, WindowFitsOnASmallScreenOfDoubleSize) {
+  ASSERT_TRUE(user->Start());
+  const QSize screen = SizeOnScreen(QSize(1024, 700), QSize(683, 384));
+  user->windows.Main().resize(screen);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().size(), screen);
+  ExpectWellLaidOut(user->windows.Main());
+}
+
+TEST_F(WindowLayout, NoticesBearTheWindowsFontWhateverTheListsSize) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().List().SetZoom(20);
+  user->Settle();
+  const MainForm& frmMain = user->program.frmMain;
+  for (const Label* notice : {&frmMain.lblCopyrightNotice, &frmMain.lblOnlineDocumentation,
+                              &frmMain.lblOrvandelSystems}) {
+    const QFont font = user->WidgetOf<QLabel>(*notice).font();
+    EXPECT_EQ(font.families(), user->windows.Main().font().families()) << notice->Name();
+    EXPECT_EQ(font.pointSizeF(), user->windows.Main().font().pointSizeF()) << notice->Name();
+  }
+}
+
+TEST(FixedFont, LettersOfAProportionalWishAreReplaced) {
+  QFont wish("DejaVu Sans", 13);
+  ASSERT_FALSE(QFontInfo(wish).fixedPitch());
+  const QFont font = FixedPitchFont(wish);
+  EXPECT_TRUE(QFontInfo(font).fixedPitch());
+  EXPECT_EQ(font.pointSize(), 13);
+  EXPECT_TRUE(QFontInfo(ListFont()).fixedPitch());
+}
+
+}  // namespace
+}  // namespace quillomat
