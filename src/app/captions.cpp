@@ -2,8 +2,8 @@
 
 #include <span>
 
+#include "app/count/window_state.h"
 #include "base/version.h"
-#include "sources/window_state.h"
 
 namespace quillomat {
 namespace {

@@ -1,6 +1,6 @@
 #include "app/help_window.h"
 
-#include "listing/set_the_focus.h"
+#include "app/list/set_the_focus.h"
 #include "text/help_text.h"
 
 namespace quillomat {

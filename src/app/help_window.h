@@ -1,7 +1,7 @@
 // The help window, and what opens it: the Help command and F1.
 #pragma once
 
-#include "sources/run_context.h"
+#include "app/count/run_context.h"
 #include "ui/help_form.h"
 
 namespace quillomat {

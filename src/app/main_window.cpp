@@ -5,13 +5,13 @@
 #include <string>
 #include <utility>
 
+#include "app/count/path_boxes.h"
+#include "app/count/window_state.h"
+#include "app/list/set_the_focus.h"
+#include "app/list/summary.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "listing/display_format.h"
-#include "listing/set_the_focus.h"
-#include "listing/summary.h"
-#include "sources/path_boxes.h"
-#include "sources/window_state.h"
 #include "system/file_system.h"
 #include "text/caption_table.h"
 #include "text/help_text.h"

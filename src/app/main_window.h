@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "sources/count_run.h"
-#include "sources/run_context.h"
+#include "app/count/count_run.h"
+#include "app/count/run_context.h"
 
 namespace quillomat {
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <utility>
 
+#include "app/count/panel_choices.h"
+#include "app/list/set_the_focus.h"
 #include "app/setting_values.h"
 #include "base/text_helpers.h"
-#include "listing/set_the_focus.h"
-#include "sources/panel_choices.h"
 
 namespace quillomat {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "sources/run_context.h"
-#include "sources/word_list_reader.h"
+#include "app/count/run_context.h"
+#include "app/count/word_list_reader.h"
 
 namespace quillomat {
 

@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "app/captions.h"
+#include "app/count/window_state.h"
+#include "app/list/set_the_focus.h"
+#include "app/list/summary.h"
 #include "app/setting_values.h"
 #include "base/run_time_error.h"
-#include "listing/set_the_focus.h"
-#include "listing/summary.h"
-#include "sources/window_state.h"
 #include "system/file_system.h"
 #include "system/settings_folder.h"
 #include "text/language.h"

@@ -6,16 +6,16 @@
 #include <string>
 #include <vector>
 
+#include "app/count/count_run.h"
+#include "app/count/count_state.h"
+#include "app/count/run_context.h"
+#include "app/count/word_list_reader.h"
 #include "app/help_window.h"
+#include "app/list/output_box.h"
+#include "app/list/word_lister.h"
 #include "app/main_window.h"
 #include "app/parameters_panel.h"
 #include "app/saved_state.h"
-#include "listing/count_state.h"
-#include "listing/output_box.h"
-#include "listing/word_lister.h"
-#include "sources/count_run.h"
-#include "sources/run_context.h"
-#include "sources/word_list_reader.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 #include "ui/event.h"

@@ -5,12 +5,12 @@
 #include <new>
 #include <optional>
 
+#include "app/count/named_text.h"
+#include "app/count/path_boxes.h"
+#include "app/list/set_the_focus.h"
 #include "app/state_file.h"
 #include "base/run_time_error.h"
-#include "listing/output_rules.h"
-#include "listing/set_the_focus.h"
-#include "sources/named_text.h"
-#include "sources/path_boxes.h"
+#include "sources/output_rules.h"
 #include "system/file_system.h"
 
 namespace quillomat {

@@ -4,9 +4,9 @@
 #include <functional>
 #include <string>
 
-#include "sources/count_run.h"
-#include "sources/run_context.h"
-#include "sources/word_list_reader.h"
+#include "app/count/count_run.h"
+#include "app/count/run_context.h"
+#include "app/count/word_list_reader.h"
 
 namespace quillomat {
 

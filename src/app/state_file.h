@@ -18,9 +18,9 @@
 #include <string>
 #include <variant>
 
+#include "app/count/run_context.h"
 #include "app/settings_table.h"
 #include "base/run_time_error.h"
-#include "sources/run_context.h"
 
 namespace quillomat {
 

@@ -35,6 +35,7 @@ struct CountProgress {
   // The run. The whole is 0 while it is not known: without a counting pass.
   std::int32_t filesDone = 0;
   std::int32_t filesInRun = 0;
+  /// With those of files that were left out, where bytesInRun is known.
   std::int64_t runBytesRead = 0;
   /// With CountingPass::kFilesAndBytes only.
   std::int64_t bytesInRun = 0;
@@ -59,7 +60,7 @@ struct FileBegins {
 class CountObserver : public ScanYield, public NewWordListener {
  public:
   /// The stop question, asked after every word, or by YieldFor after as many as CallsLeft allows.
-  /// True when the count is to stop; from then on it is always true.
+  /// True when the count is to stop.
   bool Yield() override { return false; }
   [[nodiscard]] std::uint32_t CallsLeft() const override {
     return std::numeric_limits<std::uint32_t>::max();
@@ -79,7 +80,7 @@ class CountObserver : public ScanYield, public NewWordListener {
   /// Text is scanned from now on, into an empty store.
   virtual void OnScanBegins() {}
   /// The next text of a folder or a list of paths; nobody has tried to read it yet.
-  virtual void OnFileMet(const std::string& /*path*/) {}
+  virtual void OnFileMet(const std::string& /*path*/, const CountProgress& /*progress*/) {}
   virtual void OnFileBegins(const FileBegins& /*file*/) {}
   virtual void OnProgress(const CountProgress& /*progress*/) {}
   /// Also told of a text that was refused.

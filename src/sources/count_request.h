@@ -87,7 +87,8 @@ struct CountRequest {
   bool tallyFiles = true;
   /// Keep a report of every file in the result. The observer is told of each in any case.
   bool keepReports = false;
-  /// Where the list will be written, or "": a file that is never read, and never in the folder.
+  /// Where the list will be written, or "": a file that must not be among those that are read
+  /// (output_rules.h).
   std::string outputPath;
   /// ScanSettings::OpenComment as the count before has left it.
   int openComment = -1;

@@ -7,7 +7,6 @@ bool IsFault(Refusal reason) {
     case Refusal::kNone:
     case Refusal::kNotText:
     case Refusal::kEmpty:
-    case Refusal::kIsOutput:
       return false;
     default:
       return true;

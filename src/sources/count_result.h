@@ -43,7 +43,7 @@ enum class Refusal {
 };
 
 /// Whether a file or folder that is left out for that reason should have been read: a list without
-/// it is not complete. What is no text, or empty, or the output file, is left out by design.
+/// it is not complete. What is no text, or empty, is left out by design.
 [[nodiscard]] bool IsFault(Refusal reason);
 
 /// What the bytes of a text are. Without a mark each line is judged on its own.
@@ -108,7 +108,7 @@ struct CountResult {
   /// the first kMaxSkipped, and how many in all.
   std::vector<SkippedFile> skipped;
   std::int64_t skippedInAll = 0;
-  /// Files that were left out by design: no text, empty, the output file.
+  /// Files that were left out by design: no text, or empty.
   std::int64_t leftOut = 0;
 
   /// The open comment that the last text has left behind.

@@ -1,5 +1,6 @@
 #include "sources/counter.h"
 
+#include <cstdint>
 #include <functional>
 #include <new>
 #include <optional>
@@ -7,6 +8,7 @@
 #include <variant>
 
 #include "sources/folder_walk.h"
+#include "sources/output_rules.h"
 #include "sources/read_sources.h"
 #include "sources/text_reader.h"
 #include "sources/text_test.h"
@@ -58,7 +60,8 @@ class SourceCheck {
   Refusal operator()(const TextOfFile& source) const {
     if (source.path.empty()) return Refusal::kNothingNamed;
     if (IsPathSeparator(source.path.back()) || FolderExists(source.path)) return Refusal::kIsFolder;
-    return IsOutput(source.path) ? Refusal::kIsOutput : Refusal::kNone;
+    const bool isOutput = IsNeeded({CountedText::Source::kFile, source.path});
+    return isOutput ? Refusal::kIsOutput : Refusal::kNone;
   }
   Refusal operator()(const TextOfStream& source) const {
     return source.bytes == nullptr ? Refusal::kNothingNamed : Refusal::kNone;
@@ -67,7 +70,7 @@ class SourceCheck {
     if (FindExtensionFault(source.extensions)) return Refusal::kBadExtensions;
     if (source.path.empty()) return Refusal::kNothingNamed;
     if (!FolderExists(source.path)) return Refusal::kFolderNotFound;
-    if (!FolderHasFile(source.path, "*.*", source.subfolders)) return Refusal::kFolderHasNoFiles;
+    if (!FolderHasFiles(source.path, "*.*", source.subfolders)) return Refusal::kFolderHasNoFiles;
     return OutputIn(source);
   }
   Refusal operator()(const TextOfPaths& source) const {
@@ -75,27 +78,57 @@ class SourceCheck {
     return source.paths.empty() ? Refusal::kNothingNamed : OutputIn(source);
   }
 
-  [[nodiscard]] bool IsOutput(const std::string& path) const {
-    return !outputPath_.empty() && IsSameFile(outputPath_, path);
-  }
-
   [[nodiscard]] Refusal OutputIn(const TextOfFolder& source) const {
-    const bool inFolder =
-        !outputPath_.empty() && IsInFolder(outputPath_, source.path, source.subfolders);
-    return inFolder ? Refusal::kOutputInFolder : Refusal::kNone;
+    return IsNeeded({CountedText::Source::kFolder, source.path, source.subfolders})
+               ? Refusal::kOutputInFolder
+               : Refusal::kNone;
   }
   [[nodiscard]] Refusal OutputIn(const TextOfPaths& source) const {
     for (const std::string& path : source.paths) {
-      const TextOfFolder folder{path, source.subfolders, {}};
-      if (!outputPath_.empty() && FolderExists(path) && OutputIn(folder) != Refusal::kNone) {
-        return Refusal::kOutputInFolder;
+      if (outputPath_.empty()) break;
+      if (FolderExists(path)) {
+        const Refusal refusal = OutputIn(TextOfFolder{path, source.subfolders, {}});
+        if (refusal != Refusal::kNone) return refusal;
+      } else if (IsNeeded({CountedText::Source::kFile, path})) {
+        return Refusal::kIsOutput;
       }
     }
     return Refusal::kNone;
   }
+  template <typename Source>
+  [[nodiscard]] Refusal OutputIn(const Source& /*single*/) const {
+    return Refusal::kNone;
+  }
 
  private:
+  [[nodiscard]] bool IsNeeded(const CountedText& text) const {
+    return !outputPath_.empty() && WhyNotToWrite(outputPath_, text).has_value();
+  }
+
   const std::string& outputPath_;
+};
+
+/// Asks the observer whether to stop, and remembers that it said so.
+class StopQuestion final : public ScanYield {
+ public:
+  explicit StopQuestion(CountObserver& observer) : observer_(observer) {}
+
+  bool Yield() override {
+    stopped_ = observer_.Yield() || stopped_;
+    return stopped_;
+  }
+  [[nodiscard]] std::uint32_t CallsLeft() const override { return observer_.CallsLeft(); }
+  bool YieldFor(std::uint32_t calls) override {
+    stopped_ = observer_.YieldFor(calls) || stopped_;
+    return stopped_;
+  }
+
+  /// Without asking anew.
+  [[nodiscard]] bool Stopped() const { return stopped_; }
+
+ private:
+  CountObserver& observer_;
+  bool stopped_ = false;
 };
 
 /// One count at work.
@@ -104,16 +137,17 @@ class Count {
   Count(const CountRequest& request, CountObserver& observer)
       : request_(request),
         observer_(observer),
-        outputPath_(request.outputPath),
+        stop_(observer),
         settings_(SettingsFor(request)),
         reader_({settings_, result_.store, result_.wordsRead}, request.scan, request.lists,
-                request.threads, observer) {
+                request.threads, stop_) {
     result_.countOnlyMode = settings_.CountOnlyMode;
   }
 
   CountResult Take() {
     try {
-      if (const Refusal refusal = Counter::Check(request_); refusal != Refusal::kNone) {
+      const Refusal refusal = Counter::Check(request_, result_.error);
+      if (refusal != Refusal::kNone) {
         Refuse(refusal);
       } else {
         observer_.OnChecked();
@@ -198,7 +232,7 @@ class Count {
       return;
     }
     if (file->Length() == 0) {
-      PatientSource source(*file, observer_);
+      PatientSource source(*file, stop_);
       return ReadStream(source, report);
     }
     const std::string_view head = file->Ahead(HeadBytes(kTextTestBytes));
@@ -210,7 +244,7 @@ class Count {
   void ReadStream(ByteSource& source, FileReport& report) {
     HeadedSource text(source);
     const std::string_view head = text.Ahead(HeadBytes(kTextTestBytes));
-    if (head.empty() && !Stopped()) {
+    if (head.empty() && !stop_.Stopped()) {
       report.refusal = Refusal::kEmpty;
       return;
     }
@@ -276,7 +310,7 @@ class Count {
                [this](const std::string& path) {
                  Skip({path, Refusal::kFolderUnreadable, {}});
                },
-           .stops = [this] { return Stopped(); }});
+           .stops = [this] { return stop_.Yield(); }});
     EndScan();
   }
 
@@ -291,17 +325,23 @@ class Count {
     visit({.onFile = countFile,
            .onSubfolder = [this] { ++result_.folders; },
            .onUnreadableFolder = [](const std::string&) {},
-           .stops = [this] { return Stopped(); }});
-    if (Stopped()) {
+           .stops = [this] { return stop_.Yield(); }});
+    if (stop_.Stopped()) {
       result_.end = CountEnd::kStoppedCounting;
       return false;
     }
     progress_.filesInRun = std::exchange(result_.files, 0);
-    if (!observer_.GoOn(progress_.filesInRun, result_.folders, outputPath_)) {
+    std::string outputPath = request_.outputPath;
+    if (!observer_.GoOn(progress_.filesInRun, result_.folders, outputPath)) {
       Refuse(Refusal::kDeclined);
       return false;
     }
-    return true;
+    if (outputPath == request_.outputPath) return true;
+    const SourceCheck check(outputPath);
+    const Refusal refusal = std::visit(
+        [&check](const auto& source) { return check.OutputIn(source); }, request_.source);
+    if (refusal != Refusal::kNone) Refuse(refusal);
+    return refusal == Refusal::kNone;
   }
 
   void VisitPaths(const TextOfPaths& source, const FolderVisitor& visitor) {
@@ -317,15 +357,14 @@ class Count {
   }
 
   void TakeFile(const std::string& path) {
-    observer_.OnFileMet(path);
+    observer_.OnFileMet(path, progress_);
+    const std::int64_t bytesBefore = progress_.runBytesRead;
     FileReport report;
     report.path = path;
     result_.store.Files().SetFileBeingScanned(path);
     Try(report, [&](FileReport& read) {
       if (standardInput_ != nullptr && path == kStandardInput) {
         ReadStream(*standardInput_, read);
-      } else if (SourceCheck(outputPath_).IsOutput(path)) {
-        read.refusal = Refusal::kIsOutput;
       } else {
         ReadFile(path, read);
       }
@@ -337,6 +376,9 @@ class Count {
     if (report.refusal == Refusal::kNone) {
       ++result_.files;
     } else {
+      if (progress_.bytesInRun > 0) {
+        progress_.runBytesRead = bytesBefore + FileLength(path).value_or(report.bytesRead);
+      }
       Skip({path, report.refusal, report.error});
     }
     observer_.OnFileEnds(report, progress_);
@@ -361,11 +403,7 @@ class Count {
     observer_.OnScanBegins();
   }
   void EndScan() {
-    if (Stopped()) result_.end = CountEnd::kStopped;
-  }
-  bool Stopped() {
-    stopped_ = stopped_ || observer_.Yield();
-    return stopped_;
+    if (stop_.Stopped()) result_.end = CountEnd::kStopped;
   }
   void Refuse(Refusal refusal) {
     result_.end = CountEnd::kRefused;
@@ -378,8 +416,7 @@ class Count {
 
   const CountRequest& request_;
   CountObserver& observer_;
-  /// The request's, or what the observer has made of it.
-  std::string outputPath_;
+  StopQuestion stop_;
   CountResult result_;
   ScanSettings settings_;
   TextReader reader_;
@@ -387,16 +424,20 @@ class Count {
   /// What "-" reads in a list of paths; null for other sources.
   ByteSource* standardInput_ = nullptr;
   bool scanning_ = false;
-  bool stopped_ = false;
 };
 
 }  // namespace
 
-Refusal Counter::Check(const CountRequest& request) {
+Refusal Counter::Check(const CountRequest& request, std::optional<RunTimeError>& error) {
   if (IsSet(request.scan.allowCommentMarkers) && FindMarkerFault(request.scan)) {
     return Refusal::kBadMarkers;
   }
-  return std::visit(SourceCheck(request.outputPath), request.source);
+  try {
+    return std::visit(SourceCheck(request.outputPath), request.source);
+  } catch (const RunTimeError& unreadable) {
+    error = unreadable;
+    return Refusal::kFolderUnreadable;
+  }
 }
 
 CountResult Counter::Run() {

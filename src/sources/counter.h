@@ -8,6 +8,9 @@
 // it, and the count goes on. An overflow of a counter fails any count.
 #pragma once
 
+#include <optional>
+
+#include "base/run_time_error.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
@@ -31,8 +34,9 @@ class Counter {
   [[nodiscard]] CountResult Run();
 
   /// Why a count would be refused before anything is read, as far as that can be told without
-  /// opening a file; kNone if it would not.
-  [[nodiscard]] static Refusal Check(const CountRequest& request);
+  /// opening a file; kNone if it would not. With kFolderUnreadable `error` says why.
+  [[nodiscard]] static Refusal Check(const CountRequest& request,
+                                     std::optional<RunTimeError>& error);
 
  private:
   CountObserver nobody_;

@@ -45,15 +45,18 @@ void WalkFolder(const TextOfFolder& folder, const FolderVisitor& visitor) {
   Walk(folder.path, folder, visitor);
 }
 
-bool FolderHasFile(const std::string& path, std::string_view pattern, bool includeSubfolders) {
-  const std::optional<FolderListing> listing = TryToList(path);
-  if (!listing) return false;
+bool FolderHasFiles(const std::string& path, std::string_view pattern, bool includeSubfolders) {
+  const FolderListing listing = ListFolder(path);
   const auto fits = [pattern](const std::string& name) { return MatchesWildcard(name, pattern); };
-  if (std::ranges::any_of(listing->files, fits)) return true;
-  return includeSubfolders &&
-         std::ranges::any_of(listing->subfolders, [&](const std::string& name) {
-           return FolderHasFile(JoinPath(path, name), pattern, true);
-         });
+  if (std::ranges::any_of(listing.files, fits)) return true;
+  const auto hasFiles = [&](const std::string& name) {
+    try {
+      return FolderHasFiles(JoinPath(path, name), pattern, true);
+    } catch (const RunTimeError&) {
+      return false;
+    }
+  };
+  return includeSubfolders && std::ranges::any_of(listing.subfolders, hasFiles);
 }
 
 }  // namespace quillomat

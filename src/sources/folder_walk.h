@@ -24,8 +24,9 @@ struct FolderVisitor {
 void WalkFolder(const TextOfFolder& folder, const FolderVisitor& visitor);
 
 /// Whether a file whose name fits `pattern` (wildcard.h) is in the folder or, if asked for,
-/// anywhere below it. What may not be read holds none.
-[[nodiscard]] bool FolderHasFile(const std::string& path, std::string_view pattern,
-                                 bool includeSubfolders);
+/// anywhere below it. A subfolder that may not be read holds none; throws RunTimeError when the
+/// folder itself may not.
+[[nodiscard]] bool FolderHasFiles(const std::string& path, std::string_view pattern,
+                                  bool includeSubfolders);
 
 }  // namespace quillomat

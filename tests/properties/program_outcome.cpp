@@ -3,6 +3,7 @@
 #include <optional>
 #include <sstream>
 
+#include "app/list/text_box_list_sink.h"
 #include "base/byte_source.h"
 #include "base/text_helpers.h"
 #include "engine/long_line.h"
@@ -11,7 +12,6 @@
 #include "engine/word_scanner.h"
 #include "listing/file_list_sink.h"
 #include "listing/list_walk.h"
-#include "listing/text_box_list_sink.h"
 #include "properties/count_outcome.h"
 #include "support/scripted_desktop.h"
 

@@ -117,6 +117,14 @@ TEST_F(ManyFiles, HaveAShareOfTheRunWithoutBytesToo) {
   EXPECT_DOUBLE_EQ(observer.afterFiles.at(0).ShareOfRun(), 1.0 / 3);
 }
 
+TEST_F(ManyFiles, ThatAreLeftOutHaveTheirShareOfTheRunToo) {
+  Put("b.txt", "cat \x01");
+  request.countingPass = CountingPass::kFilesAndBytes;
+  static_cast<void>(Run(Whole()));
+  EXPECT_EQ(observer.afterFiles.at(1).runBytesRead, 7 + 5);
+  EXPECT_DOUBLE_EQ(observer.afterFiles.at(2).ShareOfRun(), 1);
+}
+
 TEST_F(ManyFiles, AreNotReadByWhoDoesNotWantToGoOn) {
   request.countingPass = CountingPass::kFiles;
   observer.goesOn = false;
@@ -190,10 +198,13 @@ TEST_F(ManyFiles, FailTogetherWithAnOverflow) {
   EXPECT_EQ(result.error.value().Description(), "Overflow");
 }
 
-TEST_F(ManyFiles, AreNeverTheOutputFile) {
+TEST_F(ManyFiles, AreRefusedWhenAnOutputFileAmongThemIsChosenOnTheWay) {
   request.countingPass = CountingPass::kFiles;
   observer.choosesOutput = folder / "b.txt";
-  EXPECT_EQ(WordsOf(Run(Whole())), "cat dog fox");
+  ExpectRefused(Run(Whole()), Refusal::kOutputInFolder);
+  observer.choosesOutput = folder / "a.txt";
+  ExpectRefused(Run(TextOfPaths{{folder / "a.txt", folder / "b.txt"}, false, {}, nullptr}),
+                Refusal::kIsOutput);
 }
 
 // What is refused.

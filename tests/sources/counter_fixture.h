@@ -38,7 +38,9 @@ class RecordingObserver final : public CountObserver {
     return goesOn;
   }
   void OnScanBegins() override { Note("scan"); }
-  void OnFileMet(const std::string& path) override { Note("met " + FileNamePartOf(path)); }
+  void OnFileMet(const std::string& path, const CountProgress& /*told*/) override {
+    Note("met " + FileNamePartOf(path));
+  }
   void OnFileBegins(const FileBegins& file) override {
     Note("begins " + FileNamePartOf(file.path));
     if (onFileBegins) onFileBegins(file);

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "sources/folder_source.h"
+#include "sources/folder_walk.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {

@@ -1,0 +1,60 @@
+// The two boxes of file extensions: what the user types there, parsed and checked, decides which
+// files of a folder are scanned.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/count/run_context.h"
+#include "sources/extension_filter.h"
+
+namespace quillomat {
+
+/// Also the index of the text boxes.
+enum class ExtensionList { kIncluded = 0, kExcluded = 1 };
+
+class FileExtensions {
+ public:
+  explicit FileExtensions(const RunContext& context) : context_(context) {}
+
+  /// Parses one of the two boxes and writes the entries that count back into it. Of too many
+  /// entries these are the first kMaxExtensions of ExtensionFilter, and the result is false.
+  [[nodiscard]] bool GetFileExtensions(ExtensionList which);
+
+  /// What happens when the user leaves one of the boxes, or presses Enter in it: it is parsed and
+  /// checked, and the user told, once for the texts that stand in the boxes.
+  void OnLostFocus(ExtensionList which);
+
+  /// The boxes were set from outside: both are parsed and checked, and the user told.
+  void OnRestored();
+
+  /// Makes the lists what the boxes say, before a count. False when one holds too many entries; the
+  /// user has been told.
+  [[nodiscard]] bool TakeBoxes();
+
+  /// Checks the lists against each other; tells the user about the first fault and returns false.
+  [[nodiscard]] bool CheckFileExtensions() const;
+
+  /// Whether a file of that name is scanned.
+  [[nodiscard]] bool IsScannable(std::string_view fileName) const {
+    return filter_.Admits(fileName);
+  }
+  /// The lists in force.
+  [[nodiscard]] const ExtensionFilter& Filter() const { return filter_; }
+
+ private:
+  using BoxTexts = std::array<std::string, 2>;
+
+  void TellTooMany(ExtensionList which) const;
+  void TellFaults() const;
+  [[nodiscard]] BoxTexts Texts() const;
+
+  const RunContext& context_;
+  ExtensionFilter filter_;
+  /// What the boxes held when the user was last told of their faults.
+  std::optional<BoxTexts> checked_;
+};
+
+}  // namespace quillomat

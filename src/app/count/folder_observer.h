@@ -1,0 +1,68 @@
+// What the main window shows and asks while a folder is counted, and how it writes the paths of
+// files and folders.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "app/count/file_source.h"
+#include "app/count/progress_bar.h"
+#include "app/count/run_context.h"
+#include "app/count/window_count.h"
+
+namespace quillomat {
+
+/// The path with the chosen folder's name in place of its path.
+[[nodiscard]] std::string ShownPath(const RunContext& context, const std::string& path);
+/// Why a file or a folder was skipped, in words.
+[[nodiscard]] std::string ReasonText(const SkippedFile& skipped);
+
+/// Writes a path on a line of its own into the output text box.
+void WritePathLine(const RunContext& context, const std::string& path);
+/// Writes behind it that it was skipped.
+void WriteSkipped(const RunContext& context, const SkippedFile& skipped);
+
+class FolderObserver final : public WindowObserver {
+ public:
+  FolderObserver(const RunContext& context, FileSource& fileSource);
+
+  void OnFileCounted(std::int32_t files, std::int32_t folders) override;
+  [[nodiscard]] bool GoOn(std::int32_t files, std::int32_t folders,
+                          std::string& outputPath) override;
+  void OnScanBegins() override;
+  void OnFileMet(const std::string& path, const CountProgress& progress) override;
+  void OnFileBegins(const FileBegins& file) override;
+  void OnProgress(const CountProgress& progress) override;
+  void OnFileEnds(const FileReport& report, const CountProgress& progress) override;
+  void OnSkipped(const SkippedFile& skipped) override;
+
+ private:
+  /// While it lives, the input box shows one file of the folder after the other, and a progress bar
+  /// follows them; afterwards the user's own input file stands in the box again.
+  class FilesInTurn {
+   public:
+    FilesInTurn(const RunContext& context, FileSource& fileSource);
+    FilesInTurn(const FilesInTurn&) = delete;
+    FilesInTurn& operator=(const FilesInTurn&) = delete;
+    FilesInTurn(FilesInTurn&&) = delete;
+    FilesInTurn& operator=(FilesInTurn&&) = delete;
+    ~FilesInTurn();
+
+    void ShowDone(std::int32_t files, std::int32_t of);
+    /// How far the run has come, as a value.
+    void ShowProgress(const CountProgress& progress);
+
+   private:
+    MainForm& frmMain_;
+    FileSource& fileSource_;
+    ProgressBar progress_;
+    std::string usersPath_;
+    std::string usersFilesize_;
+  };
+
+  FileSource& fileSource_;
+  std::optional<FilesInTurn> filesInTurn_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,58 @@
+// A folder as the source of a count, and the list of the files that a count would read. The walk
+// goes through the files of a folder in the order of their names, then through its subfolders.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/count/file_extensions.h"
+#include "app/count/file_source.h"
+#include "app/count/run_context.h"
+#include "sources/count_request.h"
+#include "sources/count_result.h"
+
+namespace quillomat {
+
+/// "2 files in 1 folder", with `separator` between groups of digits.
+[[nodiscard]] std::string FilesInFolders(std::int32_t files, std::int32_t folders,
+                                         std::string_view separator);
+
+/// A file or folder that could not be read although it should have been.
+struct SkippedItem {
+  std::string path;
+  std::string reason;
+};
+
+class FolderSource {
+ public:
+  FolderSource(const RunContext& context, FileSource& fileSource, const FileExtensions& extensions)
+      : context_(context), fileSource_(fileSource), extensions_(extensions) {}
+
+  /// Counts the words of the folder's files. Tells the user what is wrong and returns false. Throws
+  /// RunTimeError when a counter overflows.
+  [[nodiscard]] bool ScanFolder();
+
+  /// Lists the files that a count would read.
+  void ListFiles();
+
+  /// What the last scan had to skip, in its order; the first of it where it is much.
+  [[nodiscard]] const std::vector<SkippedItem>& Skipped() const { return skipped_; }
+
+ private:
+  [[nodiscard]] TextOfFolder Folder() const;
+  bool TellRefusal(const CountResult& result) const;
+  void TakeSkipped(const CountResult& result);
+  [[nodiscard]] std::string SkippedNotice(const CountResult& result) const;
+  void TellStoppedCounting(std::int32_t files, std::int32_t folders) const;
+  [[nodiscard]] std::string FilesIn(std::int32_t files, std::int32_t folders) const;
+  void OutputLine(const std::string& line) const;
+
+  const RunContext& context_;
+  FileSource& fileSource_;
+  const FileExtensions& extensions_;
+  std::vector<SkippedItem> skipped_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,40 @@
+#include "app/count/panel_choices.h"
+
+#include <charconv>
+#include <cstddef>
+#include <string>
+
+namespace quillomat {
+
+ScanChoices ReadScanChoices(ParamsForm& frmParams) {
+  ScanChoices choices;
+  const auto boxes = frmParams.AllowCheckBoxes();
+  for (std::size_t flag = 0; flag < boxes.size(); ++flag) {
+    choices.allowWordsWith[flag] = boxes[flag]->Value();
+  }
+  choices.caseSignificant = frmParams.chkCaseSignificant.Value();
+  choices.dropFinalS = frmParams.chkDropFinalS.Value();
+  choices.allowCommentMarkers = frmParams.chkAllowCommentMarkers.Value();
+  for (std::size_t pair = 0; pair < 2; ++pair) {
+    choices.startComment[pair] = frmParams.txbStartComment[pair].Text();
+    choices.endComment[pair] = frmParams.txbEndComment[pair].Text();
+  }
+  return choices;
+}
+
+FilterChoices ReadFilterChoices(const ParamsForm& frmParams) {
+  FilterChoices choices;
+  choices.ignoreInfrequentWords = frmParams.chkIgnoreInfrequentWords.Value();
+  choices.thresholdFrequencyIndex = frmParams.cboThresholdFrequency.ListIndex();
+  choices.ignoreShortWords = frmParams.chkIgnoreShortWords.Value();
+  choices.shortWordSizeIndex = frmParams.cboShortWordSize.ListIndex();
+  choices.ignoreRepetitions = frmParams.chkIgnoreRepetitions.Value();
+  choices.ignoreRomNum40 = frmParams.chkIgnoreRomNum40.Value();
+  choices.ignoreNoVowelOrY = frmParams.chkIgnoreNoVowelOrY.Value();
+  const std::string longest = frmParams.cboLongWordSize.Text();
+  choices.longWordSize = 0;  // what no selection reads as
+  std::from_chars(longest.data(), longest.data() + longest.size(), choices.longWordSize);
+  return choices;
+}
+
+}  // namespace quillomat

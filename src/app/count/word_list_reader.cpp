@@ -1,0 +1,321 @@
+#include "app/count/word_list_reader.h"
+
+#include <array>
+#include <new>
+#include <optional>
+#include <vector>
+
+#include "app/count/line_ending_warning.h"
+#include "app/count/panel_choices.h"
+#include "app/count/path_boxes.h"
+#include "app/count/word_echo.h"
+#include "app/list/summary.h"
+#include "base/letter_case.h"
+#include "base/limited_source.h"
+#include "base/line_decoder.h"
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
+#include "engine/word_scanner.h"
+#include "sources/line_endings.h"
+#include "system/file_system.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::size_t kTextTestBytes = 16'384;
+/// Of a line of a words file, and of one that has no length of its own and may have no end: a pipe,
+/// a device.
+constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
+constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
+
+std::size_t IndexOf(WordListKind kind) {
+  return static_cast<std::size_t>(kind);
+}
+bool IsIgnore(WordListKind kind) {
+  return kind == WordListKind::kIgnore;
+}
+
+std::string KindName(WordListKind kind) {
+  return IsIgnore(kind) ? "words-to-ignore" : "count-only words";
+}
+
+/// While it lives, the boxes that a words file is read with stand as it needs them.
+class ListReadingBoxes {
+ public:
+  explicit ListReadingBoxes(const RunContext& context)
+      : boxes_{&context.frmMain.chkSuppressWords, &context.frmParams.chkAllowCommentMarkers},
+        values_{boxes_[0]->Value(), boxes_[1]->Value()} {
+    for (CheckBox* box : boxes_) box->SetChecked(true);
+  }
+  ListReadingBoxes(const ListReadingBoxes&) = delete;
+  ListReadingBoxes& operator=(const ListReadingBoxes&) = delete;
+  ListReadingBoxes(ListReadingBoxes&&) = delete;
+  ListReadingBoxes& operator=(ListReadingBoxes&&) = delete;
+  ~ListReadingBoxes() {
+    for (std::size_t i = 0; i < boxes_.size(); ++i) boxes_[i]->SetValue(values_[i]);
+  }
+
+ private:
+  std::array<CheckBox*, 2> boxes_;
+  std::array<CheckState, 2> values_;
+};
+
+/// Tells a listener of new words while it lives.
+class ListenerGuard {
+ public:
+  ListenerGuard(WordStore& store, NewWordListener& listener) : store_(store) {
+    store_.SetListener(&listener);
+  }
+  ListenerGuard(const ListenerGuard&) = delete;
+  ListenerGuard& operator=(const ListenerGuard&) = delete;
+  ListenerGuard(ListenerGuard&&) = delete;
+  ListenerGuard& operator=(ListenerGuard&&) = delete;
+  ~ListenerGuard() { store_.SetListener(nullptr); }
+
+ private:
+  WordStore& store_;
+};
+
+}  // namespace
+
+WordList& WordListReader::FileList(WordListKind kind) {
+  WordLists& lists = context_.state.lists;
+  return IsIgnore(kind) ? lists.IgnoreList : lists.CountOnlyList;
+}
+
+WordList& WordListReader::ExtraList(WordListKind kind) {
+  WordLists& lists = context_.state.lists;
+  return IsIgnore(kind) ? lists.ExtraIgnoreList : lists.ExtraCountOnlyList;
+}
+
+TextBox& WordListReader::PathBox(WordListKind kind) {
+  return context_.frmParams.txbWordsFile[IndexOf(kind)];
+}
+
+TextBox& WordListReader::ExtraBox(WordListKind kind) {
+  return context_.frmParams.txbWordsToIgnoreOrCount[IndexOf(kind)];
+}
+
+std::string& WordListReader::FileInForce(WordListKind kind) {
+  return context_.state.filesRead.wordsFiles[IndexOf(kind)];
+}
+
+std::string WordListReader::GetExtraWords(WordListKind kind) {
+  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()));
+  if (!typed.fits) {
+    return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
+  }
+  std::string cleaned = JoinWithBlanks(typed.items);
+  ExtraList(kind) = WordList(std::move(typed.items));
+  return cleaned;
+}
+
+void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
+  TextBox& box = ExtraBox(kind);
+  box.SetText(std::string(TrimBlanks(box.Text())));
+  if (box.Text().empty()) {
+    ExtraList(kind) = WordList();
+    return;
+  }
+  const std::string result = GetExtraWords(kind);
+  if (result.ends_with('.')) {
+    Refuse(context_, result, "Invalid input");
+  } else {
+    box.SetText(result);
+  }
+}
+
+bool WordListReader::ReadWords(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  ForgetWordsOfFile(kind);
+  tooLong_.clear();
+  try {
+    std::optional<InputFile> file;  // opened once: what comes from a pipe comes only once
+    const LineEndingType type = OpenText(path, kTextTestBytes, file);
+    if (!file) return false;
+    if (type == LineEndingType::kNotText) {
+      Refuse(context_, "This is not a text file.", "Invalid input");
+      return false;
+    }
+    if (IsWorthAWarning(type)) ShowLineEndingWarning(context_, type);
+    ScanSettings& settings = context_.state.settings;
+    const ScanChoices choices = ReadScanChoices(context_.frmParams);
+    settings.ReadingWordList = true;
+    settings.SetAllowWordsFlags(choices);
+    settings.BuildExtraWordChars();
+    settings.ClearListCharFlags();
+    settings.SetCommentMarkers("C", choices);
+    context_.state.DiscardWords();  // first, so that the boxes' handlers find no count to ask about
+    const ListReadingBoxes boxes(context_);
+    context_.state.store.Files().Reset(false);
+    ConcealNumWords(context_.frmMain, false);
+    context_.output.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
+                                            : "Now reading count-only words . . . ");
+    ScanWordsFile(*file);
+    TakeWordsFromStore(kind);
+    FileInForce(kind) = path;
+    return true;
+  } catch (const InputTooLong& error) {
+    tooLong_ = ":" + std::string(kCrLf) + error.Description();
+    return false;
+  } catch (const RunTimeError&) {
+    return false;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+void WordListReader::ScanWordsFile(InputFile& file) {
+  const BusyGuard busy(context_);
+  CountState& state = context_.state;
+  const ScanChoices choices = ReadScanChoices(context_.frmParams);
+  const WordLists lists = state.lists;
+  RunYield yield(context_);
+  WordEcho echo(context_);
+  const ListenerGuard listening(state.store, echo);
+  WordScanner scanner(state.settings, choices, lists, state.store, yield);
+  SourceLimits limits{.lineBytes = kMostWordsBytes};
+  if (file.Length() == 0) limits.bytes = kMostWordsBytes;
+  LimitedSource limited(file, limits);
+  LineDecoder lines(limited);
+  std::string buffer;
+  while (const auto line = lines.NextLine()) {
+    const std::string_view trimmed = TrimBlanks(*line);
+    if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer));
+    if (yield.Yield()) return;
+  }
+}
+
+void WordListReader::TakeWordsFromStore(WordListKind kind) {
+  const WordStore& store = context_.state.store;
+  std::vector<std::string> words;
+  words.reserve(static_cast<std::size_t>(store.NumDifferentWords()));
+  for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
+    words.emplace_back(store.At(index).Word);
+  }
+  FileList(kind) = WordList(std::move(words));
+  if (!IsIgnore(kind)) TickAllowBoxesForListWords();
+}
+
+void WordListReader::TickAllowBoxesForListWords() {
+  const auto boxes = context_.frmParams.AllowCheckBoxes();
+  for (std::size_t flag = 0; flag < boxes.size(); ++flag) {
+    if (context_.state.settings.ListCharFlags[flag]) boxes[flag]->SetChecked(true);
+  }
+}
+
+bool WordListReader::AttemptToReadWords(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  if (!FileExists(path)) return TellNotFound(kind);
+  context_.output.SaveOutputText();
+  const bool ok = ReadWords(kind);
+  if (context_.state.quitting) {
+    // The rest of the file was not read, and nobody wants to know any more.
+  } else if (ok) {
+    Tell(context_,
+         Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
+         "Words loaded", MessageIcon::kInformation);
+  } else {
+    TellNotLoaded(kind, path);
+  }
+  context_.output.RestoreOutputText();
+  context_.becameIdle.Fire();
+  return ok;
+}
+
+/// False. While a state is restored the panel says that it could not be loaded as a whole, and the
+/// box keeps the path: the next count will tell.
+bool WordListReader::TellNotFound(WordListKind kind) {
+  ForgetWordsOfFile(kind);
+  if (context_.state.blnStartUpCompleted && !context_.state.blnInhibitPrompt) {
+    Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
+    PathBox(kind).SetText("");
+  } else if (IsIgnore(kind)) {
+    SetPathToCWDs_Eng();
+  }
+  return false;
+}
+
+void WordListReader::TellNotLoaded(WordListKind kind, const std::string& path) {
+  Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
+         "Error");
+  PathBox(kind).SetText("");
+}
+
+void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
+  if (context_.state.busy) return;  // the next count will see to it
+  CompletePathIn(PathBox(kind), context_);
+  const std::string& path = PathBox(kind).Text();
+  if (path.empty()) {
+    ForgetWordsOfFile(kind);
+  } else if (path != FileInForce(kind)) {
+    AttemptToReadWords(kind);
+  }
+}
+
+bool WordListReader::TakeBoxes() {
+  for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
+    if (!TakeTypedWords(kind) || !TakeWordsFile(kind)) return false;
+  }
+  return true;
+}
+
+bool WordListReader::TakeTypedWords(WordListKind kind) {
+  const std::string result = GetExtraWords(kind);
+  if (!result.ends_with('.')) return true;
+  Refuse(context_, result, "Invalid input");
+  return false;
+}
+
+bool WordListReader::TakeWordsFile(WordListKind kind) {
+  const std::string path = PathBox(kind).Text();
+  if (path.empty()) ForgetWordsOfFile(kind);
+  if (path == FileInForce(kind)) return true;
+  if (!FileExists(path)) return TellNotFound(kind);
+  const bool ok = ReadWords(kind);
+  if (context_.state.quitting) return false;
+  if (!ok) TellNotLoaded(kind, path);
+  return ok;
+}
+
+void WordListReader::SelectWordsFile(WordListKind kind) {
+  const bool countOnlyGiven = !PathBox(WordListKind::kCountOnly).Text().empty() ||
+                              !ExtraBox(WordListKind::kCountOnly).Text().empty();
+  if (IsIgnore(kind) && countOnlyGiven) {
+    const std::string lineBreak(kCrLf);
+    const MessageAnswer answer = context_.desktop.ShowMessage(
+        {"Since there are count-only words (that is," + lineBreak +
+             "only specified words are to be counted)," + lineBreak +
+             "specifying words to be ignored will have no effect." + lineBreak +
+             "Do you still wish to specify words to be ignored?",
+         "Proceed?", MessageIcon::kQuestion, MessageButtons::kYesNo});
+    if (answer != MessageAnswer::kYes) return;
+  }
+  FileDialog dialog;
+  dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"
+                                : "Specify file containing count-only words";
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  dialog.hideReadOnly = true;
+  const std::optional<std::string> path = ChooseFileFor(PathBox(kind), dialog, context_);
+  if (!path) return;
+  PathBox(kind).SetText(*path);
+  AttemptToReadWords(kind);
+}
+
+void WordListReader::ClearWordsFile(WordListKind kind) {
+  PathBox(kind).SetText("");
+  ForgetWordsOfFile(kind);
+}
+
+void WordListReader::ForgetWordsOfFile(WordListKind kind) {
+  FileList(kind) = WordList();
+  FileInForce(kind).clear();
+}
+
+void WordListReader::SetPathToCWDs_Eng() {
+  PathBox(WordListKind::kIgnore).SetText(JoinPath(DataFolder(), kDefaultIgnoreFile));
+}
+
+}  // namespace quillomat

@@ -1,0 +1,69 @@
+// The lists of words to ignore and of count-only words: typed by hand on the panel, or read from
+// words files. A words file is scanned as a text is, with every sign allowed in words and /* */ and
+// // comments skipped; it uses the word store, so the words of the last count are gone afterwards.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "app/count/run_context.h"
+#include "engine/word_list.h"
+#include "system/input_file.h"
+
+namespace quillomat {
+
+class WordListReader {
+ public:
+  explicit WordListReader(const RunContext& context) : context_(context) {}
+
+  /// Parses the typed words into their list. Returns the cleaned text of the list or, when there
+  /// are too many words, the message that says so; only the message ends with ".".
+  std::string GetExtraWords(WordListKind kind);
+  /// What happens when the user leaves the box of typed words.
+  void OnExtraWordsLostFocus(WordListKind kind);
+
+  /// Reads the words file named on the panel into its list; false when it cannot be read or is no
+  /// text (only the latter is told to the user).
+  [[nodiscard]] bool ReadWords(WordListKind kind);
+  /// ReadWords with a check that the file is there, and a message about the outcome. A file that is
+  /// refused leaves its list empty, and its box as well unless a state is being restored.
+  bool AttemptToReadWords(WordListKind kind);
+  /// What happens when the user leaves the box of a words file: another file than the one in force
+  /// is read, and an emptied box empties its list.
+  void OnWordsFileLostFocus(WordListKind kind);
+
+  /// Makes the lists what their boxes say, before a count: what is in force already costs nothing.
+  /// False when a box does not stand for a list; the user has been told, about nothing else.
+  [[nodiscard]] bool TakeBoxes();
+  /// Lets the user choose a words file and reads it.
+  void SelectWordsFile(WordListKind kind);
+  /// Forgets the words file and its list.
+  void ClearWordsFile(WordListKind kind);
+  /// Empties the list that was read from a file; its path stays, and is read before a count.
+  void ForgetWordsOfFile(WordListKind kind);
+
+  /// Names the English common words as the words-to-ignore file.
+  void SetPathToCWDs_Eng();
+
+ private:
+  [[nodiscard]] bool TellNotFound(WordListKind kind);
+  void TellNotLoaded(WordListKind kind, const std::string& path);
+  [[nodiscard]] bool TakeWordsFile(WordListKind kind);
+  [[nodiscard]] bool TakeTypedWords(WordListKind kind);
+  void ScanWordsFile(InputFile& file);
+  void TakeWordsFromStore(WordListKind kind);
+  void TickAllowBoxesForListWords();
+  [[nodiscard]] WordList& FileList(WordListKind kind);
+  [[nodiscard]] WordList& ExtraList(WordListKind kind);
+  [[nodiscard]] TextBox& PathBox(WordListKind kind);
+  [[nodiscard]] TextBox& ExtraBox(WordListKind kind);
+
+  /// The file that the list was read from; "" when it was read from none.
+  [[nodiscard]] std::string& FileInForce(WordListKind kind);
+
+  const RunContext& context_;
+  /// A line for the message about the last words file: what of it was too long, if that was it.
+  std::string tooLong_;
+};
+
+}  // namespace quillomat

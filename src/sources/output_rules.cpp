@@ -1,0 +1,32 @@
+#include "sources/output_rules.h"
+
+#include <algorithm>
+
+#include "system/file_system.h"
+#include "system/links.h"
+
+namespace quillomat {
+
+std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText& text) {
+  switch (text.source) {
+    case CountedText::Source::kFile:
+      if (IsSameFile(path, text.path)) return NeededAs::kText;
+      break;
+    case CountedText::Source::kFolder:
+      if (LiesInFolder(path, text.path, text.withSubfolders)) return NeededAs::kPartOfFolder;
+      break;
+    default:
+      break;
+  }
+  return std::nullopt;
+}
+
+std::optional<NeededAs> WhyNotToWrite(const std::string& path, const FilesRead& filesRead) {
+  const auto isOutput = [&path](const std::string& read) { return IsSameFile(path, read); };
+  if (isOutput(filesRead.clipboardText)) return NeededAs::kText;
+  if (std::ranges::any_of(filesRead.wordsFiles, isOutput)) return NeededAs::kWordsFile;
+  if (isOutput(filesRead.state)) return NeededAs::kState;
+  return std::nullopt;
+}
+
+}  // namespace quillomat

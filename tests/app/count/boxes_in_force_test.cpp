@@ -1,0 +1,208 @@
+// What the boxes say is what counts: lists that are edited by hand, emptied, lost or refused, and
+// what is left of a count when they change.
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <thread>
+
+#include "app/count/count_fixture.h"
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
+namespace quillomat {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class BoxesInForce : public CountFixture {
+ protected:
+  BoxesInForce() { ListWordsOnly(); }
+
+  [[nodiscard]] TextBox& WordsFileBox(WordListKind kind) {
+    return Panel().txbWordsFile[static_cast<std::size_t>(kind)];
+  }
+  void TypeWordsFile(WordListKind kind, const std::string& path) {
+    WordsFileBox(kind).SetText(path);
+  }
+  void LeaveWordsFile(WordListKind kind) { WordsFileBox(kind).LostFocus.Fire(); }
+  [[nodiscard]] const std::vector<std::string>& IgnoredOfFile() {
+    return State().lists.IgnoreList.Words();
+  }
+};
+
+TEST_F(BoxesInForce, LeavingTheBoxTakesTheWordsFileThatWasTyped) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\ncat\n"));
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded"));
+  EXPECT_THAT(IgnoredOfFile(), ElementsAre("cat", "dog"));
+}
+
+TEST_F(BoxesInForce, LeavingTheBoxWithTheFileInForceReadsNothing) {
+  CountClipboard("dog");
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\n"));
+  LeaveWordsFile(WordListKind::kIgnore);
+  CountClipboard("dog");
+  desktop.ForgetQuestions();
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_EQ(StoredWords(), "dog");
+}
+
+TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  LeaveWordsFile(WordListKind::kIgnore);
+  TypeWordsFile(WordListKind::kIgnore, "");
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_THAT(IgnoredOfFile(), IsEmpty());
+}
+
+TEST_F(BoxesInForce, ACountReadsAWordsFileThatIsNotInForceWithoutAWord) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  CountClipboard("dog cat");
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_TRUE(Has(Output(), "cat"));
+  EXPECT_FALSE(Has(Output(), "dog"));
+}
+
+TEST_F(BoxesInForce, ACountForgetsAWordsFileWhoseBoxWasEmptied) {
+  TypeWordsFile(WordListKind::kCountOnly, folder.Write("a.txt", "dog\n"));
+  CountClipboard("dog cat");
+  EXPECT_EQ(StoredWords(), "dog");
+  TypeWordsFile(WordListKind::kCountOnly, "");
+  CountClipboard("dog cat");
+  EXPECT_EQ(StoredWords(), "cat dog");
+}
+
+TEST_F(BoxesInForce, ACountThatLacksItsWordsFileIsRefusedOnce) {
+  TypeWordsFile(WordListKind::kCountOnly, folder / "gone.txt");
+  CountClipboard("dog cat");
+  ExpectMessage(OnlyMessage(), "File for count-only words not found.", "File not found",
+                MessageIcon::kExclamation);
+  EXPECT_EQ(StoredWords(), "");
+  EXPECT_EQ(WordsFileBox(WordListKind::kCountOnly).Text(), "");
+  ExpectIdle();
+  CountClipboard("dog cat");
+  EXPECT_EQ(StoredWords(), "cat dog");
+}
+
+TEST_F(BoxesInForce, ARefusedWordsFileLeavesBoxAndListEmpty) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  LeaveWordsFile(WordListKind::kIgnore);
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("b.bin", std::string("a\0b", 3)));
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_EQ(WordsFileBox(WordListKind::kIgnore).Text(), "");
+  EXPECT_THAT(IgnoredOfFile(), IsEmpty());
+  TypeWordsFile(WordListKind::kIgnore, folder / "gone.txt");
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_EQ(WordsFileBox(WordListKind::kIgnore).Text(), "");
+}
+
+TEST_F(BoxesInForce, TheDefaultWordsThatStandInForALostFileAreReadByTheNextCount) {
+  State().blnInhibitPrompt = true;  // as while a state is loaded
+  TypeWordsFile(WordListKind::kIgnore, folder / "gone.txt");
+  EXPECT_FALSE(program.wordLists.AttemptToReadWords(WordListKind::kIgnore));
+  State().blnInhibitPrompt = false;
+  ASSERT_TRUE(Has(WordsFileBox(WordListKind::kIgnore).Text(), "cwds_en.txt"));
+  CountClipboard("the zebra");
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_FALSE(Has(Output(), "the"));
+}
+
+TEST_F(BoxesInForce, TypedWordsCountEvenIfTheirBoxWasNeverLeft) {
+  Panel().txbWordsToIgnoreOrCount[0].SetText("Dog,");
+  CountClipboard("dog cat");
+  EXPECT_FALSE(Has(Output(), "dog"));
+  Panel().txbWordsToIgnoreOrCount[0].SetText("");
+  CountClipboard("dog cat");
+  EXPECT_TRUE(Has(Output(), "dog"));
+}
+
+TEST_F(BoxesInForce, TooManyTypedWordsRefuseTheCount) {
+  Panel().txbWordsToIgnoreOrCount[1].SetText(ManyWords(1001));
+  CountClipboard("dog cat");
+  ExpectMessage(OnlyMessage(), "Too many count-only words.", "Invalid input",
+                MessageIcon::kExclamation);
+  EXPECT_EQ(StoredWords(), "");
+}
+
+TEST_F(BoxesInForce, AStraySignIsNoCountOnlyWord) {
+  TypeWords(WordListKind::kCountOnly, " - ");
+  EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[1].Text(), "");
+  CountClipboard("dog cat");
+  EXPECT_EQ(StoredWords(), "cat dog");
+}
+
+TEST_F(BoxesInForce, ExtensionsCountEvenIfTheirBoxWasNeverLeft) {
+  static_cast<void>(folder.Write("t/a.txt", "dog"));
+  static_cast<void>(folder.Write("t/b.htm", "cat"));
+  Main().txbFileExtensions[0].SetText("*.txt");
+  CountFolder(folder / "t");
+  EXPECT_EQ(StoredWords(), "dog");
+}
+
+TEST_F(BoxesInForce, TheFileSizeGoesWithItsPath) {
+  Main().txbFile[0].SetText(folder.Write("a.txt", "dog"));
+  Main().txbFile[0].LostFocus.Fire();
+  EXPECT_EQ(Main().lblFilesize.Caption(), "Filesize: 3 bytes");
+  Main().txbFile[0].SetText("");
+  EXPECT_EQ(Main().lblFilesize.Caption(), "");
+}
+
+TEST_F(BoxesInForce, ACancelledChoiceOfAFolderLeavesNoSummaryOfAListThatIsGone) {
+  CountClipboard("dog cat");
+  ASSERT_TRUE(Main().lblNumberOfWords.Visible());
+  desktop.AnswerFolder(std::nullopt);
+  Main().cmdFolder.PerformClick();
+  EXPECT_EQ(Output(), "");
+  EXPECT_FALSE(Main().lblNumberOfWords.Visible());
+  EXPECT_TRUE(Main().lblCopyrightNotice.Visible());
+}
+
+TEST_F(BoxesInForce, OneEnterTellsOneFaultOnce) {
+  constexpr int kEnterKey = 13;
+  TextBox& box = Main().txbFileExtensions[0];
+  desktop.AtMessage("Invalid input", [&box] { box.LostFocus.Fire(); });  // the message takes focus
+  box.SetText("t?t");
+  box.KeyDown.Fire(kEnterKey);
+  box.LostFocus.Fire();
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Invalid input"));
+}
+
+TEST_F(BoxesInForce, TooManyExtensionsAreCutToThoseThatCount) {
+  std::string many;
+  for (int i = 100; i <= 200; ++i) many += "e" + std::to_string(i) + " ";
+  TypeOnly(many);
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Invalid input"));
+  EXPECT_TRUE(Main().txbFileExtensions[0].Text().ends_with(" e199"));
+}
+
+TEST_F(BoxesInForce, AFolderThatMayNotBeReadSaysSo) {
+  CountFolder(folder.Make("gone"));
+  EXPECT_EQ(OnlyMessage().text, "Folder contains no files.");
+}
+
+#ifndef _WIN32
+TEST_F(BoxesInForce, AWordsFileThatIsAPipeIsReadInWhole) {
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  // As the shell hands one over: open for writing already, and with more in it than it holds.
+  std::fstream writing(pipe, std::ios::in | std::ios::out);
+  std::thread writer([&writing] {
+    for (int i = 0; i < 20'000; ++i) writing << "dog\ncat\n";
+    writing << "zebra\n";
+    writing.close();
+  });
+  TypeWordsFile(WordListKind::kIgnore, pipe);
+  LeaveWordsFile(WordListKind::kIgnore);
+  writer.join();
+  EXPECT_THAT(IgnoredOfFile(), ElementsAre("cat", "dog", "zebra"));
+}
+#endif
+
+}  // namespace
+}  // namespace quillomat
