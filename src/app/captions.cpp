@@ -2,7 +2,6 @@
 
 #include <span>
 
-#include "app/count/window_state.h"
 #include "base/version.h"
 
 namespace quillomat {
@@ -67,9 +66,6 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
   frmMain.SetCaption(text.GetText(kProgramTitleText) + " " + VersionText());
   SetCaptionsOf(frmMain, CaptionsOf(SettingWindow::kMain), text);
   SetToolTipsOf(frmMain, ToolTipsOf(SettingWindow::kMain), text);
-  if (frmMain.cmdCountWords.Caption() != kStopCaption) {
-    frmMain.cmdCountWords.SetCaption(text.GetText(kCountCaptionText));
-  }
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
   SetCaptionsOf(frmParams, CaptionsOf(SettingWindow::kPanel), text);
   SetToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel), text);

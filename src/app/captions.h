@@ -18,8 +18,8 @@ namespace quillomat {
 [[nodiscard]] std::vector<ControlCaption> CaptionsOf(SettingWindow window);
 [[nodiscard]] std::vector<ControlCaption> ToolTipsOf(SettingWindow window);
 
-/// Sets all captions that are numbered texts. While a count runs its command goes on reading
-/// "Stop".
+/// Sets all captions that are numbered texts, but for the count command's, which follows from what
+/// is done (ShowCountCaption).
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
                  HelpForm& frmHelp);
 

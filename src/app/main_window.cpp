@@ -58,7 +58,7 @@ void MainWindow::FillListCombos() {
 }
 
 void MainWindow::ChooseText(const std::string& path) {
-  if (context_.state.busy) return;
+  if (context_.state.Busy()) return;
   MainForm& frmMain = context_.frmMain;
   RememberFolderOf(path, context_);
   if (FolderExists(path)) {
@@ -74,7 +74,7 @@ void MainWindow::ChooseText(const std::string& path) {
 }
 
 void MainWindow::TakeDrop(const std::vector<std::string>& paths) {
-  if (context_.state.busy) return;
+  if (context_.state.Busy()) return;
   if (paths.size() == 1) return ChooseText(paths.front());
   Tell(context_, context_.text.GetText(paths.empty() ? kNoPathDroppedText : kManyPathsDroppedText),
        context_.text.GetText(kProgramTitleText), MessageIcon::kInformation);
@@ -106,7 +106,7 @@ void MainWindow::ConnectSource() {
   frmMain.txbFolder.Entered.Connect(
       [this, &frmMain] { SelectSourceOf(frmMain.txbFolder, frmMain.optFolder); });
   frmMain.optOnClipboard.Click.Connect([this] {
-    if (!context_.state.blnStartUpCompleted || context_.state.busy) return;
+    if (!context_.state.blnStartUpCompleted || context_.state.Busy()) return;
     context_.output.ClearOutput();
     ConcealNumWords(context_.frmMain, true);
     EnableSourceControls(context_);
@@ -244,7 +244,7 @@ void MainWindow::ConnectNotices() {
   frmMain.txbOutput.Change.Connect([this] {
     if (!context_.output.IsEmpty()) {
       HideNoticeLabels(context_.frmMain);
-    } else if (!context_.state.busy) {
+    } else if (!context_.state.Busy()) {
       ShowNoticeLabels(context_.frmMain);
     }
   });

@@ -58,7 +58,7 @@ void ParametersPanel::ConnectListingChoice(Control& control) {
 void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
   CountState& state = context_.state;
   if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return;
-  if (state.busy) {
+  if (state.Busy()) {
     // The words are being listed: no time for questions, but the next count must know.
     state.blnWordsGot = false;
     return;

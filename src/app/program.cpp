@@ -76,6 +76,7 @@ bool Program::Start(const StartOptions& options) {
   }
   if (!text.LoadProgramText(kProgramTextFile, context.desktop)) return false;
   SetCaptions(text, frmMain, frmParams, frmHelp);
+  ShowCountCaption(context);
   EnableControls(context, true);
   FillLists();
   ConcealNumWords(frmMain, true);
@@ -156,11 +157,12 @@ void Program::RestoreUserSettings() {
 void Program::ToggleLanguage() {
   text.ToggleLanguage(context.desktop.UserKeys());
   SetCaptions(text, frmMain, frmParams, frmHelp);
+  ShowCountCaption(context);
 }
 
 void Program::Quit() {
   if (ended_) return;
-  if (!state.busy) return End();
+  if (!state.Busy()) return End();
   state.quitting = true;
   state.StopRequested = true;
 }

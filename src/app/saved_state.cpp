@@ -7,6 +7,7 @@
 
 #include "app/count/named_text.h"
 #include "app/count/path_boxes.h"
+#include "app/count/window_state.h"
 #include "app/list/set_the_focus.h"
 #include "app/state_file.h"
 #include "base/run_time_error.h"
@@ -79,7 +80,8 @@ RestoreResult SavedState::ReadControls(const std::string& path) {
   context_.state.blnWordsGot = false;  // even if only some of the controls get their values
   indexOutOfRange_ = false;
   try {
-    const BusyGuard busy(context_);  // no handler lists words while the controls are being set
+    const PhaseGuard guard(
+        context_, RunPhase::kReading);  // no handler lists words while the controls are being set
     ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
     context_.state.filesRead.state = AbsolutePath(stateFile);
     return RestoreResult::kRestored;

@@ -156,10 +156,10 @@ void MainWindowView::ShowProgress() {
 void MainWindowView::ConnectKeys() {
   MainForm& frmMain = program_.frmMain;
   onEnter = [this, &frmMain] {
-    if (!program_.state.busy) frmMain.cmdCountWords.PerformClick();
+    if (!program_.state.Busy()) frmMain.cmdCountWords.PerformClick();
   };
   onEscape = [this, &frmMain] {
-    if (program_.state.busy) frmMain.cmdCountWords.PerformClick();
+    if (program_.state.Busy()) frmMain.cmdCountWords.PerformClick();
   };
   onHelp = [&frmMain] {
     // The focus stays where it is.
@@ -199,7 +199,7 @@ bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
 
 /// Any drop is taken, so that the program can say what it makes of it.
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
-  if (!program_.state.busy) TakeAsCopy(*event);
+  if (!program_.state.Busy()) TakeAsCopy(*event);
 }
 
 void MainWindowView::dragMoveEvent(QDragMoveEvent* event) {

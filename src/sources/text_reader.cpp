@@ -1,8 +1,10 @@
 #include "sources/text_reader.h"
 
+#include <utility>
+
 #include "base/letter_case.h"
-#include "base/line_decoder.h"
 #include "base/text_helpers.h"
+#include "engine/long_line.h"
 #include "system/paths.h"
 
 namespace quillomat {
@@ -10,6 +12,8 @@ namespace {
 
 /// In BytesWithLongLineEnds.
 constexpr std::int64_t kLineEndBytes = 2;
+/// The bytes of a long line are told of when they have become so many.
+constexpr std::int64_t kBytesWorthTelling = std::int64_t{64} * 1024;
 
 bool IsHtmlLike(std::string_view extension) {
   return extension.find("htm") != std::string_view::npos || extension == "php" ||
@@ -49,6 +53,26 @@ void TextReader::ReadLine(std::string_view line) {
   if (!trimmed.empty()) ReadPiece(trimmed);
 }
 
+/// Part by part, if the line is long and its markers let it be; false otherwise.
+bool TextReader::ReadLongLine(LineDecoder& lines, const OnBytes& onBytes) {
+  if (!lines.IsAtLongLine() || !scanner_.CanTakeParts()) return false;
+  scanner_.SetWordsRead(target_.wordsRead);
+  LongLine line({target_.settings, choices_, lists_, target_.store, yield_, scanner_});
+  std::int64_t untold = 0;
+  for (std::string_view part = lines.NextPartOfLine(); !part.empty();
+       part = lines.NextPartOfLine()) {
+    if (untold >= kBytesWorthTelling && onBytes) onBytes(std::exchange(untold, 0));
+    untold += static_cast<std::int64_t>(part.size());
+    line.Take(part);
+    target_.wordsRead = scanner_.WordsRead();  // whatever becomes of the rest
+    if (yield_.Yield()) break;
+  }
+  line.End();
+  if (onBytes) onBytes(untold + kLineEndBytes);
+  target_.wordsRead = scanner_.WordsRead();
+  return true;
+}
+
 void TextReader::ReadLines(ByteSource& source, const OnBytes& onBytes) {
   LineDecoder lines(source);
   for (;;) {
@@ -59,6 +83,8 @@ void TextReader::ReadLines(ByteSource& source, const OnBytes& onBytes) {
       if (onBytes) onBytes(BytesWithLongLineEnds(plain));
       ReadPlainLines(plain);
       lines.SkipLines(plainBytes);
+    } else if (ReadLongLine(lines, onBytes)) {
+      // Its bytes have been told of.
     } else if (const auto line = lines.NextLine()) {
       if (onBytes) onBytes(static_cast<std::int64_t>(line->size()) + kLineEndBytes);
       ReadLine(*line);

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "base/byte_source.h"
+#include "base/line_decoder.h"
 #include "engine/parallel/threaded_scan.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
@@ -55,6 +56,7 @@ class TextReader {
   void ReadLinesOnThreads(ByteSource& source, const OnBytes& onBytes);
 
  private:
+  [[nodiscard]] bool ReadLongLine(LineDecoder& lines, const OnBytes& onBytes);
   void ReadLine(std::string_view line);
   void ReadPlainLines(std::string_view lines);
 

@@ -60,7 +60,7 @@ class BadStateFile : public ProgramFixture {
       EXPECT_EQ(Differences(initial_, ImageOf(program)), "");
     }
     EXPECT_FALSE(State().blnInhibitPrompt);
-    EXPECT_FALSE(State().busy);
+    EXPECT_FALSE(State().Busy());
     return result;
   }
 

@@ -203,7 +203,7 @@ TEST_F(StartUp, RestoredStateAsksNothing) {
   EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded", "Words loaded"));
   EXPECT_TRUE(program.frmMain.optOnClipboard.Value());
   EXPECT_FALSE(program.state.blnWordsGot);
-  EXPECT_FALSE(program.state.busy);
+  EXPECT_FALSE(program.state.Busy());
 }
 
 // Initialize.

@@ -209,7 +209,7 @@ class Newcomer {
     Press("Return");
     WaitUntil("the box is full", [this] { return !NoBox(); });
     Press("Return");
-    WaitUntil("the list is there", [this] { return NoBox() && !program_.state.busy; });
+    WaitUntil("the list is there", [this] { return NoBox() && !program_.state.Busy(); });
     Press("ctrl+f");
     Type(QStringLiteral("wordzzz"));
     WaitUntil("it is said that the box holds a part", [this] {

@@ -27,22 +27,17 @@ constexpr std::int32_t kFrequenciesPerStep = 100;
 
 void CountRun::OnCountClick() {
   CountState& state = context_.state;
-  MainForm& frmMain = context_.frmMain;
-  if (frmMain.cmdCountWords.Caption() == kStopCaption) {
+  if (RulesOf(state.phase).stops) {
     state.StopRequested = true;
     return;
   }
-  if (state.busy) return;
-  EnableListOptions(frmMain, false);
-  EnableSourceOptions(frmMain, false);
+  if (state.Busy()) return;
   {
-    const BusyGuard busy(context_);
+    const PhaseGuard guard(context_, RunPhase::kChecking);
     RunCount();
     DropProcessingNotice();
   }
   EnableControls(context_, true);
-  EnableListOptions(frmMain, true);
-  EnableSourceOptions(frmMain, true);
   state.StopRequested = false;
   context_.becameIdle.Fire();
 }
@@ -153,8 +148,6 @@ bool CountRun::HandleInterruption() {
     state.listAfterStop = true;
     return true;
   }
-  EnableControls(context_, true);
-  context_.frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
   return false;
 }
 
@@ -173,11 +166,8 @@ void CountRun::FinishRun() {
   MainForm& frmMain = context_.frmMain;
   ShowProcessingNotice();
   frmMain.lblNumWordsExcluded.SetCaption("");
-  frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
-  frmMain.cmdCountWords.SetEnabled(true);
+  EnterPhase(context_, RunPhase::kListing);
   context_.desktop.Repaint();
-  EnableSourceOptions(frmMain, false);
-  EnableListOptions(frmMain, false);
   if (!state.settings.CountOnlyMode) {
     ApplyWordFilters(state.store, filterChoices_);
   }
@@ -186,7 +176,6 @@ void CountRun::FinishRun() {
   RankWords();
   ShowSummary(frmMain, state, context_.desktop.DigitGroupSeparator());
   state.blnWordsGot = true;
-  frmMain.cmdCountWords.SetEnabled(true);
   context_.lister.ListWords();
   listWasMade_ = state.totals.NumIncludedWords > 0;
 }
@@ -219,27 +208,23 @@ void CountRun::RankWords() {
 }
 
 void CountRun::OnListFilesClick() {
-  if (context_.state.busy) return;
+  if (context_.state.Busy()) return;
   MainForm& frmMain = context_.frmMain;
   ConcealNumWords(frmMain, false);
   context_.output.ClearOutput();
-  EnableSourceOptions(frmMain, false);
-  EnableListOptions(frmMain, false);
   {
-    const BusyGuard busy(context_);
+    const PhaseGuard guard(context_, RunPhase::kChecking);
     context_.output.OutputToTxb("{Folder} = " + frmMain.txbFolder.Text() + std::string(kCrLf));
     folder_.ListFiles();
   }
   EnableControls(context_, true);
-  EnableSourceOptions(frmMain, true);
-  EnableListOptions(frmMain, true);
   context_.state.StopRequested = false;
   context_.becameIdle.Fire();
 }
 
 void CountRun::OnListChoiceChanged() {
   CountState& state = context_.state;
-  if (!state.blnStartUpCompleted || state.busy || context_.lister.IsChangingFormat()) return;
+  if (!state.blnStartUpCompleted || state.Busy() || context_.lister.IsChangingFormat()) return;
   if (context_.lister.CheckDisplayFormat() && ListStands()) {
     ListAgain(ListTarget::kAll);
     if (state.listAfterStop) {
@@ -253,7 +238,7 @@ void CountRun::OnListChoiceChanged() {
 void CountRun::OnDisableOutputClick() {
   const CountState& state = context_.state;
   const MainForm& frmMain = context_.frmMain;
-  const bool canRelist = state.blnStartUpCompleted && !state.busy && state.completeRun &&
+  const bool canRelist = state.blnStartUpCompleted && !state.Busy() && state.completeRun &&
                          frmMain.chkDisableOutputToFile.Value() == CheckState::kUnchecked &&
                          !frmMain.txbFile[1].Text().empty();
   if (canRelist) {
@@ -273,19 +258,14 @@ void CountRun::OnRestored(bool listStood) {
 }
 
 void CountRun::ListAgain(ListTarget target) {
-  MainForm& frmMain = context_.frmMain;
   {
-    const BusyGuard busy(context_);
-    EnableListOptions(frmMain, false);
-    frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
+    const PhaseGuard guard(context_, RunPhase::kListingAgain);
     if (target == ListTarget::kTextBox) {
       context_.lister.ListInTextBox();
     } else {
       context_.lister.ListWords();
     }
-    frmMain.cmdCountWords.SetCaption(context_.text.GetText(kCountCaptionText));
-    frmMain.lblTwirler.SetCaption(" ");
-    EnableListOptions(frmMain, true);
+    context_.frmMain.lblTwirler.SetCaption(" ");
   }
   context_.state.StopRequested = false;
   context_.becameIdle.Fire();

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "app/count/run_phase.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 #include "engine/word_store.h"
@@ -51,8 +52,8 @@ struct CountState {
   bool listAfterStop = false;
   /// New words of the running count are being shown in the output text box.
   bool displayingWords = false;
-  /// A count or a listing is at work: nothing else may touch the words now.
-  bool busy = false;
+  /// Changed by PhaseGuard and EnterPhase alone.
+  RunPhase phase = RunPhase::kIdle;
 
   // The main window's public flags.
   bool blnStartUpCompleted = false;
@@ -68,6 +69,9 @@ struct CountState {
   std::string clipboardViewerPath;
   /// The user wants to quit as soon as the run has ended.
   bool quitting = false;
+
+  /// Something is at work: nothing else may touch the words now.
+  [[nodiscard]] bool Busy() const { return phase != RunPhase::kIdle; }
 
   [[nodiscard]] CountedWords Counted() const { return {store, ranking, totals}; }
 

@@ -89,7 +89,7 @@ void FolderSource::ListFiles() {
     TellRefusal(check);
     return;
   }
-  ShowRunning(context_);
+  EnterPhase(context_, RunPhase::kCounting);
   std::int32_t files = 0;
   std::int32_t folders = 1;
   const auto writePath = [this](const std::string& path) { WritePathLine(context_, path); };

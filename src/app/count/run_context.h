@@ -1,9 +1,8 @@
 // What every part of a count works with. One for the program's whole life; all parts outlive it.
 #pragma once
 
-#include <array>
+#include <cstdint>
 #include <string>
-#include <vector>
 
 #include "app/count/count_state.h"
 #include "app/list/output_box.h"
@@ -38,23 +37,5 @@ void Refuse(const RunContext& context, std::string text, std::string title);
 
 /// `number` with the digit grouping of the user's locale.
 [[nodiscard]] std::string Grouped(const RunContext& context, std::int64_t number);
-
-/// While it lives, a count or a listing is at work: commands that would touch the words, on
-/// whichever window, are disabled; afterwards they are as they were.
-class BusyGuard {
- public:
-  explicit BusyGuard(const RunContext& context);
-  BusyGuard(const BusyGuard&) = delete;
-  BusyGuard& operator=(const BusyGuard&) = delete;
-  BusyGuard(BusyGuard&&) = delete;
-  BusyGuard& operator=(BusyGuard&&) = delete;
-  ~BusyGuard();
-
- private:
-  CountState& state_;
-  bool before_;
-  /// Those that were enabled.
-  std::vector<Control*> disabled_;
-};
 
 }  // namespace quillomat

@@ -22,11 +22,6 @@ CountRequest RequestFromControls(const RunContext& context, CountSource source) 
   return request;
 }
 
-void ShowRunning(const RunContext& context) {
-  context.frmMain.cmdCountWords.SetCaption(std::string(kStopCaption));
-  EnableControls(context, false);
-}
-
 void WindowObserver::OnScanBegins() {
   scanHasBegun_ = true;
   HideNoticeLabels(context_.frmMain);

@@ -7,6 +7,7 @@
 
 #include "app/count/progress_bar.h"
 #include "app/count/run_context.h"
+#include "app/count/window_state.h"
 #include "app/count/word_echo.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
@@ -17,9 +18,6 @@ namespace quillomat {
 
 /// The request that the panel and the lists in force make of a source.
 [[nodiscard]] CountRequest RequestFromControls(const RunContext& context, CountSource source);
-
-/// Puts the window into its running state: its command reads "Stop".
-void ShowRunning(const RunContext& context);
 
 /// Shows on the main window how a count gets on, and passes on the user's wish to stop. The sources
 /// add what is their own.
@@ -40,7 +38,7 @@ class WindowObserver : public CountObserver {
     echo_.OnNewWord(word, numDifferentWords);
   }
 
-  void OnChecked() override { ShowRunning(context_); }
+  void OnChecked() override { EnterPhase(context_, RunPhase::kCounting); }
   /// The words of the last count are gone.
   void OnScanBegins() override;
   void OnFileBegins(const FileBegins& file) override;

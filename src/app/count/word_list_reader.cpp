@@ -8,6 +8,7 @@
 #include "app/count/line_ending_warning.h"
 #include "app/count/panel_choices.h"
 #include "app/count/path_boxes.h"
+#include "app/count/window_state.h"
 #include "app/count/word_echo.h"
 #include "app/list/summary.h"
 #include "base/letter_case.h"
@@ -166,7 +167,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
 }
 
 void WordListReader::ScanWordsFile(InputFile& file) {
-  const BusyGuard busy(context_);
+  const PhaseGuard guard(context_, RunPhase::kReading);
   CountState& state = context_.state;
   const ScanChoices choices = ReadScanChoices(context_.frmParams);
   const WordLists lists = state.lists;
@@ -243,7 +244,7 @@ void WordListReader::TellNotLoaded(WordListKind kind, const std::string& path) {
 }
 
 void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
-  if (context_.state.busy) return;  // the next count will see to it
+  if (context_.state.Busy()) return;  // the next count will see to it
   CompletePathIn(PathBox(kind), context_);
   const std::string& path = PathBox(kind).Text();
   if (path.empty()) {

@@ -179,7 +179,7 @@ TEST_F(CountRunTest, QuittingDuringTheScanEndsTheRunFirstAndAsksNothing) {
   Panel().chkSaveStateOnQuit.SetChecked(false);
   int ended = 0;
   program.Ended.Connect([&] {
-    EXPECT_FALSE(State().busy);
+    EXPECT_FALSE(State().Busy());
     ++ended;
   });
   AtYield(2, [this] {

@@ -73,7 +73,7 @@ class SourcesFixture : public ProgramFixture {
       EXPECT_FALSE(label->Caption().starts_with("[")) << label->Name();
     }
     EXPECT_FALSE(State().StopRequested);
-    EXPECT_FALSE(State().busy);
+    EXPECT_FALSE(State().Busy());
   }
 
   void ExpectRunning() {

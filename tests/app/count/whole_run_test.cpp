@@ -19,7 +19,7 @@ class WholeRun : public ProgramFixture {
     EXPECT_TRUE(Main().cboDisplayFormat.Enabled());
     EXPECT_TRUE(Main().txbFile[0].Enabled());
     EXPECT_FALSE(State().StopRequested);
-    EXPECT_FALSE(State().busy);
+    EXPECT_FALSE(State().Busy());
   }
 
   /// A click on the count command, which reads "Stop" then, at a pump.

@@ -1,0 +1,55 @@
+// What the running program is doing, and what can be used meanwhile: one table for all of it. What
+// the commands' captions say follows from the phase, never the other way.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace quillomat {
+
+enum class RunPhase : std::uint8_t {
+  kIdle,
+  /// A count or a list of files was asked for, and its checks are made.
+  kChecking,
+  /// Files are counted, walked through or scanned.
+  kCounting,
+  /// The words of a count are ranked and listed.
+  kListing,
+  /// They are listed anew, in another order or format.
+  kListingAgain,
+  /// A words file or a saved state is read.
+  kReading,
+};
+
+/// What can be used in a phase; what no column is about can be used in every one.
+struct PhaseRules {
+  /// The count command stops what is done, and says so.
+  bool stops = false;
+  /// The buttons that choose the source of the text.
+  bool sourceOptions = false;
+  /// The order and the format of the list.
+  bool listOptions = false;
+  /// The rows of the sources and of the output file, and the other commands of the main window.
+  bool commands = false;
+  /// The panel's commands that load settings or words.
+  bool wordCommands = false;
+};
+
+// clang-format off
+inline constexpr std::array<PhaseRules, 6> kPhaseRules = {{
+    //                   stops  sourceOptions listOptions commands wordCommands
+    /* kIdle         */ {false, true,         true,       true,    true},
+    /* kChecking     */ {false, false,        false,      true,    false},
+    /* kCounting     */ {true,  false,        false,      false,   false},
+    /* kListing      */ {true,  false,        false,      false,   false},
+    /* kListingAgain */ {true,  true,         false,      true,    false},
+    /* kReading      */ {false, true,         true,       true,    false},
+}};
+// clang-format on
+
+[[nodiscard]] constexpr const PhaseRules& RulesOf(RunPhase phase) {
+  return kPhaseRules[static_cast<std::size_t>(phase)];
+}
+
+}  // namespace quillomat
