@@ -20,11 +20,6 @@ class InputFile final : public ByteSource {
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
-  /// So many bytes have been given out.
-  [[nodiscard]] std::int64_t BytesGiven() const {
-    return bytesRead_ - static_cast<std::int64_t>(ahead_.size() - aheadStart_);
-  }
-
   /// Whether bytes are at hand, or there will be none; see NativeFile::IsReady.
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {
     return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);

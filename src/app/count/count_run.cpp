@@ -73,12 +73,9 @@ bool CountRun::PrepareRun() {
   const bool clipboard = context_.frmMain.optOnClipboard.Value();
   if (!clipboard && !(extensions_.TakeBoxes() && extensions_.CheckFileExtensions())) return false;
   state.settings.ReadingWordList = false;
-  state.settings.SetAllowWordsFlags(ReadScanChoices(context_.frmParams));
-  state.settings.BuildExtraWordChars();
   filterChoices_ = ReadFilterChoices(context_.frmParams);
   state.listAfterStop = false;
   context_.lister.ForgetOutputFile();
-  state.settings.ForceCommentMarkers = false;
   context_.output.SetFull(false);
   state.WordsRead = 0;
   return true;

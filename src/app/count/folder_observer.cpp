@@ -59,8 +59,8 @@ void FolderObserver::FilesInTurn::ShowDone(std::int32_t files, std::int32_t of) 
 
 void FolderObserver::FilesInTurn::ShowProgress(const CountProgress& progress) {
   const std::int32_t file = progress.filesDone + 1;
-  progress_.SetProgress({progress.runBytesRead, progress.bytesInRun, file,
-                         std::max(progress.filesInRun, file)});
+  progress_.SetProgress(
+      {progress.runBytesRead, progress.bytesInRun, file, std::max(progress.filesInRun, file)});
 }
 
 FolderObserver::FolderObserver(const RunContext& context, FileSource& fileSource)
