@@ -20,6 +20,7 @@ class InputFile final : public ByteSource {
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
+
   /// Whether bytes are at hand, or there will be none; see NativeFile::IsReady.
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {
     return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);

@@ -65,7 +65,7 @@ class FileSource {
   [[nodiscard]] CountedText AsText() const;
   [[nodiscard]] bool OutputIsInput() const;
   [[nodiscard]] bool AskAboutLargeFile();
-  ScanFileResult TellRefusal(Refusal refusal) const;
+  [[nodiscard]] ScanFileResult TellRefusal(Refusal refusal) const;
   void ShowFileSize(std::optional<std::int64_t> bytes);
   void FinishFile();
 

@@ -39,7 +39,10 @@ bool FolderSource::ScanFolder() {
     FolderObserver observer(context_, fileSource_);
     result = CountInWindow(context_, request, observer);
   }
-  if (result.end == CountEnd::kRefused) return TellRefusal(result);
+  if (result.end == CountEnd::kRefused) {
+    TellRefusal(result);
+    return false;
+  }
   if (result.end == CountEnd::kStoppedCounting) {
     TellStoppedCounting(result.files, result.folders);
     return false;
@@ -56,8 +59,7 @@ bool FolderSource::ScanFolder() {
   return true;
 }
 
-/// False, since nothing is counted.
-bool FolderSource::TellRefusal(const CountResult& result) const {
+void FolderSource::TellRefusal(const CountResult& result) const {
   switch (result.refusal) {
     case Refusal::kNothingNamed:
       Refuse(context_, "Folder not specified.", "Error");
@@ -77,7 +79,6 @@ bool FolderSource::TellRefusal(const CountResult& result) const {
     default:
       break;  // the user knows: the run was cancelled
   }
-  return false;
 }
 
 void FolderSource::ListFiles() {
@@ -85,10 +86,7 @@ void FolderSource::ListFiles() {
   request.outputPath = context_.frmMain.txbFile[1].Text();
   CountResult check;
   check.refusal = Counter::Check(request, check.error);
-  if (check.refusal != Refusal::kNone) {
-    TellRefusal(check);
-    return;
-  }
+  if (check.refusal != Refusal::kNone) return TellRefusal(check);
   EnterPhase(context_, RunPhase::kCounting);
   std::int32_t files = 0;
   std::int32_t folders = 1;

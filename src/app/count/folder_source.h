@@ -42,7 +42,7 @@ class FolderSource {
 
  private:
   [[nodiscard]] TextOfFolder Folder() const;
-  bool TellRefusal(const CountResult& result) const;
+  void TellRefusal(const CountResult& result) const;
   void TakeSkipped(const CountResult& result);
   [[nodiscard]] std::string SkippedNotice(const CountResult& result) const;
   void TellStoppedCounting(std::int32_t files, std::int32_t folders) const;
