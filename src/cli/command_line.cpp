@@ -10,6 +10,7 @@
 
 #include "base/text_helpers.h"
 #include "base/version.h"
+#include "cli/answers.h"
 #include "cli/exit_status.h"
 #include "cli/help_formatter.h"
 
@@ -234,6 +235,11 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
     CheckCombinations(result.options);
     result.options.set = SplitPairs("--set", set);
     result.options.answers = SplitPairs("--answer", answers);
+    for (const auto& [title, word] : result.options.answers) {
+      if (const auto fault = WhyNoAnswer(title, word)) {
+        throw CLI::ValidationError("--answer", *fault);
+      }
+    }
   } catch (const CLI::CallForHelp&) {
     out << app.help();
     result.exitStatus = kListMade;

@@ -48,9 +48,8 @@ std::optional<std::string> TerminalDesktop::AnswerTo(const std::string& title) c
 }
 
 void TerminalDesktop::PrintMessage(const std::string& title, const std::string& text) {
-  err_ << (title.empty() ? "Quillomat" : title) << ": " << OnOneLine(text);
-  if (!subject_.empty()) err_ << " (" << OnOneLine(subject_) << ")";
-  err_ << '\n';
+  const std::string line = (title.empty() ? "Quillomat" : title) + ": " + OnOneLine(text) + '\n';
+  if (printed_.insert(line).second) err_ << line;
 }
 
 MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
@@ -59,7 +58,12 @@ MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
   if (refusal && !question && !IsAdvice(box.title)) problemShown_ = true;
   const std::optional<std::string> word = AnswerTo(box.title);
   if (!question) PrintMessage(box.title, box.text);
-  return word ? AnswerOfWord(*word, box.buttons) : AnswerByRule(box.buttons);
+  if (!word) return AnswerByRule(box.buttons);
+  const MessageAnswer answer = AnswerOfWord(*word, box.buttons);
+  if (question && (answer == MessageAnswer::kCancel || answer == MessageAnswer::kNo)) {
+    denial_ = box.title + "=" + *word;
+  }
+  return answer;
 }
 
 std::string TerminalDesktop::AskForText(const InputBox& box) {

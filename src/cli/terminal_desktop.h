@@ -4,6 +4,7 @@
 
 #include <iosfwd>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,13 +26,15 @@ class TerminalDesktop final : public Desktop {
     clipboard_ = std::move(text);
     clipboardGoesOn_ = goesOn;
   }
-  /// What the count is about; added to every message from now on.
-  void SetSubject(std::string subject) { subject_ = std::move(subject); }
-
   /// Whether a message told of something that went wrong.
   [[nodiscard]] bool ProblemShown() const { return problemShown_; }
 
-  /// By rule: OK and Yes where that loses nothing, so that a script goes on.
+  /// The answer of the command line that was Cancel or No last, as it was given there; "" while
+  /// there was none.
+  [[nodiscard]] const std::string& Denial() const { return denial_; }
+
+  /// A message is printed once, however often it is shown. By rule: OK and Yes where that loses
+  /// nothing, so that a script goes on.
   MessageAnswer ShowMessage(const MessageBox& box) override;
   /// By rule: cancelled, since the question is whether to overwrite.
   std::string AskForText(const InputBox& box) override;
@@ -62,7 +65,8 @@ class TerminalDesktop final : public Desktop {
   Answers answers_;
   std::string clipboard_;
   bool clipboardGoesOn_ = false;
-  std::string subject_;
+  std::set<std::string> printed_;
+  std::string denial_;
   bool problemShown_ = false;
   UserRegistry registry_;
   std::optional<std::string> digitGroupSeparator_;  // asked of the system once

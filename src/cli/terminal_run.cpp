@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/program.h"
+#include "app/state_check.h"
 #include "base/letter_case.h"
 #include "base/limited_source.h"
 #include "base/line_decoder.h"
@@ -24,6 +25,9 @@
 namespace quillomat {
 namespace {
 
+/// Where the system has such a name it leads to the file that standard input comes from.
+constexpr const char* kStandardInputPath = "/dev/stdin";
+
 class TerminalRun {
  public:
   TerminalRun(const CommandLine& options, std::ostream& err)
@@ -37,7 +41,6 @@ class TerminalRun {
     if (!ApplyChoices()) return kWrongCommandLine;
     if (!CheckInput() || !ChooseSource()) return kRunFailed;
     if (!TakeEffect() || !SaveState()) return kRunFailed;
-    desktop_.SetSubject(Subject());
     return options_.listFiles ? ListFiles() : Count();
   }
 
@@ -66,8 +69,13 @@ class TerminalRun {
   bool SaveState() {
     if (!options_.saveState) return true;
     const std::string& path = *options_.saveState;
-    if (FileExists(path) && LowerCase(ExtensionOf(path)) != "qlm") {
-      return Fail(path + " exists and is no .qlm file; it is not overwritten by --save-state");
+    // A device, or a file that is made for this, holds nothing that could be lost.
+    const bool holdsSomething = FileLength(path).value_or(0) > 0;
+    if (holdsSomething && !IsStateFile(path, program_.frmMain, program_.frmParams)) {
+      return Fail(path + " exists and is no state; it is not overwritten by --save-state");
+    }
+    if (IsSameFile(path, program_.state.filesRead.state)) {
+      return Fail(path + " is the state that was read; save the new one to another file");
     }
     const std::string error = program_.savedState.SaveState(path);
     return error.empty() || Fail(path + ": " + error);
@@ -122,24 +130,16 @@ class TerminalRun {
     return true;
   }
 
-  /// What the count is about, for messages that do not say so themselves.
-  [[nodiscard]] std::string Subject() const {
-    std::string subject = "standard input";
-    if (options_.folder) subject = *options_.folder;
-    if (options_.file) subject = *options_.file;
-    if (options_.text && *options_.text != "-") subject = *options_.text;
-    if (HasOutputFile()) subject += ", " + program_.frmMain.txbFile[1].Text();
-    return subject;
-  }
-
   bool FillClipboard(const std::string& path) {
     try {
       if (path == "-") {
         StandardInput input;
         TakeAsClipboard(input);
+        program_.state.filesRead.clipboardText = kStandardInputPath;
       } else {
         InputFile input(path);
         TakeAsClipboard(input);
+        program_.state.filesRead.clipboardText = AbsolutePath(path);
       }
       return true;
     } catch (const RunTimeError& error) {
@@ -191,7 +191,7 @@ class TerminalRun {
       return PrintWindowText() && made && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
-      PrintOutputAsMessage();
+      TellWhyThereIsNoList();
       return kRunFailed;
     }
     const bool printed = toFile ? program_.lister.FileWritten() : PrintList();
@@ -210,11 +210,23 @@ class TerminalRun {
     }
   }
 
-  /// What the window would show in place of a list.
-  void PrintOutputAsMessage() {
+  /// What the window would show in place of a list; else a message has told why, but not of what.
+  void TellWhyThereIsNoList() {
+    const std::string& denial = desktop_.Denial();
     const std::string& shown = program_.frmMain.txbOutput.Text();
-    if (shown.empty() || desktop_.ProblemShown()) return;
-    err_ << "quillomat-cli: " << OnOneLine(shown) << '\n';
+    if (!denial.empty()) {
+      Fail("cancelled by --answer '" + denial + "'; there is no list");
+    } else if (!shown.empty() && !desktop_.ProblemShown()) {
+      Fail(OnOneLine(shown));
+    } else {
+      Fail("there is no list of " + InputName());
+    }
+  }
+
+  [[nodiscard]] std::string InputName() const {
+    if (options_.folder) return *options_.folder;
+    if (options_.file) return *options_.file;
+    return *options_.text == "-" ? "standard input" : *options_.text;
   }
 
   void PrintSummary() {

@@ -96,8 +96,7 @@ check "an output file that a state names is left alone on demand" 0 --file cat.t
 holds out "  cat             3"
 cmp -s list.txt kept.txt || { echo "FAILED $name"; failed=1; }
 
-for case in "missing.txt 1 does not exist" "folder 1 is a folder" "empty.txt 1 is empty" \
-  "binary.txt 1 solely of text"; do
+for case in "missing.txt 1 does not exist" "folder 1 is a folder" "empty.txt 1 is empty"; do
   file=${case%% *}
   text=${case#* 1 }
   check "$file is refused" 1 --file "$file"
@@ -106,6 +105,11 @@ for case in "missing.txt 1 does not exist" "folder 1 is a folder" "empty.txt 1 i
   lines err 1
   lines out 0
 done
+check "a file that is no text is refused" 1 --file binary.txt
+grep -q '^Invalid input file: .* associated application,.* to be scanned\.$' err ||
+  { echo "FAILED $name: not as TITLE: TEXT"; failed=1; }
+holds err "quillomat-cli: there is no list of binary.txt"
+lines err 2
 check "a file is no folder" 1 --folder cat.txt
 holds err "cat.txt is a file"
 check "a list without words is none" 1 --file numbers.txt
@@ -128,6 +132,28 @@ check "the names of formats are known in capitals" 0 --file cat.txt --format "Wo
 check "a refused overwrite is told of" 1 --file cat.txt --output list.txt \
   --answer "The output file exists.=Cancel"
 holds err "list.txt is left as it is"
+check "an unknown answer" 2 --file cat.txt --answer "Relist?=maybe"
+holds err "possible: Yes, No"
+mkdir two && cp cat.txt two/a.txt && cp cat.txt two/b.txt
+check "a cancelled run says so" 1 --folder two --answer "Multiple files/folders=cancel"
+holds err "cancelled by --answer 'Multiple files/folders=cancel'"
+lines err 1
+cp cat.txt input.txt && ln -s input.txt link.txt
+check "the text of --text is not overwritten" 1 --text input.txt --output link.txt --overwrite
+holds err "Error: The output file cannot be the same as the input file."
+holds err "there is no list of input.txt"
+check "nor is that of standard input" 1 --text - --output link.txt --overwrite <input.txt
+cmp -s cat.txt input.txt || { echo "FAILED: the input was overwritten"; failed=1; }
+ln -s two/a.txt to-two.txt
+check "no counted file is overwritten through a link" 1 --folder two --output to-two.txt --overwrite
+holds err "Invalid output file: "
+cmp -s cat.txt two/a.txt || { echo "FAILED: a counted file was overwritten"; failed=1; }
+check "a state is saved" 0 --file cat.txt --save-state old.qlm
+check "and replaced by another" 0 --file cat.txt --save-state old.qlm
+check "but not while it is read" 1 --file cat.txt --state old.qlm --save-state old.qlm
+cp cat.txt prose.qlm
+check "what is no state is not replaced by one" 1 --file cat.txt --save-state prose.qlm
+holds err "prose.qlm exists and is no state"
 check "an unknown format" 2 --file cat.txt --format nonsense
 holds err "nonsense"
 check "an unknown order" 2 --file cat.txt --order nonsense
