@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "app/count/count_fixture.h"
+#include "support/permissions.h"
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -181,12 +182,20 @@ TEST_F(BoxesInForce, TooManyExtensionsAreCutToThoseThatCount) {
   EXPECT_TRUE(Main().txbFileExtensions[0].Text().ends_with(" e199"));
 }
 
+#ifndef _WIN32
 TEST_F(BoxesInForce, AFolderThatMayNotBeReadSaysSo) {
-  CountFolder(folder.Make("gone"));
-  EXPECT_EQ(OnlyMessage().text, "Folder contains no files.");
+  static_cast<void>(folder.Write("closed/a.txt", "dog"));
+  std::filesystem::permissions(TestPath(folder / "closed"), std::filesystem::perms::none);
+  EXPECT_EQ(AsOrdinaryUser([this] {
+              CountFolder(folder / "closed");
+              ExpectMessage(OnlyMessage(), "Folder cannot be read: Permission denied.", "Error",
+                            MessageIcon::kExclamation);
+              return HasFailure() ? 1 : 0;
+            }),
+            0);
+  std::filesystem::permissions(TestPath(folder / "closed"), std::filesystem::perms::all);
 }
 
-#ifndef _WIN32
 TEST_F(BoxesInForce, AWordsFileThatIsAPipeIsReadInWhole) {
   const std::string pipe = folder / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
