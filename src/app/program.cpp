@@ -37,6 +37,16 @@ std::size_t UsualScanThreads() {
   return std::clamp(std::thread::hardware_concurrency(), 1U, kMost);
 }
 
+/// Those of the main window's controls of this kind that hold settings go to their defaults.
+void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
+                            const ParamsForm& frmParams) {
+  for (const Setting& setting : AllSettings()) {
+    if (setting.window != SettingWindow::kMain) continue;
+    Control& control = ControlOf(setting, frmMain, frmParams);
+    if (control.Kind() == kind) SetToDefault(setting, control);
+  }
+}
+
 }  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
@@ -117,17 +127,9 @@ void Program::Initialize() {
     wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
   panel_.SetDefaultValues();
-  SetMainWindowsDefaults(ControlKind::kCheckBox);
+  SetMainWindowsDefaults(ControlKind::kCheckBox, frmMain, frmParams);
   state.displayingWords = false;
-  SetMainWindowsDefaults(ControlKind::kComboBox);
-}
-
-void Program::SetMainWindowsDefaults(ControlKind kind) {
-  for (const Setting& setting : AllSettings()) {
-    if (setting.window != SettingWindow::kMain) continue;
-    Control& control = ControlOf(setting, frmMain, frmParams);
-    if (control.Kind() == kind) SetToDefault(setting, control);
-  }
+  SetMainWindowsDefaults(ControlKind::kComboBox, frmMain, frmParams);
 }
 
 /// What was counted, and what is shown of it, so that nothing old is ever listed again.

@@ -92,7 +92,6 @@ class Program {
   void Connect();
   void ForgetWords();
   void FillLists();
-  void SetMainWindowsDefaults(ControlKind kind);
   void ToggleLanguage();
   void End();
 

@@ -102,7 +102,7 @@ std::string RootFolder() {
   return {PathSeparator()};
 }
 
-void ReplaceFile(const std::string& path, std::string_view contents) {
+void ReplaceContents(const std::string& path, std::string_view contents) {
   OutputFile file(path);
   file.Write(contents);
   file.Close();

@@ -52,7 +52,7 @@ void SetCurrentFolder(const std::string& path);
 void LetDrivesBeEmpty();
 
 /// Replaces the file's contents at once, as an OutputFile that is written and closed does.
-void ReplaceFile(const std::string& path, std::string_view contents);
+void ReplaceContents(const std::string& path, std::string_view contents);
 
 /// The folder of the running program.
 [[nodiscard]] std::string ProgramFolder();

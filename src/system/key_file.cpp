@@ -133,7 +133,7 @@ RegistryKeyResult KeyFile::CreateOrOpen() const {
       const InputFile readable(path_);
       return {RegistryKeyOutcome::kExisted, {}};
     }
-    ReplaceFile(path_, {});
+    ReplaceContents(path_, {});
     return {RegistryKeyOutcome::kCreated, {}};
   } catch (const RunTimeError& error) {
     return {RegistryKeyOutcome::kFailed, error.Description()};
@@ -169,7 +169,7 @@ bool KeyFile::Write(std::string_view name, std::string_view value) const {
     }
     std::string contents;
     for (const std::string& each : lines) contents.append(each).push_back('\n');
-    ReplaceFile(path_, contents);
+    ReplaceContents(path_, contents);
     return true;
   } catch (const RunTimeError&) {
     return false;

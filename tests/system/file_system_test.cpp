@@ -100,7 +100,7 @@ TEST_F(FileSystem, CreateFolderDoesNotPassAFileOffAsAFolder) {
 
 TEST_F(FileSystem, ReplaceFileLeavesNothingElseBehind) {
   const std::string file = folder_.Write("file", "old");
-  ReplaceFile(file, "new contents");
+  ReplaceContents(file, "new contents");
   EXPECT_EQ(ContentsOf(file), "new contents");
   EXPECT_THAT(ListFolder(folder_.Path()).files, ElementsAre("file"));
 }

@@ -76,7 +76,7 @@ TEST_F(OddNames, PathsMayBeLongerThan260Characters) {
   EXPECT_EQ(FileLength(file), 4);
   EXPECT_THAT(ListFolder(path).files, ElementsAre("book.txt"));
   EXPECT_TRUE(IsSameFile(file, JoinPath(path, R"(..\)" + std::string(60, 'h') + R"(\book.txt)")));
-  ReplaceFile(file, "deeper");
+  ReplaceContents(file, "deeper");
   EXPECT_EQ(ReadThrough(file), "deeper");
 }
 
