@@ -12,6 +12,13 @@
 namespace quillomat {
 namespace {
 
+/// Room for one more item, and for many where there was none, so that adding one cannot fail.
+template <typename Item>
+void ReserveOneMore(std::vector<Item>& items) {
+  constexpr std::size_t kFirstItems = 64;
+  if (items.size() == items.capacity()) items.reserve(std::max(kFirstItems, 2 * items.size()));
+}
+
 constexpr std::size_t kFirstSlots = 1024;  // a power of two, as every number of slots
 
 }  // namespace
@@ -55,8 +62,8 @@ std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
   }
   if (((found - (word.hash >> slotShift_)) & (slots_.size() - 1)) > kFarthest) crowded_ = true;
   const auto place = static_cast<std::uint32_t>(letters_.Size());
-  slot = {word.hash, place + 1};
   AppendWord(word);
+  slot = {word.hash, place + 1};
   if (listener_ != nullptr) listener_->OnNewWord(word.word, NumDifferentWords());
   return place;
 }
@@ -80,14 +87,20 @@ std::vector<std::int32_t> WordStore::TakeCounts() {
   return taken;
 }
 
+/// What needs memory comes first: where there is none, the store stays as it was.
 void WordStore::AppendWord(const KeyedWord& word) {
+  ReserveOneMore(counts_);
+  ReserveOneMore(included_);
+  FileTally tally;
+  if (files_.IsOn()) {
+    ReserveOneMore(tallies_);
+    tally.CountWordInFile(files_.CurrentFileNumber());
+  }
   letters_.PushBack({word.word, word.key, arena_});
   counts_.push_back(1);
   included_.push_back(1);
   ++occurrences_;
-  if (!files_.IsOn()) return;
-  tallies_.emplace_back();
-  tallies_.back().CountWordInFile(files_.CurrentFileNumber());
+  if (files_.IsOn()) tallies_.push_back(std::move(tally));
 }
 
 /// The slot that holds the word, or the free slot where it belongs.
@@ -124,10 +137,11 @@ void WordStore::SetSlots(std::size_t slots) {
 }
 
 void WordStore::GrowSlots() {
-  const std::vector<Slot> old = std::move(slots_);
-  SetSlots(old.size() * 2);
+  std::vector<Slot> grown(slots_.size() * 2);  // where there is no memory for it, all stays
+  grown.swap(slots_);
+  --slotShift_;
   const std::size_t mask = slots_.size() - 1;
-  for (const Slot& slot : old) {
+  for (const Slot& slot : grown) {
     if (slot.place == 0) continue;
     std::size_t i = slot.hash >> slotShift_;
     while (slots_[i].place != 0) i = (i + 1) & mask;

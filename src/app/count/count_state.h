@@ -34,10 +34,8 @@ struct CountState {
   /// How many threads may scan a large text at the same time; with 1 it is scanned by the caller's.
   std::size_t scanThreads = 1;
 
-  // The folder source: files counted or scanned in the pass that runs or ran last, and folders
-  // visited in it (the chosen one included); then both as they were in the last count.
-  std::int32_t filesInPass = 0;
-  std::int32_t foldersVisited = 1;
+  // The folder source: files scanned in the last count, and folders visited in it (the chosen one
+  // included).
   std::int32_t filesScanned = 0;
   std::int32_t foldersScanned = 0;
   /// Lines, ended with CR LF, about files and folders that the last count had to skip.

@@ -89,5 +89,22 @@ TEST_F(OutOfMemory, EndsTheFileAndNotTheFolder) {
   EXPECT_THAT(StoredWords(), testing::StartsWith("cat*2 "));
 }
 
+TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeTheWord) {
+  WordStore store;
+  std::int32_t added = 0;
+  CountWithLittleMemory([&] {
+    EXPECT_THROW(for (; added < 1'000'000; ++added) store.AddWord("w" + std::to_string(added)),
+                 std::bad_alloc);
+  });
+  EXPECT_EQ(store.NumDifferentWords(), added);
+  store.AddWord("zebra");
+  store.AddWord("zebra");
+  store.AddWord("w0");
+  EXPECT_EQ(store.NumDifferentWords(), added + 1);
+  EXPECT_EQ(store.At(1).Count, 2);
+  EXPECT_EQ(store.At(added + 1).Word, "zebra");
+  EXPECT_EQ(store.At(added + 1).Count, 2);
+}
+
 }  // namespace
 }  // namespace quillomat
