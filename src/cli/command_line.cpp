@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 #include <ostream>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "cli/answers.h"
 #include "cli/exit_status.h"
 #include "cli/help_formatter.h"
+#include "cli/standard_output.h"
 
 namespace quillomat {
 namespace {
@@ -29,15 +31,16 @@ constexpr const char* kFooter =
     "\n"
     "Formats: 0 rank frequency word, 1 rank word frequency, 2 rank frequency, 3 rank word,\n"
     "4 frequency rank, 5 frequency word, 6 word rank, 7 word frequency, 8 word, 9 word (+commas),\n"
-    "10 Zipf data; of a folder with count-only words also 11 word freq no.files,\n"
+    "10 Zipf data; of folders or several paths with count-only words also 11 word freq no.files,\n"
     "12 word file-list, 13 word file-list (+freq).\n"
     "\n"
     "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line,\n"
-    "130 interrupted (Ctrl+C), 143 asked to end; then every file is as it was.";
+    "130 interrupted (Ctrl+C), 143 asked to end; then every file is as it was, unless\n"
+    "--list-on-interrupt has a list made.";
 
 /// The headings of help, in their order.
 constexpr auto kHeadings = std::to_array<std::pair<OptionGroup, const char*>>(
-    {{OptionGroup::kTheText, "The text (one of the first three)"},
+    {{OptionGroup::kTheText, "The text, in place of PATH (one of the first three)"},
      {OptionGroup::kTheList, "The list"},
      {OptionGroup::kWhatAWordIs, "What a word is"},
      {OptionGroup::kWordsLeftOut, "Words that are left out"},
@@ -53,12 +56,16 @@ CLI::Option* AddValue(CLI::App& app, const char* name, Value& value, const char*
 }
 
 void DefineText(CLI::App& app, CommandLine& options) {
-  AddValue(app, "--file", options.file, "PATH", "Count the words of a text file");
+  app.add_option("PATH", options.paths,
+                 "Files, folders, and - for standard input: counted together, in the order given")
+      ->option_text("...");
+  AddValue(app, "--file", options.file, "PATH|-", "Count the words of a text file");
   AddValue(app, "--folder", options.folder, "PATH", "Count the words of a folder's files");
   AddValue(app, "--text", options.text, "PATH|-",
-           "Count the words of PATH, or of standard input for -, as a clipboard text");
+           "Count the words of PATH, or of standard input for -, as a clipboard text: in one piece "
+           "of 100,000 characters at most");
   app.add_flag("--list-files", options.listFiles,
-               "With --folder: list the files that would be read, and count nothing");
+               "With a folder: list the files that would be read, and count nothing");
 }
 
 void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>& set) {
@@ -71,11 +78,18 @@ void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>&
 }
 
 void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& answers) {
+  AddValue(app, "--top", options.top, "N", "List the first N words only, in the order asked for")
+      ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()));
   app.add_flag("--null", options.null,
                "End the lines of the list with a NUL byte: names of files may hold line breaks");
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
+  app.add_flag("--progress", options.progress,
+               "Show the progress on standard error, also where that is no terminal; on a terminal "
+               "it shows by itself when a count takes long");
+  app.add_flag("--list-on-interrupt", options.listOnInterrupt,
+               "On Ctrl+C list what was counted until then");
   AddValue(app, "--threads", options.threads, "N",
            "How many threads may scan a large text; one for every core if not given")
       ->check(CLI::Range(1U, kMostThreads));
@@ -179,22 +193,39 @@ void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& desc
   }
 }
 
+/// What the window shows, and lists of files, are not made by a count in the terminal.
+void CheckWindowText(const CommandLine& options) {
+  const auto forbid = [](bool given, const char* option, const char* others) {
+    if (given) throw CLI::ValidationError(option, std::string("does not go with ") + others);
+  };
+  if (options.windowText || options.listFiles) {
+    forbid(options.top.has_value(), "--top", "--window-text or --list-files");
+  }
+  if (options.windowText || options.listFiles || options.text) {
+    forbid(options.progress, "--progress", "--text, --window-text or --list-files");
+    forbid(options.listOnInterrupt, "--list-on-interrupt", "--text, --window-text or --list-files");
+  }
+}
+
 void CheckCombinations(const CommandLine& options) {
-  const int sources = static_cast<int>(options.file.has_value()) +
-                      static_cast<int>(options.folder.has_value()) +
-                      static_cast<int>(options.text.has_value());
+  const int sources =
+      static_cast<int>(!options.paths.empty()) + static_cast<int>(options.file.has_value()) +
+      static_cast<int>(options.folder.has_value()) + static_cast<int>(options.text.has_value());
   if (sources != 1) {
     throw CLI::ValidationError(sources == 0 ? "no text" : "more than one text",
-                               "give one of --file, --folder and --text");
+                               "give paths, or one of --file, --folder and --text");
   }
   const auto needsFolder = [&](bool given, const char* option) {
-    if (given && !options.folder) throw CLI::ValidationError(option, "goes with --folder");
+    if (given && (options.file || options.text)) {
+      throw CLI::ValidationError(option, "goes with a folder");
+    }
   };
   needsFolder(IsGiven(options, "--subfolders"), "--subfolders");
   needsFolder(options.listFiles, "--list-files");
   if (options.null && (options.windowText || options.listFiles)) {
     throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
   }
+  CheckWindowText(options);
   if (options.state && options.userSettings) {
     throw CLI::ValidationError("--state", "does not go with --user-settings");
   }
@@ -206,7 +237,7 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
                                    std::ostream& err) {
   ParsedCommandLine result;
   const auto fail = [&](const std::string& what) {
-    err << "quillomat-cli: " << OnOneLine(what) << " (see quillomat-cli --help)\n";
+    err << kOwnError << OnOneLine(what) << " (see quillomat-cli --help)\n";
     result.exitStatus = kWrongCommandLine;
   };
   // Most often a variable without a value; the library would take one for the end of all options.
@@ -216,11 +247,8 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
          " is empty; check what should stand there");
     return result;
   }
-  if (arguments.size() > 1 && !arguments[1].starts_with('-')) {
-    fail("'" + arguments[1] + "': give a file with --file, a folder with --folder");
-    return result;
-  }
   CLI::App app("Quillomat counts words: how often does each occur in a text?", "quillomat-cli");
+  app.allow_windows_style_options(false);  // "/a" is a path
   app.formatter(std::make_shared<HelpFormatter>());
   SettingOptions settings;
   std::vector<std::string> set;

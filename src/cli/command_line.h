@@ -1,6 +1,7 @@
 // The command line of quillomat-cli.
 #pragma once
 
+#include <cstdint>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -13,6 +14,9 @@ namespace quillomat {
 
 struct CommandLine {
   // The source: exactly one of them is given.
+  /// Files, folders, and "-" for standard input.
+  std::vector<std::string> paths;
+  /// A path, or "-" for standard input.
   std::optional<std::string> file;
   std::optional<std::string> folder;
   /// A path, or "-" for standard input.
@@ -21,6 +25,12 @@ struct CommandLine {
   bool listFiles = false;
   bool windowText = false;
   bool summary = false;
+  /// So many words of the list, from its start.
+  std::optional<std::int32_t> top;
+  /// Show the progress from the start, on a terminal or not.
+  bool progress = false;
+  /// List what was counted until the user interrupts the count.
+  bool listOnInterrupt = false;
   /// NUL bytes in place of the list's line ends.
   bool null = false;
   /// A state file to start from, and one to write the settings into.

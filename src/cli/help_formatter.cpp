@@ -31,10 +31,11 @@ std::string Wrapped(const std::string& text, std::size_t width) {
 
 HelpFormatter::HelpFormatter() {
   column_width(kNameWidth);
+  label("Positionals", "The text");
 }
 
-std::string HelpFormatter::make_option_name(const CLI::Option* option,
-                                            bool /*isPositional*/) const {
+std::string HelpFormatter::make_option_name(const CLI::Option* option, bool isPositional) const {
+  if (isPositional) return option->get_name(true, false);
   std::string names;
   for (const std::string& name : option->get_lnames()) {
     names.append(names.empty() ? "--" : ", --").append(name);

@@ -1,15 +1,20 @@
 // quillomat-cli: counts words from a terminal or a script.
 #include <exception>
 #include <iostream>
+#include <memory>
+#include <optional>
 #include <ostream>
 #include <sstream>
 #include <string>
+#include <utility>
 
 #include "base/text_helpers.h"
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
+#include "cli/standard_input.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_run.h"
+#include "cli/terminal_streams.h"
 #include "engine/kernel_choice.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
@@ -24,6 +29,14 @@ bool PrintHelp(const std::string& help, std::ostream& err) {
   return text.empty() || PrintToStandardOutput([&](ByteSink& out) { out.Write(text); }, err);
 }
 
+TerminalStreams StandardStreams(std::ostream& err, bool errIsTerminal) {
+  return {.openInput = [](ScanYield& yield) { return std::make_unique<StandardInput>(yield); },
+          .print = [&err](const auto& write) { return PrintToStandardOutput(write, err); },
+          .err = err,
+          .errIsTerminal = errIsTerminal,
+          .interruption = InterruptionStatus};
+}
+
 }  // namespace
 }  // namespace quillomat
 
@@ -31,18 +44,23 @@ int main(int argc, char** argv) {
   using namespace quillomat;
   try {
     LetDrivesBeEmpty();
-    const Interruption interruption;
+    std::optional<Interruption> interruption(std::in_place);
     const Terminal terminal;
-    EscapingBuffer escaping(*std::cerr.rdbuf());
-    std::ostream err(IsTerminal(StandardStream::kError) ? &escaping : std::cerr.rdbuf());
+    const bool errIsTerminal = IsTerminal(StandardStream::kError);
+    EscapingBuffer escaping(*std::cerr.rdbuf(), ShowsColours(StandardStream::kError));
+    std::ostream err(errIsTerminal ? &escaping : std::cerr.rdbuf());
     std::ostringstream help;
     const ParsedCommandLine parsed = ParseCommandLine(ProgramArguments(argc, argv), help, err);
     if (parsed.exitStatus) return PrintHelp(help.str(), err) ? *parsed.exitStatus : kRunFailed;
     if (const std::string fault = KernelFault(); !fault.empty()) {
-      err << "quillomat-cli: " << fault << '\n';
+      err << kOwnError << fault << '\n';
       return kWrongCommandLine;
     }
-    return RunInTerminal(parsed.options, err);
+    if (parsed.options.listOnInterrupt) {
+      interruption.reset();
+      interruption.emplace(Interruption::First::kIsNoted);
+    }
+    return RunInTerminal(parsed.options, StandardStreams(err, errIsTerminal));
   } catch (const std::exception& error) {
     std::cerr << "quillomat-cli: unexpected failure: " << error.what() << '\n';
     return kRunFailed;

@@ -1,22 +1,27 @@
-// The program's standard input, as bytes.
+// The program's standard input, as bytes: from where it stands, as they come.
 #pragma once
 
 #include <cstddef>
-#include <cstdio>
 #include <span>
 
 #include "base/byte_source.h"
-#include "base/run_time_error.h"
+#include "engine/word_scanner.h"
+#include "sources/read_sources.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 
 class StandardInput final : public ByteSource {
  public:
-  std::size_t Read(std::span<char> buffer) override {
-    const std::size_t bytes = std::fread(buffer.data(), 1, buffer.size(), stdin);
-    if (bytes == 0 && std::ferror(stdin) != 0) throw RunTimeError(RunTimeErrorNumber::kDeviceIo);
-    return bytes;
-  }
+  /// While nothing comes it asks `yield`, which outlives it, whether to go on.
+  explicit StandardInput(ScanYield& yield)
+      : file_(InputFile::StandardInput()), source_(file_, yield) {}
+
+  std::size_t Read(std::span<char> buffer) override { return source_.Read(buffer); }
+
+ private:
+  InputFile file_;
+  PatientSource source_;
 };
 
 }  // namespace quillomat

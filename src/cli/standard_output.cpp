@@ -37,7 +37,7 @@ bool PrintToStandardOutput(const std::function<void(ByteSink&)>& write, std::ost
   } catch (const ReaderGone&) {
     return false;
   } catch (const RunTimeError& error) {
-    err << "quillomat-cli: standard output: " << error.Description() << '\n';
+    err << kOwnError << "standard output: " << error.Description() << '\n';
     return false;
   }
 }
@@ -54,6 +54,21 @@ EscapingBuffer::int_type EscapingBuffer::overflow(int_type character) {
     return traits_type::not_eof(character);
   const char ch = traits_type::to_char_type(character);
   return xsputn(&ch, 1) == 1 ? character : traits_type::eof();
+}
+
+void WriteUnescaped(std::ostream& out, std::string_view text) {
+  const auto* const escaping = dynamic_cast<EscapingBuffer*>(out.rdbuf());
+  std::streambuf& target = escaping != nullptr ? escaping->Target() : *out.rdbuf();
+  target.sputn(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+std::ostream& operator<<(std::ostream& err, const Headed& headed) {
+  const auto* const escaping = dynamic_cast<EscapingBuffer*>(err.rdbuf());
+  if (escaping == nullptr || !escaping->IsColoured()) return err << headed.head;
+  WriteUnescaped(err, headed.tone == MessageTone::kError ? "\x1B[1;31m" : "\x1B[1;33m");
+  err << headed.head;
+  WriteUnescaped(err, "\x1B[0m");
+  return err;
 }
 
 }  // namespace quillomat

@@ -5,6 +5,7 @@
 #include <functional>
 #include <iosfwd>
 #include <streambuf>
+#include <string_view>
 
 #include "base/byte_sink.h"
 
@@ -18,8 +19,12 @@ namespace quillomat {
 /// Passes everything on to `target`, escaped for a terminal.
 class EscapingBuffer final : public std::streambuf {
  public:
-  /// `target` must outlive the buffer.
-  explicit EscapingBuffer(std::streambuf& target) : target_(target) {}
+  /// `target` must outlive the buffer. `coloured`: the terminal shows colours.
+  explicit EscapingBuffer(std::streambuf& target, bool coloured = false)
+      : target_(target), coloured_(coloured) {}
+
+  [[nodiscard]] std::streambuf& Target() const { return target_; }
+  [[nodiscard]] bool IsColoured() const { return coloured_; }
 
  protected:
   std::streamsize xsputn(const char* text, std::streamsize bytes) override;
@@ -28,6 +33,22 @@ class EscapingBuffer final : public std::streambuf {
 
  private:
   std::streambuf& target_;
+  bool coloured_;
 };
+
+/// Writes what is meant for the terminal itself; a stream that does not escape gets it as it is.
+void WriteUnescaped(std::ostream& out, std::string_view text);
+
+enum class MessageTone { kError, kWarning };
+
+/// The beginning of a message, in the colour of its tone where `err` shows colours.
+struct Headed {
+  MessageTone tone = MessageTone::kError;
+  std::string_view head;
+};
+std::ostream& operator<<(std::ostream& err, const Headed& headed);
+
+/// What the program's own errors begin with.
+inline constexpr Headed kOwnError{MessageTone::kError, "quillomat-cli: "};
 
 }  // namespace quillomat

@@ -5,6 +5,7 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
+#include "cli/standard_output.h"
 #include "system/locale_info.h"
 
 namespace quillomat {
@@ -47,9 +48,15 @@ std::optional<std::string> TerminalDesktop::AnswerTo(const std::string& title) c
   return found->second;
 }
 
-void TerminalDesktop::PrintMessage(const std::string& title, const std::string& text) {
-  const std::string line = (title.empty() ? "Quillomat" : title) + ": " + OnOneLine(text) + '\n';
-  if (printed_.insert(line).second) err_ << line;
+void TerminalDesktop::PrintMessage(const MessageBox& box) {
+  const std::string head = (box.title.empty() ? "Quillomat" : box.title) + ": ";
+  const std::string text = OnOneLine(box.text) + '\n';
+  if (!printed_.insert(head + text).second) return;
+  if (box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical) {
+    err_ << Headed{IsAdvice(box.title) ? MessageTone::kWarning : MessageTone::kError, head} << text;
+  } else {
+    err_ << head << text;
+  }
 }
 
 MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
@@ -57,7 +64,7 @@ MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
   const bool refusal = box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical;
   if (refusal && !question && !IsAdvice(box.title)) problemShown_ = true;
   const std::optional<std::string> word = AnswerTo(box.title);
-  if (!question) PrintMessage(box.title, box.text);
+  if (!question) PrintMessage(box);
   if (!word) return AnswerByRule(box.buttons);
   const MessageAnswer answer = AnswerOfWord(*word, box.buttons);
   if (question && (answer == MessageAnswer::kCancel || answer == MessageAnswer::kNo)) {
@@ -71,8 +78,8 @@ std::string TerminalDesktop::AskForText(const InputBox& box) {
   const std::string lower = LowerCase(word);
   if (lower == "ok") return box.defaultAnswer;
   if (lower != "cancel") return word;
-  err_ << box.title << ": " << OnOneLine(box.defaultAnswer) << " is left as it is (--answer '"
-       << box.title << "=OK' overwrites it)\n";
+  err_ << Headed{MessageTone::kError, box.title + ": "} << OnOneLine(box.defaultAnswer)
+       << " is left as it is (--answer '" << box.title << "=OK' overwrites it)\n";
   problemShown_ = true;
   return {};
 }

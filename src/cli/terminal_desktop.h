@@ -59,7 +59,7 @@ class TerminalDesktop final : public Desktop {
 
  private:
   [[nodiscard]] std::optional<std::string> AnswerTo(const std::string& title) const;
-  void PrintMessage(const std::string& title, const std::string& text);
+  void PrintMessage(const MessageBox& box);
 
   std::ostream& err_;
   Answers answers_;

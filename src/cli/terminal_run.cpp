@@ -1,7 +1,5 @@
 #include "cli/terminal_run.h"
 
-#include <cstdio>
-#include <iostream>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -14,24 +12,29 @@
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
+#include "base/utf8.h"
+#include "cli/direct_count.h"
 #include "cli/exit_status.h"
+#include "cli/input_choice.h"
 #include "cli/setting_options.h"
-#include "cli/standard_input.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
+#include "sources/count_observer.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
 
 namespace quillomat {
 namespace {
 
-/// Where the system has such a name it leads to the file that standard input comes from.
-constexpr const char* kStandardInputPath = "/dev/stdin";
-
 class TerminalRun {
  public:
-  TerminalRun(const CommandLine& options, std::ostream& err)
-      : options_(options), err_(err), desktop_(err, options.answers), program_(desktop_) {}
+  TerminalRun(const CommandLine& options, const TerminalStreams& streams)
+      : options_(options),
+        streams_(streams),
+        err_(streams.err),
+        input_(InputOf(options)),
+        desktop_(err_, options.answers),
+        program_(desktop_) {}
 
   int Run() {
     if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
@@ -41,12 +44,15 @@ class TerminalRun {
     if (!ApplyChoices()) return kWrongCommandLine;
     if (!CheckInput() || !ChooseSource()) return kRunFailed;
     if (!TakeEffect() || !SaveState()) return kRunFailed;
-    return options_.listFiles ? ListFiles() : Count();
+    if (options_.listFiles) return ListFiles();
+    const int status = Count();
+    const int interruption = streams_.interruption();
+    return interruption != 0 ? interruption : status;
   }
 
  private:
   bool Fail(const std::string& what) {
-    err_ << "quillomat-cli: " << what << '\n';
+    err_ << kOwnError << what << '\n';
     return false;
   }
 
@@ -87,54 +93,42 @@ class TerminalRun {
     return !fault || Fail(OnOneLine(*fault));
   }
 
-  /// Says more about an input that cannot be read than the window would.
   bool CheckInput() {
-    if (options_.folder) return CheckFolder(*options_.folder);
-    const std::string& path = options_.file ? *options_.file : *options_.text;
-    if (options_.text && path == "-") return true;
-    if (path.empty()) return Fail("--file or --text: the path is empty");
-    if (FolderExists(path)) return Fail(path + " is a folder; count its files with --folder");
-    if (!FileExists(path)) return Fail(path + " does not exist; check the path");
-    try {
-      const InputFile file(path);
-    } catch (const RunTimeError& error) {
-      return Fail(path + " cannot be read: " + error.Description() + "; check its permissions");
+    if (const auto fault = FindInputFault(input_)) return Fail(*fault);
+    if (options_.listFiles && input_.kind != InputChoice::Kind::kFolder) {
+      return Fail("--list-files goes with one folder; " + input_.Name() + " is none");
     }
-    if (options_.file && !FileLength(path)) {
-      return Fail(path + " is no regular file; count what comes from a pipe with --text -");
-    }
-    if (options_.file && FileLength(path) == 0) {
-      return Fail(path + " is empty; there is nothing to count");
+    const bool windowCounts = input_.kind != InputChoice::Kind::kPaths || input_.paths.size() == 1;
+    const bool readsInput = !options_.text && IsStandardInput(input_.paths.front());
+    if (options_.windowText && (!windowCounts || readsInput)) {
+      return Fail("--window-text goes with one file or folder, or with --text");
     }
     return true;
-  }
-
-  bool CheckFolder(const std::string& path) {
-    if (FolderExists(path)) return true;
-    if (FileExists(path)) return Fail(path + " is a file; count it with --file");
-    return Fail(path + " does not exist; check the path");
   }
 
   bool ChooseSource() {
     MainForm& frmMain = program_.frmMain;
-    if (options_.folder) {
-      frmMain.txbFolder.SetText(*options_.folder);
-      frmMain.optFolder.SetValue(true);
-    } else if (options_.file) {
-      frmMain.txbFile[0].SetText(*options_.file);
-      frmMain.optInFile.SetValue(true);
-    } else {
-      frmMain.optOnClipboard.SetValue(true);
-      return FillClipboard(*options_.text);
+    const std::string& path = input_.paths.front();
+    switch (input_.kind) {
+      case InputChoice::Kind::kFolder:
+        frmMain.txbFolder.SetText(path);
+        frmMain.optFolder.SetValue(true);
+        return true;
+      case InputChoice::Kind::kClipboard:
+        frmMain.optOnClipboard.SetValue(true);
+        return FillClipboard(path);
+      default:
+        frmMain.txbFile[0].SetText(path);
+        frmMain.optInFile.SetValue(true);
+        return true;
     }
-    return true;
   }
 
   bool FillClipboard(const std::string& path) {
     try {
-      if (path == "-") {
-        StandardInput input;
-        TakeAsClipboard(input);
+      if (IsStandardInput(path)) {
+        CountObserver nobody;
+        TakeAsClipboard(*streams_.openInput(nobody));
         program_.state.filesRead.clipboardText = kStandardInputPath;
       } else {
         InputFile input(path);
@@ -153,6 +147,7 @@ class TerminalRun {
     constexpr std::size_t kMarkBytes = 3;
     StartOfSource start(input, kMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
     std::string text = DecodeText(start);
+    clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
 
@@ -179,12 +174,11 @@ class TerminalRun {
   int Count() {
     program_.lister.SetTextBoxWanted(options_.windowText);
     if (options_.null) program_.lister.SetFileLineBreak(std::string(1, '\0'));
-    if (!program_.lister.CheckDisplayFormat()) return kRunFailed;
+    if (options_.top) program_.lister.SetMostWordsInFile(*options_.top);
+    if (!FormatIsServed()) return kRunFailed;
     const bool toFile = HasOutputFile();
-    program_.frmMain.cmdCountWords.PerformClick();
-    PrintSkipped();
+    const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
     if (options_.summary) PrintSummary();
-    const bool made = program_.countRun.ListWasMade();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
       const bool failed = desktop_.ProblemShown() && !program_.output.IsFull();
@@ -198,6 +192,35 @@ class TerminalRun {
     return printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
   }
 
+  /// Several paths are served like a folder.
+  bool FormatIsServed() {
+    const bool likeFolder =
+        input_.kind == InputChoice::Kind::kPaths && program_.state.lists.HasCountOnlyWords();
+    return (likeFolder && !options_.windowText) || program_.lister.CheckDisplayFormat();
+  }
+
+  /// True when a list was made.
+  bool CountInWindow() {
+    program_.frmMain.cmdCountWords.PerformClick();
+    PrintSkipped();
+    if (clipboardIsTooLong_) {
+      Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
+    }
+    return program_.countRun.ListWasMade();
+  }
+
+  bool CountDirectly() {
+    // Paths in lists are relative to the folder that is counted, not to one that a state names.
+    if (input_.kind != InputChoice::Kind::kFolder) program_.frmMain.txbFolder.SetText("");
+    DirectCount count(program_, options_, input_, streams_);
+    if (!count.Run()) {
+      fault_ = count.Fault();
+      return false;
+    }
+    program_.lister.ListWords();
+    return program_.state.totals.NumIncludedWords > 0;
+  }
+
   /// Whether the list goes to a file, by --output, a state or a setting.
   bool HasOutputFile() const {
     return !program_.frmMain.txbFile[1].Text().empty() &&
@@ -206,7 +229,8 @@ class TerminalRun {
 
   void PrintSkipped() {
     for (const SkippedItem& item : program_.countRun.Folder().Skipped()) {
-      err_ << "Skipped: " << item.path << ": " << item.reason << '\n';
+      err_ << Headed{MessageTone::kWarning, "Skipped: "} << item.path << ": " << item.reason
+           << '\n';
     }
   }
 
@@ -214,19 +238,15 @@ class TerminalRun {
   void TellWhyThereIsNoList() {
     const std::string& denial = desktop_.Denial();
     const std::string& shown = program_.frmMain.txbOutput.Text();
-    if (!denial.empty()) {
+    if (!fault_.empty()) {
+      Fail(fault_);
+    } else if (!denial.empty()) {
       Fail("cancelled by --answer '" + denial + "'; there is no list");
     } else if (!shown.empty() && !desktop_.ProblemShown()) {
       Fail(OnOneLine(shown));
     } else {
-      Fail("there is no list of " + InputName());
+      Fail("there is no list of " + input_.Name());
     }
-  }
-
-  [[nodiscard]] std::string InputName() const {
-    if (options_.folder) return *options_.folder;
-    if (options_.file) return *options_.file;
-    return *options_.text == "-" ? "standard input" : *options_.text;
   }
 
   void PrintSummary() {
@@ -240,25 +260,30 @@ class TerminalRun {
   }
 
   bool PrintList() {
-    return PrintToStandardOutput([this](ByteSink& out) { program_.lister.WriteList(out); }, err_);
+    return streams_.print([this](ByteSink& out) { program_.lister.WriteList(out); });
   }
 
   bool PrintWindowText() {
     std::string text = ReplaceAll(program_.frmMain.txbOutput.Text(), kCrLf, kPlatformLineBreak);
     if (!text.ends_with('\n')) text.append(kPlatformLineBreak);
-    return PrintToStandardOutput([&text](ByteSink& out) { out.Write(text); }, err_);
+    return streams_.print([&text](ByteSink& out) { out.Write(text); });
   }
 
   const CommandLine& options_;
+  const TerminalStreams& streams_;
   std::ostream& err_;
+  InputChoice input_;
   TerminalDesktop desktop_;
+  bool clipboardIsTooLong_ = false;
+  /// Why the count gave no words.
+  std::string fault_;
   Program program_;
 };
 
 }  // namespace
 
-int RunInTerminal(const CommandLine& options, std::ostream& err) {
-  return TerminalRun(options, err).Run();
+int RunInTerminal(const CommandLine& options, const TerminalStreams& streams) {
+  return TerminalRun(options, streams).Run();
 }
 
 }  // namespace quillomat

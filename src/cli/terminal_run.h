@@ -1,15 +1,13 @@
-// One run of quillomat-cli: sets the controls as the command line says, clicks the command, and
-// prints what came of it.
+// One run of quillomat-cli: sets the controls as the command line says, counts, and prints what
+// came of it.
 #pragma once
 
-#include <iosfwd>
-
 #include "cli/command_line.h"
+#include "cli/terminal_streams.h"
 
 namespace quillomat {
 
-/// Returns the exit status. The list goes to the process's standard output, all else to the
-/// streams.
-[[nodiscard]] int RunInTerminal(const CommandLine& options, std::ostream& err);
+/// Returns the exit status.
+[[nodiscard]] int RunInTerminal(const CommandLine& options, const TerminalStreams& streams);
 
 }  // namespace quillomat

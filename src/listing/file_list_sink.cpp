@@ -24,14 +24,15 @@ void FileListSink::TakeHeader(std::string_view line) {
 }
 
 bool FileListSink::TakeWord(std::int32_t index, std::string_view line) {
+  const bool isLast = ++wordsTaken_ == mostWords_;
   block_.append(line);
   if (!runsOn_) {
     block_.append(lineBreak_);
-  } else if (index < numDifferentWords_) {
+  } else if (index < numDifferentWords_ && !isLast) {
     block_.append(", ");
   }
   WriteWhenFull();
-  return !stopTest_();
+  return !isLast && !stopTest_();
 }
 
 void FileListSink::WriteWhenFull() {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,9 @@ class FileListSink final : public ListSink {
   FileListSink(Writer writer, StopTest stopTest, const LineOptions& options,
                std::int32_t numDifferentWords);
 
+  /// Ends the list after so many words.
+  void TakeAtMost(std::int32_t words) { mostWords_ = words; }
+
   void TakeHeader(std::string_view line) override;
   bool TakeWord(std::int32_t index, std::string_view line) override;
   /// Writes what has gathered. Must be called at the end of the list.
@@ -35,6 +39,8 @@ class FileListSink final : public ListSink {
   bool runsOn_;
   std::string lineBreak_;
   std::int32_t numDifferentWords_;
+  std::int32_t mostWords_ = std::numeric_limits<std::int32_t>::max();
+  std::int32_t wordsTaken_ = 0;
   std::string block_;
 };
 

@@ -84,16 +84,12 @@ class SourceCheck {
                : Refusal::kNone;
   }
   [[nodiscard]] Refusal OutputIn(const TextOfPaths& source) const {
-    for (const std::string& path : source.paths) {
-      if (outputPath_.empty()) break;
-      if (FolderExists(path)) {
-        const Refusal refusal = OutputIn(TextOfFolder{path, source.subfolders, {}});
-        if (refusal != Refusal::kNone) return refusal;
-      } else if (IsNeeded({CountedText::Source::kFile, path})) {
-        return Refusal::kIsOutput;
-      }
-    }
-    return Refusal::kNone;
+    if (outputPath_.empty()) return Refusal::kNone;
+    const auto neededAs = WhyNotToWrite(outputPath_, {.source = CountedText::Source::kPaths,
+                                                      .withSubfolders = source.subfolders,
+                                                      .paths = source.paths});
+    if (!neededAs) return Refusal::kNone;
+    return *neededAs == NeededAs::kPartOfFolder ? Refusal::kOutputInFolder : Refusal::kIsOutput;
   }
   template <typename Source>
   [[nodiscard]] Refusal OutputIn(const Source& /*single*/) const {

@@ -6,6 +6,19 @@
 #include "system/links.h"
 
 namespace quillomat {
+namespace {
+
+std::optional<NeededAs> WhyNotToWriteForAny(const std::string& path, const CountedText& text) {
+  for (const std::string& counted : text.paths) {
+    const auto source =
+        FolderExists(counted) ? CountedText::Source::kFolder : CountedText::Source::kFile;
+    const auto neededAs = WhyNotToWrite(path, CountedText{source, counted, text.withSubfolders});
+    if (neededAs) return neededAs;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
 
 std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText& text) {
   switch (text.source) {
@@ -15,6 +28,8 @@ std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText
     case CountedText::Source::kFolder:
       if (LiesInFolder(path, text.path, text.withSubfolders)) return NeededAs::kPartOfFolder;
       break;
+    case CountedText::Source::kPaths:
+      return WhyNotToWriteForAny(path, text);
     default:
       break;
   }

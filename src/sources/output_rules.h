@@ -7,17 +7,20 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quillomat {
 
 /// Where a count gets its text.
 struct CountedText {
-  enum class Source : std::uint8_t { kNone, kClipboard, kFile, kFolder };
+  enum class Source : std::uint8_t { kNone, kClipboard, kFile, kFolder, kPaths };
 
   Source source = Source::kNone;
   /// Of the file or the folder.
   std::string path = {};
   bool withSubfolders = false;
+  /// Of files and folders that are counted together.
+  std::vector<std::string> paths = {};
 };
 
 /// The files that were read besides the text; "" for none.

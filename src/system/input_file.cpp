@@ -5,8 +5,7 @@
 
 namespace quillomat {
 
-InputFile::InputFile(const std::string& path)
-    : file_(NativeFile::OpenForReading(path)), length_(file_.Length()) {}
+InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForReading(path)) {}
 
 std::size_t InputFile::Read(std::span<char> buffer) {
   if (aheadStart_ == ahead_.size()) return ReadFile(buffer);

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/byte_source.h"
 #include "system/native_file.h"
@@ -17,6 +18,9 @@ class InputFile final : public ByteSource {
   /// Throws RunTimeError 53 when there is no such file, 76 when there is not even its folder, 70
   /// when it may not be read, 75 when it is a folder, and others as the system has it.
   explicit InputFile(const std::string& path);
+
+  /// The program's standard input, from where it stands now.
+  [[nodiscard]] static InputFile StandardInput() { return InputFile(NativeFile::StandardInput()); }
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
@@ -34,6 +38,8 @@ class InputFile final : public ByteSource {
   [[nodiscard]] std::string_view Ahead(std::size_t bytes);
 
  private:
+  explicit InputFile(NativeFile file) : file_(std::move(file)), length_(file_.Length()) {}
+
   std::size_t ReadFile(std::span<char> buffer);
 
   NativeFile file_;

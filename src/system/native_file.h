@@ -36,6 +36,8 @@ class NativeFile {
                                                                  const std::string& path);
   /// A second handle to the program's standard output, which closing this one leaves open.
   [[nodiscard]] static NativeFile StandardOutput();
+  /// The same of standard input.
+  [[nodiscard]] static NativeFile StandardInput();
 
   NativeFile(const NativeFile&) = delete;
   NativeFile& operator=(const NativeFile&) = delete;

@@ -28,6 +28,10 @@ enum class StandardStream { kOutput, kError };
 /// Whether a person sees what goes there, and no file or pipe takes it.
 [[nodiscard]] bool IsTerminal(StandardStream stream);
 
+/// Whether what goes there may be coloured: a terminal that understands it, and a person who has
+/// not asked for none (NO_COLOR).
+[[nodiscard]] bool ShowsColours(StandardStream stream);
+
 /// The arguments of `main` as UTF-8 (plain bytes where paths are those), the program's name first.
 [[nodiscard]] std::vector<std::string> ProgramArguments(int argc, const char* const* argv);
 

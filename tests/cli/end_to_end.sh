@@ -121,7 +121,7 @@ check "an empty path" 2 --file ""
 holds err "argument 2 is empty"
 check "an empty argument" 2 --file cat.txt '' --output list.txt
 holds err "argument 3 is empty"
-check "a path without an option" 2 cat.txt
+check "a path without an option" 0 cat.txt
 holds err "--file"
 check "the input is not overwritten by a state" 1 --file cat.txt --save-state cat.txt
 holds cat.txt "well-known"

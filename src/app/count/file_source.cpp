@@ -13,6 +13,7 @@ namespace quillomat {
 namespace {
 
 constexpr std::int64_t kLargeFileBytes = 200'000;
+constexpr std::string_view kInvalidInputFile = "Invalid input file";
 
 /// `amount` with two decimals.
 std::string TwoDecimals(double amount) {
@@ -45,6 +46,17 @@ std::string FileSizeText(std::int64_t bytes, std::string_view separator) {
   const double amount =
       static_cast<double>(bytes) / static_cast<double>(kilobytes ? kKilobyte : kMegabyte);
   return "Filesize: " + TwoDecimals(amount) + (kilobytes ? " KB" : " MB");
+}
+
+void TellNotText(const RunContext& context) {
+  const std::string lineBreak(kCrLf);
+  Tell(context,
+       "The input file contains bytes indicating that it does not consist" + lineBreak +
+           "solely of text." + lineBreak + lineBreak +
+           "You could try reading the file using its associated application," + lineBreak +
+           "copying the text to the clipboard, and specifying the clipboard" + lineBreak +
+           "as the source of the text to be scanned.",
+       std::string(kInvalidInputFile), MessageIcon::kInformation);
 }
 
 ScanFileResult FileSource::ScanFile() {
@@ -120,17 +132,10 @@ bool FileSource::AskAboutLargeFile() {
 }
 
 ScanFileResult FileSource::TellRefusal(Refusal refusal) const {
-  const std::string title = "Invalid input file";
-  const std::string lineBreak(kCrLf);
+  const std::string title(kInvalidInputFile);
   switch (refusal) {
     case Refusal::kNotText:
-      Tell(context_,
-           "The input file contains bytes indicating that it does not consist" + lineBreak +
-               "solely of text." + lineBreak + lineBreak +
-               "You could try reading the file using its associated application," + lineBreak +
-               "copying the text to the clipboard, and specifying the clipboard" + lineBreak +
-               "as the source of the text to be scanned.",
-           title, MessageIcon::kInformation);
+      TellNotText(context_);
       return ScanFileResult::kNotText;
     case Refusal::kEmpty:
       Refuse(context_, "This is a zero-length file.", title);

@@ -77,6 +77,9 @@ class FileSource {
   std::optional<RunTimeError> error_;
 };
 
+/// Tells the user that a file is no text.
+void TellNotText(const RunContext& context);
+
 /// "Filesize: 4.20 MB".
 [[nodiscard]] std::string FileSizeText(std::int64_t bytes, std::string_view separator);
 

@@ -35,6 +35,17 @@ void WriteSkipped(const RunContext& context, const SkippedFile& skipped) {
   context.output.OutputToTxb(" (skipped: " + ReasonText(skipped) + ")");
 }
 
+bool AskAboutManyFiles(const RunContext& context, std::int32_t files,
+                       const std::string& outputPath) {
+  if (files <= 1 || !outputPath.empty()) return true;
+  const MessageAnswer answer = context.desktop.ShowMessage(
+      {"When scanning multiple files or folders" + std::string(kCrLf) +
+           "you must specify an output file in case" + std::string(kCrLf) +
+           "the text window will not hold the result.",
+       "Multiple files/folders", MessageIcon::kQuestion, MessageButtons::kOkCancel});
+  return answer != MessageAnswer::kCancel;
+}
+
 FolderObserver::FilesInTurn::FilesInTurn(const RunContext& context, FileSource& fileSource)
     : frmMain_(context.frmMain),
       fileSource_(fileSource),
@@ -76,13 +87,8 @@ void FolderObserver::OnFileCounted(std::int32_t files, std::int32_t /*folders*/)
 
 /// False when the user cancels the run.
 bool FolderObserver::GoOn(std::int32_t files, std::int32_t /*folders*/, std::string& outputPath) {
+  if (!AskAboutManyFiles(Context(), files, outputPath)) return false;
   if (files > 1 && outputPath.empty()) {
-    const MessageAnswer answer = Context().desktop.ShowMessage(
-        {"When scanning multiple files or folders" + std::string(kCrLf) +
-             "you must specify an output file in case" + std::string(kCrLf) +
-             "the text window will not hold the result.",
-         "Multiple files/folders", MessageIcon::kQuestion, MessageButtons::kOkCancel});
-    if (answer == MessageAnswer::kCancel) return false;
     fileSource_.ChooseOutputFile();
     outputPath = Context().frmMain.txbFile[1].Text();
   }

@@ -23,6 +23,10 @@ void WritePathLine(const RunContext& context, const std::string& path);
 /// Writes behind it that it was skipped.
 void WriteSkipped(const RunContext& context, const SkippedFile& skipped);
 
+/// Asks whether so many files shall be counted without an output file; false when the user cancels.
+[[nodiscard]] bool AskAboutManyFiles(const RunContext& context, std::int32_t files,
+                                     const std::string& outputPath);
+
 class FolderObserver final : public WindowObserver {
  public:
   FolderObserver(const RunContext& context, FileSource& fileSource);

@@ -170,6 +170,7 @@ void WordLister::WriteList(ByteSink& file) {
   FileListSink sink([&file](std::string_view bytes) { file.Write(bytes); },
                     [this] { return StopsNow(); }, formatter.Options(),
                     state_.store.NumDifferentWords());
+  if (mostWordsInFile_) sink.TakeAtMost(*mostWordsInFile_);
   Walk(formatter, sink);
   sink.Flush();
 }

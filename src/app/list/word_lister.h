@@ -2,6 +2,8 @@
 // box. Runs at the end of a count, and again whenever the user changes the order or the format.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -42,6 +44,9 @@ class WordLister {
   /// What ends the lines of a list that goes to a file or to standard output; the platform's line
   /// break if not set.
   void SetFileLineBreak(std::string lineBreak) { fileLineBreak_ = std::move(lineBreak); }
+
+  /// How many words a list that goes to a file or to standard output may have; all if not set.
+  void SetMostWordsInFile(std::int32_t words) { mostWordsInFile_ = words; }
 
   /// Writes the list into a file that is open; the caller closes it, unless the list was stopped.
   /// Throws RunTimeError.
@@ -105,6 +110,7 @@ class WordLister {
   bool changingFormat_ = false;
   bool textBoxWanted_ = true;
   std::string fileLineBreak_{kPlatformLineBreak};
+  std::optional<std::int32_t> mostWordsInFile_;
 };
 
 }  // namespace quillomat

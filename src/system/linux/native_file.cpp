@@ -43,6 +43,12 @@ struct Opened {
   mode_t mode = 0;
 };
 
+int SecondDescriptor(int stream) {
+  const int descriptor = fcntl(stream, F_DUPFD_CLOEXEC, 0);
+  if (descriptor < 0) ThrowErrno(errno, FileAction::kTransfer);
+  return descriptor;
+}
+
 /// Opens without waiting for the other end of a pipe; reads and writes do wait.
 Opened Open(const std::string& path, int flags, FileAction action) {
   if (NamesNothing(path)) ThrowErrno(ENOENT, action, path);
@@ -166,9 +172,11 @@ std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
 }
 
 NativeFile NativeFile::StandardOutput() {
-  const int descriptor = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
-  if (descriptor < 0) ThrowErrno(errno, FileAction::kTransfer);
-  return NativeFile(descriptor);
+  return NativeFile(SecondDescriptor(STDOUT_FILENO));
+}
+
+NativeFile NativeFile::StandardInput() {
+  return NativeFile(SecondDescriptor(STDIN_FILENO));
 }
 
 std::int64_t NativeFile::Length() const {

@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "system/environment.h"
+
 namespace quillomat {
 
 // Streams are bytes here, and the terminal says itself which encoding it shows.
@@ -18,6 +20,11 @@ Terminal::~Terminal() = default;
 
 bool IsTerminal(StandardStream stream) {
   return isatty(stream == StandardStream::kOutput ? STDOUT_FILENO : STDERR_FILENO) == 1;
+}
+
+bool ShowsColours(StandardStream stream) {
+  return IsTerminal(stream) && !EnvironmentVariable("NO_COLOR") &&
+         EnvironmentVariable("TERM").value_or("dumb") != "dumb";
 }
 
 std::vector<std::string> ProgramArguments(int argc, const char* const* argv) {

@@ -49,6 +49,15 @@ std::intptr_t Open(const std::string& path, DWORD access, DWORD share, DWORD cre
   return reinterpret_cast<std::intptr_t>(handle);
 }
 
+std::intptr_t SecondHandle(DWORD stream) {
+  HANDLE handle = nullptr;
+  if (DuplicateHandle(GetCurrentProcess(), GetStdHandle(stream), GetCurrentProcess(), &handle, 0,
+                      FALSE, DUPLICATE_SAME_ACCESS) == 0) {
+    ThrowError(GetLastError(), FileAction::kTransfer);
+  }
+  return reinterpret_cast<std::intptr_t>(handle);
+}
+
 }  // namespace
 
 NativeFile NativeFile::OpenForReading(const std::string& path) {
@@ -91,12 +100,11 @@ std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
 }
 
 NativeFile NativeFile::StandardOutput() {
-  HANDLE handle = nullptr;
-  if (DuplicateHandle(GetCurrentProcess(), GetStdHandle(STD_OUTPUT_HANDLE), GetCurrentProcess(),
-                      &handle, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0) {
-    ThrowError(GetLastError(), FileAction::kTransfer);
-  }
-  return NativeFile(reinterpret_cast<std::intptr_t>(handle));
+  return NativeFile(SecondHandle(STD_OUTPUT_HANDLE));
+}
+
+NativeFile NativeFile::StandardInput() {
+  return NativeFile(SecondHandle(STD_INPUT_HANDLE));
 }
 
 std::int64_t NativeFile::Length() const {

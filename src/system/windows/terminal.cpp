@@ -10,6 +10,7 @@
 #include <shellapi.h>
 // clang-format on
 
+#include "system/environment.h"
 #include "system/windows/wide_text.h"
 
 namespace quillomat {
@@ -18,6 +19,10 @@ namespace {
 struct LocalMemoryFreer {
   void operator()(wchar_t** memory) const { LocalFree(memory); }
 };
+
+HANDLE HandleOf(StandardStream stream) {
+  return GetStdHandle(stream == StandardStream::kOutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+}
 
 }  // namespace
 
@@ -36,9 +41,15 @@ Terminal::~Terminal() {
 
 bool IsTerminal(StandardStream stream) {
   DWORD mode = 0;
-  return GetConsoleMode(
-             GetStdHandle(stream == StandardStream::kOutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE),
-             &mode) != 0;
+  return GetConsoleMode(HandleOf(stream), &mode) != 0;
+}
+
+// A console has to be told to.
+bool ShowsColours(StandardStream stream) {
+  DWORD mode = 0;
+  HANDLE const console = HandleOf(stream);
+  return GetConsoleMode(console, &mode) != 0 && !EnvironmentVariable("NO_COLOR") &&
+         SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
 // Those of `main` have lost every character that the system's old encoding does not know.

@@ -1,0 +1,203 @@
+#include "cli/direct_count.h"
+
+#include <algorithm>
+#include <ostream>
+#include <utility>
+
+#include "app/count/comment_marker_check.h"
+#include "app/count/file_source.h"
+#include "app/count/folder_observer.h"
+#include "app/count/window_count.h"
+#include "app/list/summary.h"
+#include "cli/standard_output.h"
+#include "sources/counter.h"
+#include "system/file_system.h"
+
+namespace quillomat {
+namespace {
+
+using Kind = InputChoice::Kind;
+
+/// What is wrong with a text, behind its name.
+std::string ReasonNotCounted(Refusal reason, const std::optional<RunTimeError>& error) {
+  const std::string description = error ? ": " + error->Description() : "";
+  switch (reason) {
+    case Refusal::kIsFolder:
+      return "is a folder";
+    case Refusal::kNotFound:
+    case Refusal::kFolderNotFound:
+      return "does not exist; check the path";
+    case Refusal::kNotText:
+      return "does not consist solely of text; convert it to text first";
+    case Refusal::kEmpty:
+      return "is empty; there is nothing to count";
+    case Refusal::kFolderHasNoFiles:
+      return "contains no files";
+    case Refusal::kIsOutput:
+      return "is the output file";
+    case Refusal::kOutputInFolder:
+      return "holds the output file";
+    default:
+      return "cannot be read" + description;
+  }
+}
+
+}  // namespace
+
+bool DirectCount::Run() {
+  if (!Prepare()) return false;
+  CountWatch watch(streams_, ProgressWanted(), input_);
+  if (input_.kind == Kind::kFolder) {
+    watch.SetQuestion([this](std::int32_t files) {
+      return AskAboutManyFiles(program_.context, files, program_.frmMain.txbFile[1].Text());
+    });
+  }
+  const CountRequest request = Request(watch);
+  CountResult result = Counter(request, watch).Run();
+  watch.EndProgress();
+  TellSkipped(watch);
+  if (!HasWords(result, watch)) return false;
+  if (result.end == CountEnd::kStopped) {
+    streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
+                 << "the list is of what was counted until then\n";
+  }
+  result.Rank(request.filters);
+  Take(std::move(result));
+  return true;
+}
+
+/// As the window does before a count.
+bool DirectCount::Prepare() {
+  if (!program_.wordLists.TakeBoxes()) return false;
+  const bool subfolders = program_.frmMain.chkIncludeSubfolders.IsChecked();
+  if (!program_.lister.MayWriteOutputFile(input_.AsText(subfolders))) return false;
+  const bool markers = program_.frmParams.chkAllowCommentMarkers.IsChecked();
+  if (markers && !CheckCommentMarkers(program_.context)) return false;
+  FileExtensions& extensions = program_.countRun.Extensions();
+  return extensions.TakeBoxes() && extensions.CheckFileExtensions();
+}
+
+CountRequest DirectCount::Request(CountWatch& watch) {
+  CountRequest request = RequestFromControls(program_.context, Source(watch));
+  if (input_.kind == Kind::kFolder) request.countingPass = CountingPass::kFiles;
+  const bool progress = ProgressWanted() != CountWatch::Progress::kNever;
+  if (progress && SizeCanBeKnown()) request.countingPass = CountingPass::kFilesAndBytes;
+  // Whoever asks for no files shall not meet the limit of what can be counted in one.
+  const auto format = static_cast<DisplayFormat>(program_.frmMain.cboDisplayFormat.ListIndex());
+  request.tallyFiles = input_.kind == Kind::kFolder || NeedsFileTallies(format);
+  return request;
+}
+
+CountSource DirectCount::Source(CountWatch& watch) {
+  const bool readsInput =
+      input_.kind != Kind::kFolder && std::ranges::any_of(input_.paths, IsStandardInput);
+  if (readsInput) standardInput_ = streams_.openInput(watch);
+  const std::string& path = input_.paths.front();
+  const bool subfolders = program_.frmMain.chkIncludeSubfolders.IsChecked();
+  const ExtensionFilter& extensions = program_.countRun.Extensions().Filter();
+  switch (input_.kind) {
+    case Kind::kFolder:
+      return TextOfFolder{path, subfolders, extensions};
+    case Kind::kPaths:
+      return TextOfPaths{input_.paths, subfolders, extensions, standardInput_.get()};
+    default:
+      if (readsInput) return TextOfStream{standardInput_.get(), NameOf(path)};
+      return TextOfFile{path};
+  }
+}
+
+/// Nobody knows how much will come from a pipe.
+bool DirectCount::SizeCanBeKnown() const {
+  if (input_.kind == Kind::kFile) return false;  // it is known without a pass
+  return std::ranges::all_of(input_.paths, [this](const std::string& path) {
+    if (input_.kind == Kind::kFolder) return true;
+    return !IsStandardInput(path) && (FolderExists(path) || FileLength(path));
+  });
+}
+
+CountWatch::Progress DirectCount::ProgressWanted() const {
+  if (options_.progress) return CountWatch::Progress::kAlways;
+  return streams_.errIsTerminal ? CountWatch::Progress::kWhenLong : CountWatch::Progress::kNever;
+}
+
+/// A text that was the only one is told of by HasWords.
+void DirectCount::TellSkipped(const CountWatch& watch) const {
+  if (input_.kind != Kind::kFolder && input_.paths.size() == 1) return;
+  constexpr Headed kSkipped{MessageTone::kWarning, "Skipped: "};
+  for (const SkippedFile& skipped : watch.Skipped()) {
+    if (input_.IsNamed(skipped.path)) {
+      streams_.err << kSkipped << NameOf(skipped.path) << " "
+                   << ReasonNotCounted(skipped.reason, skipped.error) << '\n';
+    } else {
+      streams_.err << kSkipped << skipped.path << ": " << ReasonText(skipped) << '\n';
+    }
+  }
+  const auto kept = static_cast<std::int64_t>(watch.Skipped().size());
+  if (watch.SkippedInAll() > kept) {
+    streams_.err << kSkipped << watch.SkippedInAll() - kept << " more\n";
+  }
+}
+
+bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {
+  switch (result.end) {
+    case CountEnd::kRefused:
+      return Refuse(result.refusal, result.error);
+    case CountEnd::kFailed:
+      if (IsOutOfMemory(*result.error)) {
+        program_.lister.ReportOutOfMemory(input_.Name());
+      } else {
+        program_.lister.ReportProblem(result.error->Number(), result.error->Description());
+      }
+      return false;
+    case CountEnd::kStoppedCounting:
+      fault_ = "interrupted before anything was read";
+      return false;
+    case CountEnd::kStopped:
+      return true;
+    case CountEnd::kComplete:
+      break;
+  }
+  if (result.files > 0) return true;
+  const std::vector<SkippedFile>& skipped = watch.Skipped();
+  if (input_.paths.size() == 1 && input_.kind == Kind::kPaths && !skipped.empty()) {
+    return Refuse(skipped.front().reason, skipped.front().error);
+  }
+  fault_ = NoFilesText();
+  return false;
+}
+
+/// False, since there are no words.
+bool DirectCount::Refuse(Refusal reason, const std::optional<RunTimeError>& error) {
+  if (reason == Refusal::kNotText) {
+    TellNotText(program_.context);
+  } else if (reason != Refusal::kDeclined) {
+    fault_ = input_.Name() + " " + ReasonNotCounted(reason, error);
+  }
+  return false;
+}
+
+std::string DirectCount::NoFilesText() const {
+  std::string text = "no scanable files ";
+  if (program_.countRun.Extensions().Filter().AnyGiven()) text.append("of the specified type ");
+  text.append("were found in ").append(input_.Name());
+  if (program_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
+  return text;
+}
+
+void DirectCount::Take(CountResult result) const {
+  CountState& state = program_.state;
+  state.DiscardWords();
+  state.counted = input_.AsText(program_.frmMain.chkIncludeSubfolders.IsChecked());
+  state.store = std::move(result.store);
+  state.totals = result.totals;
+  state.ranking = std::move(result.ranking);
+  state.WordsRead = result.wordsRead;
+  state.settings.CountOnlyMode = result.countOnlyMode;
+  state.filesScanned = result.files;
+  state.foldersScanned = result.folders;
+  state.completeRun = result.end == CountEnd::kComplete;
+  state.listAfterStop = !state.completeRun;
+  ShowSummary(program_.frmMain, state, program_.context.desktop.DigitGroupSeparator());
+}
+
+}  // namespace quillomat
