@@ -81,6 +81,25 @@ TEST(CommandLine, TakesANumberOfThreads) {
   ExpectWrong({"--file", "a", "--threads", "two"}, "--threads");
 }
 
+TEST(CommandLine, TakesPathsInTheirOrder) {
+  const Parsed parsed = Parse({"b.txt", "--top", "3", "-", "a", "--", "--odd"});
+  ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;
+  EXPECT_THAT(parsed.result.options.paths, testing::ElementsAre("b.txt", "-", "a", "--odd"));
+  EXPECT_EQ(parsed.result.options.top, 3);
+  ExpectWrong({"a", "--file", "b"}, "more than one text");
+  ExpectWrong({"a", "--top", "0"}, "--top");
+  EXPECT_FALSE(Parse({"a", "--subfolders"}).result.exitStatus);
+}
+
+TEST(CommandLine, WhatACountInTheWindowCannotDoIsRefused) {
+  ExpectWrong({"a", "--top", "3", "--window-text"}, "--top");
+  ExpectWrong({"a", "--progress", "--window-text"}, "--progress");
+  ExpectWrong({"--text", "a", "--list-on-interrupt"}, "--list-on-interrupt");
+  const Parsed parsed = Parse({"a", "--progress", "--list-on-interrupt"});
+  EXPECT_TRUE(parsed.result.options.progress);
+  EXPECT_TRUE(parsed.result.options.listOnInterrupt);
+}
+
 TEST(CommandLine, DashIsStandardInput) {
   const Parsed parsed = Parse({"--text", "-"});
   ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;

@@ -116,13 +116,91 @@ check "a list without words is none" 1 --file numbers.txt
 lines err 1
 check "a format needs its source" 1 --file cat.txt --format "word file-list"
 holds err "only when the source of the text is a folder"
-check "a pipe is no file" 1 --file /dev/stdin
+check "a device without bytes is empty" 1 --file /dev/stdin
+holds err "/dev/stdin is empty"
 check "an empty path" 2 --file ""
 holds err "argument 2 is empty"
 check "an empty argument" 2 --file cat.txt '' --output list.txt
 holds err "argument 3 is empty"
-check "a path without an option" 0 cat.txt
+check "no path" 2
 holds err "--file"
+
+# Paths, pipes and standard input.
+check "a path needs no option" 0 cat.txt --format 7
+holds out "  cat             3"
+check "several paths are counted together" 0 cat.txt folder numbers.txt --format 7
+holds out "  the             7"
+check "in the order given" 0 folder/two.md cat.txt --only-words the --format 12
+printf '\nthe\n    folder/two.md\n    cat.txt\n\n' | cmp -s - out || { echo "FAILED $name"; od -c out; failed=1; }
+check "a folder by its option" 0 --folder "$work/folder" --only-words the --format 12
+holds out "{Folder}"
+cp out folder.list
+check "a single folder is shown as one" 0 "$work/folder" --only-words the --format 12
+cmp -s folder.list out || { echo "FAILED $name"; cat out; failed=1; }
+check "a path that is missing stops all" 1 cat.txt missing.txt
+holds err "missing.txt does not exist"
+lines out 0
+check "an empty file among others is named" 0 cat.txt empty.txt --format 8
+holds err "Skipped: empty.txt is empty"
+check "an output file is not among the paths" 1 folder cat.txt --output cat.txt --overwrite
+holds err "The output file cannot be the same as the input file."
+check "--list-files wants a folder" 1 cat.txt --list-files
+holds err "--list-files goes with one folder"
+check "the window shows one text" 1 cat.txt folder --window-text
+holds err "--window-text"
+same() { # NAME ARGUMENT...: reads what stands ready and makes the list of cat.txt
+  name=$1
+  shift
+  "$program" "$@" >out 2>err || { echo "FAILED $name: exit status $?"; cat err; failed=1; }
+  cmp -s wanted.list out || { echo "FAILED $name"; cat out; failed=1; }
+}
+"$program" --file cat.txt >wanted.list
+same "a pipe" - <cat.txt
+cat cat.txt | same "a pipe with --file" --file -
+cat cat.txt | same "a pipe by its name" --file /dev/stdin
+(cat cat.txt) | same "a pipe among paths" empty.txt -
+mkfifo fifo.txt
+cat cat.txt >fifo.txt &
+same "a named pipe" fifo.txt
+cat cat.txt >fifo.txt &
+same "a named pipe with --file" --file fifo.txt
+wait
+check "nothing on standard input" 1 -
+holds err "standard input is empty"
+printf 'a\001b' | "$program" - >out 2>err && { echo "FAILED: no text on standard input"; failed=1; }
+holds err "standard input"
+cp cat.txt piped.txt
+"$program" - --output piped.txt --overwrite <piped.txt 2>err && { echo "FAILED: input overwritten"; failed=1; }
+cmp -s cat.txt piped.txt || { echo "FAILED: standard input was overwritten"; failed=1; }
+
+# The start of a list.
+check "the first words" 0 --file cat.txt --top 2 --format 8
+lines out 3
+check "the first words of a list that runs on" 0 --file cat.txt --top 2 --format 9 --order alphabetical
+[ "$(cat out)" = "a, and" ] || { echo "FAILED $name"; cat out; failed=1; }
+check "the first words in a file" 0 --file cat.txt --top 2 --format 8 --output top.txt
+lines top.txt 3
+check "more words than there are" 0 --file cat.txt --top 100 --format 8
+lines out 7
+
+# Progress and interruptions.
+check "no progress where nobody looks" 0 --file cat.txt
+lines err 0
+check "progress on demand" 0 --file cat.txt --progress
+interrupt() { # NAME STATUS [ARGUMENT...]: sends INT while the program waits for more
+  name=$1
+  wanted=$2
+  shift 2
+  { cat cat.txt; head -c 100000 /dev/zero | tr '\000' 'x'; echo; sleep 2; } |
+    timeout --foreground --preserve-status -s INT 1 "$program" - "$@" >out 2>err
+  status=$?
+  [ "$status" -eq "$wanted" ] || { echo "FAILED $name: exit status $status"; cat err; failed=1; }
+}
+interrupt "an interruption leaves no list" 130
+lines out 0
+interrupt "an interruption with a list" 130 --list-on-interrupt --format 7
+holds out "  cat "
+holds err "Interrupted: "
 check "the input is not overwritten by a state" 1 --file cat.txt --save-state cat.txt
 holds cat.txt "well-known"
 printf 'dog\rcat\r' >mac.txt
@@ -243,6 +321,7 @@ if [ -e /dev/zero ]; then
   holds err "Too much clipboard text: There are more than 100,000 characters in the text on the clipboard. The maximum permitted is 100,000."
   yes | limited "standard input without an end" --text -
   holds err "There are more than 100,000 characters"
+  holds err "quillomat-cli -"
   limited "a state without an end" --file cat.txt --state /dev/zero
   holds err "/dev/zero cannot be used as a state: a line of it is longer than 16,777,216 bytes"
   limited "words without an end" --file cat.txt --set 'txbWordsFile(0)=/dev/zero'

@@ -12,5 +12,8 @@ for option in $options; do
   grep -qF -- "*$option[" "$2/zsh/_quillomat-cli" || { echo "zsh: no $option"; failed=1; }
   grep -qF -- " -l ${option#--} " "$2/fish/quillomat-cli.fish" || { echo "fish: no $option"; failed=1; }
 done
+grep -qF 'fIPATH\fR...' "$2/man/quillomat-cli.1" || { echo "no PATH... in the manual"; failed=1; }
+"$1" --help | grep -qF 'quillomat-cli [OPTIONS] [PATH...]' || { echo "no PATH... in the help"; failed=1; }
+grep -qF '*:file:_files' "$2/zsh/_quillomat-cli" || { echo "zsh: no paths"; failed=1; }
 bash -n "$2/bash/quillomat-cli" || failed=1
 exit "$failed"

@@ -62,6 +62,23 @@ TEST_F(ListInAFile, WithoutTheLastRecordEveryWordHasItsComma) {
   EXPECT_EQ(FileList(WordOrder::kAlphabetical), "ant, cat, ");
 }
 
+TEST_F(ListInAFile, MayBeTheStartOfAListOnly) {
+  Add("ant");
+  Add("cat");
+  Add("zebra");
+  Finish();
+  for (const DisplayFormat format : {DisplayFormat::kWord, DisplayFormat::kWordCommas}) {
+    options.format = format;
+    options.lineBreak = "\n";
+    const LineFormatter formatter(Counted(), options);
+    FileListSink sink(Writer(), Never(), options, store.NumDifferentWords());
+    sink.TakeAtMost(2);
+    EXPECT_FALSE(ListAlphabetical(Counted(), formatter, sink)) << "nothing more is wanted";
+    sink.Flush();
+  }
+  EXPECT_THAT(written, testing::ElementsAre("ant\ncat\n", "ant, cat"));
+}
+
 TEST_F(ListInAFile, ColumnsWithCommasCanBeReadByOthers) {
   Add("the", 2);
   Add("cat");

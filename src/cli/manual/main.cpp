@@ -28,10 +28,17 @@ std::string ForManual(std::string text) {
 void WriteManual(std::ostream& out) {
   out << ".TH QUILLOMAT\\-CLI 1 \"\" \"Quillomat " << VersionText() << "\" \"User Commands\"\n"
       << ".SH NAME\nquillomat\\-cli \\- count how often each word occurs in a text\n"
-      << ".SH SYNOPSIS\n.B quillomat\\-cli\n[\\fIOPTION\\fR]...\n"
+      << ".SH SYNOPSIS\n.B quillomat\\-cli\n[\\fIOPTION\\fR]... \\fIPATH\\fR...\n.br\n"
+         ".B quillomat\\-cli\n[\\fIOPTION\\fR]... "
+         "(\\fB\\-\\-file\\fR|\\fB\\-\\-folder\\fR|\\fB\\-\\-text\\fR) \\fIPATH\\fR\n"
       << ".SH DESCRIPTION\n"
       << "Splits a text into words under rules of your choice, counts them, and prints the list on "
-         "standard output. Messages go to standard error.\n"
+         "standard output. Messages go to standard error.\n.PP\n"
+         "\\fIPATH\\fRs are files, folders, pipes, and \\fB\\-\\fR for standard input. Each is "
+         "read "
+         "once, as it comes, whatever its size; several are counted together, in the order given. "
+         "A "
+         "file whose name begins with a hyphen is given after \\fB\\-\\-\\fR.\n"
       << ".SH OPTIONS\n";
   for (const OptionDescription& option : DescribeOptions()) {
     out << ".TP\n\\fB" << ForManual(option.name) << "\\fR";
@@ -43,7 +50,7 @@ void WriteManual(std::ostream& out) {
       << ".SH ENVIRONMENT\n.TP\n\\fBQUILLOMAT_DATA\\fR\nThe folder of the data files, where it is "
          "not the one that was installed.\n"
       << ".TP\n\\fBXDG_CONFIG_HOME\\fR\nWhere the user's settings are; \\fI~/.config\\fR if not "
-         "set.\n"
+         "set.\n.TP\n\\fBNO_COLOR\\fR\nIf set, messages on a terminal have no colours.\n"
       << ".SH SEE ALSO\n.BR quillomat (1)\n";
 }
 

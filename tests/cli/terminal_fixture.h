@@ -1,0 +1,79 @@
+// A run in the terminal with streams of the test's own.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/text_helpers.h"
+#include "cli/command_line.h"
+#include "cli/terminal_run.h"
+#include "support/chunked_source.h"
+#include "support/temporary_folder.h"
+
+namespace quillomat {
+
+class TerminalFixture : public testing::Test {
+ protected:
+  /// Returns the exit status. What was printed is in `out`, with a line feed for each line end, and
+  /// in `err`.
+  int Run(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "quillomat-cli");
+    out.clear();
+    std::ostringstream messages;
+    const ParsedCommandLine parsed = ParseCommandLine(arguments, messages, messages);
+    const int status =
+        parsed.exitStatus ? *parsed.exitStatus : RunInTerminal(parsed.options, Streams(messages));
+    out = ReplaceAll(out, kPlatformLineBreak, "\n");
+    err = messages.str();
+    return status;
+  }
+
+  TemporaryFolder folder;
+  /// What stands ready on standard input.
+  std::string input;
+  bool errIsTerminal = false;
+  std::function<int()> interruption = [] { return 0; };
+  std::chrono::milliseconds stepPerLook{0};
+  std::string out;
+  std::string err;
+
+ private:
+  class StringSink final : public ByteSink {
+   public:
+    explicit StringSink(std::string& target) : target_(target) {}
+    void Write(std::string_view bytes) override { target_.append(bytes); }
+
+   private:
+    std::string& target_;
+  };
+
+  static constexpr std::size_t kChunkBytes = 1000;
+
+  TerminalStreams Streams(std::ostream& messages) {
+    return {.openInput =
+                [this](ScanYield& /*yield*/) {
+                  return std::make_unique<ChunkedSource>(input, kChunkBytes);
+                },
+            .print =
+                [this](const auto& write) {
+                  StringSink sink(out);
+                  write(sink);
+                  return true;
+                },
+            .err = messages,
+            .errIsTerminal = errIsTerminal,
+            .interruption = [this] { return interruption(); },
+            .clock = [this] { return now_ += stepPerLook; }};
+  }
+
+  std::chrono::steady_clock::time_point now_;
+};
+
+}  // namespace quillomat

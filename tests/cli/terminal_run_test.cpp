@@ -1,0 +1,193 @@
+#include "cli/terminal_run.h"
+
+#include <gmock/gmock.h>
+#include <sstream>
+
+#include "cli/standard_output.h"
+#include "cli/terminal_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class TerminalRunTest : public TerminalFixture {
+ protected:
+  /// More than one look at the clock, and at the wish to stop.
+  static std::string LongText() {
+    std::string text;
+    for (int i = 0; i < 20'000; ++i) text.append("cat dog bird\n");
+    return text;
+  }
+};
+
+TEST_F(TerminalRunTest, StandardInputIsCountedLikeAFile) {
+  input = "cat dog\nThe caf\xC3\xA9 -- a well-known cat\n" + LongText();
+  const std::string path = folder.Write("book.txt", input);
+  ASSERT_EQ(Run({"--file", path}), 0) << err;
+  const std::string list = out;
+  EXPECT_THAT(list, HasSubstr("20002  cat"));
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"-"}, {"--file", "-"}, {path}}) {
+    EXPECT_EQ(Run(arguments), 0) << err;
+    EXPECT_EQ(out, list) << arguments.front();
+    EXPECT_EQ(err, "");
+  }
+}
+
+TEST_F(TerminalRunTest, FilesFoldersAndStandardInputAreCountedTogether) {
+  input = "cat";
+  static_cast<void>(folder.Write("many/b.txt", "cat dog"));
+  const std::string path = folder.Write("a.txt", "bird");
+  EXPECT_EQ(Run({path, folder / "many", "-", "--format", "word frequency"}), 0) << err;
+  EXPECT_EQ(out, "  Word     Freq\n  cat         2\n  bird        1\n  dog         1\n");
+}
+
+TEST_F(TerminalRunTest, PathsServeTheFormatsThatNameFiles) {
+  input = "cat";
+  const std::string path = folder.Write("a.txt", "cat cat");
+  EXPECT_EQ(Run({path, "-", "--only-words", "cat", "--format", "13"}), 0) << err;
+  EXPECT_EQ(out, "\ncat\n    2 " + path + "\n    1 -\n\n");
+  EXPECT_EQ(Run({path, "--only-words", "cat", "--format", "11"}), 0) << err;
+  EXPECT_EQ(Run({path, "--format", "13"}), 1);
+  EXPECT_THAT(err, HasSubstr("Invalid display format: "));
+  EXPECT_EQ(Run({"--file", path, "--only-words", "cat", "--format", "13"}), 1);
+}
+
+TEST_F(TerminalRunTest, APathOfAFolderIsThatFolder) {
+  static_cast<void>(folder.Write("many/a.txt", "cat"));
+  const std::vector<std::string> format = {"--only-words", "cat", "--format", "12"};
+  std::vector<std::string> byOption = {"--folder", folder / "many"};
+  byOption.insert(byOption.end(), format.begin(), format.end());
+  ASSERT_EQ(Run(byOption), 0) << err;
+  const std::string list = out;
+  EXPECT_THAT(list, HasSubstr("{Folder}"));
+  std::vector<std::string> byPath = {folder / "many"};
+  byPath.insert(byPath.end(), format.begin(), format.end());
+  EXPECT_EQ(Run(byPath), 0) << err;
+  EXPECT_EQ(out, list);
+}
+
+TEST_F(TerminalRunTest, TheExtensionsOfASettingAreForFilesOfFolders) {
+  static_cast<void>(folder.Write("many/a.txt", "cat"));
+  static_cast<void>(folder.Write("many/b.md", "dog"));
+  const std::string named = folder.Write("c.md", "bird");
+  EXPECT_EQ(Run({folder / "many", named, "--only-extensions", "txt", "--format", "word"}), 0);
+  EXPECT_THAT(out, testing::EndsWith("\nbird\ncat\n"));
+  EXPECT_EQ(Run({folder / "many", "--only-extensions", "pdx"}), 1);
+  EXPECT_THAT(err, HasSubstr("no scanable files of the specified type were found in "));
+}
+
+TEST_F(TerminalRunTest, APathThatIsMissingStopsAll) {
+  const std::string path = folder.Write("a.txt", "bird");
+  EXPECT_EQ(Run({path, folder / "missing.txt"}), 1);
+  EXPECT_EQ(err, "quillomat-cli: " + folder / "missing.txt" + " does not exist; check the path\n");
+  EXPECT_EQ(out, "");
+}
+
+TEST_F(TerminalRunTest, WhatIsNamedAndHoldsNoTextIsTold) {
+  const std::string path = folder.Write("a.txt", "bird");
+  const std::string empty = folder.Write("empty.txt", "");
+  const std::string binary = folder.Write("binary.txt", std::string("a\1b", 3));
+  static_cast<void>(folder.Write("many/too.txt", "a\1b"));
+  EXPECT_EQ(Run({path, empty, binary, folder / "many"}), 0);
+  EXPECT_EQ(err, "Skipped: " + empty + " is empty; there is nothing to count\nSkipped: " + binary +
+                     " does not consist solely of text; convert it to text first\n");
+}
+
+TEST_F(TerminalRunTest, ASingleTextThatCannotBeCountedIsNamed) {
+  EXPECT_EQ(Run({"-"}), 1);
+  EXPECT_EQ(err, "quillomat-cli: standard input is empty; there is nothing to count\n");
+  input = std::string("a\1b", 3);
+  EXPECT_EQ(Run({"-"}), 1);
+  EXPECT_THAT(err, StartsWith("Invalid input file: "));
+  EXPECT_THAT(err, HasSubstr("quillomat-cli: there is no list of standard input\n"));
+  input = "123";
+  EXPECT_EQ(Run({"-"}), 1);
+  EXPECT_THAT(err, HasSubstr("No words"));
+}
+
+TEST_F(TerminalRunTest, NoFileThatIsCountedIsWrittenOver) {
+  const std::string path = folder.Write("a.txt", "bird");
+  const std::string inFolder = folder.Write("many/b.txt", "cat");
+  for (const std::string& output : {path, inFolder, folder / "many/new.txt"}) {
+    EXPECT_EQ(Run({path, folder / "many", "--output", output, "--overwrite"}), 1) << output;
+    EXPECT_THAT(err, HasSubstr("The output file cannot be "));
+  }
+  EXPECT_EQ(ContentsOf(path) + ContentsOf(inFolder), "birdcat");
+}
+
+TEST_F(TerminalRunTest, TheFirstWordsAreListedOnly) {
+  input = "ant ant ant owl owl eel";
+  EXPECT_EQ(Run({"-", "--top", "2", "--format", "word"}), 0);
+  EXPECT_EQ(out, "Word (longest has 3 characters)\nant\nowl\n");
+  EXPECT_EQ(Run({"-", "--top", "2", "--format", "9"}), 0);
+  EXPECT_EQ(out, "ant, owl");
+  const std::string list = folder / "list.txt";
+  EXPECT_EQ(Run({"-", "--top", "1", "--format", "7", "--output", list}), 0) << err;
+  EXPECT_EQ(TextOf(list), "  Word     Freq\n  ant         3\n");
+}
+
+TEST_F(TerminalRunTest, ATextThatIsTooLongForTheClipboardIsAPath) {
+  input = LongText();
+  EXPECT_EQ(Run({"--text", "-"}), 1);
+  EXPECT_THAT(err, HasSubstr("Too much clipboard text: "));
+  EXPECT_THAT(err, HasSubstr("quillomat-cli: a text of any size is counted as a path: "
+                             "quillomat-cli -\n"));
+}
+
+TEST_F(TerminalRunTest, AnInterruptionListsWhatWasCounted) {
+  input = LongText();
+  int looks = 0;
+  interruption = [&looks] { return ++looks > 3 ? 130 : 0; };
+  EXPECT_EQ(Run({"-", "--list-on-interrupt", "--format", "word"}), 130);
+  EXPECT_THAT(out, HasSubstr("cat\n"));
+  EXPECT_THAT(err, HasSubstr("Interrupted: "));
+}
+
+TEST_F(TerminalRunTest, ProgressShowsOnATerminalWhenACountIsLong) {
+  input = LongText();
+  EXPECT_EQ(Run({"-"}), 0);
+  EXPECT_EQ(err, "");
+  stepPerLook = std::chrono::milliseconds(600);
+  EXPECT_EQ(Run({"-"}), 0);
+  EXPECT_EQ(err, "") << "nobody looks";
+  errIsTerminal = true;
+  EXPECT_EQ(Run({"-"}), 0);
+  EXPECT_THAT(err, HasSubstr("/s  0:0"));
+  EXPECT_THAT(err, testing::EndsWith(" \r")) << "the line is empty at the end";
+  stepPerLook = std::chrono::milliseconds(0);
+  EXPECT_EQ(Run({"-"}), 0);
+  EXPECT_EQ(err, "") << "it was not long";
+}
+
+TEST_F(TerminalRunTest, ProgressOfFilesHasABar) {
+  const std::string path = folder.Write("a.txt", LongText());
+  stepPerLook = std::chrono::milliseconds(600);
+  for (const std::vector<std::string>& text :
+       {std::vector<std::string>{"--file", path}, {path}, {folder.Path()}}) {
+    std::vector<std::string> arguments = text;
+    arguments.emplace_back("--progress");
+    EXPECT_EQ(Run(arguments), 0);
+    EXPECT_THAT(err, StartsWith("[")) << text.front();
+    EXPECT_THAT(err, HasSubstr(" of 260 kB  ")) << text.front();
+    EXPECT_THAT(err, HasSubstr(" left\n")) << text.front();
+  }
+}
+
+TEST(MessageColours, AreForTerminalsThatShowThem) {
+  std::stringbuf plain;
+  std::ostream(&plain) << kOwnError << "no\n";
+  EXPECT_EQ(plain.str(), "quillomat-cli: no\n");
+  for (const bool coloured : {false, true}) {
+    std::stringbuf target;
+    EscapingBuffer buffer(target, coloured);
+    std::ostream(&buffer) << kOwnError << "\x1B[2m\n";
+    EXPECT_EQ(target.str(), coloured ? "\x1B[1;31mquillomat-cli: \x1B[0m\\x1B[2m\n"
+                                     : "quillomat-cli: \\x1B[2m\n");
+  }
+}
+
+}  // namespace
+}  // namespace quillomat
