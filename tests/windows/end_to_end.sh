@@ -88,7 +88,8 @@ holds() {
 }
 holds "a missing file" 1 'missing.txt does not exist' --file missing.txt
 holds "a folder is no file" 1 'shelf is a folder' --file shelf
-holds "a wrong command line" 2 '--file' book.txt
+holds "a wrong command line" 2 '--bogus' book.txt --bogus
+counts "a path without an option" book.txt
 on_windows --file book.txt --output NUL
 [ "$status" -eq 0 ] || fail "the null device takes no list"
 
