@@ -206,7 +206,7 @@ constexpr auto kTable = std::to_array<Setting>({
                             "List on standard output, although a state names an output file"))),
     OnMainWindow(Box("chkIncludeSubfolders", {108, 410}, 0, kRescan,
                      Switch(kTheText, "--subfolders", "--no-subfolders",
-                            "With --folder: the folders below it, too"))),
+                            "Of a folder: the folders below it, too"))),
     OnMainWindow(List("cboWordOrder", 413, 0,
                       Choice(kTheList, "--order", "ORDER", kOrderChoices,
                              "frequency (the default) or alphabetical"))),

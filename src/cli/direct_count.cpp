@@ -33,10 +33,6 @@ std::string ReasonNotCounted(Refusal reason, const std::optional<RunTimeError>& 
       return "is empty; there is nothing to count";
     case Refusal::kFolderHasNoFiles:
       return "contains no files";
-    case Refusal::kIsOutput:
-      return "is the output file";
-    case Refusal::kOutputInFolder:
-      return "holds the output file";
     default:
       return "cannot be read" + description;
   }

@@ -187,6 +187,7 @@ lines out 7
 check "no progress where nobody looks" 0 --file cat.txt
 lines err 0
 check "progress on demand" 0 --file cat.txt --progress
+holds err "] 100%"
 interrupt() { # NAME STATUS [ARGUMENT...]: sends INT while the program waits for more
   name=$1
   wanted=$2
