@@ -8,6 +8,8 @@ need_packages $(packages_of build) $(packages_of windows) $(packages_of windows-
 here=$root/packaging/windows
 qt=$("$here/build-qt.sh" | tail -n 1)
 build=$root/build/windows-release
+QUILLOMAT_XLSX=$("$here/build-xlsx.sh" | tail -n 1)
+export QUILLOMAT_XLSX
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 mkdir -p "$build"
 

@@ -13,6 +13,7 @@
 #include "base/version.h"
 #include "cli/answers.h"
 #include "cli/exit_status.h"
+#include "cli/export_options.h"
 #include "cli/help_formatter.h"
 #include "cli/standard_output.h"
 
@@ -66,6 +67,15 @@ void DefineText(CLI::App& app, CommandLine& options) {
            "of 100,000 characters at most");
   app.add_flag("--list-files", options.listFiles,
                "With a folder: list the files that would be read, and count nothing");
+}
+
+void DefineExports(CLI::App& app, CommandLine& options) {
+  AddValue(app, "--export", options.exports, "FILE",
+           "Write the words as a table, too: csv, tsv, xlsx, html, md, json or jsonl, by the "
+           "ending; may be repeated");
+  AddValue(app, "--columns", options.columns, "LIST",
+           "Columns of --export: rank, word, frequency, percent, per-million, cumulative, length, "
+           "files; with file a row for every file that a word occurs in");
 }
 
 void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>& set) {
@@ -149,6 +159,7 @@ void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings
     if (group == OptionGroup::kTheText) DefineText(app, options);
     if (group == OptionGroup::kStates) DefineStates(app, options, set);
     settings.Define(app, group);
+    if (group == OptionGroup::kTheList) DefineExports(app, options);
   }
   app.option_defaults()->group(kRunHeading);
   DefineRun(app, options, answers);
@@ -200,6 +211,7 @@ void CheckWindowText(const CommandLine& options) {
   };
   if (options.windowText || options.listFiles) {
     forbid(options.top.has_value(), "--top", "--window-text or --list-files");
+    forbid(!options.exports.empty(), "--export", "--window-text or --list-files");
   }
   if (options.windowText || options.listFiles || options.text) {
     forbid(options.progress, "--progress", "--text, --window-text or --list-files");
@@ -226,6 +238,7 @@ void CheckCombinations(const CommandLine& options) {
     throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
   }
   CheckWindowText(options);
+  if (const auto fault = FindExportFault(options)) throw CLI::ValidationError(*fault);
   if (options.state && options.userSettings) {
     throw CLI::ValidationError("--state", "does not go with --user-settings");
   }

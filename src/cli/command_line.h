@@ -27,6 +27,10 @@ struct CommandLine {
   bool summary = false;
   /// So many words of the list, from its start.
   std::optional<std::int32_t> top;
+  /// Files to export to; each has an ending that is a format's.
+  std::vector<std::string> exports;
+  /// Columns of the exports, with blanks or commas between them.
+  std::optional<std::string> columns;
   /// Show the progress from the start, on a terminal or not.
   bool progress = false;
   /// List what was counted until the user interrupts the count.

@@ -16,6 +16,7 @@
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
 #include "cli/input_choice.h"
+#include "cli/result_export.h"
 #include "cli/setting_options.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
@@ -189,7 +190,13 @@ class TerminalRun {
       return kRunFailed;
     }
     const bool printed = toFile ? program_.lister.FileWritten() : PrintList();
-    return printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+    return Export() && printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+  }
+
+  bool Export() {
+    if (options_.exports.empty()) return true;
+    const std::optional<std::string> fault = ExportResult(program_, options_);
+    return !fault || Fail(*fault);
   }
 
   /// Several paths are served like a folder.

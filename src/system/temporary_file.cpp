@@ -1,16 +1,13 @@
 #include "system/temporary_file.h"
 
-#include <array>
-#include <charconv>
 #include <cstddef>
-#include <cstdint>
-#include <random>
 #include <system_error>
 
 #include "base/utf8.h"
 #include "system/native_disk.h"
 #include "system/native_path.h"
 #include "system/paths.h"
+#include "system/random_digits.h"
 #include "system/system_error.h"
 
 namespace quillomat {
@@ -18,14 +15,6 @@ namespace {
 
 /// Names may have 255 bytes, on some disks fewer.
 constexpr std::size_t kMostCharactersOfTargetsName = 30;
-
-std::string RandomDigits() {
-  std::random_device random;
-  const std::uint64_t number = std::uint64_t{random()} << 32U | random();
-  std::array<char, 16> digits{};
-  return {digits.data(),
-          std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr};
-}
 
 std::string NameBeside(const std::string& target) {
   const std::string name = FileNamePartOf(target);

@@ -120,6 +120,24 @@ check "a device without bytes is empty" 1 --file /dev/stdin
 holds err "/dev/stdin is empty"
 check "an empty path" 2 --file ""
 holds err "argument 2 is empty"
+check "exports beside the list" 0 cat.txt --export words.csv --export words.xlsx --columns word,frequency
+holds out "cat"
+printf 'word,frequency\r\nthe,3\r\ncat,3\r\n' >wanted.csv
+head -n 3 words.csv | sort >words.sorted
+sort wanted.csv | cmp -s - words.sorted || { echo "FAILED $name: words.csv"; cat words.csv; failed=1; }
+[ "$(head -c 2 words.xlsx)" = PK ] || { echo "FAILED $name: words.xlsx is no workbook"; failed=1; }
+check "an export that exists is left" 1 cat.txt --export words.csv
+holds err "--overwrite"
+check "an export is replaced when asked" 0 cat.txt --export words.csv --overwrite --top 1
+lines words.csv 2
+cp cat.txt cat.csv
+check "an export never replaces the text" 1 cat.csv --export cat.csv --overwrite
+cmp -s cat.txt cat.csv || { echo "FAILED $name: the text is gone"; failed=1; }
+check "an ending that is no format" 2 cat.txt --export words.doc
+holds err "xlsx"
+check "an export into a folder that is not there" 1 cat.txt --export none/words.csv
+holds err "none/words.csv cannot be written"
+
 check "an empty argument" 2 --file cat.txt '' --output list.txt
 holds err "argument 3 is empty"
 check "no path" 2

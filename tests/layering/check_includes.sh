@@ -12,11 +12,12 @@ may_include() {
     system) echo base ;;
     engine) echo base ;;
     listing) echo base engine ;;
+    export) echo base system engine listing ;;
     sources) echo base system engine listing ;;
     ui) echo base system ;;
     text) echo base system ui ;;
     app) echo base system engine listing sources ui text ;;
-    cli) echo base system engine listing sources ui text app ;;
+    cli) echo base system engine listing export sources ui text app ;;
     qt) echo base system engine listing sources ui text app ;;
   esac
 }

@@ -1,0 +1,40 @@
+// What is exported: some of the counted words, some of their columns, and what is known of the
+// count as a whole. The same for every format.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "listing/word_table.h"
+
+namespace quillomat {
+
+/// One fact of a count: a total, a statistic, a setting.
+struct ExportFact {
+  std::string name;
+  std::variant<std::int64_t, double, std::string> value;
+};
+
+struct ExportTable {
+  const WordTable& words;
+  /// Which words, as alphabetical places of the store, in the order in which they are wanted.
+  std::span<const std::int32_t> places;
+  /// Not empty. With kFile each word has a row for every file that it occurs in.
+  std::vector<WordColumn> columns;
+  /// Empty groups are left out.
+  std::vector<ExportFact> totals;
+  std::vector<ExportFact> statistics;
+  std::vector<ExportFact> settings;
+};
+
+/// The columns that are exported when nobody chooses: all that are known.
+[[nodiscard]] std::vector<WordColumn> UsualColumns(bool knowsFiles);
+
+/// Is told now and then how many words are done; false ends the export.
+using ExportProgress = std::function<bool(std::size_t)>;
+
+}  // namespace quillomat

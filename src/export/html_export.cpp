@@ -1,0 +1,101 @@
+// One page of HTML that needs nothing else: a table whose columns sort when their heads are
+// clicked.
+#include "export/export_writer.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kHead = R"(<!DOCTYPE html>
+<html lang="en">
+<head>
+<meta charset="utf-8">
+<meta name="viewport" content="width=device-width">
+<title>Word frequencies</title>
+<style>
+:root { color-scheme: light dark; }
+body { font: 15px/1.5 system-ui, sans-serif; margin: 2em auto; max-width: 60em; padding: 0 1em; }
+table { border-collapse: collapse; margin: 1em 0; }
+th, td { padding: .15em .8em; text-align: right; font-variant-numeric: tabular-nums; }
+th.text, td.text { text-align: left; }
+thead th { position: sticky; top: 0; background: Canvas; border-bottom: 2px solid; }
+th button { all: unset; cursor: pointer; font-weight: bold; }
+th button:focus-visible { outline: 2px solid; }
+tbody tr:nth-child(even) { background: color-mix(in srgb, CanvasText 5%, Canvas); }
+</style>
+</head>
+<body>
+<h1>Word frequencies</h1>
+)";
+
+/// Sorts the rows by the column whose head was clicked, the other way at a second click.
+constexpr std::string_view kTail = R"(</tbody>
+</table>
+<script>
+const table = document.getElementById("words"), body = table.tBodies[0];
+const heads = [...table.tHead.rows[0].cells];
+heads.forEach((head, column) => head.firstElementChild.addEventListener("click", () => {
+  const down = head.getAttribute("aria-sort") === "ascending";
+  const text = head.classList.contains("text"), collator = new Intl.Collator();
+  const value = row => text ? row.cells[column].textContent : Number(row.cells[column].textContent);
+  const rows = [...body.rows].map(row => [value(row), row]);
+  rows.sort((a, b) => (text ? collator.compare(a[0], b[0]) : a[0] - b[0]) * (down ? -1 : 1));
+  heads.forEach(other => other.removeAttribute("aria-sort"));
+  head.setAttribute("aria-sort", down ? "descending" : "ascending");
+  body.append(...rows.map(pair => pair[1]));
+}));
+</script>
+</body>
+</html>
+)";
+
+void AppendFacts(std::string& out, std::string_view title, const std::vector<ExportFact>& facts) {
+  if (facts.empty()) return;
+  out.append("<details><summary>").append(title).append("</summary>\n<table>\n");
+  for (const ExportFact& fact : facts) {
+    out.append("<tr><th class=\"text\" scope=\"row\">");
+    AppendHtml(out, fact.name);
+    out.append("</th><td>");
+    AppendHtml(out, TextOf(fact));
+    out.append("</td></tr>\n");
+  }
+  out.append("</table></details>\n");
+}
+
+void AppendHeads(std::string& out, const ExportTable& table) {
+  out.append("<table id=\"words\">\n<thead><tr>");
+  for (const WordColumn column : table.columns) {
+    out.append(IsText(column) ? "<th class=\"text\" scope=\"col\">" : "<th scope=\"col\">");
+    out.append("<button>").append(NameOf(column)).append("</button></th>");
+  }
+  out.append("</tr></thead>\n<tbody>\n");
+}
+
+}  // namespace
+
+bool WriteHtml(const ExportTable& table, ExportWriter& writer) {
+  std::string& out = writer.Out();
+  out.append(kHead);
+  AppendFacts(out, "Totals", table.totals);
+  AppendFacts(out, "Statistics", table.statistics);
+  AppendFacts(out, "Settings", table.settings);
+  AppendHeads(out, table);
+  const bool whole = ForEachRow(table, [&](const ExportRow& row) {
+    out.append("<tr>");
+    for (const WordColumn column : table.columns) {
+      out.append(IsText(column) ? "<td class=\"text\">" : "<td>");
+      if (IsText(column)) {
+        AppendHtml(out, TextOf(row, column));
+      } else {
+        AppendNumber(out, row, column);
+      }
+      out.append("</td>");
+    }
+    out.append("</tr>\n");
+    return writer.EndRow();
+  });
+  out.append(kTail);
+  writer.Flush();
+  return whole;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,197 @@
+#include "export/xlsx_export.h"
+
+#include <cmath>
+#include <memory>
+#include <utility>
+#include <variant>
+#include <vector>
+#include <xlsxwriter.h>
+
+#include "base/run_time_error.h"
+#include "export/cell_text.h"
+
+namespace quillomat {
+namespace {
+
+constexpr double kWordWidth = 28;
+constexpr double kNumberWidth = 14;
+constexpr double kFactWidth = 48;
+constexpr std::size_t kRowsPerQuestion = 4096;
+
+[[noreturn]] void Throw(lxw_error error) {
+  switch (error) {
+    case LXW_ERROR_MEMORY_MALLOC_FAILED:
+      throw RunTimeError(RunTimeErrorNumber::kOutOfMemory);
+    case LXW_ERROR_CREATING_TMPFILE:
+    case LXW_ERROR_CREATING_XLSX_FILE:
+      throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
+    default:
+      // The library tells a full disk as an error of what writes the archive.
+      throw RunTimeError(RunTimeErrorNumber::kDiskFull);
+  }
+}
+
+void Check(lxw_error error) {
+  if (error != LXW_NO_ERROR) Throw(error);
+}
+
+/// With the decimals that the column shows: digits that nobody sees would double the file.
+double RoundedNumberOf(const ExportRow& row, WordColumn column) {
+  const double power = std::pow(10.0, DecimalsOf(column));
+  return std::round(NumberOf(row, column) * power) / power;
+}
+
+/// A workbook of the library, which is given up unless it was closed.
+class Workbook {
+ public:
+  Workbook(const std::string& path, const std::string& scratchFolder) : scratch_(scratchFolder) {
+    lxw_workbook_options options{};
+    options.constant_memory = LXW_TRUE;
+    options.tmpdir = scratch_.data();
+    options.use_zip64 = LXW_TRUE;
+    book_ = workbook_new_opt(path.c_str(), &options);
+    if (book_ == nullptr) Throw(LXW_ERROR_MEMORY_MALLOC_FAILED);
+    head_ = workbook_add_format(book_);
+    format_set_bold(head_);
+    for (std::size_t column = 0; column < kWordColumnNames.size(); ++column) {
+      formats_.push_back(NumberFormat(DecimalsOf(static_cast<WordColumn>(column))));
+    }
+  }
+  Workbook(const Workbook&) = delete;
+  Workbook& operator=(const Workbook&) = delete;
+  Workbook(Workbook&&) = delete;
+  Workbook& operator=(Workbook&&) = delete;
+  ~Workbook() {
+    if (book_ != nullptr) lxw_workbook_free(book_);
+  }
+
+  [[nodiscard]] lxw_worksheet* AddSheet(const std::string& name) {
+    lxw_worksheet* sheet = workbook_add_worksheet(book_, name.c_str());
+    if (sheet == nullptr) Throw(LXW_ERROR_CREATING_TMPFILE);
+    return sheet;
+  }
+  [[nodiscard]] lxw_format* Head() { return head_; }
+  [[nodiscard]] lxw_format* FormatOf(WordColumn column) {
+    return formats_[static_cast<std::size_t>(column)];
+  }
+  void Close() {
+    lxw_workbook* book = std::exchange(book_, nullptr);
+    Check(workbook_close(book));  // which frees it, too
+  }
+
+ private:
+  lxw_format* NumberFormat(int decimals) {
+    lxw_format* format = workbook_add_format(book_);
+    const std::string pattern =
+        "#,##0" + (decimals == 0 ? std::string()
+                                 : "." + std::string(static_cast<std::size_t>(decimals), '0'));
+    format_set_num_format(format, pattern.c_str());
+    return format;
+  }
+
+  std::string scratch_;
+  lxw_workbook* book_ = nullptr;
+  lxw_format* head_ = nullptr;
+  std::vector<lxw_format*> formats_;
+};
+
+/// The sheets of words: begins a new one when one is full.
+class WordSheets {
+ public:
+  WordSheets(Workbook& book, const ExportTable& table, std::size_t rowsPerSheet)
+      : book_(book), table_(table), rowsPerSheet_(rowsPerSheet) {
+    BeginSheet();
+  }
+
+  void Take(const ExportRow& row) {
+    if (row_ > rowsPerSheet_) BeginSheet();
+    lxw_col_t place = 0;
+    for (const WordColumn column : table_.columns) {
+      WriteCell(row, column, place);
+      ++place;
+    }
+    ++row_;
+  }
+
+ private:
+  void BeginSheet() {
+    ++sheets_;
+    sheet_ = book_.AddSheet(sheets_ == 1 ? "Words" : "Words " + std::to_string(sheets_));
+    worksheet_freeze_panes(sheet_, 1, 0);
+    lxw_col_t place = 0;
+    for (const WordColumn column : table_.columns) {
+      worksheet_set_column(sheet_, place, place, IsText(column) ? kWordWidth : kNumberWidth,
+                           nullptr);
+      const std::string name(NameOf(column));
+      Check(worksheet_write_string(sheet_, 0, place, name.c_str(), book_.Head()));
+      ++place;
+    }
+    row_ = 1;
+  }
+
+  void WriteCell(const ExportRow& row, WordColumn column, lxw_col_t place) {
+    const auto line = static_cast<lxw_row_t>(row_);
+    if (IsText(column)) {
+      text_ = TextOf(row, column);
+      Check(worksheet_write_string(sheet_, line, place, text_.c_str(), nullptr));
+    } else if (HasNumber(row, column)) {
+      Check(worksheet_write_number(sheet_, line, place, RoundedNumberOf(row, column),
+                                   book_.FormatOf(column)));
+    }
+  }
+
+  Workbook& book_;
+  const ExportTable& table_;
+  std::size_t rowsPerSheet_;
+  lxw_worksheet* sheet_ = nullptr;
+  std::size_t sheets_ = 0;
+  std::size_t row_ = 0;
+  std::string text_;
+};
+
+void WriteFacts(Workbook& book, const ExportTable& table) {
+  lxw_worksheet* sheet = nullptr;
+  lxw_row_t row = 0;
+  const auto writeGroup = [&](const char* title, const std::vector<ExportFact>& facts) {
+    if (facts.empty()) return;
+    if (sheet == nullptr) {
+      sheet = book.AddSheet("Count");
+      worksheet_set_column(sheet, 0, 1, kFactWidth, nullptr);
+    }
+    Check(worksheet_write_string(sheet, row++, 0, title, book.Head()));
+    for (const ExportFact& fact : facts) {
+      Check(worksheet_write_string(sheet, row, 0, fact.name.c_str(), nullptr));
+      if (std::holds_alternative<std::string>(fact.value)) {
+        Check(worksheet_write_string(sheet, row, 1, TextOf(fact).c_str(), nullptr));
+      } else if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
+        Check(worksheet_write_number(sheet, row, 1, static_cast<double>(*whole), nullptr));
+      } else {
+        Check(worksheet_write_number(sheet, row, 1, std::get<double>(fact.value), nullptr));
+      }
+      ++row;
+    }
+    ++row;
+  };
+  writeGroup("Totals", table.totals);
+  writeGroup("Statistics", table.statistics);
+  writeGroup("Settings", table.settings);
+}
+
+}  // namespace
+
+bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
+               const ExportProgress& progress, std::size_t rowsPerSheet) {
+  Workbook book(path, scratchFolder);
+  WordSheets sheets(book, table, rowsPerSheet);
+  std::size_t rows = 0;
+  const bool whole = ForEachRow(table, [&](const ExportRow& row) {
+    sheets.Take(row);
+    return ++rows % kRowsPerQuestion != 0 || !progress || progress(rows);
+  });
+  if (!whole) return false;
+  WriteFacts(book, table);
+  book.Close();
+  return true;
+}
+
+}  // namespace quillomat

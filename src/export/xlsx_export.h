@@ -1,0 +1,20 @@
+// A workbook for spreadsheets. The library that makes it writes files by their names only, and not
+// into a sink.
+#pragma once
+
+#include <string>
+
+#include "export/export_table.h"
+
+namespace quillomat {
+
+/// Words on one sheet; more go on in the next. A sheet takes 1,048,576 rows, its header's included.
+inline constexpr std::size_t kRowsPerSheet = 1'048'575;
+
+/// Writes the workbook into `path`, a file of the caller's that is new or may be overwritten.
+/// Sheets are collected in files of the folder `scratchFolder`. False when `progress` ended it;
+/// then there is no file. Throws RunTimeError 61, 57 or 7. `rowsPerSheet` is less in tests only.
+bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
+               const ExportProgress& progress, std::size_t rowsPerSheet = kRowsPerSheet);
+
+}  // namespace quillomat

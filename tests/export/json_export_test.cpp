@@ -1,0 +1,51 @@
+// JSON and JSON lines, read back by a library.
+#include <nlohmann/json.hpp>
+
+#include "export/export_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using nlohmann::json;
+using JsonExport = ExportFixture;
+
+TEST_F(JsonExport, IsOneObjectWithRowsOfNumbersAndStrings) {
+  Count({{"the", 120}, {"whale", 3}});
+  totalsFacts_ = {{"words-read", std::int64_t{1000}}};
+  settings_ = {{"chkDropFinalS", std::string("1")}};
+  const json whole = json::parse(Export(ExportFormat::kJson, UsualColumns(false)));
+  EXPECT_EQ(whole["totals"]["words-read"], 1000);
+  EXPECT_EQ(whole["settings"]["chkDropFinalS"], "1");
+  EXPECT_FALSE(whole.contains("statistics"));
+  ASSERT_EQ(whole["rows"].size(), 2U);
+  EXPECT_EQ(whole["rows"][0]["word"], "the");
+  EXPECT_EQ(whole["rows"][0]["frequency"], 120);
+  EXPECT_TRUE(whole["rows"][0]["frequency"].is_number_integer());
+  EXPECT_DOUBLE_EQ(whole["rows"][0]["percent"], 12.0);
+  EXPECT_DOUBLE_EQ(whole["rows"][1]["cumulative"], 12.3);
+}
+
+TEST_F(JsonExport, AnEmptyListIsStillAnObject) {
+  Count({});
+  EXPECT_TRUE(json::parse(Export(ExportFormat::kJson, UsualColumns(false)))["rows"].empty());
+}
+
+TEST_F(JsonExport, LinesAreObjectsOfTheirOwn) {
+  Count({{"a\\b", 2}, {"c\"d", 1}});
+  const std::string lines = Export(ExportFormat::kJsonLines, {WordColumn::kWord});
+  const std::size_t end = lines.find('\n');
+  EXPECT_EQ(json::parse(lines.substr(0, end))["word"], "a\\b");
+  EXPECT_EQ(json::parse(lines.substr(end + 1))["word"], "c\"d");
+}
+
+TEST_F(JsonExport, APathThatIsNoUtf8DoesNotSpoilIt) {
+  store_.Files().Reset(true);
+  store_.Files().SetFileBeingScanned("/texts/\xFF.txt");
+  store_.AddWord("whale");
+  Rank();
+  const std::string text = Export(ExportFormat::kJson, {WordColumn::kWord, WordColumn::kFile});
+  EXPECT_EQ(json::parse(text)["rows"][0]["file"], "/texts/\xEF\xBF\xBD.txt");
+}
+
+}  // namespace
+}  // namespace quillomat

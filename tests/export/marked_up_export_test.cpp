@@ -1,0 +1,35 @@
+// HTML and Markdown.
+#include <gmock/gmock.h>
+
+#include "export/export_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using MarkedUpExport = ExportFixture;
+
+TEST_F(MarkedUpExport, MarkdownIsATableWithNumbersOnTheRight) {
+  Count({{"the", 2}, {"snake_case", 1}});
+  EXPECT_EQ(Export(ExportFormat::kMarkdown, {WordColumn::kWord, WordColumn::kFrequency}),
+            "| word | frequency |\n| --- | ---: |\n| the | 2 |\n| snake\\_case | 1 |\n");
+}
+
+TEST_F(MarkedUpExport, HtmlEscapesWordsAndSettings) {
+  Count({{"a&b", 1}});
+  settings_ = {{"txbStartComment(0)", std::string("<")}};
+  const std::string page = Export(ExportFormat::kHtml, {WordColumn::kWord});
+  EXPECT_THAT(page, HasSubstr("<td class=\"text\">a&amp;b</td>"));
+  EXPECT_THAT(page, HasSubstr("txbStartComment(0)</th><td>&lt;</td>"));
+}
+
+TEST_F(MarkedUpExport, HtmlNeedsNothingFromOutside) {
+  Count({{"the", 1}});
+  const std::string page = Export(ExportFormat::kHtml, UsualColumns(false));
+  EXPECT_THAT(page, Not(HasSubstr("http")));
+  EXPECT_THAT(page, Not(HasSubstr("src=")));
+}
+
+}  // namespace
+}  // namespace quillomat

@@ -1,0 +1,68 @@
+// A workbook is an archive of its own kind; that spreadsheets open it is tested end to end.
+#include "export/xlsx_export.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "base/run_time_error.h"
+#include "export/export_fixture.h"
+#include "support/temporary_folder.h"
+
+namespace quillomat {
+namespace {
+
+class XlsxExport : public ExportFixture {
+ protected:
+  bool Write(std::size_t rowsPerSheet, const ExportProgress& progress = {}) {
+    return WriteXlsx(Table({WordColumn::kWord, WordColumn::kPercent}), Path(), folder_.Path(),
+                     progress, rowsPerSheet);
+  }
+  [[nodiscard]] std::string Path() const { return folder_ / "list.xlsx"; }
+  [[nodiscard]] std::string Bytes() const {
+    std::ifstream file(Path(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  }
+  /// Names of the archive's parts stand in it as they are.
+  [[nodiscard]] bool HasPart(std::string_view name) const {
+    return Bytes().find(name) != std::string::npos;
+  }
+  TemporaryFolder folder_;
+};
+
+TEST_F(XlsxExport, IsAnArchiveWithASheetOfWords) {
+  Count({{"the", 2}, {"whale", 1}});
+  EXPECT_TRUE(Write(kRowsPerSheet));
+  EXPECT_EQ(Bytes().substr(0, 2), "PK");
+  EXPECT_TRUE(HasPart("xl/worksheets/sheet1.xml"));
+  EXPECT_FALSE(HasPart("xl/worksheets/sheet2.xml"));
+}
+
+TEST_F(XlsxExport, FactsStandOnASheetOfTheirOwn) {
+  Count({{"the", 2}});
+  totalsFacts_ = {{"words-read", std::int64_t{2}}, {"ratio", 0.5}, {"source", std::string("a")}};
+  EXPECT_TRUE(Write(kRowsPerSheet));
+  EXPECT_TRUE(HasPart("xl/worksheets/sheet2.xml"));
+}
+
+TEST_F(XlsxExport, WordsThatASheetDoesNotHoldGoOnInTheNext) {
+  Count({{"a", 4}, {"b", 3}, {"c", 2}, {"d", 1}});
+  EXPECT_TRUE(Write(2));
+  EXPECT_TRUE(HasPart("xl/worksheets/sheet2.xml"));
+  EXPECT_FALSE(HasPart("xl/worksheets/sheet3.xml"));
+}
+
+TEST_F(XlsxExport, LeavesNoFileWhenItIsEnded) {
+  for (int i = 0; i < 5000; ++i) store_.AddWord("w" + std::to_string(i));
+  Rank();
+  EXPECT_FALSE(Write(kRowsPerSheet, [](std::size_t) { return false; }));
+  EXPECT_FALSE(std::filesystem::exists(Path()));
+}
+
+TEST_F(XlsxExport, AFolderThatIsNotThereIsAnError) {
+  Count({{"the", 1}});
+  EXPECT_THROW(WriteXlsx(Table({WordColumn::kWord}), Path() + "/no/list.xlsx", folder_.Path(), {}),
+               RunTimeError);
+}
+
+}  // namespace
+}  // namespace quillomat
