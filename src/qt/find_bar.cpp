@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QVBoxLayout>
 
 #include "qt/accessible_names.h"
 #include "qt/flow_layout.h"
@@ -13,15 +14,18 @@ namespace quillomat {
 
 FindBar::FindBar(QPlainTextEdit& list, std::function<QString()> notFound)
     : list_(list), notFound_(std::move(notFound)) {
-  auto* row = new FlowLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins(0, 0, 0, 0);
+  auto* row = new FlowLayout;
+  lines->addLayout(row);
   for (QWidget* part : {static_cast<QWidget*>(&label_), static_cast<QWidget*>(&word_),
-                        static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_),
-                        static_cast<QWidget*>(&outcome_)}) {
+                        static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_)}) {
     row->addWidget(part);
   }
-  outcome_.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  // In a line of its own: beside the commands a long one would become a narrow column.
+  lines->addWidget(&outcome_);
   outcome_.setWordWrap(true);
+  outcome_.hide();
   word_.setClearButtonEnabled(true);
   word_.setMinimumWidth(120);
   label_.setBuddy(&word_);
@@ -36,7 +40,7 @@ void FindBar::SetTexts(const ProgramText& text) {
   next_.setText(ToQt(text.GetText(kFindNextText)));
   previous_.setText(ToQt(text.GetText(kFindPreviousText)));
   word_.setAccessibleName(label_.text());
-  outcome_.clear();
+  ShowOutcome({});
 }
 
 void FindBar::Open() {
@@ -52,7 +56,7 @@ void FindBar::Open() {
 /// Goes round at the end of the list. `fromHere`: what is selected may stay found, as the user goes
 /// on typing.
 void FindBar::Find(bool backward, bool fromHere) {
-  outcome_.clear();
+  ShowOutcome({});
   if (word_.text().isEmpty()) return;
   const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   QTextCursor start = list_.textCursor();
@@ -63,11 +67,16 @@ void FindBar::Find(bool backward, bool fromHere) {
     found = list_.document()->find(word_.text(), start, flags);
   }
   if (found.isNull()) {
-    outcome_.setText(notFound_());
+    ShowOutcome(notFound_());
     return Announce(outcome_);
   }
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
+}
+
+void FindBar::ShowOutcome(const QString& outcome) {
+  outcome_.setText(outcome);
+  outcome_.setVisible(!outcome.isEmpty());
 }
 
 void FindBar::Close() {

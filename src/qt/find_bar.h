@@ -28,6 +28,8 @@ class FindBar : public QWidget {
 
  private:
   void Find(bool backward, bool fromHere);
+  /// What has come of a search; "" for nothing to say.
+  void ShowOutcome(const QString& outcome);
   void Close();
 
   QPlainTextEdit& list_;

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVariant>
 #include <algorithm>
 #include <stdexcept>
@@ -19,6 +20,7 @@
 
 #include "qt/accessible_names.h"
 #include "qt/text_conversion.h"
+#include "qt/window_memory.h"
 #include "ui/controls.h"
 
 namespace quillomat {
@@ -175,12 +177,19 @@ void FormWindow::ShowWindowState() {
   if (minimized != isMinimized()) {
     setWindowState(windowState().setFlag(Qt::WindowMinimized, minimized));
   }
+  if (form_.Visible() && !isVisible()) PlaceOverParent();
   setVisible(form_.Visible());
   if (raised_ && form_.Visible()) {
     raise();
     activateWindow();
   }
   raised_ = false;
+}
+
+/// A window that has no place yet: what the desktop chooses may lie half off the screen.
+void FormWindow::PlaceOverParent() {
+  if (parentWidget() == nullptr || testAttribute(Qt::WA_Moved)) return;
+  move(PlaceOver(parentWidget()->frameGeometry(), size(), screen()->availableGeometry()));
 }
 
 QWidget& FormWindow::WidgetOf(const Control& control) const {

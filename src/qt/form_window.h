@@ -60,6 +60,7 @@ class FormWindow : public QWidget {
   void ShowCaptions();
   void ShowFocus();
   void ShowWindowState();
+  void PlaceOverParent();
   void AwaitFocus();
   void TakeFocus();
   void DropFocusOfDisabled();

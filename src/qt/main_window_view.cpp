@@ -109,7 +109,9 @@ void MainWindowView::ShowNoticesInWindowFont() {
 
 void MainWindowView::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
-  if (event->type() == QEvent::FontChange) ShowNoticesInWindowFont();
+  if (event->type() != QEvent::FontChange) return;
+  ShowNoticesInWindowFont();
+  AlignLabels();
 }
 
 void MainWindowView::SetTexts(const ProgramText& text) {
@@ -118,7 +120,18 @@ void MainWindowView::SetTexts(const ProgramText& text) {
   ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
   ShowProgress();
   // Later, when the captions stand.
-  QTimer::singleShot(0, this, [this] { FitSettings(); });
+  QTimer::singleShot(0, this, [this] {
+    AlignLabels();
+    FitSettings();
+  });
+}
+
+/// The boxes of the list stand one below the other.
+void MainWindowView::AlignLabels() {
+  const std::array<QLabel*, 2> labels = {ui_->Label1, ui_->Label2};
+  int widest = 0;
+  for (const QLabel* label : labels) widest = std::max(widest, label->sizeHint().width());
+  for (QLabel* label : labels) label->setMinimumWidth(widest);
 }
 
 /// The settings get the width that their captions want, up to half of the window, until the user

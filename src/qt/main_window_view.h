@@ -45,6 +45,7 @@ class MainWindowView final : public FormWindow {
   void ShowNoticesInWindowFont();
   void ConnectKeys();
   void ConnectZoom();
+  void AlignLabels();
   void FitSettings();
   void ConnectProgress();
   void ShowProgress();

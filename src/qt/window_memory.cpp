@@ -4,12 +4,17 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QVariant>
+#include <QWindow>
+#include <algorithm>
 
 namespace quillomat {
 namespace {
 
 const char* const kZoomKey = "list/zoom";
 const char* const kLastFolderKey = "dialogs/folder";
+
+/// What the desktop puts round a window, in logical pixels.
+constexpr QSize kFrame(16, 48);
 
 QString PlaceKeyOf(const QWidget& window) {
   return window.objectName() + QStringLiteral("/place");
@@ -34,7 +39,10 @@ void WindowMemory::Restore(QWidget& window) const {
 
 void WindowMemory::Keep(const QWidget& window) const {
   QSettings settings(path_, QSettings::IniFormat);
-  settings.setValue(PlaceKeyOf(window), window.saveGeometry());
+  // A window that was never opened has no place of its own.
+  if (window.windowHandle() != nullptr) {
+    settings.setValue(PlaceKeyOf(window), window.saveGeometry());
+  }
   for (const QSplitter* splitter : window.findChildren<QSplitter*>()) {
     if (splitter->property(kPlacedByUser).toBool()) {
       settings.setValue(SplitKeyOf(window, *splitter), splitter->saveState());
@@ -61,8 +69,15 @@ void WindowMemory::KeepLastFolder(const QString& folder) const {
 }
 
 QSize SizeOnScreen(QSize wanted, QSize available) {
-  constexpr QSize kFrame(16, 48);
   return wanted.boundedTo(available - kFrame);
+}
+
+QPoint PlaceOver(const QRect& other, QSize size, const QRect& screen) {
+  QRect place(QPoint(0, 0), size + kFrame);
+  place.moveCenter(other.center());
+  place.moveRight(std::min(place.right(), screen.right()));
+  place.moveBottom(std::min(place.bottom(), screen.bottom()));
+  return {std::max(place.left(), screen.left()), std::max(place.top(), screen.top())};
 }
 
 void ResizeOnScreen(QWidget& window, QSize wanted) {

@@ -34,6 +34,8 @@ class WindowMemory {
 /// The size of a window that wants to be `wanted` on a screen with so much room, in logical pixels:
 /// the frame that the desktop puts round it is left room, too.
 [[nodiscard]] QSize SizeOnScreen(QSize wanted, QSize available);
+/// Where a window of that size opens: over the middle of another one, and whole on the screen.
+[[nodiscard]] QPoint PlaceOver(const QRect& other, QSize size, const QRect& screen);
 /// Gives a window that size, as far as its screen has room.
 void ResizeOnScreen(QWidget& window, QSize wanted);
 

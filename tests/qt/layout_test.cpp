@@ -290,6 +290,71 @@ TEST_F(WindowLayout, WindowFitsOnASmallScreenOfDoubleSize) {
   ExpectWellLaidOut(user->windows.Main());
 }
 
+TEST_F(WindowLayout, PanelAndHelpOpenOverTheMainWindowAndWholeOnTheScreen) {
+  const QRect screen(0, 0, 1280, 900);
+  EXPECT_EQ(PlaceOver(QRect(100, 100, 1024, 700), QSize(800, 552), screen), QPoint(204, 150));
+  EXPECT_EQ(PlaceOver(QRect(900, 700, 400, 300), QSize(584, 352), screen), QPoint(680, 500));
+  EXPECT_EQ(PlaceOver(QRect(0, 0, 100, 100), QSize(584, 352), screen), QPoint(0, 0));
+  EXPECT_EQ(PlaceOver(QRect(0, 0, 1280, 900), QSize(2000, 1000), screen), QPoint(0, 0));
+  ASSERT_TRUE(user->Start());
+  QWidget& main = user->windows.Main();
+  main.move(30, 40);
+  user->Settle();
+  user->Click(user->program.frmMain.cmdHelp);
+  const QWidget& help = user->windows.Help();
+  EXPECT_EQ(help.pos(),
+            PlaceOver(main.frameGeometry(), help.size(), help.screen()->availableGeometry()));
+}
+
+TEST_F(WindowLayout, PlaceOfAWindowThatWasNeverOpenIsNotKept) {
+  ASSERT_TRUE(user->Start());
+  user->Click(user->program.frmMain.cmdHelp);
+  user->windows.Help().move(11, 12);
+  user->Click(user->program.frmHelp.cmdClose);
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_TRUE(user->windows.Help().testAttribute(Qt::WA_Moved));
+  EXPECT_FALSE(user->windows.Panel().testAttribute(Qt::WA_Moved));
+}
+
+TEST_F(WindowLayout, BoxesOfTheListStandOneBelowTheOther) {
+  const Letters letters(9);
+  ASSERT_TRUE(user->Start());
+  const MainForm& frmMain = user->program.frmMain;
+  user->windows.Main().resize(1024, 700);
+  for (int language = 0; language < 2; ++language) {
+    user->Settle();
+    EXPECT_EQ(user->WidgetOf<QComboBox>(frmMain.cboWordOrder).x(),
+              user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat).x());
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+TEST_F(WindowLayout, WhatFindSaysIsALineAndNotAColumn) {
+  const Letters letters(9);
+  ASSERT_TRUE(user->Start());
+  std::string text;
+  for (char a = 'a'; a <= 'z'; ++a) {
+    for (char b = 'a'; b <= 'z'; ++b) {
+      for (char c = 'a'; c <= 'z'; ++c) text += std::string("word") + a + b + c + " ";
+    }
+  }
+  user->program.ChooseText(folder.Write("many.txt", text));
+  boxes.Answer(QMessageBox::Ok);
+  user->windows.Main().resize(1024, 700);
+  user->Click(user->program.frmMain.cmdCountWords);
+  FindBar& bar = user->windows.Main().Finder();
+  bar.Open();
+  QTest::keyClicks(bar.findChild<QLineEdit*>(), "nowhere");
+  user->Settle();
+  const auto labels = bar.findChildren<QLabel*>();
+  const auto outcome = std::ranges::find_if(
+      labels, [](const QLabel* label) { return label->text().contains("17,576 words"); });
+  ASSERT_NE(outcome, labels.end());
+  EXPECT_LE((*outcome)->height(), 2 * (*outcome)->fontMetrics().lineSpacing());
+}
+
 TEST_F(WindowLayout, NoticesBearTheWindowsFontWhateverTheListsSize) {
   ASSERT_TRUE(user->Start());
   user->windows.Main().List().SetZoom(20);
