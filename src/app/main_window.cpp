@@ -191,11 +191,11 @@ void MainWindow::ConnectFolder() {
   });
   frmMain.txbFolder.LostFocus.Connect([this] {
     CompletePathIn(context_.frmMain.txbFolder, context_);
-    if (!IsClickingForTheFolder()) context_.frmMain.AfterClick([this] { CheckFolder(); });
+    if (!IsClickingForTheFolder()) AfterClick([this] { CheckFolder(); });
   });
   for (std::size_t i = 0; i < 2; ++i) {
     const auto list = static_cast<ExtensionList>(i);
-    const auto leave = [this, list] { countRun_.Extensions().OnLostFocus(list); };
+    const auto leave = [this, list] { LeaveExtensions(list); };
     frmMain.txbFileExtensions[i].LostFocus.Connect(leave);
     frmMain.txbFileExtensions[i].KeyDown.Connect([leave](int keyCode) {
       constexpr int kEnter = 13;
@@ -208,6 +208,21 @@ void MainWindow::ConnectFolder() {
 void MainWindow::CheckFolder() {
   const std::string& path = context_.frmMain.txbFolder.Text();
   if (!path.empty() && !FolderExists(path)) Refuse(context_, "Folder does not exist.", "Error");
+}
+
+/// What the box says is in force at once.
+void MainWindow::LeaveExtensions(ExtensionList list) {
+  FileExtensions& extensions = countRun_.Extensions();
+  const bool fits = extensions.GetFileExtensions(list);
+  const auto tell = [&extensions, list, fits] { extensions.TellFaultsOnce(list, fits); };
+  if (IsClickingForTheFolder()) return tell();
+  AfterClick(tell);
+}
+
+void MainWindow::AfterClick(const std::function<void()>& action) {
+  context_.frmMain.AfterClick([this, action] {
+    if (!context_.state.quitting) action();
+  });
 }
 
 /// Whether the box is left for a command that looks at the folder itself.

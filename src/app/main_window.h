@@ -1,6 +1,7 @@
 // The main window: what its commands, boxes and labels do.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,9 @@ class MainWindow {
   void OnSuppressWordsClick();
   void SelectSourceOf(const TextBox& box, OptionButton& source);
   void CheckFolder();
+  void LeaveExtensions(ExtensionList list);
+  /// After the click that is being carried out, if the program goes on then.
+  void AfterClick(const std::function<void()>& action);
   [[nodiscard]] bool IsClickingForTheFolder() const;
   void ChooseInputFile();
   void ChooseOutputFile();

@@ -94,16 +94,25 @@ void ParametersPanel::ConnectWordLists() {
     const auto kind = static_cast<WordListKind>(i);
     panel.cmdSelectWordsFile[i].Click.Connect([this, kind] { wordLists_.SelectWordsFile(kind); });
     panel.cmdClearWordsFile[i].Click.Connect([this, kind] { wordLists_.ClearWordsFile(kind); });
-    panel.txbWordsFile[i].LostFocus.Connect(
-        [this, kind] { wordLists_.OnWordsFileLostFocus(kind); });
-    panel.txbWordsToIgnoreOrCount[i].LostFocus.Connect(
-        [this, kind] { wordLists_.OnExtraWordsLostFocus(kind); });
+    panel.txbWordsFile[i].LostFocus.Connect([this, kind] {
+      AfterClickThatLeaves([this, kind] { wordLists_.OnWordsFileLostFocus(kind); });
+    });
+    panel.txbWordsToIgnoreOrCount[i].LostFocus.Connect([this, kind] {
+      AfterClickThatLeaves([this, kind] { wordLists_.OnExtraWordsLostFocus(kind); });
+    });
     panel.cmdClearWordsToIgnoreOrCount[i].Click.Connect([this, kind, i] {
       context_.frmParams.txbWordsToIgnoreOrCount[i].SetText("");
       wordLists_.OnExtraWordsLostFocus(kind);
       Close();
     });
   }
+}
+
+/// The click may be what mends the box. Only a state is saved with what is in force.
+void ParametersPanel::AfterClickThatLeaves(const std::function<void()>& action) {
+  ParamsForm& panel = context_.frmParams;
+  if (panel.Focused() == &panel.cmdSaveLoadState[0]) return action();
+  panel.AfterClick(action);
 }
 
 void ParametersPanel::ConnectCommands() {

@@ -25,6 +25,7 @@ class ParametersPanel {
   void ConnectScanningChoice(Control& control);
   void ConnectListingChoice(Control& control);
   void ConnectWordLists();
+  void AfterClickThatLeaves(const std::function<void()>& action);
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
   [[nodiscard]] bool ConfirmReRead();

@@ -121,11 +121,11 @@ void Program::Initialize() {
   for (std::size_t i = 0; i < 2; ++i) {
     frmMain.txbFile[i].SetText("");
     frmMain.txbFileExtensions[i].SetText("");
-    countRun.Extensions().OnLostFocus(static_cast<ExtensionList>(i));
     wordLists.ClearWordsFile(static_cast<WordListKind>(i));
     frmParams.txbWordsToIgnoreOrCount[i].SetText("");
     wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
+  countRun.Extensions().OnRestored();
   panel_.SetDefaultValues();
   SetMainWindowsDefaults(ControlKind::kCheckBox, frmMain, frmParams);
   state.displayingWords = false;
@@ -164,8 +164,8 @@ void Program::ToggleLanguage() {
 
 void Program::Quit() {
   if (ended_) return;
-  if (!state.Busy()) return End();
   state.quitting = true;
+  if (!state.Busy()) return End();
   state.StopRequested = true;
 }
 

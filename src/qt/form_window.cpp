@@ -53,7 +53,8 @@ int AccessRank(const WidgetBinding* binding) {
 
 FormWindow::FormWindow(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
   if (parent != nullptr) {
-    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+    // A plain window would go under its parent where the window manager is told no more.
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   }
 }

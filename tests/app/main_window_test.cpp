@@ -16,6 +16,11 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
+/// A folder in it belongs to no user.
+std::string RootOfTheDisk() {
+  return std::filesystem::temp_directory_path().root_path().string();
+}
+
 class MainWindowTest : public ProgramFixture {
  protected:
   UserHome home;
@@ -76,6 +81,27 @@ TEST_F(MainWindowTest, DialogOpensAtItsBoxThenWhereTheLastOneEndedThenAtTheDocum
   EXPECT_EQ(desktop.FileDialogs()[2].folder, other);
 }
 
+TEST_F(MainWindowTest, OutputFileIsLookedForBesideTheCountedFolder) {
+  desktop.SetDocumentsFolder(documents.Path());
+  const std::string books = folder.Make("books");
+  desktop.AnswerFolder(books);
+  Main().cmdFolder.PerformClick();
+  desktop.AnswerFile(std::nullopt);
+  Main().cmdFile[1].PerformClick();
+  EXPECT_EQ(desktop.FileDialogs().back().folder, folder.Path());
+  Main().SetFocus(Main().txbFile[1]);
+  Main().txbFile[1].EnterText("list.txt");
+  Main().SetFocus(Main().txbFolder);
+  EXPECT_EQ(Main().txbFile[1].Text(), folder / "list.txt");
+  Main().txbFolder.EnterText(folder.Make("books/sub") + "/");
+  Main().SetFocus(Main().txbFile[0]);
+  EXPECT_EQ(program.state.lastFolder, books) << "with a separator at its end, too";
+  Main().SetFocus(Main().txbFolder);
+  Main().txbFolder.EnterText(RootOfTheDisk());
+  Main().SetFocus(Main().txbFile[0]);
+  EXPECT_EQ(program.state.lastFolder, books) << "nothing is kept in the root";
+}
+
 TEST_F(MainWindowTest, StateIsLoadedFromWhereItWasSaved) {
   desktop.SetDocumentsFolder(documents.Path());
   desktop.AnswerFile(folder / "my.qlm");
@@ -131,6 +157,33 @@ TEST_F(MainWindowTest, ClickElsewhereIsCarriedOutBeforeTheQuestion) {
   desktop.AtMessage("Error", [this] { EXPECT_TRUE(Main().chkIncludeSubfolders.IsChecked()); });
   Main().chkIncludeSubfolders.PerformClick();
   EXPECT_EQ(OnlyMessage().text, "Folder does not exist.");
+}
+
+TEST_F(MainWindowTest, ClickThatLeavesABadExtensionIsCarriedOutBeforeTheMessage) {
+  Main().SetFocus(Main().txbFileExtensions[0]);
+  Main().txbFileExtensions[0].EnterText("t*xt");
+  desktop.AtMessage("Invalid input",
+                    [this] { EXPECT_TRUE(Main().chkIncludeSubfolders.IsChecked()); });
+  Main().chkIncludeSubfolders.PerformClick();
+  EXPECT_THAT(OnlyMessage().text, HasSubstr("'t*xt'"));
+}
+
+TEST_F(MainWindowTest, CountWithABadExtensionSaysSoOnceAndCountsNothing) {
+  static_cast<void>(folder.Write("a.txt", "cat\n"));
+  program.ChooseText(folder.Path());
+  Main().SetFocus(Main().txbFileExtensions[0]);
+  Main().txbFileExtensions[0].EnterText("doc");
+  desktop.AtMessage("No doc files", [this] { EXPECT_FALSE(program.state.completeRun); });
+  Count();
+  EXPECT_THAT(desktop.Titles(), ElementsAre("No doc files", "No files found"));
+}
+
+TEST_F(MainWindowTest, WhoQuitsFromABadBoxIsToldNothingMore) {
+  Main().SetFocus(Main().txbFolder);
+  Main().txbFolder.EnterText(folder / "none");
+  Panel().chkSaveStateOnQuit.SetChecked(false);
+  Main().cmdQuit.PerformClick();
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 
 TEST_F(MainWindowTest, CountOfABadFolderSaysSoOnce) {

@@ -60,12 +60,12 @@ struct CountState {
   /// The panel does not ask whether the text may be read anew.
   bool blnInhibitPrompt = false;
 
-  /// The folder of the file, or the folder, that the user chose or named last; "" for none yet.
+  /// Where the file or the folder lies that the user chose or named last; "" for none yet.
   std::string lastFolder;
 
   /// The program that shows the clipboard, or "".
   std::string clipboardViewerPath;
-  /// The user wants to quit as soon as the run has ended.
+  /// The user wants to quit: at once, or as soon as the run has ended.
   bool quitting = false;
 
   /// Something is at work: nothing else may touch the words now.

@@ -36,8 +36,7 @@ void FileExtensions::TellTooMany(ExtensionList which) const {
          std::string(kInvalidInput));
 }
 
-void FileExtensions::OnLostFocus(ExtensionList which) {
-  const bool fits = GetFileExtensions(which);
+void FileExtensions::TellFaultsOnce(ExtensionList which, bool fits) {
   if (fits && checked_ == Texts()) return;
   checked_ = Texts();  // first: a message takes the focus from the box, which is left once more
   if (!fits) TellTooMany(which);

@@ -23,9 +23,9 @@ class FileExtensions {
   /// entries these are the first kMaxExtensions of ExtensionFilter, and the result is false.
   [[nodiscard]] bool GetFileExtensions(ExtensionList which);
 
-  /// What happens when the user leaves one of the boxes, or presses Enter in it: it is parsed and
-  /// checked, and the user told, once for the texts that stand in the boxes.
-  void OnLostFocus(ExtensionList which);
+  /// When the user has left one of the boxes, or pressed Enter in it: tells the faults of both,
+  /// once for the texts that stand in them. `fits` is what GetFileExtensions has returned.
+  void TellFaultsOnce(ExtensionList which, bool fits);
 
   /// The boxes were set from outside: both are parsed and checked, and the user told.
   void OnRestored();

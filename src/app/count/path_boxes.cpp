@@ -4,6 +4,7 @@
 
 #include "base/text_helpers.h"
 #include "system/file_system.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {
@@ -55,9 +56,13 @@ void CompletePathIn(TextBox& box, const RunContext& context) {
   RememberFolderOf(full, context);
 }
 
+/// A name that is typed next is most often an output file's, which may not lie in the folder that
+/// is counted; and in a root nobody keeps files.
 void RememberFolderOf(const std::string& path, const RunContext& context) {
-  std::string folder = NearestFolder(path);
-  if (!folder.empty()) context.state.lastFolder = std::move(folder);
+  std::string folder = FolderPartOf(path);
+  if (FileNamePartOf(path).empty()) folder = FolderPartOf(folder);  // it ends with a separator
+  const bool isRoot = FolderPartOf(folder) == folder;
+  if (!isRoot && FolderExists(folder)) context.state.lastFolder = std::move(folder);
 }
 
 }  // namespace quillomat

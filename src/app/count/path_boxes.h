@@ -23,7 +23,8 @@ namespace quillomat {
 /// left.
 void CompletePathIn(TextBox& box, const RunContext& context);
 
-/// The user has chosen or named this file or folder: the next dialog opens there.
+/// The user has chosen or named this file or folder: the next dialog opens in the folder where it
+/// lies, unless that is a root.
 void RememberFolderOf(const std::string& path, const RunContext& context);
 
 }  // namespace quillomat

@@ -54,6 +54,51 @@ TEST_F(BoxesInForce, LeavingTheBoxWithTheFileInForceReadsNothing) {
   EXPECT_EQ(StoredWords(), "dog");
 }
 
+TEST_F(BoxesInForce, ClickThatMendsALostWordsFileIsCarriedOutWithoutAWord) {
+  for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
+    Panel().SetFocus(WordsFileBox(kind));
+    TypeWordsFile(kind, folder / "lost.txt");
+    Panel().cmdClearWordsFile[static_cast<std::size_t>(kind)].PerformClick();
+    EXPECT_EQ(WordsFileBox(kind).Text(), "");
+    EXPECT_THAT(desktop.Titles(), IsEmpty());
+  }
+}
+
+TEST_F(BoxesInForce, ClickElsewhereIsCarriedOutBeforeALostWordsFileIsTold) {
+  Panel().SetFocus(WordsFileBox(WordListKind::kIgnore));
+  TypeWordsFile(WordListKind::kIgnore, folder / "lost.txt");
+  desktop.AtMessage("File not found",
+                    [this] { EXPECT_TRUE(Panel().chkOutputWithCommas.IsChecked()); });
+  Panel().chkOutputWithCommas.PerformClick();
+  EXPECT_THAT(desktop.Titles(), ElementsAre("File not found"));
+}
+
+TEST_F(BoxesInForce, ClickThatLeavesTooManyTypedWordsIsCarriedOutBeforeTheMessage) {
+  TextBox& typed = Panel().txbWordsToIgnoreOrCount[0];
+  std::string words;
+  for (int i = 0; i < 1001; ++i) words += "w" + std::to_string(i) + " ";
+  Panel().SetFocus(typed);
+  typed.EnterText(words);
+  Panel().cmdClearWordsToIgnoreOrCount[0].PerformClick();
+  EXPECT_EQ(typed.Text(), "");
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  Panel().SetFocus(typed);
+  typed.EnterText(words);
+  desktop.AtMessage("Invalid input",
+                    [this] { EXPECT_TRUE(Panel().chkOutputWithCommas.IsChecked()); });
+  Panel().chkOutputWithCommas.PerformClick();
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Invalid input"));
+}
+
+TEST_F(BoxesInForce, StateIsSavedWithWhatIsInForce) {
+  Panel().SetFocus(WordsFileBox(WordListKind::kIgnore));
+  TypeWordsFile(WordListKind::kIgnore, folder / "lost.txt");
+  Panel().txbStateFile.SetText(folder / "state.txt");
+  Panel().cmdSaveLoadState[0].PerformClick();
+  EXPECT_EQ(desktop.Titles().front(), "File not found");
+  EXPECT_FALSE(Has(folder.Read("state.txt"), "lost.txt"));
+}
+
 TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
   TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
   LeaveWordsFile(WordListKind::kIgnore);

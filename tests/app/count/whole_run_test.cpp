@@ -353,7 +353,7 @@ TEST_F(WholeRun, FolderWithoutScannableFilesSaysWhich) {
   desktop.ForgetQuestions();
   Main().chkIncludeSubfolders.SetChecked(true);
   Main().txbFileExtensions[0].SetText("txt");
-  program.countRun.Extensions().OnLostFocus(ExtensionList::kIncluded);
+  EXPECT_TRUE(program.countRun.Extensions().GetFileExtensions(ExtensionList::kIncluded));
   CountFolder(pictures);
   EXPECT_EQ(OnlyMessage().text,
             "No scanable files of the specified type were found in this folder or in its "
