@@ -1,30 +1,34 @@
 #include "qt/list_table.h"
 
-#include <QRegularExpression>
 #include <QStringList>
+#include <string>
+
+#include "listing/list_cells.h"
+#include "qt/text_conversion.h"
 
 namespace quillomat {
 
-QString HtmlTableOf(const QString& list) {
-  static const QRegularExpression betweenColumns(QStringLiteral(" {2,}"));
+QString HtmlTableOf(const QString& list, DisplayFormat format) {
   bool hasColumns = false;
   QString table = QStringLiteral("<table>\n");
-  for (const QString& line : list.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-    const QStringList cells = line.trimmed().split(betweenColumns);
+  for (const QString& text : list.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+    const std::string line = FromQt(text);
+    const std::vector<std::string_view> cells = CellsOf(line, format);
     hasColumns = hasColumns || cells.size() > 1;
     table += QStringLiteral("<tr>");
-    for (const QString& cell : cells) {
-      table += QStringLiteral("<td>") + cell.toHtmlEscaped() + QStringLiteral("</td>");
+    for (const std::string_view cell : cells) {
+      table += QStringLiteral("<td>") + ToQt(cell).toHtmlEscaped() + QStringLiteral("</td>");
     }
     table += QStringLiteral("</tr>\n");
   }
   return hasColumns ? table + QStringLiteral("</table>\n") : QString();
 }
 
-std::unique_ptr<QMimeData> ClipboardDataOf(const QString& list) {
+std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text,
+                                           std::optional<DisplayFormat> format) {
   auto data = std::make_unique<QMimeData>();
-  data->setText(list);
-  const QString table = HtmlTableOf(list);
+  data->setText(text);
+  const QString table = format ? HtmlTableOf(text, *format) : QString();
   if (!table.isEmpty()) data->setHtml(table);
   return data;
 }

@@ -3,15 +3,23 @@
 
 #include <QMimeData>
 #include <QString>
+#include <functional>
 #include <memory>
+#include <optional>
+
+#include "listing/display_format.h"
 
 namespace quillomat {
 
-/// The text as an HTML table: a row a line, a cell a column, where columns have at least two blanks
-/// between them. "" when no line has two columns.
-[[nodiscard]] QString HtmlTableOf(const QString& list);
+/// Answers with the format of the list on display; none when it is no list.
+using ListFormatSource = std::function<std::optional<DisplayFormat>()>;
 
-/// What goes on the clipboard: the plain text, and the table if there is one.
-[[nodiscard]] std::unique_ptr<QMimeData> ClipboardDataOf(const QString& list);
+/// Lines of a list of that format as an HTML table: a row a line, a cell a column. "" when no line
+/// has two columns.
+[[nodiscard]] QString HtmlTableOf(const QString& list, DisplayFormat format);
+
+/// What goes on the clipboard: the plain text, and the table if it is a list that makes one.
+[[nodiscard]] std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text,
+                                                         std::optional<DisplayFormat> format);
 
 }  // namespace quillomat

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "qt/fixed_font.h"
-#include "qt/list_table.h"
 
 namespace quillomat {
 
@@ -35,7 +34,8 @@ QSize ListView::minimumSizeHint() const {
 /// The toolkit takes what is returned.
 QMimeData* ListView::createMimeDataFromSelection() const {
   const QChar paragraphEnd(QChar::ParagraphSeparator);
-  return ClipboardDataOf(textCursor().selectedText().replace(paragraphEnd, QLatin1Char('\n')))
+  return ClipboardDataOf(textCursor().selectedText().replace(paragraphEnd, QLatin1Char('\n')),
+                         listFormat_ ? listFormat_() : std::nullopt)
       .release();
 }
 

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <utility>
+
+#include "qt/list_table.h"
 
 namespace quillomat {
 
@@ -17,6 +20,9 @@ class ListView : public QPlainTextEdit {
 
   [[nodiscard]] QSize minimumSizeHint() const override;
 
+  /// Asked for the columns whenever something is copied; without it there are none.
+  void SetListFormat(ListFormatSource listFormat) { listFormat_ = std::move(listFormat); }
+
   static constexpr int kSmallestZoom = -5;
   static constexpr int kLargestZoom = 30;
 
@@ -29,6 +35,7 @@ class ListView : public QPlainTextEdit {
  private:
   qreal usualSize_;
   int zoom_ = 0;
+  ListFormatSource listFormat_;
 };
 
 }  // namespace quillomat

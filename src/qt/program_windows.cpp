@@ -34,6 +34,9 @@ Windows::Windows(Program& program, QtDesktop& desktop)
   ResizeOnScreen(*help_, QSize(760, 600).expandedTo(help_->sizeHint()));
   LeaveOthersWhenActivated(desktop);
   desktop.SetWindow(&main_);
+  const auto listFormat = [&program] { return program.output.ListFormat(); };
+  desktop.SetListFormat(listFormat);
+  main_.List().SetListFormat(listFormat);
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
   program.frmMain.cmdLanguage.Changed.Connect([this] { ShowLanguage(); });
   desktop.SetPainter([this] { ShowChanges(); });

@@ -9,7 +9,6 @@
 #include <QMessageBox>
 #include <QStandardPaths>
 
-#include "qt/list_table.h"
 #include "qt/text_conversion.h"
 #include "system/locale_info.h"
 #include "system/shell.h"
@@ -170,7 +169,8 @@ void QtDesktop::ClearClipboard() {
 
 void QtDesktop::PutClipboardText(const std::string& text) {
   // The clipboard takes the data over.
-  QApplication::clipboard()->setMimeData(ClipboardDataOf(ToQtLines(text)).release());
+  const auto format = listFormat_ ? listFormat_() : std::nullopt;
+  QApplication::clipboard()->setMimeData(ClipboardDataOf(ToQtLines(text), format).release());
 }
 
 void QtDesktop::Repaint() {

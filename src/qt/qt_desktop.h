@@ -4,7 +4,9 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <utility>
 
+#include "qt/list_table.h"
 #include "ui/desktop.h"
 
 namespace quillomat {
@@ -13,6 +15,9 @@ class QtDesktop final : public Desktop {
  public:
   /// What shows the changes of the windows; nothing is shown before it is set.
   void SetPainter(std::function<void()> showChanges) { showChanges_ = std::move(showChanges); }
+
+  /// Asked for the columns of a text that goes on the clipboard; without it there are none.
+  void SetListFormat(ListFormatSource listFormat) { listFormat_ = std::move(listFormat); }
 
   /// The window that the user is in, or was in last: boxes are shown over it. It outlives them.
   void SetWindow(QWidget* window) { window_ = window; }
@@ -36,6 +41,7 @@ class QtDesktop final : public Desktop {
   [[nodiscard]] QWidget* BoxParent() const;
 
   std::function<void()> showChanges_;
+  ListFormatSource listFormat_;
   QPointer<QWidget> window_;
   UserRegistry registry_;
   std::optional<std::string> digitGroupSeparator_;  // asked of the system once

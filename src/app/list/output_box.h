@@ -4,9 +4,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "listing/display_format.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 
@@ -15,10 +17,11 @@ namespace quillomat {
 /// In characters: a list in the text box grows no further, and new words are no longer shown.
 inline constexpr std::size_t kDisplayLimit = 44'000;
 
-/// How much of a list the box holds, in words.
+/// How much of a list the box holds, in words, and in which format.
 struct ListPart {
   std::int32_t shown = 0;
   std::int32_t all = 0;
+  DisplayFormat format = DisplayFormat::kRankFrequencyWord;
 
   [[nodiscard]] bool IsCut() const { return shown < all; }
 };
@@ -40,6 +43,10 @@ class OutputBox {
 
   /// Of the list in the box; of no words when it holds none.
   [[nodiscard]] ListPart Part() const { return IsEmpty() ? ListPart() : part_; }
+  /// The format of the list in the box; none when it holds no list.
+  [[nodiscard]] std::optional<DisplayFormat> ListFormat() const {
+    return Part().all > 0 ? std::optional(part_.format) : std::nullopt;
+  }
   void SetListPart(ListPart part) { part_ = part; }
 
   /// Keeps the text that stands in the box now.

@@ -190,7 +190,8 @@ void WordLister::ListIntoTextBox() {
     return;
   }
   output_.ShowText(accumulator_);
-  output_.SetListPart({sink.WordsTaken(), state_.totals.NumIncludedWords});
+  output_.SetListPart(
+      {sink.WordsTaken(), state_.totals.NumIncludedWords, formatter.Options().format});
   if (output_.IsFull()) ReportProblem(kTextBoxFull, "Insufficient memory");
 }
 
