@@ -40,14 +40,13 @@ std::string_view TakeCell(std::string_view& rest) {
 }
 
 std::vector<std::string_view> CellsOfColumns(std::string_view line, std::string_view columns) {
-  const std::vector<std::string_view> whole = {line};
   std::string_view rest = TrimBlanks(line);
   std::vector<std::string_view> cells;
   for (std::size_t i = 0; i + 1 < columns.size(); ++i) cells.push_back(TakeCell(rest));
   cells.push_back(rest);  // of a header it may have blanks
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const bool fits = columns[i] == 'N' ? IsNumberCell(cells[i]) : IsWordCell(cells[i]);
-    if (!fits || cells[i].empty()) return whole;
+    if (!fits || cells[i].empty()) return {line};
   }
   return cells;
 }

@@ -37,6 +37,7 @@ class Newcomer {
     LookForAWord();
     LeaveABadFolder();
     OpenTheParameters();
+    EditAWordsFileByHand();
   }
 
  private:
@@ -246,6 +247,44 @@ class Newcomer {
     Click(program_.frmParams.cmdClose);
     WaitUntil("the panel was not buried by a click on the main window",
               [this] { return !windows_.Panel().isVisible(); });
+  }
+
+  void EditAWordsFileByHand() {
+    Ask([] {
+      QFile file(ToQt(Documents() + "/few.txt"));
+      return file.open(QIODevice::WriteOnly) && file.write("the\n") > 0;
+    });
+    TextBox& box = program_.frmParams.txbWordsFile[0];
+    Click(frmMain_.cmdSetParameters);
+    WaitUntil("the panel is there", [this] { return windows_.Panel().isActiveWindow(); });
+    Click(box);
+    Type(ToQt(Documents() + "/few.txt"));
+    Click(program_.frmParams.chkOutputWithCommas);
+    WaitUntil("the words are loaded when the box is left", [this] { return !NoBox(); });
+    Press("Return");
+    WaitUntil("the click that left it is carried out",
+              [this] { return NoBox() && program_.frmParams.chkOutputWithCommas.IsChecked(); });
+    Click(program_.frmParams.cmdClose);
+    Click(frmMain_.txbFile[0]);
+    Press("ctrl+a");
+    Type(ToQt(Documents() + "/harbour_en.txt"));
+    Press("Return");
+    WaitUntil("the words of the file are left out",
+              [this] { return !program_.state.Busy() && Lists("harbour") && !Lists("the"); });
+    Click(frmMain_.cmdSetParameters);
+    WaitUntil("the panel is there", [this] { return windows_.Panel().isActiveWindow(); });
+    Click(box);
+    Press("ctrl+a");
+    Press("Delete");
+    Click(program_.frmParams.cmdClose);
+    Click(frmMain_.cmdCountWords);
+    WaitUntil("no word is left out when the box is empty",
+              [this] { return !program_.state.Busy() && Lists("harbour") && Lists("the"); });
+    Expect("nothing was to be told", [this] { return NoBox(); });
+  }
+
+  bool Lists(const std::string& word) {
+    return frmMain_.txbOutput.Text().find("  " + word + " ") != std::string::npos;
   }
 
   static std::string Documents() { return FromQt(QDir::homePath()) + "/Documents"; }
