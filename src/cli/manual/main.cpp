@@ -26,7 +26,7 @@ std::string ForManual(std::string text) {
 }
 
 void WriteManual(std::ostream& out) {
-  out << ".TH QUILLOMAT\\-CLI 1 \"\" \"Quillomat " << VersionText() << "\" \"User Commands\"\n"
+  out << R"(.TH QUILLOMAT\-CLI 1 "" "Quillomat )" << VersionText() << "\" \"User Commands\"\n"
       << ".SH NAME\nquillomat\\-cli \\- count how often each word occurs in a text\n"
       << ".SH SYNOPSIS\n.B quillomat\\-cli\n[\\fIOPTION\\fR]... \\fIPATH\\fR...\n.br\n"
          ".B quillomat\\-cli\n[\\fIOPTION\\fR]... "
