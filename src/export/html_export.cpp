@@ -52,7 +52,7 @@ void AppendFacts(std::string& out, std::string_view title, const std::vector<Exp
   if (facts.empty()) return;
   out.append("<details><summary>").append(title).append("</summary>\n<table>\n");
   for (const ExportFact& fact : facts) {
-    out.append("<tr><th class=\"text\" scope=\"row\">");
+    out.append(R"(<tr><th class="text" scope="row">)");
     AppendHtml(out, fact.name);
     out.append("</th><td>");
     AppendHtml(out, TextOf(fact));
@@ -62,9 +62,9 @@ void AppendFacts(std::string& out, std::string_view title, const std::vector<Exp
 }
 
 void AppendHeads(std::string& out, const ExportTable& table) {
-  out.append("<table id=\"words\">\n<thead><tr>");
+  out.append(R"(<table id="words">)").append("\n<thead><tr>");
   for (const WordColumn column : table.columns) {
-    out.append(IsText(column) ? "<th class=\"text\" scope=\"col\">" : "<th scope=\"col\">");
+    out.append(IsText(column) ? R"(<th class="text" scope="col">)" : R"(<th scope="col">)");
     out.append("<button>").append(NameOf(column)).append("</button></th>");
   }
   out.append("</tr></thead>\n<tbody>\n");
@@ -82,7 +82,7 @@ bool WriteHtml(const ExportTable& table, ExportWriter& writer) {
   const bool whole = ForEachRow(table, [&](const ExportRow& row) {
     out.append("<tr>");
     for (const WordColumn column : table.columns) {
-      out.append(IsText(column) ? "<td class=\"text\">" : "<td>");
+      out.append(IsText(column) ? R"(<td class="text">)" : "<td>");
       if (IsText(column)) {
         AppendHtml(out, TextOf(row, column));
       } else {

@@ -44,7 +44,8 @@ double RoundedNumberOf(const ExportRow& row, WordColumn column) {
 /// A workbook of the library, which is given up unless it was closed.
 class Workbook {
  public:
-  Workbook(const std::string& path, const std::string& scratchFolder) : scratch_(scratchFolder) {
+  Workbook(const std::string& path, std::string scratchFolder)
+      : scratch_(std::move(scratchFolder)) {
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
     options.tmpdir = scratch_.data();
