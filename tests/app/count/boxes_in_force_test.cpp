@@ -93,10 +93,12 @@ TEST_F(BoxesInForce, ClickThatLeavesTooManyTypedWordsIsCarriedOutBeforeTheMessag
 TEST_F(BoxesInForce, StateIsSavedWithWhatIsInForce) {
   Panel().SetFocus(WordsFileBox(WordListKind::kIgnore));
   TypeWordsFile(WordListKind::kIgnore, folder / "lost.txt");
-  Panel().txbStateFile.SetText(folder / "state.txt");
+  desktop.AnswerFile(folder / "state.txt");
   Panel().cmdSaveLoadState[0].PerformClick();
   EXPECT_EQ(desktop.Titles().front(), "File not found");
-  EXPECT_FALSE(Has(folder.Read("state.txt"), "lost.txt"));
+  const std::string state = ContentsOf(folder / "state.txt");
+  EXPECT_NE(state, "");
+  EXPECT_FALSE(Has(state, "lost.txt"));
 }
 
 TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
