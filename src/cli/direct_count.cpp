@@ -10,6 +10,7 @@
 #include "app/count/window_count.h"
 #include "app/list/summary.h"
 #include "cli/standard_output.h"
+#include "listing/display_format.h"
 #include "sources/counter.h"
 #include "system/file_system.h"
 

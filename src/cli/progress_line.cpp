@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <ostream>
 #include <string_view>
 
@@ -35,7 +36,7 @@ std::string Amount(double bytes) {
 /// "0:05", "1:02:03".
 std::string Clock(double seconds) {
   constexpr std::int64_t kSixty = 60;
-  const auto whole = static_cast<std::int64_t>(seconds + 0.5);
+  const auto whole = static_cast<std::int64_t>(std::lround(seconds));
   const auto twoDigits = [](std::int64_t number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
   };

@@ -58,8 +58,11 @@ EscapingBuffer::int_type EscapingBuffer::overflow(int_type character) {
 
 void WriteUnescaped(std::ostream& out, std::string_view text) {
   const auto* const escaping = dynamic_cast<EscapingBuffer*>(out.rdbuf());
-  std::streambuf& target = escaping != nullptr ? escaping->Target() : *out.rdbuf();
-  target.sputn(text.data(), static_cast<std::streamsize>(text.size()));
+  if (escaping == nullptr) {
+    out << text;
+  } else {
+    escaping->Target().sputn(text.data(), static_cast<std::streamsize>(text.size()));
+  }
 }
 
 std::ostream& operator<<(std::ostream& err, const Headed& headed) {
