@@ -79,6 +79,7 @@ std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
                                                       const std::string& path) {
   if (!MayBeMade(target) || IsDeviceName(target)) return std::nullopt;
   const std::wstring system = SystemPath(target);
+  if (!NamesFit(system)) return std::nullopt;
   const DWORD attributes = AttributesOf(system);
   if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) return std::nullopt;
   // A file that may not be written, or that others hold open, tells why when it is opened in place.

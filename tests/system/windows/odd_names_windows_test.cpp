@@ -174,7 +174,7 @@ TEST_F(OddNames, TheCurrentFolderCanBeMovedToTheRoot) {
 }
 
 TEST_F(OddNames, TheProgramKnowsItsFolder) {
-  EXPECT_TRUE(FileExists(JoinPath(ProgramFolder(), "quillomat_desktop_tests.exe")));
+  EXPECT_TRUE(FileExists(JoinPath(ProgramFolder(), "quillomat_system_tests.exe")));
 }
 
 }  // namespace
