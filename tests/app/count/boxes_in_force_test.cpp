@@ -37,7 +37,7 @@ class BoxesInForce : public CountFixture {
 };
 
 TEST_F(BoxesInForce, LeavingTheBoxTakesTheWordsFileThatWasTyped) {
-  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\ncat\n"));
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\r\ncat\r\n"));
   LeaveWordsFile(WordListKind::kIgnore);
   EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded"));
   EXPECT_THAT(IgnoredOfFile(), ElementsAre("cat", "dog"));
@@ -45,7 +45,7 @@ TEST_F(BoxesInForce, LeavingTheBoxTakesTheWordsFileThatWasTyped) {
 
 TEST_F(BoxesInForce, LeavingTheBoxWithTheFileInForceReadsNothing) {
   CountClipboard("dog");
-  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\n"));
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\r\n"));
   LeaveWordsFile(WordListKind::kIgnore);
   CountClipboard("dog");
   desktop.ForgetQuestions();
@@ -102,7 +102,7 @@ TEST_F(BoxesInForce, StateIsSavedWithWhatIsInForce) {
 }
 
 TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
-  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\r\n"));
   LeaveWordsFile(WordListKind::kIgnore);
   TypeWordsFile(WordListKind::kIgnore, "");
   LeaveWordsFile(WordListKind::kIgnore);
@@ -110,7 +110,7 @@ TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
 }
 
 TEST_F(BoxesInForce, ACountReadsAWordsFileThatIsNotInForceWithoutAWord) {
-  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\r\n"));
   CountClipboard("dog cat");
   EXPECT_THAT(desktop.Titles(), IsEmpty());
   EXPECT_TRUE(Has(Output(), "cat"));
@@ -118,7 +118,7 @@ TEST_F(BoxesInForce, ACountReadsAWordsFileThatIsNotInForceWithoutAWord) {
 }
 
 TEST_F(BoxesInForce, ACountForgetsAWordsFileWhoseBoxWasEmptied) {
-  TypeWordsFile(WordListKind::kCountOnly, folder.Write("a.txt", "dog\n"));
+  TypeWordsFile(WordListKind::kCountOnly, folder.Write("a.txt", "dog\r\n"));
   CountClipboard("dog cat");
   EXPECT_EQ(StoredWords(), "dog");
   TypeWordsFile(WordListKind::kCountOnly, "");
@@ -139,7 +139,7 @@ TEST_F(BoxesInForce, ACountThatLacksItsWordsFileIsRefusedOnce) {
 }
 
 TEST_F(BoxesInForce, ARefusedWordsFileLeavesBoxAndListEmpty) {
-  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\n"));
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\r\n"));
   LeaveWordsFile(WordListKind::kIgnore);
   TypeWordsFile(WordListKind::kIgnore, folder.Write("b.bin", std::string("a\0b", 3)));
   LeaveWordsFile(WordListKind::kIgnore);
