@@ -15,8 +15,11 @@ namespace {
 /// from it, the folder is met.
 bool LeadsInto(const std::string& folder, bool includeSubfolders, const std::string& path) {
   std::string above = FolderPartOf(FromRootOn(BehindLinks(path).value_or(path)));
+  // There are no more folders above it than its path names; where one is not there, "up" leads
+  // nowhere.
+  auto left = std::ranges::count_if(above, IsPathSeparator) + 1;
   while (!IsSameFile(above, folder)) {
-    if (!includeSubfolders) return false;
+    if (!includeSubfolders || left-- == 0) return false;
     // The system's own way up: a folder may be known by a link.
     std::string next = JoinPath(above, "..");
     if (IsSameFile(next, above)) return false;
@@ -49,7 +52,10 @@ bool LiesInFolder(const std::string& path, const std::string& folder, bool inclu
   if (NamesNothing(path) || NamesNothing(folder)) return false;
   if (IsInFolder(path, folder, includeSubfolders)) return true;
   if (LeadsInto(folder, includeSubfolders, path)) return true;
-  return FileLength(path).has_value() && HoldsFile(folder, includeSubfolders, path);
+  // On Windows other names of a file are rare, and to look for one may mean to walk a whole drive.
+  const bool linksAreCommon = PathSeparator() == '/';
+  return linksAreCommon && FileLength(path).has_value() &&
+         HoldsFile(folder, includeSubfolders, path);
 }
 
 }  // namespace quillomat
