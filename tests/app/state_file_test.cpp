@@ -7,6 +7,7 @@
 #include "app/state_lines.h"
 #include "support/program_fixture.h"
 #include "support/user_home.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {
@@ -216,7 +217,10 @@ TEST_F(StateFileTest, AReaderNeverSeesHalfOfWhatAWriterWrites) {
     }
   });
   for (int turn = 0; turn < kTurns; ++turn) {
-    ASSERT_EQ(program.savedState.ReadControls(path), RestoreResult::kRestored)
+    const RestoreResult result = program.savedState.ReadControls(path);
+    // While a file takes the place of another, Windows may for a moment show neither.
+    const bool neither = PathSeparator() == '\\' && result == RestoreResult::kNoFile;
+    EXPECT_TRUE(neither || result == RestoreResult::kRestored)
         << program.savedState.ErrorDescription();
   }
   writer.join();
