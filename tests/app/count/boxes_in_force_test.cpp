@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "app/count/count_fixture.h"
+#include "base/text_helpers.h"
 #include "support/permissions.h"
 
 #ifndef _WIN32
@@ -157,7 +158,10 @@ TEST_F(BoxesInForce, TheDefaultWordsThatStandInForALostFileAreReadByTheNextCount
   State().blnInhibitPrompt = false;
   ASSERT_TRUE(Has(WordsFileBox(WordListKind::kIgnore).Text(), "cwds_en.txt"));
   CountClipboard("the zebra");
-  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  // The file of the source tree has Unix line ends, of which Windows is warned.
+  if (kPlatformLineBreak == "\n") {
+    EXPECT_THAT(desktop.Titles(), IsEmpty());
+  }
   EXPECT_FALSE(Has(Output(), "the"));
 }
 
