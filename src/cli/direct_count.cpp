@@ -185,6 +185,7 @@ void DirectCount::Take(CountResult result) const {
   CountState& state = program_.state;
   state.DiscardWords();
   state.counted = input_.AsText(program_.frmMain.chkIncludeSubfolders.IsChecked());
+  state.counted.filesRead = std::move(result.filesRead);
   state.store = std::move(result.store);
   state.totals = result.totals;
   state.ranking = std::move(result.ranking);

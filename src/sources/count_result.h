@@ -14,6 +14,7 @@
 #include "listing/list_line.h"
 #include "sources/line_endings.h"
 #include "sources/marker_fault.h"
+#include "system/file_identity.h"
 
 namespace quillomat {
 
@@ -60,6 +61,8 @@ struct FileReport {
   /// So many were read.
   std::int64_t bytesRead = 0;
   TextEncoding encoding = TextEncoding::kUtf8OrWindows1252;
+  /// Of a file of the disk that was read, if only in part: nothing may be written over it.
+  std::optional<FileIdentity> identity;
   /// Judged by the first bytes.
   LineEndingType lineEnds = LineEndingType::kDos;
 };
@@ -104,6 +107,8 @@ struct CountResult {
   std::int32_t folders = 0;
   /// Every file that was met, in their order; only if the request wants them, and for a single one.
   std::vector<FileReport> reports;
+  /// The files of the disk that were read, if only in part; as CountedText::filesRead.
+  std::vector<FileIdentity> filesRead;
   /// What was left out of a folder or a list of paths although it should have been read (IsFault):
   /// the first kMaxSkipped, and how many in all.
   std::vector<SkippedFile> skipped;

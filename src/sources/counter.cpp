@@ -156,6 +156,7 @@ class Count {
     }
     result_.store.SetListener(nullptr);
     result_.openComment = settings_.OpenComment;
+    SortFilesRead(result_.filesRead);
     return std::move(result_);
   }
 
@@ -216,6 +217,7 @@ class Count {
       report.refusal = Refusal::kReadFailed;
       report.error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
     }
+    if (report.identity) result_.filesRead.push_back(*report.identity);
   }
 
   void ReadFile(const std::string& path, FileReport& report) {
@@ -233,6 +235,7 @@ class Count {
     }
     const std::string_view head = file->Ahead(HeadBytes(kTextTestBytes));
     if (!Begin(report, head, file->Length())) return;
+    report.identity = file->Identity();
     ReadText(*file, file->Length() >= TextReader::kBytesWorthThreads, report);
   }
 

@@ -8,19 +8,21 @@
 namespace quillomat {
 namespace {
 
+std::optional<NeededAs> WhyNotToWriteByPath(const std::string& path, const CountedText& text);
+
 std::optional<NeededAs> WhyNotToWriteForAny(const std::string& path, const CountedText& text) {
   for (const std::string& counted : text.paths) {
     const auto source =
         FolderExists(counted) ? CountedText::Source::kFolder : CountedText::Source::kFile;
-    const auto neededAs = WhyNotToWrite(path, CountedText{source, counted, text.withSubfolders});
+    const auto neededAs =
+        WhyNotToWriteByPath(path, CountedText{source, counted, text.withSubfolders});
     if (neededAs) return neededAs;
   }
   return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText& text) {
+/// By the paths that name the text, as it can be told before anything is read.
+std::optional<NeededAs> WhyNotToWriteByPath(const std::string& path, const CountedText& text) {
   switch (text.source) {
     case CountedText::Source::kFile:
       if (IsSameFile(path, text.path)) return NeededAs::kText;
@@ -34,6 +36,25 @@ std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText
       break;
   }
   return std::nullopt;
+}
+
+bool WasRead(const std::string& path, const CountedText& text) {
+  if (text.filesRead.empty()) return false;
+  const std::optional<FileIdentity> file = IdentityOf(path);
+  return file && std::ranges::binary_search(text.filesRead, *file);
+}
+
+}  // namespace
+
+void SortFilesRead(std::vector<FileIdentity>& files) {
+  std::ranges::sort(files);
+  files.erase(std::unique(files.begin(), files.end()), files.end());
+}
+
+std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText& text) {
+  if (const auto neededAs = WhyNotToWriteByPath(path, text)) return neededAs;
+  if (!WasRead(path, text)) return std::nullopt;
+  return text.source == CountedText::Source::kFolder ? NeededAs::kPartOfFolder : NeededAs::kText;
 }
 
 std::optional<NeededAs> WhyNotToWrite(const std::string& path, const FilesRead& filesRead) {

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "system/file_identity.h"
+
 namespace quillomat {
 
 /// Where a count gets its text.
@@ -21,7 +23,13 @@ struct CountedText {
   bool withSubfolders = false;
   /// Of files and folders that are counted together.
   std::vector<std::string> paths = {};
+  /// The files that a count has read, in order (SortFilesRead), whatever their names; none before
+  /// it.
+  std::vector<FileIdentity> filesRead = {};
 };
+
+/// Puts them in order, each of them once.
+void SortFilesRead(std::vector<FileIdentity>& files);
 
 /// The files that were read besides the text; "" for none.
 struct FilesRead {

@@ -68,9 +68,13 @@ std::int64_t FileLengthOrThrow(const std::string& path) {
 
 bool IsSameFile(const std::string& left, const std::string& right) {
   if (NamesNothing(left) || NamesNothing(right)) return false;
-  std::error_code error;
-  const bool same = AreSameItem(left, right, error);
-  return error ? SamePath(left, right) : same;
+  const std::optional<FileIdentity> one = IdentityOfItem(left);
+  const std::optional<FileIdentity> other = IdentityOfItem(right);
+  return one && other ? one == other : SamePath(left, right);
+}
+
+std::optional<FileIdentity> IdentityOf(const std::string& path) {
+  return NamesNothing(path) ? std::nullopt : IdentityOfItem(path);
 }
 
 FolderListing ListFolder(const std::string& path) {

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "system/file_identity.h"
 #include "system/paths.h"
 
 namespace quillomat {
@@ -27,6 +28,9 @@ namespace quillomat {
 /// Whether both paths lead to one file; where one of them leads nowhere, whether they are spelled
 /// the same (SamePath).
 [[nodiscard]] bool IsSameFile(const std::string& left, const std::string& right);
+
+/// Of the file or folder that the path leads to; nothing when it leads nowhere.
+[[nodiscard]] std::optional<FileIdentity> IdentityOf(const std::string& path);
 
 struct FolderListing {
   std::vector<std::string> files;       // names of regular files and of links to such

@@ -3,12 +3,14 @@
 
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "base/byte_source.h"
+#include "system/file_identity.h"
 #include "system/native_file.h"
 
 namespace quillomat {
@@ -24,6 +26,9 @@ class InputFile final : public ByteSource {
 
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
+
+  /// Nothing where the system does not tell.
+  [[nodiscard]] std::optional<FileIdentity> Identity() const { return file_.Identity(); }
 
   /// Whether bytes are at hand, or there will be none; see NativeFile::IsReady.
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {

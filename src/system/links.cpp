@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/run_time_error.h"
 #include "system/file_system.h"
 #include "system/native_disk.h"
 #include "system/native_path.h"
@@ -28,34 +27,11 @@ bool LeadsInto(const std::string& folder, bool includeSubfolders, const std::str
   return true;
 }
 
-/// Whether the file at `path` is one of the folder's.
-bool HoldsFile(const std::string& folder, bool includeSubfolders, const std::string& path) {
-  FolderListing listing;
-  try {
-    listing = ListFolder(folder);
-  } catch (const RunTimeError&) {
-    return false;
-  }
-  const auto isFile = [&](const std::string& name) {
-    return IsSameFile(JoinPath(folder, name), path);
-  };
-  const auto holdsFile = [&](const std::string& name) {
-    return HoldsFile(JoinPath(folder, name), true, path);
-  };
-  return std::ranges::any_of(listing.files, isFile) ||
-         (includeSubfolders && std::ranges::any_of(listing.subfolders, holdsFile));
-}
-
 }  // namespace
 
 bool LiesInFolder(const std::string& path, const std::string& folder, bool includeSubfolders) {
   if (NamesNothing(path) || NamesNothing(folder)) return false;
-  if (IsInFolder(path, folder, includeSubfolders)) return true;
-  if (LeadsInto(folder, includeSubfolders, path)) return true;
-  // On Windows other names of a file are rare, and to look for one may mean to walk a whole drive.
-  const bool linksAreCommon = PathSeparator() == '/';
-  return linksAreCommon && FileLength(path).has_value() &&
-         HoldsFile(folder, includeSubfolders, path);
+  return IsInFolder(path, folder, includeSubfolders) || LeadsInto(folder, includeSubfolders, path);
 }
 
 }  // namespace quillomat

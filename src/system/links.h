@@ -1,14 +1,13 @@
-// Where files are once links are followed, symbolic and hard ones. Paths as in paths.h.
+// Where files are once symbolic links are followed. Paths as in paths.h.
 #pragma once
 
 #include <string>
 
 namespace quillomat {
 
-/// As IsInFolder, but by any way: as the paths are spelled, with symbolic links followed on both
-/// sides, and by another name of the same file, which may be a link in the folder that leads out of
-/// it. Walks through the folder where there is a file at `path`. Never throws: what may not be read
-/// holds nothing.
+/// As IsInFolder, as the paths are spelled or with symbolic links followed on both sides. What a
+/// file in the folder is called elsewhere is not looked for: that would mean to walk through the
+/// folder. Never throws.
 [[nodiscard]] bool LiesInFolder(const std::string& path, const std::string& folder,
                                 bool includeSubfolders);
 

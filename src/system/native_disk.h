@@ -10,6 +10,7 @@
 #include <string>
 #include <system_error>
 
+#include "system/file_identity.h"
 #include "system/file_system.h"
 
 namespace quillomat {
@@ -22,10 +23,8 @@ enum class ItemKind { kNothing, kFile, kFolder };
 /// In bytes; an error for what has no length.
 [[nodiscard]] std::int64_t LengthOfFile(const std::string& path, std::error_code& error);
 
-/// Whether two paths that both lead somewhere lead to the same place; an error when one of them
-/// does not.
-[[nodiscard]] bool AreSameItem(const std::string& left, const std::string& right,
-                               std::error_code& error);
+/// Of the file or folder that a path leads to, links followed; nothing when it leads nowhere.
+[[nodiscard]] std::optional<FileIdentity> IdentityOfItem(const std::string& path);
 
 /// As ListFolder, but in no order.
 [[nodiscard]] FolderListing ItemsOfFolder(const std::string& path, std::error_code& error);

@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "base/run_time_error.h"
+#include "system/file_identity.h"
 
 namespace quillomat {
 
@@ -50,6 +51,9 @@ class NativeFile {
 
   /// In bytes; 0 for what has no length.
   [[nodiscard]] std::int64_t Length() const;
+
+  /// Nothing where the system does not tell.
+  [[nodiscard]] std::optional<FileIdentity> Identity() const;
 
   /// Whether a Read would not wait: bytes have come, or there will be none. Waits for that, but no
   /// longer than it is told. A pipe is not ready before somebody has opened it for writing. Where

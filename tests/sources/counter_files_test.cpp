@@ -1,10 +1,12 @@
 // The counter on many files: a folder, a list of paths.
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <new>
 
 #include "base/run_time_error.h"
 #include "sources/counter_fixture.h"
 #include "support/chunked_source.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {
@@ -47,6 +49,20 @@ TEST_F(ManyFiles, AreChosenByTheirExtensions) {
   Put("e.png", "bee");
   EXPECT_EQ(WordsOf(Run(TextOfFolder{folder.Path(), true, {{"htm", "png"}, {}}})), "owl");
   EXPECT_EQ(WordsOf(Run(TextOfFolder{folder.Path(), true, {{}, {"txt"}}})), "owl");
+}
+
+TEST_F(ManyFiles, ThatWereReadAreKnownWhateverTheirNames) {
+  Put("d.png", std::string("\0\1\2\3", 4));
+  Put("e.log", "owl");
+  const CountResult result = Run(TextOfFolder{folder.Path(), true, {{}, {"log"}}});
+  std::vector<FileIdentity> read;
+  for (const std::string name : {"a.txt", "b.txt", "sub/c.txt"}) {
+    read.push_back(IdentityOf(folder / name).value());
+  }
+  EXPECT_THAT(result.filesRead, testing::UnorderedElementsAreArray(read));
+  EXPECT_TRUE(std::ranges::is_sorted(result.filesRead));
+  const std::string twice = folder / "a.txt";
+  EXPECT_EQ(Run(TextOfPaths{{twice, twice}, false, {}, nullptr}).filesRead.size(), 1U);
 }
 
 TEST_F(ManyFiles, OfAListAreCountedInTheOrderGiven) {

@@ -53,6 +53,7 @@ CountResult CountInWindow(const RunContext& context, const CountRequest& request
     CountState& state = context.state;
     state.store = std::move(result.store);
     state.WordsRead = result.wordsRead;
+    state.counted.filesRead = std::move(result.filesRead);
     state.settings.OpenComment = result.openComment;
   }
   return result;

@@ -66,11 +66,11 @@ std::int64_t LengthOfFile(const std::string& path, std::error_code& error) {
   return status.st_size;
 }
 
-bool AreSameItem(const std::string& left, const std::string& right, std::error_code& error) {
-  const struct stat one = StatusOf(left, error);
-  if (error) return false;
-  const struct stat other = StatusOf(right, error);
-  return !error && one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+std::optional<FileIdentity> IdentityOfItem(const std::string& path) {
+  std::error_code error;
+  const struct stat status = StatusOf(path, error);
+  if (error) return std::nullopt;
+  return FileIdentity{status.st_dev, status.st_ino};
 }
 
 FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {

@@ -185,6 +185,12 @@ std::int64_t NativeFile::Length() const {
   return S_ISREG(status.st_mode) ? std::int64_t{status.st_size} : 0;
 }
 
+std::optional<FileIdentity> NativeFile::Identity() const {
+  struct stat status {};
+  if (fstat(static_cast<int>(handle_), &status) != 0) return std::nullopt;
+  return FileIdentity{status.st_dev, status.st_ino};
+}
+
 bool NativeFile::IsReady(std::chrono::milliseconds longest) const {
   pollfd waiting{.fd = static_cast<int>(handle_), .events = POLLIN, .revents = 0};
   // What goes wrong here, Read will tell; an interrupted wait is one that was too short.

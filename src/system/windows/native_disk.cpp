@@ -4,6 +4,7 @@
 #include <optional>
 #include <windows.h>
 
+#include "system/windows/handle_identity.h"
 #include "system/windows/system_path.h"
 #include "system/windows/wide_text.h"
 #include "system/windows/windows_error.h"
@@ -103,16 +104,9 @@ std::int64_t LengthOfFile(const std::string& path, std::error_code& error) {
   return static_cast<std::int64_t>(std::uint64_t{facts->lengthHigh} << 32U | facts->lengthLow);
 }
 
-bool AreSameItem(const std::string& left, const std::string& right, std::error_code& error) {
-  const Handle first = OpenToAsk(SystemPath(left));
-  const Handle second = OpenToAsk(SystemPath(right));
-  BY_HANDLE_FILE_INFORMATION one{};
-  BY_HANDLE_FILE_INFORMATION other{};
-  const bool known = first && second && GetFileInformationByHandle(first.get(), &one) != 0 &&
-                     GetFileInformationByHandle(second.get(), &other) != 0;
-  TakeError(known ? TRUE : FALSE, error);
-  return known && one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
-         one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+std::optional<FileIdentity> IdentityOfItem(const std::string& path) {
+  const Handle handle = OpenToAsk(SystemPath(path));
+  return handle ? IdentityOfHandle(handle.get()) : std::nullopt;
 }
 
 FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {

@@ -7,6 +7,7 @@
 #include "system/native_path.h"
 #include "system/paths.h"
 #include "system/system_error.h"
+#include "system/windows/handle_identity.h"
 #include "system/windows/system_path.h"
 #include "system/windows/windows_error.h"
 
@@ -115,6 +116,10 @@ std::int64_t NativeFile::Length() const {
     ThrowError(GetLastError(), FileAction::kTransfer);
   }
   return bytes.QuadPart;
+}
+
+std::optional<FileIdentity> NativeFile::Identity() const {
+  return IdentityOfHandle(AsHandle(handle_));
 }
 
 bool NativeFile::IsReady(std::chrono::milliseconds /*longest*/) const {

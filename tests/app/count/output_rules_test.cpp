@@ -19,6 +19,26 @@ TEST_F(OutputRules, AnotherNameOfACountedFileIsRefused) {
   ExpectRefusedInFolder(folder / "hard.txt");
 }
 
+TEST_F(OutputRules, AnotherNameOfACountedFileTakesNoState) {
+  const std::string text = folder.Write("g/a.txt", "dog");
+  std::filesystem::create_hard_link(TestPath(text), TestPath(folder / "hard.qlm"));
+  CountFolder(folder / "g");
+  EXPECT_EQ(program.savedState.SaveState(folder / "hard.qlm"),
+            "Error when attempting to save state: the file lies in the folder that is counted.");
+}
+
+TEST_F(OutputRules, AnotherNameOfAFileThatWasNotCountedIsWritten) {
+  static_cast<void>(folder.Write("g/a.txt", "dog"));
+  const std::string other = folder.Write("g/b.log", "cat");
+  std::filesystem::create_hard_link(TestPath(other), TestPath(folder / "hard.txt"));
+  Main().txbFileExtensions[0].SetText("txt");
+  ListTo(folder / "hard.txt");
+  CountFolder(folder / "g");
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_TRUE(Has(ContentsOf(folder / "hard.txt"), "dog"));
+  EXPECT_EQ(ContentsOf(other), "cat");
+}
+
 TEST_F(OutputRules, TheTextThatWasCountedIsSparedWhateverTheButtonsSayNow) {
   const std::string text = folder.Write("a.txt", "dog");
   CountFile(text);
