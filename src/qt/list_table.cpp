@@ -1,6 +1,5 @@
 #include "qt/list_table.h"
 
-#include <QStringList>
 #include <string>
 
 #include "listing/list_cells.h"
@@ -8,20 +7,30 @@
 
 namespace quillomat {
 
+void HtmlTable::AddRow(const QStringList& cells) {
+  rows_ += QStringLiteral("<tr>");
+  for (const QString& cell : cells) {
+    rows_ += QStringLiteral("<td>") + cell.toHtmlEscaped() + QStringLiteral("</td>");
+  }
+  rows_ += QStringLiteral("</tr>\n");
+}
+
+QString HtmlTable::Whole() const {
+  return QStringLiteral("<table>\n") + rows_ + QStringLiteral("</table>\n");
+}
+
 QString HtmlTableOf(const QString& list, DisplayFormat format) {
   bool hasColumns = false;
-  QString table = QStringLiteral("<table>\n");
+  HtmlTable table;
   for (const QString& text : list.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
     const std::string line = FromQt(text);
     const std::vector<std::string_view> cells = CellsOf(line, format);
     hasColumns = hasColumns || cells.size() > 1;
-    table += QStringLiteral("<tr>");
-    for (const std::string_view cell : cells) {
-      table += QStringLiteral("<td>") + ToQt(cell).toHtmlEscaped() + QStringLiteral("</td>");
-    }
-    table += QStringLiteral("</tr>\n");
+    QStringList shown;
+    for (const std::string_view cell : cells) shown.append(ToQt(cell));
+    table.AddRow(shown);
   }
-  return hasColumns ? table + QStringLiteral("</table>\n") : QString();
+  return hasColumns ? table.Whole() : QString();
 }
 
 std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text,

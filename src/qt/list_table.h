@@ -3,6 +3,7 @@
 
 #include <QMimeData>
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -13,6 +14,17 @@ namespace quillomat {
 
 /// Answers with the format of the list on display; none when it is no list.
 using ListFormatSource = std::function<std::optional<DisplayFormat>()>;
+
+/// An HTML table that is put together row by row.
+class HtmlTable {
+ public:
+  /// `cells` as plain text.
+  void AddRow(const QStringList& cells);
+  [[nodiscard]] QString Whole() const;
+
+ private:
+  QString rows_;
+};
 
 /// Lines of a list of that format as an HTML table: a row a line, a cell a column. "" when no line
 /// has two columns.

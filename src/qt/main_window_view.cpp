@@ -48,7 +48,9 @@ MainWindowView::MainWindowView(Program& program)
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
       findBar_((ui_->setupUi(this), *ui_->txbOutput),
-               [&program] { return ToQt(program.NotFoundText()); }) {
+               [&program] { return ToQt(program.NotFoundText()); }),
+      views_(new ResultTabs),
+      table_(new TablePage(program)) {
   setAcceptDrops(true);
   MakeRowsFlow(*this);
   ui_->splitter->setStretchFactor(1, 1);  // a wider window is for the list
@@ -56,8 +58,7 @@ MainWindowView::MainWindowView(Program& program)
           [this] { ui_->splitter->setProperty(kPlacedByUser, true); });
   PlaceNotices();
   BindControls();
-  auto* result = static_cast<QVBoxLayout*>(ui_->paneResult->layout());
-  result->insertWidget(result->indexOf(ui_->txbOutput) + 1, &findBar_);
+  PlaceViews();
   for (QLineEdit* box : {ui_->txbFile_0, ui_->txbFile_1}) {
     new PathSuggestions(*box, PathKind::kFile);
   }
@@ -74,6 +75,22 @@ MainWindowView::~MainWindowView() {
 
 ListView& MainWindowView::List() const {
   return *ui_->txbOutput;
+}
+
+/// The text box, with what finds words in it, becomes the first of several views.
+void MainWindowView::PlaceViews() {
+  auto* text = new QWidget;
+  ui_->paneResult->layout()->replaceWidget(ui_->txbOutput, views_);
+  auto* column = new QVBoxLayout(text);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(ui_->txbOutput, 1);
+  column->addWidget(&findBar_);
+  views_->Add(text, QStringLiteral("text"), kTextViewText, [this] { findBar_.Open(); });
+  views_->Add(table_, QStringLiteral("table"), kTableViewText, [this] { table_->Find(); });
+  // What stands below the views comes behind them on the keyboard's way, too.
+  setTabOrder(&table_->View(), ui_->cmdCopyToClipboard);
+  setTabOrder(ui_->cmdCopyToClipboard, ui_->cmdClearOutput);
+  setTabOrder(ui_->cmdClearOutput, ui_->cmdClipboardViewer);
 }
 
 /// The notices stand over the empty list.
@@ -116,6 +133,8 @@ void MainWindowView::changeEvent(QEvent* event) {
 
 void MainWindowView::SetTexts(const ProgramText& text) {
   findBar_.SetTexts(text);
+  views_->SetTexts(text);
+  table_->SetTexts(text);
   fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
   ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
   ShowProgress();
@@ -179,7 +198,7 @@ void MainWindowView::ConnectKeys() {
     if (frmMain.cmdHelp.Enabled()) frmMain.cmdHelp.Click.Fire();
   };
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
-          [this] { findBar_.Open(); });
+          [this] { views_->Find(); });
 }
 
 void MainWindowView::ConnectZoom() {

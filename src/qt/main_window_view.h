@@ -10,6 +10,8 @@
 #include "qt/find_bar.h"
 #include "qt/form_window.h"
 #include "qt/list_view.h"
+#include "qt/result_tabs.h"
+#include "qt/table_page.h"
 
 namespace Ui {
 class frmMain;
@@ -28,6 +30,9 @@ class MainWindowView final : public FormWindow {
 
   [[nodiscard]] ListView& List() const;
   [[nodiscard]] FindBar& Finder() { return findBar_; }
+  /// The views of the result, and that of them which is a table.
+  [[nodiscard]] ResultTabs& Views() { return *views_; }
+  [[nodiscard]] TablePage& Table() { return *table_; }
 
   /// The texts that are the window's own, in the current language.
   void SetTexts(const ProgramText& text);
@@ -40,6 +45,7 @@ class MainWindowView final : public FormWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void PlaceViews();
   void PlaceNotices();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;
   void ShowNoticesInWindowFont();
@@ -53,6 +59,9 @@ class MainWindowView final : public FormWindow {
   Program& program_;
   std::unique_ptr<Ui::frmMain> ui_;
   FindBar findBar_;
+  // Children of the window.
+  ResultTabs* views_;
+  TablePage* table_;
   /// "File %1 of %2".
   QString fileOfFiles_;
 };

@@ -110,6 +110,8 @@ void Windows::RestorePlaces() {
   memory.Restore(*panel_);
   memory.Restore(*help_);
   memory.RestoreZoom(main_.List());
+  memory.RestoreView(main_.Views());
+  memory.RestoreColumns(main_.Table().View());
   program_.state.lastFolder = FromQt(memory.LastFolder());
 }
 
@@ -121,6 +123,8 @@ void Windows::KeepPlaces() {
     memory.Keep(*window);
   }
   memory.KeepZoom(main_.List());
+  memory.KeepView(main_.Views());
+  memory.KeepColumns(main_.Table().View());
   memory.KeepLastFolder(ToQt(program_.state.lastFolder));
 }
 

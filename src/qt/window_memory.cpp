@@ -11,6 +11,8 @@ namespace quillomat {
 namespace {
 
 const char* const kZoomKey = "list/zoom";
+const char* const kViewKey = "result/view";
+const char* const kColumnsKey = "table/columns";
 const char* const kLastFolderKey = "dialogs/folder";
 
 /// What the desktop puts round a window, in logical pixels.
@@ -58,6 +60,27 @@ void WindowMemory::RestoreZoom(ListView& list) const {
 void WindowMemory::KeepZoom(const ListView& list) const {
   QSettings settings(path_, QSettings::IniFormat);
   settings.setValue(QLatin1String(kZoomKey), list.Zoom());
+}
+
+void WindowMemory::RestoreView(ResultTabs& views) const {
+  const QSettings settings(path_, QSettings::IniFormat);
+  views.Show(settings.value(QLatin1String(kViewKey)).toString());
+}
+
+void WindowMemory::KeepView(const ResultTabs& views) const {
+  QSettings settings(path_, QSettings::IniFormat);
+  settings.setValue(QLatin1String(kViewKey), views.Current());
+}
+
+void WindowMemory::RestoreColumns(WordTableView& table) const {
+  const QSettings settings(path_, QSettings::IniFormat);
+  const QVariant columns = settings.value(QLatin1String(kColumnsKey));
+  if (columns.isValid()) table.SetWantedColumns(columns.toStringList());
+}
+
+void WindowMemory::KeepColumns(const WordTableView& table) const {
+  QSettings settings(path_, QSettings::IniFormat);
+  settings.setValue(QLatin1String(kColumnsKey), table.WantedColumns());
 }
 
 QString WindowMemory::LastFolder() const {

@@ -1,12 +1,14 @@
 // Remembers the windows' places and sizes, how their splitters stand, the size of the list's
-// letters and the folder used last, in a file of the user's settings folder. No window opens larger
-// than its screen.
+// letters, the view of the result that is in front, the columns of its table, and the folder used
+// last, in a file of the user's settings folder. No window opens larger than its screen.
 #pragma once
 
 #include <QString>
 #include <QWidget>
 
 #include "qt/list_view.h"
+#include "qt/result_tabs.h"
+#include "qt/word_table_view.h"
 
 namespace quillomat {
 
@@ -23,6 +25,12 @@ class WindowMemory {
   void Keep(const QWidget& window) const;
   void RestoreZoom(ListView& list) const;
   void KeepZoom(const ListView& list) const;
+  /// Which view of the result is in front.
+  void RestoreView(ResultTabs& views) const;
+  void KeepView(const ResultTabs& views) const;
+  /// Which columns the table of words shows.
+  void RestoreColumns(WordTableView& table) const;
+  void KeepColumns(const WordTableView& table) const;
   /// The folder in which the next dialog opens; "" for none.
   [[nodiscard]] QString LastFolder() const;
   void KeepLastFolder(const QString& folder) const;

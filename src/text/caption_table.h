@@ -168,4 +168,23 @@ inline constexpr int kNoPathDroppedText = 542;
 inline constexpr int kProgressText = 550;
 inline constexpr int kFileOfFilesText = 551;
 
+// The views of a result: their titles, and the table of words.
+inline constexpr int kTextViewText = 600;
+inline constexpr int kTableViewText = 601;
+inline constexpr int kShowWordsText = 610;
+inline constexpr int kAllWordsText = 611;
+inline constexpr int kFilterKindNameText = 612;
+/// Of the first of six FilterKinds, and so on.
+inline constexpr int kFirstFilterKindText = 613;
+// "%1" stands for the number, or for what is wrong.
+inline constexpr int kOneWordText = 620;
+inline constexpr int kWordsText = 621;
+inline constexpr int kOneInstanceText = 622;
+inline constexpr int kInstancesText = 623;
+inline constexpr int kExpressionFaultText = 624;
+/// Of the first of eight columns, and so on.
+inline constexpr int kFirstColumnText = 630;
+inline constexpr int kTableNameText = 640;
+inline constexpr int kCopyRowsText = 641;
+
 }  // namespace quillomat

@@ -25,10 +25,12 @@ class Photographer {
     user_.windows.Main().resize(1024, 700);
     Count(samples + "/harbour_en.txt");
     Save(user_.windows.Main(), "main-en");
+    TakeTable("table-en", "sea");
     TakeOthers("en");
     user_.Click(frmMain.cmdLanguage);
     Count(samples + "/leuchtturm_de.txt");
     Save(user_.windows.Main(), "main-de");
+    TakeTable("table-de", "");
     TakeOthers("de");
     user_.Click(frmMain.cmdLanguage);
     TakeRunning(samples);
@@ -53,6 +55,16 @@ class Photographer {
     user_.Click(user_.program.frmMain.cmdHelp);
     Save(user_.windows.Help(), "help-" + language);
     user_.Click(user_.program.frmHelp.cmdClose);
+  }
+
+  /// The table of words, filtered by the beginning of words unless that is "".
+  void TakeTable(const QString& name, const QString& beginning) {
+    MainWindowView& window = user_.windows.Main();
+    window.Views().Show("table");
+    window.Table().Show({FilterKind::kBeginWith, FromQt(beginning)});
+    Save(window, name);
+    window.Table().Show({});
+    window.Views().Show("text");
   }
 
   void TakeRunning(const QString& samples) {
@@ -90,6 +102,7 @@ class Photographer {
     user_.program.ChooseText(std::string(kBooks) + "/harbour_en.txt");
     user_.Click(user_.program.frmMain.cmdCountWords);
     Save(user_.windows.Main(), "main-dark");
+    TakeTable("table-dark", "");
   }
 
   void Save(QWidget& window, const QString& name) {

@@ -173,6 +173,7 @@ void CountRun::FinishRun() {
   RankWords();
   ShowSummary(frmMain, state, context_.desktop.DigitGroupSeparator());
   state.blnWordsGot = true;
+  state.WordsRanked.Fire();
   context_.lister.ListWords();
   listWasMade_ = state.totals.NumIncludedWords > 0;
 }

@@ -13,6 +13,7 @@
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
 #include "sources/output_rules.h"
+#include "ui/event.h"
 
 namespace quillomat {
 
@@ -24,6 +25,10 @@ struct CountState {
   /// Candidate words read, counted or not.
   std::int32_t WordsRead = 0;
   std::int16_t minimumColumnWidth = kMinimumColumnWidth;
+  /// The words of a count are filtered and ranked: who shows them may look at them from now on.
+  Event<> WordsRanked;
+  /// They are about to go: nobody may look at them any more.
+  Event<> WordsGo;
   /// Where they come from.
   CountedText counted;
   FilesRead filesRead;
@@ -75,6 +80,7 @@ struct CountState {
 
   /// Empties the store: the words of the last count are gone, and with them what was known of them.
   void DiscardWords() {
+    WordsGo.Fire();
     store.Clear();
     totals = {};
     ranking = {};

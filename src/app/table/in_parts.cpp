@@ -1,0 +1,39 @@
+#include "app/table/in_parts.h"
+
+#include <algorithm>
+#include <future>
+#include <thread>
+
+namespace quillomat {
+namespace {
+
+/// To start a thread costs as much as to look at some thousand words.
+constexpr std::size_t kSmallestPart = 20'000;
+constexpr std::size_t kMostParts = 8;
+
+}  // namespace
+
+std::vector<Part> PartsOf(std::size_t size) {
+  const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+  const std::size_t count =
+      std::clamp<std::size_t>(size / kSmallestPart, 1, std::min(cores, kMostParts));
+  std::vector<Part> parts;
+  for (std::size_t i = 0; i < count; ++i) {
+    const Part part{size * i / count, size * (i + 1) / count};
+    if (part.begin < part.end) parts.push_back(part);
+  }
+  return parts;
+}
+
+void ForEachPart(const std::vector<Part>& parts,
+                 const std::function<void(const Part& part, std::size_t number)>& work) {
+  if (parts.empty()) return;
+  std::vector<std::future<void>> others;
+  for (std::size_t i = 1; i < parts.size(); ++i) {
+    others.push_back(std::async(std::launch::async, [&, i] { work(parts[i], i); }));
+  }
+  work(parts.front(), 0);
+  for (std::future<void>& other : others) other.get();
+}
+
+}  // namespace quillomat

@@ -1,0 +1,58 @@
+#include "app/table/result_table.h"
+
+#include <utility>
+#include <variant>
+
+namespace quillomat {
+
+ResultTable::ResultTable(CountState& state, ExpressionReader readExpression)
+    : state_(state), readExpression_(std::move(readExpression)) {
+  state_.WordsRanked.Connect([this] { Change([this] { hasWords_ = true; }); });
+  state_.WordsGo.Connect([this] {
+    if (!hasWords_) return;
+    Change([this] {
+      hasWords_ = false;
+      rows_.reset();
+    });
+  });
+}
+
+const WordRows* ResultTable::Rows() {
+  if (!hasWords_) return nullptr;
+  if (!rows_) {
+    rows_.emplace(WordTable(state_.Counted(), state_.WordsRead), collation_);
+    rows_->SetOrder(order_);
+    if (matcher_) rows_->SetMatcher(matcher_);
+  }
+  return &*rows_;
+}
+
+void ResultTable::SetOrder(RowOrder order) {
+  if (order == order_) return;
+  Change([&] {
+    order_ = order;
+    if (rows_) rows_->SetOrder(order);
+  });
+}
+
+void ResultTable::SetFilter(const RowFilter& filter) {
+  if (filter == filter_) return;
+  filter_ = filter;
+  fault_.clear();
+  Matcher expression;
+  if (filter.kind == FilterKind::kExpression && !filter.text.empty()) {
+    auto read = readExpression_(filter.text);
+    if (const auto* fault = std::get_if<ExpressionFault>(&read)) {
+      fault_ = fault->description;
+      return;
+    }
+    expression = std::get<Matcher>(std::move(read));
+  }
+  Change([&] {
+    matcher_.reset();
+    if (!filter.text.empty()) matcher_.emplace(filter, std::move(expression));
+    if (rows_) rows_->SetMatcher(matcher_);
+  });
+}
+
+}  // namespace quillomat

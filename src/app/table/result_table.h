@@ -1,0 +1,58 @@
+// The table of the last count's words, as the window shows it: the rows come when a count has ended
+// and go before its words do; the order and the filter that the user has chosen stay.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/count/count_state.h"
+#include "app/table/row_filter.h"
+#include "app/table/row_order.h"
+#include "app/table/word_rows.h"
+#include "system/collation.h"
+#include "ui/event.h"
+
+namespace quillomat {
+
+class ResultTable {
+ public:
+  /// `state` outlives the table.
+  ResultTable(CountState& state, ExpressionReader readExpression);
+
+  /// Fired before other rows are shown, and afterwards.
+  Event<> Changing;
+  Event<> Changed;
+
+  /// The rows; null while there is no list. Made when first asked for.
+  [[nodiscard]] const WordRows* Rows();
+
+  void SetOrder(RowOrder order);
+  [[nodiscard]] RowOrder Order() const { return order_; }
+
+  /// An expression that is not understood changes nothing but Fault.
+  void SetFilter(const RowFilter& filter);
+  [[nodiscard]] const RowFilter& Filter() const { return filter_; }
+  /// What is wrong with the filter's expression; "" for nothing.
+  [[nodiscard]] const std::string& Fault() const { return fault_; }
+
+ private:
+  /// Between Changing and Changed.
+  template <typename Action>
+  void Change(Action action) {
+    Changing.Fire();
+    action();
+    Changed.Fire();
+  }
+
+  CountState& state_;
+  ExpressionReader readExpression_;
+  Collation collation_;
+  bool hasWords_ = false;
+  std::optional<WordRows> rows_;
+  RowOrder order_;
+  RowFilter filter_;
+  std::optional<WordMatcher> matcher_;
+  std::string fault_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,27 @@
+// The cells of a row of the table as text, for people: numbers as the user's locale writes them.
+#pragma once
+
+#include <string>
+
+#include "app/table/word_rows.h"
+#include "listing/word_table.h"
+#include "text/program_text.h"
+
+namespace quillomat {
+
+/// In UTF-8.
+struct NumberSigns {
+  /// Between groups of three digits; "" for numbers that another program is to read.
+  std::string group = ",";
+  std::string decimal = ".";
+};
+
+/// How many words are shown and how often they occur ("37 words, 1,204 instances"), in the current
+/// language.
+[[nodiscard]] std::string TotalsOf(const WordRows& rows, const ProgramText& text,
+                                   const NumberSigns& signs);
+
+/// "" for a number that is not known.
+[[nodiscard]] std::string CellOf(const WordRow& row, WordColumn column, const NumberSigns& signs);
+
+}  // namespace quillomat

@@ -1,0 +1,70 @@
+// Which words the table shows: what the user types above it, and how it is meant.
+//
+// Letter case and accents count as little as they do for the list: "mull" begins no "Müller", which
+// is "mueller" to the list, but "muel" and "Mül" do. In a pattern and in an expression a word is
+// looked at in both spellings, so that "m?ller" finds it, too.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "engine/word_store.h"
+
+namespace quillomat {
+
+/// In the order in which the user is offered them.
+enum class FilterKind : std::uint8_t {
+  kContain,
+  kBeginWith,
+  kEndWith,
+  kAre,
+  /// "?" stands for one character, "*" for any run of them.
+  kPattern,
+  /// It may match anywhere in a word.
+  kExpression,
+};
+
+struct RowFilter {
+  FilterKind kind = FilterKind::kContain;
+  /// "" for all words.
+  std::string text;
+
+  [[nodiscard]] bool operator==(const RowFilter&) const = default;
+};
+
+/// Whether an expression matches a text in UTF-8, in any letter case. Several threads call it at
+/// the same time.
+using Matcher = std::function<bool(std::string_view text)>;
+
+/// What is wrong with an expression, for the user.
+struct ExpressionFault {
+  std::string description;
+};
+
+/// Understands a regular expression; a face brings it along with its toolkit.
+using ExpressionReader =
+    std::function<std::variant<Matcher, ExpressionFault>(std::string_view expression)>;
+
+/// A filter made ready to look at many words.
+class WordMatcher {
+ public:
+  /// `expression` is called for a filter of that kind only.
+  WordMatcher(const RowFilter& filter, Matcher expression);
+
+  /// Several threads may call it at the same time.
+  [[nodiscard]] bool Matches(const WordRec& word) const;
+
+ private:
+  [[nodiscard]] bool MatchesText(std::string_view text, std::string_view pattern) const;
+
+  FilterKind kind_;
+  /// As the list folds words, and in lower case alone.
+  std::string folded_;
+  std::string lowered_;
+  Matcher expression_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,37 @@
+#include "qt/result_tabs.h"
+
+#include <utility>
+
+#include "qt/text_conversion.h"
+
+namespace quillomat {
+
+ResultTabs::ResultTabs(QWidget* parent) : QTabWidget(parent) {
+  setDocumentMode(true);  // no frame beside those of the views
+}
+
+void ResultTabs::Add(QWidget* view, const QString& key, int titleText, std::function<void()> find) {
+  views_.append({key, titleText, std::move(find)});
+  addTab(view, QString());
+}
+
+void ResultTabs::SetTexts(const ProgramText& text) {
+  for (int i = 0; i < count(); ++i) setTabText(i, ToQt(text.GetText(views_[i].titleText)));
+}
+
+QString ResultTabs::Current() const {
+  return views_[currentIndex()].key;
+}
+
+void ResultTabs::Show(const QString& key) {
+  for (int i = 0; i < count(); ++i) {
+    if (views_[i].key == key) setCurrentIndex(i);
+  }
+}
+
+void ResultTabs::Find() const {
+  const View& view = views_[currentIndex()];
+  if (view.find) view.find();
+}
+
+}  // namespace quillomat

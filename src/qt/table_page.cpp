@@ -1,0 +1,125 @@
+#include "qt/table_page.h"
+
+#include <QKeyEvent>
+#include <QLocale>
+#include <QVBoxLayout>
+#include <array>
+#include <cstdint>
+
+#include "qt/accessible_names.h"
+#include "qt/expression.h"
+#include "qt/flow_layout.h"
+#include "qt/text_conversion.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+constexpr int kFilterKinds = static_cast<int>(FilterKind::kExpression) + 1;
+constexpr int kShortestBox = 120;
+
+}  // namespace
+
+TablePage::TablePage(Program& program, QWidget* parent)
+    : QWidget(parent),
+      program_(program),
+      signs_{.group = program.context.desktop.DigitGroupSeparator(),
+             .decimal = FromQt(QLocale::system().decimalPoint())},
+      table_(program.state, ReadExpression),
+      view_(table_) {
+  PlaceParts();
+  view_.Model().SetSigns(signs_);
+  for (int kind = 0; kind < kFilterKinds; ++kind) kind_.addItem(QString());
+  words_.setClearButtonEnabled(true);
+  connect(&words_, &QLineEdit::textChanged, this, [this] { TakeFilter(); });
+  connect(&kind_, &QComboBox::currentIndexChanged, this, [this] { TakeFilter(); });
+  table_.Changed.Connect([this] {
+    if (isVisible()) ShowTotals();
+  });
+}
+
+TablePage::~TablePage() {
+  // Members, which the page must not delete as its children.
+  for (QWidget* part : std::array<QWidget*, 5>{&view_, &label_, &words_, &kind_, &totals_}) {
+    part->setParent(nullptr);
+  }
+}
+
+void TablePage::PlaceParts() {
+  auto* lines = new QVBoxLayout(this);
+  lines->setContentsMargins(0, 0, 0, 0);
+  auto* row = new FlowLayout;
+  lines->addLayout(row);
+  for (QWidget* part : std::array<QWidget*, 4>{&label_, &words_, &kind_, &totals_}) {
+    row->addWidget(part);
+  }
+  lines->addWidget(&view_, 1);
+  words_.setMinimumWidth(kShortestBox);
+  label_.setBuddy(&words_);
+  setFocusProxy(&view_);
+  setTabOrder(&words_, &kind_);
+  setTabOrder(&kind_, &view_);
+}
+
+void TablePage::SetTexts(const ProgramText& text) {
+  label_.setText(ToQt(text.GetText(kShowWordsText)));
+  words_.setAccessibleName(label_.text());
+  words_.setPlaceholderText(ToQt(text.GetText(kAllWordsText)));
+  kind_.setAccessibleName(ToQt(text.GetText(kFilterKindNameText)));
+  for (int kind = 0; kind < kFilterKinds; ++kind) {
+    kind_.setItemText(kind, ToQt(text.GetText(kFirstFilterKindText + kind)));
+  }
+  view_.SetTexts(text);
+  ShowTotals();
+}
+
+void TablePage::Show(const RowFilter& filter) {
+  kind_.setCurrentIndex(static_cast<int>(filter.kind));
+  words_.setText(ToQt(filter.text));
+}
+
+void TablePage::Find() {
+  words_.selectAll();
+  words_.setFocus(Qt::ShortcutFocusReason);
+}
+
+void TablePage::TakeFilter() {
+  table_.SetFilter({static_cast<FilterKind>(kind_.currentIndex()), FromQt(words_.text())});
+  ShowTotals();
+  if (!table_.Fault().empty()) Announce(totals_);
+}
+
+void TablePage::ShowTotals() {
+  totals_.setText(TotalsText());
+}
+
+QString TablePage::TotalsText() {
+  if (!table_.Fault().empty()) {
+    return ToQt(program_.text.GetText(kExpressionFaultText)).arg(ToQt(table_.Fault()));
+  }
+  const WordRows* rows = table_.Rows();
+  return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.text, signs_));
+}
+
+/// The keys of the filter are its own: none of them starts or stops a count.
+void TablePage::keyPressEvent(QKeyEvent* event) {
+  if (!words_.hasFocus()) return QWidget::keyPressEvent(event);
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      if (words_.text().isEmpty()) return view_.setFocus(Qt::OtherFocusReason);
+      return words_.clear();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Down:
+      return view_.setFocus(Qt::OtherFocusReason);
+    default:
+      return QWidget::keyPressEvent(event);
+  }
+}
+
+void TablePage::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  ShowTotals();
+}
+
+}  // namespace quillomat

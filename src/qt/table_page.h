@@ -1,0 +1,59 @@
+// The table of words with what is above it: which words are to be shown, and how many these are.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+#include "app/program.h"
+#include "app/table/result_table.h"
+#include "app/table/row_cells.h"
+#include "qt/word_table_view.h"
+
+namespace quillomat {
+
+class TablePage final : public QWidget {
+ public:
+  /// `program` outlives the page.
+  explicit TablePage(Program& program, QWidget* parent = nullptr);
+  TablePage(const TablePage&) = delete;
+  TablePage& operator=(const TablePage&) = delete;
+  TablePage(TablePage&&) = delete;
+  TablePage& operator=(TablePage&&) = delete;
+  ~TablePage() override;
+
+  void SetTexts(const ProgramText& text);
+
+  /// Fills in the filter, as a hand would.
+  void Show(const RowFilter& filter);
+
+  /// Puts the keyboard where words are looked for.
+  void Find();
+
+  [[nodiscard]] WordTableView& View() { return view_; }
+  /// The words that are shown, and in which order.
+  [[nodiscard]] ResultTable& Table() { return table_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void PlaceParts();
+  void TakeFilter();
+  void ShowTotals();
+  [[nodiscard]] QString TotalsText();
+
+  Program& program_;
+  NumberSigns signs_;
+  ResultTable table_;
+  WordTableView view_;
+  QLabel label_;
+  QLineEdit words_;
+  QComboBox kind_;
+  /// "37 words, 1,204 instances", or what is wrong with the filter.
+  QLabel totals_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,92 @@
+#include "qt/word_table_model.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+#include "qt/text_conversion.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+/// What is most wanted of a column comes first when it is clicked on.
+bool StartsWithTheLargest(WordColumn column) {
+  return column != WordColumn::kRank && column != WordColumn::kWord &&
+         column != WordColumn::kCumulative;
+}
+
+}  // namespace
+
+WordTableModel::WordTableModel(ResultTable& table, QObject* parent)
+    : QAbstractTableModel(parent), table_(table) {
+  table_.Changing.Connect([this] { beginResetModel(); });
+  table_.Changed.Connect([this] { endResetModel(); });
+}
+
+void WordTableModel::SetWatched(bool watched) {
+  if (watched == watched_) return;
+  beginResetModel();
+  watched_ = watched;
+  endResetModel();
+}
+
+void WordTableModel::SetTexts(const ProgramText& text) {
+  titles_.clear();
+  for (int section = 0; section < kColumns; ++section) {
+    titles_.append(ToQt(text.GetText(kFirstColumnText + section)));
+  }
+  emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
+}
+
+QString WordTableModel::CopyOf(int row, int section) const {
+  const WordRow words = Rows()->RowAt(static_cast<std::size_t>(row));
+  return ToQt(CellOf(words, ColumnOf(section), {.group = "", .decimal = signs_.decimal}));
+}
+
+int WordTableModel::rowCount(const QModelIndex& parent) const {
+  const WordRows* rows = parent.isValid() ? nullptr : Rows();
+  if (rows == nullptr) return 0;
+  return static_cast<int>(std::min<std::size_t>(rows->Size(), std::numeric_limits<int>::max()));
+}
+
+int WordTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : kColumns;
+}
+
+QVariant WordTableModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const WordColumn column = ColumnOf(index.column());
+  if (role == Qt::TextAlignmentRole) {
+    const bool isText = column == WordColumn::kWord;
+    return QVariant::fromValue(Qt::AlignVCenter | (isText ? Qt::AlignLeft : Qt::AlignRight));
+  }
+  if (role != Qt::DisplayRole) return {};
+  const WordRow row = Rows()->RowAt(static_cast<std::size_t>(index.row()));
+  return ToQt(CellOf(row, column, signs_));
+}
+
+QVariant WordTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) return titles_.value(section);
+  if (role == Qt::InitialSortOrderRole) {
+    return StartsWithTheLargest(ColumnOf(section)) ? Qt::DescendingOrder : Qt::AscendingOrder;
+  }
+  return {};
+}
+
+void WordTableModel::sort(int section, Qt::SortOrder order) {
+  table_.SetOrder({ColumnOf(section), order == Qt::DescendingOrder});
+}
+
+QModelIndexList WordTableModel::match(const QModelIndex& start, int /*role*/, const QVariant& value,
+                                      int /*hits*/, Qt::MatchFlags /*flags*/) const {
+  const WordRows* rows = Rows();
+  if (rows == nullptr) return {};
+  const auto from = static_cast<std::size_t>(std::max(0, start.row()));
+  const auto found = rows->FindBeginning(FromQt(value.toString()), from);
+  if (!found) return {};
+  return {index(static_cast<int>(*found), start.column())};
+}
+
+}  // namespace quillomat

@@ -1,0 +1,102 @@
+#include "app/table/result_table.h"
+
+#include <string>
+
+#include "support/program_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class ResultTableTest : public ProgramFixture {
+ protected:
+  ResultTableTest() {
+    table_.Changing.Connect([this] { seen_ += '<'; });
+    table_.Changed.Connect([this] { seen_ += '>'; });
+  }
+
+  static std::variant<Matcher, ExpressionFault> Read(std::string_view expression) {
+    if (expression == "(") return ExpressionFault{"no end"};
+    return [wanted = std::string(expression)](std::string_view text) { return text == wanted; };
+  }
+  std::string Shown() {
+    const WordRows* rows = table_.Rows();
+    if (rows == nullptr) return "none";
+    std::string words;
+    for (std::size_t row = 0; row < rows->Size(); ++row) {
+      words += std::string(rows->RowAt(row).word) + ' ';
+    }
+    return words;
+  }
+
+  ResultTable table_{program.state, Read};
+  /// What happened: "<" before a change, ">" behind it.
+  std::string seen_;
+};
+
+TEST_F(ResultTableTest, ComesWithACountAndGoesBeforeItsWordsDo) {
+  EXPECT_EQ(Shown(), "none");
+  CountClipboard("dog cat dog");
+  EXPECT_EQ(Shown(), "dog cat ");
+  EXPECT_EQ(seen_, "<>");
+  table_.Changing.Connect([this] { EXPECT_GT(State().store.NumDifferentWords(), 0); });
+  CountClipboard("ox");
+  EXPECT_EQ(Shown(), "ox ");
+  program.Initialize();
+  EXPECT_EQ(Shown(), "none");
+}
+
+TEST_F(ResultTableTest, WordsAreThereBeforeTheListIsMadeWhichMayAskTheUser) {
+  Main().txbFile[1].SetText(folder.Write("list.txt", "old"));
+  desktop.AnswerText(folder / "list.txt");
+  std::size_t asked = 1;
+  table_.Changed.Connect([&] { asked = desktop.InputBoxes().size(); });
+  CountClipboard("cat dog");
+  EXPECT_EQ(asked, 0U);
+  EXPECT_EQ(desktop.InputBoxes().size(), 1U);
+}
+
+TEST_F(ResultTableTest, OrderAndFilterStayForTheNextCount) {
+  table_.SetOrder({WordColumn::kLength, true});
+  table_.SetFilter({FilterKind::kEndWith, "t"});
+  CountClipboard("cat dog carrot ox");
+  EXPECT_EQ(Shown(), "carrot cat ");
+  CountClipboard("rat parrot cow");
+  EXPECT_EQ(Shown(), "parrot rat ");
+  table_.SetFilter({});
+  EXPECT_EQ(Shown(), "parrot cow rat ");
+}
+
+TEST_F(ResultTableTest, ExpressionThatIsNotUnderstoodChangesNothing) {
+  CountClipboard("cat dog");
+  table_.SetFilter({FilterKind::kExpression, "cat"});
+  EXPECT_EQ(Shown(), "cat ");
+  table_.SetFilter({FilterKind::kExpression, "("});
+  EXPECT_EQ(table_.Fault(), "no end");
+  EXPECT_EQ(Shown(), "cat ");
+  table_.SetFilter({FilterKind::kExpression, ""});
+  EXPECT_EQ(table_.Fault(), "");
+  EXPECT_EQ(Shown(), "cat dog ");
+}
+
+TEST_F(ResultTableTest, SameOrderAgainIsNoChange) {
+  CountClipboard("cat dog");
+  seen_.clear();
+  table_.SetOrder(table_.Order());
+  table_.SetFilter(table_.Filter());
+  EXPECT_EQ(seen_, "");
+}
+
+TEST_F(ResultTableTest, IsOfACountAndNotOfAWordsFile) {
+  CountClipboard("cat dog");
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\n"));
+  EXPECT_TRUE(program.wordLists.TakeBoxes());
+  EXPECT_EQ(Shown(), "none");
+}
+
+TEST_F(ResultTableTest, CountWithoutAWordIsAnEmptyTable) {
+  CountClipboard("1 2 3");
+  EXPECT_EQ(Shown(), "");
+}
+
+}  // namespace
+}  // namespace quillomat

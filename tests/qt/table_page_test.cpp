@@ -1,0 +1,159 @@
+// The table of words, as a person uses it.
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMimeData>
+#include <QTabBar>
+#include <gmock/gmock.h>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using testing::ElementsAre;
+
+class TablePageTest : public WindowFixture {
+ protected:
+  TablePageTest() { EXPECT_TRUE(user->Start()); }
+
+  MainWindowView& Window() { return user->windows.Main(); }
+  WordTableView& View() { return Window().Table().View(); }
+  QLineEdit& Box() { return *Window().Table().findChild<QLineEdit*>(); }
+
+  void Count(const std::string& text) {
+    user->program.ChooseText(folder.Write("a.txt", text));
+    user->Click(user->program.frmMain.cmdCountWords);
+  }
+  void OpenTable() {
+    QTabBar& tabs = *Window().Views().tabBar();
+    QTest::mouseClick(&tabs, Qt::LeftButton, Qt::NoModifier, tabs.tabRect(1).center());
+    user->Settle();
+  }
+  void TypeFilter(const char* words) {
+    QTest::keyClicks(&Box(), words);
+    user->Settle();
+  }
+  void ClickTitle(WordColumn column) {
+    QHeaderView& titles = *View().horizontalHeader();
+    const int section = static_cast<int>(column);
+    const QPoint place(titles.sectionViewportPosition(section) + 8, titles.height() / 2);
+    QTest::mouseClick(titles.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    user->Settle();
+  }
+
+  std::string Cell(int row, WordColumn column) {
+    return FromQt(View().model()->index(row, static_cast<int>(column)).data().toString());
+  }
+  std::vector<std::string> Words() {
+    std::vector<std::string> words;
+    for (int row = 0; row < View().model()->rowCount(); ++row) {
+      words.push_back(Cell(row, WordColumn::kWord));
+    }
+    return words;
+  }
+  bool Says(const QString& text) {
+    const QList<QLabel*> labels = Window().Table().findChildren<QLabel*>();
+    return std::ranges::any_of(
+        labels, [&](const QLabel* label) { return label->isVisible() && label->text() == text; });
+  }
+};
+
+TEST_F(TablePageTest, ListComesFirstAndTheChoiceIsRemembered) {
+  EXPECT_EQ(Window().Views().Current(), "text");
+  EXPECT_TRUE(Window().List().isVisible());
+  OpenTable();
+  EXPECT_TRUE(View().isVisible());
+  EXPECT_FALSE(Window().List().isVisible());
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_EQ(Window().Views().Current(), "table");
+}
+
+TEST_F(TablePageTest, ShowsWhatWasCountedAndNothingOlder) {
+  OpenTable();
+  EXPECT_THAT(Words(), ElementsAre());
+  Count("dog cat dog emu\n");
+  EXPECT_THAT(Words(), ElementsAre("dog", "cat", "emu"));
+  EXPECT_EQ(Cell(0, WordColumn::kPercent), "50.0000");
+  EXPECT_TRUE(Says("3 words, 4 instances"));
+  Count("ox\n");
+  EXPECT_THAT(Words(), ElementsAre("ox"));
+  EXPECT_TRUE(Says("1 word, 1 instance"));
+  user->program.Initialize();
+  user->Settle();
+  EXPECT_THAT(Words(), ElementsAre());
+}
+
+TEST_F(TablePageTest, IsThereWhenItIsOpenedAfterTheCount) {
+  Count("dog cat dog\n");
+  EXPECT_EQ(View().model()->rowCount(), 0) << "nobody looks";
+  OpenTable();
+  EXPECT_THAT(Words(), ElementsAre("dog", "cat"));
+}
+
+TEST_F(TablePageTest, ClickOnATitleSortsBothWays) {
+  Count("dog dog dog zebra cat cat\n");
+  OpenTable();
+  ClickTitle(WordColumn::kWord);
+  EXPECT_THAT(Words(), ElementsAre("cat", "dog", "zebra"));
+  ClickTitle(WordColumn::kWord);
+  EXPECT_THAT(Words(), ElementsAre("zebra", "dog", "cat"));
+  ClickTitle(WordColumn::kFrequency);
+  EXPECT_THAT(Words(), ElementsAre("dog", "cat", "zebra")) << "the most frequent first";
+}
+
+TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
+  Count("Cat scatter dog dog category\n");
+  OpenTable();
+  QTest::keySequence(&Window(), QKeySequence::Find);
+  EXPECT_TRUE(Box().hasFocus());
+  EXPECT_FALSE(Window().Finder().isVisible());
+  TypeFilter("CAT");
+  EXPECT_THAT(Words(), ElementsAre("cat", "category", "scatter"));
+  EXPECT_TRUE(Says("3 words, 3 instances"));
+  auto* kind = Window().Table().findChild<QComboBox*>();
+  kind->setCurrentIndex(static_cast<int>(FilterKind::kBeginWith));
+  EXPECT_THAT(Words(), ElementsAre("cat", "category"));
+  QTest::keyClick(&Box(), Qt::Key_Escape);
+  EXPECT_THAT(Words(), testing::SizeIs(4));
+  EXPECT_TRUE(Says("4 words, 5 instances"));
+}
+
+TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
+  Count("cat dog\n");
+  OpenTable();
+  auto* kind = Window().Table().findChild<QComboBox*>();
+  kind->setCurrentIndex(static_cast<int>(FilterKind::kExpression));
+  TypeFilter("(c|x)a");
+  EXPECT_THAT(Words(), ElementsAre("cat"));
+  Box().clear();
+  TypeFilter("(");
+  EXPECT_TRUE(Says("Not understood: missing closing parenthesis"));
+  EXPECT_THAT(Words(), ElementsAre("cat", "dog"));
+}
+
+TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
+  Count("dog cat dog emu\n");
+  OpenTable();
+  View().SetWantedColumns({"rank", "frequency"});
+  View().selectRow(0);
+  QTest::keyClick(&View(), Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keySequence(&View(), QKeySequence::Copy);
+  const QMimeData* copied = QApplication::clipboard()->mimeData();
+  EXPECT_EQ(FromQt(copied->text()), "1\tdog\t2\n2\tcat\t1\n");
+  EXPECT_TRUE(copied->html().contains("<tr><td>1</td><td>dog</td><td>2</td></tr>"));
+}
+
+TEST_F(TablePageTest, TypingGoesToTheWord) {
+  Count("dog cat dog emu elk\n");
+  OpenTable();
+  View().setFocus();
+  QTest::keyClicks(&View(), "em");
+  EXPECT_EQ(Cell(View().currentIndex().row(), WordColumn::kWord), "emu");
+}
+
+}  // namespace
+}  // namespace quillomat
