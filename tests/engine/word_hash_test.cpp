@@ -90,6 +90,18 @@ TEST(WordHash, OrdinaryWordsNeverCrowdAStore) {
   EXPECT_EQ(store.SeedChanges(), 0U);
 }
 
+/// Under these seeds numbers in letters lay close together when one product made a hash.
+TEST(WordHash, AlikeWordsDoNotCrowdAStoreUnderAnUnluckySeed) {
+  constexpr HashSeed kUnlucky[] = {{0x4427'2da1'accb'1101, 0x3f17'afed'dd1c'f039},
+                                   {0xe943'8ce2'69d4'2c4a, 0x837b'0e1d'ee42'0942},
+                                   {0x05ed'717f'a6d0'c7cb, 0x614e'c4c5'b2ef'e478}};
+  for (const HashSeed& seed : kUnlucky) {
+    WordStore store(seed);
+    for (std::size_t i = 0; i < kMany; ++i) (void)store.AddWord(InLetters(i, 8));
+    EXPECT_EQ(store.SeedChanges(), 0U);
+  }
+}
+
 TEST(WordHash, SortedStoreFindsItsWordsAgain) {
   WordStore store(SeedOfCollidingWords());
   for (int round = 0; round < 3; ++round) {
