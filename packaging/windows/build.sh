@@ -9,7 +9,8 @@ here=$root/packaging/windows
 qt=$("$here/build-qt.sh" | tail -n 1)
 build=$root/build/windows-release
 QUILLOMAT_XLSX=$("$here/build-xlsx.sh" | tail -n 1)
-export QUILLOMAT_XLSX
+QUILLOMAT_UTF8PROC=$("$here/build-utf8proc.sh" | tail -n 1)
+export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 mkdir -p "$build"
 

@@ -27,3 +27,27 @@ debian_source() {
   for unpacked in "$2.unpacking"/*/; do mv "$unpacked" "$2"; done
   rm -rf "$2.unpacking"
 }
+
+# debian_library PACKAGE NAME [CMAKE_OPTION...]: builds the package's source for Windows as a static
+# library, once, and prints the folder that holds it: NAME-windows in the cache.
+debian_library() {
+  library=$cache/$2-windows
+  if [ ! -f "$library/complete" ]; then
+    # shellcheck disable=SC2046 # one word a package
+    need_packages $(packages_of build) $(packages_of windows)
+    debian_source "$1" "$cache/$1"
+    rm -rf "$cache/$2-build" "$library"
+    package=$1 name=$2
+    shift 2
+    {
+      cmake -G Ninja -S "$cache/$package" -B "$cache/$name-build" -Wno-dev \
+        -DCMAKE_TOOLCHAIN_FILE="$root/cmake/windows-toolchain.cmake" \
+        -DCMAKE_INSTALL_PREFIX="$library" -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF "$@" &&
+        cmake --build "$cache/$name-build" --parallel "$(nproc)" &&
+        cmake --install "$cache/$name-build"
+    } >"$cache/$name-build.log" 2>&1 || { tail -n 60 "$cache/$name-build.log" >&2; exit 1; }
+    touch "$library/complete"
+    rm -rf "$cache/$name-build"
+  fi
+  printf '%s\n' "$library"
+}

@@ -10,7 +10,8 @@ need_packages $(packages_of build) $(packages_of windows)
 here=$root/packaging/windows
 native=${1:-$root/build/dev/src/cli/quillomat-cli}
 QUILLOMAT_XLSX=$("$here/build-xlsx.sh" | tail -n 1)
-export QUILLOMAT_XLSX
+QUILLOMAT_UTF8PROC=$("$here/build-utf8proc.sh" | tail -n 1)
+export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC
 build windows
 prefix=$root/build/windows/wine
 mkdir -p "$prefix"

@@ -61,6 +61,12 @@ std::vector<ControlCaption> ToolTipsOf(SettingWindow window) {
                       &Setting::toolTip);
 }
 
+void SetItems(const ProgramText& text, ParamsForm& frmParams) {
+  for (std::size_t i = 0; i < frmParams.cboLetters.Items().size(); ++i) {
+    frmParams.cboLetters.SetItem(static_cast<int>(i), text.GetText(kLetterTexts[i]));
+  }
+}
+
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
                  HelpForm& frmHelp) {
   frmMain.SetCaption(text.GetText(kProgramTitleText) + " " + VersionText());
@@ -69,6 +75,7 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
   SetCaptionsOf(frmParams, CaptionsOf(SettingWindow::kPanel), text);
   SetToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel), text);
+  SetItems(text, frmParams);
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
   SetToolTipsOf(frmHelp, kHelpFormToolTips, text);

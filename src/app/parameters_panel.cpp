@@ -42,6 +42,11 @@ void ParametersPanel::ConnectScanningChoice(Control& control) {
   if (auto* box = control.As<CheckBox>()) {
     box->Click.Connect([this, box] { OnScanningBoxClick(*box); });
   }
+  if (auto* combo = control.As<ComboBox>()) {
+    combo->Click.Connect([this, combo, before = combo->ListIndex()]() mutable {
+      OnScanningComboClick(*combo, before);
+    });
+  }
   if (auto* box = control.As<TextBox>()) {
     box->LostFocus.Connect([this, box] {
       box->SetText(std::string(TrimBlanks(box->Text())));
@@ -56,18 +61,36 @@ void ParametersPanel::ConnectListingChoice(Control& control) {
 }
 
 void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
+  if (MayReadAnew()) return;
+  // No unchecks the box, whichever way it was clicked; but for the accents, where it would count
+  // other words than are shown.
+  const bool checked = &box == &context_.frmParams.chkFoldAccents && !box.IsChecked();
+  context_.state.blnInhibitPrompt = true;
+  box.SetChecked(checked);
+  context_.state.blnInhibitPrompt = false;
+}
+
+/// `before` is the item that was selected before.
+void ParametersPanel::OnScanningComboClick(ComboBox& combo, int& before) {
+  if (MayReadAnew()) {
+    before = combo.ListIndex();
+    return;
+  }
+  context_.state.blnInhibitPrompt = true;
+  combo.SetListIndex(before);
+  context_.state.blnInhibitPrompt = false;
+}
+
+/// Whether there is nothing to be read anew, or the user lets it be.
+bool ParametersPanel::MayReadAnew() {
   CountState& state = context_.state;
-  if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return;
+  if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return true;
   if (state.Busy()) {
     // The words are being listed: no time for questions, but the next count must know.
     state.blnWordsGot = false;
-    return;
+    return true;
   }
-  if (ConfirmReRead()) return;
-  // No unchecks the box, whichever way it was clicked.
-  state.blnInhibitPrompt = true;
-  box.SetChecked(false);
-  state.blnInhibitPrompt = false;
+  return ConfirmReRead();
 }
 
 bool ParametersPanel::ConfirmReRead() {

@@ -28,6 +28,8 @@ class ParametersPanel {
   void AfterClickThatLeaves(const std::function<void()>& action);
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
+  void OnScanningComboClick(ComboBox& combo, int& before);
+  [[nodiscard]] bool MayReadAnew();
   [[nodiscard]] bool ConfirmReRead();
   void SetAllCheckBoxes(CheckState state) const;
   /// Of the check boxes, or of all parameters that are none.

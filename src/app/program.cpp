@@ -105,7 +105,8 @@ bool Program::Start(const StartOptions& options) {
 void Program::FillLists() {
   wordLists.SetPathToCWDs_Eng();
   mainWindow_.FillListCombos();
-  frmParams.FillNumberCombos();
+  frmParams.FillCombos();
+  SetItems(text, frmParams);
   state.clipboardViewerPath = FindClipboardViewer();
   frmMain.cmdClipboardViewer.SetEnabled(!state.clipboardViewerPath.empty());
 }

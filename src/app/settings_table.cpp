@@ -8,6 +8,7 @@ namespace quillomat {
 namespace {
 
 constexpr std::array<std::string_view, 2> kOrderChoices = {"frequency", "alphabetical"};
+constexpr std::array<std::string_view, 2> kLetterChoices = {"western", "all"};
 
 /// Numbers of program texts.
 struct Texts {
@@ -60,6 +61,11 @@ constexpr Setting Path(std::string_view control, int toolTip, SettingOption opti
 }
 
 // What is otherwise with some of them.
+
+constexpr Setting EntailsRescan(Setting setting) {
+  setting.entails = Entails::kRescan;
+  return setting;
+}
 
 constexpr Setting KeptByRestoreDefaults(Setting setting) {
   setting.resetBy = ResetBy::kReinitialize;
@@ -142,6 +148,9 @@ constexpr auto kTable = std::to_array<Setting>({
     Box("chkDropFinalS", {215, 462}, 0, kRescan,
         Switch(kWhatAWordIs, "--drop-final-s", "--keep-final-s",
                "Drop a final s, unless it is ss or follows a vowel")),
+    Box("chkFoldAccents", {250, 499}, 1, kRescan,
+        Switch(kWhatAWordIs, "--fold-accents", "--keep-accents",
+               "Words that differ in accents are one word (on), or different words")),
     Box("chkOutputWithCommas", {236, 486}, 0, kNothing,
         Switch(kTheList, "--comma-columns", "--no-comma-columns",
                "Commas between the columns of a list in a file")),
@@ -175,6 +184,10 @@ constexpr auto kTable = std::to_array<Setting>({
          Value(kNumber, kWordsLeftOut, "--min-count", "N",
                "Leave out words that occur fewer than N times, 2 to 9; 1 for none, the default"),
          "chkIgnoreInfrequentWords"),
+    EntailsRescan(List("cboLetters", 498, 0,
+                       Choice(kWhatAWordIs, "--letters", "WHICH", kLetterChoices,
+                              "western: the letters of Western Europe (the default); all: those "
+                              "of all languages"))),
     KeptByRestoreDefaults(
         Path("txbWordsFile(0)", 478,
              Value(kText, kWordLists, "--ignore", "FILE", "Leave out the words in a file"))),

@@ -127,6 +127,7 @@ inline constexpr auto kClearingOrder =
                                      "chkUseLog10",
                                      "chkAllowCommentMarkers",
                                      "chkWarnOnOverwrite",
-                                     "chkSaveStateOnQuit"});
+                                     "chkSaveStateOnQuit",
+                                     "chkFoldAccents"});
 
 }  // namespace quillomat

@@ -16,6 +16,7 @@
 #include "cli/export_options.h"
 #include "cli/help_formatter.h"
 #include "cli/standard_output.h"
+#include "engine/unicode_traits.h"
 
 namespace quillomat {
 namespace {
@@ -151,6 +152,10 @@ class SettingOptions {
   std::vector<CLI::Option*> defined_;
 };
 
+std::string VersionLine() {
+  return "quillomat-cli " + VersionText() + " (Unicode " + UnicodeVersion() + ")";
+}
+
 /// Options get the heading of the group under which they are defined.
 void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings,
                    std::vector<std::string>& set, std::vector<std::string>& answers) {
@@ -164,7 +169,7 @@ void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings
   app.option_defaults()->group(kRunHeading);
   DefineRun(app, options, answers);
   app.set_help_flag("--help", "Print this help");
-  app.set_version_flag("--version", "quillomat-cli " + VersionText(), "Print the version");
+  app.set_version_flag("--version", VersionLine(), "Print the version");
   app.footer(kFooter);
 }
 

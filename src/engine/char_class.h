@@ -1,15 +1,20 @@
 // Which characters make up words under given settings.
 //
-// A letter is A-Z, a-z or a Latin-1 letter (U+00C0-U+00FF except the signs U+00D7 and U+00F7).
-// Besides letters a word may hold the "extra" characters that the user allows; these are ASCII. No
-// other character is ever part of a word: a wider alphabet would be put here, behind WordCharBytes,
-// and the scanner would not notice.
+// By the western rule a letter is A-Z, a-z or a Latin-1 letter (U+00C0-U+00FF except the signs
+// U+00D7 and U+00F7). By the rule for all languages it is what Unicode calls a letter, with the
+// marks behind it, and a digit is a decimal digit of any script. Besides letters a word may hold
+// the "extra" characters that the user allows; these are ASCII. No other character is ever part of
+// a word.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+
+#include "base/utf8.h"
+#include "engine/letter_rule.h"
+#include "engine/unicode_traits.h"
 
 namespace quillomat {
 
@@ -25,6 +30,9 @@ inline constexpr std::size_t kMaxWordRun = 65'000;
 [[nodiscard]] std::size_t CountWordChars(std::string_view text, std::size_t start, bool allowDigits,
                                          std::string_view extras);
 
+/// Whether a decimal digit of any script occurs in `text`.
+[[nodiscard]] bool ContainsDigit(std::string_view text);
+
 /// Whether any character of `set` (ASCII) occurs in `text`.
 [[nodiscard]] bool ContainsAnyOf(std::string_view text, std::string_view set);
 
@@ -33,22 +41,27 @@ class CharClass {
  public:
   /// The class that knows letters only.
   CharClass() : CharClass(false, {}) {}
-  CharClass(bool allowDigits, std::string_view extras);
+  CharClass(bool allowDigits, std::string_view extras, LetterRule letters = LetterRule::kWestern);
 
   /// The number of bytes of the word character that starts at byte `position` of `text`, or 0 when
-  /// no word character starts there. `position` is inside `text`.
+  /// no word character starts there. `position` is inside `text`. Marks are none by themselves.
   [[nodiscard]] std::size_t WordCharBytes(std::string_view text, std::size_t position) const {
     const auto byte = static_cast<unsigned char>(text[position]);
     if (byte < 0x80) return kinds_[byte] & kInside;
-    return LatinLetterBytes(text, position);
+    return letters_ == LetterRule::kAll ? WideCharBytes(text, position)
+                                        : LatinLetterBytes(text, position);
   }
+
+  /// How many bytes the run of word characters has that starts at `position`; at most kMaxWordRun
+  /// characters belong to one. A mark belongs to it behind a letter, or behind another mark there.
+  [[nodiscard]] std::size_t RunBytes(std::string_view text, std::size_t position) const;
 
   /// Whether a word may start with the character at byte `position` of `text`: letters may, and of
   /// the extra characters all but "-'.,()".
   [[nodiscard]] bool MayStartWord(std::string_view text, std::size_t position) const {
     const auto byte = static_cast<unsigned char>(text[position]);
     if (byte < 0x80) return (kinds_[byte] & kStart) != 0;
-    return LatinLetterBytes(text, position) != 0;
+    return WordCharBytes(text, position) != 0;
   }
 
  private:
@@ -63,7 +76,16 @@ class CharClass {
     return (next & 0xC0U) == 0x80 && next != 0x97 && next != 0xB7 ? 2 : 0;
   }
 
+  [[nodiscard]] std::size_t WideCharBytes(std::string_view text, std::size_t position) const {
+    const Utf8Character character = CharacterAt(text, position);
+    return UnicodeTraits::Get().Is(character.codePoint, wideKinds_) ? character.bytes : 0;
+  }
+  [[nodiscard]] std::size_t WideRunBytes(std::string_view text, std::size_t position) const;
+
   std::array<std::uint8_t, 128> kinds_{};
+  LetterRule letters_;
+  /// What is a word character, of those above 127.
+  std::uint8_t wideKinds_;
 };
 
 }  // namespace quillomat

@@ -3,22 +3,31 @@
 #include <algorithm>
 
 #include "base/letter_case.h"
+#include "base/utf8.h"
 #include "engine/html_entities.h"
+#include "engine/normal_text.h"
+#include "engine/unicode_traits.h"
 
 namespace quillomat {
 namespace {
 
-/// Whether the lower-cased `marker`, which is not empty, stands at the start of `text` in any
-/// letter case. Nearly always the first character decides.
-bool StartsWithMarker(std::string_view text, std::string_view marker) {
-  const auto first = static_cast<unsigned char>(text[0]);
-  const auto wanted = static_cast<unsigned char>(marker[0]);
-  const bool capital = first >= 'A' && first <= 'Z';
-  if (wanted < 0x80) {
-    if (wanted != (capital ? first + 0x20U : first)) return false;
-    if (marker.size() == 1) return true;
+/// By the small letters of all languages, whose number of bytes need not be that of the capital.
+bool StartsWithMarkerOfAll(std::string_view text, std::string_view marker) {
+  const UnicodeTraits& traits = UnicodeTraits::Get();
+  std::size_t position = 0;
+  for (std::size_t wanted = 0; wanted < marker.size();) {
+    if (position == text.size()) return false;
+    const Utf8Character character = CharacterAt(text, position);
+    const Utf8Character small = CharacterAt(marker, wanted);
+    const auto codePoint = static_cast<std::int32_t>(character.codePoint);
+    if (static_cast<char32_t>(codePoint + traits.Of(character.codePoint).toLower) !=
+        small.codePoint) {
+      return false;
+    }
+    position += character.bytes;
+    wanted += small.bytes;
   }
-  return EqualIgnoringCase(text.substr(0, marker.size()), marker);
+  return true;
 }
 
 /// A sign of which a line holds as many before it is rewritten as afterwards: no letter, no blank,
@@ -31,13 +40,18 @@ bool IsSteadySign(char ch) {
 }  // namespace
 
 void CommentMarkers::Prepare(const ScanSettings& settings) {
-  if (preparedStart_ == settings.CommentStart && preparedEnd_ == settings.CommentEnd) return;
+  if (preparedStart_ == settings.CommentStart && preparedEnd_ == settings.CommentEnd &&
+      letters_ == settings.Letters) {
+    return;
+  }
+  letters_ = settings.Letters;
   preparedStart_ = settings.CommentStart;
   preparedEnd_ = settings.CommentEnd;
   mayStart_.reset();
   for (std::size_t pair = 0; pair < 2; ++pair) {
-    start_[pair] = LowerCase(preparedStart_[pair]);
-    end_[pair] = LowerCase(preparedEnd_[pair]);
+    const auto lower = letters_ == LetterRule::kAll ? NormalLowerCase : LowerCase;
+    start_[pair] = lower(preparedStart_[pair]);
+    end_[pair] = lower(preparedEnd_[pair]);
     if (!start_[pair].empty()) NoteStart(start_[pair][0]);
   }
 }
@@ -50,7 +64,23 @@ void CommentMarkers::NoteStart(char first) {
     return;
   }
   mayStart_.set(byte);
+  constexpr unsigned char kLeadOfDottedCapitalI = 0xC4;
+  if (byte == 'i' && letters_ == LetterRule::kAll) mayStart_.set(kLeadOfDottedCapitalI);
   if (byte >= 'a' && byte <= 'z') mayStart_.set(byte - std::size_t{'a' - 'A'});
+}
+
+/// Whether the lower-cased `marker`, which is not empty, stands at the start of `text` in any
+/// letter case. Nearly always the first character decides.
+bool CommentMarkers::StartsWithMarker(std::string_view text, std::string_view marker) const {
+  if (letters_ == LetterRule::kAll) return StartsWithMarkerOfAll(text, marker);
+  const auto first = static_cast<unsigned char>(text[0]);
+  const auto wanted = static_cast<unsigned char>(marker[0]);
+  const bool capital = first >= 'A' && first <= 'Z';
+  if (wanted < 0x80) {
+    if (wanted != (capital ? first + 0x20U : first)) return false;
+    if (marker.size() == 1) return true;
+  }
+  return EqualIgnoringCase(text.substr(0, marker.size()), marker);
 }
 
 int CommentMarkers::StartAt(std::string_view text, bool forced) const {

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "engine/letter_rule.h"
 #include "engine/scan_settings.h"
 #include "engine/token_classes.h"
 
@@ -48,8 +49,10 @@ class CommentMarkers {
 
  private:
   void NoteStart(char first);
+  [[nodiscard]] bool StartsWithMarker(std::string_view text, std::string_view marker) const;
 
   /// What the other members were made from.
+  LetterRule letters_ = LetterRule::kWestern;
   std::array<std::string, 2> preparedStart_;
   std::array<std::string, 2> preparedEnd_;
   std::bitset<256> mayStart_;

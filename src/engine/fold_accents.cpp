@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "base/letter_case.h"
 #include "base/utf8.h"
+#include "engine/normal_text.h"
+#include "engine/unicode_traits.h"
 
 namespace quillomat {
 namespace {
@@ -38,6 +41,70 @@ std::string_view FoldedCharacter(char32_t codePoint) {
   }
 }
 
+/// Of small letters that consist of no others, and of those that German writes with two. Empty for
+/// all else.
+std::string_view FoldedSmallLetter(char32_t codePoint) {
+  switch (codePoint) {
+    case 0xE4:
+    case 0xE6:
+      return "ae";
+    case 0xF6:
+    case 0x153:
+      return "oe";
+    case 0xFC:
+      return "ue";
+    case 0xDF:
+      return "ss";
+    case 0xF8:
+      return "o";
+    case 0x111:
+      return "d";
+    case 0x127:
+      return "h";
+    case 0x131:
+      return "i";
+    case 0x142:
+      return "l";
+    case 0x167:
+      return "t";
+    default:
+      return {};
+  }
+}
+
+char32_t FoldedCase(char32_t codePoint) {
+  const auto self = static_cast<std::int32_t>(codePoint);
+  return static_cast<char32_t>(self + UnicodeTraits::Get().Of(codePoint).toFolded);
+}
+
+/// Appends a Latin or Greek letter of folded case without its accents.
+void AppendUnaccented(char32_t codePoint, std::string& result) {
+  std::string_view folded = FoldedSmallLetter(codePoint);
+  if (folded.empty() && UnicodeTraits::Get().Is(codePoint, CodePointTraits::kComposed)) {
+    std::vector<std::int32_t> parts;
+    AppendDecomposed(codePoint, parts);
+    codePoint = FoldedCase(static_cast<char32_t>(parts.front()));
+    folded = FoldedSmallLetter(codePoint);
+  }
+  if (folded.empty()) {
+    AppendCharacter(result, codePoint);
+  } else {
+    result.append(folded);
+  }
+}
+
+/// For all letters, with the accents.
+std::string FoldCaseOfAll(std::string_view word) {
+  std::string folded;
+  for (std::size_t position = 0; position < word.size();) {
+    const Utf8Character character = CharacterAt(word, position);
+    AppendCharacter(folded, FoldedCase(character.codePoint));
+    position += character.bytes;
+  }
+  std::string scratch;
+  return std::string(NormalForm(folded, DottedCapitalI::kKept, scratch));
+}
+
 bool IsItsOwnKey(std::string_view word) {
   return std::all_of(word.begin(), word.end(), [](char ch) {
     return static_cast<unsigned char>(ch) < 0x80 && (ch < 'A' || ch > 'Z');
@@ -57,6 +124,38 @@ std::string FoldAccents(std::string_view text) {
     position += character.bytes;
   }
   return result;
+}
+
+std::string FoldAccentsOfAll(std::string_view word) {
+  const UnicodeTraits& traits = UnicodeTraits::Get();
+  std::string result;
+  result.reserve(word.size() + 4);
+  bool dropsMarks = false;
+  for (std::size_t position = 0; position < word.size();) {
+    const Utf8Character character = CharacterAt(word, position);
+    position += character.bytes;
+    const std::uint8_t kinds = traits.Of(character.codePoint).kinds;
+    const bool mark = (kinds & CodePointTraits::kMark) != 0;
+    if (mark && dropsMarks) continue;
+    const char32_t folded = FoldedCase(character.codePoint);
+    if (!mark) dropsMarks = (kinds & CodePointTraits::kLatinOrGreek) != 0;
+    if (dropsMarks) {
+      AppendUnaccented(folded, result);
+    } else {
+      AppendCharacter(result, folded);
+    }
+  }
+  return result;
+}
+
+std::string_view SortKeyOf(std::string_view word, KeyRule rule, std::string& scratch) {
+  if (IsItsOwnKey(word)) return word;
+  if (rule.letters == LetterRule::kAll) {
+    scratch = rule.keepAccents ? FoldCaseOfAll(word) : FoldAccentsOfAll(word);
+  } else {
+    scratch = rule.keepAccents ? LowerCase(word) : SortKeyOf(word);
+  }
+  return scratch;
 }
 
 std::string SortKeyOf(std::string_view word) {

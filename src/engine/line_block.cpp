@@ -6,6 +6,7 @@
 #include "base/letter_case.h"
 #include "base/utf8.h"
 #include "engine/html_entities.h"
+#include "engine/normal_text.h"
 
 namespace quillomat {
 namespace {
@@ -59,8 +60,9 @@ void LineBlock::Take(std::string_view lines, const CommentMarkers& markers, Scan
 void LineBlock::TakePart(std::string_view part, const CommentMarkers& markers,
                          ScanSettings& settings, bool caseSignificant, LinePartState& state) {
   caseSignificant_ = caseSignificant;
-  const bool decoded = DecodeHtmlEntitiesOfPart(part, !caseSignificant, state.hidden, decoded_);
-  text_ = decoded ? std::string_view(decoded_) : part;
+  const std::string_view normal = Normal(part);
+  const bool decoded = DecodeHtmlEntitiesOfPart(normal, !caseSignificant, state.hidden, decoded_);
+  text_ = decoded ? std::string_view(decoded_) : normal;
   if (state.inLineComment) text_ = {};
   endsInLineComment_ = state.inLineComment;
   FindTokens(markers, settings);
@@ -83,10 +85,18 @@ void LineBlock::PassOver(std::string_view lines, const CommentMarkers& markers,
   FindComments(markers, settings, [](std::size_t /*first*/, std::size_t /*end*/) {});
 }
 
+/// As the letters want it.
+std::string_view LineBlock::Normal(std::string_view text) {
+  if (letters_ == LetterRule::kWestern) return text;
+  const auto dotted = caseSignificant_ ? DottedCapitalI::kKept : DottedCapitalI::kLowered;
+  return NormalForm(text, dotted, normal_);
+}
+
 void LineBlock::Rewrite(std::string_view lines, bool caseSignificant) {
-  const bool decoded = DecodeHtmlEntitiesOfLines(lines, !caseSignificant, decoded_);
   caseSignificant_ = caseSignificant;
-  text_ = decoded ? std::string_view(decoded_) : lines;
+  const std::string_view normal = Normal(lines);
+  const bool decoded = DecodeHtmlEntitiesOfLines(normal, !caseSignificant, decoded_);
+  text_ = decoded ? std::string_view(decoded_) : normal;
 }
 
 /// Tells where every comment starts, and where it ends.
@@ -123,9 +133,16 @@ void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settin
 /// Whether an entity stands there once the line is rewritten.
 bool LineBlock::IsEntityAt(std::size_t position) const {
   const std::string_view rest = text_.substr(position);
-  std::string_view entity = rest.substr(0, BytesOfFirst(rest, kLongestHtmlEntity));
+  // Letters and their marks may become fewer characters.
+  const std::size_t most = kLongestHtmlEntity * (letters_ == LetterRule::kAll ? 4 : 1);
+  std::string_view entity = rest.substr(0, BytesOfFirst(rest, most));
   entity = entity.substr(0, LineEnd(entity, 0));
   entity = entity.substr(0, entity.find("--"));  // they stand for a blank, which none holds
+  if (letters_ == LetterRule::kAll) {
+    std::string scratch;
+    if (!caseSignificant_) return HtmlEntityEnd(NormalLowerCase(entity)) > 0;
+    return HtmlEntityEnd(NormalForm(entity, DottedCapitalI::kKept, scratch)) > 0;
+  }
   const bool accented = entity.size() > 1 && static_cast<unsigned char>(entity[1]) >= 0x80;
   // Of a letter that begins the name, its small form counts.
   if (accented && !caseSignificant_) return HtmlEntityEnd(LowerCase(entity)) > 0;

@@ -25,7 +25,8 @@ struct LinePartState {
 
 class LineBlock {
  public:
-  explicit LineBlock(const TokenClasses& classes) : classes_(classes) {}
+  explicit LineBlock(const TokenClasses& classes, LetterRule letters = LetterRule::kWestern)
+      : classes_(classes), letters_(letters) {}
 
   /// Takes whole lines of well-formed UTF-8, and forgets those before. `settings` says whether
   /// markers are in force, and whether a comment is open: this is carried on. The markers can be
@@ -55,6 +56,7 @@ class LineBlock {
   }
 
  private:
+  [[nodiscard]] std::string_view Normal(std::string_view text);
   void Rewrite(std::string_view lines, bool caseSignificant);
   void FindTokens(const CommentMarkers& markers, ScanSettings& settings);
   template <typename OnComment>
@@ -64,8 +66,10 @@ class LineBlock {
                                          int& open);
 
   const TokenClasses& classes_;
+  LetterRule letters_;
   std::string_view text_;
   bool caseSignificant_ = false;
+  std::string normal_;
   std::string decoded_;
   /// Whether a comment ends at the end of the text, and with its line.
   bool endsInLineComment_ = false;

@@ -32,7 +32,7 @@ bool IsBetweenForeignCharacters(char before, char behind) {
 }  // namespace
 
 LineCutter::LineCutter(const TokenClasses& classes, const ScanSettings& settings)
-    : classes_(classes) {
+    : classes_(classes), letters_(settings.Letters) {
   std::string parts = "-&;#\r\n";
   for (std::size_t pair = 0; pair < 2; ++pair) {
     parts += settings.CommentStart[pair] + settings.CommentEnd[pair];
@@ -53,9 +53,10 @@ std::size_t LineCutter::LastCut(std::string_view text, std::size_t from) const {
 bool LineCutter::MayCutAt(std::string_view text, std::size_t position) const {
   const char before = text[position - 1];
   if (before == ' ') return true;  // in no entity, no marker and no word
-  const bool between = IsAsciiByte(before) ? separators_[static_cast<unsigned char>(before)]
-                                           : position < text.size() &&
-                                                 IsBetweenForeignCharacters(before, text[position]);
+  const bool between = IsAsciiByte(before)
+                           ? separators_[static_cast<unsigned char>(before)]
+                           : letters_ == LetterRule::kWestern && position < text.size() &&
+                                 IsBetweenForeignCharacters(before, text[position]);
   if (!between) return false;
   const std::size_t near = position - std::min(position, kEntityBytes);
   return text.substr(near, position - near).find('&') == std::string_view::npos;

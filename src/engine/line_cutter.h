@@ -27,6 +27,7 @@ class LineCutter {
   [[nodiscard]] std::size_t CutOfLongWord(std::string_view text) const;
 
   const TokenClasses& classes_;
+  LetterRule letters_;
   /// The signs behind which a line may be cut.
   std::bitset<128> separators_;
 };

@@ -8,6 +8,7 @@ void ScanSettings::SetAllowWordsFlags(const ScanChoices& choices) {
   for (std::size_t flag = 0; flag < kAllowFlagCount; ++flag) {
     AllowFlags[flag] = ReadingWordList || IsSet(choices.allowWordsWith[flag]);
   }
+  Letters = choices.letters;
 }
 
 void ScanSettings::BuildExtraWordChars() {
@@ -40,6 +41,10 @@ void ScanSettings::ClearListCharFlags() {
 void ScanSettings::NoteListWordChars(std::string_view word) {
   for (std::size_t flag = 0; flag < kAllowFlagCount; ++flag) {
     if (ContainsAnyOf(word, kAllowFlagChars[flag])) ListCharFlags[flag] = true;
+  }
+  // Numerals of other scripts than ours.
+  if (Letters == LetterRule::kAll && ContainsDigit(word)) {
+    ListCharFlags[static_cast<std::size_t>(AllowFlag::kNumerals)] = true;
   }
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/check_state.h"
+#include "engine/letter_rule.h"
 
 namespace quillomat {
 
@@ -42,7 +43,11 @@ struct ScanChoices {
   CheckState allowCommentMarkers = CheckState::kUnchecked;
   std::array<std::string, 2> startComment;
   std::array<std::string, 2> endComment;
+  LetterRule letters = LetterRule::kWestern;
+  CheckState foldAccents = CheckState::kChecked;
 
+  /// What makes two words the same.
+  [[nodiscard]] KeyRule Keys() const { return {letters, !IsSet(foldAccents)}; }
   [[nodiscard]] CheckState AllowWith(AllowFlag flag) const {
     return allowWordsWith[static_cast<std::size_t>(flag)];
   }
@@ -52,6 +57,7 @@ struct ScanChoices {
 /// changes just what it says, and `OpenComment` is changed by the scanner alone.
 struct ScanSettings {
   AllowFlagSet AllowFlags{};
+  LetterRule Letters = LetterRule::kWestern;
   /// Which classes occurred in the words of a words file.
   AllowFlagSet ListCharFlags{};
   /// The characters that AllowFlags admits. Only membership matters.
@@ -71,7 +77,7 @@ struct ScanSettings {
   /// Only listed words are counted.
   bool CountOnlyMode = false;
 
-  /// All flags for a words file, else those that the user checked.
+  /// All flags for a words file, else those that the user checked; and the letters.
   void SetAllowWordsFlags(const ScanChoices& choices);
   /// ExtraWordChars from AllowFlags.
   void BuildExtraWordChars();

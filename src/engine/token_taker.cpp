@@ -9,6 +9,7 @@
 #include "base/text_helpers.h"
 #include "base/utf8.h"
 #include "engine/fold_accents.h"
+#include "engine/normal_text.h"
 #include "engine/word_rules.h"
 
 namespace quillomat {
@@ -29,7 +30,7 @@ std::string_view TokenTaker::FinalForm(std::string_view token) {
     if (!word.empty()) settings_.NoteListWordChars(word);
     return word;
   }
-  if (IsSet(choices_.dropFinalS)) word = DropFinalS(word);
+  if (IsSet(choices_.dropFinalS)) word = DropFinalS(word, keyRule_.letters);
   const bool dropFragments = choices_.AllowWith(AllowFlag::kApostrophe) == CheckState::kUnchecked;
   if (dropFragments && IsApostropheFragment(word)) return {};
   return word;
@@ -109,17 +110,21 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
 /// Notes the words of a token as it stands in a file: seldom more than one ("well--known").
 void TokenTaker::WorkOutToken(std::string_view token) {
   if (WorkOutPlainToken(token)) return;
-  std::string_view text = PrepareLine(token, IsSet(choices_.caseSignificant), tokenText_);
+  std::string_view text =
+      PrepareLine(token, IsSet(choices_.caseSignificant), tokenText_, keyRule_.letters);
   if (text.find("--") != std::string_view::npos) {
     tokenText_ = ReplaceAll(text, "--", " ");
     text = tokenText_;
+  }
+  if (keyRule_.letters == LetterRule::kAll) {
+    text = NormalForm(text, DottedCapitalI::kKept, normalText_);  // of what became small letters
   }
   for (std::size_t position = 0; position < text.size();) {
     if (!charClass_.MayStartWord(text, position)) {
       position += CharacterAt(text, position).bytes;
       continue;
     }
-    const std::size_t bytes = WordRunBytes(charClass_, text, position);
+    const std::size_t bytes = charClass_.RunBytes(text, position);
     NoteNewWord(FinalForm(text.substr(position, bytes)));
     position += bytes;
   }
@@ -143,9 +148,10 @@ bool TokenTaker::WorkOutPlainToken(std::string_view token) {
 void TokenTaker::NoteNewWord(std::string_view word) {
   if (word.empty()) return;
   NewWord noted;
-  noted.isStored = lists_.Admits(word, settings_.CountOnlyMode) && !IsLongWord(word);
+  noted.isStored =
+      lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters) && !IsLongWord(word);
   if (noted.isStored) {
-    const std::string_view key = SortKeyOf(word, keyText_);
+    const std::string_view key = SortKeyOf(word, keyRule_, keyText_);
     noted.wordStart = newLetters_.size();
     noted.wordBytes = word.size();
     newLetters_.append(word);
@@ -188,19 +194,18 @@ void TokenTaker::AddNewWords() {
   }
 }
 
-std::size_t WordRunBytes(const CharClass& charClass, std::string_view text, std::size_t position) {
-  const std::size_t start = position;
-  for (std::size_t count = 0; count < kMaxWordRun && position < text.size(); ++count) {
-    const std::size_t bytes = charClass.WordCharBytes(text, position);
-    if (bytes == 0) break;
-    position += bytes;
+std::string_view PrepareLine(std::string_view line, bool caseSignificant, std::string& buffer,
+                             LetterRule letters) {
+  if (letters == LetterRule::kWestern) {
+    buffer.assign(line);
+    if (!caseSignificant) MakeLowerCase(buffer);
+  } else if (caseSignificant) {
+    std::string scratch;
+    buffer.assign(NormalForm(line, DottedCapitalI::kKept, scratch));
+  } else {
+    std::string scratch;
+    buffer = LowerCaseOfAll(NormalForm(line, DottedCapitalI::kLowered, scratch));
   }
-  return position - start;
-}
-
-std::string_view PrepareLine(std::string_view line, bool caseSignificant, std::string& buffer) {
-  buffer.assign(line);
-  if (!caseSignificant) MakeLowerCase(buffer);
   buffer.push_back(' ');
   return buffer;
 }

@@ -33,6 +33,7 @@ class TokenTaker {
         charClass_(charClass),
         lists_(lists),
         store_(store),
+        keyRule_(choices.Keys()),
         memoGeneration_(store.Generation()) {}
 
   /// Takes a run of word characters that starts as words may start, out of a text that was
@@ -80,6 +81,7 @@ class TokenTaker {
   const CharClass& charClass_;
   const WordLists& lists_;
   WordStore& store_;
+  KeyRule keyRule_;
   TokenMemo memo_;
   std::uint64_t memoGeneration_;
   std::int32_t wordsRead_ = 0;
@@ -88,17 +90,15 @@ class TokenTaker {
   std::vector<NewWord> newWords_;
   std::string newLetters_;
   std::string tokenText_;
+  std::string normalText_;
   std::string keyText_;
 };
 
-/// How many bytes the run of word characters has that starts at `position`; at most kMaxWordRun
-/// characters belong to one.
-[[nodiscard]] std::size_t WordRunBytes(const CharClass& charClass, std::string_view text,
-                                       std::size_t position);
-
 /// `line` as a scan wants a line of text to be counted: lower-cased unless letter case is
-/// significant, with one blank appended. The result stays in `buffer`.
+/// significant, with one blank appended; for all letters in normal form before. The result stays in
+/// `buffer`.
 [[nodiscard]] std::string_view PrepareLine(std::string_view line, bool caseSignificant,
-                                           std::string& buffer);
+                                           std::string& buffer,
+                                           LetterRule letters = LetterRule::kWestern);
 
 }  // namespace quillomat

@@ -1,6 +1,7 @@
 #include "engine/word_filters.h"
 
 #include "base/utf8.h"
+#include "engine/char_class.h"
 #include "engine/word_rules.h"
 
 namespace quillomat {
@@ -8,8 +9,10 @@ namespace {
 
 constexpr std::int32_t kFirstListedNumber = 2;
 
-bool IsExcludedRepetition(std::string_view word, std::int32_t length) {
-  const bool startsWithDigit = word[0] >= '0' && word[0] <= '9';
+bool IsExcludedRepetition(std::string_view word, std::int32_t length, LetterRule letters) {
+  const bool startsWithDigit =
+      (word[0] >= '0' && word[0] <= '9') ||
+      (letters == LetterRule::kAll && ContainsDigit(word.substr(0, CharacterAt(word, 0).bytes)));
   return length > 1 && !startsWithDigit && IsRepetition(word);
 }
 
@@ -23,9 +26,12 @@ bool IsExcluded(const WordRec& record, const FilterChoices& choices) {
     return true;
   }
   if (length > choices.longWordSize) return true;
-  if (IsSet(choices.ignoreRepetitions) && IsExcludedRepetition(record.Word, length)) return true;
+  if (IsSet(choices.ignoreRepetitions) &&
+      IsExcludedRepetition(record.Word, length, choices.letters)) {
+    return true;
+  }
   if (IsSet(choices.ignoreRomNum40) && IsRomanNumeral(record.Word, true)) return true;
-  return IsSet(choices.ignoreNoVowelOrY) && LacksVowel(record.Word, true);
+  return IsSet(choices.ignoreNoVowelOrY) && LacksVowel(record.Word, true, choices.letters);
 }
 
 }  // namespace

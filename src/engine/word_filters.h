@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "base/check_state.h"
+#include "engine/letter_rule.h"
 #include "engine/word_store.h"
 
 namespace quillomat {
@@ -21,6 +22,8 @@ struct FilterChoices {
   CheckState ignoreRepetitions = CheckState::kUnchecked;
   CheckState ignoreRomNum40 = CheckState::kUnchecked;
   CheckState ignoreNoVowelOrY = CheckState::kUnchecked;
+  /// As of the scan.
+  LetterRule letters = LetterRule::kWestern;
 };
 
 /// Sets `Included` of every record.

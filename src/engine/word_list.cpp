@@ -4,17 +4,25 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
+#include "engine/normal_text.h"
 #include "engine/word_rules.h"
 
 namespace quillomat {
+namespace {
 
-bool WordLists::Admits(std::string_view word, bool countOnlyMode) const {
+std::string LowerCaseBy(LetterRule letters, std::string_view text) {
+  return letters == LetterRule::kAll ? NormalLowerCase(text) : LowerCase(text);
+}
+
+}  // namespace
+
+bool WordLists::Admits(std::string_view word, bool countOnlyMode, LetterRule letters) const {
   if (countOnlyMode) {
-    const std::string lower = LowerCase(word);
+    const std::string lower = LowerCaseBy(letters, word);
     return ExtraCountOnlyList.IsInList(lower) || CountOnlyList.IsInList(lower);
   }
   if (ExtraIgnoreList.Count() == 0 && IgnoreList.Count() == 0) return true;
-  const std::string lower = LowerCase(word);
+  const std::string lower = LowerCaseBy(letters, word);
   return !ExtraIgnoreList.IsInList(lower) && !IgnoreList.IsInList(lower);
 }
 
@@ -30,8 +38,8 @@ SplitResult SplitList(std::string_view text, std::string_view separators, std::s
   return result;
 }
 
-SplitResult ParseTypedWords(std::string_view text) {
-  SplitResult result = SplitList(LowerCase(text), " \t\r\n", kMaxTypedWords);
+SplitResult ParseTypedWords(std::string_view text, LetterRule letters) {
+  SplitResult result = SplitList(LowerCaseBy(letters, text), " \t\r\n", kMaxTypedWords);
   for (std::string& item : result.items) item.resize(TrimTrailingChars(item, "-'_.,:").size());
   std::erase(result.items, std::string());
   return result;

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/letter_rule.h"
 #include "engine/word_hash.h"
 
 namespace quillomat {
@@ -60,7 +61,8 @@ struct WordLists {
 
   /// Whether the lists let `word` be counted. Letter case and accents of the lower-cased word must
   /// be those of the list.
-  [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode) const;
+  [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode,
+                            LetterRule letters = LetterRule::kWestern) const;
 };
 
 struct SplitResult {
@@ -79,7 +81,9 @@ inline constexpr std::size_t kMaxTypedWords = 1000;
 
 /// A list typed by hand, lower-cased, split at blanks, tabs and line breaks, and with the trailing
 /// characters "-'_.,:" taken off each word; an item of such characters alone is no word. `fits` is
-/// false when it has more than kMaxTypedWords items.
-[[nodiscard]] SplitResult ParseTypedWords(std::string_view text);
+/// false when it has more than kMaxTypedWords items. Of all letters the text is brought into normal
+/// form.
+[[nodiscard]] SplitResult ParseTypedWords(std::string_view text,
+                                          LetterRule letters = LetterRule::kWestern);
 
 }  // namespace quillomat

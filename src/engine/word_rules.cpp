@@ -6,6 +6,8 @@
 
 #include "base/letter_case.h"
 #include "base/utf8.h"
+#include "engine/fold_accents.h"
+#include "engine/unicode_traits.h"
 
 namespace quillomat {
 namespace {
@@ -35,6 +37,32 @@ bool IsVowelCodePoint(char32_t codePoint, bool lowerOnly) {
          IsSmallLatin1Vowel(codePoint + kToSmall);
 }
 
+/// Whether a letter without its accents is none of A-Z.
+bool HasOtherLetters(std::string_view word) {
+  const UnicodeTraits& traits = UnicodeTraits::Get();
+  const std::string folded = FoldAccentsOfAll(word);
+  for (std::size_t position = 0; position < folded.size();) {
+    const Utf8Character character = CharacterAt(folded, position);
+    const bool ascii = character.codePoint < 0x80;
+    if (!ascii && traits.Is(character.codePoint, CodePointTraits::kLetter)) return true;
+    position += character.bytes;
+  }
+  return false;
+}
+
+/// A small one, of Latin letters; what stands for it may be two.
+bool EndsWithVowelOfAnyAccent(std::string_view word) {
+  std::string_view last = word;
+  const UnicodeTraits& traits = UnicodeTraits::Get();
+  while (traits.Is(CharacterAt(last, LastCharacterStart(last)).codePoint, CodePointTraits::kMark)) {
+    last.remove_suffix(last.size() - LastCharacterStart(last));
+  }
+  const Utf8Character letter = CharacterAt(last, LastCharacterStart(last));
+  const std::string folded = FoldAccentsOfAll(last.substr(LastCharacterStart(last)));
+  const bool capital = traits.Of(letter.codePoint).toLower != 0;
+  return !capital && IsVowel(folded.substr(LastCharacterStart(folded)), true);
+}
+
 }  // namespace
 
 std::string_view TrimTrailingChars(std::string_view text, std::string_view set) {
@@ -56,13 +84,16 @@ bool IsContractionStem(std::string_view word) {
   return kContractionStems.find(LowerCase(word) + ' ') != std::string_view::npos;
 }
 
-std::string_view DropFinalS(std::string_view word) {
+std::string_view DropFinalS(std::string_view word, LetterRule letters) {
   if (!word.ends_with('s') || word.ends_with("ss") || word.ends_with("'s")) return word;
   if (LowerCase(word) == "maths") return word;
   const std::string_view before = word.substr(0, word.size() - 1);
   const std::size_t secondToLast = LastCharacterStart(before);
   if (secondToLast == 0) return word;  // at most two characters
   if (EqualIgnoringCase(word.substr(word.size() >= 3 ? word.size() - 3 : 0), "ics")) return word;
+  if (letters == LetterRule::kAll) {
+    return HasOtherLetters(word) || EndsWithVowelOfAnyAccent(before) ? word : before;
+  }
   if (IsVowel(before.substr(secondToLast), true)) return word;
   return before;
 }
@@ -93,7 +124,10 @@ bool IsRomanNumeral(std::string_view word, bool belowXL) {
   return belowXL || std::ranges::find(kRomanExceptions, LowerCase(word)) == kRomanExceptions.end();
 }
 
-bool LacksVowel(std::string_view word, bool withY) {
+bool LacksVowel(std::string_view word, bool withY, LetterRule letters) {
+  if (letters == LetterRule::kAll) {
+    return !HasOtherLetters(word) && LacksVowel(FoldAccentsOfAll(word), withY);
+  }
   for (std::size_t position = 0; position < word.size();) {
     const Utf8Character character = CharacterAt(word, position);
     if (IsVowelCodePoint(character.codePoint, false)) return false;

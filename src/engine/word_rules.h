@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "engine/letter_rule.h"
+
 namespace quillomat {
 
 /// `text` without the trailing characters that occur in `set` (ASCII).
@@ -21,8 +23,10 @@ void RemoveSuffix(std::string& text, std::string_view suffix);
 /// "couldn"). Any ending of a stem will do: "n", "dn", "en" and "ren" are stems too.
 [[nodiscard]] bool IsContractionStem(std::string_view word);
 
-/// The word under the rule "drop a final s": at most its last character is dropped.
-[[nodiscard]] std::string_view DropFinalS(std::string_view word);
+/// The word under the rule "drop a final s": at most its last character is dropped. Of all letters
+/// the rule asks Latin ones only: it leaves a word with a letter of another script alone.
+[[nodiscard]] std::string_view DropFinalS(std::string_view word,
+                                          LetterRule letters = LetterRule::kWestern);
 
 /// Whether the word is what remains of a contraction or a possessive cut at its apostrophe.
 [[nodiscard]] bool IsApostropheFragment(std::string_view word);
@@ -32,10 +36,13 @@ void RemoveSuffix(std::string& text, std::string_view suffix);
 [[nodiscard]] bool IsRepetition(std::string_view word);
 
 /// Whether only the letters of Roman numerals occur (I, V and X with `belowXL`); their order is not
-/// looked at. The general form knows eight English words that look like numerals.
+/// looked at. The general form knows eight English words that look like numerals. No letter of
+/// another script is one.
 [[nodiscard]] bool IsRomanNumeral(std::string_view word, bool belowXL);
 
-/// Whether the word has no vowel; with `withY`, and no y either. An empty word lacks a vowel.
-[[nodiscard]] bool LacksVowel(std::string_view word, bool withY);
+/// Whether the word has no vowel; with `withY`, and no y either. An empty word lacks a vowel. Of
+/// all letters, a vowel is one with any accents, and only words of Latin letters lack one.
+[[nodiscard]] bool LacksVowel(std::string_view word, bool withY,
+                              LetterRule letters = LetterRule::kWestern);
 
 }  // namespace quillomat

@@ -5,6 +5,7 @@
 #include "base/text_helpers.h"
 #include "base/utf8.h"
 #include "engine/html_entities.h"
+#include "engine/normal_text.h"
 
 namespace quillomat {
 namespace {
@@ -23,10 +24,12 @@ WordScanner::WordScanner(ScanSettings& settings, const ScanChoices& choices, con
     : settings_(settings),
       choices_(choices),
       yield_(yield),
-      charClass_(AllowsDigits(settings), settings.ExtraWordChars),
+      charClass_(AllowsDigits(settings), settings.ExtraWordChars, settings.Letters),
       tokenClasses_(AllowsDigits(settings), settings.ExtraWordChars),
       taker_(settings, choices, charClass_, lists, store),
-      block_(tokenClasses_) {}
+      block_(tokenClasses_, settings.Letters) {
+  store.SetKeyRule(choices.Keys());
+}
 
 void WordScanner::GetWords(std::string_view lineBuffer) {
   ScanText(lineBuffer, [this](std::string_view token) { taker_.TakeCut(token); });
@@ -44,6 +47,9 @@ void WordScanner::PassOverLines(std::string_view lines) {
 template <typename Take>
 void WordScanner::ScanText(std::string_view lineBuffer, Take take) {
   text_ = settings_.ReadingWordList ? lineBuffer : Rewritten(lineBuffer);
+  if (settings_.Letters == LetterRule::kAll) {
+    text_ = NormalForm(text_, DottedCapitalI::kKept, normalText_);
+  }
   PrepareMarkers();
   position_ = 0;
   std::size_t skipped = 0;
@@ -56,7 +62,7 @@ void WordScanner::ScanText(std::string_view lineBuffer, Take take) {
       if (++skipped % kSkippedPerYield == 0 && yield_.Yield()) return;
       continue;
     }
-    const std::size_t bytes = WordRunBytes(charClass_, text_, position_);
+    const std::size_t bytes = charClass_.RunBytes(text_, position_);
     take(text_.substr(position_, bytes));
     position_ += bytes;
     if (yield_.Yield()) return;
@@ -122,8 +128,10 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
     if (settings_.OpenComment != kNoComment) return 0;
     // An entity may become the letter with which a marker starts, and two hyphens the blank.
     const bool atBlank = markers_.MayStartWith(' ');
+    const bool all = settings_.Letters == LetterRule::kAll;  // others may become signs of ASCII
     const auto mayStart = [&](char ch) {
-      return ch == '&' || (ch == '-' && atBlank) || markers_.MayStartWith(ch);
+      return ch == '&' || (ch == '-' && atBlank) || markers_.MayStartWith(ch) ||
+             (all && static_cast<unsigned char>(ch) >= 0x80);
     };
     const auto start = std::ranges::find_if(lines, mayStart);
     lines = lines.substr(0, static_cast<std::size_t>(start - lines.begin()));

@@ -2,9 +2,9 @@
 // of a words file), cuts each to its final form, decides whether it is to be counted, and hands it
 // to the word store. It skips comments and decodes entities.
 //
-// One scanner serves one run. Text is well-formed UTF-8. The caller has lower-cased the text unless
-// letter case is significant, and has appended one blank: the last character of a text never starts
-// a word.
+// One scanner serves one run. Text is well-formed UTF-8. The caller has prepared it (PrepareLine):
+// lower-cased it unless letter case is significant, and appended one blank, as the last character
+// of a text never starts a word.
 #pragma once
 
 #include <cstddef>
@@ -46,7 +46,8 @@ class ScanYield {
 class WordScanner {
  public:
   /// Everything referred to must outlive the scanner. `settings` is ready (SetAllowWordsFlags,
-  /// BuildExtraWordChars); its markers may change between texts, its flags and lists may not.
+  /// BuildExtraWordChars); its markers may change between texts, its flags and lists may not. The
+  /// store takes its rule of keys from the choices.
   WordScanner(ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
               WordStore& store, ScanYield& yield);
 
@@ -119,6 +120,7 @@ class WordScanner {
   std::string_view text_;
   std::size_t position_ = 0;
   std::string rewritten_;
+  std::string normalText_;
 };
 
 }  // namespace quillomat

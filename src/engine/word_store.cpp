@@ -42,7 +42,7 @@ void WordStore::Clear() {
 
 std::optional<std::uint32_t> WordStore::AddWord(std::string_view word, bool anyLength) {
   if (!anyLength && IsLongWord(word)) return {};
-  const std::string_view key = SortKeyOf(word, keyScratch_);
+  const std::string_view key = SortKeyOf(word, keyRule_, keyScratch_);
   SettleHashes();
   return AddKeyedWord({word, key, HashOf(key)});
 }

@@ -21,6 +21,7 @@
 #include "engine/chunked_vector.h"
 #include "engine/file_tally.h"
 #include "engine/letter_arena.h"
+#include "engine/letter_rule.h"
 #include "engine/word_hash.h"
 #include "engine/word_letters.h"
 
@@ -79,6 +80,9 @@ class WordStore {
  public:
   /// `seed` is that of the first hashes.
   explicit WordStore(const HashSeed& seed = DrawnHashSeed()) : seed_(seed) {}
+
+  /// What makes words the same from now on; to be told while the store is empty.
+  void SetKeyRule(KeyRule rule) { keyRule_ = rule; }
 
   /// Empties the store. The file tracker is left alone.
   void Clear();
@@ -200,6 +204,7 @@ class WordStore {
 
   FileTracker files_;
   NewWordListener* listener_ = nullptr;
+  KeyRule keyRule_;
   std::string keyScratch_;
 
   // In which order the words stand is nobody's affair but the store's: hence mutable.

@@ -196,6 +196,10 @@ class ComboBinding final : public QObject, public WidgetBinding {
       widget_.clear();
       for (const std::string& item : items) widget_.addItem(ToQt(item));
     }
+    for (int i = 0; i < widget_.count(); ++i) {
+      const QString item = ToQt(items[static_cast<std::size_t>(i)]);
+      if (widget_.itemText(i) != item) widget_.setItemText(i, item);  // in another language now
+    }
     widget_.setCurrentIndex(combo_.ListIndex());
   }
 

@@ -38,7 +38,7 @@ void LoadMarkersFor(std::string_view path, const ScanChoices& choices, ScanSetti
 
 void TextReader::ReadPiece(std::string_view text) {
   scanner_.SetWordsRead(target_.wordsRead);
-  scanner_.GetWords(PrepareLine(text, IsSet(choices_.caseSignificant), buffer_));
+  scanner_.GetWords(PrepareLine(text, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
   target_.wordsRead = scanner_.WordsRead();
 }
 

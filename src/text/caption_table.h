@@ -91,6 +91,7 @@ inline constexpr int kParamsFormCaption = 200;
 inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"lblOnThisPage", 201},
     {"lblAllowWords", 202},
+    {"lblLetters", 247},
     {"fraIgnoreWords", 216},
     {"lblShortWordSize", 218},
     {"lblLongWords", 219},
@@ -116,6 +117,9 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"cmdInitialize", 245},
     {"cmdClose", 246},
 });
+
+/// The items of cboLetters.
+inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 
 /// Tool tips of frmParams.
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({

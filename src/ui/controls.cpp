@@ -80,6 +80,10 @@ void ComboBox::AddItem(std::string item) {
   Changed.Fire();
 }
 
+void ComboBox::SetItem(int listIndex, std::string item) {
+  Assign(items_[static_cast<std::size_t>(listIndex)], std::move(item));
+}
+
 void ComboBox::Clear() {
   if (items_.empty()) return;
   items_.clear();

@@ -121,6 +121,8 @@ class ComboBox final : public Control {
   ComboBox(Form& owner, ControlName name) : Control(owner, std::move(name), kKind) {}
 
   void AddItem(std::string item);
+  /// The item at `listIndex`, which there is, in other words. Fires no Click.
+  void SetItem(int listIndex, std::string item);
   /// Removes all items; none is selected then. Fires no Click.
   void Clear();
   [[nodiscard]] std::span<const std::string> Items() const { return items_; }

@@ -22,10 +22,12 @@ std::array<CheckBox*, ParamsForm::kAllowFlagCount> ParamsForm::AllowCheckBoxes()
           &chkAllowWordsWithNumerals};
 }
 
-void ParamsForm::FillNumberCombos() {
+void ParamsForm::FillCombos() {
   AddNumbers(cboShortWordSize, 2, 9, 1);
   AddNumbers(cboLongWordSize, 20, 100, 10);
   AddNumbers(cboThresholdFrequency, 2, 9, 1);
+  cboLetters.AddItem("Western European");
+  cboLetters.AddItem("of all languages");
 }
 
 }  // namespace quillomat

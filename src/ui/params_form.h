@@ -19,8 +19,9 @@ class ParamsForm final : public Form {
   /// The boxes that allow a sign in words, in the order of the allow flags: hyphens to numerals.
   [[nodiscard]] std::array<CheckBox*, kAllowFlagCount> AllowCheckBoxes();
 
-  /// Fills the three lists of numbers; called once, at start-up. None is selected then.
-  void FillNumberCombos();
+  /// Fills the three lists of numbers, and that of letters; called once, at start-up. None is
+  /// selected then.
+  void FillCombos();
 
   Label lblOnThisPage{*this, "lblOnThisPage"};
 
@@ -40,6 +41,9 @@ class ParamsForm final : public Form {
   CheckBox chkAllowWordsWithNumerals{*this, "chkAllowWordsWithNumerals", "numerals 123"};
   CheckBox chkCaseSignificant{*this, "chkCaseSignificant", "Upper/lower case significant"};
   CheckBox chkDropFinalS{*this, "chkDropFinalS", "Drop final 's' unless 'ss' or vowel+'s'"};
+  Label lblLetters{*this, "lblLetters", "Letters:"};
+  ComboBox cboLetters{*this, "cboLetters"};
+  CheckBox chkFoldAccents{*this, "chkFoldAccents", "Accents make no difference"};
 
   // Which words are left out of the list.
   Frame fraIgnoreWords{*this, "fraIgnoreWords", " Ignore words "};

@@ -96,7 +96,7 @@ TEST_F(NamedStateLines, WithAValueThatDoesNotFitAreErrors) {
 class NewSettings : public testing::Test {
  protected:
   NewSettings() {
-    frmParams.FillNumberCombos();
+    frmParams.FillCombos();
     frmMain.cboWordOrder.AddItem("first");
     frmMain.cboDisplayFormat.AddItem("first");
     cboNew.AddItem("usual");
@@ -109,6 +109,7 @@ class NewSettings : public testing::Test {
       Control& control = ControlOf(setting, frmMain, frmParams);
       if (auto* combo = control.As<ComboBox>()) combo->SetListIndex(0);
     }
+    frmParams.chkFoldAccents.SetChecked(true);
     for (std::size_t i = 0; i < 3; ++i) {
       SetToDefault(settings[i], ControlOf(settings[i], frmMain, frmParams));
     }

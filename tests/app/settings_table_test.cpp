@@ -104,22 +104,23 @@ TEST_F(SettingsTable, DefaultsAreSetInTheOrderOfTheTable) {
   for (const Setting& setting : AllSettings()) {
     if (setting.window != SettingWindow::kPanel) continue;
     if (auto* box = Of(setting).As<CheckBox>()) box->SetValue(CheckState::kGrayed);
-    if (auto* combo = Of(setting).As<ComboBox>()) combo->SetListIndex(5);
+    if (auto* combo = Of(setting).As<ComboBox>())
+      combo->SetListIndex(static_cast<int>(combo->Items().size()) - 1);
     if (auto* text = Of(setting).As<TextBox>()) text->SetText("other");
   }
-  EXPECT_THAT(OrderOf([this] { Panel().cmdRestoreDefaults.PerformClick(); }),
-              ElementsAre("chkCaseSignificant", "chkIgnoreShortWords", "chkIgnoreInfrequentWords",
-                          "chkIgnoreRepetitions", "chkIgnoreRomNum40", "chkIgnoreNoVowelOrY",
-                          "chkAllowWordsWithHyphens", "chkAllowWordsWithApostrophes",
-                          "chkAllowWordsWithUnderscores", "chkAllowWordsWithColons",
-                          "chkAllowWordsWithBackslashes", "chkAllowWordsWithForwardslashes",
-                          "chkAllowWordsWithParentheses", "chkAllowWordsWithPeriods",
-                          "chkAllowWordsWithCommas", "chkAllowWordsWithAtSigns",
-                          "chkAllowWordsWithNumerals", "chkDropFinalS", "chkOutputWithCommas",
-                          "chkUseLog10", "chkAllowCommentMarkers", "chkWarnOnOverwrite",
-                          "chkSaveStateOnQuit", "txbStartComment(0)", "txbEndComment(0)",
-                          "txbStartComment(1)", "txbEndComment(1)", "cboShortWordSize",
-                          "cboLongWordSize", "cboThresholdFrequency"))
+  EXPECT_THAT(
+      OrderOf([this] { Panel().cmdRestoreDefaults.PerformClick(); }),
+      ElementsAre(
+          "chkCaseSignificant", "chkIgnoreShortWords", "chkIgnoreInfrequentWords",
+          "chkIgnoreRepetitions", "chkIgnoreRomNum40", "chkIgnoreNoVowelOrY",
+          "chkAllowWordsWithHyphens", "chkAllowWordsWithApostrophes",
+          "chkAllowWordsWithUnderscores", "chkAllowWordsWithColons", "chkAllowWordsWithBackslashes",
+          "chkAllowWordsWithForwardslashes", "chkAllowWordsWithParentheses",
+          "chkAllowWordsWithPeriods", "chkAllowWordsWithCommas", "chkAllowWordsWithAtSigns",
+          "chkAllowWordsWithNumerals", "chkDropFinalS", "chkFoldAccents", "chkOutputWithCommas",
+          "chkUseLog10", "chkAllowCommentMarkers", "chkWarnOnOverwrite", "chkSaveStateOnQuit",
+          "txbStartComment(0)", "txbEndComment(0)", "txbStartComment(1)", "txbEndComment(1)",
+          "cboShortWordSize", "cboLongWordSize", "cboThresholdFrequency", "cboLetters"))
       << "the typed lists and the words files are kept";
 }
 
@@ -137,7 +138,7 @@ TEST_F(SettingsTable, BoxesAreClearedInAnOrderOfTheirOwn) {
                                  "chkIgnoreInfrequentWords", "chkIgnoreRepetitions",
                                  "chkIgnoreRomNum40", "chkIgnoreNoVowelOrY", "chkIgnoreShortWords",
                                  "chkOutputWithCommas", "chkUseLog10", "chkAllowCommentMarkers",
-                                 "chkWarnOnOverwrite", "chkSaveStateOnQuit"));
+                                 "chkWarnOnOverwrite", "chkSaveStateOnQuit", "chkFoldAccents"));
 }
 
 TEST_F(SettingsTable, BoxThatIsNewIsClearedLast) {
@@ -160,6 +161,7 @@ TEST_F(SettingsTable, ScanningParametersAskBeforeTheTextIsReadAnew) {
                                                "chkAllowWordsWithNumerals",
                                                "chkCaseSignificant",
                                                "chkDropFinalS",
+                                               "chkFoldAccents",
                                                "chkAllowCommentMarkers"};
   for (CheckBox* box : BoxesInClearingOrder(Panel())) {
     CountClipboard("cat");
@@ -180,7 +182,8 @@ TEST_F(SettingsTable, ListingParametersMoveTheFocusToClose) {
     Panel().SetFocus(Panel().cmdInitialize);
     Control& control = Of(setting);
     if (auto* box = control.As<CheckBox>()) box->PerformClick();
-    if (auto* combo = control.As<ComboBox>()) combo->SetListIndex(4);
+    if (auto* combo = control.As<ComboBox>())
+      combo->SetListIndex(std::min(4, static_cast<int>(combo->Items().size()) - 1));
     EXPECT_EQ(Panel().Focused() == &Panel().cmdClose, listing.contains(setting.control))
         << setting.control;
   }

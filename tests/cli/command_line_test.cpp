@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/unicode_traits.h"
+
 namespace quillomat {
 namespace {
 
@@ -146,7 +148,7 @@ TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   EXPECT_EQ(help.err, "");
   const Parsed version = Parse({"--version"});
   EXPECT_EQ(version.result.exitStatus, 0);
-  EXPECT_EQ(version.out, "quillomat-cli 7.07\n");
+  EXPECT_EQ(version.out, "quillomat-cli 7.07 (Unicode " + UnicodeVersion() + ")\n");
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ using testing::HasSubstr;
 
 class ControlSettings : public testing::Test {
  protected:
-  ControlSettings() { frmParams.FillNumberCombos(); }
+  ControlSettings() { frmParams.FillCombos(); }
 
   std::optional<std::string> Set(const std::string& name, const std::string& value) {
     Control* const control = FindControl(frmMain, frmParams, name);
@@ -36,8 +36,8 @@ TEST_F(ControlSettings, ReachEveryPanelControlThatHasAValue) {
         EXPECT_EQ(control->As<TextBox>()->Text(), "some text");
         break;
       case ControlKind::kComboBox:
-        EXPECT_EQ(Set(control->Name(), "#2"), std::nullopt);
-        EXPECT_EQ(control->As<ComboBox>()->ListIndex(), 2);
+        EXPECT_EQ(Set(control->Name(), "#1"), std::nullopt);
+        EXPECT_EQ(control->As<ComboBox>()->ListIndex(), 1);
         break;
       default:
         EXPECT_THAT(Set(control->Name(), "1").value_or(""), HasSubstr("no value"));

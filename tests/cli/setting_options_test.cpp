@@ -87,6 +87,7 @@ TEST_F(SettingOptions, EveryOtherOptionSetsItsControls) {
          {"txbStartComment(0)", "<!--"},
          {"txbEndComment(0)", "-->"},
          {"txbStartComment(1)", ""}}}},
+      {"--letters", {"All", {{"cboLetters", "of all languages"}}}},
       {"--ignore", {"a b,c.txt", {{"txbWordsFile(0)", "a b,c.txt"}}}},
       {"--only", {"c.txt", {{"txbWordsFile(1)", "c.txt"}}}},
       {"--ignore-words", {"the,and of", {{"txbWordsToIgnoreOrCount(0)", "the and of"}}}},

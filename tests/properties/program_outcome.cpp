@@ -45,6 +45,10 @@ CheckState StateOf(int box) {
   return static_cast<CheckState>(box);
 }
 
+LetterRule LettersOf(const reference::LiteralChoices& from) {
+  return from.cboLetters == 1 ? LetterRule::kAll : LetterRule::kWestern;
+}
+
 ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
   ScanChoices choices;
   choices.allowWordsWith = {
@@ -55,6 +59,8 @@ ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
       StateOf(from.chkAllowWordsWithCommas),      StateOf(from.chkAllowWordsWithAtSigns),
       StateOf(from.chkAllowWordsWithNumerals)};
   choices.caseSignificant = StateOf(from.chkCaseSignificant);
+  choices.letters = LettersOf(from);
+  choices.foldAccents = StateOf(from.chkFoldAccents);
   choices.dropFinalS = StateOf(from.chkDropFinalS);
   choices.allowCommentMarkers = StateOf(from.chkAllowCommentMarkers);
   choices.startComment = from.txbStartComment;
@@ -72,6 +78,7 @@ FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {
   choices.ignoreRepetitions = StateOf(from.chkIgnoreRepetitions);
   choices.ignoreRomNum40 = StateOf(from.chkIgnoreRomNum40);
   choices.ignoreNoVowelOrY = StateOf(from.chkIgnoreNoVowelOrY);
+  choices.letters = LettersOf(from);
   return choices;
 }
 
@@ -98,7 +105,8 @@ class ProgramCase {
 
  private:
   void ReadLists(std::size_t kind) {
-    SplitResult typed = ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]));
+    SplitResult typed =
+        ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]), choices_.letters);
     std::string cleaned;
     for (std::size_t i = 0; i < typed.items.size(); ++i) {
       cleaned += (i > 0 ? " " : "") + typed.items[i];
@@ -129,7 +137,8 @@ class ProgramCase {
     WordScanner scanner(settings_, choices_, none, store_, yield_);
     for (const std::string& line : lines) {
       const std::string_view trimmed = TrimBlanks(line);
-      if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer_));
+      if (!trimmed.empty())
+        scanner.GetWords(PrepareLine(trimmed, false, buffer_, choices_.letters));
     }
   }
 
@@ -204,9 +213,9 @@ class ProgramCase {
       all += line + "\r\n";
       const std::string_view trimmed = TrimBlanks(line);
       if (text.whole || trimmed.empty()) continue;
-      scanner.GetWords(PrepareLine(trimmed, caseSignificant, buffer_));
+      scanner.GetWords(PrepareLine(trimmed, caseSignificant, buffer_, choices_.letters));
     }
-    if (text.whole) scanner.GetWords(PrepareLine(all, caseSignificant, buffer_));
+    if (text.whole) scanner.GetWords(PrepareLine(all, caseSignificant, buffer_, choices_.letters));
   }
 
   /// As a file is read: many lines at a time where that can be.
@@ -227,7 +236,8 @@ class ProgramCase {
       std::string_view line = rest.substr(0, end);
       if (line.ends_with('\r')) line.remove_suffix(1);
       line = TrimBlanks(line);
-      if (!line.empty()) scanner.GetWords(PrepareLine(line, caseSignificant, buffer_));
+      if (!line.empty())
+        scanner.GetWords(PrepareLine(line, caseSignificant, buffer_, choices_.letters));
       rest.remove_prefix(end + 1);
     }
   }
@@ -242,7 +252,8 @@ class ProgramCase {
         longLine.Take(line);
         longLine.End();
       } else if (!trimmed.empty()) {
-        scanner.GetWords(PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_));
+        scanner.GetWords(
+            PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
       }
     }
   }

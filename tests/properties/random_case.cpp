@@ -2,6 +2,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "base/utf8.h"
 #include "properties/count_case.h"
 
 namespace quillomat::properties {
@@ -111,8 +112,131 @@ constexpr std::array kPieces = std::to_array<std::string_view>({" ",
                                                                 "ns",
                                                                 "es"});
 
-constexpr auto kStartMarkers = std::to_array<std::string_view>(
-    {"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t", " ", "-"});
+/// The same for the letters of all languages: what is composed and what is not, signs that stand
+/// for others, signs that are dropped, scripts with case and without, digits.
+constexpr auto kPiecesOfAll =
+    std::to_array<std::string_view>({"\xC5\x82",
+                                     "\xC5\x81",
+                                     "\xC3\xB3",
+                                     "o",
+                                     "\xCC\x81",
+                                     "\xCC\x88",
+                                     "\xCC\xA3",
+                                     "\xCC\xB1",
+                                     "\xCC\x87",
+                                     "I\xCC\x87",
+                                     "\xC4\xB0",
+                                     "i",
+                                     "\xC4\xB1",
+                                     "H",
+                                     "J",
+                                     "\xCD\x85",
+                                     "\xE2\x80\x99",
+                                     "\xE2\x80\x98",
+                                     "\xCA\xBC",
+                                     "\xEF\xBC\x87",
+                                     "\xE2\x80\x90",
+                                     "\xE2\x80\x91",
+                                     "\xEF\xAC\x81",
+                                     "\xEF\xAC\x85",
+                                     "\xEF\xBC\xA1",
+                                     "\xEF\xBD\x82",
+                                     "\xEF\xBC\x8F",
+                                     "\xEF\xBC\x8A",
+                                     "\xEF\xBC\x9C",
+                                     "\xEF\xBC\x9E",
+                                     "\xEF\xBC\x9B",
+                                     "&",
+                                     "\xEF\xBC\x86",
+                                     "\xC2\xAD",
+                                     "\xE2\x80\x8D",
+                                     "\xE2\x80\x8C",
+                                     "\xEF\xBB\xBF",
+                                     "\xE2\x80\x8F",
+                                     "\xE2\x80\xAC",
+                                     "\xD8\x9C",
+                                     "\xD0\xB9",
+                                     "\xD0\xB8\xCC\x86",
+                                     "\xD0\x98",
+                                     "\xD1\x91",
+                                     "\xD0\x96",
+                                     "\xD0\xB6",
+                                     "\xD1\x81\xD0\xBB\xD0\xBE\xD0\xB2\xD0\xBE",
+                                     "\xCE\xA3",
+                                     "\xCF\x83",
+                                     "\xCF\x82",
+                                     "\xCE\xAC",
+                                     "\xCE\xAC",
+                                     "\xCE\x86",
+                                     "\xE1\xBE\xB3",
+                                     "\xE1\xBE\xBC",
+                                     "\xD7\x90",
+                                     "\xD7\x91\xD6\xBC",
+                                     "\xD7\x91",
+                                     "\xD6\xB0",
+                                     "\xE0\xA4\x95",
+                                     "\xE0\xA4\xBF",
+                                     "\xE0\xA7\x87",
+                                     "\xE0\xA6\xBE",
+                                     "\xED\x95\x9C",
+                                     "\xE1\x84\x92",
+                                     "\xE1\x85\xA1",
+                                     "\xE1\x86\xAB",
+                                     "\xE6\xBC\xA2\xE5\xAD\x97",
+                                     "\xE3\x81\x8B\xE3\x82\x99",
+                                     "\xE3\x81\x8C",
+                                     "\xE0\xB9\x84\xE0\xB8\x97\xE0\xB8\xA2",
+                                     "\xD9\xA3",
+                                     "\xE0\xA5\xA9",
+                                     "\xEF\xBC\x95",
+                                     "\xC3\x9F",
+                                     "\xE1\xBA\x9E",
+                                     "\xC7\x85",
+                                     "\xE2\x84\xAA",
+                                     "\xE2\x84\xAB",
+                                     "\xE2\x84\xA6",
+                                     "\xCD\xBE",
+                                     "\xCE\x87",
+                                     "=\xCC\xB8",
+                                     "\xCC\xB8",
+                                     "\xE1\xBA\xA1",
+                                     "\xE1\xBA\xB9\xCC\x81",
+                                     "\xC7\xBF",
+                                     "\xC7\xBD",
+                                     "\xC4\x91",
+                                     "\xC4\xA7",
+                                     "\xC5\xA7",
+                                     "\xC5\x93",
+                                     "\xC3\xB0",
+                                     "\xC3\xBE",
+                                     "\xD1\x90",
+                                     "\xF0\x9D\x92\x9C",
+                                     "\xF0\x90\x90\x80",
+                                     "\xF0\x90\x90\xA8",
+                                     "\xF0\x9F\x99\x82",
+                                     "\xE1\x8E\xA0",
+                                     "\xEA\xAD\xB0",
+                                     "\xC4\xB3",
+                                     "\xC5\x89",
+                                     "\xC7\xB0",
+                                     "\xE1\xBD\x85",
+                                     "\xE2\x85\x93",
+                                     "\xE2\x85\xA3",
+                                     "\xE2\x85\xB0",
+                                     "\xC2\xAA",
+                                     "\xC2\xBA",
+                                     "\xC2\xB5",
+                                     "\xE2\x80\x94",
+                                     "\xE2\x80\x9C",
+                                     "\xC2\xAB",
+                                     "\xE2\x80\xA8",
+                                     "\xC5\xB5",
+                                     "\xC3\xBD",
+                                     "\xC5\xA0"});
+
+constexpr auto kStartMarkers =
+    std::to_array<std::string_view>({"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t",
+                                     " ", "-", "\xD0\x96", "i\xCC\x81"});
 constexpr auto kEndMarkers = std::to_array<std::string_view>(
     {"*/", "", ">", "#", "end", "|", "END", ";", "\xC3\xA9", " ", "- "});
 constexpr std::array<std::string_view, 4> kMarkerKinds = {"", "HTML", "C", "user"};
@@ -172,6 +296,9 @@ class CaseMaker {
                      &choices.chkOutputWithCommas}) {
       *box = Box();
     }
+    all_ = OneIn(2);
+    choices.cboLetters = all_ ? 1 : 0;
+    choices.chkFoldAccents = OneIn(4) ? 0 : 1;
     for (std::size_t pair = 0; pair < 2; ++pair) {
       choices.txbStartComment[pair] = Pick(kStartMarkers);
       choices.txbEndComment[pair] = Pick(kEndMarkers);
@@ -202,10 +329,26 @@ class CaseMaker {
 
   std::string Line(std::size_t mostPieces) {
     std::string line;
-    for (std::size_t pieces = Below(mostPieces + 1); pieces > 0; --pieces) line += Pick(kPieces);
+    for (std::size_t pieces = Below(mostPieces + 1); pieces > 0; --pieces) {
+      if (all_ && OneIn(2)) {
+        line += Pick(kPiecesOfAll);
+      } else if (OneIn(all_ ? 8 : 60)) {
+        AppendCharacter(line, AnyCharacter());
+      } else {
+        line += Pick(kPieces);
+      }
+    }
     if (OneIn(40)) line += LongWord();
     if (OneIn(8)) line.insert(0, " ");
     return line;
+  }
+
+  /// Of all planes, but for what ends a line; half of them of the first.
+  char32_t AnyCharacter() {
+    const std::size_t below = OneIn(2) ? 0x3000 : OneIn(2) ? 0x20000 : 0x110000;
+    const auto character = static_cast<char32_t>(Below(below));
+    const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+    return surrogate || character == '\r' || character == '\n' ? U'x' : character;
   }
 
   /// About the greatest length of a stored word or, seldom, of a run of word characters.
@@ -218,6 +361,8 @@ class CaseMaker {
   }
 
   Random& random_;
+  /// The letters of all languages.
+  bool all_ = false;
 };
 
 }  // namespace

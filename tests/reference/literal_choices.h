@@ -28,6 +28,9 @@ struct LiteralChoices {
   std::array<std::string, 2> txbStartComment = {"/*", "//"};
   std::array<std::string, 2> txbEndComment = {"*/", ""};
 
+  int cboLetters = 0;  // list index: 0 the western letters, 1 those of all languages
+  int chkFoldAccents = 1;
+
   int chkIgnoreShortWords = 0;
   int chkIgnoreInfrequentWords = 0;
   int chkIgnoreRepetitions = 1;

@@ -1,5 +1,6 @@
 #include "reference/literal_engine.h"
 
+#include "reference/literal_letters.h"
 #include "reference/literal_rules.h"
 
 namespace quillomat::reference {
@@ -63,6 +64,10 @@ void LiteralEngine::NoteListWordChars(const Characters& word) {
   for (std::size_t i = 0; i < kNumFlags; ++i) {
     if (!ListCharFlags[i]) ListCharFlags[i] = ContainsAnyOf(word, FlagCharacters()[i]);
   }
+  if (!AllLetters()) return;
+  for (const char32_t character : word) {
+    if (IsAnyDigit(character)) ListCharFlags[10] = true;
+  }
 }
 
 void LiteralEngine::TickAllowBoxesForListWords() {
@@ -99,9 +104,23 @@ void LiteralEngine::ScanLine(std::string_view line) {
 }
 
 void LiteralEngine::ScanPrepared(const Characters& text) {
-  LineBuffer = choices.chkCaseSignificant == 1 ? text : LowerCase(text);
+  LineBuffer = text;
+  if (AllLetters()) LineBuffer = NormalForm(LineBuffer);
+  if (choices.chkCaseSignificant != 1) {
+    LineBuffer = AllLetters() ? LowerCaseOfAll(LineBuffer) : LowerCase(LineBuffer);
+  }
   LineBuffer += U" ";
   GetWords();
+}
+
+Characters LiteralEngine::Lower(const Characters& text) const {
+  return AllLetters() ? NormalLowerCase(text) : LowerCase(text);
+}
+
+Characters LiteralEngine::KeyOf(const Characters& word) const {
+  const bool keepAccents = choices.chkFoldAccents != 1;
+  if (AllLetters()) return keepAccents ? FoldCaseOfAll(word) : FoldAccentsOfAll(word);
+  return keepAccents ? LowerCase(word) : SortKeyOf(word);
 }
 
 void LiteralEngine::FinishRun() {

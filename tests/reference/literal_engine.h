@@ -101,6 +101,9 @@ class LiteralEngine {
 
   void GetWords();
   [[nodiscard]] Characters GetNextWord();
+  /// Where the letters of all languages are chosen these are other functions than else.
+  [[nodiscard]] Characters Lower(const Characters& text) const;
+  [[nodiscard]] Characters KeyOf(const Characters& word) const;
   [[nodiscard]] int FindCommentStart() const;
   void SkipComment();
 
@@ -183,6 +186,7 @@ class LiteralEngine {
 
  private:
   [[nodiscard]] std::array<int*, kNumFlags> AllowBoxes();
+  [[nodiscard]] bool AllLetters() const { return choices.cboLetters == 1; }
   [[nodiscard]] bool SkipCommentsHere();
   [[nodiscard]] bool MayStartWord(const Characters& ch) const;
   [[nodiscard]] bool RestIsOneBlank() const;

@@ -19,12 +19,13 @@ std::vector<std::string> WordList::Words() const {
 }
 
 bool IsInList(const Characters& word, const std::vector<Characters>& list, std::int32_t first,
-              std::int32_t count, bool sorted) {
+              std::int32_t count, bool sorted,
+              const std::function<Characters(const Characters&)>& keyOf) {
   if (word.empty() || count == 0) return false;
-  const Characters wordKey = SortKeyOf(word);
+  const Characters wordKey = keyOf(word);
   for (std::int32_t i = first; i <= first + count - 1; ++i) {
     const Characters& entry = list[static_cast<std::size_t>(i)];
-    if (sorted && SortKeyOf(entry) > wordKey) return false;
+    if (sorted && keyOf(entry) > wordKey) return false;
     if (entry == word) return true;
   }
   return false;
@@ -49,7 +50,7 @@ std::int32_t SplitList(const Characters& text, char32_t separator, std::vector<C
 
 std::string LiteralEngine::GetExtraWords(int index) {
   const std::string& typed = choices.txbWordsToIgnoreOrCount[static_cast<std::size_t>(index)];
-  Characters text = Trim(LowerCase(FromUtf8(typed)));
+  Characters text = Trim(Lower(FromUtf8(typed)));
   for (char32_t& character : text) {
     if (character == U'\t' || character == U'\r' || character == U'\n') character = U' ';
   }
@@ -105,7 +106,8 @@ void LiteralEngine::CollectListWords(const std::vector<std::string>& lines) {
   for (const std::string& line : lines) {
     const Characters trimmed = Trim(FromUtf8(line));
     if (trimmed.empty()) continue;
-    LineBuffer = LowerCase(trimmed) + U" ";
+    LineBuffer = AllLetters() ? LowerCaseOfAll(NormalForm(trimmed)) : LowerCase(trimmed);
+    LineBuffer += U" ";
     GetWords();
   }
 }

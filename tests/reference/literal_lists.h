@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "reference/literal_rules.h"
 #include "reference/literal_text.h"
 
 namespace quillomat::reference {
@@ -20,9 +22,10 @@ struct WordList {
 };
 
 /// Whether `word` stands in entries first to first + count - 1. `sorted` says that the entries are
-/// in the order of their folded keys, and lets the search end early.
+/// in the order of their keys, and lets the search end early.
 [[nodiscard]] bool IsInList(const Characters& word, const std::vector<Characters>& list,
-                            std::int32_t first, std::int32_t count, bool sorted);
+                            std::int32_t first, std::int32_t count, bool sorted,
+                            const std::function<Characters(const Characters&)>& keyOf = SortKeyOf);
 
 /// SplitList's result when the items do not fit.
 inline constexpr std::int32_t kItemsDoNotFit = 65535;

@@ -1,5 +1,6 @@
 #include "reference/literal_engine.h"
 #include "reference/literal_entities.h"
+#include "reference/literal_letters.h"
 #include "reference/literal_rules.h"
 
 namespace quillomat::reference {
@@ -24,6 +25,7 @@ void LiteralEngine::GetWords() {
 void LiteralEngine::PrepareLineBuffer() {
   if (ReadingWordList) {
     UseCommentMarkers = true;
+    if (AllLetters()) LineBuffer = Composed(LineBuffer);
     return;
   }
   UseCommentMarkers = (choices.chkAllowCommentMarkers == 1 &&
@@ -31,6 +33,7 @@ void LiteralEngine::PrepareLineBuffer() {
                       ForceCommentMarkers;
   LineBuffer = Replace(LineBuffer, U"--", U" ");
   DecodeHtmlEntities(LineBuffer);
+  if (AllLetters()) LineBuffer = Composed(LineBuffer);  // small letters, and those of entities
 }
 
 /// Whether the scan of this text goes on after the comments that are open or begin here.
@@ -49,6 +52,10 @@ bool LiteralEngine::SkipCommentsHere() {
 }
 
 bool LiteralEngine::MayStartWord(const Characters& ch) const {
+  if (AllLetters()) {
+    const bool inside = CountWordCharsOfAll(ch, 1, AllowFlags[10], ExtraWordChars) == 1;
+    return inside && InStr(1, U"-'.,()", ch) == 0;
+  }
   return IsWordChar(ch, false, ExtraWordChars) && InStr(1, U"-'.,()", ch) == 0;
 }
 
@@ -62,9 +69,10 @@ void LiteralEngine::TakeWord(const Characters& word) {
     return;
   }
   WordsRead = Sum32(WordsRead, 1);
-  const Characters w = LowerCase(word);
-  const auto isIn = [&w](const WordList& list, bool sorted) {
-    return IsInList(w, list.entries, 1, list.count, sorted);
+  const Characters w = Lower(word);
+  const auto keyOf = [this](const Characters& entry) { return KeyOf(entry); };
+  const auto isIn = [&](const WordList& list, bool sorted) {
+    return IsInList(w, list.entries, 1, list.count, sorted, keyOf);
   };
   if (CountOnlyMode) {
     if (isIn(ExtraCountOnlyList, false) || isIn(CountOnlyList, false)) AddWord(word);
@@ -80,12 +88,15 @@ void LiteralEngine::TakeWord(const Characters& word) {
 }
 
 Characters LiteralEngine::GetNextWord() {
-  const std::size_t n = CountWordChars(LineBuffer, ScanPos, AllowFlags[10], ExtraWordChars);
+  const auto count = AllLetters() ? CountWordCharsOfAll : CountWordChars;
+  const std::size_t n = count(LineBuffer, ScanPos, AllowFlags[10], ExtraWordChars);
   Characters word = Mid(LineBuffer, ScanPos, n);
   if (word.empty()) return word;
   ScanPos += n;
   word = TrimTrailingChars(word, U"-'.,:()");
-  if (choices.chkDropFinalS == 1 && !ReadingWordList) word = ApplyFinalSRule(word);
+  if (choices.chkDropFinalS == 1 && !ReadingWordList) {
+    word = AllLetters() ? ApplyFinalSRuleOfAll(word) : ApplyFinalSRule(word);
+  }
   if (choices.chkAllowWordsWithApostrophes == 0 && !ReadingWordList) {
     word = ApplyApostropheFragmentRule(word);
   }
@@ -95,9 +106,10 @@ Characters LiteralEngine::GetNextWord() {
 
 int LiteralEngine::FindCommentStart() const {
   for (const int i : {0, 1}) {
-    const Characters& marker = CommentStart[static_cast<std::size_t>(i)];
+    const Characters marker = Lower(CommentStart[static_cast<std::size_t>(i)]);
     if (marker.empty()) continue;
-    if (LowerCase(Mid(LineBuffer, ScanPos, marker.size())) != LowerCase(marker)) continue;
+    const Characters here = Mid(LineBuffer, ScanPos, marker.size());
+    if ((AllLetters() ? LowerCaseOfAll(here) : LowerCase(here)) != marker) continue;
     if (i == 1 && marker == U"&" && ForceCommentMarkers) {
       return HtmlEntityEnd(Mid(LineBuffer, ScanPos)) >= 1 ? 1 : -1;
     }
@@ -107,7 +119,7 @@ int LiteralEngine::FindCommentStart() const {
 }
 
 void LiteralEngine::SkipComment() {
-  const Characters e = LowerCase(CommentEnd[static_cast<std::size_t>(OpenComment)]);
+  const Characters e = Lower(CommentEnd[static_cast<std::size_t>(OpenComment)]);
   if (e.empty()) {
     ScanPos = LineBuffer.size() + 1;
     OpenComment = -1;

@@ -1,5 +1,6 @@
 #include "reference/literal_arithmetic.h"
 #include "reference/literal_engine.h"
+#include "reference/literal_letters.h"
 #include "reference/literal_rules.h"
 
 namespace quillomat::reference {
@@ -33,7 +34,7 @@ void LiteralEngine::AddWord(const Characters& word) {
     if (CountOnlyMode) lblNumberOfWords.emplace_back("One word found so far.");
     return;
   }
-  const std::int32_t known = FindWord(SortKeyOf(word));
+  const std::int32_t known = FindWord(KeyOf(word));
   if (known > 0) {
     CountEntry(known);
     return;
@@ -92,7 +93,7 @@ void LiteralEngine::AppendWordRecord(const Characters& word) {
   WordRec& entry = WordStore[Index(NumDifferentWords)];
   entry.Word = word;
   entry.Included = true;
-  entry.SortKey = SortKeyOf(word);
+  entry.SortKey = KeyOf(word);
   entry.Count = 1;
   if (ReadingWordList) return;
   if (TrackingFiles() && CurrentFileNumber <= kLargestFileNumber) {
@@ -156,11 +157,12 @@ bool LiteralEngine::PassesWordFilters(const WordRec& entry) const {
   if (length > choices.longWordSize) return false;
   const Characters first = CharacterAt(entry.Word, 1);
   if (choices.chkIgnoreRepetitions == 1 && length > 1 && IsRepetition(entry.Word) &&
-      !ContainsAnyOf(first, U"0123456789")) {
+      !ContainsAnyOf(first, U"0123456789") && !(AllLetters() && IsAnyDigit(first[0]))) {
     return false;
   }
   if (choices.chkIgnoreRomNum40 == 1 && IsRomanNumeral(entry.Word, true)) return false;
-  return !(choices.chkIgnoreNoVowelOrY == 1 && LacksVowel(entry.Word, true));
+  const auto lacksVowel = AllLetters() ? LacksVowelOfAll : LacksVowel;
+  return !(choices.chkIgnoreNoVowelOrY == 1 && lacksVowel(entry.Word, true));
 }
 
 void LiteralEngine::TallyWords() {

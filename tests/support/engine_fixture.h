@@ -52,6 +52,12 @@ class EngineFixture : public testing::Test {
   void AllowNothing() { choices.allowWordsWith.fill(CheckState::kUnchecked); }
   void AllowEverything() { choices.allowWordsWith.fill(CheckState::kChecked); }
   void CaseIsSignificant() { choices.caseSignificant = CheckState::kChecked; }
+  /// The letters of all languages, in the text, in the lists given afterwards and in the filters.
+  void UseAllLetters() {
+    choices.letters = LetterRule::kAll;
+    filters.letters = LetterRule::kAll;
+  }
+  void KeepAccents() { choices.foldAccents = CheckState::kUnchecked; }
   void DropFinalS() { choices.dropFinalS = CheckState::kChecked; }
 
   /// The user's own markers, which are in force.
@@ -77,7 +83,7 @@ class EngineFixture : public testing::Test {
     WordScanner scanner(settings, choices, lists, store, yield);
     std::string buffer;
     for (const std::string& line : lines) {
-      scanner.GetWords(PrepareLine(line, IsSet(choices.caseSignificant), buffer));
+      scanner.GetWords(PrepareLine(line, IsSet(choices.caseSignificant), buffer, choices.letters));
     }
     wordsRead = scanner.WordsRead();
     return Words();
@@ -98,7 +104,9 @@ class EngineFixture : public testing::Test {
     settings.SetCommentMarkers("C", choices);
     WordScanner scanner(settings, choices, lists, store, yield);
     std::string buffer;
-    for (const std::string& line : lines) scanner.GetWords(PrepareLine(line, false, buffer));
+    for (const std::string& line : lines) {
+      scanner.GetWords(PrepareLine(line, false, buffer, choices.letters));
+    }
     wordsRead = scanner.WordsRead();
     return Words();
   }
@@ -151,8 +159,8 @@ class EngineFixture : public testing::Test {
   std::int32_t wordsRead = 0;
 
  private:
-  [[nodiscard]] static WordList Typed(std::string_view words) {
-    return WordList(ParseTypedWords(words).items);
+  [[nodiscard]] WordList Typed(std::string_view words) const {
+    return WordList(ParseTypedWords(words, choices.letters).items);
   }
 
   [[nodiscard]] std::string Shown(bool includedOnly) const {

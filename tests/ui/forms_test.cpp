@@ -107,7 +107,7 @@ TEST(ParamsFormTest, AllowBoxesAreInTheOrderOfTheFlags) {
 
 TEST(ParamsFormTest, NumberListsHoldTheirNumbers) {
   ParamsForm form;
-  form.FillNumberCombos();
+  form.FillCombos();
   EXPECT_THAT(form.cboShortWordSize.Items(), ElementsAre("2", "3", "4", "5", "6", "7", "8", "9"));
   EXPECT_THAT(form.cboLongWordSize.Items(),
               ElementsAre("20", "30", "40", "50", "60", "70", "80", "90", "100"));

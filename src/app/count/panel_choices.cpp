@@ -1,10 +1,19 @@
 #include "app/count/panel_choices.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <string>
 
 namespace quillomat {
+namespace {
+
+/// Nothing chosen is the first item.
+LetterRule ReadLetterRule(const ParamsForm& frmParams) {
+  return static_cast<LetterRule>(std::max(frmParams.cboLetters.ListIndex(), 0));
+}
+
+}  // namespace
 
 ScanChoices ReadScanChoices(ParamsForm& frmParams) {
   ScanChoices choices;
@@ -13,6 +22,8 @@ ScanChoices ReadScanChoices(ParamsForm& frmParams) {
     choices.allowWordsWith[flag] = boxes[flag]->Value();
   }
   choices.caseSignificant = frmParams.chkCaseSignificant.Value();
+  choices.letters = ReadLetterRule(frmParams);
+  choices.foldAccents = frmParams.chkFoldAccents.Value();
   choices.dropFinalS = frmParams.chkDropFinalS.Value();
   choices.allowCommentMarkers = frmParams.chkAllowCommentMarkers.Value();
   for (std::size_t pair = 0; pair < 2; ++pair) {
@@ -20,6 +31,10 @@ ScanChoices ReadScanChoices(ParamsForm& frmParams) {
     choices.endComment[pair] = frmParams.txbEndComment[pair].Text();
   }
   return choices;
+}
+
+KeyRule ReadKeyRule(const ParamsForm& frmParams) {
+  return {ReadLetterRule(frmParams), !frmParams.chkFoldAccents.IsChecked()};
 }
 
 FilterChoices ReadFilterChoices(const ParamsForm& frmParams) {
@@ -31,6 +46,7 @@ FilterChoices ReadFilterChoices(const ParamsForm& frmParams) {
   choices.ignoreRepetitions = frmParams.chkIgnoreRepetitions.Value();
   choices.ignoreRomNum40 = frmParams.chkIgnoreRomNum40.Value();
   choices.ignoreNoVowelOrY = frmParams.chkIgnoreNoVowelOrY.Value();
+  choices.letters = ReadLetterRule(frmParams);
   const std::string longest = frmParams.cboLongWordSize.Text();
   choices.longWordSize = 0;  // what no selection reads as
   std::from_chars(longest.data(), longest.data() + longest.size(), choices.longWordSize);

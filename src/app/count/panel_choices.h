@@ -8,6 +8,8 @@
 namespace quillomat {
 
 [[nodiscard]] ScanChoices ReadScanChoices(ParamsForm& frmParams);
+/// What makes words the same, as in the choices of a scan.
+[[nodiscard]] KeyRule ReadKeyRule(const ParamsForm& frmParams);
 [[nodiscard]] FilterChoices ReadFilterChoices(const ParamsForm& frmParams);
 
 }  // namespace quillomat

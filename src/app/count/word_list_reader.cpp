@@ -101,8 +101,14 @@ std::string& WordListReader::FileInForce(WordListKind kind) {
   return context_.state.filesRead.wordsFiles[IndexOf(kind)];
 }
 
+bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
+  if (path != FileInForce(kind)) return false;
+  return path.empty() || rulesInForce_[IndexOf(kind)] == ReadKeyRule(context_.frmParams);
+}
+
 std::string WordListReader::GetExtraWords(WordListKind kind) {
-  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()));
+  SplitResult typed =
+      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), ReadKeyRule(context_.frmParams).letters);
   if (!typed.fits) {
     return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
   }
@@ -155,6 +161,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ScanWordsFile(*file);
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
+    rulesInForce_[IndexOf(kind)] = choices.Keys();
     return true;
   } catch (const InputTooLong& error) {
     tooLong_ = ":" + std::string(kCrLf) + error.Description();
@@ -182,7 +189,7 @@ void WordListReader::ScanWordsFile(InputFile& file) {
   std::string buffer;
   while (const auto line = lines.NextLine()) {
     const std::string_view trimmed = TrimBlanks(*line);
-    if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer));
+    if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer, choices.letters));
     if (yield.Yield()) return;
   }
 }
@@ -249,7 +256,7 @@ void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
   const std::string& path = PathBox(kind).Text();
   if (path.empty()) {
     ForgetWordsOfFile(kind);
-  } else if (path != FileInForce(kind)) {
+  } else if (!IsInForce(kind, path)) {
     AttemptToReadWords(kind);
   }
 }
@@ -271,7 +278,7 @@ bool WordListReader::TakeTypedWords(WordListKind kind) {
 bool WordListReader::TakeWordsFile(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
   if (path.empty()) ForgetWordsOfFile(kind);
-  if (path == FileInForce(kind)) return true;
+  if (IsInForce(kind, path)) return true;
   if (!FileExists(path)) return TellNotFound(kind);
   const bool ok = ReadWords(kind);
   if (context_.state.quitting) return false;

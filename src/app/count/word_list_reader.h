@@ -3,10 +3,12 @@
 // // comments skipped; it uses the word store, so the words of the last count are gone afterwards.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
 
 #include "app/count/run_context.h"
+#include "engine/letter_rule.h"
 #include "engine/word_list.h"
 #include "system/input_file.h"
 
@@ -58,10 +60,14 @@ class WordListReader {
   [[nodiscard]] TextBox& PathBox(WordListKind kind);
   [[nodiscard]] TextBox& ExtraBox(WordListKind kind);
 
+  /// Whether the words of the file are those that it has under the present rule of letters.
+  [[nodiscard]] bool IsInForce(WordListKind kind, const std::string& path);
   /// The file that the list was read from; "" when it was read from none.
   [[nodiscard]] std::string& FileInForce(WordListKind kind);
 
   const RunContext& context_;
+  /// By which the files in force were read.
+  std::array<KeyRule, 2> rulesInForce_;
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
 };

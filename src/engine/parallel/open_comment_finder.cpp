@@ -44,7 +44,8 @@ int OpenCommentFinder::BehindLines(std::string_view text, int open) {
     } else if (const auto line = lines.NextLine()) {
       const std::string_view trimmed = TrimBlanks(*line);
       if (trimmed.empty()) continue;
-      scanner_.PassOver(PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_));
+      scanner_.PassOver(
+          PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
     } else {
       return settings_.OpenComment;
     }

@@ -47,7 +47,8 @@ void PieceScanner::ScanLines(std::string_view text) {
     } else if (const auto line = lines.NextLine()) {
       const std::string_view trimmed = TrimBlanks(*line);
       if (trimmed.empty()) continue;
-      scanner_.GetWords(PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_));
+      scanner_.GetWords(
+          PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
     } else {
       break;
     }

@@ -1,0 +1,165 @@
+#include "engine/unicode_traits.h"
+
+#include <algorithm>
+#include <span>
+#include <utf8proc.h>
+#include <utility>
+
+namespace quillomat {
+namespace {
+
+using Traits = CodePointTraits;
+
+/// Where characters are assigned that are more than themselves: the rest of the planes is empty, or
+/// for private use.
+constexpr std::pair<char32_t, char32_t> kAssigned[] = {{0, 0x34000}, {0xE0000, 0xE0200}};
+
+std::uint8_t KindOf(char32_t codePoint) {
+  switch (utf8proc_category(static_cast<std::int32_t>(codePoint))) {
+    case UTF8PROC_CATEGORY_LU:
+    case UTF8PROC_CATEGORY_LL:
+    case UTF8PROC_CATEGORY_LT:
+    case UTF8PROC_CATEGORY_LM:
+    case UTF8PROC_CATEGORY_LO:
+      return Traits::kLetter;
+    case UTF8PROC_CATEGORY_MN:
+    case UTF8PROC_CATEGORY_MC:
+    case UTF8PROC_CATEGORY_ME:
+      return Traits::kMark;
+    case UTF8PROC_CATEGORY_ND:
+      return Traits::kDigit;
+    default:
+      return 0;
+  }
+}
+
+/// Of letters: the blocks of Unicode for the two scripts, as the library does not know scripts.
+bool IsInLatinOrGreekBlock(char32_t codePoint) {
+  static constexpr std::pair<char32_t, char32_t> kBlocks[] = {
+      {0x41, 0x2AF},       // Latin, with IPA
+      {0x370, 0x3E1},      // Greek
+      {0x3F0, 0x3FF},      // more of it, behind Coptic
+      {0x1D00, 0x1D25},    // phonetic Latin
+      {0x1D6B, 0x1D77},    //
+      {0x1D79, 0x1D9A},    //
+      {0x1E00, 0x1FFF},    // Latin, then Greek with many accents
+      {0x2C60, 0x2C7F},    // Latin
+      {0xA722, 0xA7FF},    //
+      {0xAB30, 0xAB6F},    //
+      {0x1DF00, 0x1DFFF},  //
+  };
+  return std::ranges::any_of(kBlocks, [codePoint](const auto& block) {
+    return codePoint >= block.first && codePoint <= block.second;
+  });
+}
+
+/// What the library makes of a character; none becomes more than these.
+std::span<const std::int32_t> Mapped(char32_t codePoint, utf8proc_option_t how,
+                                     std::array<std::int32_t, 8>& memory) {
+  int lastBoundary = 0;
+  const auto count =
+      utf8proc_decompose_char(static_cast<std::int32_t>(codePoint), memory.data(),
+                              static_cast<utf8proc_ssize_t>(memory.size()), how, &lastBoundary);
+  return std::span(memory).first(static_cast<std::size_t>(std::max<utf8proc_ssize_t>(count, 0)));
+}
+
+std::int32_t Folded(char32_t codePoint) {
+  std::array<std::int32_t, 8> memory{};
+  const auto folded = Mapped(codePoint, UTF8PROC_CASEFOLD, memory);
+  return folded.size() == 1 ? folded[0] : utf8proc_tolower(static_cast<std::int32_t>(codePoint));
+}
+
+/// Vowels and finals of Hangul, which are composed with what stands before them.
+bool IsHangulFollower(char32_t codePoint) {
+  return (codePoint >= 0x1161 && codePoint <= 0x1175) ||
+         (codePoint >= 0x11A8 && codePoint <= 0x11C2);
+}
+
+/// Whether it is taken apart, and whether it is another thing once it is composed again.
+std::uint8_t CompositionOf(char32_t codePoint) {
+  std::vector<std::int32_t> codePoints;
+  AppendDecomposed(codePoint, codePoints);
+  const auto self = static_cast<std::int32_t>(codePoint);
+  if (codePoints.size() == 1 && codePoints[0] == self) return 0;
+  Compose(codePoints);
+  const bool stays = codePoints.size() == 1 && codePoints[0] == self;
+  return stays ? Traits::kComposed : Traits::kComposed | Traits::kUnsettled;
+}
+
+Traits TraitsOf(char32_t codePoint) {
+  const auto self = static_cast<std::int32_t>(codePoint);
+  Traits traits;
+  traits.toLower = utf8proc_tolower(self) - self;
+  traits.toFolded = Folded(codePoint) - self;
+  traits.kinds = KindOf(codePoint);
+  traits.kinds |= CompositionOf(codePoint);
+  if (traits.kinds & Traits::kMark || IsHangulFollower(codePoint)) {
+    traits.kinds |= Traits::kUnsettled;
+  }
+  if (traits.kinds & Traits::kLetter && IsInLatinOrGreekBlock(codePoint)) {
+    traits.kinds |= Traits::kLatinOrGreek;
+  }
+  return traits;
+}
+
+int CombiningClass(std::int32_t codePoint) {
+  return utf8proc_get_property(codePoint)->combining_class;
+}
+
+/// Marks between two letters, by their classes; those of one class keep their order.
+void SortMarks(std::vector<std::int32_t>& codePoints) {
+  const auto isMark = [](std::int32_t codePoint) { return CombiningClass(codePoint) != 0; };
+  auto first = codePoints.begin();
+  while (first != codePoints.end()) {
+    first = std::find_if(first, codePoints.end(), isMark);
+    const auto end = std::find_if_not(first, codePoints.end(), isMark);
+    std::ranges::stable_sort(first, end, {}, CombiningClass);
+    first = end;
+  }
+}
+
+}  // namespace
+
+const UnicodeTraits& UnicodeTraits::Get() {
+  static const UnicodeTraits kTraits;
+  return kTraits;
+}
+
+UnicodeTraits::UnicodeTraits() : pages_(1) {
+  for (const auto& [first, end] : kAssigned) {
+    for (std::size_t page = first / kPageSize; page < end / kPageSize; ++page) TakePage(page);
+  }
+}
+
+/// Neighbours are often alike, as those of large scripts without case are.
+void UnicodeTraits::TakePage(std::size_t number) {
+  Page page;
+  for (std::size_t i = 0; i < kPageSize; ++i) {
+    const std::size_t codePoint = number * kPageSize + i;
+    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    if (!surrogate) page[i] = TraitsOf(static_cast<char32_t>(codePoint));
+  }
+  if (page == pages_.front()) return;
+  if (page != pages_.back()) pages_.push_back(page);
+  pageNumbers_[number] = static_cast<std::uint16_t>(pages_.size() - 1);
+}
+
+void AppendDecomposed(char32_t codePoint, std::vector<std::int32_t>& codePoints) {
+  std::array<std::int32_t, 8> memory{};
+  const auto parts = Mapped(codePoint, UTF8PROC_DECOMPOSE, memory);
+  codePoints.insert(codePoints.end(), parts.begin(), parts.end());
+}
+
+void Compose(std::vector<std::int32_t>& codePoints) {
+  SortMarks(codePoints);
+  constexpr auto kHow = static_cast<utf8proc_option_t>(UTF8PROC_COMPOSE | UTF8PROC_STABLE);
+  const auto left = utf8proc_normalize_utf32(
+      codePoints.data(), static_cast<utf8proc_ssize_t>(codePoints.size()), kHow);
+  codePoints.resize(static_cast<std::size_t>(std::max<utf8proc_ssize_t>(left, 0)));
+}
+
+std::string UnicodeVersion() {
+  return utf8proc_unicode_version();
+}
+
+}  // namespace quillomat

@@ -1,0 +1,234 @@
+#include "reference/literal_letters.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <utf8proc.h>
+#include <utility>
+
+#include "reference/literal_rules.h"
+
+namespace quillomat::reference {
+namespace {
+
+std::int32_t Number(char32_t character) {
+  return static_cast<std::int32_t>(character);
+}
+
+/// What the library makes of a text.
+Characters Mapped(const Characters& text, int how) {
+  const std::string utf8 = ToUtf8(text);
+  utf8proc_uint8_t* mapped = nullptr;
+  const auto bytes = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(utf8.data()),
+                                  static_cast<utf8proc_ssize_t>(utf8.size()), &mapped,
+                                  static_cast<utf8proc_option_t>(how));
+  Characters result =
+      FromUtf8({reinterpret_cast<const char*>(mapped), static_cast<std::size_t>(bytes)});
+  std::free(mapped);
+  return result;
+}
+
+Characters Decomposed(char32_t character) {
+  return Mapped({character}, UTF8PROC_DECOMPOSE | UTF8PROC_STABLE);
+}
+
+char32_t LowerCaseOfAll(char32_t character) {
+  return static_cast<char32_t>(utf8proc_tolower(Number(character)));
+}
+
+/// Simple case folding; where Unicode has only a full one, of several characters, lower case.
+char32_t FoldedCase(char32_t character) {
+  const Characters folded = Mapped({character}, UTF8PROC_CASEFOLD);
+  return folded.size() == 1 ? folded[0] : LowerCaseOfAll(character);
+}
+
+/// Of a letter, by the blocks of the two scripts.
+bool IsLatinOrGreek(char32_t letter) {
+  constexpr std::array<std::pair<char32_t, char32_t>, 10> kBlocks = {{{0x0041, 0x02AF},
+                                                                      {0x0370, 0x03E1},
+                                                                      {0x03F0, 0x03FF},
+                                                                      {0x1D00, 0x1D25},
+                                                                      {0x1D6B, 0x1D9A},
+                                                                      {0x1E00, 0x1FFF},
+                                                                      {0x2C60, 0x2C7F},
+                                                                      {0xA722, 0xA7FF},
+                                                                      {0xAB30, 0xAB6F},
+                                                                      {0x1DF00, 0x1DFFF}}};
+  constexpr char32_t kCyrillicAmongThem = 0x1D78;
+  if (!IsAnyLetter(letter) || letter == kCyrillicAmongThem) return false;
+  for (const auto& [first, last] : kBlocks) {
+    if (letter >= first && letter <= last) return true;
+  }
+  return false;
+}
+
+/// German letters and those that consist of no others.
+Characters WithoutItsStroke(char32_t small) {
+  constexpr std::array<std::pair<char32_t, const char32_t*>, 12> kTable = {{{U'ä', U"ae"},
+                                                                            {U'ö', U"oe"},
+                                                                            {U'ü', U"ue"},
+                                                                            {U'ß', U"ss"},
+                                                                            {U'æ', U"ae"},
+                                                                            {U'œ', U"oe"},
+                                                                            {U'ø', U"o"},
+                                                                            {U'ł', U"l"},
+                                                                            {U'đ', U"d"},
+                                                                            {U'ħ', U"h"},
+                                                                            {U'ı', U"i"},
+                                                                            {U'ŧ', U"t"}}};
+  for (const auto& [letter, plain] : kTable) {
+    if (letter == small) return plain;
+  }
+  return {};
+}
+
+Characters WithoutAccents(char32_t letter) {
+  const char32_t folded = FoldedCase(letter);
+  Characters plain = WithoutItsStroke(folded);
+  if (!plain.empty()) return plain;
+  const char32_t base = FoldedCase(Decomposed(folded)[0]);
+  plain = WithoutItsStroke(base);
+  return plain.empty() ? Characters{base} : plain;
+}
+
+bool IsWithout(char32_t character) {
+  if (character == 0x00AD || character == 0xFEFF) return true;
+  if (character == 0x200C || character == 0x200D) return true;
+  const bool mark = character == 0x061C || character == 0x200E || character == 0x200F;
+  return mark || (character >= 0x202A && character <= 0x202E) ||
+         (character >= 0x2066 && character <= 0x2069);
+}
+
+Characters Replaced(char32_t character) {
+  if (IsWithout(character)) return {};
+  if (character >= 0xFF01 && character <= 0xFF5E) return {character - 0xFF01 + U'!'};
+  switch (character) {
+    case 0x2018:
+    case 0x2019:
+    case 0x02BC:
+      return U"'";
+    case 0x2010:
+    case 0x2011:
+      return U"-";
+    case 0xFB00:
+      return U"ff";
+    case 0xFB01:
+      return U"fi";
+    case 0xFB02:
+      return U"fl";
+    case 0xFB03:
+      return U"ffi";
+    case 0xFB04:
+      return U"ffl";
+    case 0xFB05:
+    case 0xFB06:
+      return U"st";
+    default:
+      return {character};
+  }
+}
+
+}  // namespace
+
+Characters Composed(const Characters& text) {
+  return Mapped(text, UTF8PROC_COMPOSE | UTF8PROC_STABLE);
+}
+
+Characters NormalForm(const Characters& text) {
+  Characters replaced;
+  for (const char32_t character : text) replaced += Replaced(character);
+  return Composed(replaced);
+}
+
+Characters LowerCaseOfAll(const Characters& text) {
+  Characters lower;
+  for (const char32_t character : text) lower += LowerCaseOfAll(character);
+  return lower;
+}
+
+Characters NormalLowerCase(const Characters& text) {
+  return Composed(LowerCaseOfAll(NormalForm(text)));
+}
+
+bool IsAnyLetter(char32_t character) {
+  const utf8proc_category_t category = utf8proc_category(Number(character));
+  return category == UTF8PROC_CATEGORY_LU || category == UTF8PROC_CATEGORY_LL ||
+         category == UTF8PROC_CATEGORY_LT || category == UTF8PROC_CATEGORY_LM ||
+         category == UTF8PROC_CATEGORY_LO;
+}
+
+bool IsAnyMark(char32_t character) {
+  const utf8proc_category_t category = utf8proc_category(Number(character));
+  return category == UTF8PROC_CATEGORY_MN || category == UTF8PROC_CATEGORY_MC ||
+         category == UTF8PROC_CATEGORY_ME;
+}
+
+bool IsAnyDigit(char32_t character) {
+  return utf8proc_category(Number(character)) == UTF8PROC_CATEGORY_ND;
+}
+
+std::size_t CountWordCharsOfAll(const Characters& text, std::size_t start, bool allowDigits,
+                                const Characters& extras) {
+  constexpr std::size_t kMost = 65'000;
+  std::size_t count = 0;
+  bool behindLetter = false;
+  while (count < kMost && start + count <= text.size()) {
+    const Characters ch = CharacterAt(text, start + count);
+    if (IsAnyMark(ch[0])) {
+      if (!behindLetter) break;
+    } else if (IsAnyLetter(ch[0])) {
+      behindLetter = true;
+    } else {
+      const bool digit = allowDigits && IsAnyDigit(ch[0]);
+      if (!digit && InStr(1, extras, ch) == 0) break;
+      behindLetter = false;
+    }
+    count += 1;
+  }
+  return count;
+}
+
+Characters FoldAccentsOfAll(const Characters& word) {
+  Characters folded;
+  bool behindLatinOrGreek = false;
+  for (const char32_t character : word) {
+    if (IsAnyMark(character)) {
+      if (!behindLatinOrGreek) folded += FoldedCase(character);
+      continue;
+    }
+    behindLatinOrGreek = IsLatinOrGreek(character);
+    folded += behindLatinOrGreek ? WithoutAccents(character) : Characters{FoldedCase(character)};
+  }
+  return folded;
+}
+
+Characters FoldCaseOfAll(const Characters& word) {
+  Characters folded;
+  for (const char32_t character : word) folded += FoldedCase(character);
+  return NormalForm(folded);
+}
+
+bool HasLatinLettersOnly(const Characters& word) {
+  for (const char32_t character : FoldAccentsOfAll(word)) {
+    if (character >= 128 && IsAnyLetter(character)) return false;
+  }
+  return true;
+}
+
+Characters ApplyFinalSRuleOfAll(const Characters& word) {
+  if (!HasLatinLettersOnly(word)) return word;
+  const Characters shortened = ApplyFinalSRule(word);
+  if (shortened == word) return word;
+  // The letter before the s, of which a vowel with any accent is a vowel.
+  std::size_t place = shortened.size();
+  while (IsAnyMark(CharacterAt(shortened, place)[0])) place -= 1;
+  const Characters letter = CharacterAt(shortened, place);
+  if (LowerCaseOfAll(letter) != letter) return shortened;
+  return IsVowel(Right(FoldAccentsOfAll(letter), 1), true) ? word : shortened;
+}
+
+bool LacksVowelOfAll(const Characters& word, bool withY) {
+  return HasLatinLettersOnly(word) && LacksVowel(FoldAccentsOfAll(word), withY);
+}
+
+}  // namespace quillomat::reference

@@ -1,0 +1,44 @@
+// The rule for the letters of all languages, as far as it is another than the western one: the
+// normal form of a text, letter case, what a word character is, and the key of a word. Written from
+// the rule's words, with the library's slow functions for single characters and whole texts.
+#pragma once
+
+#include <cstddef>
+
+#include "reference/literal_text.h"
+
+namespace quillomat::reference {
+
+/// Normalization Form C.
+[[nodiscard]] Characters Composed(const Characters& text);
+
+/// The signs that stand for others replaced, the ones without meaning dropped, and composed.
+[[nodiscard]] Characters NormalForm(const Characters& text);
+
+/// Every character by the simple mapping.
+[[nodiscard]] Characters LowerCaseOfAll(const Characters& text);
+
+/// NormalForm, LowerCaseOfAll, Composed.
+[[nodiscard]] Characters NormalLowerCase(const Characters& text);
+
+[[nodiscard]] bool IsAnyLetter(char32_t character);
+[[nodiscard]] bool IsAnyMark(char32_t character);
+[[nodiscard]] bool IsAnyDigit(char32_t character);
+
+/// How many characters of a word follow each other from `start` on; never more than 65,000.
+[[nodiscard]] std::size_t CountWordCharsOfAll(const Characters& text, std::size_t start,
+                                              bool allowDigits, const Characters& extras);
+
+/// Case folded, and without the accents of Latin and Greek letters.
+[[nodiscard]] Characters FoldAccentsOfAll(const Characters& word);
+/// Case folded, and composed.
+[[nodiscard]] Characters FoldCaseOfAll(const Characters& word);
+
+/// Whether every letter of the word is a Latin one that has one of A-Z, or two, without accents.
+[[nodiscard]] bool HasLatinLettersOnly(const Characters& word);
+
+/// The final-s rule, and the search for a vowel, for words of Latin letters.
+[[nodiscard]] Characters ApplyFinalSRuleOfAll(const Characters& word);
+[[nodiscard]] bool LacksVowelOfAll(const Characters& word, bool withY);
+
+}  // namespace quillomat::reference
