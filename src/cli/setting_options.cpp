@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <string_view>
+#include <vector>
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
@@ -29,6 +31,12 @@ std::string Listed(const Items& items) {
   return text;
 }
 
+std::string NamesOfSettings() {
+  std::vector<std::string_view> names;
+  for (const Setting& setting : AllSettings()) names.push_back(setting.control);
+  return Listed(names);
+}
+
 class SettingsWriter {
  public:
   SettingsWriter(MainForm& frmMain, ParamsForm& frmParams)
@@ -51,8 +59,10 @@ class SettingsWriter {
   /// `source` is what the user has written.
   Fault Set(std::string_view name, const std::string& value, const std::string& source) {
     Control* const control = FindControl(frmMain_, frmParams_, name);
-    if (control == nullptr)
-      return source + ": there is no control named '" + std::string(name) + "'";
+    if (control == nullptr) {
+      return source + ": there is no control named '" + std::string(name) + "'; the settings are " +
+             NamesOfSettings();
+    }
     if (const Fault fault = SetValue(*control, value)) return source + ": " + *fault;
     const auto [before, isFirst] = taken_.try_emplace(control, Taken{source, ValueTaken(*control)});
     if (isFirst || before->second.value == ValueTaken(*control)) return std::nullopt;

@@ -43,7 +43,9 @@ class TerminalRun {
     program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
-    if (!CheckInput() || !ChooseSource()) return kRunFailed;
+    if (!CheckInput()) return kRunFailed;
+    if (!CheckWhatGoesWithInput()) return kWrongCommandLine;
+    if (!ChooseSource()) return kRunFailed;
     if (!TakeEffect() || !SaveState()) return kRunFailed;
     if (options_.listFiles) return ListFiles();
     const int status = Count();
@@ -95,7 +97,11 @@ class TerminalRun {
   }
 
   bool CheckInput() {
-    if (const auto fault = FindInputFault(input_)) return Fail(*fault);
+    const auto fault = FindInputFault(input_);
+    return !fault || Fail(*fault);
+  }
+
+  bool CheckWhatGoesWithInput() {
     if (options_.listFiles && input_.kind != InputChoice::Kind::kFolder) {
       return Fail("--list-files goes with one folder; " + input_.Name() + " is none");
     }

@@ -3,10 +3,15 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "support/colliding_words.h"
+#include "support/program_fixture.h"
+
 namespace quillomat {
 namespace {
 
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 class RestoredList : public ProgramFixture {
  protected:
@@ -45,6 +50,20 @@ TEST_F(RestoredList, IsWrittenIntoNoFile) {
   Load();
   EXPECT_EQ(ContentsOf(folder / "out.txt"), "old");
   EXPECT_LT(Output().find("cat"), Output().find("dog"));
+}
+
+TEST_F(RestoredList, IsNotSaidToBeInAFileThatOnlyTheCountBeforeWrote) {
+  Panel().chkWarnOnOverwrite.SetChecked(false);
+  Main().cboDisplayFormat.SetListIndex(8);
+  std::string text;
+  for (std::size_t i = 0; i < 9'000; ++i) text.append("wo").append(InLetters(i, 3)).append("rd ");
+  Main().txbFile[1].SetText(folder / "b.txt");
+  Save();
+  Main().txbFile[1].SetText(folder / "a.txt");
+  CountClipboard(text);
+  desktop.ForgetQuestions();
+  Load();
+  EXPECT_THAT(OnlyMessage().text, Not(HasSubstr("Results have been written")));
 }
 
 TEST_F(RestoredList, GoesWhereReadingTheWordsFileTookItsWords) {

@@ -162,9 +162,9 @@ check "an empty file among others is named" 0 cat.txt empty.txt --format 8
 holds err "Skipped: empty.txt is empty"
 check "an output file is not among the paths" 1 folder cat.txt --output cat.txt --overwrite
 holds err "The output file cannot be the same as the input file."
-check "--list-files wants a folder" 1 cat.txt --list-files
+check "--list-files wants a folder" 2 cat.txt --list-files
 holds err "--list-files goes with one folder"
-check "the window shows one text" 1 cat.txt folder --window-text
+check "the window shows one text" 2 cat.txt folder --window-text
 holds err "--window-text"
 same() { # NAME ARGUMENT...: reads what stands ready and makes the list of cat.txt
   name=$1

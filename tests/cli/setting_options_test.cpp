@@ -16,6 +16,7 @@ namespace {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 using Values = std::map<std::string, std::string>;
 
@@ -178,8 +179,12 @@ TEST_F(SettingOptions, WhatIsSaidTwiceIsNoContradiction) {
 }
 
 TEST_F(SettingOptions, WrongSetNamesTheControlAndWhatItTakes) {
-  EXPECT_EQ(Apply({"--set", "chkNothing=1"}),
-            "--set chkNothing=1: there is no control named 'chkNothing'");
+  const std::string noControl = Apply({"--set", "chkNothing=1"});
+  EXPECT_THAT(noControl, StartsWith("--set chkNothing=1: there is no control named 'chkNothing'; "
+                                    "the settings are "));
+  for (const Setting& setting : AllSettings()) {
+    EXPECT_THAT(noControl, HasSubstr(setting.control));
+  }
   EXPECT_EQ(Apply({"--set", "chkDropFinalS=7"}),
             "--set chkDropFinalS=7: a check box takes 0, 1 or 2");
 }

@@ -51,6 +51,7 @@ void CountRun::RunCount() {
     if (!FolderHadFiles()) return;
     FinishRun();
   } catch (const RunTimeError& error) {
+    if (IsOutOfMemory(error)) return context_.lister.ReportOutOfMemory();
     context_.lister.ReportProblem(error.Number(), error.Description());
   } catch (const std::bad_alloc&) {
     context_.lister.ReportOutOfMemory();
@@ -259,6 +260,7 @@ void CountRun::ListAgain(ListTarget target) {
   {
     const PhaseGuard guard(context_, RunPhase::kListingAgain);
     if (target == ListTarget::kTextBox) {
+      context_.lister.ForgetOutputFile();
       context_.lister.ListInTextBox();
     } else {
       context_.lister.ListWords();

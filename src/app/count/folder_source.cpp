@@ -82,7 +82,9 @@ void FolderSource::TellRefusal(const CountResult& result) const {
 }
 
 void FolderSource::ListFiles() {
-  CountRequest request = RequestFromControls(context_, Folder());
+  // Nothing is counted, so markers and extensions that a count is refused for do no harm.
+  CountRequest request;
+  request.source = TextOfFolder{Folder().path, Folder().subfolders, {}};
   request.outputPath = context_.frmMain.txbFile[1].Text();
   CountResult check;
   check.refusal = Counter::Check(request, check.error);

@@ -13,6 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::IsSupersetOf;
 
@@ -295,6 +296,21 @@ TEST_F(FolderSourceTest, ALargeFileInAFolderIsNotAskedAbout) {
 }
 
 // The list of files.
+
+TEST_F(FolderSourceTest, ListingFilesGoesOnWhereACountWouldBeRefusedForItsMarkers) {
+  Put("a.txt", "cat");
+  AllowComments("abc", "x");
+  ListFiles(folder.Path());
+  EXPECT_THAT(Output(), EndsWith("1 file in 1 folder will be scanned."));
+}
+
+TEST_F(FolderSourceTest, ListingFilesGoesOnWhereACountWouldBeRefusedForItsExtensions) {
+  Put("a.txt", "cat");
+  TypeOnly("txt");
+  TypeNot("txt");
+  ListFiles(folder.Path());
+  EXPECT_THAT(Output(), EndsWith("1 file in 1 folder will be scanned."));
+}
 
 TEST_F(FolderSourceTest, ListingFilesReadsNone) {
   CountClipboard("mouse");
