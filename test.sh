@@ -1,7 +1,8 @@
 #!/bin/sh
 # ./test.sh builds Quillomat for development and runs all tests.
 # ./test.sh --all runs them under AddressSanitizer and UndefinedBehaviorSanitizer, too, and under
-# ThreadSanitizer those that use threads, and tries the programs that users run: the release build.
+# ThreadSanitizer those that use threads, runs each fuzzer for a while (QUILLOMAT_FUZZ_SECONDS, 20 if not
+# set), and tries the programs that users run: the release build.
 . "$(dirname "$0")/cmake/setup.sh"
 
 case "${1:-}" in
@@ -24,6 +25,9 @@ run_tests dev
 [ "${1:-}" = --all ] || exit 0
 run_tests asan
 run_tests tsan
+
+printf '== fuzz\n'
+"$root/fuzz/run.sh" "${QUILLOMAT_FUZZ_SECONDS:-20}"
 
 printf '== release\n'
 build release

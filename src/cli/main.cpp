@@ -2,6 +2,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <optional>
 #include <ostream>
 #include <sstream>
@@ -61,6 +62,9 @@ int main(int argc, char** argv) {
       interruption.emplace(Interruption::First::kIsNoted);
     }
     return RunInTerminal(parsed.options, StandardStreams(err, errIsTerminal));
+  } catch (const std::bad_alloc&) {
+    std::cerr << "quillomat-cli: Out of memory\n";
+    return kRunFailed;
   } catch (const std::exception& error) {
     std::cerr << "quillomat-cli: unexpected failure: " << error.what() << '\n';
     return kRunFailed;

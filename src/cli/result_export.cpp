@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <vector>
 
 #include "app/setting_values.h"
@@ -88,6 +89,8 @@ std::optional<std::string> ExportInto(const std::string& path, const Program& pr
     return std::nullopt;
   } catch (const RunTimeError& error) {
     return "cannot be written: " + error.Description();
+  } catch (const std::bad_alloc&) {
+    return "cannot be written: " + DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "cli/terminal_run.h"
 
+#include <new>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -145,6 +146,8 @@ class TerminalRun {
       return true;
     } catch (const RunTimeError& error) {
       return Fail(path + " cannot be read: " + error.Description());
+    } catch (const std::bad_alloc&) {
+      return Fail(path + " cannot be read: " + DescriptionOf(RunTimeErrorNumber::kOutOfMemory));
     }
   }
 

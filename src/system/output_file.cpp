@@ -10,21 +10,24 @@ namespace {
 
 constexpr std::size_t kBlockBytes = 65'536;
 
+std::string EmptyBlock() {
+  std::string block;
+  block.reserve(kBlockBytes);
+  return block;
+}
+
 }  // namespace
 
 OutputFile::OutputFile(const std::string& path) : OutputFile(TemporaryFile::For(path), path) {}
 
 OutputFile::OutputFile(TemporaryFile::Made made, const std::string& path)
     : kind_(made.file ? Kind::kTemporary : Kind::kInPlace),
+      buffer_(EmptyBlock()),
       temporary_(std::move(made.temporary)),
-      file_(made.file ? *std::move(made.file) : NativeFile::OpenForWriting(path)) {
-  buffer_.reserve(kBlockBytes);
-}
+      file_(made.file ? *std::move(made.file) : NativeFile::OpenForWriting(path)) {}
 
 OutputFile::OutputFile(NativeFile standardOutput)
-    : kind_(Kind::kStandardOutput), file_(std::move(standardOutput)) {
-  buffer_.reserve(kBlockBytes);
-}
+    : kind_(Kind::kStandardOutput), buffer_(EmptyBlock()), file_(std::move(standardOutput)) {}
 
 OutputFile OutputFile::StandardOutput() {
   return OutputFile(NativeFile::StandardOutput());

@@ -60,9 +60,9 @@ class OutputFile final : public ByteSink {
   void Abandon() noexcept;
 
   Kind kind_;
+  std::string buffer_;                        // had before a file in place is emptied
   std::unique_ptr<TemporaryFile> temporary_;  // null unless of that kind
   NativeFile file_;                           // closed before the temporary file goes
-  std::string buffer_;
 };
 
 }  // namespace quillomat

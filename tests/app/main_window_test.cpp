@@ -258,9 +258,10 @@ TEST_F(MainWindowTest, DeniedFileIsNamedAndNoNoticeOfWorkStays) {
 TEST_F(MainWindowTest, NoNoticeOfWorkStaysWhenTheListIsMadeAgain) {
   CountClipboard("cat dog");
   Main().txbOutput.SetText("");
-  Main().txbFile[1].SetText(folder / "none/list.txt");
+  const std::string path = folder / "none/list.txt";
+  Main().txbFile[1].SetText(path);
   Main().cboWordOrder.SetListIndex(1);
-  EXPECT_EQ(OnlyMessage().text, "Error 76: Path not found");
+  EXPECT_EQ(OnlyMessage().text, "Error 76: Path not found\r\n" + path);
   EXPECT_EQ(Output(), "");
 }
 

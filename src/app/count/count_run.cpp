@@ -259,11 +259,15 @@ void CountRun::OnRestored(bool listStood) {
 void CountRun::ListAgain(ListTarget target) {
   {
     const PhaseGuard guard(context_, RunPhase::kListingAgain);
-    if (target == ListTarget::kTextBox) {
-      context_.lister.ForgetOutputFile();
-      context_.lister.ListInTextBox();
-    } else {
-      context_.lister.ListWords();
+    try {
+      if (target == ListTarget::kTextBox) {
+        context_.lister.ForgetOutputFile();
+        context_.lister.ListInTextBox();
+      } else {
+        context_.lister.ListWords();
+      }
+    } catch (const std::bad_alloc&) {
+      context_.lister.ReportOutOfMemory();
     }
     context_.frmMain.lblTwirler.SetCaption(" ");
   }

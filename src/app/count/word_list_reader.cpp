@@ -140,6 +140,10 @@ bool WordListReader::ReadWords(WordListKind kind) {
     std::optional<InputFile> file;  // opened once: what comes from a pipe comes only once
     const LineEndingType type = OpenText(path, kTextTestBytes, file);
     if (!file) return false;
+    if (file->AwaitsWriter()) {
+      Refuse(context_, "Nothing is written into this pipe.", "Invalid input");
+      return false;
+    }
     if (type == LineEndingType::kNotText) {
       Refuse(context_, "This is not a text file.", "Invalid input");
       return false;

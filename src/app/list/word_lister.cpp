@@ -1,6 +1,7 @@
 #include "app/list/word_lister.h"
 
 #include <algorithm>
+#include <new>
 #include <optional>
 
 #include "app/list/output_refusal.h"
@@ -137,13 +138,19 @@ bool WordLister::SparesWhatIsRead() {
   return false;
 }
 
-/// Who is denied a file must know which: the path is not always the one that was meant.
+/// Who cannot have a file must know which: the path is not always the one that was meant.
 std::string WordLister::PathWorthNaming(const RunTimeError& error) const {
-  const bool denied = error.Number() == static_cast<int>(RunTimeErrorNumber::kPermissionDenied);
-  return denied ? std::string(kCrLf) + frmMain_.txbFile[1].Text() : std::string();
+  switch (static_cast<RunTimeErrorNumber>(error.Number())) {
+    case RunTimeErrorNumber::kPermissionDenied:
+    case RunTimeErrorNumber::kPathFileAccess:
+    case RunTimeErrorNumber::kPathNotFound:
+      return std::string(kCrLf) + frmMain_.txbFile[1].Text();
+    default:
+      return {};
+  }
 }
 
-/// False when it went wrong and the user has been told.
+/// False when it went wrong and the user has been told; the file is as it was.
 bool WordLister::ListIntoFile() {
   if (output_.IsEmpty()) output_.ShowText(kWritingNotice);
   try {
@@ -156,12 +163,14 @@ bool WordLister::ListIntoFile() {
     fileWritten_ = true;
     return true;
   } catch (const RunTimeError& error) {
-    frmMain_.lblTwirler.SetCaption(" ");
     ReportProblem(error.Number(), error.Description() + PathWorthNaming(error));
-    if (frmMain_.txbOutput.Text() == kWritingNotice) output_.ClearOutput();
-    frmMain_.txbOutput.SetSelStart(0);
-    return false;
+  } catch (const std::bad_alloc&) {
+    ReportOutOfMemory();
   }
+  frmMain_.lblTwirler.SetCaption(" ");
+  if (frmMain_.txbOutput.Text() == kWritingNotice) output_.ClearOutput();
+  frmMain_.txbOutput.SetSelStart(0);
+  return false;
 }
 
 void WordLister::WriteList(ByteSink& file) {

@@ -75,7 +75,10 @@ std::optional<FileIdentity> IdentityOfItem(const std::string& path) {
 
 FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {
   FolderListing listing;
-  fs::directory_iterator entry(path, error);
+  fs::directory_iterator entry;
+  do {
+    entry = fs::directory_iterator(path, error);
+  } while (error == std::errc::interrupted);
   while (!error && entry != fs::directory_iterator()) {
     AddItem(*entry, listing);
     entry.increment(error);

@@ -100,6 +100,31 @@ bool IsOfTheDisk(int errnoValue) {
   return std::ranges::find(kOfTheDisk, errnoValue) != kOfTheDisk.end();
 }
 
+/// Of what went wrong while a new file was to be made: an error after which the old one had better
+/// not be written in place either, since that empties it first.
+void ThrowIfOfTheDisk(int errnoValue, const std::string& path) {
+  if (IsOfTheDisk(errnoValue)) ThrowErrno(errnoValue, FileAction::kOpenToWrite, path);
+}
+
+/// Removes a file that was just made, unless it is kept.
+class MadeFile {
+ public:
+  explicit MadeFile(const std::string& path) : path_(path) {}
+  MadeFile(const MadeFile&) = delete;
+  MadeFile& operator=(const MadeFile&) = delete;
+  MadeFile(MadeFile&&) = delete;
+  MadeFile& operator=(MadeFile&&) = delete;
+  ~MadeFile() {
+    if (!kept_) unlink(path_.c_str());
+  }
+
+  void Keep() { kept_ = true; }
+
+ private:
+  const std::string& path_;
+  bool kept_ = false;
+};
+
 /// Whether files in the folder may be moved by their owner only, and that is somebody else.
 bool IsHeldByItsFolder(const std::string& path, const struct stat& status) {
   struct stat folder {};
@@ -153,22 +178,34 @@ std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
                                                       const std::string& path) {
   struct stat status {};
   const bool isThere = stat(target.c_str(), &status) == 0;
-  if (!isThere && errno != ENOENT) return std::nullopt;
+  if (!isThere && errno != ENOENT) {
+    ThrowIfOfTheDisk(errno, target);
+    return std::nullopt;
+  }
   // A pipe must not be opened just to look at it: its reader would take the closing for the end.
   if (isThere && (!S_ISREG(status.st_mode) || IsHeldByItsFolder(target, status))) {
     return std::nullopt;
   }
   const NativeFile model(isThere ? TryToOpen(target, O_WRONLY, 0) : kClosed);
-  if (isThere && !model.IsOpen()) return std::nullopt;
+  if (isThere && !model.IsOpen()) {
+    ThrowIfOfTheDisk(errno, target);
+    return std::nullopt;
+  }
   // Nobody else shall look into it before it has its permissions.
   const mode_t mode = isThere ? S_IRUSR | S_IWUSR : kUsualMode;
   const int descriptor = TryToOpen(path, O_WRONLY | O_CREAT | O_EXCL, mode);
-  if (descriptor < 0 && IsOfTheDisk(errno)) ThrowErrno(errno, FileAction::kOpenToWrite, path);
-  if (descriptor < 0) return std::nullopt;
+  if (descriptor < 0) {
+    ThrowIfOfTheDisk(errno, path);
+    return std::nullopt;
+  }
   NativeFile file(descriptor);
-  if (!isThere || MakeLike(static_cast<int>(model.handle_), status, descriptor)) return file;
-  unlink(path.c_str());
-  return std::nullopt;
+  MadeFile made(path);
+  if (isThere && !MakeLike(static_cast<int>(model.handle_), status, descriptor)) {
+    ThrowIfOfTheDisk(errno, path);
+    return std::nullopt;
+  }
+  made.Keep();
+  return file;
 }
 
 NativeFile NativeFile::StandardOutput() {

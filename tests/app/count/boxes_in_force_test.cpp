@@ -247,6 +247,15 @@ TEST_F(BoxesInForce, AFolderThatMayNotBeReadSaysSo) {
   std::filesystem::permissions(TestPath(folder / "closed"), std::filesystem::perms::all);
 }
 
+TEST_F(BoxesInForce, AWordsFileThatIsAPipeWithoutAWriterIsRefused) {
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  TypeWordsFile(WordListKind::kIgnore, pipe);
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_EQ(desktop.Messages().front().text, "Nothing is written into this pipe.");
+  EXPECT_EQ(WordsFileBox(WordListKind::kIgnore).Text(), "");
+}
+
 TEST_F(BoxesInForce, AWordsFileThatIsAPipeIsReadInWhole) {
   const std::string pipe = folder / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);

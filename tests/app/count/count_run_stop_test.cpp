@@ -43,6 +43,32 @@ TEST_F(CountRunStop, TheScanEndsBehindTheWordAtHand) {
   EXPECT_EQ(Output(), "one two \r\n\r\nStopped with 2 words found.");
 }
 
+#ifndef _WIN32
+TEST_F(CountRunStop, WhatWasFoundMeetsAFullDiskAndCanBeListedElsewhere) {
+  DoNotWarn();
+  ListTo("/dev/full");
+  StopTheScanBehind(2, MessageAnswer::kYes);
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Counting interrupted", "Problem"));
+  EXPECT_EQ(desktop.Messages().back().text, "Error 61: Disk full");
+  EXPECT_FALSE(State().Busy());
+  const std::string list = folder / "list.txt";
+  ListTo(list);
+  ChooseOrder(WordOrder::kAlphabetical);
+  EXPECT_EQ(TextOf(list), "Word (longest has 3 characters)\none\ntwo\n");
+}
+
+TEST_F(CountRunStop, AListThatIsStoppedOnAFullDiskIsATerminatedOne) {
+  DoNotWarn();
+  CountClipboard("one two three four five");
+  ListTo("/dev/full");
+  StopAtYield(2);
+  ChooseOrder(WordOrder::kAlphabetical);
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_EQ(Output(), "\r\nOutput to file was terminated.");
+  EXPECT_FALSE(State().Busy());
+}
+#endif
+
 TEST_F(CountRunStop, OneWordFoundIsSingular) {
   StopTheScanBehind(1, MessageAnswer::kNo);
   EXPECT_EQ(Output(), "one \r\n\r\nStopped with 1 word found.");

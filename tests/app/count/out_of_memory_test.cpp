@@ -2,7 +2,9 @@
 // through the operators below, which a test can make refuse the large ones.
 #include <atomic>
 #include <cstdlib>
+#include <filesystem>
 #include <gmock/gmock.h>
+#include <iterator>
 #include <limits>
 #include <new>
 
@@ -60,9 +62,11 @@ class OutOfMemory : public ProgramFixture {
     return folder.Write(name, text);
   }
 
-  void CountWithLittleMemory(const std::function<void()>& count) {
-    largestAllocation = 600'000;
-    count();
+  void CountWithLittleMemory(const std::function<void()>& count) { WithMemory(600'000, count); }
+
+  void WithMemory(std::size_t largest, const std::function<void()>& action) {
+    largestAllocation = largest;
+    action();
     largestAllocation = std::numeric_limits<std::size_t>::max();
   }
 };
@@ -87,6 +91,28 @@ TEST_F(OutOfMemory, EndsTheFileAndNotTheFolder) {
   EXPECT_EQ(program.countRun.Folder().Skipped()[0].reason, "Out of memory");
   EXPECT_EQ(State().filesScanned, 1);
   EXPECT_THAT(StoredWords(), testing::StartsWith("cat*2 "));
+}
+
+TEST_F(OutOfMemory, WhileAListIsMadeAgainIsToldAndEndsOnlyThat) {
+  CountFile(WriteManyWords("many.txt"));
+  desktop.ForgetQuestions();
+  WithMemory(20'000, [&] { Main().cboWordOrder.SetListIndex(1); });
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory");
+  EXPECT_FALSE(State().Busy());
+  desktop.ForgetQuestions();
+  Main().cboWordOrder.SetListIndex(0);
+  EXPECT_THAT(Output(), HasSubstr("cat"));
+}
+
+TEST_F(OutOfMemory, WhileTheOutputFileIsWrittenLeavesItAsItWas) {
+  const std::string list = folder.Write("list.txt", "old");
+  Panel().chkWarnOnOverwrite.SetChecked(false);
+  CountClipboard("cat");
+  Main().txbFile[1].SetText(list);
+  WithMemory(20'000, [&] { Main().cboWordOrder.SetListIndex(1); });
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory");
+  EXPECT_EQ(ContentsOf(list), "old");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(TestPath(folder.Path())), {}), 1);
 }
 
 TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeTheWord) {

@@ -371,7 +371,7 @@ TEST_F(OutputFileTest, ADiskThatIsFullInTheMiddleOfTheListIsReported) {
 TEST_F(OutputFileTest, AMissingFolderIsReported) {
   ListTo(folder / "nowhere/out.txt");
   CountTwoWords();
-  ExpectProblem("Error 76: Path not found");
+  ExpectProblem("Error 76: Path not found\r\n" + Main().txbFile[1].Text());
   EXPECT_FALSE(Has(Output(), kFileHeader));
 }
 
@@ -379,13 +379,13 @@ TEST_F(OutputFileTest, AFileInPlaceOfAFolderIsReported) {
   static_cast<void>(folder.Write("file", "text"));
   ListTo(folder / "file/out.txt");
   CountTwoWords();
-  ExpectProblem("Error 76: Path not found");
+  ExpectProblem("Error 76: Path not found\r\n" + Main().txbFile[1].Text());
 }
 
 TEST_F(OutputFileTest, AFolderInPlaceOfTheFileIsReported) {
   ListTo(folder.Make("out.txt"));
   CountTwoWords();
-  ExpectProblem("Error 75: Path/File access error");
+  ExpectProblem("Error 75: Path/File access error\r\n" + path);
   EXPECT_TRUE(fs::is_directory(path));
 }
 
@@ -451,7 +451,7 @@ TEST_F(OutputFileTest, AProblemWithAListMadeAgainLeavesTheWindowIdle) {
   CountTwoWords();
   ListTo(folder / "nowhere/out.txt");
   ChooseOrder(WordOrder::kAlphabetical);
-  ExpectProblem("Error 76: Path not found");
+  ExpectProblem("Error 76: Path not found\r\n" + Main().txbFile[1].Text());
   EXPECT_EQ(Output(), kBoxList);
 }
 

@@ -210,9 +210,11 @@ TEST_F(WholeRun, ShortOutputStaysAboveTheProcessingNotice) {
   desktop.AtMessage("Problem", [this] {
     EXPECT_TRUE(Output().starts_with("cat \r\n\r\nProcessing . . . . . . ")) << Output();
   });
-  Main().txbFile[1].SetText(folder / "missing/list.txt");
+  const std::string path = folder / "missing/list.txt";
+  Main().txbFile[1].SetText(path);
   CountClipboard("cat");
-  ExpectMessage(OnlyMessage(), "Error 76: Path not found", "Problem", MessageIcon::kExclamation);
+  ExpectMessage(OnlyMessage(), "Error 76: Path not found\r\n" + path, "Problem",
+                MessageIcon::kExclamation);
 }
 
 TEST_F(WholeRun, ErrorWhileTheFileIsWrittenIsReportedAndLeavesNoListing) {
