@@ -21,6 +21,8 @@ namespace {
 
 constexpr int kWordSection = static_cast<int>(WordColumn::kWord);
 constexpr int kRankSection = static_cast<int>(WordColumn::kRank);
+/// Of more rows the text is enough: it is what programs take over faster.
+constexpr qsizetype kMostRowsOfATable = 100'000;
 
 }  // namespace
 
@@ -111,16 +113,17 @@ void WordTableView::CopySelected() const {
   const QList<int> rows = SelectedRows();
   if (rows.isEmpty()) return;
   const QList<int> sections = columns_.Shown();
+  const bool withTable = rows.size() <= kMostRowsOfATable;
   QString text;
   HtmlTable html;
   for (const int row : rows) {
     const QStringList cells = model_.CopyOf(row, sections);
     text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    html.AddRow(cells);
+    if (withTable) html.AddRow(cells);
   }
   auto copied = std::make_unique<QMimeData>();
   copied->setText(text);
-  copied->setHtml(html.Whole());
+  if (withTable) copied->setHtml(html.Whole());
   QApplication::clipboard()->setMimeData(copied.release());  // which takes it
 }
 

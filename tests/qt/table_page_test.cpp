@@ -123,16 +123,19 @@ TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
 }
 
 TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
-  Count("cat dog\n");
+  Count("cat dog m\u00FCller\n");
   OpenTable();
   auto* kind = Window().Table().findChild<QComboBox*>();
   kind->setCurrentIndex(static_cast<int>(FilterKind::kExpression));
   TypeFilter("(c|x)a");
   EXPECT_THAT(Words(), ElementsAre("cat"));
   Box().clear();
+  TypeFilter("^m.lL");
+  EXPECT_THAT(Words(), ElementsAre("m\u00FCller"));
+  Box().clear();
   TypeFilter("(");
   EXPECT_TRUE(Says("Not understood: missing closing parenthesis"));
-  EXPECT_THAT(Words(), ElementsAre("cat", "dog"));
+  EXPECT_THAT(Words(), testing::SizeIs(3));
 }
 
 TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
