@@ -83,6 +83,8 @@ class WordStore {
 
   /// What makes words the same from now on; to be told while the store is empty.
   void SetKeyRule(KeyRule rule) { keyRule_ = rule; }
+  /// By which the words have their keys.
+  [[nodiscard]] KeyRule Rule() const { return keyRule_; }
 
   /// Empties the store. The file tracker is left alone.
   void Clear();

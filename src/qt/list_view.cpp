@@ -21,6 +21,7 @@ void ListView::SetZoom(int zoom) {
   QFont changed = font();
   changed.setPointSizeF(std::max(usualSize_ + zoom_, 4.0));
   setFont(changed);
+  if (onZoom) onZoom(zoom_);
 }
 
 /// What stands on the empty list is not cut.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <functional>
 #include <utility>
 
 #include "qt/list_table.h"
@@ -17,6 +18,8 @@ class ListView : public QPlainTextEdit {
   [[nodiscard]] int Zoom() const { return zoom_; }
   /// A step out of range is the nearest one.
   void SetZoom(int zoom);
+  /// What else follows a change of it.
+  std::function<void(int zoom)> onZoom;
 
   [[nodiscard]] QSize minimumSizeHint() const override;
 

@@ -202,6 +202,7 @@ void MainWindowView::ConnectKeys() {
 }
 
 void MainWindowView::ConnectZoom() {
+  List().onZoom = [this](int zoom) { table_->View().SetZoom(zoom); };
   const auto zoom = [this](const QList<QKeySequence>& keys, auto step) {
     for (const QKeySequence& key : keys) {
       connect(new QShortcut(key, this), &QShortcut::activated, this,

@@ -111,7 +111,7 @@ void Windows::RestorePlaces() {
   memory.Restore(*help_);
   memory.RestoreZoom(main_.List());
   memory.RestoreView(main_.Views());
-  memory.RestoreColumns(main_.Table().View());
+  memory.RestoreColumns(main_.Table().View().Columns());
   program_.state.lastFolder = FromQt(memory.LastFolder());
 }
 
@@ -124,7 +124,7 @@ void Windows::KeepPlaces() {
   }
   memory.KeepZoom(main_.List());
   memory.KeepView(main_.Views());
-  memory.KeepColumns(main_.Table().View());
+  memory.KeepColumns(main_.Table().View().Columns());
   memory.KeepLastFolder(ToQt(program_.state.lastFolder));
 }
 

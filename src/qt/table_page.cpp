@@ -101,11 +101,12 @@ QString TablePage::TotalsText() {
   return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.text, signs_));
 }
 
-/// The keys of the filter are its own: none of them starts or stops a count.
+/// While no count runs the keys of the filter are its own.
 void TablePage::keyPressEvent(QKeyEvent* event) {
   if (!words_.hasFocus()) return QWidget::keyPressEvent(event);
   switch (event->key()) {
     case Qt::Key_Escape:
+      if (program_.state.Busy()) return QWidget::keyPressEvent(event);  // it stops the count
       if (words_.text().isEmpty()) return view_.setFocus(Qt::OtherFocusReason);
       return words_.clear();
     case Qt::Key_Return:

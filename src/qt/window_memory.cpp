@@ -13,6 +13,7 @@ namespace {
 const char* const kZoomKey = "list/zoom";
 const char* const kViewKey = "result/view";
 const char* const kColumnsKey = "table/columns";
+const char* const kColumnWidthsKey = "table/widths";
 const char* const kLastFolderKey = "dialogs/folder";
 
 /// What the desktop puts round a window, in logical pixels.
@@ -72,15 +73,17 @@ void WindowMemory::KeepView(const ResultTabs& views) const {
   settings.setValue(QLatin1String(kViewKey), views.Current());
 }
 
-void WindowMemory::RestoreColumns(WordTableView& table) const {
+void WindowMemory::RestoreColumns(TableColumns& columns) const {
   const QSettings settings(path_, QSettings::IniFormat);
-  const QVariant columns = settings.value(QLatin1String(kColumnsKey));
-  if (columns.isValid()) table.SetWantedColumns(columns.toStringList());
+  const QVariant wanted = settings.value(QLatin1String(kColumnsKey));
+  if (wanted.isValid()) columns.SetWanted(wanted.toStringList());
+  columns.SetWidths(settings.value(QLatin1String(kColumnWidthsKey)).toStringList());
 }
 
-void WindowMemory::KeepColumns(const WordTableView& table) const {
+void WindowMemory::KeepColumns(const TableColumns& columns) const {
   QSettings settings(path_, QSettings::IniFormat);
-  settings.setValue(QLatin1String(kColumnsKey), table.WantedColumns());
+  settings.setValue(QLatin1String(kColumnsKey), columns.Wanted());
+  settings.setValue(QLatin1String(kColumnWidthsKey), columns.Widths());
 }
 
 QString WindowMemory::LastFolder() const {

@@ -8,7 +8,7 @@
 
 #include "qt/list_view.h"
 #include "qt/result_tabs.h"
-#include "qt/word_table_view.h"
+#include "qt/table_columns.h"
 
 namespace quillomat {
 
@@ -28,9 +28,9 @@ class WindowMemory {
   /// Which view of the result is in front.
   void RestoreView(ResultTabs& views) const;
   void KeepView(const ResultTabs& views) const;
-  /// Which columns the table of words shows.
-  void RestoreColumns(WordTableView& table) const;
-  void KeepColumns(const WordTableView& table) const;
+  /// Which columns the table of words shows, and how wide they are.
+  void RestoreColumns(TableColumns& columns) const;
+  void KeepColumns(const TableColumns& columns) const;
   /// The folder in which the next dialog opens; "" for none.
   [[nodiscard]] QString LastFolder() const;
   void KeepLastFolder(const QString& folder) const;

@@ -39,9 +39,12 @@ void WordTableModel::SetTexts(const ProgramText& text) {
   emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
 }
 
-QString WordTableModel::CopyOf(int row, int section) const {
-  const WordRow words = Rows()->RowAt(static_cast<std::size_t>(row));
-  return ToQt(CellOf(words, ColumnOf(section), {.group = "", .decimal = signs_.decimal}));
+QStringList WordTableModel::CopyOf(int row, const QList<int>& sections) const {
+  const NumberSigns signs{.group = "", .decimal = signs_.decimal};
+  const WordRow word = Rows()->RowAt(static_cast<std::size_t>(row));
+  QStringList cells;
+  for (const int section : sections) cells.append(ToQt(CellOf(word, ColumnOf(section), signs)));
+  return cells;
 }
 
 int WordTableModel::rowCount(const QModelIndex& parent) const {

@@ -26,8 +26,8 @@ class WordTableModel final : public QAbstractTableModel {
   /// The columns' titles in the current language.
   void SetTexts(const ProgramText& text);
 
-  /// A cell as another program is to read it: numbers without groups.
-  [[nodiscard]] QString CopyOf(int row, int section) const;
+  /// Cells of a row as another program is to read them: numbers without groups.
+  [[nodiscard]] QStringList CopyOf(int row, const QList<int>& sections) const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

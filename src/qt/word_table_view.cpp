@@ -6,7 +6,10 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <algorithm>
+#include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "qt/list_table.h"
@@ -17,25 +20,24 @@ namespace quillomat {
 namespace {
 
 constexpr int kWordSection = static_cast<int>(WordColumn::kWord);
-constexpr int kFilesSection = static_cast<int>(WordColumn::kFiles);
-/// What fills a column as it is shown at first.
-const char* const kUsualNumber = "1,000,000";
-const char* const kUsualWord = "incomprehensibility";
+constexpr int kRankSection = static_cast<int>(WordColumn::kRank);
+/// Of more rows the text is enough: it is what programs take over faster.
+constexpr qsizetype kMostRowsOfATable = 100'000;
 
 }  // namespace
 
 WordTableView::WordTableView(ResultTable& table, QWidget* parent)
-    : QTableView(parent), table_(table), model_(table) {
+    : QTableView(parent), table_(table), model_(table), columns_(*this, model_) {
   setModel(&model_);
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setAlternatingRowColors(true);
   setShowGrid(false);
   setWordWrap(false);
   setTabKeyNavigation(false);
-  MakeColumnActions();
   SetUpHeaders();
-  KeepTheCurrentWord();
-  table.Changed.Connect([this] { ShowWantedColumns(); });
+  FitToLetters();
+  KeepTheChosenWord();
+  table.Changed.Connect([this] { FollowTheTable(); });
 }
 
 void WordTableView::SetUpHeaders() {
@@ -44,77 +46,45 @@ void WordTableView::SetUpHeaders() {
   QHeaderView& titles = *horizontalHeader();
   titles.setHighlightSections(false);
   titles.setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(&titles, &QHeaderView::customContextMenuRequested, this,
-          [this, &titles](QPoint place) { ShowMenu(titles.mapToGlobal(place), false); });
-  titles.setSortIndicator(static_cast<int>(WordColumn::kRank), Qt::AscendingOrder);
+  connect(&titles, &QHeaderView::customContextMenuRequested, this, [this, &titles](QPoint place) {
+    ShowMenu(titles.mapToGlobal(place), titles.logicalIndexAt(place), false);
+  });
+  titles.setSortIndicator(kRankSection, Qt::AscendingOrder);
   setSortingEnabled(true);
-}
-
-/// The words are what the table is about: they are always shown.
-void WordTableView::MakeColumnActions() {
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    QAction& action = columns_[static_cast<std::size_t>(section)];
-    action.setCheckable(true);
-    action.setChecked(WordTableModel::ColumnOf(section) != WordColumn::kLength);
-    action.setEnabled(section != kWordSection);
-    connect(&action, &QAction::toggled, this, [this] { ShowWantedColumns(); });
-  }
-  copy_.setShortcut(QKeySequence::Copy);
-  copy_.setShortcutContext(Qt::WidgetShortcut);
-  connect(&copy_, &QAction::triggered, this, [this] { CopySelected(); });
 }
 
 void WordTableView::SetTexts(const ProgramText& text) {
   model_.SetTexts(text);
   setAccessibleName(ToQt(text.GetText(kTableNameText)));
-  copy_.setText(ToQt(text.GetText(kCopyRowsText)));
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    columns_[static_cast<std::size_t>(section)].setText(
-        model_.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
-  }
-  FitColumns();
+  copyText_ = ToQt(text.GetText(kCopyRowsText));
+  sortText_ = ToQt(text.GetText(kSortByText));
+  columns_.Arrange();
 }
 
-QStringList WordTableView::WantedColumns() const {
-  QStringList names;
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    if (!columns_[static_cast<std::size_t>(section)].isChecked()) continue;
-    names.append(ToQt(NameOf(WordTableModel::ColumnOf(section))));
-  }
-  return names;
+void WordTableView::SetZoom(int points) {
+  constexpr qreal kSmallest = 4.0;
+  if (parentWidget() == nullptr) return;
+  QFont letters = parentWidget()->font();
+  if (letters.pointSizeF() <= 0) return;
+  letters.setPointSizeF(std::max(letters.pointSizeF() + points, kSmallest));
+  setFont(letters);
 }
 
-void WordTableView::SetWantedColumns(const QStringList& names) {
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    const bool wanted = names.contains(ToQt(NameOf(WordTableModel::ColumnOf(section))));
-    columns_[static_cast<std::size_t>(section)].setChecked(wanted || section == kWordSection);
-  }
-}
-
-/// In how many files a word occurs is shown where it is known.
-void WordTableView::ShowWantedColumns() {
+/// Nothing is asked of the table while nobody looks.
+void WordTableView::FollowTheTable() {
   const WordRows* rows = isVisible() ? table_.Rows() : nullptr;
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    const bool known = section != kFilesSection || (rows != nullptr && rows->Words().KnowsFiles());
-    const bool wanted = columns_[static_cast<std::size_t>(section)].isChecked();
-    setColumnHidden(section, !known || !wanted);
-  }
+  columns_.SetFilesKnown(rows != nullptr && rows->Words().KnowsFiles());
 }
 
-/// Titles and usual contents are not cut.
-void WordTableView::FitColumns() {
-  const QFontMetrics letters = fontMetrics();
-  verticalHeader()->setDefaultSectionSize(letters.height() + letters.height() / 4);
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    const QString usual = QLatin1String(section == kWordSection ? kUsualWord : kUsualNumber);
-    const int contents = letters.horizontalAdvance(usual) + letters.averageCharWidth() * 2;
-    setColumnWidth(section, std::max(contents, horizontalHeader()->sectionSizeHint(section)));
-  }
+void WordTableView::FitToLetters() {
+  const int letters = fontMetrics().height();
+  verticalHeader()->setDefaultSectionSize(letters + letters / 4);
+  columns_.Arrange();
 }
 
 /// A row that the user has chosen stays in view when the rows change places.
-void WordTableView::KeepTheCurrentWord() {
-  auto chosen = std::make_shared<std::optional<std::int32_t>>();
+void WordTableView::KeepTheChosenWord() {
+  const auto chosen = std::make_shared<std::optional<std::int32_t>>();
   connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this, [this, chosen] {
     chosen->reset();
     const WordRows* rows = model_.rowCount() > 0 ? table_.Rows() : nullptr;
@@ -139,41 +109,55 @@ QList<int> WordTableView::SelectedRows() const {
   return rows;
 }
 
-QList<int> WordTableView::ShownColumns() const {
-  QList<int> sections;
-  for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    if (!isColumnHidden(section)) sections.append(section);
-  }
-  return sections;
-}
-
 void WordTableView::CopySelected() const {
   const QList<int> rows = SelectedRows();
   if (rows.isEmpty()) return;
-  const QList<int> sections = ShownColumns();
+  const QList<int> sections = columns_.Shown();
+  const bool withTable = rows.size() <= kMostRowsOfATable;
   QString text;
   HtmlTable html;
   for (const int row : rows) {
-    QStringList cells;
-    for (const int section : sections) cells.append(model_.CopyOf(row, section));
+    const QStringList cells = model_.CopyOf(row, sections);
     text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    html.AddRow(cells);
+    if (withTable) html.AddRow(cells);
   }
   auto copied = std::make_unique<QMimeData>();
   copied->setText(text);
-  copied->setHtml(html.Whole());
+  if (withTable) copied->setHtml(html.Whole());
   QApplication::clipboard()->setMimeData(copied.release());  // which takes it
 }
 
-void WordTableView::ShowMenu(const QPoint& place, bool withCopy) {
+/// As a click on its title does.
+void WordTableView::SortBy(int section) {
+  const QHeaderView& titles = *horizontalHeader();
+  const QVariant usual = model_.headerData(section, Qt::Horizontal, Qt::InitialSortOrderRole);
+  auto order = static_cast<Qt::SortOrder>(usual.toInt());
+  if (titles.sortIndicatorSection() == section) {
+    const bool ascends = titles.sortIndicatorOrder() == Qt::AscendingOrder;
+    order = ascends ? Qt::DescendingOrder : Qt::AscendingOrder;
+  }
+  sortByColumn(section, order);
+}
+
+void WordTableView::ShowMenu(const QPoint& place, int section, bool withCopy) {
   QMenu menu(this);
   if (withCopy) {
-    copy_.setEnabled(selectionModel()->hasSelection());
-    menu.addAction(&copy_);
-    menu.addSeparator();
+    menu.addAction(copyText_, QKeySequence(QKeySequence::Copy), this, [this] { CopySelected(); })
+        ->setEnabled(selectionModel()->hasSelection());
   }
-  for (QAction& column : columns_) menu.addAction(&column);
+  if (section >= 0) {
+    const QString title = model_.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    menu.addAction(sortText_.arg(title), this, [this, section] { SortBy(section); });
+  }
+  menu.addSeparator();
+  columns_.AddTo(menu);
   menu.exec(place);
+}
+
+/// The columns are few: Home and End go to the first and to the last word.
+QModelIndex WordTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+  const bool isEnd = action == MoveHome || action == MoveEnd;
+  return QTableView::moveCursor(action, isEnd ? modifiers | Qt::ControlModifier : modifiers);
 }
 
 void WordTableView::keyPressEvent(QKeyEvent* event) {
@@ -181,14 +165,19 @@ void WordTableView::keyPressEvent(QKeyEvent* event) {
   QTableView::keyPressEvent(event);
 }
 
+/// Asked for by the keyboard, it is about the column that the keyboard is in.
 void WordTableView::contextMenuEvent(QContextMenuEvent* event) {
-  ShowMenu(event->globalPos(), true);
+  const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+  const QModelIndex index = byMouse ? indexAt(event->pos()) : currentIndex();
+  const QPoint place =
+      byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(index).bottomLeft());
+  ShowMenu(place, index.isValid() ? index.column() : kWordSection, true);
 }
 
 void WordTableView::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
   model_.SetWatched(true);
-  ShowWantedColumns();
+  FollowTheTable();
 }
 
 void WordTableView::hideEvent(QHideEvent* event) {
@@ -196,9 +185,14 @@ void WordTableView::hideEvent(QHideEvent* event) {
   if (!event->spontaneous()) model_.SetWatched(false);
 }
 
+void WordTableView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  columns_.Arrange();
+}
+
 void WordTableView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
-  if (event->type() == QEvent::FontChange) FitColumns();
+  if (event->type() == QEvent::FontChange) FitToLetters();
 }
 
 }  // namespace quillomat

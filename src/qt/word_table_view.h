@@ -1,14 +1,11 @@
-// The table of words on the screen: sorted by a click on a column's title, columns chosen from a
-// menu there, words reached by typing them, rows copied with their columns.
+// The table of words on the screen: sorted by a click on a column's title or from a menu, words
+// reached by typing them, rows copied with their columns.
 #pragma once
 
 #include <QAction>
-#include <QString>
-#include <QStringList>
 #include <QTableView>
-#include <array>
-#include <memory>
 
+#include "qt/table_columns.h"
 #include "qt/word_table_model.h"
 #include "text/program_text.h"
 
@@ -21,36 +18,39 @@ class WordTableView final : public QTableView {
 
   void SetTexts(const ProgramText& text);
   [[nodiscard]] WordTableModel& Model() { return model_; }
+  [[nodiscard]] TableColumns& Columns() { return columns_; }
+  [[nodiscard]] const TableColumns& Columns() const { return columns_; }
 
-  /// The names of the columns that the user wants to see.
-  [[nodiscard]] QStringList WantedColumns() const;
-  void SetWantedColumns(const QStringList& names);
+  /// The letters are so many points larger than the window's; smaller, below 0.
+  void SetZoom(int points);
 
   /// Puts the selected rows on the clipboard, with the columns that are shown.
   void CopySelected() const;
 
  protected:
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
   void SetUpHeaders();
-  void MakeColumnActions();
-  void ShowMenu(const QPoint& place, bool withCopy);
-  void ShowWantedColumns();
-  void FitColumns();
-  void KeepTheCurrentWord();
+  void ShowMenu(const QPoint& place, int section, bool withCopy);
+  void SortBy(int section);
+  void FollowTheTable();
+  void FitToLetters();
+  void KeepTheChosenWord();
   [[nodiscard]] QList<int> SelectedRows() const;
-  [[nodiscard]] QList<int> ShownColumns() const;
 
   ResultTable& table_;
   WordTableModel model_;
-  QAction copy_;
-  /// One for each column; checked when the user wants it.
-  std::array<QAction, WordTableModel::kColumns> columns_;
+  TableColumns columns_;
+  QString copyText_;
+  /// "Sort by %1".
+  QString sortText_;
 };
 
 }  // namespace quillomat

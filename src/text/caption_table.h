@@ -190,5 +190,7 @@ inline constexpr int kExpressionFaultText = 624;
 inline constexpr int kFirstColumnText = 630;
 inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
+/// "%1" stands for the title of a column.
+inline constexpr int kSortByText = 642;
 
 }  // namespace quillomat

@@ -123,28 +123,113 @@ TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
 }
 
 TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
-  Count("cat dog\n");
+  Count("cat dog m\u00FCller\n");
   OpenTable();
   auto* kind = Window().Table().findChild<QComboBox*>();
   kind->setCurrentIndex(static_cast<int>(FilterKind::kExpression));
   TypeFilter("(c|x)a");
   EXPECT_THAT(Words(), ElementsAre("cat"));
   Box().clear();
+  TypeFilter("^m.lL");
+  EXPECT_THAT(Words(), ElementsAre("m\u00FCller"));
+  Box().clear();
   TypeFilter("(");
   EXPECT_TRUE(Says("Not understood: missing closing parenthesis"));
-  EXPECT_THAT(Words(), ElementsAre("cat", "dog"));
+  EXPECT_THAT(Words(), testing::SizeIs(3));
 }
 
 TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
   Count("dog cat dog emu\n");
   OpenTable();
-  View().SetWantedColumns({"rank", "frequency"});
+  View().Columns().SetWanted({"rank", "frequency"});
   View().selectRow(0);
   QTest::keyClick(&View(), Qt::Key_Down, Qt::ShiftModifier);
   QTest::keySequence(&View(), QKeySequence::Copy);
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   EXPECT_EQ(FromQt(copied->text()), "1\tdog\t2\n2\tcat\t1\n");
   EXPECT_TRUE(copied->html().contains("<tr><td>1</td><td>dog</td><td>2</td></tr>"));
+}
+
+TEST_F(TablePageTest, ColumnsAndTheirWidthsAreRemembered) {
+  OpenTable();
+  View().Columns().SetWanted({"frequency", "length"});
+  View().setColumnWidth(static_cast<int>(WordColumn::kFrequency), 222);
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_EQ(View().Columns().Wanted(), QStringList({"word", "frequency", "length"}));
+  EXPECT_EQ(View().columnWidth(static_cast<int>(WordColumn::kFrequency)), 222);
+  EXPECT_TRUE(View().isColumnHidden(static_cast<int>(WordColumn::kRank)));
+}
+
+TEST_F(TablePageTest, NumberOfFilesIsShownWhereItIsKnown) {
+  OpenTable();
+  static_cast<void>(folder.Write("books/a.txt", "cat dog"));
+  static_cast<void>(folder.Write("books/b.txt", "cat"));
+  user->program.ChooseText(folder / "books");
+  user->Type(user->program.frmParams.txbWordsToIgnoreOrCount[1], "cat");
+  user->program.frmParams.LoseFocus();
+  user->program.frmMain.txbFile[1].SetText(folder / "list.txt");
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_FALSE(View().isColumnHidden(static_cast<int>(WordColumn::kFiles)));
+  EXPECT_EQ(Cell(0, WordColumn::kFiles), "2");
+  user->Type(user->program.frmParams.txbWordsToIgnoreOrCount[1], "");
+  user->program.frmParams.LoseFocus();
+  user->program.frmMain.txbFile[1].SetText("");
+  Count("ox");
+  EXPECT_TRUE(View().isColumnHidden(static_cast<int>(WordColumn::kFiles)));
+}
+
+TEST_F(TablePageTest, WordsTakeTheRoomThatIsLeft) {
+  OpenTable();
+  const auto width = [this](WordColumn column) {
+    return View().columnWidth(static_cast<int>(column));
+  };
+  Window().resize(1000, 700);
+  user->Settle();
+  const int before = width(WordColumn::kWord);
+  const int rank = width(WordColumn::kRank);
+  Window().resize(1060, 700);
+  user->Settle();
+  EXPECT_GT(width(WordColumn::kWord), before);
+  EXPECT_EQ(width(WordColumn::kRank), rank);
+}
+
+TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
+  std::string text;
+  for (char first = 'a'; first <= 'z'; ++first) {
+    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
+  }
+  Count(text);
+  OpenTable();
+  View().setFocus();
+  QTest::keyClick(&View(), Qt::Key_End);
+  EXPECT_EQ(Cell(View().currentIndex().row(), WordColumn::kWord), "zzo");
+  ClickTitle(WordColumn::kWord);
+  ClickTitle(WordColumn::kWord);
+  EXPECT_EQ(View().currentIndex().row(), 0);
+  EXPECT_EQ(Cell(0, WordColumn::kWord), "zzo");
+  QTest::keyClick(&View(), Qt::Key_Home);
+  EXPECT_EQ(View().currentIndex().row(), 0);
+}
+
+TEST_F(TablePageTest, LettersFollowTheSizeOfTheLists) {
+  OpenTable();
+  const qreal usual = View().font().pointSizeF();
+  const int row = View().verticalHeader()->defaultSectionSize();
+  QTest::keySequence(&Window(), QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  QTest::keySequence(&Window(), QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  EXPECT_DOUBLE_EQ(View().font().pointSizeF(), usual + 2);
+  EXPECT_GT(View().verticalHeader()->defaultSectionSize(), row);
+}
+
+TEST_F(TablePageTest, ScreenReaderIsToldWhatEachPartIs) {
+  OpenTable();
+  EXPECT_EQ(FromQt(View().accessibleName()), "Table of words");
+  EXPECT_EQ(FromQt(Box().accessibleName()), "Show words:");
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_EQ(FromQt(View().accessibleName()), "Tabelle der Wörter");
+  EXPECT_EQ(FromQt(View().model()->headerData(1, Qt::Horizontal).toString()), "Wort");
 }
 
 TEST_F(TablePageTest, TypingGoesToTheWord) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <future>
+#include <system_error>
 #include <thread>
 
 namespace quillomat {
@@ -30,7 +31,11 @@ void ForEachPart(const std::vector<Part>& parts,
   if (parts.empty()) return;
   std::vector<std::future<void>> others;
   for (std::size_t i = 1; i < parts.size(); ++i) {
-    others.push_back(std::async(std::launch::async, [&, i] { work(parts[i], i); }));
+    try {
+      others.push_back(std::async(std::launch::async, [&, i] { work(parts[i], i); }));
+    } catch (const std::system_error&) {
+      work(parts[i], i);  // the system has no thread to give
+    }
   }
   work(parts.front(), 0);
   for (std::future<void>& other : others) other.get();

@@ -22,7 +22,7 @@ const WordRows* ResultTable::Rows() {
   if (!rows_) {
     rows_.emplace(WordTable(state_.Counted(), state_.WordsRead), collation_);
     rows_->SetOrder(order_);
-    if (matcher_) rows_->SetMatcher(matcher_);
+    if (!filterInForce_.text.empty()) rows_->SetFilter(filterInForce_, expression_);
   }
   return &*rows_;
 }
@@ -49,9 +49,9 @@ void ResultTable::SetFilter(const RowFilter& filter) {
     expression = std::get<Matcher>(std::move(read));
   }
   Change([&] {
-    matcher_.reset();
-    if (!filter.text.empty()) matcher_.emplace(filter, std::move(expression));
-    if (rows_) rows_->SetMatcher(matcher_);
+    filterInForce_ = filter;
+    expression_ = std::move(expression);
+    if (rows_) rows_->SetFilter(filterInForce_, expression_);
   });
 }
 

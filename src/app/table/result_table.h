@@ -51,7 +51,9 @@ class ResultTable {
   std::optional<WordRows> rows_;
   RowOrder order_;
   RowFilter filter_;
-  std::optional<WordMatcher> matcher_;
+  /// The filter that is understood, and its expression.
+  RowFilter filterInForce_;
+  Matcher expression_;
   std::string fault_;
 };
 

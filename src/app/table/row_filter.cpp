@@ -2,23 +2,41 @@
 
 #include <utility>
 
-#include "base/letter_case.h"
 #include "base/utf8.h"
 #include "engine/fold_accents.h"
+#include "engine/normal_text.h"
 #include "sources/wildcard.h"
 
 namespace quillomat {
+namespace {
 
-WordMatcher::WordMatcher(const RowFilter& filter, Matcher expression)
+/// Signs of patterns and expressions stand for characters, and not for what these are folded to.
+bool CountsCharacters(FilterKind kind) {
+  return kind == FilterKind::kPattern || kind == FilterKind::kExpression;
+}
+
+}  // namespace
+
+std::string KeyOfTyped(std::string_view text, KeyRule rule) {
+  std::string normal;
+  std::string scratch;
+  if (rule.letters == LetterRule::kAll) text = NormalForm(text, DottedCapitalI::kLowered, normal);
+  return std::string(SortKeyOf(text, rule, scratch));
+}
+
+WordMatcher::WordMatcher(const RowFilter& filter, Matcher expression, KeyRule rule)
     : kind_(filter.kind),
-      folded_(SortKeyOf(filter.text)),
-      lowered_(LowerCase(filter.text)),
+      lowerRule_{.letters = rule.letters, .keepAccents = true},
+      hasTwoSpellings_(CountsCharacters(filter.kind) && !rule.keepAccents),
+      folded_(KeyOfTyped(filter.text, rule)),
+      lowered_(KeyOfTyped(filter.text, lowerRule_)),
       expression_(std::move(expression)) {}
 
 bool WordMatcher::Matches(const WordRec& word) const {
   if (MatchesText(word.SortKey, folded_)) return true;
-  const bool countsCharacters = kind_ == FilterKind::kPattern || kind_ == FilterKind::kExpression;
-  return countsCharacters && !IsAscii(word.Word) && MatchesText(LowerCase(word.Word), lowered_);
+  if (!hasTwoSpellings_ || IsAscii(word.Word)) return false;
+  std::string scratch;
+  return MatchesText(SortKeyOf(word.Word, lowerRule_, scratch), lowered_);
 }
 
 bool WordMatcher::MatchesText(std::string_view text, std::string_view pattern) const {

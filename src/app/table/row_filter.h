@@ -1,8 +1,9 @@
 // Which words the table shows: what the user types above it, and how it is meant.
 //
-// Letter case and accents count as little as they do for the list: "mull" begins no "Müller", which
-// is "mueller" to the list, but "muel" and "Mül" do. In a pattern and in an expression a word is
-// looked at in both spellings, so that "m?ller" finds it, too.
+// Letter case and accents count as little as they do for the list, which goes by a rule of its own:
+// where it takes "Müller" for "mueller", "mull" begins it not, but "muel" and "Mül" do. In a
+// pattern and in an expression a word is looked at in both spellings, so that "m?ller" finds it,
+// too.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +12,7 @@
 #include <string_view>
 #include <variant>
 
+#include "engine/letter_rule.h"
 #include "engine/word_store.h"
 
 namespace quillomat {
@@ -48,11 +50,14 @@ struct ExpressionFault {
 using ExpressionReader =
     std::function<std::variant<Matcher, ExpressionFault>(std::string_view expression)>;
 
+/// What is typed, as a list of that rule folds words.
+[[nodiscard]] std::string KeyOfTyped(std::string_view text, KeyRule rule);
+
 /// A filter made ready to look at many words.
 class WordMatcher {
  public:
-  /// `expression` is called for a filter of that kind only.
-  WordMatcher(const RowFilter& filter, Matcher expression);
+  /// `rule` is that of the words. `expression` is called for a filter of that kind only.
+  WordMatcher(const RowFilter& filter, Matcher expression, KeyRule rule);
 
   /// Several threads may call it at the same time.
   [[nodiscard]] bool Matches(const WordRec& word) const;
@@ -61,6 +66,10 @@ class WordMatcher {
   [[nodiscard]] bool MatchesText(std::string_view text, std::string_view pattern) const;
 
   FilterKind kind_;
+  /// By which accents stay.
+  KeyRule lowerRule_;
+  /// A word may have a spelling besides its key.
+  bool hasTwoSpellings_;
   /// As the list folds words, and in lower case alone.
   std::string folded_;
   std::string lowered_;

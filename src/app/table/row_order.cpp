@@ -124,7 +124,7 @@ std::vector<std::int32_t> PlacesBySmallNumber(const WordTable& words, RowOrder o
 }  // namespace
 
 std::vector<std::int32_t> PlacesByWord(const WordTable& words, const Collation& collation) {
-  const std::vector<std::int32_t> alphabetical = words.Alphabetical();
+  std::vector<std::int32_t> alphabetical = words.Alphabetical();
   if (!collation.IsKnown()) return alphabetical;
   const std::vector<Part> parts = PartsOf(alphabetical.size());
   std::vector<SortedPart> sorted(parts.size());

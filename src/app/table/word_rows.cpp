@@ -3,13 +3,31 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
-#include <ranges>
 #include <string>
+#include <utility>
 
 #include "app/table/in_parts.h"
-#include "engine/fold_accents.h"
 
 namespace quillomat {
+namespace {
+
+/// The first alphabetical place whose word's key is not `isBefore`.
+template <typename IsBefore>
+std::int32_t FirstPlaceNot(const WordStore& store, IsBefore isBefore) {
+  std::int32_t low = 1;
+  std::int32_t high = store.NumDifferentWords() + 1;
+  while (low < high) {
+    const std::int32_t middle = low + (high - low) / 2;
+    if (isBefore(store.At(middle).SortKey)) {
+      low = middle + 1;
+    } else {
+      high = middle;
+    }
+  }
+  return low;
+}
+
+}  // namespace
 
 WordRows::WordRows(const WordTable& words, const Collation& collation)
     : words_(words),
@@ -33,26 +51,30 @@ std::vector<std::int32_t> WordRows::PlacesInOrder() {
   return places;
 }
 
-void WordRows::SetMatcher(const std::optional<WordMatcher>& matcher) {
+void WordRows::SetFilter(const RowFilter& filter, Matcher expression) {
   matches_.clear();
   instances_ = words_.Words().totals.TotalIncludedCount;
-  if (matcher) {
-    const CountedWords& words = words_.Words();
-    matches_.assign(words.ranking.rankOf.size(), 0);
-    const std::vector<Part> parts = PartsOf(matches_.size());
-    std::vector<std::int64_t> instances(parts.size());
-    ForEachPart(parts, [&](const Part& part, std::size_t number) {
-      for (std::size_t index = part.begin; index < part.end; ++index) {
-        if (words.ranking.rankOf[index] == 0) continue;
-        const WordRec record = words.store.At(static_cast<std::int32_t>(index));
-        if (!matcher->Matches(record)) continue;
-        matches_[index] = 1;
-        instances[number] += record.Count;
-      }
-    });
-    instances_ = std::accumulate(instances.begin(), instances.end(), std::int64_t{0});
+  if (!filter.text.empty()) {
+    Match(WordMatcher(filter, std::move(expression), words_.Words().store.Rule()));
   }
   ShowMatching();
+}
+
+void WordRows::Match(const WordMatcher& matcher) {
+  const CountedWords& words = words_.Words();
+  matches_.assign(words.ranking.rankOf.size(), 0);
+  const std::vector<Part> parts = PartsOf(matches_.size());
+  std::vector<std::int64_t> instances(parts.size());
+  ForEachPart(parts, [&](const Part& part, std::size_t number) {
+    for (std::size_t index = part.begin; index < part.end; ++index) {
+      if (words.ranking.rankOf[index] == 0) continue;
+      const WordRec record = words.store.At(static_cast<std::int32_t>(index));
+      if (!matcher.Matches(record)) continue;
+      matches_[index] = 1;
+      instances[number] += record.Count;
+    }
+  });
+  instances_ = std::accumulate(instances.begin(), instances.end(), std::int64_t{0});
 }
 
 void WordRows::ShowMatching() {
@@ -75,16 +97,13 @@ std::optional<std::size_t> WordRows::RowOfPlace(std::int32_t place) const {
 /// The words that begin with it stand one after the other in the store, which is sorted.
 std::optional<std::size_t> WordRows::FindBeginning(std::string_view text, std::size_t from) const {
   const WordStore& store = words_.Words().store;
-  const std::string key = SortKeyOf(text);
-  const auto places = std::views::iota(1, store.NumDifferentWords() + 1);
-  const auto beginningOf = [&](std::int32_t place) {
-    return store.At(place).SortKey.substr(0, key.size());
-  };
-  const auto found = std::ranges::equal_range(places, std::string_view(key), {}, beginningOf);
-  if (found.empty()) return std::nullopt;
-  const std::int32_t first = found.front();
-  const std::int32_t last = found.back();
-  const auto fits = [&](std::int32_t place) { return place >= first && place <= last; };
+  const std::string beginning = KeyOfTyped(text, store.Rule());
+  const std::int32_t first =
+      FirstPlaceNot(store, [&](std::string_view key) { return key < beginning; });
+  const std::int32_t end = FirstPlaceNot(
+      store, [&](std::string_view key) { return key.substr(0, beginning.size()) <= beginning; });
+  if (first == end) return std::nullopt;
+  const auto fits = [&](std::int32_t place) { return place >= first && place < end; };
   const auto start = shown_.begin() + static_cast<std::ptrdiff_t>(std::min(from, shown_.size()));
   auto row = std::find_if(start, shown_.end(), fits);
   if (row == shown_.end()) row = std::find_if(shown_.begin(), start, fits);

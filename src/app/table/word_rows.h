@@ -25,8 +25,8 @@ class WordRows {
   void SetOrder(RowOrder order);
   [[nodiscard]] RowOrder Order() const { return order_; }
 
-  /// Shows the words that `matcher` takes; all words without one.
-  void SetMatcher(const std::optional<WordMatcher>& matcher);
+  /// Shows the words that fit. `expression` is needed for a filter of that kind.
+  void SetFilter(const RowFilter& filter, Matcher expression = {});
 
   /// How many rows are shown, and how often their words occur.
   [[nodiscard]] std::size_t Size() const { return shown_.size(); }
@@ -47,6 +47,7 @@ class WordRows {
 
  private:
   [[nodiscard]] std::vector<std::int32_t> PlacesInOrder();
+  void Match(const WordMatcher& matcher);
   void ShowMatching();
 
   WordTable words_;

@@ -55,7 +55,7 @@ class TableFixture : public testing::Test {
     return Shown();
   }
   std::string Filtered(FilterKind kind, const std::string& text, Matcher expression = {}) {
-    Rows().SetMatcher(WordMatcher({kind, text}, std::move(expression)));
+    Rows().SetFilter({kind, text}, std::move(expression));
     return Shown();
   }
 

@@ -115,12 +115,32 @@ TEST_F(WordRowsTest, ExpressionSeesWordsFoldedAndInLowerCase) {
   EXPECT_EQ(Filtered(FilterKind::kExpression, "x", is("cat")), "cat");
 }
 
+TEST_F(WordRowsTest, AccentsMakeADifferenceWhereTheyDoForTheList) {
+  store_.SetKeyRule({.keepAccents = true});
+  AddSample();
+  EXPECT_EQ(Filtered(FilterKind::kContain, "MÜL"), "Müller");
+  EXPECT_EQ(Filtered(FilterKind::kContain, "muel"), "");
+  EXPECT_EQ(Filtered(FilterKind::kPattern, "m?ller"), "Müller");
+  Rows().SetFilter({});
+  EXPECT_EQ(Rows().FindBeginning("mü", 0), 3U);
+  EXPECT_EQ(Rows().FindBeginning("mu", 0), std::nullopt);
+}
+
+TEST_F(WordRowsTest, LettersOfAllLanguagesAreFoldedAsTheListDoes) {
+  store_.SetKeyRule({.letters = LetterRule::kAll});
+  Add("\u041C\u0438\u0440");
+  Add("\u0141\u00F3d\u017A");
+  EXPECT_EQ(Filtered(FilterKind::kAre, "\u043C\u0418\u0420"), "\u041C\u0438\u0440");
+  EXPECT_EQ(Filtered(FilterKind::kBeginWith, "lod"), "\u0141\u00F3d\u017A");
+  EXPECT_EQ(Filtered(FilterKind::kPattern, "\u0142?d?"), "\u0141\u00F3d\u017A");
+}
+
 TEST_F(WordRowsTest, FilterAndOrderDoNotDisturbEachOther) {
   AddSample();
   Rows().SetOrder({WordColumn::kWord, true});
   EXPECT_EQ(Filtered(FilterKind::kContain, "at"), "sat cat");
   EXPECT_EQ(Ordered(WordColumn::kFrequency, true), "cat sat");
-  Rows().SetMatcher(std::nullopt);
+  Rows().SetFilter({});
   EXPECT_EQ(Shown(), "the cat sat Müller ox");
   EXPECT_EQ(Rows().Instances(), 20);
 }
@@ -132,7 +152,7 @@ TEST_F(WordRowsTest, WordsAreFoundByTheirBeginningRoundTheEnd) {
   EXPECT_EQ(Rows().FindBeginning("mü", 0), 3U);
   EXPECT_EQ(Rows().FindBeginning("x", 0), std::nullopt);
   EXPECT_EQ(Rows().FindBeginning("ox", 99), 4U);
-  Rows().SetMatcher(WordMatcher({FilterKind::kContain, "at"}, {}));
+  Rows().SetFilter({FilterKind::kContain, "at"});
   EXPECT_EQ(Rows().FindBeginning("the", 0), std::nullopt) << "it is not shown";
 }
 
@@ -141,7 +161,7 @@ TEST_F(WordRowsTest, RowOfAWordIsFoundWhereverItStands) {
   const std::int32_t cat = Rows().Places()[1];
   Rows().SetOrder({WordColumn::kWord, true});
   EXPECT_EQ(Rows().RowAt(*Rows().RowOfPlace(cat)).word, "cat");
-  Rows().SetMatcher(WordMatcher({FilterKind::kAre, "ox"}, {}));
+  Rows().SetFilter({FilterKind::kAre, "ox"});
   EXPECT_EQ(Rows().RowOfPlace(cat), std::nullopt);
 }
 
