@@ -95,8 +95,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static Windows windows;
   static Windows others;
   // Values set by a state are nobody's wish here.
-  windows.program.state.blnStartUpCompleted = false;
-  others.program.state.blnStartUpCompleted = false;
+  windows.program.BeginControls();
+  others.program.BeginControls();
   const std::string path = kPlace / "in.qlm";
   std::ofstream(path, std::ios::binary)
       << std::string_view(reinterpret_cast<const char*>(data), size);

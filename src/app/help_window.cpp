@@ -14,13 +14,12 @@ void HelpWindow::Connect() {
   frmHelp_.txbHelpScreen.SetText(HelpText());
   frmHelp_.cmdClose.Click.Connect([this] { Close(); });
   frmHelp_.CloseRequested.Connect([this] { Close(); });
-  MainForm& frmMain = context_.frmMain;
-  frmMain.cmdHelp.Click.Connect([this] { ShowHelp(); });
+  frmMain_.cmdHelp.Click.Connect([this] { ShowHelp(); });
   const auto onKey = [this](int keyCode) {
     if (keyCode == kF1) ShowHelp();
   };
   for (CommandButton* command :
-       {&frmMain.cmdHelp, &frmMain.cmdFile[0], &frmMain.cmdFile[1], &frmMain.cmdCountWords}) {
+       {&frmMain_.cmdHelp, &frmMain_.cmdFile[0], &frmMain_.cmdFile[1], &frmMain_.cmdCountWords}) {
     command->KeyDown.Connect(onKey);
   }
 }
@@ -34,7 +33,7 @@ void HelpWindow::ShowHelp() {
 
 void HelpWindow::Close() {
   frmHelp_.Hide();
-  SetTheFocus(context_.frmMain);
+  SetTheFocus(frmMain_);
 }
 
 }  // namespace quillomat

@@ -1,14 +1,15 @@
 // The help window, and what opens it: the Help command and F1.
 #pragma once
 
-#include "app/count/run_context.h"
 #include "ui/help_form.h"
+#include "ui/main_form.h"
 
 namespace quillomat {
 
 class HelpWindow {
  public:
-  HelpWindow(const RunContext& context, HelpForm& frmHelp) : context_(context), frmHelp_(frmHelp) {}
+  /// Both must outlive it.
+  HelpWindow(MainForm& frmMain, HelpForm& frmHelp) : frmMain_(frmMain), frmHelp_(frmHelp) {}
 
   /// Fills the window and connects its commands. Called once.
   void Connect();
@@ -19,7 +20,7 @@ class HelpWindow {
  private:
   void Close();
 
-  const RunContext& context_;
+  MainForm& frmMain_;
   HelpForm& frmHelp_;
 };
 

@@ -1,30 +1,38 @@
-// The main window: what its commands, boxes and labels do.
+// The main window: what its commands and labels do. Its rows for texts and paths are SourceRows.
 #pragma once
 
-#include <functional>
 #include <string>
-#include <vector>
 
 #include "app/count/count_run.h"
-#include "app/count/run_context.h"
+#include "app/count/run_state.h"
+#include "app/count/window_state.h"
+#include "app/list/output_box.h"
+#include "app/list/word_lister.h"
+#include "app/messages.h"
+#include "app/window_flags.h"
+#include "ui/desktop.h"
+#include "ui/main_form.h"
 
 namespace quillomat {
 
 class MainWindow {
  public:
-  MainWindow(const RunContext& context, CountRun& countRun)
-      : context_(context), countRun_(countRun) {}
+  /// All must outlive it.
+  MainWindow(MainForm& frmMain, OutputBox& output, const Messages& messages, const RunState& run,
+             const WindowControls& controls, const WordLister& lister, CountRun& countRun,
+             const WindowFlags& flags, Desktop& desktop)
+      : frmMain_(frmMain),
+        output_(output),
+        messages_(messages),
+        run_(run),
+        controls_(controls),
+        lister_(lister),
+        countRun_(countRun),
+        flags_(flags),
+        desktop_(desktop) {}
 
   /// Connects the window's controls with what they do. Called once.
   void Connect();
-
-  /// Makes a file or a folder the text to be counted, as when it is dropped on the window. A path
-  /// that is neither is taken for a file, and told of. Nothing happens while a run is at work.
-  void ChooseText(const std::string& path);
-
-  /// What was dropped on the window: one path is chosen (ChooseText); for several, or for none as
-  /// with a piece of text, the user is told what can be dropped.
-  void TakeDrop(const std::vector<std::string>& paths);
 
   /// What is said when something is not found in the output text box, which may hold but a part of
   /// the list.
@@ -34,26 +42,20 @@ class MainWindow {
   void FillListCombos();
 
  private:
-  void ConnectSource();
-  void ConnectFiles();
-  void ConnectFolder();
   void ConnectOutput();
   void ConnectNotices();
   void CopyOutputToClipboard();
   void OnSuppressWordsClick();
-  void SelectSourceOf(const TextBox& box, OptionButton& source);
-  void CheckFolder();
-  void LeaveExtensions(ExtensionList list);
-  /// After the click that is being carried out, if the program goes on then.
-  void AfterClick(const std::function<void()>& action);
-  [[nodiscard]] bool IsClickingForTheFolder() const;
-  void ChooseInputFile();
-  void ChooseOutputFile();
 
-  const RunContext& context_;
+  MainForm& frmMain_;
+  OutputBox& output_;
+  const Messages& messages_;
+  const RunState& run_;
+  const WindowControls& controls_;
+  const WordLister& lister_;
   CountRun& countRun_;
-  /// A source is being selected because its row is filled in by hand.
-  bool followingTheHand_ = false;
+  const WindowFlags& flags_;
+  Desktop& desktop_;
 };
 
 }  // namespace quillomat

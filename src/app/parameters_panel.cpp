@@ -29,7 +29,7 @@ void ParametersPanel::Connect(std::function<void()> initialize) {
 void ParametersPanel::ConnectParameters() {
   for (const Setting& setting : AllSettings()) {
     if (!IsParameter(setting) || setting.entails == Entails::kNothing) continue;
-    Control& control = ControlOf(setting, context_.frmMain, context_.frmParams);
+    Control& control = ControlOf(setting, frmMain_, frmParams_);
     if (setting.entails == Entails::kRescan) {
       ConnectScanningChoice(control);
     } else {
@@ -50,7 +50,7 @@ void ParametersPanel::ConnectScanningChoice(Control& control) {
   if (auto* box = control.As<TextBox>()) {
     box->LostFocus.Connect([this, box] {
       box->SetText(std::string(TrimBlanks(box->Text())));
-      context_.state.blnWordsGot = false;
+      words_.blnWordsGot = false;
     });
   }
 }
@@ -64,10 +64,10 @@ void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
   if (MayReadAnew()) return;
   // No unchecks the box, whichever way it was clicked; but for the accents, where it would count
   // other words than are shown.
-  const bool checked = &box == &context_.frmParams.chkFoldAccents && !box.IsChecked();
-  context_.state.blnInhibitPrompt = true;
+  const bool checked = &box == &frmParams_.chkFoldAccents && !box.IsChecked();
+  flags_.blnInhibitPrompt = true;
   box.SetChecked(checked);
-  context_.state.blnInhibitPrompt = false;
+  flags_.blnInhibitPrompt = false;
 }
 
 /// `before` is the item that was selected before.
@@ -76,55 +76,53 @@ void ParametersPanel::OnScanningComboClick(ComboBox& combo, int& before) {
     before = combo.ListIndex();
     return;
   }
-  context_.state.blnInhibitPrompt = true;
+  flags_.blnInhibitPrompt = true;
   combo.SetListIndex(before);
-  context_.state.blnInhibitPrompt = false;
+  flags_.blnInhibitPrompt = false;
 }
 
 /// Whether there is nothing to be read anew, or the user lets it be.
 bool ParametersPanel::MayReadAnew() {
-  CountState& state = context_.state;
-  if (!state.blnStartUpCompleted || state.blnInhibitPrompt || !state.blnWordsGot) return true;
-  if (state.Busy()) {
+  if (!flags_.blnStartUpCompleted || flags_.blnInhibitPrompt || !words_.blnWordsGot) return true;
+  if (run_.Busy()) {
     // The words are being listed: no time for questions, but the next count must know.
-    state.blnWordsGot = false;
+    words_.blnWordsGot = false;
     return true;
   }
   return ConfirmReRead();
 }
 
 bool ParametersPanel::ConfirmReRead() {
-  const MainForm& frmMain = context_.frmMain;
   std::string source = "clipboard";
-  if (frmMain.optInFile.Value()) source = "file";
-  if (frmMain.optFolder.Value()) source = "files";
-  const MessageAnswer answer = context_.desktop.ShowMessage(
-      {"Changing this entails reading the " + source + " anew.  Is this OK?",
-       context_.text.GetText(kProgramTitleText), MessageIcon::kQuestion, MessageButtons::kYesNo});
+  if (frmMain_.optInFile.Value()) source = "file";
+  if (frmMain_.optFolder.Value()) source = "files";
+  const MessageAnswer answer =
+      messages_.Ask("Changing this entails reading the " + source + " anew.  Is this OK?",
+                    messages_.ProgramTitle());
   if (answer != MessageAnswer::kYes) return false;
-  context_.state.blnWordsGot = false;
+  words_.blnWordsGot = false;
   return true;
 }
 
 void ParametersPanel::FocusClose() {
-  ParamsForm& panel = context_.frmParams;
-  if (context_.state.blnStartUpCompleted) panel.SetFocus(panel.cmdClose);
+  if (flags_.blnStartUpCompleted) frmParams_.SetFocus(frmParams_.cmdClose);
 }
 
 void ParametersPanel::ConnectWordLists() {
-  ParamsForm& panel = context_.frmParams;
   for (std::size_t i = 0; i < 2; ++i) {
     const auto kind = static_cast<WordListKind>(i);
-    panel.cmdSelectWordsFile[i].Click.Connect([this, kind] { wordLists_.SelectWordsFile(kind); });
-    panel.cmdClearWordsFile[i].Click.Connect([this, kind] { wordLists_.ClearWordsFile(kind); });
-    panel.txbWordsFile[i].LostFocus.Connect([this, kind] {
+    frmParams_.cmdSelectWordsFile[i].Click.Connect(
+        [this, kind] { wordLists_.SelectWordsFile(kind); });
+    frmParams_.cmdClearWordsFile[i].Click.Connect(
+        [this, kind] { wordLists_.ClearWordsFile(kind); });
+    frmParams_.txbWordsFile[i].LostFocus.Connect([this, kind] {
       AfterClickThatLeaves([this, kind] { wordLists_.OnWordsFileLostFocus(kind); });
     });
-    panel.txbWordsToIgnoreOrCount[i].LostFocus.Connect([this, kind] {
+    frmParams_.txbWordsToIgnoreOrCount[i].LostFocus.Connect([this, kind] {
       AfterClickThatLeaves([this, kind] { wordLists_.OnExtraWordsLostFocus(kind); });
     });
-    panel.cmdClearWordsToIgnoreOrCount[i].Click.Connect([this, kind, i] {
-      context_.frmParams.txbWordsToIgnoreOrCount[i].SetText("");
+    frmParams_.cmdClearWordsToIgnoreOrCount[i].Click.Connect([this, kind, i] {
+      frmParams_.txbWordsToIgnoreOrCount[i].SetText("");
       wordLists_.OnExtraWordsLostFocus(kind);
       Close();
     });
@@ -133,46 +131,52 @@ void ParametersPanel::ConnectWordLists() {
 
 /// The click may be what mends the box. Only a state is saved with what is in force.
 void ParametersPanel::AfterClickThatLeaves(const std::function<void()>& action) {
-  ParamsForm& panel = context_.frmParams;
-  if (panel.Focused() == &panel.cmdSaveLoadState[0]) return action();
-  panel.AfterClick(action);
+  if (frmParams_.Focused() == &frmParams_.cmdSaveLoadState[0]) return action();
+  frmParams_.AfterClick(action);
 }
 
 void ParametersPanel::ConnectCommands() {
-  ParamsForm& panel = context_.frmParams;
-  panel.cmdClearCheckboxes[0].Click.Connect([this] { SetAllCheckBoxes(CheckState::kUnchecked); });
-  panel.cmdClearCheckboxes[1].Click.Connect([this] { SetAllCheckBoxes(CheckState::kChecked); });
-  panel.cmdRestoreDefaults.Click.Connect([this] {
+  frmParams_.cmdClearCheckboxes[0].Click.Connect(
+      [this] { SetAllCheckBoxes(CheckState::kUnchecked); });
+  frmParams_.cmdClearCheckboxes[1].Click.Connect(
+      [this] { SetAllCheckBoxes(CheckState::kChecked); });
+  frmParams_.cmdRestoreDefaults.Click.Connect([this] {
     SetDefaultValues();
     FocusClose();
   });
-  panel.cmdInitialize.Click.Connect([this] {
+  frmParams_.cmdInitialize.Click.Connect([this] {
     initialize_();
-    context_.frmParams.lblState.SetCaption("Program reinitialized.");
+    frmParams_.lblState.SetCaption("Program reinitialized.");
   });
-  panel.cmdClose.Click.Connect([this] { Close(); });
-  panel.CloseRequested.Connect([this] { Close(); });
+  frmMain_.cmdSetParameters.Click.Connect([this] { Open(); });
+  frmParams_.cmdClose.Click.Connect([this] { Close(); });
+  frmParams_.CloseRequested.Connect([this] { Close(); });
+}
+
+void ParametersPanel::Open() {
+  frmParams_.SetState(WindowState::kNormal);  // it may be minimized
+  frmParams_.Show();
 }
 
 void ParametersPanel::Close() {
-  context_.frmParams.Hide();
-  SetTheFocus(context_.frmMain);
+  frmParams_.Hide();
+  SetTheFocus(frmMain_);
 }
 
 void ParametersPanel::SetAllCheckBoxes(CheckState state) const {
-  for (CheckBox* box : BoxesInClearingOrder(context_.frmParams)) box->SetValue(state);
+  for (CheckBox* box : BoxesInClearingOrder(frmParams_)) box->SetValue(state);
 }
 
 void ParametersPanel::SetDefaultValues() {
   SetDefaults(true);
-  context_.state.settings.SetCommentMarkers("C", ReadScanChoices(context_.frmParams));
+  inForce_.settings.SetCommentMarkers("C", ReadScanChoices(frmParams_));
   SetDefaults(false);
 }
 
 void ParametersPanel::SetDefaults(bool checkBoxes) const {
   for (const Setting& setting : AllSettings()) {
     if (!IsParameter(setting)) continue;
-    Control& control = ControlOf(setting, context_.frmMain, context_.frmParams);
+    Control& control = ControlOf(setting, frmMain_, frmParams_);
     if ((control.Kind() == ControlKind::kCheckBox) == checkBoxes) SetToDefault(setting, control);
   }
 }

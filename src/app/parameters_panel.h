@@ -3,15 +3,30 @@
 
 #include <functional>
 
-#include "app/count/run_context.h"
+#include "app/count/run_state.h"
 #include "app/count/word_list_reader.h"
+#include "app/list/current_words.h"
+#include "app/messages.h"
+#include "app/window_flags.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
 
 namespace quillomat {
 
 class ParametersPanel {
  public:
-  ParametersPanel(const RunContext& context, WordListReader& wordLists)
-      : context_(context), wordLists_(wordLists) {}
+  /// All must outlive it.
+  ParametersPanel(MainForm& frmMain, ParamsForm& frmParams, const Messages& messages,
+                  const RunState& run, CurrentWords& words, InForce& inForce, WindowFlags& flags,
+                  WordListReader& wordLists)
+      : frmMain_(frmMain),
+        frmParams_(frmParams),
+        messages_(messages),
+        run_(run),
+        words_(words),
+        inForce_(inForce),
+        flags_(flags),
+        wordLists_(wordLists) {}
 
   /// Connects the panel's controls with what they do. Called once. `initialize` puts the program
   /// into its initial state.
@@ -35,9 +50,16 @@ class ParametersPanel {
   /// Of the check boxes, or of all parameters that are none.
   void SetDefaults(bool checkBoxes) const;
   void FocusClose();
+  void Open();
   void Close();
 
-  const RunContext& context_;
+  MainForm& frmMain_;
+  ParamsForm& frmParams_;
+  const Messages& messages_;
+  const RunState& run_;
+  CurrentWords& words_;
+  InForce& inForce_;
+  WindowFlags& flags_;
   WordListReader& wordLists_;
   std::function<void()> initialize_;
 };

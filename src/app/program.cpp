@@ -50,65 +50,65 @@ void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
 }  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
-    : pump(desktop, std::move(clock)),
-      output(frmMain, desktop),
-      lister(frmMain, frmParams, desktop, pump, state, output),
-      context{frmMain, frmParams, desktop, pump, text, state, output, lister, becameIdle_},
-      wordLists(context),
-      countRun(context, wordLists),
-      savedState(context, countRun, wordLists),
-      mainWindow_(context, countRun),
-      panel_(context, wordLists),
-      help_(context, frmHelp) {
-  state.scanThreads = UsualScanThreads();
+    : desktop_(desktop), parts_(frmMain, frmParams, frmHelp, desktop, std::move(clock)) {
+  UseThreads(UsualScanThreads());
   Connect();
 }
 
 void Program::Connect() {
-  mainWindow_.Connect();
-  panel_.Connect([this] { Initialize(); });
-  help_.Connect();
-  savedState.Connect([this] { Initialize(); });
+  parts_.sources.Connect();
+  parts_.mainWindow.Connect();
+  parts_.panel.Connect([this] { Initialize(); });
+  parts_.help.Connect();
+  parts_.savedState.Connect([this] { Initialize(); });
   frmMain.cmdLanguage.Click.Connect([this] { ToggleLanguage(); });
   frmMain.cmdQuit.Click.Connect([this] { Quit(); });
   frmMain.CloseRequested.Connect([this] { Quit(); });
-  becameIdle_.Connect([this] {
-    if (state.quitting) return End();
-    if (output.IsEmpty()) ShowNoticeLabels(frmMain);  // a run has emptied it
+  parts_.run.BecameIdle.Connect([this] {
+    if (parts_.run.Quitting()) return End();
+    if (parts_.output.IsEmpty()) ShowNoticeLabels(frmMain);  // a run has emptied it
   });
 }
 
 bool Program::Start(const StartOptions& options) {
-  state.blnStartUpCompleted = false;
+  parts_.flags.blnStartUpCompleted = false;
   if (options.userSettings) {
     UseSettingsFolder();
-    text.SetLanguage(ReadLanguage(context.desktop.UserKeys()));
+    parts_.text.SetLanguage(ReadLanguage(desktop_.UserKeys()));
   }
-  if (!text.LoadProgramText(kProgramTextFile, context.desktop)) return false;
-  SetCaptions(text, frmMain, frmParams, frmHelp);
-  ShowCountCaption(context);
-  EnableControls(context, true);
+  if (!parts_.text.LoadProgramText(kProgramTextFile, desktop_)) return false;
+  SetCaptions(parts_.text, frmMain, frmParams, frmHelp);
+  parts_.controls.ShowCountCaption();
+  parts_.controls.EnableControls(true);
   FillLists();
   ConcealNumWords(frmMain, true);
   if (options.window) frmMain.Show();
-  EnableControls(context, true);
+  parts_.controls.EnableControls(true);
   Initialize();
   if (options.userSettings) RestoreUserSettings();
   if (ended_) return false;  // the user has closed the window meanwhile
-  EnableSourceControls(context);
+  parts_.controls.EnableSourceControls();
   if (options.window) MoveToRootFolder();
   SetTheFocus(frmMain);
-  state.blnStartUpCompleted = true;
+  parts_.flags.blnStartUpCompleted = true;
   return true;
 }
 
+void Program::BeginControls() {
+  parts_.flags.blnStartUpCompleted = false;
+}
+
+RestoreResult Program::TakeControls() {
+  parts_.flags.blnStartUpCompleted = true;
+  return parts_.savedState.TakeControlsAsTheyAre();
+}
+
 void Program::FillLists() {
-  wordLists.SetPathToCWDs_Eng();
-  mainWindow_.FillListCombos();
+  parts_.wordLists.SetPathToCWDs_Eng();
+  parts_.mainWindow.FillListCombos();
   frmParams.FillCombos();
-  SetItems(text, frmParams);
-  state.clipboardViewerPath = FindClipboardViewer();
-  frmMain.cmdClipboardViewer.SetEnabled(!state.clipboardViewerPath.empty());
+  SetItems(parts_.text, frmParams);
+  parts_.controls.SetClipboardViewer(FindClipboardViewer());
 }
 
 void Program::Initialize() {
@@ -116,66 +116,65 @@ void Program::Initialize() {
   frmMain.optFolder.SetValue(true);
   frmMain.lblFilesize.SetCaption("");
   frmMain.lblTwirler.SetCaption(" ");
-  state.settings.OpenComment = -1;
+  parts_.inForce.settings.OpenComment = -1;
   frmMain.txbFolder.SetText("");
   frmParams.txbStateFile.SetText("");
   for (std::size_t i = 0; i < 2; ++i) {
     frmMain.txbFile[i].SetText("");
     frmMain.txbFileExtensions[i].SetText("");
-    wordLists.ClearWordsFile(static_cast<WordListKind>(i));
+    parts_.wordLists.ClearWordsFile(static_cast<WordListKind>(i));
     frmParams.txbWordsToIgnoreOrCount[i].SetText("");
-    wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
+    parts_.wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
-  countRun.Extensions().OnRestored();
-  panel_.SetDefaultValues();
+  parts_.countRun.Extensions().OnRestored();
+  parts_.panel.SetDefaultValues();
   SetMainWindowsDefaults(ControlKind::kCheckBox, frmMain, frmParams);
-  state.displayingWords = false;
+  parts_.output.SetDisplayingWords(false);
   SetMainWindowsDefaults(ControlKind::kComboBox, frmMain, frmParams);
 }
 
 /// What was counted, and what is shown of it, so that nothing old is ever listed again.
 void Program::ForgetWords() {
-  state.DiscardWords();
-  state.filesScanned = 0;
-  state.foldersScanned = 0;
-  output.ClearOutput();
+  parts_.words.Discard();
+  parts_.words.folder = {};
+  parts_.output.ClearOutput();
   ConcealNumWords(frmMain, true);
 }
 
 void Program::UseSettingsFolder() {
-  savedState.SetSettingsFilePath(SettingsFilePath(kSettingsFile, std::string(kSettingsFolderName)));
+  parts_.savedState.SetSettingsFilePath(
+      SettingsFilePath(kSettingsFile, std::string(kSettingsFolderName)));
 }
 
 void Program::RestoreUserSettings() {
-  const RestoreResult result = savedState.RestoreSavedState("");
+  const RestoreResult result = parts_.savedState.RestoreSavedState("");
   if (result != RestoreResult::kInvalidIndex && result != RestoreResult::kError) return;
-  Refuse(context,
-         result == RestoreResult::kInvalidIndex || savedState.IndexWasOutOfRange()
-             ? "Invalid combo box index when attempting to load previous state."
-             : "Error when attempting to load previous state: " + savedState.ErrorDescription(),
-         "Load state");
+  parts_.messages.Refuse(
+      result == RestoreResult::kInvalidIndex || parts_.savedState.IndexWasOutOfRange()
+          ? "Invalid combo box index when attempting to load previous state."
+          : "Error when attempting to load previous state: " + parts_.savedState.ErrorDescription(),
+      "Load state");
   Initialize();
 }
 
 void Program::ToggleLanguage() {
-  text.ToggleLanguage(context.desktop.UserKeys());
-  SetCaptions(text, frmMain, frmParams, frmHelp);
-  ShowCountCaption(context);
+  parts_.text.ToggleLanguage(desktop_.UserKeys());
+  SetCaptions(parts_.text, frmMain, frmParams, frmHelp);
+  parts_.controls.ShowCountCaption();
 }
 
 void Program::Quit() {
   if (ended_) return;
-  state.quitting = true;
-  if (!state.Busy()) return End();
-  state.StopRequested = true;
+  parts_.run.RequestQuit();
+  if (!parts_.run.Busy()) End();
 }
 
 void Program::End() {
   if (ended_) return;
   ended_ = true;
   if (frmParams.chkSaveStateOnQuit.IsChecked()) {
-    const std::string error = savedState.SaveState("");
-    if (!error.empty()) Refuse(context, error, "Error");
+    const std::string error = parts_.savedState.SaveState("");
+    if (!error.empty()) parts_.messages.Refuse(error, "Error");
   }
   Ended.Fire();
 }

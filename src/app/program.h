@@ -3,19 +3,11 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <string>
-#include <vector>
+#include <utility>
 
-#include "app/count/count_run.h"
-#include "app/count/count_state.h"
-#include "app/count/run_context.h"
-#include "app/count/word_list_reader.h"
-#include "app/help_window.h"
-#include "app/list/output_box.h"
-#include "app/list/word_lister.h"
-#include "app/main_window.h"
-#include "app/parameters_panel.h"
-#include "app/saved_state.h"
+#include "app/program_parts.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 #include "ui/event.h"
@@ -44,23 +36,13 @@ class Program {
   /// has closed the window already (HasEnded).
   [[nodiscard]] bool Start(const StartOptions& options = {});
 
+  /// A face fills the controls itself: from now on their handlers do nothing.
+  void BeginControls();
+  /// It has filled them: what hangs on them is worked out, and the handlers act again.
+  RestoreResult TakeControls();
+
   /// Puts the windows into their initial, empty state with default parameters.
   void Initialize();
-
-  /// Makes a file or a folder the text to be counted, as when it is dropped on the main window.
-  void ChooseText(const std::string& path) { mainWindow_.ChooseText(path); }
-
-  /// Takes what was dropped on the main window; no path at all stands for anything but files.
-  void TakeDrop(const std::vector<std::string>& paths) { mainWindow_.TakeDrop(paths); }
-
-  /// What is said when a word is not found in the output text box.
-  [[nodiscard]] std::string NotFoundText() const { return mainWindow_.NotFoundText(); }
-
-  /// From now on the empty path of a state file means the one in the user's settings folder.
-  void UseSettingsFolder();
-
-  /// Restores the user's settings; a file that cannot be used is told of and has no effect.
-  void RestoreUserSettings();
 
   /// Saves the settings if the user wants that, and fires Ended. A run that is at work is stopped
   /// first, and Ended is fired when it has come to its end.
@@ -74,30 +56,49 @@ class Program {
   ParamsForm frmParams;
   HelpForm frmHelp;
 
- private:
-  Event<> becameIdle_;
+  // What it is doing, and the words that it has counted.
+  [[nodiscard]] const RunState& State() const { return parts_.run; }
+  [[nodiscard]] const CurrentWords& Words() const { return parts_.words; }
+  [[nodiscard]] const InForce& Settings() const { return parts_.inForce; }
+  [[nodiscard]] const WindowFlags& Flags() const { return parts_.flags; }
+  [[nodiscard]] const OutputBox& Output() const { return parts_.output; }
+  [[nodiscard]] const ProgramText& Text() const { return parts_.text; }
 
- public:
-  CountState state;
-  EventPump pump;
-  ProgramText text;
-  OutputBox output;
-  WordLister lister;
-  RunContext context;
-  WordListReader wordLists;
-  CountRun countRun;
-  SavedState savedState;
+  // What a face has done besides clicks and keys on the controls.
+  [[nodiscard]] SourceRows& Sources() { return parts_.sources; }
+  [[nodiscard]] CountRun& Count() { return parts_.countRun; }
+  [[nodiscard]] WordLister& Lister() { return parts_.lister; }
+  [[nodiscard]] SavedState& States() { return parts_.savedState; }
+  /// Where the user was last, which a face may keep from one run to the next.
+  [[nodiscard]] PathBoxes& Paths() { return parts_.paths; }
+
+  /// What stands between groups of three digits in the user's locale.
+  [[nodiscard]] std::string DigitGroupSeparator() const {
+    return parts_.messages.DigitGroupSeparator();
+  }
+
+  /// What is said when a word is not found in the output text box.
+  [[nodiscard]] std::string NotFoundText() const { return parts_.mainWindow.NotFoundText(); }
+
+  /// From now on the empty path of a state file means the one in the user's settings folder.
+  void UseSettingsFolder();
+  /// How many threads may scan a large text at the same time.
+  void UseThreads(std::size_t threads) { parts_.inForce.scanThreads = threads; }
+  /// The text on the clipboard is that of a file, which must not be written.
+  void SetClipboardFile(std::string path) {
+    parts_.inForce.filesRead.clipboardText = std::move(path);
+  }
 
  private:
   void Connect();
   void ForgetWords();
   void FillLists();
+  void RestoreUserSettings();
   void ToggleLanguage();
   void End();
 
-  MainWindow mainWindow_;
-  ParametersPanel panel_;
-  HelpWindow help_;
+  Desktop& desktop_;
+  ProgramParts parts_;
   bool ended_ = false;
 };
 

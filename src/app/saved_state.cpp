@@ -22,17 +22,17 @@ constexpr std::string_view kStateFilter = "QLM state files (*.qlm) | *.qlm";
 /// While it lives, the panel does not ask whether the text may be read anew.
 class PromptsInhibited {
  public:
-  explicit PromptsInhibited(CountState& state) : state_(state), before_(state.blnInhibitPrompt) {
-    state_.blnInhibitPrompt = true;
+  explicit PromptsInhibited(WindowFlags& flags) : flags_(flags), before_(flags.blnInhibitPrompt) {
+    flags_.blnInhibitPrompt = true;
   }
   PromptsInhibited(const PromptsInhibited&) = delete;
   PromptsInhibited& operator=(const PromptsInhibited&) = delete;
   PromptsInhibited(PromptsInhibited&&) = delete;
   PromptsInhibited& operator=(PromptsInhibited&&) = delete;
-  ~PromptsInhibited() { state_.blnInhibitPrompt = before_; }
+  ~PromptsInhibited() { flags_.blnInhibitPrompt = before_; }
 
  private:
-  CountState& state_;
+  WindowFlags& flags_;
   bool before_;
 };
 
@@ -40,9 +40,9 @@ class PromptsInhibited {
 
 void SavedState::Connect(std::function<void()> initialize) {
   initialize_ = std::move(initialize);
-  context_.frmMain.cmdSaveState.Click.Connect([this] { OnSaveToSettingsFile(); });
-  context_.frmParams.cmdSaveLoadState[0].Click.Connect([this] { OnSaveToFile(); });
-  context_.frmParams.cmdSaveLoadState[1].Click.Connect([this] { OnLoadFromFile(); });
+  count_.frmMain.cmdSaveState.Click.Connect([this] { OnSaveToSettingsFile(); });
+  frmParams_.cmdSaveLoadState[0].Click.Connect([this] { OnSaveToFile(); });
+  frmParams_.cmdSaveLoadState[1].Click.Connect([this] { OnLoadFromFile(); });
 }
 
 std::string SavedState::SaveState(const std::string& path) {
@@ -50,7 +50,7 @@ std::string SavedState::SaveState(const std::string& path) {
     return "Error when attempting to save state: " + refusal;
   }
   try {
-    WriteStateFile(PathOrSettings(path), context_.frmMain, context_.frmParams);
+    WriteStateFile(PathOrSettings(path), count_.frmMain, frmParams_);
     return {};
   } catch (const RunTimeError& error) {
     return "Error when attempting to save state: " + error.Description();
@@ -64,10 +64,9 @@ std::string SavedState::SaveState(const std::string& path) {
 /// date.
 std::string SavedState::WhyNotToSaveTo(const std::string& path) const {
   if (path.empty()) return {};  // the settings file, which is nobody's text
-  const CountState& state = context_.state;
-  std::optional<NeededAs> neededAs = WhyNotToWrite(path, state.counted);
-  if (!neededAs) neededAs = WhyNotToWrite(path, TextNamedIn(context_.frmMain));
-  if (!neededAs) neededAs = WhyNotToWrite(path, state.filesRead);
+  std::optional<NeededAs> neededAs = WhyNotToWrite(path, count_.words.counted);
+  if (!neededAs) neededAs = WhyNotToWrite(path, TextNamedIn(count_.frmMain));
+  if (!neededAs) neededAs = WhyNotToWrite(path, count_.inForce.filesRead);
   if (!neededAs || *neededAs == NeededAs::kState) return {};
   if (*neededAs == NeededAs::kText) return "the file is the text that is counted.";
   if (*neededAs == NeededAs::kWordsFile) return "the file is a words file.";
@@ -77,13 +76,13 @@ std::string SavedState::WhyNotToSaveTo(const std::string& path) const {
 RestoreResult SavedState::ReadControls(const std::string& path) {
   const std::string& stateFile = PathOrSettings(path);
   if (!FileExists(stateFile)) return RestoreResult::kNoFile;
-  context_.state.blnWordsGot = false;  // even if only some of the controls get their values
+  count_.words.blnWordsGot = false;  // even if only some of the controls get their values
   indexOutOfRange_ = false;
   try {
-    const PhaseGuard guard(
-        context_, RunPhase::kReading);  // no handler lists words while the controls are being set
-    ReadStateFile(stateFile, context_.frmMain, context_.frmParams);
-    context_.state.filesRead.state = AbsolutePath(stateFile);
+    // No handler lists words while the controls are being set.
+    const PhaseGuard guard(count_.run, RunPhase::kReading);
+    ReadStateFile(stateFile, count_.frmMain, frmParams_);
+    count_.inForce.filesRead.state = AbsolutePath(stateFile);
     return RestoreResult::kRestored;
   } catch (const RunTimeError& error) {
     indexOutOfRange_ = dynamic_cast<const ListIndexOutOfRange*>(&error) != nullptr;
@@ -101,19 +100,18 @@ RestoreResult SavedState::RestoreSavedState(const std::string& path) {
 }
 
 RestoreResult SavedState::TakeControlsAsTheyAre() {
-  const bool listStood = countRun_.ListStands();
+  const bool listStood = count_.words.CanBeListed();
   TakeTypedLists();
   RestoreResult result =
       AnyComboWithoutItem() ? RestoreResult::kInvalidIndex : RestoreResult::kRestored;
-  const std::string& inputPath = context_.frmMain.txbFile[0].Text();
-  if (!inputPath.empty()) countRun_.File().CheckInputFile(inputPath);
-  context_.frmMain.txbFolder.LostFocus.Fire();
+  const std::string& inputPath = count_.frmMain.txbFile[0].Text();
+  if (!inputPath.empty()) inputRow_.CheckInputFile(inputPath);
+  count_.frmMain.txbFolder.LostFocus.Fire();
   for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
-    if (context_.state.quitting) break;
+    if (count_.run.Quitting()) break;
     // Words of the state before would go on to count, although another file is named now.
     wordLists_.ForgetWordsOfFile(kind);
-    const bool named =
-        !context_.frmParams.txbWordsFile[static_cast<std::size_t>(kind)].Text().empty();
+    const bool named = !frmParams_.txbWordsFile[static_cast<std::size_t>(kind)].Text().empty();
     if (named && !wordLists_.AttemptToReadWords(kind)) result = RestoreResult::kWordsFileFailed;
   }
   if (result != RestoreResult::kInvalidIndex) countRun_.OnRestored(listStood);
@@ -121,23 +119,22 @@ RestoreResult SavedState::TakeControlsAsTheyAre() {
 }
 
 void SavedState::TakeTypedLists() {
-  ParamsForm& frmParams = context_.frmParams;
   countRun_.Extensions().OnRestored();
   for (std::size_t i = 0; i < 2; ++i) {
     wordLists_.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
-    const bool startless = frmParams.txbStartComment[i].Text().empty();
-    if (startless) frmParams.txbEndComment[i].SetText("");
+    const bool startless = frmParams_.txbStartComment[i].Text().empty();
+    if (startless) frmParams_.txbEndComment[i].SetText("");
   }
-  if (frmParams.txbStartComment[0].Text().empty() && frmParams.txbStartComment[1].Text().empty()) {
-    frmParams.chkAllowCommentMarkers.SetChecked(false);
+  if (frmParams_.txbStartComment[0].Text().empty() &&
+      frmParams_.txbStartComment[1].Text().empty()) {
+    frmParams_.chkAllowCommentMarkers.SetChecked(false);
   }
 }
 
 bool SavedState::AnyComboWithoutItem() const {
   const std::array<const ComboBox*, 5> combos = {
-      &context_.frmParams.cboShortWordSize, &context_.frmParams.cboLongWordSize,
-      &context_.frmParams.cboThresholdFrequency, &context_.frmMain.cboWordOrder,
-      &context_.frmMain.cboDisplayFormat};
+      &frmParams_.cboShortWordSize, &frmParams_.cboLongWordSize, &frmParams_.cboThresholdFrequency,
+      &count_.frmMain.cboWordOrder, &count_.frmMain.cboDisplayFormat};
   return std::any_of(combos.begin(), combos.end(),
                      [](const ComboBox* combo) { return combo->ListIndex() == -1; });
 }
@@ -146,11 +143,11 @@ void SavedState::OnSaveToSettingsFile() {
   const std::string title = "Save state";
   const std::string error = SaveState("");
   if (error.empty()) {
-    Tell(context_, "State saved.", title, MessageIcon::kInformation);
+    count_.messages.Tell("State saved.", title);
   } else {
-    Refuse(context_, error, title);
+    count_.messages.Refuse(error, title);
   }
-  SetTheFocus(context_.frmMain);
+  SetTheFocus(count_.frmMain);
 }
 
 void SavedState::OnSaveToFile() {
@@ -162,17 +159,16 @@ void SavedState::OnSaveToFile() {
   dialog.hideReadOnly = true;
   dialog.pathMustExist = true;
   dialog.noReadOnlyReturn = true;
-  ParamsForm& frmParams = context_.frmParams;
-  const auto path = ChooseFileFor(frmParams.txbStateFile, dialog, context_);
+  const auto path = paths_.ChooseFileFor(frmParams_.txbStateFile, dialog);
   if (!path) return;
-  frmParams.lblState.SetCaption("");
-  frmParams.txbStateFile.SetText(*path);
+  frmParams_.lblState.SetCaption("");
+  frmParams_.txbStateFile.SetText(*path);
   const std::string error = SaveState(*path);
   if (error.empty()) {
-    frmParams.lblState.SetCaption("State saved to");
+    frmParams_.lblState.SetCaption("State saved to");
   } else {
-    Refuse(context_, error, "Save state");
-    frmParams.lblState.SetCaption("Error saving to");
+    count_.messages.Refuse(error, "Save state");
+    frmParams_.lblState.SetCaption("Error saving to");
   }
 }
 
@@ -183,28 +179,27 @@ void SavedState::OnLoadFromFile() {
   dialog.hideReadOnly = true;
   dialog.pathMustExist = true;
   dialog.fileMustExist = true;
-  ParamsForm& frmParams = context_.frmParams;
-  const auto path = ChooseFileFor(frmParams.txbStateFile, dialog, context_);
+  const auto path = paths_.ChooseFileFor(frmParams_.txbStateFile, dialog);
   if (!path) return;
-  frmParams.lblState.SetCaption("");
-  frmParams.txbStateFile.SetText(*path);
+  frmParams_.lblState.SetCaption("");
+  frmParams_.txbStateFile.SetText(*path);
   RestoreResult result = RestoreResult::kError;
   {
-    const PromptsInhibited inhibited(context_.state);
+    const PromptsInhibited inhibited(flags_);
     result = RestoreSavedState(*path);
   }
   if (result < RestoreResult::kInvalidIndex) {
-    frmParams.lblState.SetCaption("State loaded from");
+    frmParams_.lblState.SetCaption("State loaded from");
     return;
   }
   if (result != RestoreResult::kWordsFileFailed) {
     const std::string message = result == RestoreResult::kInvalidIndex
                                     ? std::string("Invalid combo box index.")
                                     : "Error when attempting to load state: " + errorDescription_;
-    Refuse(context_, message, "Load state");
+    count_.messages.Refuse(message, "Load state");
     initialize_();
   }
-  frmParams.lblState.SetCaption("Error loading from");
+  frmParams_.lblState.SetCaption("Error loading from");
 }
 
 }  // namespace quillomat

@@ -5,8 +5,11 @@
 #include <string>
 
 #include "app/count/count_run.h"
-#include "app/count/run_context.h"
+#include "app/count/input_file_row.h"
+#include "app/count/path_boxes.h"
+#include "app/count/window_count.h"
 #include "app/count/word_list_reader.h"
+#include "app/window_flags.h"
 
 namespace quillomat {
 
@@ -22,8 +25,17 @@ enum class RestoreResult {
 
 class SavedState {
  public:
-  SavedState(const RunContext& context, CountRun& countRun, WordListReader& wordLists)
-      : context_(context), countRun_(countRun), wordLists_(wordLists) {}
+  /// All must outlive it.
+  SavedState(const WindowCount& count, ParamsForm& frmParams, WindowFlags& flags,
+             InputFileRow& inputRow, PathBoxes& paths, CountRun& countRun,
+             WordListReader& wordLists)
+      : count_(count),
+        frmParams_(frmParams),
+        flags_(flags),
+        inputRow_(inputRow),
+        paths_(paths),
+        countRun_(countRun),
+        wordLists_(wordLists) {}
 
   /// Connects the commands that save and load. `initialize` puts the program into its initial
   /// state.
@@ -60,7 +72,11 @@ class SavedState {
     return path.empty() ? settingsFilePath_ : path;
   }
 
-  const RunContext& context_;
+  const WindowCount& count_;
+  ParamsForm& frmParams_;
+  WindowFlags& flags_;
+  InputFileRow& inputRow_;
+  PathBoxes& paths_;
   CountRun& countRun_;
   WordListReader& wordLists_;
   std::function<void()> initialize_;

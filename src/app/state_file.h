@@ -18,9 +18,10 @@
 #include <string>
 #include <variant>
 
-#include "app/count/run_context.h"
 #include "app/settings_table.h"
 #include "base/run_time_error.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
 
 namespace quillomat {
 

@@ -4,11 +4,8 @@
 #include <ostream>
 #include <utility>
 
-#include "app/count/comment_marker_check.h"
 #include "app/count/file_source.h"
 #include "app/count/folder_observer.h"
-#include "app/count/window_count.h"
-#include "app/list/summary.h"
 #include "cli/standard_output.h"
 #include "listing/display_format.h"
 #include "sources/counter.h"
@@ -42,11 +39,13 @@ std::string ReasonNotCounted(Refusal reason, const std::optional<RunTimeError>& 
 }  // namespace
 
 bool DirectCount::Run() {
-  if (!Prepare()) return false;
+  const bool subfolders = program_.frmMain.chkIncludeSubfolders.IsChecked();
+  const CountedText text = input_.AsText(subfolders);
+  if (!program_.Count().Prepare(text)) return false;
   CountWatch watch(streams_, ProgressWanted(), input_);
   if (input_.kind == Kind::kFolder) {
     watch.SetQuestion([this](std::int32_t files) {
-      return AskAboutManyFiles(program_.context, files, program_.frmMain.txbFile[1].Text());
+      return AskAboutManyFiles(messages_, files, program_.frmMain.txbFile[1].Text());
     });
   }
   const CountRequest request = Request(watch);
@@ -59,23 +58,12 @@ bool DirectCount::Run() {
                  << "the list is of what was counted until then\n";
   }
   result.Rank(request.filters);
-  Take(std::move(result));
+  program_.Count().Take(std::move(result), text);
   return true;
 }
 
-/// As the window does before a count.
-bool DirectCount::Prepare() {
-  if (!program_.wordLists.TakeBoxes()) return false;
-  const bool subfolders = program_.frmMain.chkIncludeSubfolders.IsChecked();
-  if (!program_.lister.MayWriteOutputFile(input_.AsText(subfolders))) return false;
-  const bool markers = program_.frmParams.chkAllowCommentMarkers.IsChecked();
-  if (markers && !CheckCommentMarkers(program_.context)) return false;
-  FileExtensions& extensions = program_.countRun.Extensions();
-  return extensions.TakeBoxes() && extensions.CheckFileExtensions();
-}
-
 CountRequest DirectCount::Request(CountWatch& watch) {
-  CountRequest request = RequestFromControls(program_.context, Source(watch));
+  CountRequest request = program_.Count().Request(Source(watch));
   if (input_.kind == Kind::kFolder) request.countingPass = CountingPass::kFiles;
   const bool progress = ProgressWanted() != CountWatch::Progress::kNever;
   if (progress && SizeCanBeKnown()) request.countingPass = CountingPass::kFilesAndBytes;
@@ -91,7 +79,7 @@ CountSource DirectCount::Source(CountWatch& watch) {
   if (readsInput) standardInput_ = streams_.openInput(watch);
   const std::string& path = input_.paths.front();
   const bool subfolders = program_.frmMain.chkIncludeSubfolders.IsChecked();
-  const ExtensionFilter& extensions = program_.countRun.Extensions().Filter();
+  const ExtensionFilter& extensions = program_.Count().Extensions().Filter();
   switch (input_.kind) {
     case Kind::kFolder:
       return TextOfFolder{path, subfolders, extensions};
@@ -141,9 +129,9 @@ bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {
       return Refuse(result.refusal, result.error);
     case CountEnd::kFailed:
       if (IsOutOfMemory(*result.error)) {
-        program_.lister.ReportOutOfMemory(input_.Name());
+        program_.Lister().ReportOutOfMemory(input_.Name());
       } else {
-        program_.lister.ReportProblem(result.error->Number(), result.error->Description());
+        program_.Lister().ReportProblem(result.error->Number(), result.error->Description());
       }
       return false;
     case CountEnd::kStoppedCounting:
@@ -166,7 +154,7 @@ bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {
 /// False, since there are no words.
 bool DirectCount::Refuse(Refusal reason, const std::optional<RunTimeError>& error) {
   if (reason == Refusal::kNotText) {
-    TellNotText(program_.context);
+    TellNotText(messages_);
   } else if (reason != Refusal::kDeclined) {
     fault_ = input_.Name() + " " + ReasonNotCounted(reason, error);
   }
@@ -175,27 +163,10 @@ bool DirectCount::Refuse(Refusal reason, const std::optional<RunTimeError>& erro
 
 std::string DirectCount::NoFilesText() const {
   std::string text = "no scanable files ";
-  if (program_.countRun.Extensions().Filter().AnyGiven()) text.append("of the specified type ");
+  if (program_.Count().Extensions().Filter().AnyGiven()) text.append("of the specified type ");
   text.append("were found in ").append(input_.Name());
   if (program_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
   return text;
-}
-
-void DirectCount::Take(CountResult result) const {
-  CountState& state = program_.state;
-  state.DiscardWords();
-  state.counted = input_.AsText(program_.frmMain.chkIncludeSubfolders.IsChecked());
-  state.counted.filesRead = std::move(result.filesRead);
-  state.store = std::move(result.store);
-  state.totals = result.totals;
-  state.ranking = std::move(result.ranking);
-  state.WordsRead = result.wordsRead;
-  state.settings.CountOnlyMode = result.countOnlyMode;
-  state.filesScanned = result.files;
-  state.foldersScanned = result.folders;
-  state.completeRun = result.end == CountEnd::kComplete;
-  state.listAfterStop = !state.completeRun;
-  ShowSummary(program_.frmMain, state, program_.context.desktop.DigitGroupSeparator());
 }
 
 }  // namespace quillomat

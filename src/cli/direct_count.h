@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "app/messages.h"
 #include "app/program.h"
 #include "cli/command_line.h"
 #include "cli/count_watch.h"
@@ -20,9 +21,13 @@ namespace quillomat {
 class DirectCount {
  public:
   /// All must outlive it. The input is none for the clipboard, and has stood FindInputFault.
-  DirectCount(Program& program, const CommandLine& options, const InputChoice& input,
-              const TerminalStreams& streams)
-      : program_(program), options_(options), input_(input), streams_(streams) {}
+  DirectCount(Program& program, const Messages& messages, const CommandLine& options,
+              const InputChoice& input, const TerminalStreams& streams)
+      : program_(program),
+        messages_(messages),
+        options_(options),
+        input_(input),
+        streams_(streams) {}
 
   /// False when there are no words to be listed.
   [[nodiscard]] bool Run();
@@ -31,7 +36,6 @@ class DirectCount {
   [[nodiscard]] const std::string& Fault() const { return fault_; }
 
  private:
-  [[nodiscard]] bool Prepare();
   [[nodiscard]] CountRequest Request(CountWatch& watch);
   [[nodiscard]] CountSource Source(CountWatch& watch);
   [[nodiscard]] bool SizeCanBeKnown() const;
@@ -40,9 +44,9 @@ class DirectCount {
   [[nodiscard]] bool HasWords(const CountResult& result, const CountWatch& watch);
   [[nodiscard]] bool Refuse(Refusal reason, const std::optional<RunTimeError>& error);
   [[nodiscard]] std::string NoFilesText() const;
-  void Take(CountResult result) const;
 
   Program& program_;
+  const Messages& messages_;
   const CommandLine& options_;
   const InputChoice& input_;
   const TerminalStreams& streams_;

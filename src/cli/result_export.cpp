@@ -44,14 +44,14 @@ std::vector<ExportFact> SettingsOf(const Program& program) {
   return facts;
 }
 
-std::vector<ExportFact> TotalsOf(const CountState& state) {
-  std::vector<ExportFact> facts = {{"words", std::int64_t{state.totals.NumIncludedWords}},
-                                   {"words-excluded", std::int64_t{state.totals.NumExcludedWords}},
-                                   {"instances", std::int64_t{state.totals.TotalIncludedCount}},
-                                   {"instances-of-all-words", std::int64_t{state.WordsRead}}};
-  if (state.filesScanned > 0) {
-    facts.push_back({"files", std::int64_t{state.filesScanned}});
-    facts.push_back({"folders", std::int64_t{state.foldersScanned}});
+std::vector<ExportFact> TotalsOf(const CurrentWords& words) {
+  std::vector<ExportFact> facts = {{"words", std::int64_t{words.totals.NumIncludedWords}},
+                                   {"words-excluded", std::int64_t{words.totals.NumExcludedWords}},
+                                   {"instances", std::int64_t{words.totals.TotalIncludedCount}},
+                                   {"instances-of-all-words", std::int64_t{words.WordsRead}}};
+  if (words.folder.filesScanned > 0) {
+    facts.push_back({"files", std::int64_t{words.folder.filesScanned}});
+    facts.push_back({"folders", std::int64_t{words.folder.foldersScanned}});
   }
   return facts;
 }
@@ -70,8 +70,8 @@ std::vector<std::int32_t> PlacesOf(const Program& program, const WordTable& word
 
 /// Why the file may not be written, or nothing.
 std::optional<std::string> FindFileFault(const Program& program, const std::string& path) {
-  const CountState& state = program.state;
-  if (WhyNotToWrite(path, state.counted) || WhyNotToWrite(path, state.filesRead)) {
+  if (WhyNotToWrite(path, program.Words().counted) ||
+      WhyNotToWrite(path, program.Settings().filesRead)) {
     return "is read by this count; it is not overwritten";
   }
   const bool exists = FileExists(path) && FileLength(path).has_value();
@@ -97,13 +97,14 @@ std::optional<std::string> ExportInto(const std::string& path, const Program& pr
 }  // namespace
 
 std::optional<std::string> ExportResult(const Program& program, const CommandLine& options) {
-  const WordTable words(program.state.Counted(), program.state.WordsRead);
+  const WordTable words(program.Words().Counted(), program.Words().WordsRead);
   const std::vector<WordColumn> columns = ExportColumns(options, words.KnowsFiles());
   if (NeedsFiles(columns) && !words.KnowsFiles()) {
     return "--columns: in which files a word occurs is known of folders with count-only words only";
   }
   const std::vector<std::int32_t> places = PlacesOf(program, words, options);
-  const ExportTable table{words, places, columns, TotalsOf(program.state), {}, SettingsOf(program)};
+  const ExportTable table{
+      words, places, columns, TotalsOf(program.Words()), {}, SettingsOf(program)};
   for (const std::string& path : options.exports) {
     if (const auto fault = ExportInto(path, program, table)) return path + " " + *fault;
   }

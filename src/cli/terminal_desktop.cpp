@@ -31,11 +31,6 @@ MessageAnswer AnswerOfWord(const std::string& word, MessageButtons buttons) {
   return AnswerByRule(buttons);
 }
 
-/// Boxes that look like refusals, but stop nothing.
-bool IsAdvice(const std::string& title) {
-  return title == "Warning" || title == "No doc files";
-}
-
 }  // namespace
 
 TerminalDesktop::TerminalDesktop(std::ostream& err, Answers answers)
@@ -52,17 +47,18 @@ void TerminalDesktop::PrintMessage(const MessageBox& box) {
   const std::string head = (box.title.empty() ? "Quillomat" : box.title) + ": ";
   const std::string text = OnOneLine(box.text) + '\n';
   if (!printed_.insert(head + text).second) return;
-  if (box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical) {
-    err_ << Headed{IsAdvice(box.title) ? MessageTone::kWarning : MessageTone::kError, head} << text;
+  if (box.severity == MessageSeverity::kError) {
+    err_ << Headed{MessageTone::kError, head} << text;
+  } else if (box.severity == MessageSeverity::kWarning) {
+    err_ << Headed{MessageTone::kWarning, head} << text;
   } else {
     err_ << head << text;
   }
 }
 
 MessageAnswer TerminalDesktop::ShowMessage(const MessageBox& box) {
-  const bool question = box.buttons != MessageButtons::kOk;
-  const bool refusal = box.icon == MessageIcon::kExclamation || box.icon == MessageIcon::kCritical;
-  if (refusal && !question && !IsAdvice(box.title)) problemShown_ = true;
+  const bool question = box.severity == MessageSeverity::kQuestion;
+  if (box.severity == MessageSeverity::kError) problemShown_ = true;
   const std::optional<std::string> word = AnswerTo(box.title);
   if (!question) PrintMessage(box);
   if (!word) return AnswerByRule(box.buttons);

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
 #include "base/letter_case.h"
@@ -40,8 +41,8 @@ class TerminalRun {
 
   int Run() {
     if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
-    if (options_.threads) program_.state.scanThreads = *options_.threads;
-    program_.state.blnStartUpCompleted = false;  // no handler shall act before all is set
+    if (options_.threads) program_.UseThreads(*options_.threads);
+    program_.BeginControls();
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
     if (!CheckInput()) return kRunFailed;
@@ -64,13 +65,13 @@ class TerminalRun {
     if (!options_.state && !options_.userSettings) return true;
     if (options_.userSettings) program_.UseSettingsFolder();
     const std::string path = options_.state.value_or("");
-    switch (program_.savedState.ReadControls(path)) {
+    switch (program_.States().ReadControls(path)) {
       case RestoreResult::kNoFile:
         // Whoever has never saved settings has those of a first start.
         return options_.userSettings || Fail(path + " does not exist; check the path");
       case RestoreResult::kError:
         return Fail((path.empty() ? std::string("the user's settings") : path) +
-                    " cannot be used as a state: " + program_.savedState.ErrorDescription());
+                    " cannot be used as a state: " + program_.States().ErrorDescription());
       default:
         return true;
     }
@@ -84,10 +85,10 @@ class TerminalRun {
     if (holdsSomething && !IsStateFile(path, program_.frmMain, program_.frmParams)) {
       return Fail(path + " exists and is no state; it is not overwritten by --save-state");
     }
-    if (IsSameFile(path, program_.state.filesRead.state)) {
+    if (IsSameFile(path, program_.Settings().filesRead.state)) {
       return Fail(path + " is the state that was read; save the new one to another file");
     }
-    const std::string error = program_.savedState.SaveState(path);
+    const std::string error = program_.States().SaveState(path);
     return error.empty() || Fail(path + ": " + error);
   }
 
@@ -137,11 +138,11 @@ class TerminalRun {
       if (IsStandardInput(path)) {
         CountObserver nobody;
         TakeAsClipboard(*streams_.openInput(nobody));
-        program_.state.filesRead.clipboardText = kStandardInputPath;
+        program_.SetClipboardFile(kStandardInputPath);
       } else {
         InputFile input(path);
         TakeAsClipboard(input);
-        program_.state.filesRead.clipboardText = AbsolutePath(path);
+        program_.SetClipboardFile(AbsolutePath(path));
       }
       return true;
     } catch (const RunTimeError& error) {
@@ -164,12 +165,11 @@ class TerminalRun {
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
   /// state.
   bool TakeEffect() {
-    program_.state.blnStartUpCompleted = true;
     // A folder that a state names and that is not there is nobody's affair when a file is counted.
     TextBox& folder = program_.frmMain.txbFolder;
     const std::string path = folder.Text();
     if (!program_.frmMain.optFolder.Value()) folder.SetText("");
-    const RestoreResult result = program_.savedState.TakeControlsAsTheyAre();
+    const RestoreResult result = program_.TakeControls();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
     folder.SetText(path);
     return result == RestoreResult::kRestored && !desktop_.ProblemShown();
@@ -182,23 +182,23 @@ class TerminalRun {
   }
 
   int Count() {
-    program_.lister.SetTextBoxWanted(options_.windowText);
-    if (options_.null) program_.lister.SetFileLineBreak(std::string(1, '\0'));
-    if (options_.top) program_.lister.SetMostWordsInFile(*options_.top);
+    program_.Lister().SetTextBoxWanted(options_.windowText);
+    if (options_.null) program_.Lister().SetFileLineBreak(std::string(1, '\0'));
+    if (options_.top) program_.Lister().SetMostWordsInFile(*options_.top);
     if (!FormatIsServed()) return kRunFailed;
     const bool toFile = HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
     if (options_.summary) PrintSummary();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
-      const bool failed = desktop_.ProblemShown() && !program_.output.IsFull();
+      const bool failed = desktop_.ProblemShown() && !program_.Output().IsFull();
       return PrintWindowText() && made && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
       TellWhyThereIsNoList();
       return kRunFailed;
     }
-    const bool printed = toFile ? program_.lister.FileWritten() : PrintList();
+    const bool printed = toFile ? program_.Lister().FileWritten() : PrintList();
     return Export() && printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
   }
 
@@ -211,8 +211,8 @@ class TerminalRun {
   /// Several paths are served like a folder.
   bool FormatIsServed() {
     const bool likeFolder =
-        input_.kind == InputChoice::Kind::kPaths && program_.state.lists.HasCountOnlyWords();
-    return (likeFolder && !options_.windowText) || program_.lister.CheckDisplayFormat();
+        input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();
+    return (likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat();
   }
 
   /// True when a list was made.
@@ -222,19 +222,20 @@ class TerminalRun {
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
-    return program_.countRun.ListWasMade();
+    return program_.Count().ListWasMade();
   }
 
   bool CountDirectly() {
     // Paths in lists are relative to the folder that is counted, not to one that a state names.
     if (input_.kind != InputChoice::Kind::kFolder) program_.frmMain.txbFolder.SetText("");
-    DirectCount count(program_, options_, input_, streams_);
+    const Messages messages(desktop_, program_.Text());
+    DirectCount count(program_, messages, options_, input_, streams_);
     if (!count.Run()) {
       fault_ = count.Fault();
       return false;
     }
-    program_.lister.ListWords();
-    return program_.state.totals.NumIncludedWords > 0;
+    program_.Lister().ListWords();
+    return program_.Words().totals.NumIncludedWords > 0;
   }
 
   /// Whether the list goes to a file, by --output, a state or a setting.
@@ -244,7 +245,7 @@ class TerminalRun {
   }
 
   void PrintSkipped() {
-    for (const SkippedItem& item : program_.countRun.Folder().Skipped()) {
+    for (const SkippedItem& item : program_.Count().Skipped()) {
       err_ << Headed{MessageTone::kWarning, "Skipped: "} << item.path << ": " << item.reason
            << '\n';
     }
@@ -276,7 +277,7 @@ class TerminalRun {
   }
 
   bool PrintList() {
-    return streams_.print([this](ByteSink& out) { program_.lister.WriteList(out); });
+    return streams_.print([this](ByteSink& out) { program_.Lister().WriteList(out); });
   }
 
   bool PrintWindowText() {

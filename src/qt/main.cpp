@@ -64,7 +64,7 @@ int RunOnDesktop(QApplication& application) {
         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
   });
   if (!program.Start()) return program.HasEnded() ? 0 : 1;
-  if (!path.isEmpty()) program.ChooseText(FromQt(QDir::toNativeSeparators(path)));
+  if (!path.isEmpty()) program.Sources().ChooseText(FromQt(QDir::toNativeSeparators(path)));
   return QApplication::exec();
 }
 

@@ -188,10 +188,10 @@ void MainWindowView::ShowProgress() {
 void MainWindowView::ConnectKeys() {
   MainForm& frmMain = program_.frmMain;
   onEnter = [this, &frmMain] {
-    if (!program_.state.Busy()) frmMain.cmdCountWords.PerformClick();
+    if (!program_.State().Busy()) frmMain.cmdCountWords.PerformClick();
   };
   onEscape = [this, &frmMain] {
-    if (program_.state.Busy()) frmMain.cmdCountWords.PerformClick();
+    if (program_.State().Busy()) frmMain.cmdCountWords.PerformClick();
   };
   onHelp = [&frmMain] {
     // The focus stays where it is.
@@ -232,7 +232,7 @@ bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
 
 /// Any drop is taken, so that the program can say what it makes of it.
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event) {
-  if (!program_.state.Busy()) TakeAsCopy(*event);
+  if (!program_.State().Busy()) TakeAsCopy(*event);
 }
 
 void MainWindowView::dragMoveEvent(QDragMoveEvent* event) {
@@ -243,7 +243,8 @@ void MainWindowView::dropEvent(QDropEvent* event) {
   TakeAsCopy(*event);
   // Later: the program may answer with a box, and the dragging must have ended by then.
   QMetaObject::invokeMethod(
-      this, [this, paths = DroppedPaths(*event->mimeData())] { program_.TakeDrop(paths); },
+      this,
+      [this, paths = DroppedPaths(*event->mimeData())] { program_.Sources().TakeDrop(paths); },
       Qt::QueuedConnection);
 }
 

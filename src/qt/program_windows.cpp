@@ -34,7 +34,7 @@ Windows::Windows(Program& program, QtDesktop& desktop)
   ResizeOnScreen(*help_, QSize(760, 600).expandedTo(help_->sizeHint()));
   LeaveOthersWhenActivated(desktop);
   desktop.SetWindow(&main_);
-  const auto listFormat = [&program] { return program.output.ListFormat(); };
+  const auto listFormat = [&program] { return program.Output().ListFormat(); };
   desktop.SetListFormat(listFormat);
   main_.List().SetListFormat(listFormat);
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
@@ -88,11 +88,11 @@ void Windows::ShowChanges() {
 
 /// The toolkit's own buttons ("Cancel") speak the language of the program.
 void Windows::ShowLanguage() {
-  const Language language = program_.text.CurrentLanguage();
+  const Language language = program_.Text().CurrentLanguage();
   if (shownLanguage_ == language) return;
   shownLanguage_ = language;
-  main_.SetTexts(program_.text);
-  main_.setAccessibleDescription(ToQt(program_.text.GetText(kProgramDescriptionText)));
+  main_.SetTexts(program_.Text());
+  main_.setAccessibleDescription(ToQt(program_.Text().GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
   const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
   const auto load = [&](const QString& folder) {
@@ -112,7 +112,7 @@ void Windows::RestorePlaces() {
   memory.RestoreZoom(main_.List());
   memory.RestoreView(main_.Views());
   memory.RestoreColumns(main_.Table().View().Columns());
-  program_.state.lastFolder = FromQt(memory.LastFolder());
+  program_.Paths().SetLastFolder(FromQt(memory.LastFolder()));
 }
 
 void Windows::KeepPlaces() {
@@ -125,7 +125,7 @@ void Windows::KeepPlaces() {
   memory.KeepZoom(main_.List());
   memory.KeepView(main_.Views());
   memory.KeepColumns(main_.Table().View().Columns());
-  memory.KeepLastFolder(ToQt(program_.state.lastFolder));
+  memory.KeepLastFolder(ToQt(program_.Paths().LastFolder()));
 }
 
 }  // namespace quillomat

@@ -147,7 +147,7 @@ std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
     const QString path = QDir::toNativeSeparators(shown.selectedFiles().constFirst());
     if (!dialog.noReadOnlyReturn || !IsReadOnly(path)) return FromQt(path);
     ShowMessage({FromQt(path) + "\r\nThis file is read-only.  Choose another one.", dialog.title,
-                 MessageIcon::kExclamation});
+                 MessageIcon::kExclamation, MessageButtons::kOk, MessageSeverity::kError});
   }
 }
 

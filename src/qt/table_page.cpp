@@ -23,9 +23,9 @@ constexpr int kShortestBox = 120;
 TablePage::TablePage(Program& program, QWidget* parent)
     : QWidget(parent),
       program_(program),
-      signs_{.group = program.context.desktop.DigitGroupSeparator(),
+      signs_{.group = program.DigitGroupSeparator(),
              .decimal = FromQt(QLocale::system().decimalPoint())},
-      table_(program.state, ReadExpression),
+      table_(program.Words(), ReadExpression),
       view_(table_) {
   PlaceParts();
   view_.Model().SetSigns(signs_);
@@ -95,10 +95,10 @@ void TablePage::ShowTotals() {
 
 QString TablePage::TotalsText() {
   if (!table_.Fault().empty()) {
-    return ToQt(program_.text.GetText(kExpressionFaultText)).arg(ToQt(table_.Fault()));
+    return ToQt(program_.Text().GetText(kExpressionFaultText)).arg(ToQt(table_.Fault()));
   }
   const WordRows* rows = table_.Rows();
-  return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.text, signs_));
+  return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.Text(), signs_));
 }
 
 /// While no count runs the keys of the filter are its own.
@@ -106,7 +106,7 @@ void TablePage::keyPressEvent(QKeyEvent* event) {
   if (!words_.hasFocus()) return QWidget::keyPressEvent(event);
   switch (event->key()) {
     case Qt::Key_Escape:
-      if (program_.state.Busy()) return QWidget::keyPressEvent(event);  // it stops the count
+      if (program_.State().Busy()) return QWidget::keyPressEvent(event);  // it stops the count
       if (words_.text().isEmpty()) return view_.setFocus(Qt::OtherFocusReason);
       return words_.clear();
     case Qt::Key_Return:

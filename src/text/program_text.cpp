@@ -18,7 +18,8 @@ bool ProgramText::LoadProgramText(const std::string& fileName, Desktop& desktop)
   desktop.ShowMessage({.text = LoadErrorMessage(result, path),
                        .title = "",
                        .icon = MessageIcon::kCritical,
-                       .buttons = MessageButtons::kOk});
+                       .buttons = MessageButtons::kOk,
+                       .severity = MessageSeverity::kError});
   return false;
 }
 

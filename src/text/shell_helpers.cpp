@@ -12,7 +12,8 @@ void LaunchBrowser(Desktop& desktop, const std::string& address) {
   desktop.ShowMessage(
       {"Error launching web browser. Please make sure that your web browser is correctly installed "
        "and configured",
-       "Cannot launch web browser", MessageIcon::kExclamation});
+       "Cannot launch web browser", MessageIcon::kExclamation, MessageButtons::kOk,
+       MessageSeverity::kError});
 }
 
 bool OpenDocument(Desktop& desktop, const std::string& path, bool reportErrors) {
@@ -20,7 +21,8 @@ bool OpenDocument(Desktop& desktop, const std::string& path, bool reportErrors) 
   if (reportErrors) {
     desktop.ShowMessage({"Error opening file " + path + "." + std::string(kCrLf) +
                              "Perhaps the file extension is incorrect.",
-                         "Error", MessageIcon::kExclamation});
+                         "Error", MessageIcon::kExclamation, MessageButtons::kOk,
+                         MessageSeverity::kError});
   }
   return false;
 }

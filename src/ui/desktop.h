@@ -18,6 +18,17 @@ namespace quillomat {
 
 enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion, kCritical };
 enum class MessageButtons { kOk, kOkCancel, kYesNo, kYesNoCancel };
+/// How grave a message is, which its icon does not tell.
+enum class MessageSeverity {
+  /// Worth knowing; nothing is wrong.
+  kAdvice,
+  /// Something is not as it should be, but stops nothing.
+  kWarning,
+  /// Something was refused or went wrong.
+  kError,
+  /// The answer decides.
+  kQuestion,
+};
 enum class MessageAnswer { kOk, kCancel, kYes, kNo };
 
 struct MessageBox {
@@ -25,6 +36,7 @@ struct MessageBox {
   std::string title;  // shown as it is, an empty one too
   MessageIcon icon = MessageIcon::kNone;
   MessageButtons buttons = MessageButtons::kOk;
+  MessageSeverity severity = MessageSeverity::kAdvice;
 
   bool operator==(const MessageBox&) const = default;
 };

@@ -51,7 +51,7 @@ class BadStateFile : public ProgramFixture {
   RestoreResult LoadOnPanel(const std::string& contents) {
     program.Initialize();
     CountClipboard("cat dog");
-    EXPECT_TRUE(State().blnWordsGot);
+    EXPECT_TRUE(Words().blnWordsGot);
     desktop.ForgetQuestions();
     desktop.AnswerFile(folder.Write("bad.qlm", contents));
     Panel().cmdSaveLoadState[1].PerformClick();
@@ -59,8 +59,8 @@ class BadStateFile : public ProgramFixture {
     if (WasReset(result)) {
       EXPECT_EQ(Differences(initial_, ImageOf(program)), "");
     }
-    EXPECT_FALSE(State().blnInhibitPrompt);
-    EXPECT_FALSE(State().Busy());
+    EXPECT_FALSE(program.Flags().blnInhibitPrompt);
+    EXPECT_FALSE(program.State().Busy());
     return result;
   }
 
@@ -92,7 +92,7 @@ class BadStateFile : public ProgramFixture {
       EXPECT_TRUE(told[0].text.starts_with("Error when attempting to load previous state: "));
     }
     EXPECT_EQ(Differences(initial_, ImageOf(started)), "");
-    EXPECT_TRUE(started.state.blnStartUpCompleted);
+    EXPECT_TRUE(started.Flags().blnStartUpCompleted);
   }
 
   static bool WasReset(RestoreResult result) {

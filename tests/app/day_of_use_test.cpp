@@ -74,7 +74,7 @@ TEST(DayOfUse, EverythingIsAsItWasTheNextMorning) {
     EXPECT_EQ(program.frmMain.txbFolder.Text(), texts.Path());
     EXPECT_EQ(program.frmMain.cboDisplayFormat.ListIndex(), 8);
     EXPECT_TRUE(program.frmParams.chkDropFinalS.IsChecked());
-    EXPECT_THAT(program.state.lists.ExtraIgnoreList.Words(), ElementsAre("sat"));
+    EXPECT_THAT(program.Settings().lists.ExtraIgnoreList.Words(), ElementsAre("sat"));
   }
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }

@@ -137,12 +137,14 @@ TEST_F(HelpAndLabels, HelpThatWasClosedWhileMinimizedComesBack) {
 }
 
 TEST_F(HelpAndLabels, ClipboardViewerIsOpenedWithoutAReportOfErrors) {
-  State().clipboardViewerPath = "/viewer";
-  Main().cmdClipboardViewer.SetEnabled(true);
-  Main().cmdClipboardViewer.PerformClick();
+  MainForm main;
+  ProgramParts parts(main, Panel(), Help(), desktop, std::chrono::steady_clock::now);
+  parts.controls.SetClipboardViewer("/viewer");
+  parts.mainWindow.Connect();
+  main.cmdClipboardViewer.PerformClick();
   EXPECT_THAT(desktop.Opened(), ElementsAre("/viewer"));
   desktop.RefuseShell(true);
-  Main().cmdClipboardViewer.PerformClick();
+  main.cmdClipboardViewer.PerformClick();
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
 

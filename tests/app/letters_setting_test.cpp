@@ -18,7 +18,7 @@ class LettersSetting : public ProgramFixture {
   void ChooseLetters(int letters) { Panel().cboLetters.PerformChoice(letters); }
 
   std::string SavedState() {
-    EXPECT_EQ(program.savedState.SaveState(folder / "state.qlm"), "");
+    EXPECT_EQ(program.States().SaveState(folder / "state.qlm"), "");
     return ContentsOf(folder / "state.qlm");
   }
 };
@@ -47,14 +47,14 @@ TEST_F(LettersSetting, ChangeEntailsReadingAnewAndNoTakesItBack) {
   ChooseLetters(kAll);
   EXPECT_EQ(OnlyMessage().text, "Changing this entails reading the clipboard anew.  Is this OK?");
   EXPECT_EQ(Panel().cboLetters.ListIndex(), kWestern);
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(Words().blnWordsGot);
   desktop.Answer(MessageAnswer::kNo);
   Panel().chkFoldAccents.PerformClick();
   EXPECT_TRUE(Panel().chkFoldAccents.IsChecked());
   desktop.Answer(MessageAnswer::kYes);
   ChooseLetters(kAll);
   EXPECT_EQ(Panel().cboLetters.ListIndex(), kAll);
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
 }
 
 TEST_F(LettersSetting, TypedWordsFollow) {
@@ -87,7 +87,7 @@ TEST_F(LettersSetting, StateFileTellsOfThemWhereTheyAreNotTheDefault) {
   Panel().cmdRestoreDefaults.PerformClick();
   EXPECT_EQ(Panel().cboLetters.ListIndex(), kWestern);
   EXPECT_TRUE(Panel().chkFoldAccents.IsChecked());
-  EXPECT_EQ(program.savedState.RestoreSavedState(folder / "state.qlm"), RestoreResult::kRestored);
+  EXPECT_EQ(program.States().RestoreSavedState(folder / "state.qlm"), RestoreResult::kRestored);
   EXPECT_EQ(Panel().cboLetters.ListIndex(), kAll);
   EXPECT_FALSE(Panel().chkFoldAccents.IsChecked());
 }

@@ -95,11 +95,11 @@ TEST_F(MainWindowTest, OutputFileIsLookedForBesideTheCountedFolder) {
   EXPECT_EQ(Main().txbFile[1].Text(), folder / "list.txt");
   Main().txbFolder.EnterText(folder.Make("books/sub") + "/");
   Main().SetFocus(Main().txbFile[0]);
-  EXPECT_EQ(program.state.lastFolder, books) << "with a separator at its end, too";
+  EXPECT_EQ(program.Paths().LastFolder(), books) << "with a separator at its end, too";
   Main().SetFocus(Main().txbFolder);
   Main().txbFolder.EnterText(RootOfTheDisk());
   Main().SetFocus(Main().txbFile[0]);
-  EXPECT_EQ(program.state.lastFolder, books) << "nothing is kept in the root";
+  EXPECT_EQ(program.Paths().LastFolder(), books) << "nothing is kept in the root";
 }
 
 TEST_F(MainWindowTest, StateIsLoadedFromWhereItWasSaved) {
@@ -120,7 +120,7 @@ TEST_F(MainWindowTest, BareNameBecomesAPathInTheFolderUsedLast) {
   Main().SetFocus(Main().txbFile[0]);
   EXPECT_EQ(Main().txbFile[1].Text(), documents / "list.txt");
   static_cast<void>(folder.Write("a.txt", "cat\n"));
-  program.ChooseText(folder / "a.txt");
+  program.Sources().ChooseText(folder / "a.txt");
   Main().SetFocus(Main().txbFile[1]);
   Main().txbFile[1].EnterText("other.txt");
   Main().cmdCountWords.PerformClick();
@@ -170,10 +170,10 @@ TEST_F(MainWindowTest, ClickThatLeavesABadExtensionIsCarriedOutBeforeTheMessage)
 
 TEST_F(MainWindowTest, CountWithABadExtensionSaysSoOnceAndCountsNothing) {
   static_cast<void>(folder.Write("a.txt", "cat\n"));
-  program.ChooseText(folder.Path());
+  program.Sources().ChooseText(folder.Path());
   Main().SetFocus(Main().txbFileExtensions[0]);
   Main().txbFileExtensions[0].EnterText("doc");
-  desktop.AtMessage("No doc files", [this] { EXPECT_FALSE(program.state.completeRun); });
+  desktop.AtMessage("No doc files", [this] { EXPECT_FALSE(program.Words().completeRun); });
   Count();
   EXPECT_THAT(desktop.Titles(), ElementsAre("No doc files", "No files found"));
 }
@@ -195,13 +195,13 @@ TEST_F(MainWindowTest, CountOfABadFolderSaysSoOnce) {
 
 TEST_F(MainWindowTest, DroppedFileIsChosenAndAnythingElseIsAnswered) {
   const std::string path = folder.Write("a.txt", "cat\n");
-  program.TakeDrop({path});
+  program.Sources().TakeDrop({path});
   EXPECT_EQ(Main().txbFile[0].Text(), path);
   EXPECT_THAT(desktop.Messages(), IsEmpty());
-  program.TakeDrop({path, folder.Path()});
+  program.Sources().TakeDrop({path, folder.Path()});
   EXPECT_THAT(OnlyMessage().text, HasSubstr("one file or one folder"));
   desktop.ForgetQuestions();
-  program.TakeDrop({});
+  program.Sources().TakeDrop({});
   EXPECT_THAT(OnlyMessage().text, HasSubstr("Only a file or a folder"));
   EXPECT_EQ(Main().txbFile[0].Text(), path);
 }

@@ -12,13 +12,13 @@ namespace {
 class NamedStateLines : public ProgramFixture {
  protected:
   std::string Saved() {
-    EXPECT_EQ(program.savedState.SaveState(folder / "saved.qlm"), "");
+    EXPECT_EQ(program.States().SaveState(folder / "saved.qlm"), "");
     return ContentsOf(folder / "saved.qlm");
   }
 
   RestoreResult RestoreWith(const std::string& more) {
     const std::string text = FileOfLines(InitialLines()) + more;
-    return program.savedState.ReadControls(folder.Write("state.qlm", text));
+    return program.States().ReadControls(folder.Write("state.qlm", text));
   }
 
   /// What a file of 45 lines is followed by.
@@ -46,7 +46,7 @@ TEST_F(NamedStateLines, KeepEveryPathThatItsOwnLineDoesNot) {
     box->SetText(odd);
     EXPECT_EQ(SavedBehindTheLines(), box->Name() + "=/a \"b\"%0D%0A%25/caf%E9%09\r\n");
     program.Initialize();
-    ASSERT_EQ(program.savedState.ReadControls(folder / "saved.qlm"), RestoreResult::kRestored);
+    ASSERT_EQ(program.States().ReadControls(folder / "saved.qlm"), RestoreResult::kRestored);
     EXPECT_EQ(box->Text(), odd);
     box->SetText("");
   }
@@ -62,7 +62,7 @@ TEST_F(NamedStateLines, KeepBytesThatAreNoUtf8AsTheyAre) {
     Main().txbFile[0].SetText(path);
     static_cast<void>(Saved());
     program.Initialize();
-    ASSERT_EQ(program.savedState.ReadControls(folder / "saved.qlm"), RestoreResult::kRestored);
+    ASSERT_EQ(program.States().ReadControls(folder / "saved.qlm"), RestoreResult::kRestored);
     EXPECT_EQ(Main().txbFile[0].Text(), path);
   }
 }
@@ -86,10 +86,10 @@ TEST_F(NamedStateLines, WithAValueThatDoesNotFitAreErrors) {
   for (const char* line : {"chkDropFinalS=yes", "chkDropFinalS=3", "chkDropFinalS=",
                            "cboDisplayFormat=word", "txbFile(1)=a%", "txbFile(1)=%zz"}) {
     EXPECT_EQ(RestoreWith(line), RestoreResult::kError) << line;
-    EXPECT_FALSE(program.savedState.IndexWasOutOfRange());
+    EXPECT_FALSE(program.States().IndexWasOutOfRange());
   }
   EXPECT_EQ(RestoreWith("cboDisplayFormat=14"), RestoreResult::kError);
-  EXPECT_TRUE(program.savedState.IndexWasOutOfRange());
+  EXPECT_TRUE(program.States().IndexWasOutOfRange());
 }
 
 /// A program with settings that the 45 lines know nothing of.

@@ -27,7 +27,7 @@ TEST_F(PanelPrompts, NoUnchecksTheBoxWhicheverWayItWasClicked) {
   desktop.Answer(MessageAnswer::kNo);
   Panel().chkAllowWordsWithHyphens.PerformClick();
   EXPECT_EQ(Panel().chkAllowWordsWithHyphens.Value(), CheckState::kUnchecked);
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(Words().blnWordsGot);
 }
 
 TEST_F(PanelPrompts, YesMakesTheCountsOutdatedAndAsksNoMore) {
@@ -35,7 +35,7 @@ TEST_F(PanelPrompts, YesMakesTheCountsOutdatedAndAsksNoMore) {
   desktop.Answer(MessageAnswer::kYes);
   Panel().cmdClearCheckboxes[1].PerformClick();
   EXPECT_EQ(OnlyMessage().text, "Changing this entails reading the clipboard anew.  Is this OK?");
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
   for (CheckBox* box : BoxesInClearingOrder(Panel())) EXPECT_TRUE(box->IsChecked()) << box->Name();
 }
 
@@ -52,7 +52,7 @@ TEST_F(PanelPrompts, MarkersAreTrimmedAndMakeTheCountsOutdated) {
   Panel().txbStartComment[0].SetText("  # ");
   Panel().txbStartComment[0].LostFocus.Fire();
   EXPECT_EQ(Panel().txbStartComment[0].Text(), "#");
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
 }
 
 TEST_F(PanelPrompts, ReinitializeSaysSo) {

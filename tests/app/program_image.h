@@ -44,13 +44,13 @@ inline ProgramImage ImageOf(Program& program) {
     for (const auto& word : words) text.append(word).append(" ");
     return text;
   };
-  const WordLists& lists = program.state.lists;
+  const WordLists& lists = program.Settings().lists;
   image["IgnoreList"] = joined(lists.IgnoreList.Words());
   image["CountOnlyList"] = joined(lists.CountOnlyList.Words());
   image["ExtraIgnoreList"] = joined(lists.ExtraIgnoreList.Words());
   image["ExtraCountOnlyList"] = joined(lists.ExtraCountOnlyList.Words());
-  image["a.txt is scanned"] = std::to_string(program.countRun.Extensions().IsScannable("a.txt"));
-  image["a.bak is scanned"] = std::to_string(program.countRun.Extensions().IsScannable("a.bak"));
+  image["a.txt is scanned"] = std::to_string(program.Count().Extensions().IsScannable("a.txt"));
+  image["a.bak is scanned"] = std::to_string(program.Count().Extensions().IsScannable("a.bak"));
   return image;
 }
 

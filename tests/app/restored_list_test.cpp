@@ -19,7 +19,7 @@ class RestoredList : public ProgramFixture {
     Main().cboDisplayFormat.SetListIndex(8);
     Main().cboWordOrder.SetListIndex(order);
   }
-  void Save() { ASSERT_EQ(program.savedState.SaveState(state_), ""); }
+  void Save() { ASSERT_EQ(program.States().SaveState(state_), ""); }
   void Load() {
     desktop.AnswerFile(state_);
     Panel().cmdSaveLoadState[1].PerformClick();

@@ -53,9 +53,9 @@ TEST_F(RoundTrip, OfTheControlsIsExact) {
       SCOPED_TRACE("seed " + std::to_string(seed) + ", round " + std::to_string(round));
       SetAtRandom(random);
       const ProgramImage before = ImageOf(program);
-      ASSERT_EQ(program.savedState.SaveState(folder / "state.qlm"), "");
+      ASSERT_EQ(program.States().SaveState(folder / "state.qlm"), "");
       SetAtRandom(random);
-      ASSERT_EQ(program.savedState.ReadControls(folder / "state.qlm"), RestoreResult::kRestored);
+      ASSERT_EQ(program.States().ReadControls(folder / "state.qlm"), RestoreResult::kRestored);
       EXPECT_EQ(Differences(before, ImageOf(program)), "");
     }
   }
@@ -73,13 +73,12 @@ TEST_F(RoundTrip, OfAWholeStateIsStable) {
     }
     Panel().txbWordsFile[0].SetText("");
     Panel().txbWordsFile[1].SetText(round % 2 == 0 ? "" : folder.Write("w.txt", "ox cow ox\n"));
-    ASSERT_EQ(program.savedState.SaveState(folder / "first.qlm"), "");
-    ASSERT_EQ(program.savedState.RestoreSavedState(folder / "first.qlm"), RestoreResult::kRestored);
+    ASSERT_EQ(program.States().SaveState(folder / "first.qlm"), "");
+    ASSERT_EQ(program.States().RestoreSavedState(folder / "first.qlm"), RestoreResult::kRestored);
     const ProgramImage restored = ImageOf(program);
-    ASSERT_EQ(program.savedState.SaveState(folder / "second.qlm"), "");
+    ASSERT_EQ(program.States().SaveState(folder / "second.qlm"), "");
     program.Initialize();
-    ASSERT_EQ(program.savedState.RestoreSavedState(folder / "second.qlm"),
-              RestoreResult::kRestored);
+    ASSERT_EQ(program.States().RestoreSavedState(folder / "second.qlm"), RestoreResult::kRestored);
     EXPECT_EQ(Differences(restored, ImageOf(program)), "");
   }
 }

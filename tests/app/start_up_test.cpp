@@ -39,8 +39,8 @@ TEST_F(StartUp, FirstStartMakesTheSettingsFolderSaysNothingAndSelectsTheFolderSo
   EXPECT_TRUE(program.frmMain.optFolder.Value());
   EXPECT_EQ(program.frmMain.cboWordOrder.ListIndex(), 0);
   EXPECT_EQ(program.frmMain.cboDisplayFormat.ListIndex(), 0);
-  EXPECT_TRUE(program.state.blnStartUpCompleted);
-  EXPECT_FALSE(program.state.blnWordsGot);
+  EXPECT_TRUE(program.Flags().blnStartUpCompleted);
+  EXPECT_FALSE(program.Words().blnWordsGot);
   EXPECT_FALSE(program.HasEnded());
 }
 
@@ -49,7 +49,7 @@ TEST_F(StartUp, StepsComeInTheirOrder) {
   const std::filesystem::path root = std::filesystem::current_path().root_path();
   std::vector<std::string> steps;
   const auto step = [&](const std::string& name) {
-    EXPECT_FALSE(program.state.blnStartUpCompleted) << name;
+    EXPECT_FALSE(program.Flags().blnStartUpCompleted) << name;
     EXPECT_NE(std::filesystem::current_path(), root) << name;
     if (std::ranges::find(steps, name) == steps.end()) steps.push_back(name);
   };
@@ -74,7 +74,7 @@ TEST_F(StartUp, StepsComeInTheirOrder) {
                                  "word counts hidden", "window shown", "folder source selected",
                                  "defaults set", "settings restored"));
   EXPECT_EQ(std::filesystem::current_path(), root);
-  EXPECT_TRUE(program.state.blnStartUpCompleted);
+  EXPECT_TRUE(program.Flags().blnStartUpCompleted);
 }
 
 TEST_F(StartUp, FocusIsWhereTheUserGoesOn) {
@@ -93,13 +93,13 @@ TEST_F(StartUp, SettingsComeBackWithWhatHangsOnThem) {
   KeepSettings(FileOfLines(ChangedLines(folder)));
   ASSERT_TRUE(program.Start());
   EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded", "Words loaded"));
-  EXPECT_THAT(program.state.lists.ExtraIgnoreList.Words(), ElementsAre("ox", "cow"));
-  EXPECT_THAT(program.state.lists.ExtraCountOnlyList.Words(), ElementsAre("hen"));
-  EXPECT_THAT(program.state.lists.IgnoreList.Words(), ElementsAre("dog"));
-  EXPECT_THAT(program.state.lists.CountOnlyList.Words(), ElementsAre("cat", "rat"));
+  EXPECT_THAT(program.Settings().lists.ExtraIgnoreList.Words(), ElementsAre("ox", "cow"));
+  EXPECT_THAT(program.Settings().lists.ExtraCountOnlyList.Words(), ElementsAre("hen"));
+  EXPECT_THAT(program.Settings().lists.IgnoreList.Words(), ElementsAre("dog"));
+  EXPECT_THAT(program.Settings().lists.CountOnlyList.Words(), ElementsAre("cat", "rat"));
   EXPECT_NE(program.frmMain.lblFilesize.Caption(), "");
-  EXPECT_FALSE(program.countRun.Extensions().IsScannable("a.bak"));
-  EXPECT_TRUE(program.countRun.Extensions().IsScannable("a.txt"));
+  EXPECT_FALSE(program.Count().Extensions().IsScannable("a.bak"));
+  EXPECT_TRUE(program.Count().Extensions().IsScannable("a.txt"));
   EXPECT_EQ(program.frmMain.txbOutput.Text(), "");
 }
 
@@ -127,7 +127,7 @@ TEST_F(StartUp, WindowClosedMeanwhileEndsIt) {
   desktop.AtMessage("Words loaded", [&] { program.frmMain.CloseRequested.Fire(); });
   EXPECT_FALSE(program.Start());
   EXPECT_TRUE(program.HasEnded());
-  EXPECT_FALSE(program.state.blnStartUpCompleted);
+  EXPECT_FALSE(program.Flags().blnStartUpCompleted);
 }
 
 TEST_F(StartUp, LostFolderIsTold) {
@@ -144,11 +144,12 @@ TEST_F(StartUp, TextFileThatIsMissingEndsItBeforeTheWindowIsShown) {
   const ScopedVariable data("QUILLOMAT_DATA", folder.Path());
   EXPECT_FALSE(program.Start());
   ASSERT_EQ(desktop.Messages().size(), 1U);
-  EXPECT_EQ(desktop.Messages()[0], (MessageBox{"Cannot open file containing program text.\r\n" +
-                                                   (folder / "qlav_text.dat"),
-                                               "", MessageIcon::kCritical, MessageButtons::kOk}));
+  EXPECT_EQ(
+      desktop.Messages()[0],
+      (MessageBox{"Cannot open file containing program text.\r\n" + (folder / "qlav_text.dat"), "",
+                  MessageIcon::kCritical, MessageButtons::kOk, MessageSeverity::kError}));
   EXPECT_FALSE(program.frmMain.Visible());
-  EXPECT_FALSE(program.state.blnStartUpCompleted);
+  EXPECT_FALSE(program.Flags().blnStartUpCompleted);
 }
 
 TEST_F(StartUp, TextFileWithADuplicateIsRefusedWithItsLine) {
@@ -202,8 +203,8 @@ TEST_F(StartUp, RestoredStateAsksNothing) {
   ASSERT_TRUE(program.Start());
   EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded", "Words loaded"));
   EXPECT_TRUE(program.frmMain.optOnClipboard.Value());
-  EXPECT_FALSE(program.state.blnWordsGot);
-  EXPECT_FALSE(program.state.Busy());
+  EXPECT_FALSE(program.Words().blnWordsGot);
+  EXPECT_FALSE(program.State().Busy());
 }
 
 // Initialize.
@@ -213,19 +214,19 @@ class Initialize : public ProgramFixture {};
 TEST_F(Initialize, PutsEverythingBackToTheFirstStart) {
   const ProgramImage before = ImageOf(program);
   const std::string path = folder.Write("changed.qlm", FileOfLines(ChangedLines(folder)));
-  ASSERT_EQ(program.savedState.RestoreSavedState(path), RestoreResult::kRestored);
+  ASSERT_EQ(program.States().RestoreSavedState(path), RestoreResult::kRestored);
   const ProgramImage changed = ImageOf(program);
   EXPECT_NE(changed, before);
-  State().settings.OpenComment = 1;
-  State().displayingWords = true;
+  desktop.ForgetQuestions();
+  CountFile(folder.Write("open.c", "cat /* dog"));
   program.Initialize();
   EXPECT_EQ(Differences(before, ImageOf(program)), "");
-  EXPECT_EQ(State().settings.OpenComment, -1) << "no comment is open any more";
-  EXPECT_FALSE(State().displayingWords);
+  EXPECT_EQ(program.Settings().settings.OpenComment, -1) << "no comment is open any more";
+  EXPECT_FALSE(program.Output().DisplayingWords());
 }
 
 TEST_F(Initialize, GoesThroughItsStepsInOrder) {
-  ASSERT_EQ(program.savedState.RestoreSavedState(
+  ASSERT_EQ(program.States().RestoreSavedState(
                 folder.Write("changed.qlm", FileOfLines(ChangedLines(folder)))),
             RestoreResult::kRestored);
   const std::filesystem::path root = std::filesystem::current_path().root_path();

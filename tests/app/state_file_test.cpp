@@ -20,11 +20,11 @@ class StateFileTest : public ProgramFixture {
   StateFileTest() { program.UseSettingsFolder(); }
 
   RestoreResult Restore(const StateLines& lines) {
-    return program.savedState.RestoreSavedState(folder.Write("state.qlm", FileOfLines(lines)));
+    return program.States().RestoreSavedState(folder.Write("state.qlm", FileOfLines(lines)));
   }
 
   std::string Saved() {
-    EXPECT_EQ(program.savedState.SaveState(folder / "saved.qlm"), "");
+    EXPECT_EQ(program.States().SaveState(folder / "saved.qlm"), "");
     return ContentsOf(folder / "saved.qlm");
   }
 
@@ -91,7 +91,7 @@ TEST_F(StateFileTest, EveryLineIsReadIntoItsOwnControlAndWrittenFromIt) {
     ASSERT_NE(changed[line], initial[line]);
     StateLines lines = initial;
     lines[line] = changed[line];
-    ASSERT_EQ(program.savedState.ReadControls(folder.Write("one.qlm", FileOfLines(lines))),
+    ASSERT_EQ(program.States().ReadControls(folder.Write("one.qlm", FileOfLines(lines))),
               RestoreResult::kRestored);
     const Form& form =
         kStateLines[line].form == std::string("main") ? static_cast<Form&>(Main()) : Panel();
@@ -149,7 +149,7 @@ TEST_F(StateFileTest, DoubleQuoteInATextThatIsNoPathIsNotKept) {
   Panel().txbStartComment[0].SetText("\"");
   static_cast<void>(Saved());
   program.Initialize();
-  EXPECT_EQ(program.savedState.RestoreSavedState(folder / "saved.qlm"), RestoreResult::kRestored);
+  EXPECT_EQ(program.States().RestoreSavedState(folder / "saved.qlm"), RestoreResult::kRestored);
   EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[0].Text(), "a");
   EXPECT_EQ(Panel().txbStartComment[0].Text(), "");
   EXPECT_EQ(Main().txbFileExtensions[0].Text(), "") << "the next line is read as itself";
@@ -160,7 +160,7 @@ TEST_F(StateFileTest, FileInTheOldCodePageAndWithOtherLineEndsIsReadToo) {
   lines[4] = "\"\xE9\x80\"";
   std::string text;
   for (const std::string& line : lines) text += line + "\n";
-  EXPECT_EQ(program.savedState.RestoreSavedState(folder.Write("old.qlm", text)),
+  EXPECT_EQ(program.States().RestoreSavedState(folder.Write("old.qlm", text)),
             RestoreResult::kRestored);
   EXPECT_EQ(Panel().txbStartComment[0].Text(), "\u00E9\u20AC");
 }
@@ -172,12 +172,12 @@ TEST_F(StateFileTest, LinesBehindTheLastOneAreNotRead) {
 }
 
 TEST_F(StateFileTest, FileThatDoesNotExistChangesNothing) {
+  CountClipboard("cat");
   Main().txbFolder.SetText("/f");
-  State().blnWordsGot = true;
   const ProgramImage before = ImageOf(program);
-  EXPECT_EQ(program.savedState.RestoreSavedState(folder / "none.qlm"), RestoreResult::kNoFile);
+  EXPECT_EQ(program.States().RestoreSavedState(folder / "none.qlm"), RestoreResult::kNoFile);
   EXPECT_EQ(Differences(before, ImageOf(program)), "");
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(Words().blnWordsGot);
 }
 
 TEST_F(StateFileTest, RestoredStateMakesTheCountsOutdatedAndListsThemAsItWants) {
@@ -185,27 +185,27 @@ TEST_F(StateFileTest, RestoredStateMakesTheCountsOutdatedAndListsThemAsItWants) 
   StateLines lines = InitialLines();
   lines[41] = "8";
   EXPECT_EQ(Restore(lines), RestoreResult::kRestored);
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
   EXPECT_TRUE(Output().ends_with("\r\ncat\r\ndog\r\n")) << Output();
 }
 
 TEST_F(StateFileTest, WriteErrorsAreDescribed) {
-  EXPECT_EQ(program.savedState.SaveState(folder / "none/state.qlm"),
+  EXPECT_EQ(program.States().SaveState(folder / "none/state.qlm"),
             "Error when attempting to save state: Path not found");
-  EXPECT_EQ(program.savedState.SaveState("/dev/full"),
+  EXPECT_EQ(program.States().SaveState("/dev/full"),
             "Error when attempting to save state: Disk full");
 }
 
 TEST_F(StateFileTest, AFailedSaveLeavesTheStateAsItWas) {
   const std::string path = folder.Write("state.qlm", "the old state");
-  EXPECT_NE(program.savedState.SaveState(path + "/x"), "");
+  EXPECT_NE(program.States().SaveState(path + "/x"), "");
   EXPECT_EQ(ContentsOf(path), "the old state");
 }
 
 TEST_F(StateFileTest, AReaderNeverSeesHalfOfWhatAWriterWrites) {
   constexpr int kTurns = 300;
   const std::string path = folder / "state.qlm";
-  ASSERT_EQ(program.savedState.SaveState(path), "");
+  ASSERT_EQ(program.States().SaveState(path), "");
   ScriptedDesktop otherDesktop;
   Program other(otherDesktop);
   ASSERT_TRUE(other.Start({.userSettings = false, .window = false}));
@@ -213,23 +213,23 @@ TEST_F(StateFileTest, AReaderNeverSeesHalfOfWhatAWriterWrites) {
     for (int turn = 0; turn < kTurns; ++turn) {
       const std::string folderName(static_cast<std::size_t>(turn) * 50, 'x');
       other.frmMain.txbFolder.SetText(folderName);
-      EXPECT_EQ(other.savedState.SaveState(path), "");
+      EXPECT_EQ(other.States().SaveState(path), "");
     }
   });
   for (int turn = 0; turn < kTurns; ++turn) {
-    const RestoreResult result = program.savedState.ReadControls(path);
+    const RestoreResult result = program.States().ReadControls(path);
     // While a file takes the place of another, Windows may for a moment show neither.
     const bool neither = PathSeparator() == '\\' && result == RestoreResult::kNoFile;
     EXPECT_TRUE(neither || result == RestoreResult::kRestored)
-        << program.savedState.ErrorDescription();
+        << program.States().ErrorDescription();
   }
   writer.join();
 }
 
 TEST_F(StateFileTest, ALineThatIsTooLongIsNamed) {
   const std::string path = folder.Write("state.qlm", std::string(17'000'000, 'x'));
-  EXPECT_EQ(program.savedState.ReadControls(path), RestoreResult::kError);
-  EXPECT_EQ(program.savedState.ErrorDescription(), "a line of it is longer than 16,777,216 bytes");
+  EXPECT_EQ(program.States().ReadControls(path), RestoreResult::kError);
+  EXPECT_EQ(program.States().ErrorDescription(), "a line of it is longer than 16,777,216 bytes");
 }
 
 TEST_F(StateFileTest, MarkersAreMendedPairByPair) {
@@ -252,7 +252,7 @@ TEST_F(StateFileTest, WordsFileThatIsNoTextIsToldAndTheOtherIsStillRead) {
   lines[42] = Quoted(folder.Write("binary", std::string("\x01\x00\x02", 3)));
   EXPECT_EQ(Restore(lines), RestoreResult::kWordsFileFailed);
   EXPECT_THAT(desktop.Titles(), ElementsAre("Invalid input", "Error", "Words loaded"));
-  EXPECT_THAT(State().lists.CountOnlyList.Words(), ElementsAre("cat", "rat"));
+  EXPECT_THAT(program.Settings().lists.CountOnlyList.Words(), ElementsAre("cat", "rat"));
   EXPECT_EQ(Panel().txbWordsFile[0].Text(), "");
 }
 
@@ -330,7 +330,7 @@ TEST_F(StateFileTest, LoadingAfterACountAsksNothing) {
   Panel().cmdSaveLoadState[1].PerformClick();
   EXPECT_THAT(desktop.Titles(),
               ElementsAre("Specify file to load state from.", "Words loaded", "Words loaded"));
-  EXPECT_FALSE(State().blnInhibitPrompt);
+  EXPECT_FALSE(program.Flags().blnInhibitPrompt);
   EXPECT_EQ(Saved(), FileOfLines(ChangedLines(folder)));
 }
 
@@ -345,14 +345,14 @@ TEST_F(StateFileTest, LineBreakInAPathDoesNotMakeAnotherLine) {
 TEST_F(StateFileTest, WordsFileThatIsMissingIsToldByThePanelAloneAndItsListIsEmpty) {
   StateLines lines = ChangedLines(folder);
   ASSERT_EQ(Restore(lines), RestoreResult::kRestored);
-  ASSERT_EQ(State().lists.CountOnlyList.Count(), 2);
+  ASSERT_EQ(program.Settings().lists.CountOnlyList.Count(), 2);
   desktop.ForgetQuestions();
   lines[43] = Quoted(folder / "none.txt");
   desktop.AnswerFile(folder.Write("mine.qlm", FileOfLines(lines)));
   Panel().cmdSaveLoadState[1].PerformClick();
   EXPECT_THAT(desktop.Titles(), ElementsAre("Specify file to load state from.", "Words loaded"));
   EXPECT_EQ(Panel().lblState.Caption(), "Error loading from");
-  EXPECT_EQ(State().lists.CountOnlyList.Count(), 0);
+  EXPECT_EQ(program.Settings().lists.CountOnlyList.Count(), 0);
 }
 
 TEST_F(StateFileTest, CancellingEitherDialogDoesNothing) {

@@ -38,16 +38,16 @@ std::string FileOf(const std::vector<std::string>& lines) {
 class StateRestore : public ProgramFixture {
  protected:
   StateRestore() {
-    EXPECT_EQ(program.savedState.SaveState(folder / "state.qlm"), "");
+    EXPECT_EQ(program.States().SaveState(folder / "state.qlm"), "");
     initial_ = LinesOf(ContentsOf(folder / "state.qlm"));
   }
 
   RestoreResult Restore(const std::string& contents) {
-    return program.savedState.RestoreSavedState(folder.Write("other.qlm", contents));
+    return program.States().RestoreSavedState(folder.Write("other.qlm", contents));
   }
 
   std::vector<std::string> Now() {
-    EXPECT_EQ(program.savedState.SaveState(folder / "now.qlm"), "");
+    EXPECT_EQ(program.States().SaveState(folder / "now.qlm"), "");
     return LinesOf(ContentsOf(folder / "now.qlm"));
   }
 
@@ -98,7 +98,7 @@ TEST_F(StateRestore, CutFilesAreErrorsAfterEveryLine) {
     const std::vector<std::string> head(initial_.begin(),
                                         initial_.begin() + static_cast<std::ptrdiff_t>(lines));
     EXPECT_EQ(Restore(FileOf(head)), RestoreResult::kError);
-    EXPECT_EQ(program.savedState.ErrorDescription(), "Input past end of file");
+    EXPECT_EQ(program.States().ErrorDescription(), "Input past end of file");
   }
   EXPECT_EQ(Restore(FileOf(initial_)), RestoreResult::kRestored);
 }
@@ -201,7 +201,7 @@ TEST_F(StateRestore, RandomStatesComeBack) {
       }
       const auto before = Now();
       program.Initialize();
-      EXPECT_EQ(program.savedState.ReadControls(folder / "now.qlm"), RestoreResult::kRestored);
+      EXPECT_EQ(program.States().ReadControls(folder / "now.qlm"), RestoreResult::kRestored);
       EXPECT_EQ(Now(), before) << "seed " << seed;
       program.Initialize();
       desktop.ForgetQuestions();

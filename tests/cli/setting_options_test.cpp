@@ -41,7 +41,7 @@ class SettingOptions : public ProgramFixture {
 
   /// What is wrong with the arguments; "" when nothing is.
   std::string Apply(std::vector<std::string> arguments) {
-    State().blnStartUpCompleted = false;
+    program.BeginControls();
     arguments.insert(arguments.begin(), {"quillomat-cli", "--folder", "texts"});
     std::ostringstream out;
     std::ostringstream err;

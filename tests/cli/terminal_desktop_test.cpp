@@ -7,7 +7,7 @@ namespace quillomat {
 namespace {
 
 MessageBox Question(MessageButtons buttons) {
-  return {"Shall\r\nwe?", "Relist?", MessageIcon::kQuestion, buttons};
+  return {"Shall\r\nwe?", "Relist?", MessageIcon::kQuestion, buttons, MessageSeverity::kQuestion};
 }
 
 TEST(TerminalDesktop, MessageIsOneLineAndPrintedOnce) {
@@ -23,9 +23,22 @@ TEST(TerminalDesktop, MessageIsOneLineAndPrintedOnce) {
 TEST(TerminalDesktop, MessageWithoutTitleBearsTheProgramsName) {
   std::ostringstream err;
   TerminalDesktop desktop(err, {});
-  desktop.ShowMessage({"No text.", "", MessageIcon::kCritical});
+  desktop.ShowMessage(
+      {"No text.", "", MessageIcon::kCritical, MessageButtons::kOk, MessageSeverity::kError});
   EXPECT_EQ(err.str(), "Quillomat: No text.\n");
   EXPECT_TRUE(desktop.ProblemShown());
+}
+
+TEST(TerminalDesktop, OnlyAnErrorIsAProblemWhateverTheTitleAndTheIconAre) {
+  using enum MessageSeverity;
+  for (const MessageSeverity severity : {kAdvice, kWarning, kError}) {
+    std::ostringstream err;
+    TerminalDesktop desktop(err, {});
+    desktop.ShowMessage(
+        {"Mac lines.", "Warning", MessageIcon::kExclamation, MessageButtons::kOk, severity});
+    EXPECT_EQ(err.str(), "Warning: Mac lines.\n");
+    EXPECT_EQ(desktop.ProblemShown(), severity == kError);
+  }
 }
 
 TEST(TerminalDesktop, QuestionsAreAnsweredSoThatAScriptGoesOn) {

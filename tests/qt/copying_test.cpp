@@ -31,7 +31,7 @@ using Copying = WindowFixture;
 
 TEST_F(Copying, ListAndSelectionKeepTheirColumns) {
   ASSERT_TRUE(user->Start());
-  user->program.ChooseText(folder.Write("a.txt", "cat dog cat\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog cat\n"));
   user->Click(user->program.frmMain.cmdCountWords);
   user->Click(user->program.frmMain.cmdCopyToClipboard);
   const QMimeData* data = QApplication::clipboard()->mimeData();
@@ -49,7 +49,7 @@ TEST_F(Copying, ListsOfFilesKeepTheirColumnsToo) {
   ASSERT_TRUE(user->Start());
   MainForm& frmMain = user->program.frmMain;
   static_cast<void>(folder.Write("books/a  b.txt", "cat dog cat\n"));
-  user->program.ChooseText(folder / "books");
+  user->program.Sources().ChooseText(folder / "books");
   user->Type(user->program.frmParams.txbWordsToIgnoreOrCount[1], "cat");
   user->program.frmParams.LoseFocus();
   frmMain.txbFile[1].SetText(folder / "list.txt");

@@ -105,14 +105,14 @@ TEST_F(DayOnTheDesktop, StopsALongFolderCountWithTheStopButton) {
   EXPECT_EQ(captionWhileRunning, "Stop");
   EXPECT_THAT(boxes.TitlesSeen(), ElementsAre("Counting interrupted"));
   EXPECT_THAT(user->Shown(), HasSubstr("  word\n"));
-  EXPECT_FALSE(user->program.state.completeRun);
+  EXPECT_FALSE(user->program.Words().completeRun);
 }
 
 TEST_F(DayOnTheDesktop, ClosingTheWindowDuringACountEndsTheProgram) {
   ASSERT_TRUE(user->Start());
   std::string text;
   for (int i = 0; i < 3'000'000; ++i) text += "word ";
-  user->program.ChooseText(folder.Write("long.txt", text));
+  user->program.Sources().ChooseText(folder.Write("long.txt", text));
   QTimer::singleShot(40, [&] { user->windows.Main().close(); });
   user->Click(Main().cmdCountWords);
   EXPECT_TRUE(user->program.HasEnded());

@@ -210,7 +210,7 @@ class Newcomer {
     Press("Return");
     WaitUntil("the box is full", [this] { return !NoBox(); });
     Press("Return");
-    WaitUntil("the list is there", [this] { return NoBox() && !program_.state.Busy(); });
+    WaitUntil("the list is there", [this] { return NoBox() && !program_.State().Busy(); });
     Press("ctrl+f");
     Type(QStringLiteral("wordzzz"));
     WaitUntil("it is said that the box holds a part", [this] {
@@ -270,7 +270,7 @@ class Newcomer {
     Type(ToQt(Documents() + "/harbour_en.txt"));
     Press("Return");
     WaitUntil("the words of the file are left out",
-              [this] { return !program_.state.Busy() && Lists("harbour") && !Lists("the"); });
+              [this] { return !program_.State().Busy() && Lists("harbour") && !Lists("the"); });
     Click(frmMain_.cmdSetParameters);
     WaitUntil("the panel is there", [this] { return windows_.Panel().isActiveWindow(); });
     Click(box);
@@ -279,7 +279,7 @@ class Newcomer {
     Click(program_.frmParams.cmdClose);
     Click(frmMain_.cmdCountWords);
     WaitUntil("no word is left out when the box is empty",
-              [this] { return !program_.state.Busy() && Lists("harbour") && Lists("the"); });
+              [this] { return !program_.State().Busy() && Lists("harbour") && Lists("the"); });
     Expect("nothing was to be told", [this] { return NoBox(); });
   }
 

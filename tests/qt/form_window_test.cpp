@@ -140,7 +140,7 @@ TEST_F(FormWindowTest, LeavingABoxForAnotherWindowIsLeavingIt) {
 }
 
 TEST_F(FormWindowTest, BoxThatTheProgramSetsBackIsShownSo) {
-  user->program.ChooseText(folder.Write("a.txt", "cat\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat\n"));
   user->Click(frmMain.cmdCountWords);
   user->Click(frmMain.cmdSetParameters);
   boxes.Answer(QMessageBox::No);
@@ -244,7 +244,7 @@ TEST_F(FormWindowTest, HelpWindowLeavesItsMarginsWhateverItsSize) {
 }
 
 TEST_F(FormWindowTest, FocusIsWhereTheFormSaysAfterAChangeOfFormat) {
-  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog\n"));
   frmMain.txbFile[1].SetText(folder / "list.txt");
   user->Click(frmMain.cmdCountWords);
   auto& combo = user->WidgetOf<QComboBox>(frmMain.cboDisplayFormat);
@@ -328,7 +328,7 @@ TEST_F(FormWindowTest, FormatThatIsOfNoUseIsGreyInTheDropDownAndSaysWhy) {
 }
 
 TEST_F(FormWindowTest, KeysInTheListAreUndoneAndTheProgramsTextIsNot) {
-  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog\n"));
   user->Click(frmMain.cmdCountWords);
   auto& list = user->windows.Main().List();
   const QString shown = list.toPlainText();
@@ -345,7 +345,7 @@ TEST_F(FormWindowTest, KeysInTheListAreUndoneAndTheProgramsTextIsNot) {
 }
 
 TEST_F(FormWindowTest, EnterInTheListCountsUnlessATextIsBeingWrittenThere) {
-  user->program.ChooseText(folder.Write("a.txt", "cat dog\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog\n"));
   auto& list = user->windows.Main().List();
   list.setFocus();
   QTest::keyClick(&list, Qt::Key_Return);

@@ -159,7 +159,7 @@ class LayoutTest : public WindowFixture, public testing::WithParamInterface<int>
   void Count() {
     std::string text;
     for (int i = 0; i < 20'000; ++i) text += "word" + std::to_string(i % 900) + " ";
-    user->program.ChooseText(folder.Write("a text.txt", text));
+    user->program.Sources().ChooseText(folder.Write("a text.txt", text));
     user->Click(frmMain.cmdCountWords);
   }
 
@@ -340,7 +340,7 @@ TEST_F(WindowLayout, WhatFindSaysIsALineAndNotAColumn) {
       for (char c = 'a'; c <= 'z'; ++c) text += std::string("word") + a + b + c + " ";
     }
   }
-  user->program.ChooseText(folder.Write("many.txt", text));
+  user->program.Sources().ChooseText(folder.Write("many.txt", text));
   boxes.Answer(QMessageBox::Ok);
   user->windows.Main().resize(1024, 700);
   user->Click(user->program.frmMain.cmdCountWords);

@@ -98,16 +98,16 @@ TEST_F(MainWindowViewTest, EnterOnACommandIsThatCommand) {
 TEST_F(MainWindowViewTest, EscapeStopsTheCount) {
   std::string text;
   for (int i = 0; i < 3'000'000; ++i) text += "word" + std::to_string(i % 5000) + " ";
-  user->program.ChooseText(folder.Write("long.txt", text));
+  user->program.Sources().ChooseText(folder.Write("long.txt", text));
   boxes.Answer(QMessageBox::No);
   QTimer::singleShot(40, [&] { QTest::keyClick(&user->windows.Main(), Qt::Key_Escape); });
   user->Click(frmMain.cmdCountWords);
   EXPECT_THAT(boxes.TitlesSeen(), testing::ElementsAre("Counting interrupted"));
-  EXPECT_FALSE(user->program.state.completeRun);
+  EXPECT_FALSE(user->program.Words().completeRun);
 }
 
 TEST_F(MainWindowViewTest, FindBarFindsRoundTheEndAndSaysWhenThereIsNothing) {
-  user->program.ChooseText(folder.Write("a.txt", "cat dog emu\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu\n"));
   user->Click(frmMain.cmdCountWords);
   Press(QKeySequence::Find);
   FindBar& bar = user->windows.Main().Finder();
@@ -144,11 +144,11 @@ TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
 }
 
 TEST_F(MainWindowViewTest, FolderUsedLastIsRemembered) {
-  user->program.ChooseText(folder.Write("a.txt", "cat\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat\n"));
   user->Click(frmMain.cmdQuit);
   user = std::make_unique<ProgramOnDesktop>();
   ASSERT_TRUE(user->Start());
-  EXPECT_EQ(user->program.state.lastFolder, folder.Path());
+  EXPECT_EQ(user->program.Paths().LastFolder(), folder.Path());
 }
 
 TEST_F(MainWindowViewTest, SizeOfTheWindowIsRemembered) {
@@ -181,7 +181,7 @@ TEST_F(MainWindowViewTest, OneBarShowsTheWholeRun) {
 }
 
 TEST_F(MainWindowViewTest, NumbersOfTheSummaryStandApart) {
-  user->program.ChooseText(folder.Write("a.txt", "cat dog emu cat\n"));
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu cat\n"));
   user->Click(frmMain.cmdCountWords);
   const auto& label = user->WidgetOf<FigureLabel>(frmMain.lblNumOccurrences);
   EXPECT_EQ(label.text(), "Number of instances of words in this list:");

@@ -44,7 +44,7 @@ class Photographer {
     const QString copy = QString(kBooks) + "/" + QFileInfo(sample).fileName();
     QFile::remove(copy);
     if (!QFile::copy(sample, copy)) std::cerr << "cannot copy " << FromQt(sample) << '\n';
-    user_.program.ChooseText(FromQt(copy));
+    user_.program.Sources().ChooseText(FromQt(copy));
     user_.Click(user_.program.frmMain.cmdCountWords);
   }
 
@@ -76,7 +76,7 @@ class Photographer {
     const QByteArray text = sample.readAll();
     for (int i = 0; i < 1500; ++i) library.write(text);
     library.close();
-    user_.program.ChooseText(FromQt(path));
+    user_.program.Sources().ChooseText(FromQt(path));
     boxes_.Answer(QMessageBox::No);
     QTimer::singleShot(60, [this] {
       Save(user_.windows.Main(), "running-en");
@@ -99,7 +99,7 @@ class Photographer {
     QPalette dark(QColor(53, 53, 53), QColor(35, 35, 35));
     dark.setColor(QPalette::Link, QColor(100, 160, 255));
     QApplication::setPalette(dark);
-    user_.program.ChooseText(std::string(kBooks) + "/harbour_en.txt");
+    user_.program.Sources().ChooseText(std::string(kBooks) + "/harbour_en.txt");
     user_.Click(user_.program.frmMain.cmdCountWords);
     Save(user_.windows.Main(), "main-dark");
     TakeTable("table-dark", "");

@@ -23,7 +23,7 @@ class TablePageTest : public WindowFixture {
   QLineEdit& Box() { return *Window().Table().findChild<QLineEdit*>(); }
 
   void Count(const std::string& text) {
-    user->program.ChooseText(folder.Write("a.txt", text));
+    user->program.Sources().ChooseText(folder.Write("a.txt", text));
     user->Click(user->program.frmMain.cmdCountWords);
   }
   void OpenTable() {
@@ -166,7 +166,7 @@ TEST_F(TablePageTest, NumberOfFilesIsShownWhereItIsKnown) {
   OpenTable();
   static_cast<void>(folder.Write("books/a.txt", "cat dog"));
   static_cast<void>(folder.Write("books/b.txt", "cat"));
-  user->program.ChooseText(folder / "books");
+  user->program.Sources().ChooseText(folder / "books");
   user->Type(user->program.frmParams.txbWordsToIgnoreOrCount[1], "cat");
   user->program.frmParams.LoseFocus();
   user->program.frmMain.txbFile[1].SetText(folder / "list.txt");

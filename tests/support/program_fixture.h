@@ -29,7 +29,8 @@ class ProgramFixture : public testing::Test {
 
   MainForm& Main() { return program.frmMain; }
   ParamsForm& Panel() { return program.frmParams; }
-  CountState& State() { return program.state; }
+  const RunState& State() { return program.State(); }
+  const CurrentWords& Words() { return program.Words(); }
 
   void Count() { Main().cmdCountWords.PerformClick(); }
 
@@ -53,8 +54,9 @@ class ProgramFixture : public testing::Test {
 
   /// Types words into a box of the panel and leaves it.
   void TypeWords(WordListKind kind, const std::string& words) {
-    Panel().txbWordsToIgnoreOrCount[static_cast<std::size_t>(kind)].SetText(words);
-    program.wordLists.OnExtraWordsLostFocus(kind);
+    TextBox& box = Panel().txbWordsToIgnoreOrCount[static_cast<std::size_t>(kind)];
+    box.SetText(words);
+    box.LostFocus.Fire();
   }
 
   /// Chooses the format "word", so that a list is easy to compare.
@@ -65,8 +67,8 @@ class ProgramFixture : public testing::Test {
   /// The words of the store in alphabetical order with their counts: "cat*2 dog".
   [[nodiscard]] std::string StoredWords() {
     std::string words;
-    for (std::int32_t i = 1; i <= State().store.NumDifferentWords(); ++i) {
-      const WordRec& record = State().store.At(i);
+    for (std::int32_t i = 1; i <= Words().store.NumDifferentWords(); ++i) {
+      const WordRec& record = Words().store.At(i);
       if (!words.empty()) words += ' ';
       words += record.Word;
       if (record.Count > 1) words += "*" + std::to_string(record.Count);

@@ -302,7 +302,8 @@ class LoadProgramTextTest : public testing::Test {
   ProgramText text;
 
   void ExpectOneCriticalMessage(const std::string& message) {
-    const MessageBox expected{message, "", MessageIcon::kCritical, MessageButtons::kOk};
+    const MessageBox expected{message, "", MessageIcon::kCritical, MessageButtons::kOk,
+                              MessageSeverity::kError};
     EXPECT_EQ(desktop.Messages(), std::vector<MessageBox>{expected});
   }
 };

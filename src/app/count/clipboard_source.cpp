@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "app/count/window_count.h"
 #include "app/list/set_the_focus.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -15,17 +14,17 @@ namespace {
 
 class ClipboardObserver final : public WindowObserver {
  public:
-  explicit ClipboardObserver(const RunContext& context)
-      : WindowObserver(context, {CountedText::Source::kClipboard}) {}
+  explicit ClipboardObserver(const WindowCount& count)
+      : WindowObserver(count, {CountedText::Source::kClipboard}) {}
   ClipboardObserver(const ClipboardObserver&) = delete;
   ClipboardObserver& operator=(const ClipboardObserver&) = delete;
   ClipboardObserver(ClipboardObserver&&) = delete;
   ClipboardObserver& operator=(ClipboardObserver&&) = delete;
-  ~ClipboardObserver() override { Context().frmMain.lblTwirler.SetCaption(" "); }
+  ~ClipboardObserver() override { Count().frmMain.lblTwirler.SetCaption(" "); }
 
   void OnScanBegins() override {
-    Context().output.ClearOutput();
-    Context().state.StopRequested = false;
+    Count().output.ClearOutput();
+    Count().run.ForgetStop();
     WindowObserver::OnScanBegins();
   }
 };
@@ -33,24 +32,24 @@ class ClipboardObserver final : public WindowObserver {
 }  // namespace
 
 bool ClipboardSource::ReadClipboard(bool paste) {
-  context_.output.ClearOutput();
+  count_.output.ClearOutput();
   std::size_t length = 0;
   try {
-    std::string text = context_.desktop.ClipboardText();
+    std::string text = desktop_.ClipboardText();
     length = CharacterCount(text);
     if (text.empty()) {
-      Refuse(context_, "Clipboard is empty.", "Clipboard empty");
+      count_.messages.Refuse("Clipboard is empty.", "Clipboard empty");
       return false;
     }
     if (length > kClipboardTextLimit) {
-      const bool goesOn = context_.desktop.ClipboardGoesOn();
-      Refuse(
-          context_,
+      const bool goesOn = desktop_.ClipboardGoesOn();
+      count_.messages.Refuse(
           std::string("There are ") + (goesOn ? "more than " : "") +
-              Grouped(context_, static_cast<std::int64_t>(goesOn ? kClipboardTextLimit : length)) +
+              count_.messages.Grouped(
+                  static_cast<std::int64_t>(goesOn ? kClipboardTextLimit : length)) +
               " characters in the text on the clipboard." + std::string(kCrLf) +
               "The maximum permitted is " +
-              Grouped(context_, static_cast<std::int64_t>(kClipboardTextLimit)) +
+              count_.messages.Grouped(static_cast<std::int64_t>(kClipboardTextLimit)) +
               ".  If possible," + std::string(kCrLf) +
               "count word frequencies for this text using an input file.",
           "Too much clipboard text");
@@ -58,8 +57,8 @@ bool ClipboardSource::ReadClipboard(bool paste) {
     }
     text_ = std::move(text);
     if (paste) {
-      context_.frmMain.txbOutput.SetText(text_);
-      context_.state.blnWordsGot = false;
+      count_.frmMain.txbOutput.SetText(text_);
+      count_.words.blnWordsGot = false;
     }
     return true;
   } catch (const RunTimeError& error) {
@@ -78,29 +77,28 @@ void ClipboardSource::RefuseClipboard(const RunTimeError& error, std::size_t len
       message.append(kCrLf).append("It may, however, still be possible to count word frequencies.");
     }
   }
-  Refuse(context_, message, context_.text.GetText(kProgramTitleText));
+  count_.messages.Refuse(message, count_.messages.ProgramTitle());
 }
 
-bool ClipboardSource::ScanClipboard() {
-  CheckBox& chkSuppressWords = context_.frmMain.chkSuppressWords;
+bool ClipboardSource::ScanClipboard(CountRequest request) {
+  CheckBox& chkSuppressWords = count_.frmMain.chkSuppressWords;
   const CheckState suppress = chkSuppressWords.Value();
-  ClipboardObserver observer(context_);
-  const CountRequest request = RequestFromControls(context_, TextOfClipboard{std::move(text_)});
-  const CountResult result = CountInWindow(context_, request, observer);
+  ClipboardObserver observer(count_);
+  request.source = TextOfClipboard{std::move(text_)};
+  const CountResult result = CountInWindow(count_, request, observer);
   if (result.end == CountEnd::kRefused) {
-    Refuse(context_,
-           "The text on the clipboard does not consist" + std::string(kCrLf) +
-               "solely of natural language words.",
-           "Invalid input");
+    count_.messages.Refuse("The text on the clipboard does not consist" + std::string(kCrLf) +
+                               "solely of natural language words.",
+                           "Invalid input");
     return false;
   }
   if (result.error && IsOutOfMemory(*result.error)) {
-    context_.lister.ReportOutOfMemory("the text on the clipboard");
+    lister_.ReportOutOfMemory("the text on the clipboard");
   } else if (result.error) {
-    context_.lister.ReportProblem(result.error->Number(), result.error->Description());
+    lister_.ReportProblem(result.error->Number(), result.error->Description());
   }
   chkSuppressWords.SetValue(suppress);
-  SetTheFocus(context_.frmMain);
+  SetTheFocus(count_.frmMain);
   return !result.error;
 }
 

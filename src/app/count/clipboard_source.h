@@ -4,8 +4,11 @@
 #include <cstddef>
 #include <string>
 
-#include "app/count/run_context.h"
+#include "app/count/window_count.h"
+#include "app/list/word_lister.h"
 #include "base/run_time_error.h"
+#include "sources/count_request.h"
+#include "ui/desktop.h"
 
 namespace quillomat {
 
@@ -14,20 +17,25 @@ inline constexpr std::size_t kClipboardTextLimit = 100'000;
 
 class ClipboardSource {
  public:
-  explicit ClipboardSource(const RunContext& context) : context_(context) {}
+  /// All must outlive it.
+  ClipboardSource(const WindowCount& count, WordLister& lister, Desktop& desktop)
+      : count_(count), lister_(lister), desktop_(desktop) {}
 
   /// Fetches the text; with `paste` also into the output text box. Tells the user what is wrong
   /// with it and returns false.
   [[nodiscard]] bool ReadClipboard(bool paste);
 
-  /// Counts the text that ReadClipboard fetched. Tells the user what is wrong and returns false.
-  [[nodiscard]] bool ScanClipboard();
+  /// Counts the text that ReadClipboard fetched, as the request wants it but for its source. Tells
+  /// the user what is wrong and returns false.
+  [[nodiscard]] bool ScanClipboard(CountRequest request);
 
  private:
   /// `length` is that of the text, in characters; 0 while it is not known.
   void RefuseClipboard(const RunTimeError& error, std::size_t length) const;
 
-  const RunContext& context_;
+  const WindowCount& count_;
+  WordLister& lister_;
+  Desktop& desktop_;
   std::string text_;
 };
 

@@ -36,9 +36,9 @@ std::string MessageAbout(const MarkerFault& fault) {
 
 }  // namespace
 
-bool CheckCommentMarkers(const RunContext& context) {
-  const std::optional<MarkerFault> fault = FindMarkerFault(ReadScanChoices(context.frmParams));
-  if (fault) Refuse(context, MessageAbout(*fault), "Error");
+bool CheckCommentMarkers(ParamsForm& frmParams, const Messages& messages) {
+  const std::optional<MarkerFault> fault = FindMarkerFault(ReadScanChoices(frmParams));
+  if (fault) messages.Refuse(MessageAbout(*fault), "Error");
   return !fault;
 }
 

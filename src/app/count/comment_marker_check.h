@@ -1,11 +1,12 @@
 // The check of the user's comment markers before a count that is to use them.
 #pragma once
 
-#include "app/count/run_context.h"
+#include "app/messages.h"
+#include "ui/params_form.h"
 
 namespace quillomat {
 
 /// Tells the user about the first fault; true when there is none.
-[[nodiscard]] bool CheckCommentMarkers(const RunContext& context);
+[[nodiscard]] bool CheckCommentMarkers(ParamsForm& frmParams, const Messages& messages);
 
 }  // namespace quillomat

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "app/count/comment_marker_check.h"
-#include "app/count/panel_choices.h"
 #include "app/count/window_state.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
@@ -26,78 +25,108 @@ constexpr std::int32_t kFrequenciesPerStep = 100;
 }  // namespace
 
 void CountRun::OnCountClick() {
-  CountState& state = context_.state;
-  if (RulesOf(state.phase).stops) {
-    state.StopRequested = true;
+  if (RulesOf(count_.run.Phase()).stops) {
+    count_.run.RequestStop();
     return;
   }
-  if (state.Busy()) return;
+  if (count_.run.Busy()) return;
   {
-    const PhaseGuard guard(context_, RunPhase::kChecking);
+    const PhaseGuard guard(count_.run, RunPhase::kChecking);
     RunCount();
     DropProcessingNotice();
   }
-  EnableControls(context_, true);
-  state.StopRequested = false;
-  context_.becameIdle.Fire();
+  controls_.EnableControls(true);
+  count_.run.ForgetStop();
+  count_.run.BecameIdle.Fire();
 }
 
 void CountRun::RunCount() {
   listWasMade_ = false;
   if (!PrepareRun()) return;
   try {
-    if (!ScanSource() || !HandleInterruption()) return;
-    context_.state.completeRun = !context_.state.listAfterStop;
+    const CountRequest request = Request({});
+    if (!ScanSource(request) || !HandleInterruption()) return;
+    count_.words.completeRun = !count_.words.listAfterStop;
     if (!FolderHadFiles()) return;
-    FinishRun();
+    FinishRun(request.filters);
   } catch (const RunTimeError& error) {
-    if (IsOutOfMemory(error)) return context_.lister.ReportOutOfMemory();
-    context_.lister.ReportProblem(error.Number(), error.Description());
+    if (IsOutOfMemory(error)) return lister_.ReportOutOfMemory();
+    lister_.ReportProblem(error.Number(), error.Description());
   } catch (const std::bad_alloc&) {
-    context_.lister.ReportOutOfMemory();
+    lister_.ReportOutOfMemory();
   }
 }
 
 bool CountRun::PrepareRun() {
-  CountState& state = context_.state;
   const bool listsTaken = wordLists_.TakeBoxes();
-  context_.output.ClearOutput();
-  ConcealNumWords(context_.frmMain, false);
-  if (!listsTaken || !context_.lister.MayWriteOutputFile({})) return false;
-  state.minimumColumnWidth = kMinimumColumnWidth;
-  state.settings.CountOnlyMode = state.lists.HasCountOnlyWords();
-  if (context_.frmParams.chkAllowCommentMarkers.IsChecked() && !CheckCommentMarkers(context_)) {
-    context_.frmParams.SetState(WindowState::kNormal);  // it may be minimized
-    context_.frmParams.Show();
+  count_.output.ClearOutput();
+  ConcealNumWords(count_.frmMain, false);
+  if (!listsTaken || !lister_.MayWriteOutputFile({})) return false;
+  count_.words.minimumColumnWidth = kMinimumColumnWidth;
+  count_.inForce.settings.CountOnlyMode = count_.inForce.lists.HasCountOnlyWords();
+  if (!MarkersStand()) {
+    frmParams_.SetState(WindowState::kNormal);  // it may be minimized
+    frmParams_.Show();
     return false;
   }
-  const bool clipboard = context_.frmMain.optOnClipboard.Value();
-  if (!clipboard && !(extensions_.TakeBoxes() && extensions_.CheckFileExtensions())) return false;
-  state.settings.ReadingWordList = false;
-  filterChoices_ = ReadFilterChoices(context_.frmParams);
-  state.listAfterStop = false;
-  context_.lister.ForgetOutputFile();
-  context_.output.SetFull(false);
-  state.WordsRead = 0;
+  if (!count_.frmMain.optOnClipboard.Value() && !ExtensionsStand()) return false;
+  count_.inForce.settings.ReadingWordList = false;
+  count_.words.listAfterStop = false;
+  lister_.ForgetOutputFile();
+  count_.output.SetFull(false);
+  count_.words.WordsRead = 0;
   return true;
 }
 
-/// False when the run has ended; the user has been told why.
-bool CountRun::ScanSource() {
-  if (context_.frmMain.optFolder.Value()) return folder_.ScanFolder();
-  if (context_.frmMain.optInFile.Value()) return ScanSingleFile();
-  return ScanClipboard();
+bool CountRun::Prepare(const CountedText& text) {
+  if (!wordLists_.TakeBoxes() || !lister_.MayWriteOutputFile(text)) return false;
+  return MarkersStand() && ExtensionsStand();
 }
 
-bool CountRun::ScanSingleFile() {
-  const ScanFileResult result = file_.ScanFile();
+CountRequest CountRun::Request(CountSource source) const {
+  return RequestFromControls(frmParams_, count_.inForce, std::move(source));
+}
+
+void CountRun::Take(CountResult result, CountedText text) {
+  count_.words.Discard();
+  count_.words.counted = std::move(text);
+  count_.words.counted.filesRead = std::move(result.filesRead);
+  count_.words.store = std::move(result.store);
+  count_.words.totals = result.totals;
+  count_.words.ranking = std::move(result.ranking);
+  count_.words.WordsRead = result.wordsRead;
+  count_.words.folder = {result.files, result.folders, {}};
+  count_.words.completeRun = result.end == CountEnd::kComplete;
+  count_.words.listAfterStop = !count_.words.completeRun;
+  count_.inForce.settings.CountOnlyMode = result.countOnlyMode;
+  ShowSummary(count_.frmMain, count_.words, count_.inForce, count_.messages.DigitGroupSeparator());
+}
+
+bool CountRun::MarkersStand() const {
+  return !frmParams_.chkAllowCommentMarkers.IsChecked() ||
+         CheckCommentMarkers(frmParams_, count_.messages);
+}
+
+bool CountRun::ExtensionsStand() {
+  return extensions_.TakeBoxes() && extensions_.CheckFileExtensions();
+}
+
+/// False when the run has ended; the user has been told why.
+bool CountRun::ScanSource(const CountRequest& request) {
+  if (count_.frmMain.optFolder.Value()) return folder_.ScanFolder(request);
+  if (count_.frmMain.optInFile.Value()) return ScanSingleFile(request);
+  return ScanClipboard(request);
+}
+
+bool CountRun::ScanSingleFile(const CountRequest& request) {
+  const ScanFileResult result = file_.ScanFile(request);
   file_.EndProgressBar();
   if (result == ScanFileResult::kDone) return true;
   if (result == ScanFileResult::kRunTimeError) {
     if (IsOutOfMemory(file_.Error())) {
-      context_.lister.ReportOutOfMemory(file_.Path());
+      lister_.ReportOutOfMemory(file_.Path());
     } else {
-      context_.lister.ReportProblem(file_.Error().Number(), file_.Error().Description());
+      lister_.ReportProblem(file_.Error().Number(), file_.Error().Description());
     }
   } else {
     ReportInputFileError(result);
@@ -105,22 +134,23 @@ bool CountRun::ScanSingleFile() {
   return false;
 }
 
-bool CountRun::ScanClipboard() {
-  if (clipboard_.ReadClipboard(false)) return clipboard_.ScanClipboard();
-  context_.frmMain.optInFile.SetValue(true);
+bool CountRun::ScanClipboard(const CountRequest& request) {
+  if (clipboard_.ReadClipboard(false)) return clipboard_.ScanClipboard(request);
+  count_.frmMain.optInFile.SetValue(true);
   return false;
 }
 
-void CountRun::ReportInputFileError(ScanFileResult code) {
+void CountRun::ReportInputFileError(ScanFileResult code) const {
   switch (code) {
     case ScanFileResult::kFolderNotFile:
-      return Refuse(context_, "Invalid input file specification.", "Invalid input");
+      return count_.messages.Refuse("Invalid input file specification.", "Invalid input");
     case ScanFileResult::kNotFound:
-      return Refuse(context_, "Input file does not exist.", "File not found");
+      return count_.messages.Refuse("Input file does not exist.", "File not found");
     case ScanFileResult::kNotSpecified:
-      return Refuse(context_, "Input file not specified.", "Error");
+      return count_.messages.Refuse("Input file not specified.", "Error");
     case ScanFileResult::kOutputIsInput:
-      return Refuse(context_, "The output file cannot be the same as the input file.", "Error");
+      return count_.messages.Refuse("The output file cannot be the same as the input file.",
+                                    "Error");
     default:
       return;
   }
@@ -129,150 +159,143 @@ void CountRun::ReportInputFileError(ScanFileResult code) {
 /// False when the user stopped the scan and does not want the words listed that were found until
 /// then.
 bool CountRun::HandleInterruption() {
-  CountState& state = context_.state;
-  if (!state.StopRequested) return true;
-  if (state.quitting) return false;
-  state.StopRequested = false;
+  if (!count_.run.StopRequested()) return true;
+  if (count_.run.Quitting()) return false;
+  count_.run.ForgetStop();
   const std::string lineBreak(kCrLf);
-  if (!context_.output.IsEmpty()) context_.output.OutputToTxb(lineBreak + lineBreak);
-  const std::int32_t words = state.store.NumDifferentWords();
-  context_.output.OutputToTxb("Stopped with " + std::to_string(words) +
-                              (words == 1 ? " word found." : " words found."));
-  const MessageAnswer answer = context_.desktop.ShowMessage(
-      {"The operation was stopped before all words were counted." + lineBreak +
-           "Do you wish to list the words which were found?",
-       "Counting interrupted", MessageIcon::kQuestion, MessageButtons::kYesNo});
+  if (!count_.output.IsEmpty()) count_.output.OutputToTxb(lineBreak + lineBreak);
+  const std::int32_t words = count_.words.store.NumDifferentWords();
+  count_.output.OutputToTxb("Stopped with " + std::to_string(words) +
+                            (words == 1 ? " word found." : " words found."));
+  const MessageAnswer answer =
+      count_.messages.Ask("The operation was stopped before all words were counted." + lineBreak +
+                              "Do you wish to list the words which were found?",
+                          "Counting interrupted");
   if (answer == MessageAnswer::kYes) {
-    state.listAfterStop = true;
+    count_.words.listAfterStop = true;
     return true;
   }
   return false;
 }
 
-bool CountRun::FolderHadFiles() {
-  if (!context_.frmMain.optFolder.Value() || context_.state.filesScanned > 0) return true;
+bool CountRun::FolderHadFiles() const {
+  if (!count_.frmMain.optFolder.Value() || count_.words.folder.filesScanned > 0) return true;
   std::string text = "No scanable files ";
   if (extensions_.Filter().AnyGiven()) text.append("of the specified type ");
   text.append("were found in this folder");
-  if (context_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
-  Tell(context_, text.append("."), "No files found", MessageIcon::kInformation);
+  if (count_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
+  count_.messages.Tell(text.append("."), "No files found");
   return false;
 }
 
-void CountRun::FinishRun() {
-  CountState& state = context_.state;
-  MainForm& frmMain = context_.frmMain;
+void CountRun::FinishRun(const FilterChoices& filters) {
   ShowProcessingNotice();
-  frmMain.lblNumWordsExcluded.SetCaption("");
-  EnterPhase(context_, RunPhase::kListing);
-  context_.desktop.Repaint();
-  if (!state.settings.CountOnlyMode) {
-    ApplyWordFilters(state.store, filterChoices_);
+  count_.frmMain.lblNumWordsExcluded.SetCaption("");
+  count_.run.EnterPhase(RunPhase::kListing);
+  desktop_.Repaint();
+  if (!count_.inForce.settings.CountOnlyMode) {
+    ApplyWordFilters(count_.words.store, filters);
   }
-  context_.output.ShowText(frmMain.txbOutput.Text() + ". . . ");
-  state.totals = state.store.TallyWords();
+  count_.output.ShowText(count_.frmMain.txbOutput.Text() + ". . . ");
+  count_.words.totals = count_.words.store.TallyWords();
   RankWords();
-  ShowSummary(frmMain, state, context_.desktop.DigitGroupSeparator());
-  state.blnWordsGot = true;
-  state.WordsRanked.Fire();
-  context_.lister.ListWords();
-  listWasMade_ = state.totals.NumIncludedWords > 0;
+  ShowSummary(count_.frmMain, count_.words, count_.inForce, count_.messages.DigitGroupSeparator());
+  count_.words.blnWordsGot = true;
+  count_.words.WordsRanked.Fire();
+  lister_.ListWords();
+  listWasMade_ = count_.words.totals.NumIncludedWords > 0;
 }
 
 void CountRun::ShowProcessingNotice() {
-  const std::string& shown = context_.frmMain.txbOutput.Text();
-  const std::size_t length = context_.frmMain.txbOutput.Length();
+  const std::string& shown = count_.frmMain.txbOutput.Text();
+  const std::size_t length = count_.frmMain.txbOutput.Length();
   const bool keep = length >= 1 && length < kShortOutput;
   outputBeforeNotice_ = keep ? shown : std::string();
   shownNotice_ = keep ? shown + std::string(kCrLf) + std::string(kCrLf) : std::string();
   shownNotice_.append(kProcessingNotice);
-  context_.frmMain.txbOutput.SetText(shownNotice_);
+  count_.frmMain.txbOutput.SetText(shownNotice_);
 }
 
 /// A run that went wrong behind the notice has put no list in its place.
 void CountRun::DropProcessingNotice() {
   const std::string notice = std::exchange(shownNotice_, {});
-  if (notice.empty() || !context_.frmMain.txbOutput.Text().starts_with(notice)) return;
-  context_.frmMain.txbOutput.SetText(outputBeforeNotice_);
+  if (notice.empty() || !count_.frmMain.txbOutput.Text().starts_with(notice)) return;
+  count_.frmMain.txbOutput.SetText(outputBeforeNotice_);
 }
 
 void CountRun::RankWords() {
-  CountState& state = context_.state;
-  state.ranking = RankByFrequency(state.store);
-  const std::int32_t steps = state.totals.MaxCount / kFrequenciesPerStep;
+  count_.words.ranking = RankByFrequency(count_.words.store);
+  const std::int32_t steps = count_.words.totals.MaxCount / kFrequenciesPerStep;
   std::string progress;
   progress.reserve(static_cast<std::size_t>(steps) * 4);
   for (std::int32_t step = 0; step < steps; ++step) progress.append(". . ");
-  context_.output.OutputToTxb(progress);
+  count_.output.OutputToTxb(progress);
 }
 
 void CountRun::OnListFilesClick() {
-  if (context_.state.Busy()) return;
-  MainForm& frmMain = context_.frmMain;
-  ConcealNumWords(frmMain, false);
-  context_.output.ClearOutput();
+  if (count_.run.Busy()) return;
+  ConcealNumWords(count_.frmMain, false);
+  count_.output.ClearOutput();
   {
-    const PhaseGuard guard(context_, RunPhase::kChecking);
-    context_.output.OutputToTxb("{Folder} = " + frmMain.txbFolder.Text() + std::string(kCrLf));
+    const PhaseGuard guard(count_.run, RunPhase::kChecking);
+    count_.output.OutputToTxb("{Folder} = " + count_.frmMain.txbFolder.Text() + std::string(kCrLf));
     folder_.ListFiles();
   }
-  EnableControls(context_, true);
-  context_.state.StopRequested = false;
-  context_.becameIdle.Fire();
+  controls_.EnableControls(true);
+  count_.run.ForgetStop();
+  count_.run.BecameIdle.Fire();
 }
 
 void CountRun::OnListChoiceChanged() {
-  CountState& state = context_.state;
-  if (!state.blnStartUpCompleted || state.Busy() || context_.lister.IsChangingFormat()) return;
-  if (context_.lister.CheckDisplayFormat() && ListStands()) {
+  if (!flags_.blnStartUpCompleted || count_.run.Busy() || lister_.IsChangingFormat()) return;
+  if (lister_.CheckDisplayFormat() && count_.words.CanBeListed()) {
     ListAgain(ListTarget::kAll);
-    if (state.listAfterStop) {
-      Tell(context_, context_.text.GetText(kInterruptedListText),
-           context_.text.GetText(kInterruptedListTitle), MessageIcon::kInformation);
+    if (count_.words.listAfterStop) {
+      count_.messages.Tell(count_.messages.Text(kInterruptedListText),
+                           count_.messages.Text(kInterruptedListTitle));
     }
   }
-  SetTheFocus(context_.frmMain);
+  SetTheFocus(count_.frmMain);
 }
 
 void CountRun::OnDisableOutputClick() {
-  const CountState& state = context_.state;
-  const MainForm& frmMain = context_.frmMain;
-  const bool canRelist = state.blnStartUpCompleted && !state.Busy() && state.completeRun &&
-                         frmMain.chkDisableOutputToFile.Value() == CheckState::kUnchecked &&
-                         !frmMain.txbFile[1].Text().empty();
+  const bool canRelist = flags_.blnStartUpCompleted && !count_.run.Busy() &&
+                         count_.words.completeRun &&
+                         count_.frmMain.chkDisableOutputToFile.Value() == CheckState::kUnchecked &&
+                         !count_.frmMain.txbFile[1].Text().empty();
   if (canRelist) {
     const MessageAnswer answer =
-        context_.desktop.ShowMessage({"Relist words (so as to write to file)?", "Relist?",
-                                      MessageIcon::kQuestion, MessageButtons::kYesNo});
+        count_.messages.Ask("Relist words (so as to write to file)?", "Relist?");
     if (answer == MessageAnswer::kYes) ListAgain(ListTarget::kAll);
   }
-  SetTheFocus(context_.frmMain);
+  SetTheFocus(count_.frmMain);
 }
 
 void CountRun::OnRestored(bool listStood) {
   if (!listStood) return;
-  if (ListStands() && context_.lister.FormatFitsWords()) return ListAgain(ListTarget::kTextBox);
-  context_.output.ClearOutput();
-  ConcealNumWords(context_.frmMain, true);
+  if (count_.words.CanBeListed() && lister_.FormatFitsWords())
+    return ListAgain(ListTarget::kTextBox);
+  count_.output.ClearOutput();
+  ConcealNumWords(count_.frmMain, true);
 }
 
 void CountRun::ListAgain(ListTarget target) {
   {
-    const PhaseGuard guard(context_, RunPhase::kListingAgain);
+    const PhaseGuard guard(count_.run, RunPhase::kListingAgain);
     try {
       if (target == ListTarget::kTextBox) {
-        context_.lister.ForgetOutputFile();
-        context_.lister.ListInTextBox();
+        lister_.ForgetOutputFile();
+        lister_.ListInTextBox();
       } else {
-        context_.lister.ListWords();
+        lister_.ListWords();
       }
     } catch (const std::bad_alloc&) {
-      context_.lister.ReportOutOfMemory();
+      lister_.ReportOutOfMemory();
     }
-    context_.frmMain.lblTwirler.SetCaption(" ");
+    count_.frmMain.lblTwirler.SetCaption(" ");
   }
-  context_.state.StopRequested = false;
-  context_.becameIdle.Fire();
+  count_.run.ForgetStop();
+  count_.run.BecameIdle.Fire();
 }
 
 }  // namespace quillomat

@@ -4,26 +4,42 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "app/count/clipboard_source.h"
 #include "app/count/file_extensions.h"
 #include "app/count/file_source.h"
 #include "app/count/folder_source.h"
-#include "app/count/run_context.h"
+#include "app/count/input_file_row.h"
+#include "app/count/window_count.h"
+#include "app/count/window_state.h"
 #include "app/count/word_list_reader.h"
+#include "app/list/word_lister.h"
+#include "app/window_flags.h"
 #include "engine/word_filters.h"
+#include "sources/count_request.h"
+#include "sources/count_result.h"
+#include "sources/output_rules.h"
 
 namespace quillomat {
 
 class CountRun {
  public:
-  CountRun(const RunContext& context, WordListReader& wordLists)
-      : context_(context),
+  /// All must outlive it.
+  CountRun(const WindowCount& count, ParamsForm& frmParams, WindowControls& controls,
+           WordLister& lister, WordListReader& wordLists, InputFileRow& inputRow, PathBoxes& paths,
+           const WindowFlags& flags, Desktop& desktop)
+      : count_(count),
+        frmParams_(frmParams),
+        controls_(controls),
+        lister_(lister),
         wordLists_(wordLists),
-        clipboard_(context),
-        file_(context),
-        extensions_(context),
-        folder_(context, file_, extensions_) {}
+        flags_(flags),
+        desktop_(desktop),
+        clipboard_(count, lister, desktop),
+        file_(count, inputRow, paths, desktop),
+        extensions_(count.frmMain, count.messages),
+        folder_(count, inputRow, paths, extensions_) {}
 
   /// The count command was clicked: starts a run, or asks the one that is at work to stop.
   void OnCountClick();
@@ -37,18 +53,24 @@ class CountRun {
   /// File output was switched on or off.
   void OnDisableOutputClick();
 
-  /// Whether a list of words stands that can be made anew.
-  [[nodiscard]] bool ListStands() const {
-    return context_.state.completeRun || context_.state.listAfterStop;
-  }
   /// The settings were restored. A list that stood before is made anew as they want it, in the text
   /// box alone; where its words are gone, or are not what the format needs, the box is emptied.
   void OnRestored(bool listStood);
 
-  [[nodiscard]] ClipboardSource& Clipboard() { return clipboard_; }
-  [[nodiscard]] FileSource& File() { return file_; }
+  // For a face that counts with Counter itself, without the window.
+
+  /// Checks what the boxes say, as before a count in the window; the user is told of what is wrong.
+  [[nodiscard]] bool Prepare(const CountedText& text);
+  /// What the controls ask for.
+  [[nodiscard]] CountRequest Request(CountSource source) const;
+  /// Makes the words of a count, ranked, those of the program, and shows their summary.
+  void Take(CountResult result, CountedText text);
+
   [[nodiscard]] FileExtensions& Extensions() { return extensions_; }
-  [[nodiscard]] FolderSource& Folder() { return folder_; }
+  [[nodiscard]] const FileExtensions& Extensions() const { return extensions_; }
+
+  /// What the last count of a folder had to skip.
+  [[nodiscard]] const std::vector<SkippedItem>& Skipped() const { return folder_.Skipped(); }
 
   /// A list was made, of words that were found, since the last count began.
   [[nodiscard]] bool ListWasMade() const { return listWasMade_; }
@@ -58,26 +80,31 @@ class CountRun {
 
   void RunCount();
   [[nodiscard]] bool PrepareRun();
-  [[nodiscard]] bool ScanSource();
-  [[nodiscard]] bool ScanSingleFile();
-  [[nodiscard]] bool ScanClipboard();
-  void ReportInputFileError(ScanFileResult code);
+  [[nodiscard]] bool MarkersStand() const;
+  [[nodiscard]] bool ExtensionsStand();
+  [[nodiscard]] bool ScanSource(const CountRequest& request);
+  [[nodiscard]] bool ScanSingleFile(const CountRequest& request);
+  [[nodiscard]] bool ScanClipboard(const CountRequest& request);
+  void ReportInputFileError(ScanFileResult code) const;
   [[nodiscard]] bool HandleInterruption();
-  [[nodiscard]] bool FolderHadFiles();
+  [[nodiscard]] bool FolderHadFiles() const;
   void ShowProcessingNotice();
   void DropProcessingNotice();
   void RankWords();
-  void FinishRun();
+  void FinishRun(const FilterChoices& filters);
   void ListAgain(ListTarget target);
 
-  const RunContext& context_;
+  const WindowCount& count_;
+  ParamsForm& frmParams_;
+  WindowControls& controls_;
+  WordLister& lister_;
   WordListReader& wordLists_;
+  const WindowFlags& flags_;
+  Desktop& desktop_;
   ClipboardSource clipboard_;
   FileSource file_;
   FileExtensions extensions_;
   FolderSource folder_;
-  /// As the panel stood when the count began, like all that a count goes by.
-  FilterChoices filterChoices_;
   /// The output with the processing notice, and as it was before.
   std::string shownNotice_;
   std::string outputBeforeNotice_;

@@ -15,7 +15,7 @@ constexpr std::string_view kInvalidInput = "Invalid input";
 }  // namespace
 
 bool FileExtensions::GetFileExtensions(ExtensionList which) {
-  TextBox& box = context_.frmMain.txbFileExtensions[static_cast<std::size_t>(which)];
+  TextBox& box = frmMain_.txbFileExtensions[static_cast<std::size_t>(which)];
   ParsedExtensions parsed = ParseExtensions(box.Text());
   box.SetText(JoinWithBlanks(parsed.entries));
   (which == ExtensionList::kIncluded ? filter_.only : filter_.except) = std::move(parsed.entries);
@@ -23,17 +23,16 @@ bool FileExtensions::GetFileExtensions(ExtensionList which) {
 }
 
 FileExtensions::BoxTexts FileExtensions::Texts() const {
-  const auto& boxes = context_.frmMain.txbFileExtensions;
+  const auto& boxes = frmMain_.txbFileExtensions;
   return {boxes[0].Text(), boxes[1].Text()};
 }
 
 void FileExtensions::TellTooMany(ExtensionList which) const {
   const bool included = which == ExtensionList::kIncluded;
   const std::string example = included ? "E.g.: txt htm html xml" : "E.g.: c cpp";
-  Refuse(context_,
-         std::string("Too many file extensions to ") + (included ? "include" : "exclude") + "." +
-             std::string(kCrLf) + example,
-         std::string(kInvalidInput));
+  messages_.Refuse(std::string("Too many file extensions to ") +
+                       (included ? "include" : "exclude") + "." + std::string(kCrLf) + example,
+                   std::string(kInvalidInput));
 }
 
 void FileExtensions::TellFaultsOnce(ExtensionList which, bool fits) {
@@ -64,10 +63,9 @@ void FileExtensions::TellFaults() const {
     return extension == "doc" || extension == "pdf";
   };
   if (std::ranges::any_of(filter_.only, isNoText)) {
-    Refuse(context_,
-           "MS-word .doc files and .pdf files are not text files" + std::string(kCrLf) +
-               "and cannot be scanned using this software.",
-           "No doc files");
+    messages_.Warn("MS-word .doc files and .pdf files are not text files" + std::string(kCrLf) +
+                       "and cannot be scanned using this software.",
+                   "No doc files");
   }
   static_cast<void>(CheckFileExtensions());
 }
@@ -76,10 +74,10 @@ bool FileExtensions::CheckFileExtensions() const {
   const std::optional<ExtensionFault> fault = FindExtensionFault(filter_);
   if (!fault) return true;
   const bool inBoth = fault->kind == ExtensionFault::Kind::kBothLists;
-  Refuse(context_,
-         "File extension '" + fault->extension + "'" +
-             (inBoth ? " is both included and excluded." : " contains an invalid character."),
-         std::string(kInvalidInput));
+  messages_.Refuse(
+      "File extension '" + fault->extension + "'" +
+          (inBoth ? " is both included and excluded." : " contains an invalid character."),
+      std::string(kInvalidInput));
   return false;
 }
 

@@ -7,8 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "app/count/run_context.h"
+#include "app/messages.h"
 #include "sources/extension_filter.h"
+#include "ui/main_form.h"
 
 namespace quillomat {
 
@@ -17,7 +18,9 @@ enum class ExtensionList { kIncluded = 0, kExcluded = 1 };
 
 class FileExtensions {
  public:
-  explicit FileExtensions(const RunContext& context) : context_(context) {}
+  /// Both must outlive it.
+  FileExtensions(MainForm& frmMain, const Messages& messages)
+      : frmMain_(frmMain), messages_(messages) {}
 
   /// Parses one of the two boxes and writes the entries that count back into it. Of too many
   /// entries these are the first kMaxExtensions of ExtensionFilter, and the result is false.
@@ -51,7 +54,8 @@ class FileExtensions {
   void TellFaults() const;
   [[nodiscard]] BoxTexts Texts() const;
 
-  const RunContext& context_;
+  MainForm& frmMain_;
+  const Messages& messages_;
   ExtensionFilter filter_;
   /// What the boxes held when the user was last told of their faults.
   std::optional<BoxTexts> checked_;

@@ -1,13 +1,13 @@
 #include "app/count/file_source.h"
 
-#include <array>
-#include <charconv>
+#include <utility>
 
 #include "app/count/progress_bar.h"
-#include "app/count/window_count.h"
+#include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "base/text_helpers.h"
 #include "system/file_system.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {
@@ -15,60 +15,43 @@ namespace {
 constexpr std::int64_t kLargeFileBytes = 200'000;
 constexpr std::string_view kInvalidInputFile = "Invalid input file";
 
-/// `amount` with two decimals.
-std::string TwoDecimals(double amount) {
-  std::array<char, 40> text{};
-  char* const end =
-      std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::fixed, 2)
-          .ptr;
-  return {text.data(), end};
-}
-
 class FileObserver final : public WindowObserver {
  public:
-  using WindowObserver::WindowObserver;
+  FileObserver(const WindowCount& count, CountedText text, Desktop& desktop)
+      : WindowObserver(count, std::move(text)), desktop_(desktop) {}
 
   void OnChecked() override {
-    ConcealNumWords(Context().frmMain, false);
+    ConcealNumWords(Count().frmMain, false);
     WindowObserver::OnChecked();
-    Context().desktop.Repaint();
+    desktop_.Repaint();
   }
+
+ private:
+  Desktop& desktop_;
 };
 
 }  // namespace
 
-std::string FileSizeText(std::int64_t bytes, std::string_view separator) {
-  constexpr std::int64_t kFirstInKilobytes = 10'000;
-  constexpr std::int64_t kKilobyte = 1024;
-  constexpr std::int64_t kMegabyte = kKilobyte * kKilobyte;
-  if (bytes < kFirstInKilobytes) return "Filesize: " + GroupDigits(bytes, separator) + " bytes";
-  const bool kilobytes = bytes < kMegabyte;
-  const double amount =
-      static_cast<double>(bytes) / static_cast<double>(kilobytes ? kKilobyte : kMegabyte);
-  return "Filesize: " + TwoDecimals(amount) + (kilobytes ? " KB" : " MB");
-}
-
-void TellNotText(const RunContext& context) {
+void TellNotText(const Messages& messages) {
   const std::string lineBreak(kCrLf);
-  Tell(context,
-       "The input file contains bytes indicating that it does not consist" + lineBreak +
-           "solely of text." + lineBreak + lineBreak +
-           "You could try reading the file using its associated application," + lineBreak +
-           "copying the text to the clipboard, and specifying the clipboard" + lineBreak +
-           "as the source of the text to be scanned.",
-       std::string(kInvalidInputFile), MessageIcon::kInformation);
+  messages.Tell("The input file contains bytes indicating that it does not consist" + lineBreak +
+                    "solely of text." + lineBreak + lineBreak +
+                    "You could try reading the file using its associated application," + lineBreak +
+                    "copying the text to the clipboard, and specifying the clipboard" + lineBreak +
+                    "as the source of the text to be scanned.",
+                std::string(kInvalidInputFile), MessageIcon::kInformation);
 }
 
-ScanFileResult FileSource::ScanFile() {
+ScanFileResult FileSource::ScanFile(CountRequest request) {
   if (const ScanFileResult refused = CheckPaths(); refused != ScanFileResult::kDone) {
     return refused;
   }
   if (!AskAboutLargeFile()) return ScanFileResult::kCancelled;
   if (OutputIsInput()) return ScanFileResult::kOutputIsInput;  // it may have been chosen only now
-  scanning_ = true;
-  FileObserver observer(context_, AsText());
-  const CountRequest request = RequestFromControls(context_, TextOfFile{path_});
-  const CountResult result = CountInWindow(context_, request, observer);
+  count_.run.SetScanning(true);
+  FileObserver observer(count_, AsText(), desktop_);
+  request.source = TextOfFile{path_};
+  const CountResult result = CountInWindow(count_, request, observer);
   if (result.end == CountEnd::kRefused) return TellRefusal(result.refusal);
   if (result.end == CountEnd::kFailed) {
     error_ = result.error;
@@ -79,8 +62,10 @@ ScanFileResult FileSource::ScanFile() {
 }
 
 ScanFileResult FileSource::CheckPaths() {
-  if (InputPath().empty()) return ScanFileResult::kNotSpecified;
-  if (const ScanFileResult result = CheckInputFile(InputPath()); result != ScanFileResult::kDone) {
+  const std::string named = count_.frmMain.txbFile[0].Text();
+  path_ = TrimBlanks(named);
+  if (named.empty()) return ScanFileResult::kNotSpecified;
+  if (const ScanFileResult result = row_.CheckInputFile(named); result != ScanFileResult::kDone) {
     return result;
   }
   return OutputIsInput() ? ScanFileResult::kOutputIsInput : ScanFileResult::kDone;
@@ -91,70 +76,53 @@ CountedText FileSource::AsText() const {
 }
 
 bool FileSource::OutputIsInput() const {
-  return WhyNotToWrite(context_.frmMain.txbFile[1].Text(), AsText()).has_value();
-}
-
-ScanFileResult FileSource::CheckInputFile(const std::string& path) {
-  path_ = TrimBlanks(path);
-  ScanFileResult result = ScanFileResult::kDone;
-  std::optional<std::int64_t> bytes;
-  if (!path_.empty() && IsPathSeparator(path_.back())) {
-    result = ScanFileResult::kFolderNotFile;
-    if (context_.state.blnStartUpCompleted) context_.frmMain.txbFile[0].SetText("");
-  } else {
-    bytes = FileLength(path_);
-    if (!bytes && !FileExists(path_)) result = ScanFileResult::kNotFound;
-  }
-  ShowFileSize(bytes);
-  return result;
-}
-
-void FileSource::ShowFileSize(std::optional<std::int64_t> bytes) {
-  context_.frmMain.lblFilesize.SetCaption(
-      bytes ? FileSizeText(*bytes, context_.desktop.DigitGroupSeparator()) : "");
+  return WhyNotToWrite(count_.frmMain.txbFile[1].Text(), AsText()).has_value();
 }
 
 /// False when the user cancels. Only asked when an earlier scan ended early.
 bool FileSource::AskAboutLargeFile() {
-  const bool mayOverflow = scanning_ && context_.frmMain.txbFile[1].Text().empty() &&
+  TextBox& outputBox = count_.frmMain.txbFile[1];
+  const bool mayOverflow = count_.run.Scanning() && outputBox.Text().empty() &&
                            FileLength(path_).value_or(0) > kLargeFileBytes;
   if (!mayOverflow) return true;
-  const MessageAnswer answer = context_.desktop.ShowMessage(
-      {"The input file is quite large.  It is advisable to specify an output file "
-       "before continuing," +
-           std::string(kCrLf) +
-           "in case the text window will not hold the result. "
-           "Do you wish to specify an output file?",
-       "Large input file", MessageIcon::kQuestion, MessageButtons::kYesNoCancel});
-  if (answer == MessageAnswer::kCancel) return false;
-  if (answer == MessageAnswer::kYes) chooseOutputFile_();
-  return true;
+  const MessageAnswer answer = count_.messages.Ask(
+      "The input file is quite large.  It is advisable to specify an output file "
+      "before continuing," +
+          std::string(kCrLf) +
+          "in case the text window will not hold the result. "
+          "Do you wish to specify an output file?",
+      "Large input file", MessageButtons::kYesNoCancel);
+  if (answer == MessageAnswer::kYes) {
+    paths_.ChooseOutputFile(outputBox);
+    SetTheFocus(count_.frmMain);
+  }
+  return answer != MessageAnswer::kCancel;
 }
 
 ScanFileResult FileSource::TellRefusal(Refusal refusal) const {
   const std::string title(kInvalidInputFile);
   switch (refusal) {
     case Refusal::kNotText:
-      TellNotText(context_);
+      TellNotText(count_.messages);
       return ScanFileResult::kNotText;
     case Refusal::kEmpty:
-      Refuse(context_, "This is a zero-length file.", title);
+      count_.messages.Refuse("This is a zero-length file.", title);
       return ScanFileResult::kZeroLength;
     default:  // it may have vanished only now
-      Refuse(context_, "This file cannot be opened.", title);
+      count_.messages.Refuse("This file cannot be opened.", title);
       return ScanFileResult::kCannotBeOpened;
   }
 }
 
 void FileSource::FinishFile() {
   EndProgressBar();
-  context_.frmMain.lblNumWordsExcluded.SetCaption("");
-  scanning_ = false;
-  context_.frmMain.lblTwirler.SetCaption(" ");
+  count_.frmMain.lblNumWordsExcluded.SetCaption("");
+  count_.run.SetScanning(false);
+  count_.frmMain.lblTwirler.SetCaption(" ");
 }
 
 void FileSource::EndProgressBar() {
-  ProgressBar(context_.frmMain.lblTotalNumOccurrences).EndProgressBar();
+  ProgressBar(count_.frmMain.lblTotalNumOccurrences).EndProgressBar();
 }
 
 }  // namespace quillomat

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "app/count/named_text.h"
+#include "app/list/set_the_focus.h"
 #include "base/text_helpers.h"
 #include "system/paths.h"
 
 namespace quillomat {
 
-std::string ShownPath(const RunContext& context, const std::string& path) {
-  const std::string& chosen = context.frmMain.txbFolder.Text();
+std::string ShownPath(const MainForm& frmMain, const std::string& path) {
+  const std::string& chosen = frmMain.txbFolder.Text();
   for (const std::string& folder : {chosen, PathForWalk(chosen)}) {
     if (path.starts_with(folder)) return "{Folder}" + path.substr(folder.size());
   }
@@ -27,41 +28,35 @@ std::string ReasonText(const SkippedFile& skipped) {
   }
 }
 
-void WritePathLine(const RunContext& context, const std::string& path) {
-  context.output.OutputToTxb(std::string(kCrLf) + ShownPath(context, path));
+void WritePathLine(const WindowCount& count, const std::string& path) {
+  count.output.OutputToTxb(std::string(kCrLf) + ShownPath(count.frmMain, path));
 }
 
-void WriteSkipped(const RunContext& context, const SkippedFile& skipped) {
-  context.output.OutputToTxb(" (skipped: " + ReasonText(skipped) + ")");
+void WriteSkipped(const WindowCount& count, const SkippedFile& skipped) {
+  count.output.OutputToTxb(" (skipped: " + ReasonText(skipped) + ")");
 }
 
-bool AskAboutManyFiles(const RunContext& context, std::int32_t files,
+bool AskAboutManyFiles(const Messages& messages, std::int32_t files,
                        const std::string& outputPath) {
   if (files <= 1 || !outputPath.empty()) return true;
-  const MessageAnswer answer = context.desktop.ShowMessage(
-      {"When scanning multiple files or folders" + std::string(kCrLf) +
-           "you must specify an output file in case" + std::string(kCrLf) +
-           "the text window will not hold the result.",
-       "Multiple files/folders", MessageIcon::kQuestion, MessageButtons::kOkCancel});
+  const MessageAnswer answer =
+      messages.Ask("When scanning multiple files or folders" + std::string(kCrLf) +
+                       "you must specify an output file in case" + std::string(kCrLf) +
+                       "the text window will not hold the result.",
+                   "Multiple files/folders", MessageButtons::kOkCancel);
   return answer != MessageAnswer::kCancel;
 }
 
-FolderObserver::FilesInTurn::FilesInTurn(const RunContext& context, FileSource& fileSource)
-    : frmMain_(context.frmMain),
-      fileSource_(fileSource),
-      progress_(context.frmMain.lblNumOccurrences),
-      usersPath_(frmMain_.txbFile[0].Text()),
-      usersFilesize_(frmMain_.lblFilesize.Caption()) {
-  fileSource_.SetScanning(true);
+FolderObserver::FilesInTurn::FilesInTurn(const WindowCount& count, InputFileRow& row)
+    : count_(count), loan_(row), progress_(count.frmMain.lblNumOccurrences) {
+  count_.run.SetScanning(true);
   progress_.StartProgressBar();
 }
 
 FolderObserver::FilesInTurn::~FilesInTurn() {
   progress_.EndProgressBar();
-  fileSource_.EndProgressBar();
-  fileSource_.SetScanning(false);
-  frmMain_.txbFile[0].SetText(usersPath_);
-  frmMain_.lblFilesize.SetCaption(usersFilesize_);
+  ProgressBar(count_.frmMain.lblTotalNumOccurrences).EndProgressBar();
+  count_.run.SetScanning(false);
 }
 
 void FolderObserver::FilesInTurn::ShowDone(std::int32_t files, std::int32_t of) {
@@ -74,42 +69,43 @@ void FolderObserver::FilesInTurn::ShowProgress(const CountProgress& progress) {
       {progress.runBytesRead, progress.bytesInRun, file, std::max(progress.filesInRun, file)});
 }
 
-FolderObserver::FolderObserver(const RunContext& context, FileSource& fileSource)
-    : WindowObserver(context, TextNamedIn(context.frmMain)), fileSource_(fileSource) {}
+FolderObserver::FolderObserver(const WindowCount& count, InputFileRow& row, PathBoxes& paths)
+    : WindowObserver(count, TextNamedIn(count.frmMain)), row_(row), paths_(paths) {}
 
 /// Each of the first files is shown, then every fifth.
 void FolderObserver::OnFileCounted(std::int32_t files, std::int32_t /*folders*/) {
   constexpr std::int32_t kShownOneByOne = 9;
   constexpr std::int32_t kShownEvery = 5;
   if (files > kShownOneByOne && files % kShownEvery != 0) return;
-  Context().frmMain.txbOutput.SetText("Counting files . . . " + Grouped(Context(), files));
+  Count().frmMain.txbOutput.SetText("Counting files . . . " + Count().messages.Grouped(files));
 }
 
 /// False when the user cancels the run.
 bool FolderObserver::GoOn(std::int32_t files, std::int32_t /*folders*/, std::string& outputPath) {
-  if (!AskAboutManyFiles(Context(), files, outputPath)) return false;
+  if (!AskAboutManyFiles(Count().messages, files, outputPath)) return false;
   if (files > 1 && outputPath.empty()) {
-    fileSource_.ChooseOutputFile();
-    outputPath = Context().frmMain.txbFile[1].Text();
+    TextBox& outputBox = Count().frmMain.txbFile[1];
+    paths_.ChooseOutputFile(outputBox);
+    SetTheFocus(Count().frmMain);
+    outputPath = outputBox.Text();
   }
-  Context().state.StopRequested = false;
+  Count().run.ForgetStop();
   return true;
 }
 
 void FolderObserver::OnScanBegins() {
   WindowObserver::OnScanBegins();
-  filesInTurn_.emplace(Context(), fileSource_);
+  filesInTurn_.emplace(Count(), row_);
 }
 
 void FolderObserver::OnFileMet(const std::string& path, const CountProgress& progress) {
-  Context().frmMain.txbFile[0].SetText(path);
-  WritePathLine(Context(), path);
+  row_.ShowPath(path);
+  WritePathLine(Count(), path);
   filesInTurn_->ShowProgress(progress);
 }
 
 void FolderObserver::OnFileBegins(const FileBegins& file) {
-  Context().frmMain.lblFilesize.SetCaption(
-      FileSizeText(file.bytes, Context().desktop.DigitGroupSeparator()));
+  row_.ShowFileSize(file.bytes);
   WindowObserver::OnFileBegins(file);
 }
 
@@ -120,14 +116,14 @@ void FolderObserver::OnProgress(const CountProgress& progress) {
 
 void FolderObserver::OnFileEnds(const FileReport& /*report*/, const CountProgress& progress) {
   FileProgress().EndProgressBar();
-  Context().frmMain.lblTwirler.SetCaption(" ");
+  Count().frmMain.lblTwirler.SetCaption(" ");
   filesInTurn_->ShowDone(progress.filesDone, progress.filesInRun);
 }
 
 void FolderObserver::OnSkipped(const SkippedFile& skipped) {
   if (!IsFault(skipped.reason)) return;
-  if (skipped.reason == Refusal::kFolderUnreadable) WritePathLine(Context(), skipped.path);
-  WriteSkipped(Context(), skipped);
+  if (skipped.reason == Refusal::kFolderUnreadable) WritePathLine(Count(), skipped.path);
+  WriteSkipped(Count(), skipped);
 }
 
 }  // namespace quillomat

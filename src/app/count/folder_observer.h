@@ -6,30 +6,30 @@
 #include <optional>
 #include <string>
 
-#include "app/count/file_source.h"
+#include "app/count/input_file_row.h"
+#include "app/count/path_boxes.h"
 #include "app/count/progress_bar.h"
-#include "app/count/run_context.h"
 #include "app/count/window_count.h"
 
 namespace quillomat {
 
 /// The path with the chosen folder's name in place of its path.
-[[nodiscard]] std::string ShownPath(const RunContext& context, const std::string& path);
+[[nodiscard]] std::string ShownPath(const MainForm& frmMain, const std::string& path);
 /// Why a file or a folder was skipped, in words.
 [[nodiscard]] std::string ReasonText(const SkippedFile& skipped);
 
 /// Writes a path on a line of its own into the output text box.
-void WritePathLine(const RunContext& context, const std::string& path);
+void WritePathLine(const WindowCount& count, const std::string& path);
 /// Writes behind it that it was skipped.
-void WriteSkipped(const RunContext& context, const SkippedFile& skipped);
+void WriteSkipped(const WindowCount& count, const SkippedFile& skipped);
 
 /// Asks whether so many files shall be counted without an output file; false when the user cancels.
-[[nodiscard]] bool AskAboutManyFiles(const RunContext& context, std::int32_t files,
+[[nodiscard]] bool AskAboutManyFiles(const Messages& messages, std::int32_t files,
                                      const std::string& outputPath);
 
 class FolderObserver final : public WindowObserver {
  public:
-  FolderObserver(const RunContext& context, FileSource& fileSource);
+  FolderObserver(const WindowCount& count, InputFileRow& row, PathBoxes& paths);
 
   void OnFileCounted(std::int32_t files, std::int32_t folders) override;
   [[nodiscard]] bool GoOn(std::int32_t files, std::int32_t folders,
@@ -42,11 +42,11 @@ class FolderObserver final : public WindowObserver {
   void OnSkipped(const SkippedFile& skipped) override;
 
  private:
-  /// While it lives, the input box shows one file of the folder after the other, and a progress bar
-  /// follows them; afterwards the user's own input file stands in the box again.
+  /// While it lives, the input row shows one file of the folder after the other, and a progress bar
+  /// follows them; afterwards the user's own input file stands there again.
   class FilesInTurn {
    public:
-    FilesInTurn(const RunContext& context, FileSource& fileSource);
+    FilesInTurn(const WindowCount& count, InputFileRow& row);
     FilesInTurn(const FilesInTurn&) = delete;
     FilesInTurn& operator=(const FilesInTurn&) = delete;
     FilesInTurn(FilesInTurn&&) = delete;
@@ -58,14 +58,13 @@ class FolderObserver final : public WindowObserver {
     void ShowProgress(const CountProgress& progress);
 
    private:
-    MainForm& frmMain_;
-    FileSource& fileSource_;
+    const WindowCount& count_;
+    InputFileRow::Loan loan_;
     ProgressBar progress_;
-    std::string usersPath_;
-    std::string usersFilesize_;
   };
 
-  FileSource& fileSource_;
+  InputFileRow& row_;
+  PathBoxes& paths_;
   std::optional<FilesInTurn> filesInTurn_;
 };
 

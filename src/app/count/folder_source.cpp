@@ -26,18 +26,18 @@ std::string FilesInFolders(std::int32_t files, std::int32_t folders, std::string
 }
 
 TextOfFolder FolderSource::Folder() const {
-  const MainForm& frmMain = context_.frmMain;
+  const MainForm& frmMain = count_.frmMain;
   return {frmMain.txbFolder.Text(), frmMain.chkIncludeSubfolders.IsChecked(), extensions_.Filter()};
 }
 
-bool FolderSource::ScanFolder() {
-  CountRequest request = RequestFromControls(context_, Folder());
+bool FolderSource::ScanFolder(CountRequest request) {
+  request.source = Folder();
   request.countingPass = CountingPass::kFilesAndBytes;
-  request.outputPath = context_.frmMain.txbFile[1].Text();
+  request.outputPath = count_.frmMain.txbFile[1].Text();
   CountResult result;
   {
-    FolderObserver observer(context_, fileSource_);
-    result = CountInWindow(context_, request, observer);
+    FolderObserver observer(count_, row_, paths_);
+    result = CountInWindow(count_, request, observer);
   }
   if (result.end == CountEnd::kRefused) {
     TellRefusal(result);
@@ -49,10 +49,7 @@ bool FolderSource::ScanFolder() {
   }
   TakeSkipped(result);
   if (result.end == CountEnd::kFailed) throw RunTimeError(*result.error);
-  CountState& state = context_.state;
-  state.filesScanned = result.files;
-  state.foldersScanned = result.folders;
-  state.skippedNotice = SkippedNotice(result);
+  count_.words.folder = {result.files, result.folders, SkippedNotice(result)};
   OutputLine(result.files == 0 ? "No files were scanned."
                                : FilesIn(result.files, result.folders) +
                                      (result.files == 1 ? " was scanned." : " were scanned."));
@@ -62,19 +59,20 @@ bool FolderSource::ScanFolder() {
 void FolderSource::TellRefusal(const CountResult& result) const {
   switch (result.refusal) {
     case Refusal::kNothingNamed:
-      Refuse(context_, "Folder not specified.", "Error");
+      count_.messages.Refuse("Folder not specified.", "Error");
       break;
     case Refusal::kFolderNotFound:
-      Refuse(context_, "Folder does not exist", "Invalid input");
+      count_.messages.Refuse("Folder does not exist", "Invalid input");
       break;
     case Refusal::kFolderHasNoFiles:
-      Refuse(context_, "Folder contains no files.", "Nothing to do");
+      count_.messages.Refuse("Folder contains no files.", "Nothing to do");
       break;
     case Refusal::kFolderUnreadable:
-      Refuse(context_, "Folder cannot be read: " + result.error->Description() + ".", "Error");
+      count_.messages.Refuse("Folder cannot be read: " + result.error->Description() + ".",
+                             "Error");
       break;
     case Refusal::kOutputInFolder:
-      context_.desktop.ShowMessage(OutputRefusal(NeededAs::kPartOfFolder));
+      RefuseOutputFile(count_.messages, NeededAs::kPartOfFolder);
       break;
     default:
       break;  // the user knows: the run was cancelled
@@ -85,14 +83,14 @@ void FolderSource::ListFiles() {
   // Nothing is counted, so markers and extensions that a count is refused for do no harm.
   CountRequest request;
   request.source = TextOfFolder{Folder().path, Folder().subfolders, {}};
-  request.outputPath = context_.frmMain.txbFile[1].Text();
+  request.outputPath = count_.frmMain.txbFile[1].Text();
   CountResult check;
   check.refusal = Counter::Check(request, check.error);
   if (check.refusal != Refusal::kNone) return TellRefusal(check);
-  EnterPhase(context_, RunPhase::kCounting);
+  count_.run.EnterPhase(RunPhase::kCounting);
   std::int32_t files = 0;
   std::int32_t folders = 1;
-  const auto writePath = [this](const std::string& path) { WritePathLine(context_, path); };
+  const auto writePath = [this](const std::string& path) { WritePathLine(count_, path); };
   WalkFolder(Folder(), {.onFile =
                             [&](const std::string& path) {
                               ++files;
@@ -102,14 +100,10 @@ void FolderSource::ListFiles() {
                         .onUnreadableFolder =
                             [&](const std::string& path) {
                               writePath(path);
-                              WriteSkipped(context_, {path, Refusal::kFolderUnreadable, {}});
+                              WriteSkipped(count_, {path, Refusal::kFolderUnreadable, {}});
                             },
-                        .stops =
-                            [this] {
-                              context_.pump.Yield();
-                              return context_.state.StopRequested;
-                            }});
-  if (context_.state.StopRequested) return TellStoppedCounting(files, folders);
+                        .stops = [this] { return count_.run.Yield(); }});
+  if (count_.run.StopRequested()) return TellStoppedCounting(files, folders);
   OutputLine(files == 0 ? "No files will be scanned."
                         : FilesIn(files, folders) + " will be scanned.");
 }
@@ -119,7 +113,7 @@ void FolderSource::TellStoppedCounting(std::int32_t files, std::int32_t folders)
 }
 
 std::string FolderSource::FilesIn(std::int32_t files, std::int32_t folders) const {
-  return FilesInFolders(files, folders, context_.desktop.DigitGroupSeparator());
+  return FilesInFolders(files, folders, count_.messages.DigitGroupSeparator());
 }
 
 void FolderSource::TakeSkipped(const CountResult& result) {
@@ -135,19 +129,20 @@ std::string FolderSource::SkippedNotice(const CountResult& result) const {
   const std::size_t shown = std::min(skipped_.size(), kShownInList);
   std::string notice;
   for (std::size_t i = 0; i < shown; ++i) {
-    notice.append("Skipped: ").append(ShownPath(context_, skipped_[i].path));
+    notice.append("Skipped: ").append(ShownPath(count_.frmMain, skipped_[i].path));
     notice.append(" (").append(skipped_[i].reason).append(")").append(kCrLf);
   }
   const std::int64_t more = result.skippedInAll - static_cast<std::int64_t>(shown);
-  if (more > 0) notice.append("Skipped: ").append(Grouped(context_, more)).append(" more\r\n");
+  if (more > 0)
+    notice.append("Skipped: ").append(count_.messages.Grouped(more)).append(" more\r\n");
   return notice;
 }
 
 /// Puts `line` on a line of its own.
 void FolderSource::OutputLine(const std::string& line) const {
   const bool mustBreak =
-      !context_.output.IsEmpty() && !context_.frmMain.txbOutput.Text().ends_with(kCrLf);
-  context_.output.OutputToTxb(mustBreak ? std::string(kCrLf) + line : line);
+      !count_.output.IsEmpty() && !count_.frmMain.txbOutput.Text().ends_with(kCrLf);
+  count_.output.OutputToTxb(mustBreak ? std::string(kCrLf) + line : line);
 }
 
 }  // namespace quillomat

@@ -8,8 +8,9 @@
 #include <vector>
 
 #include "app/count/file_extensions.h"
-#include "app/count/file_source.h"
-#include "app/count/run_context.h"
+#include "app/count/input_file_row.h"
+#include "app/count/path_boxes.h"
+#include "app/count/window_count.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
 
@@ -27,12 +28,14 @@ struct SkippedItem {
 
 class FolderSource {
  public:
-  FolderSource(const RunContext& context, FileSource& fileSource, const FileExtensions& extensions)
-      : context_(context), fileSource_(fileSource), extensions_(extensions) {}
+  /// All must outlive it.
+  FolderSource(const WindowCount& count, InputFileRow& row, PathBoxes& paths,
+               const FileExtensions& extensions)
+      : count_(count), row_(row), paths_(paths), extensions_(extensions) {}
 
-  /// Counts the words of the folder's files. Tells the user what is wrong and returns false. Throws
-  /// RunTimeError when a counter overflows.
-  [[nodiscard]] bool ScanFolder();
+  /// Counts the words of the folder's files, as the request wants it but for its source. Tells the
+  /// user what is wrong and returns false. Throws RunTimeError when a counter overflows.
+  [[nodiscard]] bool ScanFolder(CountRequest request);
 
   /// Lists the files that a count would read.
   void ListFiles();
@@ -49,8 +52,9 @@ class FolderSource {
   [[nodiscard]] std::string FilesIn(std::int32_t files, std::int32_t folders) const;
   void OutputLine(const std::string& line) const;
 
-  const RunContext& context_;
-  FileSource& fileSource_;
+  const WindowCount& count_;
+  InputFileRow& row_;
+  PathBoxes& paths_;
   const FileExtensions& extensions_;
   std::vector<SkippedItem> skipped_;
 };

@@ -12,19 +12,19 @@ bool IsWorthAWarning(LineEndingType type) {
          (type == LineEndingType::kUnix && !unixAtHome);
 }
 
-void ShowLineEndingWarning(const RunContext& context, LineEndingType type) {
+void ShowLineEndingWarning(const Messages& messages, LineEndingType type) {
   const std::string title = "Warning";
   switch (type) {
     case LineEndingType::kDos:
       return;
     case LineEndingType::kZeroLength:
-      return Refuse(context, "This is a zero-length file.", title);
+      return messages.Warn("This is a zero-length file.", title);
     case LineEndingType::kUnix:
-      return Refuse(context, "This file has Unix/Linux line endings.", title);
+      return messages.Warn("This file has Unix/Linux line endings.", title);
     case LineEndingType::kMacintosh:
-      return Refuse(context, "This file has Macintosh line endings.", title);
+      return messages.Warn("This file has Macintosh line endings.", title);
     default:
-      return Refuse(context, "This file has line endings of an unknown type.", title);
+      return messages.Warn("This file has line endings of an unknown type.", title);
   }
 }
 

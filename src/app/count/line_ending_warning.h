@@ -2,7 +2,7 @@
 // the same.
 #pragma once
 
-#include "app/count/run_context.h"
+#include "app/messages.h"
 #include "sources/line_endings.h"
 
 namespace quillomat {
@@ -12,6 +12,6 @@ namespace quillomat {
 [[nodiscard]] bool IsWorthAWarning(LineEndingType type);
 
 /// Tells the user about the line ends. DOS files are never worth a word.
-void ShowLineEndingWarning(const RunContext& context, LineEndingType type);
+void ShowLineEndingWarning(const Messages& messages, LineEndingType type);
 
 }  // namespace quillomat

@@ -9,13 +9,6 @@
 namespace quillomat {
 namespace {
 
-/// "" where nobody is asked for paths.
-std::string UsualFolder(const RunContext& context) {
-  const std::string documents = context.desktop.DocumentsFolder();
-  if (documents.empty()) return {};
-  return FolderExists(context.state.lastFolder) ? context.state.lastFolder : documents;
-}
-
 /// The path itself if it is a folder's, else its folder; "" when neither is there.
 std::string NearestFolder(const std::string& path) {
   if (FolderExists(path)) return path;
@@ -23,46 +16,63 @@ std::string NearestFolder(const std::string& path) {
   return FolderExists(folder) ? folder : std::string();
 }
 
-std::string FolderToOpen(const TextBox& box, const RunContext& context) {
-  const std::string usual = UsualFolder(context);
+}  // namespace
+
+/// "" where nobody is asked for paths.
+std::string PathBoxes::UsualFolder() {
+  const std::string documents = desktop_.DocumentsFolder();
+  if (documents.empty()) return {};
+  return FolderExists(lastFolder_) ? lastFolder_ : documents;
+}
+
+std::string PathBoxes::FolderToOpen(const TextBox& box) {
+  const std::string usual = UsualFolder();
   const std::string named = NearestFolder(FullPathIn(usual, std::string(TrimBlanks(box.Text()))));
   return named.empty() ? usual : named;
 }
 
-}  // namespace
-
-std::optional<std::string> ChooseFileFor(const TextBox& box, FileDialog dialog,
-                                         const RunContext& context) {
-  dialog.folder = FolderToOpen(box, context);
-  std::optional<std::string> path = context.desktop.ChooseFile(dialog);
-  if (path) RememberFolderOf(*path, context);
+std::optional<std::string> PathBoxes::ChooseFileFor(const TextBox& box, FileDialog dialog) {
+  dialog.folder = FolderToOpen(box);
+  std::optional<std::string> path = desktop_.ChooseFile(dialog);
+  if (path) RememberFolderOf(*path);
   return path;
 }
 
-std::optional<std::string> ChooseFolderFor(const TextBox& box, const std::string& title,
-                                           const RunContext& context) {
-  std::optional<std::string> path =
-      context.desktop.BrowseForFolder(title, FolderToOpen(box, context));
-  if (path) RememberFolderOf(*path, context);
+std::optional<std::string> PathBoxes::ChooseFolderFor(const TextBox& box,
+                                                      const std::string& title) {
+  std::optional<std::string> path = desktop_.BrowseForFolder(title, FolderToOpen(box));
+  if (path) RememberFolderOf(*path);
   return path;
 }
 
-void CompletePathIn(TextBox& box, const RunContext& context) {
-  const std::string usual = UsualFolder(context);
+/// The list asks before it overwrites, so the dialog does not.
+void PathBoxes::ChooseOutputFile(TextBox& box) {
+  FileDialog dialog;
+  dialog.mode = FileDialog::Mode::kSave;
+  dialog.title = "Specify output file";
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.hideReadOnly = true;
+  dialog.noReadOnlyReturn = true;
+  if (const auto path = ChooseFileFor(box, dialog)) box.SetText(*path);
+}
+
+void PathBoxes::CompletePathIn(TextBox& box) {
+  const std::string usual = UsualFolder();
   const std::string path(TrimBlanks(box.Text()));
   if (usual.empty() || path.empty()) return;
   const std::string full = FullPathIn(usual, path);
   if (full != path) box.SetText(full);
-  RememberFolderOf(full, context);
+  RememberFolderOf(full);
 }
 
 /// A name that is typed next is most often an output file's, which may not lie in the folder that
 /// is counted; and in a root nobody keeps files.
-void RememberFolderOf(const std::string& path, const RunContext& context) {
+void PathBoxes::RememberFolderOf(const std::string& path) {
   std::string folder = FolderPartOf(path);
   if (FileNamePartOf(path).empty()) folder = FolderPartOf(folder);  // it ends with a separator
   const bool isRoot = FolderPartOf(folder) == folder;
-  if (!isRoot && FolderExists(folder)) context.state.lastFolder = std::move(folder);
+  if (!isRoot && FolderExists(folder)) lastFolder_ = std::move(folder);
 }
 
 }  // namespace quillomat

@@ -4,27 +4,46 @@
 #include <optional>
 #include <string>
 
-#include "app/count/run_context.h"
+#include "ui/controls.h"
+#include "ui/desktop.h"
 
 namespace quillomat {
 
-/// Asks for a file for a box. The dialog opens in the folder of the box's path, else in the folder
-/// used last, else in the user's documents. The box is left as it is.
-[[nodiscard]] std::optional<std::string> ChooseFileFor(const TextBox& box, FileDialog dialog,
-                                                       const RunContext& context);
+class PathBoxes {
+ public:
+  /// `desktop` must outlive it.
+  explicit PathBoxes(Desktop& desktop) : desktop_(desktop) {}
 
-/// The same for a folder.
-[[nodiscard]] std::optional<std::string> ChooseFolderFor(const TextBox& box,
-                                                         const std::string& title,
-                                                         const RunContext& context);
+  /// Asks for a file for a box. The dialog opens in the folder of the box's path, else in the
+  /// folder used last, else in the user's documents. The box is left as it is.
+  [[nodiscard]] std::optional<std::string> ChooseFileFor(const TextBox& box, FileDialog dialog);
 
-/// A path that starts at no root becomes a full one, in the folder used last, else in the user's
-/// documents: the program's current folder means nothing to the user. To be called when the box is
-/// left.
-void CompletePathIn(TextBox& box, const RunContext& context);
+  /// The same for a folder.
+  [[nodiscard]] std::optional<std::string> ChooseFolderFor(const TextBox& box,
+                                                           const std::string& title);
 
-/// The user has chosen or named this file or folder: the next dialog opens in the folder where it
-/// lies, unless that is a root.
-void RememberFolderOf(const std::string& path, const RunContext& context);
+  /// Asks for the output file, and puts it into its box.
+  void ChooseOutputFile(TextBox& box);
+
+  /// A path that starts at no root becomes a full one, in the folder used last, else in the user's
+  /// documents: the program's current folder means nothing to the user. To be called when the box
+  /// is left.
+  void CompletePathIn(TextBox& box);
+
+  /// The user has chosen or named this file or folder: the next dialog opens in the folder where it
+  /// lies, unless that is a root.
+  void RememberFolderOf(const std::string& path);
+
+  /// Where the file or the folder lies that the user chose or named last; "" for none yet.
+  [[nodiscard]] const std::string& LastFolder() const { return lastFolder_; }
+  void SetLastFolder(std::string folder) { lastFolder_ = std::move(folder); }
+
+ private:
+  [[nodiscard]] std::string UsualFolder();
+  [[nodiscard]] std::string FolderToOpen(const TextBox& box);
+
+  Desktop& desktop_;
+  std::string lastFolder_;
+};
 
 }  // namespace quillomat

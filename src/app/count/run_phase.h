@@ -20,11 +20,17 @@ enum class RunPhase : std::uint8_t {
   kListingAgain,
   /// A words file or a saved state is read.
   kReading,
+  /// The user has asked a count or a list to stop, and it has not ended yet.
+  kStopping,
 };
+
+/// What the count command says.
+enum class CountCaption : std::uint8_t { kCount, kStop };
 
 /// What can be used in a phase; what no column is about can be used in every one.
 struct PhaseRules {
-  /// The count command stops what is done, and says so.
+  CountCaption caption = CountCaption::kCount;
+  /// The count command stops what is done.
   bool stops = false;
   /// The buttons that choose the source of the text.
   bool sourceOptions = false;
@@ -37,14 +43,15 @@ struct PhaseRules {
 };
 
 // clang-format off
-inline constexpr std::array<PhaseRules, 6> kPhaseRules = {{
-    //                   stops  sourceOptions listOptions commands wordCommands
-    /* kIdle         */ {false, true,         true,       true,    true},
-    /* kChecking     */ {false, false,        false,      true,    false},
-    /* kCounting     */ {true,  false,        false,      false,   false},
-    /* kListing      */ {true,  false,        false,      false,   false},
-    /* kListingAgain */ {true,  true,         false,      true,    false},
-    /* kReading      */ {false, true,         true,       true,    false},
+inline constexpr std::array<PhaseRules, 7> kPhaseRules = {{
+    //                   caption               stops  sourceOptions listOptions commands wordCommands
+    /* kIdle         */ {CountCaption::kCount, false, true,         true,       true,    true},
+    /* kChecking     */ {CountCaption::kCount, false, false,        false,      true,    false},
+    /* kCounting     */ {CountCaption::kStop,  true,  false,        false,      false,   false},
+    /* kListing      */ {CountCaption::kStop,  true,  false,        false,      false,   false},
+    /* kListingAgain */ {CountCaption::kStop,  true,  true,         false,      true,    false},
+    /* kReading      */ {CountCaption::kCount, false, true,         true,       true,    false},
+    /* kStopping     */ {CountCaption::kStop,  false, false,        false,      false,   false},
 }};
 // clang-format on
 

@@ -4,37 +4,37 @@
 #include <utility>
 
 #include "app/count/panel_choices.h"
-#include "app/count/window_state.h"
 #include "app/list/summary.h"
 #include "sources/counter.h"
 
 namespace quillomat {
 
-CountRequest RequestFromControls(const RunContext& context, CountSource source) {
-  const CountState& state = context.state;
+CountRequest RequestFromControls(ParamsForm& frmParams, const InForce& inForce,
+                                 CountSource source) {
   CountRequest request;
   request.source = std::move(source);
-  request.scan = ReadScanChoices(context.frmParams);
-  request.filters = ReadFilterChoices(context.frmParams);
-  request.lists = state.lists;
-  request.openComment = state.settings.OpenComment;
-  request.threads = state.scanThreads;
+  request.scan = ReadScanChoices(frmParams);
+  request.filters = ReadFilterChoices(frmParams);
+  request.lists = inForce.lists;
+  request.openComment = inForce.settings.OpenComment;
+  request.threads = inForce.scanThreads;
   return request;
 }
 
 void WindowObserver::OnScanBegins() {
   scanHasBegun_ = true;
-  HideNoticeLabels(context_.frmMain);
-  context_.state.DiscardWords();
-  context_.state.counted = text_;
+  HideNoticeLabels(count_.frmMain);
+  count_.words.Discard();
+  count_.words.counted = text_;
 }
 
 void WindowObserver::OnFileBegins(const FileBegins& file) {
   std::string caption;
   if (file.lineEnds == LineEndingType::kUnix) caption = "This is a Unix-type file.";
   if (file.lineEnds == LineEndingType::kMacintosh) caption = "This is a Macintosh-type file.";
-  context_.frmMain.lblNumWordsExcluded.SetCaption(caption);
-  context_.frmMain.lblNumWordsExcluded.SetVisible(true);
+  Label& label = count_.frmMain.lblNumWordsExcluded;
+  label.SetCaption(caption);
+  label.SetVisible(true);
   unixFile_ = file.lineEnds == LineEndingType::kUnix;
   if (file.bytes > CountProgress::kInstantBytes) fileProgress_.StartProgressBar();
 }
@@ -46,15 +46,14 @@ void WindowObserver::OnProgress(const CountProgress& progress) {
   fileProgress_.SetProgress({progress.bytesRead, progress.bytesInFile});
 }
 
-CountResult CountInWindow(const RunContext& context, const CountRequest& request,
+CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
                           WindowObserver& observer) {
   CountResult result = Counter(request, observer).Run();
   if (observer.HasScanBegun()) {
-    CountState& state = context.state;
-    state.store = std::move(result.store);
-    state.WordsRead = result.wordsRead;
-    state.counted.filesRead = std::move(result.filesRead);
-    state.settings.OpenComment = result.openComment;
+    count.words.store = std::move(result.store);
+    count.words.WordsRead = result.wordsRead;
+    count.words.counted.filesRead = std::move(result.filesRead);
+    count.inForce.settings.OpenComment = result.openComment;
   }
   return result;
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 #include "app/list/set_the_focus.h"
 
@@ -23,104 +24,109 @@ std::vector<Control*> WordCommands(ParamsForm& frmParams) {
 
 }  // namespace
 
-PhaseGuard::PhaseGuard(const RunContext& context, RunPhase phase)
-    : context_(context), before_(context.state.phase) {
-  if (before_ == RunPhase::kIdle) EnterPhase(context, phase);
-  if (RulesOf(phase).wordCommands) return;
-  for (Control* command : WordCommands(context.frmParams)) {
+WindowControls::WindowControls(MainForm& frmMain, ParamsForm& frmParams, const ProgramText& text,
+                               RunState& run)
+    : frmMain_(frmMain), frmParams_(frmParams), text_(text), run_(run) {
+  run.PhaseChanged.Connect([this] { FollowPhase(); });
+}
+
+void WindowControls::SetClipboardViewer(std::string path) {
+  clipboardViewer_ = std::move(path);
+  frmMain_.cmdClipboardViewer.SetEnabled(!clipboardViewer_.empty());
+}
+
+/// Only what changes is touched: enabling the commands moves the focus.
+void WindowControls::FollowPhase() {
+  const PhaseRules& before = RulesOf(shown_);
+  const PhaseRules& rules = RulesOf(run_.Phase());
+  shown_ = run_.Phase();
+  if (rules.wordCommands && !before.wordCommands) EnableWordCommands(true);
+  if (rules.commands != before.commands) EnableControls(rules.commands);
+  if (rules.listOptions != before.listOptions) EnableListOptions(rules.listOptions);
+  if (rules.sourceOptions != before.sourceOptions) EnableSourceOptions(rules.sourceOptions);
+  if (rules.caption != before.caption) ShowCountCaption();
+  if (!rules.wordCommands && before.wordCommands) EnableWordCommands(false);
+}
+
+/// One that was disabled before the run stays so after it.
+void WindowControls::EnableWordCommands(bool enable) {
+  if (enable) {
+    for (Control* command : disabled_) command->SetEnabled(true);
+    disabled_.clear();
+    return;
+  }
+  for (Control* command : WordCommands(frmParams_)) {
     if (!command->Enabled()) continue;
     command->SetEnabled(false);
     disabled_.push_back(command);
   }
 }
 
-PhaseGuard::~PhaseGuard() {
-  for (Control* command : disabled_) command->SetEnabled(true);
-  EnterPhase(context_, before_);
+void WindowControls::ShowCountCaption() {
+  const bool stops = RulesOf(run_.Phase()).caption == CountCaption::kStop;
+  frmMain_.cmdCountWords.SetCaption(stops ? std::string(kStopCaption)
+                                          : text_.GetText(kCountCaptionText));
 }
 
-/// Only what changes is touched: enabling the commands moves the focus.
-void EnterPhase(const RunContext& context, RunPhase phase) {
-  const PhaseRules& before = RulesOf(context.state.phase);
-  const PhaseRules& rules = RulesOf(phase);
-  context.state.phase = phase;
-  if (rules.commands != before.commands) EnableControls(context, rules.commands);
-  if (rules.listOptions != before.listOptions)
-    EnableListOptions(context.frmMain, rules.listOptions);
-  if (rules.sourceOptions != before.sourceOptions) {
-    EnableSourceOptions(context.frmMain, rules.sourceOptions);
-  }
-  if (rules.stops != before.stops) ShowCountCaption(context);
-}
-
-void ShowCountCaption(const RunContext& context) {
-  context.frmMain.cmdCountWords.SetCaption(RulesOf(context.state.phase).stops
-                                               ? std::string(kStopCaption)
-                                               : context.text.GetText(kCountCaptionText));
-}
-
-void EnableControls(const RunContext& context, bool enable) {
+void WindowControls::EnableControls(bool enable) {
   if (enable) {
-    EnableSourceControls(context);
+    EnableSourceControls();
   } else {
-    DisableSourceControls(context);
+    DisableSourceControls();
   }
-  MainForm& frmMain = context.frmMain;
-  frmMain.cmdClipboardViewer.SetEnabled(enable && !context.state.clipboardViewerPath.empty());
-  frmMain.cmdHelp.SetEnabled(enable);
-  frmMain.cmdSetParameters.SetEnabled(enable);
-  frmMain.cmdClearOutput.SetEnabled(enable);
-  frmMain.cmdSaveState.SetEnabled(enable);
-  frmMain.cmdListFiles.SetEnabled(enable);
-  for (TextBox& box : frmMain.txbFileExtensions) box.SetEnabled(enable);
+  frmMain_.cmdClipboardViewer.SetEnabled(enable && !clipboardViewer_.empty());
+  frmMain_.cmdHelp.SetEnabled(enable);
+  frmMain_.cmdSetParameters.SetEnabled(enable);
+  frmMain_.cmdClearOutput.SetEnabled(enable);
+  frmMain_.cmdSaveState.SetEnabled(enable);
+  frmMain_.cmdListFiles.SetEnabled(enable);
+  for (TextBox& box : frmMain_.txbFileExtensions) box.SetEnabled(enable);
 }
 
-void DisableSourceControls(const RunContext& context) {
-  MainForm& frmMain = context.frmMain;
+void WindowControls::DisableSourceControls() {
   for (std::size_t i = 0; i < 2; ++i) {
-    frmMain.cmdFile[i].SetEnabled(false);
-    frmMain.txbFile[i].SetEnabled(false);
-    frmMain.cmdClearFile[i].SetEnabled(false);
+    frmMain_.cmdFile[i].SetEnabled(false);
+    frmMain_.txbFile[i].SetEnabled(false);
+    frmMain_.cmdClearFile[i].SetEnabled(false);
   }
-  frmMain.cmdFolder.SetEnabled(false);
-  frmMain.txbFolder.SetEnabled(false);
-  frmMain.cmdClearFolder.SetEnabled(false);
-  frmMain.chkIncludeSubfolders.SetEnabled(false);
-  frmMain.chkDisableOutputToFile.SetEnabled(false);
+  frmMain_.cmdFolder.SetEnabled(false);
+  frmMain_.txbFolder.SetEnabled(false);
+  frmMain_.cmdClearFolder.SetEnabled(false);
+  frmMain_.chkIncludeSubfolders.SetEnabled(false);
+  frmMain_.chkDisableOutputToFile.SetEnabled(false);
 }
 
-void EnableSourceControls(const RunContext& context) {
-  MainForm& frmMain = context.frmMain;
+void WindowControls::EnableSourceControls() {
   for (std::size_t i = 0; i < 2; ++i) {
-    frmMain.cmdFile[i].SetEnabled(true);
-    frmMain.txbFile[i].SetEnabled(true);
-    frmMain.cmdClearFile[i].SetEnabled(true);
-    frmMain.txbFileExtensions[i].SetEnabled(true);
+    frmMain_.cmdFile[i].SetEnabled(true);
+    frmMain_.txbFile[i].SetEnabled(true);
+    frmMain_.cmdClearFile[i].SetEnabled(true);
+    frmMain_.txbFileExtensions[i].SetEnabled(true);
   }
-  frmMain.lblFilesize.SetEnabled(true);
-  frmMain.cmdFolder.SetEnabled(true);
-  frmMain.txbFolder.SetEnabled(true);
-  frmMain.cmdClearFolder.SetEnabled(true);
-  frmMain.chkIncludeSubfolders.SetEnabled(true);
-  frmMain.lblFileExtensions.SetEnabled(true);
-  frmMain.lblInclude.SetEnabled(true);
-  frmMain.lblExclude.SetEnabled(true);
-  frmMain.cmdListFiles.SetEnabled(true);
-  frmMain.chkDisableOutputToFile.SetEnabled(true);
-  ShowCountCaption(context);
-  frmMain.lblTwirler.SetCaption(" ");
-  SetTheFocus(frmMain);
+  frmMain_.lblFilesize.SetEnabled(true);
+  frmMain_.cmdFolder.SetEnabled(true);
+  frmMain_.txbFolder.SetEnabled(true);
+  frmMain_.cmdClearFolder.SetEnabled(true);
+  frmMain_.chkIncludeSubfolders.SetEnabled(true);
+  frmMain_.lblFileExtensions.SetEnabled(true);
+  frmMain_.lblInclude.SetEnabled(true);
+  frmMain_.lblExclude.SetEnabled(true);
+  frmMain_.cmdListFiles.SetEnabled(true);
+  frmMain_.chkDisableOutputToFile.SetEnabled(true);
+  ShowCountCaption();
+  frmMain_.lblTwirler.SetCaption(" ");
+  SetTheFocus(frmMain_);
 }
 
-void EnableSourceOptions(MainForm& frmMain, bool enable) {
-  frmMain.optOnClipboard.SetEnabled(enable);
-  frmMain.optInFile.SetEnabled(enable);
-  frmMain.optFolder.SetEnabled(enable);
+void WindowControls::EnableSourceOptions(bool enable) {
+  frmMain_.optOnClipboard.SetEnabled(enable);
+  frmMain_.optInFile.SetEnabled(enable);
+  frmMain_.optFolder.SetEnabled(enable);
 }
 
-void EnableListOptions(MainForm& frmMain, bool enable) {
-  frmMain.cboWordOrder.SetEnabled(enable);
-  frmMain.cboDisplayFormat.SetEnabled(enable);
+void WindowControls::EnableListOptions(bool enable) {
+  frmMain_.cboWordOrder.SetEnabled(enable);
+  frmMain_.cboDisplayFormat.SetEnabled(enable);
 }
 
 }  // namespace quillomat

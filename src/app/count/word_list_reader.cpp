@@ -43,8 +43,8 @@ std::string KindName(WordListKind kind) {
 /// While it lives, the boxes that a words file is read with stand as it needs them.
 class ListReadingBoxes {
  public:
-  explicit ListReadingBoxes(const RunContext& context)
-      : boxes_{&context.frmMain.chkSuppressWords, &context.frmParams.chkAllowCommentMarkers},
+  ListReadingBoxes(MainForm& frmMain, ParamsForm& frmParams)
+      : boxes_{&frmMain.chkSuppressWords, &frmParams.chkAllowCommentMarkers},
         values_{boxes_[0]->Value(), boxes_[1]->Value()} {
     for (CheckBox* box : boxes_) box->SetChecked(true);
   }
@@ -80,35 +80,35 @@ class ListenerGuard {
 }  // namespace
 
 WordList& WordListReader::FileList(WordListKind kind) {
-  WordLists& lists = context_.state.lists;
+  WordLists& lists = inForce_.lists;
   return IsIgnore(kind) ? lists.IgnoreList : lists.CountOnlyList;
 }
 
 WordList& WordListReader::ExtraList(WordListKind kind) {
-  WordLists& lists = context_.state.lists;
+  WordLists& lists = inForce_.lists;
   return IsIgnore(kind) ? lists.ExtraIgnoreList : lists.ExtraCountOnlyList;
 }
 
 TextBox& WordListReader::PathBox(WordListKind kind) {
-  return context_.frmParams.txbWordsFile[IndexOf(kind)];
+  return frmParams_.txbWordsFile[IndexOf(kind)];
 }
 
 TextBox& WordListReader::ExtraBox(WordListKind kind) {
-  return context_.frmParams.txbWordsToIgnoreOrCount[IndexOf(kind)];
+  return frmParams_.txbWordsToIgnoreOrCount[IndexOf(kind)];
 }
 
 std::string& WordListReader::FileInForce(WordListKind kind) {
-  return context_.state.filesRead.wordsFiles[IndexOf(kind)];
+  return inForce_.filesRead.wordsFiles[IndexOf(kind)];
 }
 
 bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   if (path != FileInForce(kind)) return false;
-  return path.empty() || rulesInForce_[IndexOf(kind)] == ReadKeyRule(context_.frmParams);
+  return path.empty() || rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_);
 }
 
 std::string WordListReader::GetExtraWords(WordListKind kind) {
   SplitResult typed =
-      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), ReadKeyRule(context_.frmParams).letters);
+      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), ReadKeyRule(frmParams_).letters);
   if (!typed.fits) {
     return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
   }
@@ -126,7 +126,7 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
   }
   const std::string result = GetExtraWords(kind);
   if (result.ends_with('.')) {
-    Refuse(context_, result, "Invalid input");
+    messages_.Refuse(result, "Invalid input");
   } else {
     box.SetText(result);
   }
@@ -141,27 +141,27 @@ bool WordListReader::ReadWords(WordListKind kind) {
     const LineEndingType type = OpenText(path, kTextTestBytes, file);
     if (!file) return false;
     if (file->AwaitsWriter()) {
-      Refuse(context_, "Nothing is written into this pipe.", "Invalid input");
+      messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;
     }
     if (type == LineEndingType::kNotText) {
-      Refuse(context_, "This is not a text file.", "Invalid input");
+      messages_.Refuse("This is not a text file.", "Invalid input");
       return false;
     }
-    if (IsWorthAWarning(type)) ShowLineEndingWarning(context_, type);
-    ScanSettings& settings = context_.state.settings;
-    const ScanChoices choices = ReadScanChoices(context_.frmParams);
+    if (IsWorthAWarning(type)) ShowLineEndingWarning(messages_, type);
+    ScanSettings& settings = inForce_.settings;
+    const ScanChoices choices = ReadScanChoices(frmParams_);
     settings.ReadingWordList = true;
     settings.SetAllowWordsFlags(choices);
     settings.BuildExtraWordChars();
     settings.ClearListCharFlags();
     settings.SetCommentMarkers("C", choices);
-    context_.state.DiscardWords();  // first, so that the boxes' handlers find no count to ask about
-    const ListReadingBoxes boxes(context_);
-    context_.state.store.Files().Reset(false);
-    ConcealNumWords(context_.frmMain, false);
-    context_.output.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
-                                            : "Now reading count-only words . . . ");
+    words_.Discard();  // first, so that the boxes' handlers find no count to ask about
+    const ListReadingBoxes boxes(frmMain_, frmParams_);
+    words_.store.Files().Reset(false);
+    ConcealNumWords(frmMain_, false);
+    output_.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
+                                    : "Now reading count-only words . . . ");
     ScanWordsFile(*file);
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
@@ -178,14 +178,12 @@ bool WordListReader::ReadWords(WordListKind kind) {
 }
 
 void WordListReader::ScanWordsFile(InputFile& file) {
-  const PhaseGuard guard(context_, RunPhase::kReading);
-  CountState& state = context_.state;
-  const ScanChoices choices = ReadScanChoices(context_.frmParams);
-  const WordLists lists = state.lists;
-  RunYield yield(context_);
-  WordEcho echo(context_);
-  const ListenerGuard listening(state.store, echo);
-  WordScanner scanner(state.settings, choices, lists, state.store, yield);
+  const PhaseGuard guard(run_, RunPhase::kReading);
+  const ScanChoices choices = ReadScanChoices(frmParams_);
+  const WordLists lists = inForce_.lists;
+  WordEcho echo(frmMain_, output_, messages_, inForce_.settings);
+  const ListenerGuard listening(words_.store, echo);
+  WordScanner scanner(inForce_.settings, choices, lists, words_.store, run_);
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (file.Length() == 0) limits.bytes = kMostWordsBytes;
   LimitedSource limited(file, limits);
@@ -194,12 +192,12 @@ void WordListReader::ScanWordsFile(InputFile& file) {
   while (const auto line = lines.NextLine()) {
     const std::string_view trimmed = TrimBlanks(*line);
     if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer, choices.letters));
-    if (yield.Yield()) return;
+    if (run_.Yield()) return;
   }
 }
 
 void WordListReader::TakeWordsFromStore(WordListKind kind) {
-  const WordStore& store = context_.state.store;
+  const WordStore& store = words_.store;
   std::vector<std::string> words;
   words.reserve(static_cast<std::size_t>(store.NumDifferentWords()));
   for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
@@ -210,28 +208,28 @@ void WordListReader::TakeWordsFromStore(WordListKind kind) {
 }
 
 void WordListReader::TickAllowBoxesForListWords() {
-  const auto boxes = context_.frmParams.AllowCheckBoxes();
+  const auto boxes = frmParams_.AllowCheckBoxes();
   for (std::size_t flag = 0; flag < boxes.size(); ++flag) {
-    if (context_.state.settings.ListCharFlags[flag]) boxes[flag]->SetChecked(true);
+    if (inForce_.settings.ListCharFlags[flag]) boxes[flag]->SetChecked(true);
   }
 }
 
 bool WordListReader::AttemptToReadWords(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
   if (!FileExists(path)) return TellNotFound(kind);
-  context_.output.SaveOutputText();
+  output_.SaveOutputText();
   const bool ok = ReadWords(kind);
-  if (context_.state.quitting) {
+  if (run_.Quitting()) {
     // The rest of the file was not read, and nobody wants to know any more.
   } else if (ok) {
-    Tell(context_,
-         Grouped(context_, FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
-         "Words loaded", MessageIcon::kInformation);
+    messages_.Tell(
+        messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
+        "Words loaded", MessageIcon::kInformation);
   } else {
     TellNotLoaded(kind, path);
   }
-  context_.output.RestoreOutputText();
-  context_.becameIdle.Fire();
+  output_.RestoreOutputText();
+  run_.BecameIdle.Fire();
   return ok;
 }
 
@@ -239,8 +237,8 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
 /// box keeps the path: the next count will tell.
 bool WordListReader::TellNotFound(WordListKind kind) {
   ForgetWordsOfFile(kind);
-  if (context_.state.blnStartUpCompleted && !context_.state.blnInhibitPrompt) {
-    Refuse(context_, "File for " + KindName(kind) + " not found.", "File not found");
+  if (flags_.blnStartUpCompleted && !flags_.blnInhibitPrompt) {
+    messages_.Refuse("File for " + KindName(kind) + " not found.", "File not found");
     PathBox(kind).SetText("");
   } else if (IsIgnore(kind)) {
     SetPathToCWDs_Eng();
@@ -249,14 +247,14 @@ bool WordListReader::TellNotFound(WordListKind kind) {
 }
 
 void WordListReader::TellNotLoaded(WordListKind kind, const std::string& path) {
-  Refuse(context_, "Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
-         "Error");
+  messages_.Refuse("Error when attempting to load " + KindName(kind) + " from " + path + tooLong_,
+                   "Error");
   PathBox(kind).SetText("");
 }
 
 void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
-  if (context_.state.Busy()) return;  // the next count will see to it
-  CompletePathIn(PathBox(kind), context_);
+  if (run_.Busy()) return;  // the next count will see to it
+  paths_.CompletePathIn(PathBox(kind));
   const std::string& path = PathBox(kind).Text();
   if (path.empty()) {
     ForgetWordsOfFile(kind);
@@ -275,7 +273,7 @@ bool WordListReader::TakeBoxes() {
 bool WordListReader::TakeTypedWords(WordListKind kind) {
   const std::string result = GetExtraWords(kind);
   if (!result.ends_with('.')) return true;
-  Refuse(context_, result, "Invalid input");
+  messages_.Refuse(result, "Invalid input");
   return false;
 }
 
@@ -285,7 +283,7 @@ bool WordListReader::TakeWordsFile(WordListKind kind) {
   if (IsInForce(kind, path)) return true;
   if (!FileExists(path)) return TellNotFound(kind);
   const bool ok = ReadWords(kind);
-  if (context_.state.quitting) return false;
+  if (run_.Quitting()) return false;
   if (!ok) TellNotLoaded(kind, path);
   return ok;
 }
@@ -295,12 +293,12 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
                               !ExtraBox(WordListKind::kCountOnly).Text().empty();
   if (IsIgnore(kind) && countOnlyGiven) {
     const std::string lineBreak(kCrLf);
-    const MessageAnswer answer = context_.desktop.ShowMessage(
-        {"Since there are count-only words (that is," + lineBreak +
-             "only specified words are to be counted)," + lineBreak +
-             "specifying words to be ignored will have no effect." + lineBreak +
-             "Do you still wish to specify words to be ignored?",
-         "Proceed?", MessageIcon::kQuestion, MessageButtons::kYesNo});
+    const MessageAnswer answer =
+        messages_.Ask("Since there are count-only words (that is," + lineBreak +
+                          "only specified words are to be counted)," + lineBreak +
+                          "specifying words to be ignored will have no effect." + lineBreak +
+                          "Do you still wish to specify words to be ignored?",
+                      "Proceed?");
     if (answer != MessageAnswer::kYes) return;
   }
   FileDialog dialog;
@@ -310,7 +308,7 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
   dialog.pathMustExist = true;
   dialog.fileMustExist = true;
   dialog.hideReadOnly = true;
-  const std::optional<std::string> path = ChooseFileFor(PathBox(kind), dialog, context_);
+  const std::optional<std::string> path = paths_.ChooseFileFor(PathBox(kind), dialog);
   if (!path) return;
   PathBox(kind).SetText(*path);
   AttemptToReadWords(kind);

@@ -7,16 +7,36 @@
 #include <cstddef>
 #include <string>
 
-#include "app/count/run_context.h"
+#include "app/count/in_force.h"
+#include "app/count/path_boxes.h"
+#include "app/count/run_state.h"
+#include "app/list/current_words.h"
+#include "app/list/output_box.h"
+#include "app/messages.h"
+#include "app/window_flags.h"
 #include "engine/letter_rule.h"
 #include "engine/word_list.h"
 #include "system/input_file.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
 
 namespace quillomat {
 
 class WordListReader {
  public:
-  explicit WordListReader(const RunContext& context) : context_(context) {}
+  /// All must outlive it.
+  WordListReader(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output,
+                 const Messages& messages, RunState& run, CurrentWords& words, InForce& inForce,
+                 PathBoxes& paths, const WindowFlags& flags)
+      : frmMain_(frmMain),
+        frmParams_(frmParams),
+        output_(output),
+        messages_(messages),
+        run_(run),
+        words_(words),
+        inForce_(inForce),
+        paths_(paths),
+        flags_(flags) {}
 
   /// Parses the typed words into their list. Returns the cleaned text of the list or, when there
   /// are too many words, the message that says so; only the message ends with ".".
@@ -65,7 +85,15 @@ class WordListReader {
   /// The file that the list was read from; "" when it was read from none.
   [[nodiscard]] std::string& FileInForce(WordListKind kind);
 
-  const RunContext& context_;
+  MainForm& frmMain_;
+  ParamsForm& frmParams_;
+  OutputBox& output_;
+  const Messages& messages_;
+  RunState& run_;
+  CurrentWords& words_;
+  InForce& inForce_;
+  PathBoxes& paths_;
+  const WindowFlags& flags_;
   /// By which the files in force were read.
   std::array<KeyRule, 2> rulesInForce_;
   /// A line for the message about the last words file: what of it was too long, if that was it.

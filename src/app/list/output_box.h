@@ -39,6 +39,10 @@ class OutputBox {
 
   [[nodiscard]] bool IsFull() const { return full_; }
   void SetFull(bool full) { full_ = full; }
+  /// New words of a running count are being shown.
+  [[nodiscard]] bool DisplayingWords() const { return displayingWords_; }
+  void SetDisplayingWords(bool displaying) { displayingWords_ = displaying; }
+
   [[nodiscard]] bool IsEmpty() const { return frmMain_.txbOutput.Text().empty(); }
 
   /// Of the list in the box; of no words when it holds none.
@@ -61,6 +65,7 @@ class OutputBox {
   MainForm& frmMain_;
   Desktop& desktop_;
   bool full_ = false;
+  bool displayingWords_ = false;
   ListPart part_;
   std::string saved_;
   ListPart savedPart_;

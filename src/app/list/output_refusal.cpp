@@ -1,25 +1,22 @@
 #include "app/list/output_refusal.h"
 
+#include <string>
+
 namespace quillomat {
 
-MessageBox OutputRefusal(NeededAs neededAs) {
-  MessageBox box{"", "Invalid output file", MessageIcon::kExclamation};
+void RefuseOutputFile(const Messages& messages, NeededAs neededAs) {
+  const std::string title = "Invalid output file";
   switch (neededAs) {
     case NeededAs::kText:
-      box.text = "The output file cannot be the same as the input file.";
-      box.title = "Error";
-      break;
+      return messages.Refuse("The output file cannot be the same as the input file.", "Error");
     case NeededAs::kPartOfFolder:
-      box.text = "The output file cannot be in the folder or a subfolder.";
-      break;
+      return messages.Refuse("The output file cannot be in the folder or a subfolder.", title);
     case NeededAs::kWordsFile:
-      box.text = "The output file cannot be the same as a words file.";
-      break;
+      return messages.Refuse("The output file cannot be the same as a words file.", title);
     case NeededAs::kState:
-      box.text = "The output file cannot be the same as the state file that was loaded.";
-      break;
+      return messages.Refuse(
+          "The output file cannot be the same as the state file that was loaded.", title);
   }
-  return box;
 }
 
 }  // namespace quillomat

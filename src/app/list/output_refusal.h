@@ -1,11 +1,11 @@
 // What the user is told when an output file is refused.
 #pragma once
 
+#include "app/messages.h"
 #include "sources/output_rules.h"
-#include "ui/desktop.h"
 
 namespace quillomat {
 
-[[nodiscard]] MessageBox OutputRefusal(NeededAs neededAs);
+void RefuseOutputFile(const Messages& messages, NeededAs neededAs);
 
 }  // namespace quillomat

@@ -43,13 +43,14 @@ std::string FoundWordsCaption(std::int32_t words, const SummaryNumbers& numbers)
 
 }  // namespace
 
-void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view separator) {
+void ShowSummary(MainForm& frmMain, const CurrentWords& words, const InForce& inForce,
+                 std::string_view separator) {
   HideNoticeLabels(frmMain);
-  const SummaryNumbers numbers(state.WordsRead, separator);
-  const WordTotals& totals = state.totals;
-  const bool countOnly = state.settings.CountOnlyMode;
+  const SummaryNumbers numbers(words.WordsRead, separator);
+  const WordTotals& totals = words.totals;
+  const bool countOnly = inForce.settings.CountOnlyMode;
   const std::int32_t countOnlyWords =
-      state.lists.CountOnlyList.Count() + state.lists.ExtraCountOnlyList.Count();
+      inForce.lists.CountOnlyList.Count() + inForce.lists.ExtraCountOnlyList.Count();
 
   if (countOnly && totals.NumIncludedWords == countOnlyWords) {
     Show(frmMain.lblNumberOfWords, FoundWordsCaption(countOnlyWords, numbers));
@@ -62,7 +63,7 @@ void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view se
   } else {
     numbers.Show(frmMain.lblNumWordsExcluded, "Number of words excluded:", totals.NumExcludedWords);
   }
-  const bool counted = !countOnly && !state.listAfterStop;
+  const bool counted = !countOnly && !words.listAfterStop;
   if (counted && totals.TotalIncludedCount > 0) {
     numbers.Show(frmMain.lblNumOccurrences,
                  "Number of instances of words in this list:", totals.TotalIncludedCount);
@@ -71,7 +72,7 @@ void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view se
   }
   if (counted) {
     numbers.Show(frmMain.lblTotalNumOccurrences,
-                 "Total number of instances of words:", state.WordsRead);
+                 "Total number of instances of words:", words.WordsRead);
   } else {
     Show(frmMain.lblTotalNumOccurrences, "");
   }

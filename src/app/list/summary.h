@@ -4,14 +4,16 @@
 
 #include <string_view>
 
-#include "app/count/count_state.h"
+#include "app/count/in_force.h"
+#include "app/list/current_words.h"
 #include "ui/main_form.h"
 
 namespace quillomat {
 
 /// Fills and shows the summary labels; hides the notice labels. Numbers are grouped with
 /// `separator` and right-justified to the width of the greatest.
-void ShowSummary(MainForm& frmMain, const CountState& state, std::string_view separator);
+void ShowSummary(MainForm& frmMain, const CurrentWords& words, const InForce& inForce,
+                 std::string_view separator);
 
 /// Hides the summary labels, and shows the notice labels if asked to.
 void ConcealNumWords(MainForm& frmMain, bool showNotice);

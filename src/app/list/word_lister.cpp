@@ -37,14 +37,17 @@ std::string_view NameInRefusal(DisplayFormat format) {
 
 }  // namespace
 
-WordLister::WordLister(MainForm& frmMain, ParamsForm& frmParams, Desktop& desktop, EventPump& pump,
-                       CountState& state, OutputBox& output)
+WordLister::WordLister(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output, RunState& run,
+                       const CurrentWords& words, const InForce& inForce, const Messages& messages,
+                       Desktop& desktop)
     : frmMain_(frmMain),
       frmParams_(frmParams),
-      desktop_(desktop),
-      pump_(pump),
-      state_(state),
-      output_(output) {}
+      output_(output),
+      run_(run),
+      words_(words),
+      inForce_(inForce),
+      messages_(messages),
+      desktop_(desktop) {}
 
 bool WordLister::HasOutputFile() const {
   return !frmMain_.txbFile[1].Text().empty() && !frmMain_.chkDisableOutputToFile.IsChecked();
@@ -52,12 +55,12 @@ bool WordLister::HasOutputFile() const {
 
 void WordLister::ListWords() {
   fileWritten_ = false;
-  if (state_.totals.NumIncludedWords == 0) return ListNoWords();
+  if (words_.totals.NumIncludedWords == 0) return ListNoWords();
   const bool toFile =
       HasOutputFile() && SparesWhatIsRead() && AskToOverwrite() && SparesWhatIsRead();
   if (toFile && !ListIntoFile()) return;
   output_.ClearOutput();
-  if (state_.StopRequested) {
+  if (run_.StopRequested()) {
     output_.OutputToTxb(std::string(kCrLf) + "Output to file was terminated.");
     return;
   }
@@ -67,16 +70,16 @@ void WordLister::ListWords() {
 void WordLister::ListNoWords() {
   output_.ClearOutput();
   output_.OutputToTxb(
-      NoWordsMessage({state_.store.NumDifferentWords(), frmParams_.cboShortWordSize.ListIndex(),
+      NoWordsMessage({words_.store.NumDifferentWords(), frmParams_.cboShortWordSize.ListIndex(),
                       frmParams_.cboThresholdFrequency.ListIndex(),
                       frmParams_.chkIgnoreInfrequentWords.IsChecked()}));
   RemoveLastComma();
 }
 
 void WordLister::ListInTextBox() {
-  if (state_.totals.NumIncludedWords == 0) return ListNoWords();
+  if (words_.totals.NumIncludedWords == 0) return ListNoWords();
   ListIntoTextBox();
-  if (state_.StopRequested) {
+  if (run_.StopRequested()) {
     output_.OutputToTxb(std::string(kCrLf).append("Listing stopped.").append(kCrLf));
     return;
   }
@@ -117,7 +120,7 @@ bool WordLister::AskToOverwrite() {
       txbPath.SetText(path);
       return true;
     }
-    desktop_.ShowMessage({"Folder does not exist.", "Error", MessageIcon::kExclamation});
+    messages_.Refuse("Folder does not exist.", "Error");
   }
   frmMain_.chkDisableOutputToFile.SetChecked(true);
   return false;
@@ -127,13 +130,13 @@ bool WordLister::MayWriteOutputFile(const CountedText& text) const {
   if (!HasOutputFile()) return true;
   const std::string& path = frmMain_.txbFile[1].Text();
   std::optional<NeededAs> neededAs = WhyNotToWrite(path, text);
-  if (!neededAs) neededAs = WhyNotToWrite(path, state_.filesRead);
-  if (neededAs) desktop_.ShowMessage(OutputRefusal(*neededAs));
+  if (!neededAs) neededAs = WhyNotToWrite(path, inForce_.filesRead);
+  if (neededAs) RefuseOutputFile(messages_, *neededAs);
   return !neededAs;
 }
 
 bool WordLister::SparesWhatIsRead() {
-  if (MayWriteOutputFile(state_.counted)) return true;
+  if (MayWriteOutputFile(words_.counted)) return true;
   frmMain_.chkDisableOutputToFile.SetChecked(true);
   return false;
 }
@@ -158,7 +161,7 @@ bool WordLister::ListIntoFile() {
     output_.ClearOutput();
     frmMain_.txbOutput.SetText(ScanHeader());
     WriteList(file);
-    if (state_.StopRequested) return true;  // part of a list takes no file's place
+    if (run_.StopRequested()) return true;  // part of a list takes no file's place
     file.Close();
     fileWritten_ = true;
     return true;
@@ -175,10 +178,10 @@ bool WordLister::ListIntoFile() {
 
 void WordLister::WriteList(ByteSink& file) {
   accumulator_ = ScanHeader();
-  const LineFormatter formatter(state_.Counted(), OptionsFor(true));
+  const LineFormatter formatter(words_.Counted(), OptionsFor(true));
   FileListSink sink([&file](std::string_view bytes) { file.Write(bytes); },
                     [this] { return StopsNow(); }, formatter.Options(),
-                    state_.store.NumDifferentWords());
+                    words_.store.NumDifferentWords());
   if (mostWordsInFile_) sink.TakeAtMost(*mostWordsInFile_);
   Walk(formatter, sink);
   sink.Flush();
@@ -186,7 +189,7 @@ void WordLister::WriteList(ByteSink& file) {
 
 void WordLister::ListIntoTextBox() {
   output_.ClearOutput();
-  const LineFormatter formatter(state_.Counted(), OptionsFor(false));
+  const LineFormatter formatter(words_.Counted(), OptionsFor(false));
   TextBoxListSink sink(
       frmMain_, output_, accumulator_, [this] { return StopsNow(); }, formatter.Options());
   sink.TakeNotice(ScanHeader());
@@ -200,7 +203,7 @@ void WordLister::ListIntoTextBox() {
   }
   output_.ShowText(accumulator_);
   output_.SetListPart(
-      {sink.WordsTaken(), state_.totals.NumIncludedWords, formatter.Options().format});
+      {sink.WordsTaken(), words_.totals.NumIncludedWords, formatter.Options().format});
   if (output_.IsFull()) ReportProblem(kTextBoxFull, "Insufficient memory");
 }
 
@@ -209,9 +212,9 @@ void WordLister::Walk(const LineFormatter& formatter, ListSink& sink) {
   const bool alphabetical =
       frmMain_.cboWordOrder.ListIndex() == static_cast<int>(WordOrder::kAlphabetical);
   if (alphabetical) {
-    ListAlphabetical(state_.Counted(), formatter, sink);
+    ListAlphabetical(words_.Counted(), formatter, sink);
   } else {
-    ListByFrequency(state_.Counted(), formatter, sink);
+    ListByFrequency(words_.Counted(), formatter, sink);
   }
 }
 
@@ -222,26 +225,26 @@ LineOptions WordLister::OptionsFor(bool toFile) const {
   options.useLog10 = frmParams_.chkUseLog10.IsChecked();
   options.folder = frmMain_.txbFolder.Text();
   options.lineBreak = toFile ? fileLineBreak_ : std::string(kCrLf);
-  options.minimumColumnWidth = state_.minimumColumnWidth;
+  options.minimumColumnWidth = words_.minimumColumnWidth;
   return options;
 }
 
 /// The lines about the folder with their line breaks; empty for other sources.
 std::string WordLister::ScanHeader() const {
   if (!frmMain_.optFolder.Value()) return {};
-  return ScanHeaderText(state_.filesScanned, state_.foldersScanned, desktop_.DigitGroupSeparator())
+  return ScanHeaderText(words_.folder.filesScanned, words_.folder.foldersScanned,
+                        messages_.DigitGroupSeparator())
       .append(kCrLf)
-      .append(state_.skippedNotice);
+      .append(words_.folder.skippedNotice);
 }
 
 bool WordLister::StopsNow() {
-  pump_.Yield();
-  return state_.StopRequested;
+  return run_.Yield();
 }
 
 void WordLister::ReportProblem(int code, std::string_view text) {
   const std::string message = code == kTextBoxFull ? FullBoxMessage() : ErrorMessage(code, text);
-  desktop_.ShowMessage({message, "Problem", MessageIcon::kExclamation});
+  messages_.Refuse(message, "Problem");
 }
 
 void WordLister::ReportOutOfMemory(std::string_view path) {
@@ -249,7 +252,7 @@ void WordLister::ReportOutOfMemory(std::string_view path) {
   if (!path.empty()) text.append(" while reading ").append(path);
   const std::string message =
       ErrorMessage(static_cast<int>(RunTimeErrorNumber::kOutOfMemory), text);
-  desktop_.ShowMessage({message, "Problem", MessageIcon::kExclamation});
+  messages_.Refuse(message, "Problem");
 }
 
 std::string WordLister::ErrorMessage(int code, std::string_view text) const {
@@ -278,12 +281,12 @@ std::string WordLister::FullBoxMessage() {
 
 bool WordLister::CanServe(DisplayFormat format) const {
   return !NeedsFileTallies(format) ||
-         (frmMain_.optFolder.Value() && state_.lists.HasCountOnlyWords());
+         (frmMain_.optFolder.Value() && inForce_.lists.HasCountOnlyWords());
 }
 
 bool WordLister::FormatFitsWords() const {
   return !NeedsFileTallies(ChosenFormat(frmMain_)) ||
-         (state_.counted.source == CountedText::Source::kFolder && state_.settings.CountOnlyMode);
+         (words_.counted.source == CountedText::Source::kFolder && inForce_.settings.CountOnlyMode);
 }
 
 bool WordLister::CheckDisplayFormat() {
@@ -293,7 +296,7 @@ bool WordLister::CheckDisplayFormat() {
                            "' is available" + std::string(kCrLf) +
                            "only when the source of the text is a folder" + std::string(kCrLf) +
                            "and there are count-only words specified.";
-  desktop_.ShowMessage({text, "Invalid display format", MessageIcon::kInformation});
+  messages_.Tell(text, "Invalid display format");
   changingFormat_ = true;
   frmMain_.cboDisplayFormat.SetListIndex(0);
   changingFormat_ = false;

@@ -8,8 +8,11 @@
 #include <string_view>
 #include <utility>
 
-#include "app/count/count_state.h"
+#include "app/count/in_force.h"
+#include "app/count/run_state.h"
+#include "app/list/current_words.h"
 #include "app/list/output_box.h"
+#include "app/messages.h"
 #include "base/byte_sink.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -19,15 +22,15 @@
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
-#include "ui/yielder.h"
 
 namespace quillomat {
 
 class WordLister {
  public:
   /// All must outlive the lister.
-  WordLister(MainForm& frmMain, ParamsForm& frmParams, Desktop& desktop, EventPump& pump,
-             CountState& state, OutputBox& output);
+  WordLister(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output, RunState& run,
+             const CurrentWords& words, const InForce& inForce, const Messages& messages,
+             Desktop& desktop);
 
   /// Lists the words of the last count; asks before an existing output file is overwritten. What
   /// goes wrong is shown to the user. The stop flag ends it early; an output file that is not whole
@@ -101,10 +104,12 @@ class WordLister {
 
   MainForm& frmMain_;
   ParamsForm& frmParams_;
-  Desktop& desktop_;
-  EventPump& pump_;
-  CountState& state_;
   OutputBox& output_;
+  RunState& run_;
+  const CurrentWords& words_;
+  const InForce& inForce_;
+  const Messages& messages_;
+  Desktop& desktop_;
   std::string accumulator_;
   bool fileWritten_ = false;
   bool changingFormat_ = false;

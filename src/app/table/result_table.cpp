@@ -5,10 +5,10 @@
 
 namespace quillomat {
 
-ResultTable::ResultTable(CountState& state, ExpressionReader readExpression)
-    : state_(state), readExpression_(std::move(readExpression)) {
-  state_.WordsRanked.Connect([this] { Change([this] { hasWords_ = true; }); });
-  state_.WordsGo.Connect([this] {
+ResultTable::ResultTable(const CurrentWords& words, ExpressionReader readExpression)
+    : words_(words), readExpression_(std::move(readExpression)) {
+  words_.WordsRanked.Connect([this] { Change([this] { hasWords_ = true; }); });
+  words_.WordsGo.Connect([this] {
     if (!hasWords_) return;
     Change([this] {
       hasWords_ = false;
@@ -20,7 +20,7 @@ ResultTable::ResultTable(CountState& state, ExpressionReader readExpression)
 const WordRows* ResultTable::Rows() {
   if (!hasWords_) return nullptr;
   if (!rows_) {
-    rows_.emplace(WordTable(state_.Counted(), state_.WordsRead), collation_);
+    rows_.emplace(WordTable(words_.Counted(), words_.WordsRead), collation_);
     rows_->SetOrder(order_);
     if (!filterInForce_.text.empty()) rows_->SetFilter(filterInForce_, expression_);
   }

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "app/count/count_state.h"
+#include "app/list/current_words.h"
 #include "app/table/row_filter.h"
 #include "app/table/row_order.h"
 #include "app/table/word_rows.h"
@@ -16,8 +16,8 @@ namespace quillomat {
 
 class ResultTable {
  public:
-  /// `state` outlives the table.
-  ResultTable(CountState& state, ExpressionReader readExpression);
+  /// `words` outlives the table.
+  ResultTable(const CurrentWords& words, ExpressionReader readExpression);
 
   /// Fired before other rows are shown, and afterwards.
   Event<> Changing;
@@ -44,7 +44,7 @@ class ResultTable {
     Changed.Fire();
   }
 
-  CountState& state_;
+  const CurrentWords& words_;
   ExpressionReader readExpression_;
   Collation collation_;
   bool hasWords_ = false;

@@ -33,7 +33,7 @@ class BoxesInForce : public CountFixture {
   }
   void LeaveWordsFile(WordListKind kind) { WordsFileBox(kind).LostFocus.Fire(); }
   [[nodiscard]] const std::vector<std::string>& IgnoredOfFile() {
-    return State().lists.IgnoreList.Words();
+    return program.Settings().lists.IgnoreList.Words();
   }
 };
 
@@ -152,10 +152,11 @@ TEST_F(BoxesInForce, ARefusedWordsFileLeavesBoxAndListEmpty) {
 }
 
 TEST_F(BoxesInForce, TheDefaultWordsThatStandInForALostFileAreReadByTheNextCount) {
-  State().blnInhibitPrompt = true;  // as while a state is loaded
   TypeWordsFile(WordListKind::kIgnore, folder / "gone.txt");
-  EXPECT_FALSE(program.wordLists.AttemptToReadWords(WordListKind::kIgnore));
-  State().blnInhibitPrompt = false;
+  ASSERT_EQ(program.States().SaveState(folder / "state.qlm"), "");
+  desktop.AnswerFile(folder / "state.qlm");
+  Panel().cmdSaveLoadState[1].PerformClick();
+  desktop.ForgetQuestions();
   ASSERT_TRUE(Has(WordsFileBox(WordListKind::kIgnore).Text(), "cwds_en.txt"));
   CountClipboard("the zebra");
   // The file of the source tree has Unix line ends, of which Windows is warned.

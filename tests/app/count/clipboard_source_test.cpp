@@ -103,25 +103,27 @@ TEST_F(ClipboardSourceTest, ARefusalLeavesTheWordsOfTheLastCount) {
        {std::string(), std::string(100'001, 'x'), std::string("a\x01z")}) {
     CountClipboard(refused);
     EXPECT_EQ(StoredWords(), "cat dog");
-    EXPECT_TRUE(State().completeRun);
+    EXPECT_TRUE(Words().completeRun);
   }
 }
 
 TEST_F(ClipboardSourceTest, PastingPutsTheTextIntoTheOutputBoxAndNoListStandsThen) {
-  CountClipboard("cat");
-  ASSERT_TRUE(State().blnWordsGot);
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  parts.words.blnWordsGot = true;
   desktop.SetClipboard("two\r\nlines");
-  EXPECT_TRUE(program.countRun.Clipboard().ReadClipboard(true));
+  EXPECT_TRUE(ClipboardSource(parts.windowCount, parts.lister, desktop).ReadClipboard(true));
   EXPECT_EQ(Output(), "two\r\nlines");
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(parts.words.blnWordsGot);
 }
 
 TEST_F(ClipboardSourceTest, WithoutPastingTheOutputBoxIsOnlyEmptied) {
-  CountClipboard("cat");
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  parts.words.blnWordsGot = true;
+  parts.output.OutputToTxb("cat");
   desktop.SetClipboard("two\r\nlines");
-  EXPECT_TRUE(program.countRun.Clipboard().ReadClipboard(false));
+  EXPECT_TRUE(ClipboardSource(parts.windowCount, parts.lister, desktop).ReadClipboard(false));
   EXPECT_EQ(Output(), "");
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(parts.words.blnWordsGot);
 }
 
 // Whether it is text.
@@ -208,7 +210,7 @@ TEST_F(ClipboardSourceTest, TheMarkersOfAnEarlierFileAreGone) {
 TEST_F(ClipboardSourceTest, ATextWithoutWordsIsScannedAllTheSame) {
   CountClipboard(" 12 -- !\r\n");
   EXPECT_EQ(Output(), "No words satisfying the conditions were found.");
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
   ExpectIdle();
 }
 
@@ -239,7 +241,7 @@ TEST_F(ClipboardSourceTest, AnErrorWhileScanningIsReportedWithNumberAndDescripti
   AtYield(2, [] { throw RunTimeError(RunTimeErrorNumber::kOverflow); });
   CountClipboard("cat dog cow");
   ExpectMessage(OnlyMessage(), "Error 6: Overflow", "Problem", MessageIcon::kExclamation);
-  EXPECT_FALSE(State().completeRun);
+  EXPECT_FALSE(Words().completeRun);
   ExpectIdle();
 }
 
@@ -309,10 +311,11 @@ class BadClipboard : public ClipboardSourceTest {
  protected:
   void ReadOneThat(std::function<void()> fails) {
     DesktopWithBadClipboard badDesktop(desktop, std::move(fails));
-    const RunContext& ours = program.context;
-    const RunContext context{ours.frmMain, ours.frmParams, badDesktop,  ours.pump,      ours.text,
-                             ours.state,   ours.output,    ours.lister, ours.becameIdle};
-    EXPECT_FALSE(ClipboardSource(context).ReadClipboard(false));
+    Program other(badDesktop);
+    ASSERT_TRUE(other.Start({.userSettings = false, .window = false}));
+    other.frmMain.optOnClipboard.SetValue(true);
+    other.frmMain.cmdCountWords.PerformClick();
+    EXPECT_FALSE(other.Count().ListWasMade());
   }
 };
 

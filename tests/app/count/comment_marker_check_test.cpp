@@ -165,7 +165,9 @@ TEST_F(CommentMarkerCheck, WhatMayStandInAWordIsThePanelsAffair) {
     for (const CheckState notSet : {CheckState::kUnchecked, CheckState::kGrayed}) {
       sign.box->SetValue(notSet);
       ExpectAccepted();
-      State().DiscardWords();
+      program.Initialize();
+      Panel().chkAllowCommentMarkers.SetChecked(true);
+      SetMarkers(sign.marker, "");
     }
   }
 }
@@ -199,15 +201,15 @@ TEST_F(CommentMarkerCheck, ARefusalLeavesTheWordsOfTheLastCount) {
   SetMarkers("", "");
   CountClipboard("hen");
   EXPECT_EQ(StoredWords(), "cat dog");
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
 }
 
 TEST_F(CommentMarkerCheck, TheCheckGoesByTheWordsOfATextAlsoWhileAListIsRead) {
-  ScanSettings& settings = State().settings;
-  settings.ReadingWordList = true;
+  desktop.AnswerFile(folder.Write("words.txt", "cat"));
+  Panel().cmdSelectWordsFile[0].PerformClick();
+  ASSERT_TRUE(program.Settings().settings.ReadingWordList);
   SetMarkers("//", "");
-  EXPECT_TRUE(CheckCommentMarkers(program.context));
-  EXPECT_TRUE(settings.ReadingWordList);
+  EXPECT_TRUE(CheckCommentMarkers(Panel(), Messages(desktop, program.Text())));
 }
 
 }  // namespace

@@ -97,9 +97,9 @@ TEST_F(CountRunStop, TheNumberOfWordsFoundIsNotGrouped) {
 
 TEST_F(CountRunStop, NoListsNothingAndTheCommandIsItselfAgain) {
   StopTheScanBehind(2, MessageAnswer::kNo);
-  EXPECT_FALSE(State().completeRun);
-  EXPECT_FALSE(State().listAfterStop);
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().completeRun);
+  EXPECT_FALSE(Words().listAfterStop);
+  EXPECT_FALSE(Words().blnWordsGot);
   EXPECT_FALSE(Main().lblNumOccurrences.Visible());
   ExpectIdle();
 }
@@ -127,9 +127,9 @@ TEST_F(CountRunStop, YesListsTheWordsFoundWithoutTotals) {
   EXPECT_EQ(Main().lblNumWordsExcluded.Caption(), "Number of words excluded: 0");
   EXPECT_EQ(Main().lblNumOccurrences.Caption(), "");
   EXPECT_EQ(Main().lblTotalNumOccurrences.Caption(), "");
-  EXPECT_TRUE(State().listAfterStop);
-  EXPECT_FALSE(State().completeRun);
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(Words().listAfterStop);
+  EXPECT_FALSE(Words().completeRun);
+  EXPECT_TRUE(Words().blnWordsGot);
   ExpectIdle();
 }
 
@@ -163,7 +163,7 @@ TEST_F(CountRunStop, TheNextCompleteCountIsCompleteAgain) {
   desktop.ForgetQuestions();
   ChooseFormat(DisplayFormat::kWordFrequency);
   EXPECT_THAT(desktop.Messages(), IsEmpty());
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
 }
 
 TEST_F(CountRunStop, ARefusedRunTakesTheIncompleteListAway) {
@@ -198,13 +198,13 @@ TEST_F(CountRunStop, AClickSetsTheFlagAndNothingElse) {
   AtYield(2, [this] {
     const std::string before = Output();
     Count();
-    EXPECT_TRUE(State().StopRequested);
+    EXPECT_EQ(program.State().Phase(), RunPhase::kStopping);
     EXPECT_EQ(Output(), before);
     ExpectRunning();
   });
   AnswerToList(MessageAnswer::kNo);
   CountClipboard("one two three");
-  EXPECT_FALSE(State().StopRequested);
+  EXPECT_EQ(program.State().Phase(), RunPhase::kIdle);
 }
 
 TEST_F(CountRunStop, AFileIsLeftBehindTheWordAtHand) {
@@ -234,7 +234,7 @@ TEST_F(CountRunStop, AListInTheTextBoxEndsBehindTheWordAtHand) {
 TEST_F(CountRunStop, AStoppedListLeavesTheCountComplete) {
   StopAtYield(5);
   CountClipboard("one two three");
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
   ChooseOrder(WordOrder::kAlphabetical);
   EXPECT_EQ(Output(), kHeader + "\r\none\r\nthree\r\ntwo\r\n");
 }

@@ -69,13 +69,16 @@ TEST_F(CountRunTest, QuitAndCopyAndSuppressAreThereDuringARun) {
 }
 
 TEST_F(CountRunTest, AViewerThatWasNotFoundStaysOutOfReach) {
-  State().clipboardViewerPath = "";
-  CountClipboard("cat");
-  EXPECT_FALSE(Main().cmdClipboardViewer.Enabled());
-  State().clipboardViewerPath = "/usr/bin/viewer";
-  AtYield(1, [this] { EXPECT_FALSE(Main().cmdClipboardViewer.Enabled()); });
-  CountClipboard("cat");
-  EXPECT_TRUE(Main().cmdClipboardViewer.Enabled());
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  for (const std::string viewer : {"", "/usr/bin/viewer"}) {
+    parts.controls.SetClipboardViewer(viewer);
+    EXPECT_EQ(Main().cmdClipboardViewer.Enabled(), !viewer.empty());
+    {
+      const PhaseGuard counting(parts.run, RunPhase::kCounting);
+      EXPECT_FALSE(Main().cmdClipboardViewer.Enabled());
+    }
+    EXPECT_EQ(Main().cmdClipboardViewer.Enabled(), !viewer.empty());
+  }
 }
 
 TEST_F(CountRunTest, EverySourceReturnsToIdleAfterARefusal) {
@@ -159,7 +162,7 @@ TEST_F(CountRunTest, NoCountIsStartedWhileAWordsFileIsRead) {
   AtYield(2, [this] { Count(); });
   desktop.AnswerFile(folder.Write("words.txt", "cat dog cow"));
   Panel().cmdSelectWordsFile[0].PerformClick();
-  EXPECT_EQ(State().lists.IgnoreList.Count(), 3);
+  EXPECT_EQ(program.Settings().lists.IgnoreList.Count(), 3);
   EXPECT_THAT(desktop.Titles(),
               ElementsAre("Specify file containing words to ignore", "Words loaded"));
 }
@@ -179,7 +182,7 @@ TEST_F(CountRunTest, QuittingDuringTheScanEndsTheRunFirstAndAsksNothing) {
   Panel().chkSaveStateOnQuit.SetChecked(false);
   int ended = 0;
   program.Ended.Connect([&] {
-    EXPECT_FALSE(State().Busy());
+    EXPECT_FALSE(program.State().Busy());
     ++ended;
   });
   AtYield(2, [this] {
@@ -258,7 +261,7 @@ TEST_F(CountRunTest, AfterARefusalTheWordsOfTheLastCountCanStillBeListed) {
 }
 
 TEST_F(CountRunTest, ColumnsStartNarrowInEveryRun) {
-  State().minimumColumnWidth = 20;
+  CountClipboard(std::string(20, 'a'));
   CountClipboard("cat");
   EXPECT_EQ(Output(),
             "   Rank    Freq  Word (longest has 3 characters)\r\n      1       1  cat\r\n");
@@ -273,7 +276,9 @@ TEST_F(CountRunTest, EachRunStartsCountingAtNought) {
 TEST_F(CountRunTest, ABoxThatWasFullTakesTheWordsOfTheNextRun) {
   CountClipboard(ManyWords(4'500));
   desktop.ForgetQuestions();
-  program.output.SetFull(true);
+  program.Lister().ReportProblem(7, "");
+  ASSERT_TRUE(program.Output().IsFull());
+  desktop.ForgetQuestions();
   WatchOutput();
   CountClipboard("cat");
   EXPECT_TRUE(WasShown("cat "));
@@ -288,12 +293,12 @@ TEST_F(CountRunTest, MarkersForcedByAFileHoldForThatRunOnly) {
 
 TEST_F(CountRunTest, TypedCountOnlyWordsAloneAreCountedAndNoFilterActs) {
   CountClipboard("xiv cat");
-  EXPECT_EQ(State().totals.NumExcludedWords, 1);
+  EXPECT_EQ(Words().totals.NumExcludedWords, 1);
   TypeWords(WordListKind::kCountOnly, "xiv");
   CountClipboard("xiv cat");
   EXPECT_EQ(StoredWords(), "xiv");
-  EXPECT_EQ(State().totals.NumExcludedWords, 0);
-  EXPECT_EQ(State().totals.NumIncludedWords, 1);
+  EXPECT_EQ(Words().totals.NumExcludedWords, 0);
+  EXPECT_EQ(Words().totals.NumIncludedWords, 1);
 }
 
 TEST_F(CountRunTest, CountOnlyWordsOfAFileAreEnoughToo) {
@@ -301,7 +306,7 @@ TEST_F(CountRunTest, CountOnlyWordsOfAFileAreEnoughToo) {
   Panel().cmdSelectWordsFile[1].PerformClick();
   CountClipboard("xiv cat");
   EXPECT_EQ(StoredWords(), "xiv");
-  EXPECT_TRUE(State().settings.CountOnlyMode);
+  EXPECT_TRUE(program.Settings().settings.CountOnlyMode);
 }
 
 TEST_F(CountRunTest, EmptiedCountOnlyWordsCountAllAgain) {
@@ -310,7 +315,7 @@ TEST_F(CountRunTest, EmptiedCountOnlyWordsCountAllAgain) {
   TypeWords(WordListKind::kCountOnly, "");
   CountClipboard("xiv cat");
   EXPECT_EQ(StoredWords(), "cat xiv");
-  EXPECT_FALSE(State().settings.CountOnlyMode);
+  EXPECT_FALSE(program.Settings().settings.CountOnlyMode);
 }
 
 // Between the scan and the list.
@@ -386,11 +391,11 @@ TEST_F(CountRunTest, FiltersActOnTheListAndNotOnTheStore) {
 }
 
 TEST_F(CountRunTest, AListStandsAfterARun) {
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
   CountClipboard("cat");
-  EXPECT_TRUE(State().blnWordsGot);
-  EXPECT_TRUE(State().completeRun);
-  EXPECT_FALSE(State().listAfterStop);
+  EXPECT_TRUE(Words().blnWordsGot);
+  EXPECT_TRUE(Words().completeRun);
+  EXPECT_FALSE(Words().listAfterStop);
 }
 
 TEST_F(CountRunTest, ARunWithoutAnyScannableFileListsNothing) {
@@ -398,7 +403,7 @@ TEST_F(CountRunTest, ARunWithoutAnyScannableFileListsNothing) {
   CountFolder(folder.Path());
   ExpectMessage(OnlyMessage(), "No scanable files were found in this folder.", "No files found",
                 MessageIcon::kInformation);
-  EXPECT_FALSE(State().blnWordsGot);
+  EXPECT_FALSE(Words().blnWordsGot);
   EXPECT_FALSE(Has(Output(), "Word"));
   ExpectIdle();
 }

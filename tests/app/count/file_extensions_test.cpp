@@ -15,7 +15,7 @@ using ::testing::IsEmpty;
 
 class FileExtensionsTest : public SourcesFixture {
  protected:
-  FileExtensions& Extensions() { return program.countRun.Extensions(); }
+  FileExtensions& Extensions() { return program.Count().Extensions(); }
   [[nodiscard]] const std::string& Box(std::size_t box) {
     return Main().txbFileExtensions[box].Text();
   }

@@ -79,9 +79,8 @@ TEST_F(FileSourceTest, APathThatEndsWithASeparatorIsRefusedAndTheBoxEmptied) {
 }
 
 TEST_F(FileSourceTest, WhileTheWindowLoadsTheBoxOfAFolderPathIsNotEmptied) {
-  State().blnStartUpCompleted = false;
-  EXPECT_EQ(program.countRun.File().CheckInputFile(folder.Path() + "/"),
-            ScanFileResult::kFolderNotFile);
+  program.BeginControls();
+  EXPECT_EQ(CheckInputPath(folder.Path() + "/").result, ScanFileResult::kFolderNotFile);
   Main().txbFile[0].SetText(folder.Path() + "/");
   Main().txbFile[0].LostFocus.Fire();
   EXPECT_EQ(Main().txbFile[0].Text(), folder.Path() + "/");
@@ -180,7 +179,7 @@ TEST_F(FileSourceTest, AfterAScanThatEndedEarlyALargeFileIsAskedAbout) {
       "an output file?",
       "Large input file", MessageIcon::kQuestion, MessageButtons::kYesNoCancel);
   EXPECT_THAT(desktop.FileDialogs(), IsEmpty());
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
   desktop.ForgetQuestions();
   CountFile(FileOf(200'001));  // the last scan was completed
   EXPECT_THAT(desktop.Messages(), IsEmpty());
@@ -296,7 +295,7 @@ TEST_F(FileSourceTest, AGreyBoxDoesNotMakeLetterCaseSignificant) {
 
 TEST_F(FileSourceTest, EmptyLinesAndLinesOfBlanksAreSkipped) {
   EXPECT_EQ(WordsCountedIn("a.txt", "\n\n   \n  cat  \n \n\t\ndog\n\n"), "cat dog");
-  EXPECT_EQ(State().WordsRead, 2);
+  EXPECT_EQ(Words().WordsRead, 2);
 }
 
 TEST_F(FileSourceTest, AWordAtTheEndOfAFileWithoutABreakIsCounted) {
@@ -333,7 +332,7 @@ TEST_F(FileSourceTest, AStoppedScanKeepsTheWordsFoundSoFar) {
   CountFile(folder.Write("a.txt", "one two\nthree four\nfive six\n"));
   EXPECT_THAT(desktop.Titles(), ElementsAre("Counting interrupted"));
   EXPECT_EQ(StoredWords(), "one two");
-  EXPECT_FALSE(program.countRun.File().Scanning());
+  EXPECT_FALSE(program.State().Scanning());
   ExpectIdle();
 }
 
@@ -341,7 +340,7 @@ TEST_F(FileSourceTest, AnErrorWhileReadingIsReportedWithNumberAndDescription) {
   FailAtTheSecondLine();
   CountFile(folder.Write("a.txt", "one\ntwo\n"));
   ExpectMessage(OnlyMessage(), "Error 6: Overflow", "Problem", MessageIcon::kExclamation);
-  EXPECT_TRUE(program.countRun.File().Scanning());
+  EXPECT_TRUE(program.State().Scanning());
   ExpectIdle();
 }
 

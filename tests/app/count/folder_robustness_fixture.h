@@ -21,7 +21,7 @@ class FolderRobustness : public SourcesFixture {
 
   [[nodiscard]] std::vector<std::string> SkippedPaths() {
     std::vector<std::string> paths;
-    for (const SkippedItem& item : program.countRun.Folder().Skipped()) paths.push_back(item.path);
+    for (const SkippedItem& item : program.Count().Skipped()) paths.push_back(item.path);
     return paths;
   }
 

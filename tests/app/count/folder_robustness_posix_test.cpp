@@ -70,7 +70,7 @@ TEST_F(PosixFolderRobustness, NamesMayHoldAnyBytes) {
   for (const std::string& name : names) Put(name);
   CountFolderWithoutOutputFile(folder.Path());
   EXPECT_EQ(StoredWords(), "cat*" + std::to_string(names.size()));
-  EXPECT_EQ(State().filesScanned, static_cast<std::int32_t>(names.size()));
+  EXPECT_EQ(Words().folder.filesScanned, static_cast<std::int32_t>(names.size()));
   EXPECT_THAT(SkippedPaths(), IsEmpty());
   ExpectIdle();
 }
@@ -82,7 +82,7 @@ TEST_F(PosixFolderRobustness, FoldersMayHaveAnyNamesToo) {
   Put("ends with a dot./d.txt");
   CountFolderWithoutOutputFile(folder.Path());
   EXPECT_EQ(StoredWords(), "cat*4");
-  EXPECT_EQ(State().foldersScanned, 5);
+  EXPECT_EQ(Words().folder.foldersScanned, 5);
 }
 
 TEST_F(PosixFolderRobustness, TheChosenFolderMayHaveSuchANameItself) {
@@ -110,7 +110,7 @@ TEST_F(PosixFolderRobustness, ADeepTreeIsWalkedToItsEnd) {
   Put(path + "/a.txt");
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
-  EXPECT_EQ(State().foldersScanned, 801);
+  EXPECT_EQ(Words().folder.foldersScanned, 801);
 }
 
 TEST_F(PosixFolderRobustness, LinksInACircleEndNowhere) {
@@ -122,7 +122,7 @@ TEST_F(PosixFolderRobustness, LinksInACircleEndNowhere) {
   fs::create_symlink("self.txt", folder / "self.txt");
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
-  EXPECT_EQ(State().foldersScanned, 2);
+  EXPECT_EQ(Words().folder.foldersScanned, 2);
   EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 
@@ -152,7 +152,7 @@ TEST_F(PosixFolderRobustness, PipesAndSocketsAreNoFiles) {
   close(unixSocket);
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
-  EXPECT_EQ(State().filesScanned, 1);
+  EXPECT_EQ(Words().folder.filesScanned, 1);
 }
 
 TEST_F(PosixFolderRobustness, AFolderThatMayNotBeReadIsSkippedAndNamed) {

@@ -19,7 +19,7 @@ TEST_F(FolderRobustness, PathsMayBeLongerThan255Characters) {
   Put(name + "a.txt");
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
-  EXPECT_EQ(State().foldersScanned, 9);
+  EXPECT_EQ(Words().folder.foldersScanned, 9);
 }
 
 // What may not be read.
@@ -33,7 +33,7 @@ TEST_F(FolderRobustness, AFileThatMayNotBeReadIsSkippedAndNamed) {
     WatchOutput();
     CountFolderWithoutOutputFile(folder.Path());
     EXPECT_EQ(StoredWords(), "cat mouse");
-    EXPECT_EQ(State().filesScanned, 2);
+    EXPECT_EQ(Words().folder.filesScanned, 2);
     EXPECT_THAT(SkippedPaths(), ElementsAre(folder / "secret.txt"));
     EXPECT_TRUE(WasShown(NativePaths("{Folder}/secret.txt (skipped: ")));
     EXPECT_TRUE(WasShown("2 files in 1 folder were scanned."));
@@ -122,7 +122,7 @@ TEST_F(FolderRobustness, FilesThatComeUpBetweenThePassesAreReadToo) {
   desktop.AtMessage("Multiple files/folders", [this] { Put("new.txt", "dog"); });
   CountFolderWithoutOutputFile(folder.Path());
   EXPECT_EQ(StoredWords(), "cat*2 dog");
-  EXPECT_EQ(State().filesScanned, 3);
+  EXPECT_EQ(Words().folder.filesScanned, 3);
   ExpectIdle();
 }
 
@@ -174,7 +174,7 @@ TEST_F(FolderRobustness, StopWhileScanningLeavesTheWordsFoundSoFar) {
   EXPECT_EQ(StoredWords(), "one three two");
   EXPECT_TRUE(Has(Output(), "2 files in 1 folder were scanned."));
   EXPECT_TRUE(Output().ends_with("Stopped with 3 words found."));
-  EXPECT_FALSE(program.countRun.File().Scanning());
+  EXPECT_FALSE(program.State().Scanning());
   ExpectIdle();
 }
 

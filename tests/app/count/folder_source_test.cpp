@@ -164,7 +164,7 @@ TEST_F(FolderSourceTest, AClickOnStopAtThatQuestionIsForgottenWhenTheScanStarts)
   desktop.AtMessage("Multiple files/folders", [this] { Count(); });
   CountFolderWithoutOutputFile(folder.Path());
   EXPECT_EQ(StoredWords(), "cat dog");
-  EXPECT_TRUE(State().completeRun);
+  EXPECT_TRUE(Words().completeRun);
   ExpectIdle();
 }
 
@@ -233,7 +233,7 @@ TEST_F(FolderSourceTest, WithoutSubfoldersOnlyTheFolderItselfIsWalked) {
   Put("sub/b.txt", "dog");
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
-  EXPECT_EQ(State().foldersScanned, 1);
+  EXPECT_EQ(Words().folder.foldersScanned, 1);
   Main().chkIncludeSubfolders.SetValue(CheckState::kGrayed);
   CountFolder(folder.Path());
   EXPECT_EQ(StoredWords(), "cat");
@@ -371,7 +371,7 @@ TEST_F(FolderSourceTest, WhileAFolderIsScannedOnlyStopCanBeUsed) {
     if (Main().txbFile[0].Text() != folder / "a.txt") return;
     ExpectRunning();
     EXPECT_FALSE(Main().lblCopyrightNotice.Visible());
-    EXPECT_TRUE(program.countRun.File().Scanning());
+    EXPECT_TRUE(program.State().Scanning());
     looked = true;
   });
   CountFolder(folder.Path());
@@ -389,7 +389,7 @@ TEST_F(FolderSourceTest, UnsuitableFilesAreSkippedSilentlyAndNotScanned) {
   EXPECT_THAT(desktop.Titles(), ElementsAre("Multiple files/folders", "Specify output file"));
   EXPECT_EQ(StoredWords(), "cat");
   EXPECT_TRUE(Output().starts_with("1 file (in 1 folder) was scanned."));
-  EXPECT_THAT(program.countRun.Folder().Skipped(), IsEmpty());
+  EXPECT_THAT(program.Count().Skipped(), IsEmpty());
 }
 
 TEST_F(FolderSourceTest, AFolderOfPicturesAndArchivesHasNoFilesToScan) {

@@ -73,9 +73,10 @@ TEST_F(LineEndingsOfFiles, AByteOrderMarkIsNoPartOfAWord) {
 }
 
 TEST_F(LineEndingsOfFiles, TheWarningsSayWhichLineEndsTheyAre) {
-  const auto warned = [this](Type type) {
+  const Messages messages(desktop, program.Text());
+  const auto warned = [&](Type type) {
     desktop.ForgetQuestions();
-    ShowLineEndingWarning(program.context, type);
+    ShowLineEndingWarning(messages, type);
     return OnlyMessage();
   };
   const auto icon = MessageIcon::kExclamation;
@@ -85,7 +86,7 @@ TEST_F(LineEndingsOfFiles, TheWarningsSayWhichLineEndsTheyAre) {
   ExpectMessage(warned(Type::kNotText), "This file has line endings of an unknown type.", "Warning",
                 icon);
   desktop.ForgetQuestions();
-  ShowLineEndingWarning(program.context, Type::kDos);
+  ShowLineEndingWarning(messages, Type::kDos);
   EXPECT_TRUE(desktop.Messages().empty());
 }
 

@@ -127,7 +127,7 @@ TEST_F(ListChoice, TheSameChoiceAgainListsNothing) {
 TEST_F(ListChoice, WhileTheWindowLoadsAChoiceIsJustStored) {
   CountClipboard("cat");
   const std::string before = Output();
-  State().blnStartUpCompleted = false;
+  program.BeginControls();
   ChooseFormat(DisplayFormat::kWordFileList);
   EXPECT_EQ(Main().cboDisplayFormat.ListIndex(), 12);
   ChooseOrder(WordOrder::kAlphabetical);

@@ -49,7 +49,7 @@ using testing::Not;
 
 class OutOfMemory : public ProgramFixture {
  protected:
-  OutOfMemory() { State().scanThreads = 1; }
+  OutOfMemory() { program.UseThreads(1); }
 
   /// More different words than such memory holds; "cat" is the first.
   std::string WriteManyWords(const std::string& name) {
@@ -76,7 +76,7 @@ TEST_F(OutOfMemory, IsToldAsWhatItIsAndNamesTheFile) {
   CountWithLittleMemory([&] { CountFile(path); });
   ExpectMessage(OnlyMessage(), "Error 7: Out of memory while reading " + path, "Problem",
                 MessageIcon::kExclamation);
-  EXPECT_FALSE(program.output.IsFull());
+  EXPECT_FALSE(program.Output().IsFull());
 }
 
 TEST_F(OutOfMemory, EndsTheFileAndNotTheFolder) {
@@ -86,10 +86,10 @@ TEST_F(OutOfMemory, EndsTheFileAndNotTheFolder) {
   desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
   desktop.AnswerFile(std::nullopt);
   CountWithLittleMemory([&] { CountFolder(folder / "texts"); });
-  ASSERT_EQ(program.countRun.Folder().Skipped().size(), 1U);
-  EXPECT_THAT(program.countRun.Folder().Skipped()[0].path, HasSubstr("many.txt"));
-  EXPECT_EQ(program.countRun.Folder().Skipped()[0].reason, "Out of memory");
-  EXPECT_EQ(State().filesScanned, 1);
+  ASSERT_EQ(program.Count().Skipped().size(), 1U);
+  EXPECT_THAT(program.Count().Skipped()[0].path, HasSubstr("many.txt"));
+  EXPECT_EQ(program.Count().Skipped()[0].reason, "Out of memory");
+  EXPECT_EQ(Words().folder.filesScanned, 1);
   EXPECT_THAT(StoredWords(), testing::StartsWith("cat*2 "));
 }
 

@@ -29,7 +29,7 @@ class OutputFileTest : public CountFixture {
   void ExpectProblem(const std::string& text) {
     ExpectMessage(OnlyMessage(), text, "Problem", MessageIcon::kExclamation);
     EXPECT_EQ(Main().txbOutput.SelStart(), 0U);
-    EXPECT_FALSE(program.lister.FileWritten());
+    EXPECT_FALSE(program.Lister().FileWritten());
     ExpectIdle();
   }
 
@@ -43,7 +43,7 @@ TEST_F(OutputFileTest, TheListGoesIntoTheFileAndIntoTheTextBox) {
   CountTwoWords();
   EXPECT_EQ(TextOf(path), kFileList);
   EXPECT_EQ(Output(), kBoxList);
-  EXPECT_TRUE(program.lister.FileWritten());
+  EXPECT_TRUE(program.Lister().FileWritten());
   EXPECT_THAT(desktop.Titles(), IsEmpty());
 }
 
@@ -52,7 +52,7 @@ TEST_F(OutputFileTest, WithoutAPathTheListGoesIntoTheTextBoxWhateverTheBoxSays) 
     Main().chkDisableOutputToFile.SetChecked(disabled);
     CountTwoWords();
     EXPECT_EQ(Output(), kBoxList);
-    EXPECT_FALSE(program.lister.FileWritten());
+    EXPECT_FALSE(program.Lister().FileWritten());
   }
   EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
@@ -256,9 +256,9 @@ TEST_F(OutputFileTest, AFileOfTheCountedFolderIsRefusedHoweverItIsNamed) {
 TEST_F(OutputFileTest, AProblemOfTheNextRunDoesNotSpeakOfTheListBefore) {
   ListTo(path);
   CountTwoWords();
-  EXPECT_TRUE(program.lister.FileWritten());
+  EXPECT_TRUE(program.Lister().FileWritten());
   CountClipboard("");
-  EXPECT_FALSE(program.lister.FileWritten());
+  EXPECT_FALSE(program.Lister().FileWritten());
 }
 
 TEST_F(OutputFileTest, WithoutTheWarningAnExistingFileIsOverwritten) {

@@ -23,7 +23,7 @@ TEST_F(OutputRules, AnotherNameOfACountedFileTakesNoState) {
   const std::string text = folder.Write("g/a.txt", "dog");
   std::filesystem::create_hard_link(TestPath(text), TestPath(folder / "hard.qlm"));
   CountFolder(folder / "g");
-  EXPECT_EQ(program.savedState.SaveState(folder / "hard.qlm"),
+  EXPECT_EQ(program.States().SaveState(folder / "hard.qlm"),
             "Error when attempting to save state: the file lies in the folder that is counted.");
 }
 
@@ -83,9 +83,9 @@ TEST_F(OutputRules, AWordsFileIsRefusedBeforeAnythingIsCounted) {
 
 TEST_F(OutputRules, TheStateThatWasLoadedIsRefused) {
   const std::string state = folder / "mine.qlm";
-  ASSERT_EQ(program.savedState.SaveState(state), "");
+  ASSERT_EQ(program.States().SaveState(state), "");
   const std::string before = ContentsOf(state);
-  ASSERT_EQ(program.savedState.RestoreSavedState(state), RestoreResult::kRestored);
+  ASSERT_EQ(program.States().RestoreSavedState(state), RestoreResult::kRestored);
   DoNotWarn();
   ListTo(state);
   CountClipboard("dog");
@@ -101,12 +101,12 @@ TEST_F(OutputRules, AStateIsNotSavedOverWhatIsRead) {
   CountFile(text);
   Main().txbFile[0].SetText("");
   const std::string start = "Error when attempting to save state: ";
-  EXPECT_EQ(program.savedState.SaveState(text), start + "the file is the text that is counted.");
-  EXPECT_EQ(program.savedState.SaveState(words), start + "the file is a words file.");
-  EXPECT_EQ(program.savedState.SaveState(folder / "new.qlm"), "");
+  EXPECT_EQ(program.States().SaveState(text), start + "the file is the text that is counted.");
+  EXPECT_EQ(program.States().SaveState(words), start + "the file is a words file.");
+  EXPECT_EQ(program.States().SaveState(folder / "new.qlm"), "");
   static_cast<void>(folder.Write("g/a.txt", "dog"));
   CountFolder(folder / "g");
-  EXPECT_EQ(program.savedState.SaveState(folder / "g/new.qlm"),
+  EXPECT_EQ(program.States().SaveState(folder / "g/new.qlm"),
             start + "the file lies in the folder that is counted.");
 }
 

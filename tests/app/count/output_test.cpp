@@ -40,19 +40,19 @@ TEST_F(OutputTest, ClearTextboxEmptiesItAndBringsTheNoticesBack) {
 TEST_F(OutputTest, ClearTextboxMovesTheFocusOnceTheWindowHasLoaded) {
   Main().Show();
   Main().optOnClipboard.SetValue(true);
-  State().blnStartUpCompleted = false;
+  program.BeginControls();
   Main().cmdClearOutput.PerformClick();
   EXPECT_EQ(Main().Focused(), &Main().cmdClearOutput);
-  State().blnStartUpCompleted = true;
+  program.TakeControls();
   Main().cmdClearOutput.PerformClick();
   EXPECT_EQ(Main().Focused(), &Main().cmdCountWords);
 }
 
 TEST_F(OutputTest, ClearTextboxEndsItsFullness) {
   CountTooMuch();
-  ASSERT_TRUE(program.output.IsFull());
+  ASSERT_TRUE(program.Output().IsFull());
   Main().cmdClearOutput.PerformClick();
-  EXPECT_FALSE(program.output.IsFull());
+  EXPECT_FALSE(program.Output().IsFull());
 }
 
 TEST_F(OutputTest, AClearedListIsThereAgainWithTheNextChoice) {
@@ -99,7 +99,7 @@ TEST_F(OutputTest, TheSuppressBoxLeavesAListAlone) {
 
 TEST_F(OutputTest, TheSuppressBoxBreaksNoLineWhereNothingStands) {
   AtYield(1, [this] {
-    program.output.ClearOutput();
+    Main().txbOutput.SetText("");
     Main().chkSuppressWords.PerformClick();
     EXPECT_EQ(Output(), "");
   });
@@ -206,7 +206,7 @@ TEST_F(OutputTest, ALongListIsCutAndTheUserSentToAFile) {
                 MessageIcon::kExclamation);
   EXPECT_GT(Main().txbOutput.Length(), 44'000U);
   EXPECT_LE(Main().txbOutput.Length(), 44'011U);
-  EXPECT_TRUE(program.output.IsFull());
+  EXPECT_TRUE(program.Output().IsFull());
   ExpectIdle();
 }
 
@@ -229,7 +229,7 @@ TEST_F(OutputTest, ABoxOfExactly44000CharactersIsNotFull) {
   ListWordsOnly();
   CountClipboard(ManyWords(3'997));  // lines of 11 characters below a header of 33
   EXPECT_EQ(Main().txbOutput.Length(), 44'000U);
-  EXPECT_FALSE(program.output.IsFull());
+  EXPECT_FALSE(program.Output().IsFull());
   EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 
@@ -259,24 +259,23 @@ TEST_F(OutputTest, StopBehindTheLimitAddsNothingToAFullBox) {
 }
 
 TEST_F(OutputTest, AProblemIsShownWithItsNumberAndText) {
-  program.lister.ReportProblem(61, "Disk full");
+  program.Lister().ReportProblem(61, "Disk full");
   ExpectMessage(OnlyMessage(), "Error 61: Disk full", "Problem", MessageIcon::kExclamation);
-  EXPECT_FALSE(program.output.IsFull());
+  EXPECT_FALSE(program.Output().IsFull());
 }
 
 TEST_F(OutputTest, AProblemBehindAWrittenFileSaysSo) {
   ListTo(folder / "out.txt");
   CountClipboard("cat");
-  program.lister.ReportProblem(57, "Device I/O error");
+  program.Lister().ReportProblem(57, "Device I/O error");
   EXPECT_EQ(OnlyMessage().text,
             "Error 57: Device I/O error\r\nResults have been written to the output file.");
 }
 
 TEST_F(OutputTest, WithNothingListedYetAFullBoxIsJustFull) {
-  program.lister.ReportProblem(7, "Insufficient memory");
+  program.Lister().ReportProblem(7, "Insufficient memory");
   EXPECT_EQ(OnlyMessage().text, "Textbox is full.  Try writing output to a file.");
-  EXPECT_TRUE(program.output.IsFull());
-  program.output.OutputToTxb("more");
+  EXPECT_TRUE(program.Output().IsFull());
   EXPECT_EQ(Output(), "");
 }
 
@@ -285,7 +284,7 @@ TEST_F(OutputTest, ABoxThatTakesTheListNoLongerShowsItsFirst4096Characters) {
   const std::string list = Output();
   desktop.ForgetQuestions();
   Main().txbOutput.SetText(std::string(255, 'x'));
-  program.lister.ReportProblem(7, "");
+  program.Lister().ReportProblem(7, "");
   ExpectMessage(OnlyMessage(),
                 "There is more output than will fit in the textbox.  Try writing output to a file.",
                 "Problem", MessageIcon::kExclamation);
@@ -296,7 +295,7 @@ TEST_F(OutputTest, ABoxOf256CharactersKeepsThem) {
   CountTooMuch();
   desktop.ForgetQuestions();
   Main().txbOutput.SetText(std::string(256, 'x'));
-  program.lister.ReportProblem(7, "");
+  program.Lister().ReportProblem(7, "");
   EXPECT_EQ(OnlyMessage().text, "Textbox is full.  Try writing output to a file.");
   EXPECT_EQ(Output(), std::string(256, 'x'));
 }

@@ -31,15 +31,15 @@ class PerFileTally : public SourcesFixture {
   [[nodiscard]] std::string ListFile() const { return TextOf(folder / "list.txt"); }
 
   [[nodiscard]] const FileTally& TallyOf(const std::string& word) {
-    for (std::int32_t i = 1; i <= State().store.NumDifferentWords(); ++i) {
-      const FileTally* files = State().store.FilesOf(i);
-      if (State().store.At(i).Word == word && files != nullptr) return *files;
+    for (std::int32_t i = 1; i <= Words().store.NumDifferentWords(); ++i) {
+      const FileTally* files = Words().store.FilesOf(i);
+      if (Words().store.At(i).Word == word && files != nullptr) return *files;
     }
     ADD_FAILURE() << word << " has no files";
     return none_;
   }
   [[nodiscard]] const std::vector<std::string>& FileList() {
-    return State().store.Files().FileList();
+    return Words().store.Files().FileList();
   }
 
  private:
@@ -60,7 +60,7 @@ TEST_F(PerFileTally, EachWordHasItsFilesAndItsOccurrencesInEach) {
   EXPECT_THAT(TallyOf("cat").FileCounts, ElementsAre(3, 1));
   EXPECT_THAT(TallyOf("dog").FileNumbers, ElementsAre(1, 2));
   EXPECT_THAT(TallyOf("dog").FileCounts, ElementsAre(1, 1));
-  EXPECT_EQ(State().filesScanned, 5);
+  EXPECT_EQ(Words().folder.filesScanned, 5);
 }
 
 TEST_F(PerFileTally, TheNumberOfFilesIsListedBesideTheFrequency) {
@@ -145,13 +145,13 @@ TEST_F(PerFileTally, ReadingAWordsFileForgetsTheFiles) {
   desktop.AnswerFile(folder.Write("words.txt", "dog"));
   Panel().cmdSelectWordsFile[1].PerformClick();
   EXPECT_THAT(FileList(), ElementsAre(""));
-  EXPECT_EQ(State().store.FilesOf(1), nullptr);
+  EXPECT_EQ(Words().store.FilesOf(1), nullptr);
 }
 
 TEST_F(PerFileTally, WithoutCountOnlyWordsNoFilesAreKept) {
   Put("a.txt", "cat");
   CountTexts();
-  EXPECT_EQ(State().store.FilesOf(1), nullptr);
+  EXPECT_EQ(Words().store.FilesOf(1), nullptr);
   EXPECT_THAT(FileList(), ElementsAre(""));
 }
 
@@ -160,7 +160,7 @@ TEST_F(PerFileTally, ASingleFileKeepsNoFilesEither) {
   Put("a.txt", "cat");
   CountTexts();
   CountFile(folder / "texts/a.txt");
-  EXPECT_EQ(State().store.FilesOf(1), nullptr);
+  EXPECT_EQ(Words().store.FilesOf(1), nullptr);
 }
 
 TEST_F(PerFileTally, FilesAreToldForWordsInOneInTwoAndInMoreThan8000Files) {
@@ -183,7 +183,7 @@ TEST_F(PerFileTally, FilesAreToldForWordsInOneInTwoAndInMoreThan8000Files) {
   EXPECT_THAT(TallyOf("two").FileNumbers, ElementsAre(1, kFiles));
   EXPECT_THAT(TallyOf("two").FileCounts, ElementsAre(2, 2));
   EXPECT_THAT(TallyOf("one").FileNumbers, ElementsAre(7'000));
-  EXPECT_EQ(State().filesScanned, kFiles);
+  EXPECT_EQ(Words().folder.filesScanned, kFiles);
 
   ListAs(DisplayFormat::kWordFileListFreq);
   EXPECT_TRUE(ListFile().ends_with(
@@ -235,7 +235,7 @@ TEST_F(OverflowInAFile, LeavesTheWindowIdle) {
   Main().txbFile[0].SetText("mine.txt");
   CountTooMany();
   ExpectIdle();
-  EXPECT_FALSE(program.countRun.File().Scanning());
+  EXPECT_FALSE(program.State().Scanning());
   EXPECT_EQ(Main().txbFile[0].Text(), "mine.txt");
 }
 

@@ -72,8 +72,8 @@ class SourcesFixture : public ProgramFixture {
       EXPECT_EQ(label->FontName(), "Arial") << label->Name();
       EXPECT_FALSE(label->Caption().starts_with("[")) << label->Name();
     }
-    EXPECT_FALSE(State().StopRequested);
-    EXPECT_FALSE(State().Busy());
+    EXPECT_EQ(program.State().Phase(), RunPhase::kIdle);
+    EXPECT_FALSE(program.State().Busy());
   }
 
   void ExpectRunning() {

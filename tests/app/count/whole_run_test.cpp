@@ -18,8 +18,8 @@ class WholeRun : public ProgramFixture {
     EXPECT_TRUE(Main().optFolder.Enabled());
     EXPECT_TRUE(Main().cboDisplayFormat.Enabled());
     EXPECT_TRUE(Main().txbFile[0].Enabled());
-    EXPECT_FALSE(State().StopRequested);
-    EXPECT_FALSE(State().Busy());
+    EXPECT_EQ(program.State().Phase(), RunPhase::kIdle);
+    EXPECT_FALSE(program.State().Busy());
   }
 
   /// A click on the count command, which reads "Stop" then, at a pump.
@@ -37,7 +37,7 @@ TEST_F(WholeRun, CountsAndListsAClipboardText) {
   CountClipboard("The cat and the dog");
   EXPECT_EQ(Output(), "Word (longest has 3 characters)\r\nthe\r\nand\r\ncat\r\ndog\r\n");
   EXPECT_THAT(desktop.Messages(), IsEmpty());
-  EXPECT_TRUE(State().blnWordsGot);
+  EXPECT_TRUE(Words().blnWordsGot);
   ExpectIdle();
 }
 
@@ -71,8 +71,8 @@ TEST_F(WholeRun, StopWithOneWordSaysSoAndListsItOnDemand) {
                 "Do you wish to list the words which were found?",
                 "Counting interrupted", MessageIcon::kQuestion, MessageButtons::kYesNo);
   EXPECT_EQ(Output(), "Word (longest has 3 characters)\r\ncat\r\n");
-  EXPECT_TRUE(State().listAfterStop);
-  EXPECT_FALSE(State().completeRun);
+  EXPECT_TRUE(Words().listAfterStop);
+  EXPECT_FALSE(Words().completeRun);
   ExpectIdle();
 }
 
@@ -91,8 +91,8 @@ TEST_F(WholeRun, RelistingAnInterruptedCountTellsThatItIsIncomplete) {
   desktop.ForgetQuestions();
   ListWordsOnly();
   const MessageBox box = OnlyMessage();
-  EXPECT_EQ(box.title, program.text.GetText(23));
-  EXPECT_EQ(box.text, program.text.GetText(22));
+  EXPECT_EQ(box.title, program.Text().GetText(23));
+  EXPECT_EQ(box.text, program.Text().GetText(22));
   EXPECT_EQ(box.icon, MessageIcon::kInformation);
   EXPECT_THAT(Output(), HasSubstr("cat\r\ndog\r\n"));
 }
@@ -122,7 +122,7 @@ TEST_F(WholeRun, NothingElseCanStartWhileARunIsAtWork) {
     EXPECT_FALSE(Panel().cmdSelectWordsFile[0].Enabled());
     EXPECT_FALSE(Panel().cmdInitialize.Enabled());
     Main().cboDisplayFormat.SetListIndex(8);  // from code, as disabling stops hands only
-    program.countRun.OnListFilesClick();
+    program.Count().OnListFilesClick();
   });
   CountClipboard("cat dog");
   EXPECT_EQ(StoredWords(), "cat dog");
@@ -158,7 +158,7 @@ TEST_F(WholeRun, StopWhileTheOutputFileIsWrittenLeavesTheOldList) {
   CountClipboard("cat dog emu fox");
   EXPECT_EQ(Output(), "\r\nOutput to file was terminated.");
   EXPECT_EQ(ContentsOf(folder / "list.txt"), "the old list");
-  EXPECT_FALSE(program.lister.FileWritten());
+  EXPECT_FALSE(program.Lister().FileWritten());
 }
 
 TEST_F(WholeRun, MarkersThatAreMissingOpenThePanel) {
@@ -223,7 +223,7 @@ TEST_F(WholeRun, ErrorWhileTheFileIsWrittenIsReportedAndLeavesNoListing) {
   CountClipboard("cat");
   ExpectMessage(OnlyMessage(), "Error 61: Disk full", "Problem", MessageIcon::kExclamation);
   EXPECT_EQ(Output(), "");
-  EXPECT_FALSE(program.lister.FileWritten());
+  EXPECT_FALSE(program.Lister().FileWritten());
   ExpectIdle();
 }
 
@@ -306,7 +306,7 @@ TEST_F(WholeRun, ClipboardTextHasALimitInCharacters) {
   for (int i = 0; i < 50'000; ++i) text += "\xC3\xA9 ";
   CountClipboard(text);
   EXPECT_THAT(desktop.Messages(), IsEmpty());
-  EXPECT_EQ(State().WordsRead, 50'000);
+  EXPECT_EQ(Words().WordsRead, 50'000);
   CountClipboard(text + "x");
   ExpectMessage(OnlyMessage(),
                 "There are 100,001 characters in the text on the clipboard.\r\n"
@@ -355,7 +355,7 @@ TEST_F(WholeRun, FolderWithoutScannableFilesSaysWhich) {
   desktop.ForgetQuestions();
   Main().chkIncludeSubfolders.SetChecked(true);
   Main().txbFileExtensions[0].SetText("txt");
-  EXPECT_TRUE(program.countRun.Extensions().GetFileExtensions(ExtensionList::kIncluded));
+  EXPECT_TRUE(program.Count().Extensions().GetFileExtensions(ExtensionList::kIncluded));
   CountFolder(pictures);
   EXPECT_EQ(OnlyMessage().text,
             "No scanable files of the specified type were found in this folder or in its "

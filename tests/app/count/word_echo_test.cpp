@@ -116,7 +116,7 @@ TEST_F(WordEchoTest, WordsTooLongForTheStoreAreNotShown) {
   CountClipboard("cat " + std::string(101, 'a') + " dog");
   EXPECT_TRUE(WasShown("cat dog "));
   EXPECT_EQ(StoredWords(), "cat dog");
-  EXPECT_EQ(State().WordsRead, 3);
+  EXPECT_EQ(Words().WordsRead, 3);
 }
 
 TEST_F(WordEchoTest, ACheckedBoxSuppressesTheWords) {
@@ -158,7 +158,7 @@ TEST_F(WordEchoTest, TheWordThatPassesTheLimitIsTheLastOneShown) {
     EXPECT_TRUE(Main().chkSuppressWords.IsChecked());
   });
   CountClipboard(ManyWords(4'403));
-  EXPECT_EQ(State().store.NumDifferentWords(), 4'403);
+  EXPECT_EQ(Words().store.NumDifferentWords(), 4'403);
 }
 
 TEST_F(WordEchoTest, TheLimitCountsCharactersNotBytes) {
@@ -172,7 +172,9 @@ TEST_F(WordEchoTest, TheLimitCountsCharactersNotBytes) {
 TEST_F(WordEchoTest, TheFirstWordIsShownHoweverLongTheBoxIsAndTheSecondSuppresses) {
   const std::string before(44'001, 'x');
   Main().txbOutput.SetText(before);
-  WordEcho echo(program.context);
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  parts.mainWindow.Connect();
+  WordEcho echo(Main(), parts.output, parts.messages, parts.inForce.settings);
   echo.OnNewWord("cat", 1);
   EXPECT_EQ(Output(), before + "cat ");
   EXPECT_FALSE(Main().chkSuppressWords.IsChecked());
@@ -184,9 +186,13 @@ TEST_F(WordEchoTest, TheFirstWordIsShownHoweverLongTheBoxIsAndTheSecondSuppresse
 }
 
 TEST_F(WordEchoTest, NobodyListensWhenTheScanIsOver) {
-  CountClipboard("cat");
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  ASSERT_TRUE(parts.text.LoadProgramText("qlav_text.dat", desktop));
+  Main().optOnClipboard.SetValue(true);
+  desktop.SetClipboard("cat");
+  parts.countRun.OnCountClick();
   const std::string list = Output();
-  State().store.AddWord("dog");
+  parts.words.store.AddWord("dog");
   EXPECT_EQ(Output(), list);
 }
 

@@ -24,15 +24,17 @@ class WordListMessages : public SourcesFixture {
     desktop.AnswerFile(path);
     Panel().cmdSelectWordsFile[static_cast<std::size_t>(kind)].PerformClick();
   }
+  /// Types a path and leaves the box. Whether the file's words are in force then.
   bool Attempt(WordListKind kind, const std::string& path) {
     PathBox(kind).SetText(path);
-    return program.wordLists.AttemptToReadWords(kind);
+    PathBox(kind).LostFocus.Fire();
+    return NumberRead(kind) > 0;
   }
   [[nodiscard]] TextBox& PathBox(WordListKind kind) {
     return Panel().txbWordsFile[static_cast<std::size_t>(kind)];
   }
   [[nodiscard]] std::int32_t NumberRead(WordListKind kind) {
-    const WordLists& lists = State().lists;
+    const WordLists& lists = program.Settings().lists;
     return (kind == kIgnore ? lists.IgnoreList : lists.CountOnlyList).Count();
   }
 
@@ -49,7 +51,7 @@ class WordListMessages : public SourcesFixture {
 TEST_F(WordListMessages, AListOfTypedWordsTakesAThousand) {
   TypeWords(kIgnore, ManyWords(1'000));
   EXPECT_THAT(desktop.Messages(), IsEmpty());
-  EXPECT_EQ(State().lists.ExtraIgnoreList.Count(), 1'000);
+  EXPECT_EQ(program.Settings().lists.ExtraIgnoreList.Count(), 1'000);
 }
 
 TEST_F(WordListMessages, TooManyTypedWordsAreRefusedAndTheListStands) {
@@ -57,21 +59,22 @@ TEST_F(WordListMessages, TooManyTypedWordsAreRefusedAndTheListStands) {
   TypeWords(kIgnore, ManyWords(1'001));
   ExpectMessage(OnlyMessage(), "Too many words to ignore.", "Invalid input",
                 MessageIcon::kExclamation);
-  EXPECT_THAT(State().lists.ExtraIgnoreList.Words(), ElementsAre("dog"));
+  EXPECT_THAT(program.Settings().lists.ExtraIgnoreList.Words(), ElementsAre("dog"));
   EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[0].Text(), ManyWords(1'001));
   desktop.ForgetQuestions();
   TypeWords(kCountOnly, "cat");
   TypeWords(kCountOnly, ManyWords(1'001));
   ExpectMessage(OnlyMessage(), "Too many count-only words.", "Invalid input",
                 MessageIcon::kExclamation);
-  EXPECT_THAT(State().lists.ExtraCountOnlyList.Words(), ElementsAre("cat"));
+  EXPECT_THAT(program.Settings().lists.ExtraCountOnlyList.Words(), ElementsAre("cat"));
 }
 
 TEST_F(WordListMessages, OnlyTheMessageEndsWithAFullStop) {
   Panel().txbWordsToIgnoreOrCount[0].SetText(" End. Stop... ");
-  EXPECT_EQ(program.wordLists.GetExtraWords(kIgnore), "end stop");
+  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  EXPECT_EQ(parts.wordLists.GetExtraWords(kIgnore), "end stop");
   Panel().txbWordsToIgnoreOrCount[0].SetText(ManyWords(1'001));
-  EXPECT_EQ(program.wordLists.GetExtraWords(kIgnore), "Too many words to ignore.");
+  EXPECT_EQ(parts.wordLists.GetExtraWords(kIgnore), "Too many words to ignore.");
 }
 
 // Choosing a words file.
@@ -163,7 +166,7 @@ TEST_F(WordListMessages, AMissingFileIsTold) {
 }
 
 TEST_F(WordListMessages, WhileTheProgramStartsAMissingFileIsReplacedByTheDefault) {
-  State().blnStartUpCompleted = false;
+  program.BeginControls();
   EXPECT_FALSE(Attempt(kIgnore, folder / "nowhere.txt"));
   EXPECT_TRUE(PathBox(kIgnore).Text().ends_with("cwds_en.txt"));
   EXPECT_FALSE(Attempt(kCountOnly, folder / "nowhere.txt"));
@@ -222,7 +225,8 @@ TEST_F(WordListMessages, AnErrorWhileReadingIsToldAndTheBoxesStandAsBefore) {
 
 TEST_F(WordListMessages, AnEmptyFileIsWarnedOfAndLoadsNoWords) {
   const std::string path = folder.Write("empty.txt", "");
-  EXPECT_TRUE(Attempt(kIgnore, path));
+  EXPECT_FALSE(Attempt(kIgnore, path));
+  EXPECT_EQ(PathBox(kIgnore).Text(), path);
   ASSERT_EQ(desktop.Messages().size(), 2U);
   ExpectMessage(desktop.Messages()[0], "This is a zero-length file.", "Warning",
                 MessageIcon::kExclamation);
@@ -262,7 +266,7 @@ TEST_F(WordListMessages, AClickOnCountWhileWordsAreReadStartsAndStopsNothing) {
   EXPECT_TRUE(looked);
   EXPECT_EQ(OnlyMessage().text, "5 count-only words loaded from " + path);
   EXPECT_EQ(PathBox(kCountOnly).Text(), path);
-  EXPECT_FALSE(State().StopRequested);
+  EXPECT_EQ(program.State().Phase(), RunPhase::kIdle);
   EXPECT_TRUE(Panel().cmdClearWordsFile[1].Enabled());
 }
 

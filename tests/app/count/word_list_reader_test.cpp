@@ -21,11 +21,11 @@ using enum WordListKind;
 class WordListReaderTest : public SourcesFixture {
  protected:
   [[nodiscard]] const std::vector<std::string>& Typed(WordListKind kind) {
-    const WordLists& lists = State().lists;
+    const WordLists& lists = program.Settings().lists;
     return (kind == kIgnore ? lists.ExtraIgnoreList : lists.ExtraCountOnlyList).Words();
   }
   [[nodiscard]] const std::vector<std::string>& Read(WordListKind kind) {
-    const WordLists& lists = State().lists;
+    const WordLists& lists = program.Settings().lists;
     return (kind == kIgnore ? lists.IgnoreList : lists.CountOnlyList).Words();
   }
   [[nodiscard]] const std::string& TypedBox(WordListKind kind) {
@@ -150,11 +150,11 @@ TEST_F(WordListReaderTest, ReadingDiscardsTheWordsOfTheLastCount) {
   CountClipboard("mouse");
   ReadFrom("dog cat");
   EXPECT_EQ(StoredWords(), "cat dog");
-  EXPECT_FALSE(State().completeRun);
-  EXPECT_TRUE(State().settings.ReadingWordList);
-  EXPECT_EQ(State().settings.CommentStart[0], "/*");
+  EXPECT_FALSE(Words().completeRun);
+  EXPECT_TRUE(program.Settings().settings.ReadingWordList);
+  EXPECT_EQ(program.Settings().settings.CommentStart[0], "/*");
   CountClipboard("cat mouse");
-  EXPECT_FALSE(State().settings.ReadingWordList);
+  EXPECT_FALSE(program.Settings().settings.ReadingWordList);
   EXPECT_EQ(StoredWords(), "mouse");
 }
 
@@ -260,7 +260,7 @@ TEST_F(WordListReaderTest, WordsToIgnoreAreNotCounted) {
   ReadFrom("a and");
   CountClipboard("The cat and a dog and the mouse");
   EXPECT_EQ(StoredWords(), "cat dog mouse");
-  EXPECT_EQ(State().WordsRead, 8);
+  EXPECT_EQ(Words().WordsRead, 8);
 }
 
 TEST_F(WordListReaderTest, OnlyCountOnlyWordsAreCounted) {
@@ -292,9 +292,11 @@ TEST_F(WordListReaderTest, AClearedWordsFileHasNoEffect) {
 }
 
 TEST_F(WordListReaderTest, TheDefaultCommonWordsFileIsTextAndCanBeRead) {
-  program.wordLists.SetPathToCWDs_Eng();
+  program.BeginControls();  // as at the start, when it stands in for a file that is lost
+  Panel().txbWordsFile[0].SetText(folder / "gone.txt");
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  program.TakeControls();
   EXPECT_TRUE(Panel().txbWordsFile[0].Text().ends_with("cwds_en.txt"));
-  ASSERT_TRUE(program.wordLists.AttemptToReadWords(kIgnore));
   EXPECT_THAT(Read(kIgnore), ::testing::Contains("the"));
   CountClipboard("the lighthouse of the harbour");
   EXPECT_EQ(StoredWords(), "harbour lighthouse");

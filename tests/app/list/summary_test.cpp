@@ -12,25 +12,26 @@ namespace {
 class Summary : public testing::Test {
  protected:
   Summary() {
-    state.WordsRead = 12'345;
-    state.totals.NumIncludedWords = 321;
-    state.totals.NumExcludedWords = 45;
-    state.totals.TotalIncludedCount = 9'876;
+    words.WordsRead = 12'345;
+    words.totals.NumIncludedWords = 321;
+    words.totals.NumExcludedWords = 45;
+    words.totals.TotalIncludedCount = 9'876;
   }
 
   /// A count of `given` count-only words of which `found` were found.
   void CountOnly(int given, std::int32_t found) {
-    state.settings.CountOnlyMode = true;
-    state.lists.CountOnlyList = WordList({"first"});
-    state.lists.ExtraCountOnlyList =
+    inForce.settings.CountOnlyMode = true;
+    inForce.lists.CountOnlyList = WordList({"first"});
+    inForce.lists.ExtraCountOnlyList =
         WordList(std::vector<std::string>(static_cast<std::size_t>(given - 1), "other"));
-    state.totals.NumIncludedWords = found;
+    words.totals.NumIncludedWords = found;
   }
 
-  void Show() { ShowSummary(frmMain, state, ","); }
+  void Show() { ShowSummary(frmMain, words, inForce, ","); }
 
   MainForm frmMain;
-  CountState state;
+  CurrentWords words;
+  InForce inForce;
 };
 
 TEST_F(Summary, NumbersAreGroupedAndRightJustified) {
@@ -73,7 +74,7 @@ TEST_F(Summary, AllCountOnlyWordsWereFoundAndTheirNumberIsJustifiedToo) {
 }
 
 TEST_F(Summary, WidthIsMeasuredInCharactersNotBytes) {
-  ShowSummary(frmMain, state, "\u202F");
+  ShowSummary(frmMain, words, inForce, "\u202F");
   EXPECT_EQ(frmMain.lblNumberOfWords.Caption(), "Number of words in this list:    321");
   EXPECT_EQ(frmMain.lblTotalNumOccurrences.Caption(),
             "Total number of instances of words: 12\u202F345");
@@ -94,7 +95,7 @@ TEST_F(Summary, CountOnlyWordsHaveNoOtherLines) {
 }
 
 TEST_F(Summary, StoppedCountHasNoTotals) {
-  state.listAfterStop = true;
+  words.listAfterStop = true;
   Show();
   EXPECT_EQ(frmMain.lblNumberOfWords.Caption(), "Number of words in this list:    321");
   EXPECT_EQ(frmMain.lblNumOccurrences.Caption(), "");
@@ -102,7 +103,7 @@ TEST_F(Summary, StoppedCountHasNoTotals) {
 }
 
 TEST_F(Summary, ListWithoutWordsStillHasTheTotalOfWordsRead) {
-  state.totals = {};
+  words.totals = {};
   Show();
   EXPECT_EQ(frmMain.lblNumberOfWords.Caption(), "Number of words in this list:      0");
   EXPECT_EQ(frmMain.lblNumOccurrences.Caption(), "");

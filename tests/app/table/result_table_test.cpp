@@ -28,7 +28,7 @@ class ResultTableTest : public ProgramFixture {
     return words;
   }
 
-  ResultTable table_{program.state, Read};
+  ResultTable table_{program.Words(), Read};
   /// What happened: "<" before a change, ">" behind it.
   std::string seen_;
 };
@@ -38,7 +38,7 @@ TEST_F(ResultTableTest, ComesWithACountAndGoesBeforeItsWordsDo) {
   CountClipboard("dog cat dog");
   EXPECT_EQ(Shown(), "dog cat ");
   EXPECT_EQ(seen_, "<>");
-  table_.Changing.Connect([this] { EXPECT_GT(State().store.NumDifferentWords(), 0); });
+  table_.Changing.Connect([this] { EXPECT_GT(Words().store.NumDifferentWords(), 0); });
   CountClipboard("ox");
   EXPECT_EQ(Shown(), "ox ");
   program.Initialize();
@@ -89,7 +89,7 @@ TEST_F(ResultTableTest, SameOrderAgainIsNoChange) {
 TEST_F(ResultTableTest, IsOfACountAndNotOfAWordsFile) {
   CountClipboard("cat dog");
   Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\n"));
-  EXPECT_TRUE(program.wordLists.TakeBoxes());
+  Panel().txbWordsFile[0].LostFocus.Fire();
   EXPECT_EQ(Shown(), "none");
 }
 

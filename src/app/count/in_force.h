@@ -1,0 +1,22 @@
+// What a scan goes by besides the panel's controls: the lists that were taken from the boxes and
+// files, and what was worked out of the parameters. One object for the program's whole life.
+#pragma once
+
+#include <cstddef>
+
+#include "engine/scan_settings.h"
+#include "engine/word_list.h"
+#include "sources/output_rules.h"
+
+namespace quillomat {
+
+struct InForce {
+  ScanSettings settings;
+  WordLists lists;
+  /// Where the lists, the state and the clipboard's text come from.
+  FilesRead filesRead;
+  /// How many threads may scan a large text at the same time; with 1 it is scanned by the caller's.
+  std::size_t scanThreads = 1;
+};
+
+}  // namespace quillomat

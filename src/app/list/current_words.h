@@ -1,0 +1,71 @@
+// The words that the program has counted, and what is known of their count: what is listed, and
+// listed again in another order. One object for the program's whole life.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "engine/word_store.h"
+#include "listing/frequency_ranking.h"
+#include "listing/list_line.h"
+#include "sources/output_rules.h"
+#include "ui/event.h"
+
+namespace quillomat {
+
+/// What a count of a folder went through.
+struct FolderPass {
+  std::int32_t filesScanned = 0;
+  /// The chosen one included; 0 before any folder was scanned.
+  std::int32_t foldersScanned = 0;
+  /// Lines, ended with CR LF, about files and folders that had to be skipped.
+  std::string skippedNotice;
+};
+
+struct CurrentWords {
+  // The words of the last count, or of the words file that was read since.
+  WordStore store;
+  WordTotals totals;
+  FrequencyRanking ranking;
+  /// Candidate words read, counted or not.
+  std::int32_t WordsRead = 0;
+  std::int16_t minimumColumnWidth = kMinimumColumnWidth;
+
+  // Whoever listens changes nothing of the words.
+  /// The words of a count are filtered and ranked: who shows them may look at them from now on.
+  mutable Event<> WordsRanked;
+  /// They are about to go: nobody may look at them any more.
+  mutable Event<> WordsGo;
+
+  /// Where they come from.
+  CountedText counted;
+  /// Of the last folder that was counted.
+  FolderPass folder;
+
+  /// The last count went to its end, and its words can be listed again.
+  bool completeRun = false;
+  /// The last count was stopped, and the user wants its words listed.
+  bool listAfterStop = false;
+  /// The counts on display were obtained under the current parameters.
+  bool blnWordsGot = false;
+
+  [[nodiscard]] CountedWords Counted() const { return {store, ranking, totals}; }
+
+  /// Whether a list of words stands that can be made anew.
+  [[nodiscard]] bool CanBeListed() const { return completeRun || listAfterStop; }
+
+  /// Empties the store: the words of the last count are gone, and with them what was known of them.
+  void Discard() {
+    WordsGo.Fire();
+    store.Clear();
+    totals = {};
+    ranking = {};
+    counted = {};
+    folder.skippedNotice.clear();
+    completeRun = false;
+    listAfterStop = false;
+    blnWordsGot = false;
+  }
+};
+
+}  // namespace quillomat
