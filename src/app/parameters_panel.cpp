@@ -169,7 +169,7 @@ void ParametersPanel::SetAllCheckBoxes(CheckState state) const {
 
 void ParametersPanel::SetDefaultValues() {
   SetDefaults(true);
-  inForce_.settings.SetCommentMarkers("C", ReadScanChoices(frmParams_));
+  inForce_.settings.SetCommentMarkers(kCPreset, ReadScanChoices(frmParams_));
   SetDefaults(false);
 }
 

@@ -67,6 +67,7 @@ void Program::Connect() {
   parts_.run.BecameIdle.Connect([this] {
     if (parts_.run.Quitting()) return End();
     if (parts_.output.IsEmpty()) ShowNoticeLabels(frmMain);  // a run has emptied it
+    BecameIdle.Fire();
   });
 }
 

@@ -51,6 +51,8 @@ class Program {
 
   /// The program is over: a face closes its windows.
   Event<> Ended;
+  /// What was at work has come to its end, and the program goes on.
+  Event<> BecameIdle;
 
   MainForm frmMain;
   ParamsForm frmParams;

@@ -53,7 +53,10 @@ class TerminalDesktop final : public Desktop {
 
   void Repaint() override {}
   void PumpEvents() override {}
-  bool OpenWithShell(const std::string& /*documentOrAddress*/) override { return false; }
+  bool OpenWithShell(const std::string& /*documentOrAddress*/,
+                     std::function<void()> /*onFailure*/) override {
+    return false;
+  }
   Registry& UserKeys() override { return registry_; }
   std::string DigitGroupSeparator() override;
 

@@ -19,13 +19,13 @@ void ScanSettings::BuildExtraWordChars() {
 }
 
 void ScanSettings::SetCommentMarkers(std::string_view preset, const ScanChoices& choices) {
-  if (preset == "HTML") {
+  if (preset == kHtmlPreset) {
     CommentStart = {"<", "&"};
     CommentEnd = {">", ";"};
-  } else if (preset == "C") {
+  } else if (preset == kCPreset) {
     CommentStart = {"/*", "//"};
     CommentEnd = {"*/", ""};
-  } else if (preset.empty()) {
+  } else if (preset == kNoPreset) {
     CommentStart = {};
     CommentEnd = {};
   } else {

@@ -12,6 +12,13 @@
 
 namespace quillomat {
 
+// The names of the comment markers' presets, spelled exactly so.
+inline constexpr std::string_view kHtmlPreset = "HTML";
+inline constexpr std::string_view kCPreset = "C";
+inline constexpr std::string_view kNoPreset{};
+/// The user's own markers, as any other name.
+inline constexpr std::string_view kUserPreset = "user";
+
 /// The classes of characters that the user may allow inside words.
 enum class AllowFlag {
   kHyphen,
@@ -81,8 +88,7 @@ struct ScanSettings {
   void SetAllowWordsFlags(const ScanChoices& choices);
   /// ExtraWordChars from AllowFlags.
   void BuildExtraWordChars();
-  /// Loads both marker pairs: "HTML", "C" (exactly so spelled), "" for none, anything else for the
-  /// user's own.
+  /// Loads both marker pairs of a preset; any other name is for the user's own.
   void SetCommentMarkers(std::string_view preset, const ScanChoices& choices);
   void ClearListCharFlags();
   /// Sets the flag of every class of which `word` holds a character.

@@ -23,6 +23,7 @@ void FigureLabel::Show(const QString& caption, const QString& figure) {
   if (caption == text() && figure == figure_) return;
   figure_ = figure;
   setText(caption);
+  setAccessibleName(figure.isEmpty() ? caption : caption + QLatin1Char(' ') + figure);
   updateGeometry();
   update();
 }

@@ -14,8 +14,10 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "qt/accessible_names.h"
 #include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
@@ -67,6 +69,7 @@ MainWindowView::MainWindowView(Program& program)
   ConnectKeys();
   ConnectZoom();
   ConnectProgress();
+  ConnectAnnouncements();
 }
 
 MainWindowView::~MainWindowView() {
@@ -183,6 +186,16 @@ void MainWindowView::ShowProgress() {
   }
   if (bar.format() != format) bar.setFormat(format);
   bar.setValue(static_cast<int>(shown->Share() * bar.maximum()));
+}
+
+/// Whoever cannot see the list come is told what it holds, when all is done.
+void MainWindowView::ConnectAnnouncements() {
+  program_.Words().WordsRanked.Connect([this] { listIsNew_ = true; });
+  program_.BecameIdle.Connect([this] {
+    if (!std::exchange(listIsNew_, false)) return;
+    ShowChanges();
+    Announce(*ui_->lblNumberOfWords);
+  });
 }
 
 void MainWindowView::ConnectKeys() {

@@ -54,6 +54,7 @@ class MainWindowView final : public FormWindow {
   void AlignLabels();
   void FitSettings();
   void ConnectProgress();
+  void ConnectAnnouncements();
   void ShowProgress();
 
   Program& program_;
@@ -62,6 +63,8 @@ class MainWindowView final : public FormWindow {
   // Children of the window.
   ResultTabs* views_;
   TablePage* table_;
+  /// Since a count has listed its words, and nobody has been told.
+  bool listIsNew_ = false;
   /// "File %1 of %2".
   QString fileOfFiles_;
 };

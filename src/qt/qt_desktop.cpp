@@ -8,6 +8,8 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QStandardPaths>
+#include <mutex>
+#include <utility>
 
 #include "qt/text_conversion.h"
 #include "system/locale_info.h"
@@ -100,6 +102,27 @@ bool IsReadOnly(const QString& path) {
 
 }  // namespace
 
+/// A thread may outlive the desktop, which therefore shares this with it.
+struct QtDesktop::CallsFromThreads {
+  void Call(const std::function<void()>& function) {
+    const std::scoped_lock lock(mutex);
+    if (receiver) QMetaObject::invokeMethod(receiver.get(), function, Qt::QueuedConnection);
+  }
+  void End() {
+    const std::scoped_lock lock(mutex);
+    receiver.reset();
+  }
+
+  std::mutex mutex;
+  std::unique_ptr<QObject> receiver = std::make_unique<QObject>();
+};
+
+QtDesktop::QtDesktop() : callsFromThreads_(std::make_shared<CallsFromThreads>()) {}
+
+QtDesktop::~QtDesktop() {
+  callsFromThreads_->End();
+}
+
 /// Between two boxes no window is active.
 QWidget* QtDesktop::BoxParent() const {
   if (QWidget* box = QApplication::activeModalWidget()) return box;
@@ -181,8 +204,11 @@ void QtDesktop::PumpEvents() {
   QApplication::processEvents();
 }
 
-bool QtDesktop::OpenWithShell(const std::string& documentOrAddress) {
-  return quillomat::OpenWithShell(documentOrAddress);
+bool QtDesktop::OpenWithShell(const std::string& documentOrAddress,
+                              std::function<void()> onFailure) {
+  return quillomat::OpenWithShell(
+      documentOrAddress,
+      [calls = callsFromThreads_, onFailure = std::move(onFailure)] { calls->Call(onFailure); });
 }
 
 std::string QtDesktop::DigitGroupSeparator() {

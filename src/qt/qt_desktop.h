@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "qt/list_table.h"
@@ -13,6 +14,13 @@ namespace quillomat {
 
 class QtDesktop final : public Desktop {
  public:
+  QtDesktop();
+  QtDesktop(const QtDesktop&) = delete;
+  QtDesktop& operator=(const QtDesktop&) = delete;
+  QtDesktop(QtDesktop&&) = delete;
+  QtDesktop& operator=(QtDesktop&&) = delete;
+  ~QtDesktop() override;
+
   /// What shows the changes of the windows; nothing is shown before it is set.
   void SetPainter(std::function<void()> showChanges) { showChanges_ = std::move(showChanges); }
 
@@ -33,16 +41,21 @@ class QtDesktop final : public Desktop {
   void PutClipboardText(const std::string& text) override;
   void Repaint() override;
   void PumpEvents() override;
-  bool OpenWithShell(const std::string& documentOrAddress) override;
+  bool OpenWithShell(const std::string& documentOrAddress,
+                     std::function<void()> onFailure) override;
   Registry& UserKeys() override { return registry_; }
   std::string DigitGroupSeparator() override;
 
  private:
   [[nodiscard]] QWidget* BoxParent() const;
 
+  /// Carries calls from other threads into that of the desktop, as long as there is one.
+  struct CallsFromThreads;
+
   std::function<void()> showChanges_;
   ListFormatSource listFormat_;
   QPointer<QWidget> window_;
+  std::shared_ptr<CallsFromThreads> callsFromThreads_;
   UserRegistry registry_;
   std::optional<std::string> digitGroupSeparator_;  // asked of the system once
 };

@@ -30,9 +30,10 @@ void LoadMarkersFor(std::string_view path, const ScanChoices& choices, ScanSetti
   const std::string extension = LowerCase(ExtensionOf(path));
   settings.ForceCommentMarkers = IsHtmlLike(extension) || IsCLike(extension);
   if (settings.ForceCommentMarkers) {
-    settings.SetCommentMarkers(IsHtmlLike(extension) ? "HTML" : "C", choices);
+    settings.SetCommentMarkers(IsHtmlLike(extension) ? kHtmlPreset : kCPreset, choices);
   } else {
-    settings.SetCommentMarkers(IsSet(choices.allowCommentMarkers) ? "user" : "", choices);
+    settings.SetCommentMarkers(IsSet(choices.allowCommentMarkers) ? kUserPreset : kNoPreset,
+                               choices);
   }
 }
 

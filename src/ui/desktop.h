@@ -7,6 +7,7 @@
 // program.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -122,8 +123,10 @@ class Desktop {
   virtual void PumpEvents() = 0;
 
   /// Has the shell open a document or a web address with the application that belongs to it, and
-  /// returns at once. False when the shell refuses.
-  virtual bool OpenWithShell(const std::string& documentOrAddress) = 0;
+  /// returns at once. False when the shell refuses; where it tells only later that it could not,
+  /// `onFailure` is called then, in the program's thread, between two events.
+  virtual bool OpenWithShell(const std::string& documentOrAddress,
+                             std::function<void()> onFailure) = 0;
 
   /// The registry of the current user; lives as long as the desktop.
   virtual Registry& UserKeys() = 0;

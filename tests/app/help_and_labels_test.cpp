@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "support/program_fixture.h"
+#include "text/shell_helpers.h"
 
 namespace quillomat {
 namespace {
@@ -88,6 +89,27 @@ TEST_F(HelpAndLabels, BrowserThatCannotBeLaunchedIsTold) {
                 "Error launching web browser. Please make sure that your web browser is correctly "
                 "installed and configured",
                 "Cannot launch web browser", MessageIcon::kExclamation);
+}
+
+TEST_F(HelpAndLabels, BrowserThatFailsLaterIsToldWithTheAddress) {
+  Main().lblOnlineDocumentation.Click.Fire();
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  desktop.FailLastOpening();
+  ExpectMessage(OnlyMessage(),
+                "Error launching web browser. Please make sure that your web browser is correctly "
+                "installed and configured\r\nhttps://quillomat.example/manual",
+                "Cannot launch web browser", MessageIcon::kExclamation);
+}
+
+TEST_F(HelpAndLabels, DocumentThatCannotBeShownIsToldIfTheCallerWantsThat) {
+  EXPECT_TRUE(OpenDocument(desktop, "/manual.pdf", false));
+  desktop.FailLastOpening();
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+  EXPECT_TRUE(OpenDocument(desktop, "/manual.pdf", true));
+  desktop.FailLastOpening();
+  ExpectMessage(OnlyMessage(),
+                "Error opening file /manual.pdf.\r\nPerhaps the file extension is incorrect.",
+                "Error", MessageIcon::kExclamation);
 }
 
 TEST_F(HelpAndLabels, DoubleClickOnTheCopyrightNoticeTellsTheBuild) {

@@ -5,8 +5,12 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QThread>
+#include <filesystem>
 #include <gmock/gmock.h>
+#include <memory>
 
+#include "support/environment.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -140,6 +144,49 @@ TEST_F(QtDesktopTest, DialogOpensInTheFolder) {
 TEST_F(QtDesktopTest, DocumentsAreInAFolderThatIsThere) {
   EXPECT_TRUE(QFileInfo(ToQt(desktop.DocumentsFolder())).isDir());
 }
+
+#ifdef Q_OS_LINUX
+/// The shell's command fails, but only when it has been started.
+class FailingShell : public QtDesktopTest {
+ protected:
+  FailingShell() {
+    const std::string command = folder.Write("xdg-open", "#!/bin/sh\nexit 3\n");
+    std::filesystem::permissions(command, std::filesystem::perms(0755));
+  }
+
+  static void WaitUntil(const std::function<bool()>& happened) {
+    for (int step = 0; step < 4000 && !happened(); ++step) {
+      QApplication::processEvents();
+      QThread::msleep(5);
+    }
+    EXPECT_TRUE(happened());
+  }
+
+  ScopedVariable path_{"PATH", folder.Path()};
+};
+
+TEST_F(FailingShell, IsToldOfInTheThreadOfTheWindows) {
+  const QThread* thread = nullptr;
+  EXPECT_TRUE(desktop.OpenWithShell("https://quillomat.example/",
+                                    [&thread] { thread = QThread::currentThread(); }));
+  WaitUntil([&thread] { return thread != nullptr; });
+  EXPECT_EQ(thread, qApp->thread());
+}
+
+TEST_F(FailingShell, IsOfNoInterestToADesktopThatIsGone) {
+  bool told = false;
+  auto held = std::make_shared<int>();
+  const std::weak_ptr<int> holder = held;
+  {
+    QtDesktop other;
+    EXPECT_TRUE(other.OpenWithShell("https://quillomat.example/",
+                                    [&told, held = std::move(held)] { told = true; }));
+  }
+  WaitUntil([&holder] { return holder.expired(); });
+  QApplication::processEvents();
+  EXPECT_FALSE(told);
+}
+#endif
 
 }  // namespace
 }  // namespace quillomat

@@ -155,8 +155,10 @@ void ScriptedDesktop::PumpEvents() {
   for (const auto& action : actions) action();
 }
 
-bool ScriptedDesktop::OpenWithShell(const std::string& documentOrAddress) {
+bool ScriptedDesktop::OpenWithShell(const std::string& documentOrAddress,
+                                    std::function<void()> onFailure) {
   opened_.push_back(documentOrAddress);
+  openingFails_ = std::move(onFailure);
   return !shellRefuses_;
 }
 

@@ -85,6 +85,10 @@ class ScriptedDesktop final : public Desktop {
   /// The titles of all of these together.
   [[nodiscard]] const std::vector<std::string>& Titles() const { return titles_; }
   [[nodiscard]] const std::vector<std::string>& Opened() const { return opened_; }
+  /// The shell tells that what was opened last could not be shown.
+  void FailLastOpening() {
+    if (openingFails_) openingFails_();
+  }
   [[nodiscard]] const std::optional<std::string>& Clipboard() const { return clipboard_; }
   [[nodiscard]] int Repaints() const { return repaints_; }
   [[nodiscard]] int Pumps() const { return pumps_; }
@@ -107,7 +111,8 @@ class ScriptedDesktop final : public Desktop {
   void PutClipboardText(const std::string& text) override;
   void Repaint() override { ++repaints_; }
   void PumpEvents() override;
-  bool OpenWithShell(const std::string& documentOrAddress) override;
+  bool OpenWithShell(const std::string& documentOrAddress,
+                     std::function<void()> onFailure) override;
   Registry& UserKeys() override { return registry_; }
   std::string DigitGroupSeparator() override { return separator_; }
 
@@ -137,6 +142,7 @@ class ScriptedDesktop final : public Desktop {
   std::vector<std::string> browsesAt_;
   std::vector<std::string> titles_;
   std::vector<std::string> opened_;
+  std::function<void()> openingFails_;
 
   std::optional<std::string> clipboard_;
   bool clipboardReadFails_ = false;

@@ -130,9 +130,9 @@ TEST(ScriptedDesktopTest, ActsAtTheScriptedMessage) {
 
 TEST(ScriptedDesktopTest, ShellAndLocaleSayWhatTheyAreTold) {
   ScriptedDesktop desktop;
-  EXPECT_TRUE(desktop.OpenWithShell("a"));
+  EXPECT_TRUE(desktop.OpenWithShell("a", {}));
   desktop.RefuseShell(true);
-  EXPECT_FALSE(desktop.OpenWithShell("b"));
+  EXPECT_FALSE(desktop.OpenWithShell("b", {}));
   EXPECT_THAT(desktop.Opened(), ElementsAre("a", "b"));
   EXPECT_EQ(desktop.DigitGroupSeparator(), ",");
   desktop.SetDigitGroupSeparator(".");

@@ -155,7 +155,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     settings.SetAllowWordsFlags(choices);
     settings.BuildExtraWordChars();
     settings.ClearListCharFlags();
-    settings.SetCommentMarkers("C", choices);
+    settings.SetCommentMarkers(kCPreset, choices);
     words_.Discard();  // first, so that the boxes' handlers find no count to ask about
     const ListReadingBoxes boxes(frmMain_, frmParams_);
     words_.store.Files().Reset(false);

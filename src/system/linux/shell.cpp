@@ -2,12 +2,14 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 #include "system/file_system.h"
 
@@ -54,13 +56,26 @@ class SpawnAttributes {
   posix_spawnattr_t attributes_{};
 };
 
-/// Takes note of the process's end whenever that comes, so that the system can forget it. It
-/// touches nothing of ours, and may outlive everything but the program.
-void ForgetWhenEnded(pid_t process) {
+/// An application that was shown for so long has been opened, however it ends.
+constexpr std::chrono::minutes kLongestLaunch{1};
+
+/// Waits for the process's end, so that the system can forget it. Whether it failed at once.
+bool HasFailed(pid_t process) {
+  const auto start = std::chrono::steady_clock::now();
+  int status = 0;
+  while (waitpid(process, &status, 0) < 0) {
+    if (errno != EINTR) return false;  // it is not known how it ended
+  }
+  const bool failed = WIFEXITED(status) && WEXITSTATUS(status) != 0;
+  return failed && std::chrono::steady_clock::now() - start < kLongestLaunch;
+}
+
+/// Takes note of the process's end whenever that comes. Touches nothing of ours but `onFailure`,
+/// and may outlive everything but the program.
+void WatchEnd(pid_t process, std::function<void()> onFailure) {
   try {
-    std::thread([process] {
-      while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
-      }
+    std::thread([process, onFailure = std::move(onFailure)] {
+      if (HasFailed(process) && onFailure) onFailure();
     }).detach();
   } catch (const std::system_error&) {  // NOLINT(bugprone-empty-catch): forgotten with us, then
   }
@@ -68,7 +83,7 @@ void ForgetWhenEnded(pid_t process) {
 
 }  // namespace
 
-bool OpenWithShell(const std::string& documentOrAddress) {
+bool OpenWithShell(const std::string& documentOrAddress, std::function<void()> onFailure) {
   const bool isThere = FileExists(documentOrAddress) || FolderExists(documentOrAddress);
   if (!isThere && !IsAddress(documentOrAddress)) return false;
   std::string program = "xdg-open";
@@ -80,7 +95,7 @@ bool OpenWithShell(const std::string& documentOrAddress) {
                    environ) != 0) {
     return false;
   }
-  ForgetWhenEnded(process);
+  WatchEnd(process, std::move(onFailure));
   return true;
 }
 

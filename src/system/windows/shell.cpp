@@ -17,7 +17,8 @@ constexpr INT_PTR kLastShellError = 32;
 
 }  // namespace
 
-bool OpenWithShell(const std::string& documentOrAddress) {
+/// The result tells of every failure.
+bool OpenWithShell(const std::string& documentOrAddress, std::function<void()> /*onFailure*/) {
   // A path is made whole first: the shell would look for it from its own working folder on.
   const bool isPath = FileExists(documentOrAddress) || FolderExists(documentOrAddress);
   const std::string target = isPath ? AbsolutePath(documentOrAddress) : documentOrAddress;

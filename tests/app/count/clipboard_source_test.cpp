@@ -298,7 +298,9 @@ class DesktopWithBadClipboard final : public Desktop {
   void PutClipboardText(const std::string& text) override { desktop_.PutClipboardText(text); }
   void Repaint() override { desktop_.Repaint(); }
   void PumpEvents() override { desktop_.PumpEvents(); }
-  bool OpenWithShell(const std::string& name) override { return desktop_.OpenWithShell(name); }
+  bool OpenWithShell(const std::string& name, std::function<void()> onFailure) override {
+    return desktop_.OpenWithShell(name, std::move(onFailure));
+  }
   Registry& UserKeys() override { return desktop_.UserKeys(); }
   std::string DigitGroupSeparator() override { return desktop_.DigitGroupSeparator(); }
 

@@ -1,5 +1,7 @@
 #include <chrono>
 #include <filesystem>
+#include <future>
+#include <memory>
 #include <thread>
 
 #include "support/temporary_folder.h"
@@ -76,6 +78,24 @@ TEST_F(Shell, ViewerIsNotWaitedFor) {
   EXPECT_TRUE(OpenWithShell("https://quillomat.example/"));
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
   EXPECT_EQ(Told(), "1|https://quillomat.example/|");
+}
+
+TEST_F(Shell, AViewerThatFailsIsToldOf) {
+  InstallViewer("exit 3\n");
+  std::promise<void> failed;
+  EXPECT_TRUE(OpenWithShell("https://quillomat.example/", [&failed] { failed.set_value(); }));
+  EXPECT_EQ(failed.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
+}
+
+TEST_F(Shell, AViewerThatSucceedsIsNotToldOf) {
+  InstallViewer();
+  // What waits for the viewer gives the function back when it has looked at the end.
+  auto held = std::make_shared<std::promise<void>>();
+  std::future<void> failed = held->get_future();
+  EXPECT_TRUE(
+      OpenWithShell("https://quillomat.example/", [held = std::move(held)] { held->set_value(); }));
+  ASSERT_EQ(failed.wait_for(std::chrono::seconds(20)), std::future_status::ready);
+  EXPECT_THROW(failed.get(), std::future_error) << "given back, and never called";
 }
 
 TEST_F(Shell, ViewerThatHasEndedIsForgotten) {
