@@ -17,7 +17,6 @@
 #include <utility>
 #include <vector>
 
-#include "qt/accessible_names.h"
 #include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
@@ -194,7 +193,7 @@ void MainWindowView::ConnectAnnouncements() {
   program_.BecameIdle.Connect([this] {
     if (!std::exchange(listIsNew_, false)) return;
     ShowChanges();
-    Announce(*ui_->lblNumberOfWords);
+    announce(*ui_->lblNumberOfWords);
   });
 }
 

@@ -4,9 +4,11 @@
 
 #include <QLabel>
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "app/program.h"
+#include "qt/accessible_names.h"
 #include "qt/find_bar.h"
 #include "qt/form_window.h"
 #include "qt/list_view.h"
@@ -36,6 +38,9 @@ class MainWindowView final : public FormWindow {
 
   /// The texts that are the window's own, in the current language.
   void SetTexts(const ProgramText& text);
+
+  /// How a screen reader is told at once what a label says.
+  std::function<void(QWidget&)> announce = Announce;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
