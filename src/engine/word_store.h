@@ -120,7 +120,7 @@ class WordStore {
   void CountWordAt(std::uint32_t place, std::int32_t times = 1);
   /// One occurrence of each.
   void CountWordsAt(std::span<const std::uint32_t> places) {
-    if (files_.IsOn() || !HasRoomFor(places.size())) return CountOneByOne(places);
+    if (files_.IsOn() || notesCounted_ || !HasRoomFor(places.size())) return CountWithNotes(places);
     for (const std::uint32_t place : places) ++counts_[place];
     occurrences_ += static_cast<std::int64_t>(places.size());
   }
@@ -130,8 +130,15 @@ class WordStore {
   [[nodiscard]] std::string_view WordAtPlace(std::uint32_t place) const {
     return letters_[place].Word();
   }
-  /// The occurrences by place, all of which begin anew at 0.
-  [[nodiscard]] std::vector<std::int32_t> TakeCounts();
+  struct CountedWord {
+    std::uint32_t place = 0;
+    std::int32_t times = 0;
+  };
+  /// From now on the words are noted for TakeCountedWords.
+  void NoteCountedWords() { notesCounted_ = true; }
+  /// The words that were counted since the last call, and how often; those that are new since then
+  /// in the order in which they were met. All counts begin anew at 0.
+  [[nodiscard]] std::vector<CountedWord> TakeCountedWords();
 
   [[nodiscard]] std::int32_t NumDifferentWords() const {
     return static_cast<std::int32_t>(letters_.Size());
@@ -192,7 +199,7 @@ class WordStore {
     return occurrences_ + static_cast<std::int64_t>(times) <=
            std::numeric_limits<std::int32_t>::max();
   }
-  void CountOneByOne(std::span<const std::uint32_t> places);
+  void CountWithNotes(std::span<const std::uint32_t> places);
   [[nodiscard]] std::size_t FindSlot(const KeyedWord& word) const;
   void AppendWord(const KeyedWord& word);
   void MakeRoom();
@@ -227,6 +234,9 @@ class WordStore {
   mutable std::uint64_t generation_ = 0;
   /// Of all words together: no count is higher.
   std::int64_t occurrences_ = 0;
+  bool notesCounted_ = false;
+  /// The places of words whose count is not 0, if it notes them.
+  std::vector<std::uint32_t> counted_;
 };
 
 }  // namespace quillomat
