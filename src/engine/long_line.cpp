@@ -16,9 +16,7 @@ class LongLine::Alternative {
   Alternative(const Scan& scan, const LinePartState& state)
       : settings_(scan.settings),
         state_(state),
-        scanner_(settings_, scan.choices, scan.lists, store_, scan.yield) {
-    store_.NoteCountedWords();
-  }
+        scanner_(settings_, scan.choices, scan.lists, store_, scan.yield) {}
 
   void Take(std::string_view part) { scanner_.GetWordsOfPart(part, state_); }
 

@@ -69,7 +69,7 @@ std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
   return place;
 }
 
-void WordStore::CountWordAt(std::uint32_t place, std::int32_t times) {
+void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
   if (notesCounted_ && counts_[place] == 0) counted_.push_back(place);
   AddChecked(counts_[place], times);
   occurrences_ += times;
@@ -97,11 +97,22 @@ void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {
 
 std::vector<WordStore::CountedWord> WordStore::TakeCountedWords() {
   std::vector<CountedWord> taken;
-  taken.reserve(counted_.size());
-  for (const std::uint32_t place : counted_) {
-    taken.push_back({place, std::exchange(counts_[place], 0)});
+  if (notesCounted_) {
+    taken.reserve(counted_.size());
+    for (const std::uint32_t place : counted_) {
+      taken.push_back({place, std::exchange(counts_[place], 0)});
+    }
+    counted_.clear();
+  } else {
+    taken.resize(counts_.size());
+    std::size_t counted = 0;
+    for (std::size_t place = 0; place < counts_.size(); ++place) {  // without a branch, as above
+      const std::int32_t times = std::exchange(counts_[place], 0);
+      taken[counted] = {static_cast<std::uint32_t>(place), times};
+      counted += static_cast<std::size_t>(times != 0);
+    }
+    taken.resize(counted);
   }
-  counted_.clear();
   occurrences_ = 0;
   return taken;
 }

@@ -18,6 +18,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/checked_count.h"
 #include "engine/chunked_vector.h"
 #include "engine/file_tally.h"
 #include "engine/letter_arena.h"
@@ -117,7 +118,11 @@ class WordStore {
 
   /// Counts occurrences of the word that AddWord has put at `place`; throws as AddWord does. Places
   /// change when the words are sorted or cleared, and then Generation() changes.
-  void CountWordAt(std::uint32_t place, std::int32_t times = 1);
+  void CountWordAt(std::uint32_t place, std::int32_t times = 1) {
+    if (files_.IsOn() || notesCounted_) return CountWordWithNotes(place, times);
+    AddChecked(counts_[place], times);
+    occurrences_ += times;
+  }
   /// One occurrence of each.
   void CountWordsAt(std::span<const std::uint32_t> places) {
     if (files_.IsOn() || notesCounted_ || !HasRoomFor(places.size())) return CountWithNotes(places);
@@ -134,8 +139,9 @@ class WordStore {
     std::uint32_t place = 0;
     std::int32_t times = 0;
   };
-  /// From now on the words are noted for TakeCountedWords.
-  void NoteCountedWords() { notesCounted_ = true; }
+  /// Whether words are noted for TakeCountedWords from now on, so that it need not look at all.
+  /// To be called when no word is counted yet, or they have been taken.
+  void NoteCountedWords(bool on) { notesCounted_ = on; }
   /// The words that were counted since the last call, and how often; those that are new since then
   /// in the order in which they were met. All counts begin anew at 0.
   [[nodiscard]] std::vector<CountedWord> TakeCountedWords();
@@ -199,6 +205,7 @@ class WordStore {
     return occurrences_ + static_cast<std::int64_t>(times) <=
            std::numeric_limits<std::int32_t>::max();
   }
+  void CountWordWithNotes(std::uint32_t place, std::int32_t times);
   void CountWithNotes(std::span<const std::uint32_t> places);
   [[nodiscard]] std::size_t FindSlot(const KeyedWord& word) const;
   void AppendWord(const KeyedWord& word);

@@ -15,7 +15,6 @@
 namespace quillomat {
 
 std::size_t FileScanner::Take(std::vector<WalkItem>& items, int& openComment, std::size_t& bytes) {
-  if (forget_.exchange(false)) scanner_.ForgetWords();
   opened_ = 0;
   std::size_t taken = 0;
   for (; taken < items.size() && bytes < batchBytes_ && !stop_; ++taken) {

@@ -74,7 +74,7 @@ class FileScanner {
   std::size_t Take(std::vector<WalkItem>& items, int& openComment, std::size_t& bytes);
 
   /// Numbers the words anew. May be called by another thread, and is heeded soon.
-  void ForgetWords() { forget_ = true; }
+  void ForgetWords() { scanner_.ForgetWordsSoon(); }
 
  private:
   /// Files that are kept open in a batch.
@@ -91,7 +91,6 @@ class FileScanner {
   const std::atomic<bool>& stop_;
   std::size_t batchBytes_;
   PieceScanner scanner_;
-  std::atomic<bool> forget_ = false;
   int opened_ = 0;
   /// The bytes of a file, and room for one more.
   std::vector<char> memory_;

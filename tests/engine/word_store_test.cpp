@@ -145,14 +145,17 @@ TEST_F(WordStoreTest, CountsThatAreTakenBeginAnew) {
     }
     return words;
   };
-  store.NoteCountedWords();
-  Add({"dog", "ant", "dog"});
-  EXPECT_EQ(counted(), "dog*2 ant*1 ");
-  Add({"cat", "ant"});
   const std::vector<std::uint32_t> dogAntDog = {0, 1, 0};
-  store.CountWordsAt(dogAntDog);
-  EXPECT_EQ(counted(), "cat*1 ant*2 dog*2 ");
-  EXPECT_EQ(counted(), "");
+  for (const bool noted : {true, false}) {
+    store.Clear();
+    store.NoteCountedWords(noted);
+    Add({"dog", "ant", "dog"});
+    EXPECT_EQ(counted(), "dog*2 ant*1 ");
+    Add({"ant", "cat"});
+    store.CountWordsAt(dogAntDog);
+    EXPECT_EQ(counted(), noted ? "ant*2 cat*1 dog*2 " : "dog*2 ant*2 cat*1 ");
+    EXPECT_EQ(counted(), "");
+  }
 }
 
 TEST_F(WordStoreTest, LongWordsAndLongKeysAreKeptWhole) {

@@ -46,6 +46,9 @@ class PiecePool {
   /// Drops the first piece, and returns its text so that its memory can be used again.
   TextPiece DropFirst() { return jobs_.TakeFirst().text; }
 
+  /// Has that scanner number its words anew, soon.
+  void ForgetWords(std::size_t scanner) { scanners_[scanner]->ForgetWordsSoon(); }
+
   /// Throws the pieces away.
   void Clear();
 

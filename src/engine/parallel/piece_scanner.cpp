@@ -2,10 +2,8 @@
 
 #include <utility>
 
-#include "base/line_decoder.h"
-#include "base/text_helpers.h"
-#include "engine/long_line.h"
 #include "engine/parallel/line_pieces.h"
+#include "engine/whole_lines.h"
 
 namespace quillomat {
 namespace {
@@ -13,6 +11,9 @@ namespace {
 /// A scanner that has more different words forgets them: its table is to be small, and a text whose
 /// words are all different gains nothing from it.
 constexpr std::int32_t kMostWordsKept = 65'536;
+
+/// Scanning so many bytes with notes costs as much more as looking at one word of the store.
+constexpr std::size_t kBytesWorthLook = 8;
 
 }  // namespace
 
@@ -22,18 +23,19 @@ PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
       choices_(choices),
       lists_(lists),
       stopTest_(stop),
-      scanner_(settings_, choices, lists, store_, stopTest_) {
-  store_.NoteCountedWords();
-}
+      scanner_(settings_, choices, lists, store_, stopTest_) {}
 
 PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
-  if (store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+  if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+  // To note the words costs less than to look for them at the end where the text is short.
+  store_.NoteCountedWords(text.size() <
+                          static_cast<std::size_t>(store_.NumDifferentWords()) * kBytesWorthLook);
   settings_ = settings;
   scanner_.SetWordsRead(0);
   PieceCount count;
   count.looksForComments = scanner_.LooksForComments();
   count.openBefore = settings_.OpenComment;
-  ScanLines(text);
+  ScanWholeLines({settings_, choices_, lists_, store_, stopTest_, scanner_}, text);
   count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
   count.numbersAnew = std::exchange(numbersAnew_, false);
   count.words = store_.TakeCountedWords();
@@ -41,38 +43,6 @@ PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& setting
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
   return count;
-}
-
-void PieceScanner::ScanLines(std::string_view text) {
-  LineDecoder lines(text);
-  while (!stopTest_.Yield()) {
-    const std::string_view atHand = lines.NextLines();
-    if (const std::size_t plain = scanner_.PlainLineBytes(atHand); plain > 0) {
-      scanner_.GetWordsOfLines(atHand.substr(0, plain));
-      lines.SkipLines(plain);
-    } else if (ScanLongLine(lines)) {
-      // Part by part.
-    } else if (const auto line = lines.NextLine()) {
-      const std::string_view trimmed = TrimBlanks(*line);
-      if (trimmed.empty()) continue;
-      scanner_.GetWords(
-          PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
-    } else {
-      break;
-    }
-  }
-}
-
-/// False when the next line is none, or cannot be taken in parts.
-bool PieceScanner::ScanLongLine(LineDecoder& lines) {
-  if (!lines.IsAtLongLine() || !scanner_.CanTakeParts()) return false;
-  LongLine line({settings_, choices_, lists_, store_, stopTest_, scanner_});
-  for (std::string_view part = lines.NextPartOfLine(); !part.empty();
-       part = lines.NextPartOfLine()) {
-    line.Take(part);
-  }
-  line.End();
-  return true;
 }
 
 void PieceScanner::DescribeNewWords(PieceCount& count) {

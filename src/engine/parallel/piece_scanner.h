@@ -8,7 +8,6 @@
 #include <string_view>
 #include <vector>
 
-#include "base/line_decoder.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 #include "engine/word_scanner.h"
@@ -48,6 +47,8 @@ class PieceScanner {
 
   /// Numbers the words anew: after a result was thrown away.
   void ForgetWords();
+  /// Numbers the words anew with the next piece. May be called by any thread.
+  void ForgetWordsSoon() { forget_ = true; }
 
  private:
   class StopTest final : public ScanYield {
@@ -60,8 +61,6 @@ class PieceScanner {
     const std::atomic<bool>& stop_;
   };
 
-  void ScanLines(std::string_view text);
-  [[nodiscard]] bool ScanLongLine(LineDecoder& lines);
   void DescribeNewWords(PieceCount& count);
 
   ScanSettings settings_;
@@ -70,7 +69,7 @@ class PieceScanner {
   WordStore store_;
   StopTest stopTest_;
   WordScanner scanner_;
-  std::string buffer_;
+  std::atomic<bool> forget_ = false;
   bool numbersAnew_ = true;
   std::int32_t wordsTold_ = 0;
 };
