@@ -24,6 +24,10 @@ bool IsStandardInput(const TextOfPaths& source, std::string_view path) {
 constexpr std::size_t kMostItems = 128;
 constexpr std::size_t kFirstItems = 16;
 constexpr std::size_t kItemsWorthThreads = 8;
+/// The first files are read as they are met, up to so many or so many bytes: before threads were
+/// made, they would be done.
+constexpr std::int32_t kFilesAtOnce = 16;
+constexpr std::int64_t kBytesAtOnce = 128 * 1024;
 /// So many batches wait for each thread, so that none has nothing to do while one is joined.
 constexpr std::size_t kBatchesPerThread = 2;
 constexpr std::chrono::milliseconds kLongestWait{8};
@@ -110,7 +114,7 @@ void FolderPass::Meet(WalkItem::Kind kind, const std::string& path) {
   if (kind == WalkItem::Kind::kFile && standardInput_ != nullptr && path == kStandardInput) {
     item.kind = WalkItem::Kind::kStandardInput;
   }
-  if (!texts_.UsesThreads()) return Take(item, 0);
+  if (!texts_.UsesThreads() || IsAmongFirst()) return Take(item, 0);
   if (item.kind == WalkItem::Kind::kFile && filesNotAhead_ > 0) {
     --filesNotAhead_;
   } else {
@@ -119,6 +123,11 @@ void FolderPass::Meet(WalkItem::Kind kind, const std::string& path) {
   met_.items.push_back(std::move(item));
   if (met_.items.size() >= ItemsOfBatch()) return Submit();
   if (kind == WalkItem::Kind::kSubfolder) KeepBusy();
+}
+
+bool FolderPass::IsAmongFirst() const {
+  return !pool_ && met_.items.empty() && state_.progress.filesDone < kFilesAtOnce &&
+         bytesOfFiles_ < kBytesAtOnce;
 }
 
 /// As files go, of as many bytes as a batch is to have.

@@ -38,6 +38,7 @@ class FolderPass {
 
   // What the walk meets, to be taken in its order.
   void Meet(WalkItem::Kind kind, const std::string& path);
+  [[nodiscard]] bool IsAmongFirst() const;
   [[nodiscard]] std::size_t ItemsOfBatch() const;
   void KeepBusy();
   void Submit();

@@ -1,5 +1,6 @@
 // Holds the program's counter against the literal engine: files of a folder or a list, counted by
 // any number of threads, must have the outcome of the same texts read one after the other.
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -21,6 +22,7 @@ namespace {
 /// Files take longer to be written than a case to be counted.
 constexpr int kCasesPerFolder = 60;
 constexpr std::uint64_t kFolderSeed = 708;
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 /// A case whose texts stand in files.
 class FilesOfCase {
@@ -61,8 +63,7 @@ class FilesOfCase {
       default:
         break;
     }
-    CaseText text = RandomCase(random_).texts[0];
-    text.whole = false;
+    CaseText text = TextForFile();
     const bool users = case_.choices.chkAllowCommentMarkers == 1;
     text.markers = kind == 1 ? "HTML" : kind == 2 ? "C" : users ? "user" : "";
     text.path = folder_.Write(name, BytesOf(text.lines));
@@ -70,9 +71,24 @@ class FilesOfCase {
     case_.texts.push_back(text);
   }
 
+  /// One that is a text as a file, too.
+  CaseText TextForFile() {
+    for (;;) {
+      CaseText text = RandomCase(random_).texts[0];
+      text.whole = false;
+      const auto isPlain = [](const std::string& line) {
+        return std::ranges::none_of(line,
+                                    [](char ch) { return ch >= 0 && ch < ' ' && ch != '\t'; });
+      };
+      if (std::ranges::all_of(text.lines, isPlain)) return text;
+    }
+  }
+
   std::string BytesOf(const std::vector<std::string>& lines) {
     static constexpr std::string_view kLineEnds[] = {"\n", "\r\n", "\r"};
-    std::string bytes = Below(8) == 0 ? "\xEF\xBB\xBF" : "";
+    // What looks like a mark and is text needs one in front.
+    const bool hasMark = Below(8) == 0 || lines[0].starts_with(kMark);
+    std::string bytes(hasMark ? kMark : "");
     for (const std::string& line : lines) bytes.append(line).append(kLineEnds[Below(3)]);
     if (bytes.ends_with("a\n") || bytes.ends_with("s\n")) bytes.pop_back();
     return bytes;
