@@ -1,9 +1,10 @@
 #!/bin/sh
-# Measures quillomat-cli, with one thread where nothing else is said, beside the tools that one would otherwise reach for, all in one run on the
-# same texts, and prints tables of medians in Markdown.
-# Usage: bench/compare.sh [BOOK]   BOOK is a plain text; without one a text is generated.
-# ROUNDS (7) says how often each command runs. Needs a release build, python3 (for the texts) and
-# coreutils; mawk, perl and findutils are measured where they are there.
+# Measures quillomat-cli, with one thread where nothing else is said, beside the tools that one would otherwise
+# reach for, all in one run on the same texts, and prints tables in Markdown: medians, but for folders the
+# shortest times, since other programs disturb what waits for the system most.
+# Usage: bench/compare.sh [BOOK]   BOOK is a plain text of at least 1 MB; without one a text is generated.
+# ROUNDS (7) says how often each command runs, TMPDIR where the texts are put (900 MB). Needs a release build,
+# python3 (for the texts), findutils and coreutils; mawk and perl are measured where they are there.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 program="$root/build/release/src/cli/quillomat-cli"
@@ -27,6 +28,7 @@ run_once() {
   echo $(((end - start) / 1000)) >>"$work/times.$name"
 }
 
+shortest() { sort -n "$work/times.$1" | head -n 1; }
 median() { sort -n "$work/times.$1" | awk '{ t[NR] = $1 } END { print t[int((NR + 1) / 2)] }'; }
 
 count() { # FILE OPTIONS...
@@ -34,8 +36,8 @@ count() { # FILE OPTIONS...
   shift
   "$program" --file "$file" --threads "${threads:-1}" --output "$work/list.txt" --set chkWarnOnOverwrite=0 "$@"
 }
-count_folder() {
-  "$program" --folder "$work/many" --threads 1 --subfolders --output "$work/list.txt" --set chkWarnOnOverwrite=0
+count_folder() { # FOLDER THREADS
+  "$program" --folder "$1" --threads "$2" --subfolders --output "$work/list.txt" --set chkWarnOnOverwrite=0
 }
 pipeline() {
   tr 'A-Z' 'a-z' <"$1" | tr -cs 'a-z' '\n' | sort | uniq -c | sort -rn
@@ -53,13 +55,14 @@ with_python() {
 text = open(sys.argv[1], encoding="utf-8").read().lower()
 for word, n in collections.Counter(re.findall("[a-z]+", text)).most_common(): print(n, word)' "$1"
 }
-cat_all() { find "$work/many" -type f -print0 | xargs -0 cat; }
+cat_all() { find "$1" -type f -print0 | xargs -0 cat; }
 have() { command -v "$1" >/dev/null 2>&1; }
 
 row() { # TEXT MICROSECONDS BASE
   awk -v text="$1" -v t="$2" -v base="$3" 'BEGIN { printf "| %s | %.3f s | %.2f |\n", text, t / 1e6, t / base }'
 }
 
+folders="many2k many50k many800k"
 settings="accents html source case ignore only everything"
 measure_setting() {
   case $1 in
@@ -89,8 +92,11 @@ while [ "$i" -lt "$rounds" ]; do
   run_once ours1 count "$work/book.txt"
   run_once words20k count "$work/words20k.txt"
   run_once words2m count "$work/words2m.txt"
-  run_once folder count_folder
-  run_once cat cat_all
+  for folder in $folders; do
+    run_once "cat.$folder" cat_all "$work/$folder"
+    run_once "one.$folder" count_folder "$work/$folder" 1
+    run_once "two.$folder" count_folder "$work/$folder" 2
+  done
   for setting in $settings; do run_once "$setting" measure_setting "$setting"; done
   i=$((i + 1))
 done
@@ -133,6 +139,15 @@ row 'the book once' "$(median ours1)" "$(median ours1)"
 row 'the book ten times over' "$base" "$(median ours1)"
 row '4,000,000 words, 20,000 of them different' "$(median words20k)" "$(median words20k)"
 row '4,000,000 words, 2,000,000 of them different' "$(median words2m)" "$(median words20k)"
-printf '\n20,000 files of 2 KB in 200 folders:\n\n| | time | times as long |\n|---|---|---|\n'
-row '`find -print0 \| xargs -0 cat`' "$(median cat)" "$(median cat)"
-row quillomat-cli "$(median folder)" "$(median cat)"
+
+printf '\nFolders, the shortest of %s rounds:\n\n' "$rounds"
+printf '| | `find -print0 \\| xargs -0 cat` | one thread | two threads | one / two | two / cat |\n'
+printf '|---|---|---|---|---|---|\n'
+folder_row() { # TEXT FOLDER
+  awk -v text="$1" -v cat="$(shortest "cat.$2")" -v one="$(shortest "one.$2")" -v two="$(shortest "two.$2")" 'BEGIN {
+    printf "| %s | %.3f s | %.3f s | %.3f s | %.2f | %.2f |\n", text, cat / 1e6, one / 1e6, two / 1e6, one / two, two / cat
+  }'
+}
+folder_row '20,000 files of 2 KB' many2k
+folder_row '2,000 files of 50 KB' many50k
+folder_row '100 files of 800 KB' many800k

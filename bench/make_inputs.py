@@ -78,14 +78,15 @@ def write(folder, name, text):
         file.write(text)
 
 
-def small_files(folder, text):
+def many_files(folder, text, folders, files, size):
+    """Folders of files that hold the text from end to end, again and again."""
     place = 0
-    for i in range(200):
-        below = os.path.join(folder, "many", f"d{i:03}")
+    for i in range(folders):
+        below = os.path.join(folder, f"d{i:03}")
         os.makedirs(below)
-        for k in range(100):
-            write(below, f"f{k:02}.txt", text[place:place + 2048])
-            place = (place + 2048) % (len(text) - 2048)
+        for k in range(files):
+            write(below, f"f{k:02}.txt", text[place:place + size])
+            place = (place + size) % (len(text) - size)
 
 
 def main():
@@ -102,7 +103,9 @@ def main():
     write(folder, "source10.c", c_source(book) * 10)
     write(folder, "words20k.txt", different(20_000, 200, 3))
     write(folder, "words2m.txt", different(2_000_000, 2, 4))
-    small_files(folder, book)
+    many_files(os.path.join(folder, "many2k"), book, 200, 100, 2048)
+    many_files(os.path.join(folder, "many50k"), book, 20, 100, 50_000)
+    many_files(os.path.join(folder, "many800k"), book, 1, 100, 800_000)
     frequent = words_of(5, 400)
     common = sorted(set(book.lower().split()), key=len)
     write(folder, "list400.txt", "\n".join([w for w in common if w.isalpha()][:200] + frequent[:200]) + "\n")

@@ -1,10 +1,12 @@
 // Feeds bytes to the decoder, the engine and the listing. It checks:
 // 1. Nothing crashes, hangs or trips a sanitizer, whatever the bytes are.
-// 2. The words, counts and lists are those of the literal engine.
+// 2. The words, counts and lists are those of the literal engine, also when the counter reads the
+//    bytes in files, on several threads.
 // The first bytes choose how the text is read and the settings, the rest is the file.
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +16,9 @@
 #include "fuzzing.h"
 #include "properties/count_case.h"
 #include "properties/count_outcome.h"
+#include "sources/line_endings.h"
+#include "sources/marker_fault.h"
+#include "support/temporary_folder.h"
 
 namespace {
 
@@ -58,25 +63,58 @@ CountCase CaseOf(std::string_view& rest) {
   return result;
 }
 
-/// One of the four ways: to try all of each input costs four times as much and shows no more.
-Reading ReadingOf(std::string_view& rest) {
+/// The bytes in files of several kinds, as the counter reads them.
+void RequireSameOfFiles(CountCase countCase, std::string_view bytes,
+                        const std::vector<std::string>& lines) {
+  using quillomat::LineEndingType;
+  constexpr std::size_t kLookedAt = 10'240;
+  constexpr std::size_t kThreads = 2;
+  if (quillomat::FindMarkerFault(quillomat::properties::ScanChoicesOf(countCase.choices))) return;
+  const bool users = countCase.choices.chkAllowCommentMarkers == 1;
+  const std::string_view head = bytes.substr(0, quillomat::HeadBytes(kLookedAt));
+  const bool isText =
+      !bytes.empty() && quillomat::LineEndingTypeOf(head, kLookedAt) != LineEndingType::kNotText;
+  const quillomat::TemporaryFolder folder;
+  countCase.choices.optFolder = true;
+  countCase.choices.txbFolder = folder.Path();
+  // More than are read as they are met.
+  for (int i = 0; i < 24; ++i) {
+    static constexpr std::array kEndings = {".txt", ".html", ".c"};
+    const std::array<std::string, 3> markers = {users ? "user" : "", "HTML", "C"};
+    const auto kind = static_cast<std::size_t>(i % 3);
+    const std::string path = folder.Write("f" + std::to_string(100 + i) + kEndings[kind], bytes);
+    if (isText) countCase.texts.push_back({markers[kind], path, false, lines});
+  }
+  const quillomat::TextOfFolder source{folder.Path(), false, {}};
+  Require(OutcomeOfCounter(countCase, {source, kThreads, nullptr}) == OutcomeOfReference(countCase),
+          "the outcome of the counter is that of the literal engine");
+}
+
+/// One of five ways: to try all of each input costs as many times as much and shows no more.
+/// Nothing for the counter's.
+std::optional<Reading> ReadingOf(std::string_view& rest) {
   constexpr std::array kReadings = {Reading::kByLines, Reading::kInBlocks, Reading::kInParts,
                                     Reading::kOnThreads};
-  return kReadings.at(
-      static_cast<std::size_t>(InputReader(rest).Below(static_cast<int>(kReadings.size()))));
+  const int way = InputReader(rest).Below(static_cast<int>(kReadings.size()) + 1);
+  if (way == static_cast<int>(kReadings.size())) return std::nullopt;
+  return kReadings.at(static_cast<std::size_t>(way));
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view rest(reinterpret_cast<const char*>(data), size);
-  const Reading reading = ReadingOf(rest);
+  const std::optional<Reading> reading = ReadingOf(rest);
   CountCase countCase = CaseOf(rest);
   const std::vector<std::string> lines = LinesOf(rest);
+  if (!reading) {
+    RequireSameOfFiles(countCase, rest, lines);
+    return 0;
+  }
   for (const char* markers : {"", "HTML", "user", "C"}) {
     countCase.texts.push_back({markers, "/home/reader/books/a.txt", false, lines});
   }
-  Require(OutcomeOfProgram(countCase, reading) == OutcomeOfReference(countCase),
+  Require(OutcomeOfProgram(countCase, *reading) == OutcomeOfReference(countCase),
           "the outcome is that of the literal engine");
   return 0;
 }

@@ -28,11 +28,9 @@ class LongLine::Alternative {
     AddChecked(read, scanner_.WordsRead());
     scan.scanner.SetWordsRead(read);
     scan.settings.OpenComment = settings_.OpenComment;
-    const std::vector<std::int32_t> counts = store_.TakeCounts();
-    for (std::size_t place = 0; place < counts.size(); ++place) {
-      const std::string_view word = store_.WordAtPlace(static_cast<std::uint32_t>(place));
-      const std::uint32_t joined = scan.store.AddWord(word).value();
-      if (counts[place] > 1) scan.store.CountWordAt(joined, counts[place] - 1);
+    for (const auto& [place, times] : store_.TakeCountedWords()) {
+      const std::uint32_t joined = scan.store.AddWord(store_.WordAtPlace(place)).value();
+      if (times > 1) scan.store.CountWordAt(joined, times - 1);
     }
   }
 

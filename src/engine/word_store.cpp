@@ -36,6 +36,7 @@ void WordStore::Clear() {
   tallies_.clear();
   slots_.clear();
   arena_.Clear();
+  counted_.clear();
   sorted_ = true;
   occurrences_ = 0;
 }
@@ -68,7 +69,8 @@ std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
   return place;
 }
 
-void WordStore::CountWordAt(std::uint32_t place, std::int32_t times) {
+void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
+  if (notesCounted_ && counts_[place] == 0) counted_.push_back(place);
   AddChecked(counts_[place], times);
   occurrences_ += times;
   if (!files_.IsOn()) return;
@@ -76,13 +78,41 @@ void WordStore::CountWordAt(std::uint32_t place, std::int32_t times) {
   tallies_[place].CountWordInFile(files_.CurrentFileNumber(), times);
 }
 
-void WordStore::CountOneByOne(std::span<const std::uint32_t> places) {
-  for (const std::uint32_t place : places) CountWordAt(place);
+void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {
+  if (files_.IsOn() || !HasRoomFor(places.size())) {
+    for (const std::uint32_t place : places) CountWordAt(place);
+    return;
+  }
+  // Without a branch, as a text has its words in no order that could be foreseen.
+  std::size_t counted = counted_.size();
+  counted_.resize(counted + places.size());
+  for (const std::uint32_t place : places) {
+    counted_[counted] = place;
+    counted += static_cast<std::size_t>(counts_[place] == 0);
+    ++counts_[place];
+  }
+  counted_.resize(counted);
+  occurrences_ += static_cast<std::int64_t>(places.size());
 }
 
-std::vector<std::int32_t> WordStore::TakeCounts() {
-  std::vector<std::int32_t> taken(counts_.size());
-  taken.swap(counts_);
+std::vector<WordStore::CountedWord> WordStore::TakeCountedWords() {
+  std::vector<CountedWord> taken;
+  if (notesCounted_) {
+    taken.reserve(counted_.size());
+    for (const std::uint32_t place : counted_) {
+      taken.push_back({place, std::exchange(counts_[place], 0)});
+    }
+    counted_.clear();
+  } else {
+    taken.resize(counts_.size());
+    std::size_t counted = 0;
+    for (std::size_t place = 0; place < counts_.size(); ++place) {  // without a branch, as above
+      const std::int32_t times = std::exchange(counts_[place], 0);
+      taken[counted] = {static_cast<std::uint32_t>(place), times};
+      counted += static_cast<std::size_t>(times != 0);
+    }
+    taken.resize(counted);
+  }
   occurrences_ = 0;
   return taken;
 }
@@ -91,6 +121,7 @@ std::vector<std::int32_t> WordStore::TakeCounts() {
 void WordStore::AppendWord(const KeyedWord& word) {
   ReserveOneMore(counts_);
   ReserveOneMore(included_);
+  if (notesCounted_) ReserveOneMore(counted_);
   FileTally tally;
   if (files_.IsOn()) {
     ReserveOneMore(tallies_);
@@ -99,6 +130,7 @@ void WordStore::AppendWord(const KeyedWord& word) {
   letters_.PushBack({word.word, word.key, arena_});
   counts_.push_back(1);
   included_.push_back(1);
+  if (notesCounted_) counted_.push_back(static_cast<std::uint32_t>(letters_.Size() - 1));
   ++occurrences_;
   if (files_.IsOn()) tallies_.push_back(std::move(tally));
 }

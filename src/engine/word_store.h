@@ -18,6 +18,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/checked_count.h"
 #include "engine/chunked_vector.h"
 #include "engine/file_tally.h"
 #include "engine/letter_arena.h"
@@ -117,10 +118,14 @@ class WordStore {
 
   /// Counts occurrences of the word that AddWord has put at `place`; throws as AddWord does. Places
   /// change when the words are sorted or cleared, and then Generation() changes.
-  void CountWordAt(std::uint32_t place, std::int32_t times = 1);
+  void CountWordAt(std::uint32_t place, std::int32_t times = 1) {
+    if (files_.IsOn() || notesCounted_) return CountWordWithNotes(place, times);
+    AddChecked(counts_[place], times);
+    occurrences_ += times;
+  }
   /// One occurrence of each.
   void CountWordsAt(std::span<const std::uint32_t> places) {
-    if (files_.IsOn() || !HasRoomFor(places.size())) return CountOneByOne(places);
+    if (files_.IsOn() || notesCounted_ || !HasRoomFor(places.size())) return CountWithNotes(places);
     for (const std::uint32_t place : places) ++counts_[place];
     occurrences_ += static_cast<std::int64_t>(places.size());
   }
@@ -130,8 +135,16 @@ class WordStore {
   [[nodiscard]] std::string_view WordAtPlace(std::uint32_t place) const {
     return letters_[place].Word();
   }
-  /// The occurrences by place, all of which begin anew at 0.
-  [[nodiscard]] std::vector<std::int32_t> TakeCounts();
+  struct CountedWord {
+    std::uint32_t place = 0;
+    std::int32_t times = 0;
+  };
+  /// Whether words are noted for TakeCountedWords from now on, so that it need not look at all.
+  /// To be called when no word is counted yet, or they have been taken.
+  void NoteCountedWords(bool on) { notesCounted_ = on; }
+  /// The words that were counted since the last call, and how often; those that are new since then
+  /// in the order in which they were met. All counts begin anew at 0.
+  [[nodiscard]] std::vector<CountedWord> TakeCountedWords();
 
   [[nodiscard]] std::int32_t NumDifferentWords() const {
     return static_cast<std::int32_t>(letters_.Size());
@@ -192,7 +205,8 @@ class WordStore {
     return occurrences_ + static_cast<std::int64_t>(times) <=
            std::numeric_limits<std::int32_t>::max();
   }
-  void CountOneByOne(std::span<const std::uint32_t> places);
+  void CountWordWithNotes(std::uint32_t place, std::int32_t times);
+  void CountWithNotes(std::span<const std::uint32_t> places);
   [[nodiscard]] std::size_t FindSlot(const KeyedWord& word) const;
   void AppendWord(const KeyedWord& word);
   void MakeRoom();
@@ -227,6 +241,9 @@ class WordStore {
   mutable std::uint64_t generation_ = 0;
   /// Of all words together: no count is higher.
   std::int64_t occurrences_ = 0;
+  bool notesCounted_ = false;
+  /// The places of words whose count is not 0, if it notes them.
+  std::vector<std::uint32_t> counted_;
 };
 
 }  // namespace quillomat

@@ -79,7 +79,8 @@ class CountObserver : public ScanYield, public NewWordListener {
   }
   /// Text is scanned from now on, into an empty store.
   virtual void OnScanBegins() {}
-  /// The next text of a folder or a list of paths; nobody has tried to read it yet.
+  /// The next text of a folder or a list of paths. Whatever is known of it (with several threads it
+  /// may have been scanned ahead) is told afterwards.
   virtual void OnFileMet(const std::string& /*path*/, const CountProgress& /*progress*/) {}
   virtual void OnFileBegins(const FileBegins& /*file*/) {}
   virtual void OnProgress(const CountProgress& /*progress*/) {}

@@ -92,7 +92,8 @@ struct CountRequest {
   std::string outputPath;
   /// ScanSettings::OpenComment as the count before has left it.
   int openComment = -1;
-  /// How many threads may scan a large text at the same time; with 1 the caller's does.
+  /// How many threads may scan a large text, or the files of a folder, at the same time; with 1 the
+  /// caller's does.
   std::size_t threads = 1;
 };
 

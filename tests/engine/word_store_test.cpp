@@ -138,11 +138,24 @@ TEST_F(WordStoreTest, CountThatLeavesItsRangeIsAnOverflow) {
 }
 
 TEST_F(WordStoreTest, CountsThatAreTakenBeginAnew) {
-  Add({"dog", "ant", "dog"});
-  EXPECT_THAT(store.TakeCounts(), ElementsAre(2, 1));
-  Add({"ant", "cat"});
-  EXPECT_EQ(store.WordAtPlace(2), "cat");
-  EXPECT_THAT(store.TakeCounts(), ElementsAre(0, 1, 1));
+  const auto counted = [this] {
+    std::string words;
+    for (const auto& [place, times] : store.TakeCountedWords()) {
+      words.append(store.WordAtPlace(place)).append("*" + std::to_string(times) + " ");
+    }
+    return words;
+  };
+  const std::vector<std::uint32_t> dogAntDog = {0, 1, 0};
+  for (const bool noted : {true, false}) {
+    store.Clear();
+    store.NoteCountedWords(noted);
+    Add({"dog", "ant", "dog"});
+    EXPECT_EQ(counted(), "dog*2 ant*1 ");
+    Add({"ant", "cat"});
+    store.CountWordsAt(dogAntDog);
+    EXPECT_EQ(counted(), noted ? "ant*2 cat*1 dog*2 " : "dog*2 ant*2 cat*1 ");
+    EXPECT_EQ(counted(), "");
+  }
 }
 
 TEST_F(WordStoreTest, LongWordsAndLongKeysAreKeptWhole) {

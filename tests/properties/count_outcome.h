@@ -2,9 +2,12 @@
 // results, and nothing about how they were reached.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
+#include "engine/scan_settings.h"
 #include "properties/count_case.h"
+#include "sources/count_request.h"
 
 namespace quillomat::properties {
 
@@ -13,6 +16,20 @@ enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };
 
 /// By the program's own engine and listing.
 [[nodiscard]] std::string OutcomeOfProgram(const CountCase& countCase, Reading reading);
+
+/// How Counter is given the texts, which stand in files at their paths.
+struct FilesInTurn {
+  CountSource source;
+  std::size_t threads = 1;
+  /// Is told what the observer of the count was told, and in which order.
+  std::string* events = nullptr;
+};
+
+/// By the program's counter. The texts are in the order in which it reads their files.
+[[nodiscard]] std::string OutcomeOfCounter(const CountCase& countCase, const FilesInTurn& files);
+
+/// As the panel's choices are for a scan.
+[[nodiscard]] ScanChoices ScanChoicesOf(const reference::LiteralChoices& from);
 
 /// By the literal engine.
 [[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase);

@@ -1,7 +1,6 @@
 // Holds the program's engine and listing against the literal engine: the same case must have the
 // same outcome, to the letter. A case that fails is made as small as it can be and printed as code.
 #include <cstdint>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <random>
@@ -9,16 +8,10 @@
 
 #include "properties/count_case.h"
 #include "properties/count_outcome.h"
+#include "properties/property_cases.h"
 
 namespace quillomat::properties {
 namespace {
-
-/// As many as the environment variable QUILLOMAT_PROPERTY_CASES says, where every case takes long.
-int CasesPerSeed() {
-  constexpr int kUsual = 12'000;
-  const char* const wanted = std::getenv("QUILLOMAT_PROPERTY_CASES");
-  return wanted != nullptr ? std::stoi(wanted) : kUsual;
-}
 
 /// Threads take longer to be made than a case to be counted, so only every so manieth case has
 /// them.

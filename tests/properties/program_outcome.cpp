@@ -2,6 +2,7 @@
 #include <array>
 #include <optional>
 #include <sstream>
+#include <utility>
 
 #include "app/list/text_box_list_sink.h"
 #include "base/byte_source.h"
@@ -13,6 +14,7 @@
 #include "listing/file_list_sink.h"
 #include "listing/list_walk.h"
 #include "properties/count_outcome.h"
+#include "sources/counter.h"
 #include "support/scripted_desktop.h"
 
 namespace quillomat::properties {
@@ -49,25 +51,6 @@ LetterRule LettersOf(const reference::LiteralChoices& from) {
   return from.cboLetters == 1 ? LetterRule::kAll : LetterRule::kWestern;
 }
 
-ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
-  ScanChoices choices;
-  choices.allowWordsWith = {
-      StateOf(from.chkAllowWordsWithHyphens),     StateOf(from.chkAllowWordsWithApostrophes),
-      StateOf(from.chkAllowWordsWithUnderscores), StateOf(from.chkAllowWordsWithColons),
-      StateOf(from.chkAllowWordsWithBackslashes), StateOf(from.chkAllowWordsWithForwardslashes),
-      StateOf(from.chkAllowWordsWithParentheses), StateOf(from.chkAllowWordsWithPeriods),
-      StateOf(from.chkAllowWordsWithCommas),      StateOf(from.chkAllowWordsWithAtSigns),
-      StateOf(from.chkAllowWordsWithNumerals)};
-  choices.caseSignificant = StateOf(from.chkCaseSignificant);
-  choices.letters = LettersOf(from);
-  choices.foldAccents = StateOf(from.chkFoldAccents);
-  choices.dropFinalS = StateOf(from.chkDropFinalS);
-  choices.allowCommentMarkers = StateOf(from.chkAllowCommentMarkers);
-  choices.startComment = from.txbStartComment;
-  choices.endComment = from.txbEndComment;
-  return choices;
-}
-
 FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {
   FilterChoices choices;
   choices.ignoreInfrequentWords = StateOf(from.chkIgnoreInfrequentWords);
@@ -87,11 +70,46 @@ std::string FiveDigits(std::int32_t number) {
   return std::string(5 - digits.size(), '0') + digits;
 }
 
+/// Writes down what it is told.
+class EventNotes final : public CountObserver {
+ public:
+  explicit EventNotes(std::string* events) : events_(events) {}
+
+  void OnNewWord(std::string_view word, std::int32_t numDifferentWords) override {
+    Note("new", word, numDifferentWords);
+  }
+  void OnScanBegins() override { Note("scan", "", 0); }
+  void OnFileMet(const std::string& path, const CountProgress& progress) override {
+    Note("met", path, progress.filesDone);
+  }
+  void OnFileBegins(const FileBegins& file) override {
+    Note("begins", file.path, file.bytes);
+    Note("of type", "", static_cast<int>(file.lineEnds));
+  }
+  void OnFileEnds(const FileReport& report, const CountProgress& progress) override {
+    Note("ends", report.path, report.bytesRead);
+    Note("in all", "", progress.runBytesRead);
+  }
+  void OnSkipped(const SkippedFile& skipped) override {
+    Note("skipped", skipped.path, static_cast<int>(skipped.reason));
+  }
+
+ private:
+  void Note(std::string_view what, std::string_view name, std::int64_t number) {
+    if (events_ == nullptr) return;
+    events_->append(what).append(" ").append(name).append(" " + std::to_string(number) + "\n");
+  }
+
+  std::string* events_;
+};
+
 class ProgramCase {
  public:
-  ProgramCase(const CountCase& countCase, Reading reading)
+  /// `files` is there for Counter only.
+  ProgramCase(const CountCase& countCase, Reading reading, const FilesInTurn* files = nullptr)
       : case_(countCase),
         reading_(reading),
+        files_(files),
         choices_(ScanChoicesOf(countCase.choices)),
         yield_(reading == Reading::kInBlocks ? kCallsOfBlocks : kCallsOneByOne) {}
 
@@ -155,13 +173,37 @@ class ProgramCase {
     settings_.ReadingWordList = false;
     settings_.SetAllowWordsFlags(choices_);
     settings_.BuildExtraWordChars();
+    if (files_ != nullptr) return CountFiles();
     store_.Clear();
     store_.Files().Reset(case_.choices.optFolder && settings_.CountOnlyMode);
     CountTexts();
     if (!settings_.CountOnlyMode) ApplyWordFilters(store_, FilterChoicesOf(case_.choices));
     totals_ = store_.TallyWords();
     ranking_ = RankByFrequency(store_);
+    DescribeCount();
+  }
+
+  void DescribeCount() {
     out_ << "read " << wordsRead_ << " open " << settings_.OpenComment << '\n';
+  }
+
+  void CountFiles() {
+    CountRequest request;
+    request.source = files_->source;
+    request.scan = choices_;
+    request.filters = FilterChoicesOf(case_.choices);
+    request.lists = lists_;
+    request.openComment = settings_.OpenComment;
+    request.threads = files_->threads;
+    EventNotes notes(files_->events);
+    CountResult result = Counter(request, notes).Run();
+    result.Rank(request.filters);
+    store_ = std::move(result.store);
+    totals_ = result.totals;
+    ranking_ = std::move(result.ranking);
+    wordsRead_ = result.wordsRead;
+    settings_.OpenComment = result.openComment;
+    DescribeCount();
   }
 
   void CountTexts() {
@@ -327,6 +369,7 @@ class ProgramCase {
 
   const CountCase& case_;
   Reading reading_;
+  const FilesInTurn* files_;
   ScanChoices choices_;
   ScanSettings settings_;
   WordLists lists_;
@@ -341,8 +384,31 @@ class ProgramCase {
 
 }  // namespace
 
+ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
+  ScanChoices choices;
+  choices.allowWordsWith = {
+      StateOf(from.chkAllowWordsWithHyphens),     StateOf(from.chkAllowWordsWithApostrophes),
+      StateOf(from.chkAllowWordsWithUnderscores), StateOf(from.chkAllowWordsWithColons),
+      StateOf(from.chkAllowWordsWithBackslashes), StateOf(from.chkAllowWordsWithForwardslashes),
+      StateOf(from.chkAllowWordsWithParentheses), StateOf(from.chkAllowWordsWithPeriods),
+      StateOf(from.chkAllowWordsWithCommas),      StateOf(from.chkAllowWordsWithAtSigns),
+      StateOf(from.chkAllowWordsWithNumerals)};
+  choices.caseSignificant = StateOf(from.chkCaseSignificant);
+  choices.letters = LettersOf(from);
+  choices.foldAccents = StateOf(from.chkFoldAccents);
+  choices.dropFinalS = StateOf(from.chkDropFinalS);
+  choices.allowCommentMarkers = StateOf(from.chkAllowCommentMarkers);
+  choices.startComment = from.txbStartComment;
+  choices.endComment = from.txbEndComment;
+  return choices;
+}
+
 std::string OutcomeOfProgram(const CountCase& countCase, Reading reading) {
   return ProgramCase(countCase, reading).Outcome();
+}
+
+std::string OutcomeOfCounter(const CountCase& countCase, const FilesInTurn& files) {
+  return ProgramCase(countCase, Reading::kInBlocks, &files).Outcome();
 }
 
 }  // namespace quillomat::properties

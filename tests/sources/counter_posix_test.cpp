@@ -39,6 +39,20 @@ TEST_F(NamedPipe, IsGivenUpWhenTheCountIsStopped) {
   EXPECT_EQ(result.end, CountEnd::kStopped);
 }
 
+TEST_F(NamedPipe, IsReadInItsTurnBetweenFilesThatAreReadAhead) {
+  request.threads = 3;
+  std::vector<std::string> paths(40, folder.Write("a.txt", "cat"));
+  paths[20] = pipe_;
+  std::jthread writer([this] {
+    std::ofstream out(pipe_);
+    for (int i = 0; i < 20'000; ++i) out << "dog\n";
+  });
+  const CountResult result = Run(TextOfPaths{paths, false, {}, nullptr});
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  EXPECT_EQ(result.files, 40);
+  EXPECT_EQ(WordsOf(result), "cat*39 dog*20000");
+}
+
 using ClosedFiles = CounterFixture;
 
 TEST_F(ClosedFiles, AreSkippedAndNamed) {

@@ -17,13 +17,21 @@ OpenCommentFinder::OpenCommentFinder(ScanSettings settings, const ScanChoices& c
       scanner_(settings_, choices, lists, store_, yield_) {}
 
 int OpenCommentFinder::Behind(std::string_view text, const ScanSettings& settings) {
+  return Behind(text, settings, false);
+}
+
+int OpenCommentFinder::LikelyBehind(std::string_view text, const ScanSettings& settings) {
+  return Behind(text, settings, true);
+}
+
+int OpenCommentFinder::Behind(std::string_view text, const ScanSettings& settings, bool mayGuess) {
   settings_ = settings;
   const int before = settings.OpenComment;
   if (!scanner_.LooksForComments()) return before;
   const std::string_view last = LastLines(text);
   const int behind = BehindLines(last, kNoComment);
   if (BehindLines(last, 0) == behind && BehindLines(last, 1) == behind) return behind;
-  return BehindLines(text, before);
+  return BehindLines(mayGuess && !last.empty() ? last : text, before);
 }
 
 std::string_view OpenCommentFinder::LastLines(std::string_view text) const {

@@ -1,23 +1,15 @@
-// Threads that scan pieces of a text at the same time. The pieces come back in their order.
-//
-// All calls come from one thread, the owner's. WaitForFirst waits as long as it is told to; Clear
-// and the destructor wait until the threads have seen that they are to stop, which they
-// look for between blocks of lines.
+// Threads that scan pieces of a text at the same time. The pieces come back in their order. Who
+// calls what, and who waits how long, is said in ordered_jobs.h.
 #pragma once
 
-#include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstddef>
-#include <deque>
-#include <exception>
 #include <memory>
-#include <mutex>
-#include <thread>
 #include <vector>
 
 #include "engine/parallel/line_pieces.h"
+#include "engine/parallel/ordered_jobs.h"
 #include "engine/parallel/piece_scanner.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
@@ -35,58 +27,38 @@ class PiecePool {
     std::size_t scanner = 0;
   };
 
-  /// The arguments are those of PieceScanner. As many threads are started as the system gives;
-  /// without any, WaitForFirst itself scans.
+  /// The arguments are those of PieceScanner.
   PiecePool(const ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
             std::size_t threads);
-  PiecePool(const PiecePool&) = delete;
-  PiecePool& operator=(const PiecePool&) = delete;
-  PiecePool(PiecePool&&) = delete;
-  PiecePool& operator=(PiecePool&&) = delete;
-  /// Gives up what is being scanned.
-  ~PiecePool();
 
-  /// At least one, the owner's if need be.
-  [[nodiscard]] std::size_t Threads() const { return std::max<std::size_t>(threads_.size(), 1); }
-  [[nodiscard]] std::size_t Pieces() const { return pieces_.size(); }
+  [[nodiscard]] std::size_t Threads() const { return jobs_.Threads(); }
+  [[nodiscard]] std::size_t Pieces() const { return jobs_.Size(); }
 
   /// Has `text` scanned as the last piece.
   void Submit(TextPiece text, const ScanSettings& settings);
 
   /// Waits for the first piece; false when it takes longer. There is one.
-  [[nodiscard]] bool WaitForFirst(std::chrono::milliseconds longest);
+  [[nodiscard]] bool WaitForFirst(std::chrono::milliseconds longest) {
+    return jobs_.WaitForFirst(longest);
+  }
   /// The first piece, for which WaitForFirst has returned true. Throws what its scan has thrown.
-  [[nodiscard]] const Piece& First() const;
+  [[nodiscard]] const Piece& First() { return jobs_.First(); }
   /// Drops the first piece, and returns its text so that its memory can be used again.
-  TextPiece DropFirst();
+  TextPiece DropFirst() { return jobs_.TakeFirst().text; }
+
+  /// Has that scanner number its words anew, soon.
+  void ForgetWords(std::size_t scanner) { scanners_[scanner]->ForgetWordsSoon(); }
 
   /// Throws the pieces away.
   void Clear();
 
  private:
-  enum class Progress { kWaiting, kAtWork, kDone };
-  struct Job {
-    Piece piece;
-    Progress progress = Progress::kWaiting;
-    std::exception_ptr error;
-  };
-
-  void Work(std::size_t scanner);
-  void Do(Job& job, std::size_t scanner, std::unique_lock<std::mutex>& lock);
-  [[nodiscard]] Job* NextJob();
-
-  mutable std::mutex mutex_;
-  std::condition_variable workChanged_;
-  std::condition_variable jobDone_;
-  // Behind the mutex.
-  std::deque<std::unique_ptr<Job>> pieces_;
-  std::size_t atWork_ = 0;
-  bool ending_ = false;
+  void Scan(Piece& piece, std::size_t scanner);
 
   std::atomic<bool> stop_ = false;
   /// Each belongs to the thread of its number while that is at work.
   std::vector<std::unique_ptr<PieceScanner>> scanners_;
-  std::vector<std::jthread> threads_;
+  OrderedJobs<Piece> jobs_;
 };
 
 }  // namespace quillomat

@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "base/line_decoder.h"
-#include "base/text_helpers.h"
 #include "engine/parallel/line_pieces.h"
+#include "engine/whole_lines.h"
 
 namespace quillomat {
 namespace {
@@ -13,46 +12,37 @@ namespace {
 /// words are all different gains nothing from it.
 constexpr std::int32_t kMostWordsKept = 65'536;
 
+/// Scanning so many bytes with notes costs as much more as looking at one word of the store.
+constexpr std::size_t kBytesWorthLook = 8;
+
 }  // namespace
 
 PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
                            const WordLists& lists, const std::atomic<bool>& stop)
     : settings_(std::move(settings)),
       choices_(choices),
+      lists_(lists),
       stopTest_(stop),
       scanner_(settings_, choices, lists, store_, stopTest_) {}
 
 PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
-  if (store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+  if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+  // To note the words costs less than to look for them at the end where the text is short.
+  store_.NoteCountedWords(text.size() <
+                          static_cast<std::size_t>(store_.NumDifferentWords()) * kBytesWorthLook);
   settings_ = settings;
   scanner_.SetWordsRead(0);
-  ScanLines(text);
   PieceCount count;
+  count.looksForComments = scanner_.LooksForComments();
+  count.openBefore = settings_.OpenComment;
+  ScanWholeLines({settings_, choices_, lists_, store_, stopTest_, scanner_}, text);
   count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
   count.numbersAnew = std::exchange(numbersAnew_, false);
-  count.counts = store_.TakeCounts();
+  count.words = store_.TakeCountedWords();
   DescribeNewWords(count);
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
   return count;
-}
-
-void PieceScanner::ScanLines(std::string_view text) {
-  LineDecoder lines(text);
-  while (!stopTest_.Yield()) {
-    const std::string_view atHand = lines.NextLines();
-    if (const std::size_t plain = scanner_.PlainLineBytes(atHand); plain > 0) {
-      scanner_.GetWordsOfLines(atHand.substr(0, plain));
-      lines.SkipLines(plain);
-    } else if (const auto line = lines.NextLine()) {
-      const std::string_view trimmed = TrimBlanks(*line);
-      if (trimmed.empty()) continue;
-      scanner_.GetWords(
-          PrepareLine(trimmed, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
-    } else {
-      break;
-    }
-  }
 }
 
 void PieceScanner::DescribeNewWords(PieceCount& count) {
@@ -71,17 +61,21 @@ void PieceScanner::ForgetWords() {
 
 void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   if (piece.numbersAnew) places_.clear();
-  for (std::size_t number = 0; number < places_.size(); ++number) {
-    if (piece.counts[number] > 0) store.CountWordAt(places_[number], piece.counts[number]);
-  }
+  knowsNumbers_ = false;  // for one that is not joined to its end
   std::string_view letters = piece.newLetters;
-  for (const std::uint32_t bytes : piece.newWordBytes) {
-    const std::int32_t times = piece.counts[places_.size()];
-    const std::uint32_t place = store.AddWord(letters.substr(0, bytes)).value();
+  auto bytes = piece.newWordBytes.begin();
+  for (const auto& [number, times] : piece.words) {
+    if (number < places_.size()) {
+      store.CountWordAt(places_[number], times);
+      continue;
+    }
+    // Words are numbered as they are met, so this is the first of the new ones that are left.
+    const std::uint32_t place = store.AddWord(letters.substr(0, *bytes)).value();
     if (times > 1) store.CountWordAt(place, times - 1);
     places_.push_back(place);
-    letters.remove_prefix(bytes);
+    letters.remove_prefix(*bytes++);
   }
+  knowsNumbers_ = true;
 }
 
 }  // namespace quillomat

@@ -20,13 +20,16 @@ namespace quillomat {
 struct PieceCount {
   /// The numbers begin anew with this piece.
   bool numbersAnew = false;
-  /// Occurrences in the piece, by the number of the word.
-  std::vector<std::int32_t> counts;
-  /// The words that got their numbers in this piece, the last ones of `counts`, in order.
+  /// The words of the piece by their numbers; the new ones in their order.
+  std::vector<WordStore::CountedWord> words;
+  /// The words that got their numbers in this piece, in order.
   std::string newLetters;
   std::vector<std::uint32_t> newWordBytes;
   std::int32_t wordsRead = 0;
-  /// ScanSettings::OpenComment behind the piece.
+  /// Whether a comment that is open in front of the piece makes a difference to it.
+  bool looksForComments = false;
+  /// ScanSettings::OpenComment in front of the piece, and behind it.
+  int openBefore = -1;
   int openComment = -1;
   std::int64_t bytesWithLongLineEnds = 0;
 };
@@ -44,6 +47,8 @@ class PieceScanner {
 
   /// Numbers the words anew: after a result was thrown away.
   void ForgetWords();
+  /// Numbers the words anew with the next piece. May be called by any thread.
+  void ForgetWordsSoon() { forget_ = true; }
 
  private:
   class StopTest final : public ScanYield {
@@ -56,15 +61,15 @@ class PieceScanner {
     const std::atomic<bool>& stop_;
   };
 
-  void ScanLines(std::string_view text);
   void DescribeNewWords(PieceCount& count);
 
   ScanSettings settings_;
   const ScanChoices& choices_;
+  const WordLists& lists_;
   WordStore store_;
   StopTest stopTest_;
   WordScanner scanner_;
-  std::string buffer_;
+  std::atomic<bool> forget_ = false;
   bool numbersAnew_ = true;
   std::int32_t wordsTold_ = 0;
 };
@@ -73,11 +78,18 @@ class PieceScanner {
 class PieceJoiner {
  public:
   /// To be called in the order of the pieces. New words come into the store in the order of the
-  /// text. Throws RunTimeError 6 as the store does. The store is neither sorted nor cleared between
-  /// two calls.
+  /// text. Throws RunTimeError 6 as the store does; then pieces cannot be joined any more until the
+  /// numbers begin anew. The store is neither sorted nor cleared between two calls.
   void Join(const PieceCount& piece, WordStore& store);
+  /// A piece is left out: there are numbers now of which nothing is known, until they begin anew.
+  void LeaveOut() { knowsNumbers_ = false; }
+  /// Whether the piece has no such numbers.
+  [[nodiscard]] bool CanJoin(const PieceCount& piece) const {
+    return knowsNumbers_ || piece.numbersAnew;
+  }
 
  private:
+  bool knowsNumbers_ = true;
   /// The places in the store, by the number of the word.
   std::vector<std::uint32_t> places_;
 };

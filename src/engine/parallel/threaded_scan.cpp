@@ -4,12 +4,15 @@
 
 #include "base/checked_count.h"
 #include "engine/long_line.h"
+#include "engine/whole_lines.h"
 
 namespace quillomat {
 
 void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   LinePieces pieces(source, pieceBytes_);
   nextOpen_ = target_.settings.OpenComment;
+  guesses_ = true;
+  hasGuessedWrong_ = false;
   sourceEnded_ = false;
   readError_ = nullptr;
   longLine_.reset();
@@ -38,6 +41,11 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
 /// So many pieces that no thread waits for work while one is joined. What was read before an error
 /// is counted first.
 void ThreadedScan::ReadAhead(LinePieces& pieces) {
+  if (hasGuessedWrong_) {
+    if (pool_.Pieces() > 0) return;
+    hasGuessedWrong_ = false;
+    nextOpen_ = target_.settings.OpenComment;
+  }
   while (!sourceEnded_ && !longLine_ && pool_.Pieces() < 2 * pool_.Threads()) {
     TextPiece text;
     if (!spareTexts_.empty()) {
@@ -57,7 +65,8 @@ void ThreadedScan::ReadAhead(LinePieces& pieces) {
     }
     ScanSettings settings = target_.settings;
     settings.OpenComment = nextOpen_;
-    nextOpen_ = openComments_.Behind(text.Text(), settings);
+    nextOpen_ = guesses_ ? openComments_.LikelyBehind(text.Text(), settings)
+                         : openComments_.Behind(text.Text(), settings);
     pool_.Submit(std::move(text), settings);
   }
 }
@@ -82,12 +91,36 @@ bool ThreadedScan::ScanLongLine(LinePieces& pieces, const Callbacks& callbacks) 
   return yield_.stopped;
 }
 
+/// A piece that was scanned with a wrong guess is scanned again, and so are those whose words have
+/// numbers from it.
 void ThreadedScan::JoinFirst() {
   const PiecePool::Piece& first = pool_.First();
-  AddChecked(target_.wordsRead, first.count.wordsRead);
-  joiners_[first.scanner].Join(first.count, target_.store);
-  target_.settings.OpenComment = first.count.openComment;
+  PieceJoiner& joiner = joiners_[first.scanner];
+  if (CanJoin(first)) {
+    AddChecked(target_.wordsRead, first.count.wordsRead);
+    joiner.Join(first.count, target_.store);
+    target_.settings.OpenComment = first.count.openComment;
+  } else {
+    guesses_ = false;
+    hasGuessedWrong_ = true;
+    joiner.LeaveOut();
+    pool_.ForgetWords(first.scanner);
+    ScanHere(first.text.Text());
+  }
   spareTexts_.push_back(pool_.DropFirst());
+}
+
+bool ThreadedScan::CanJoin(const PiecePool::Piece& piece) const {
+  const PieceCount& count = piece.count;
+  const bool wasGuessed =
+      !count.looksForComments || count.openBefore == target_.settings.OpenComment;
+  return wasGuessed && joiners_[piece.scanner].CanJoin(count);
+}
+
+void ThreadedScan::ScanHere(std::string_view text) {
+  scanner_.SetWordsRead(target_.wordsRead);
+  ScanWholeLines({target_.settings, choices_, lists_, target_.store, yield_, scanner_}, text);
+  target_.wordsRead = scanner_.WordsRead();
 }
 
 }  // namespace quillomat

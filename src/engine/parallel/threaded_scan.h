@@ -44,7 +44,8 @@ class ThreadedScan {
         pieceBytes_(pieceBytes),
         pool_(target.settings, choices, lists, threads),
         joiners_(std::max<std::size_t>(threads, 1)),
-        openComments_(target.settings, choices, lists),
+        openComments_(target.settings, choices, lists,
+                      std::min(OpenCommentFinder::kLookedAt, 1 + pieceBytes / 4)),
         choices_(choices),
         lists_(lists),
         scanner_(target_.settings, choices, lists, target_.store, yield_) {}
@@ -63,6 +64,8 @@ class ThreadedScan {
  private:
   void ReadAhead(LinePieces& pieces);
   void JoinFirst();
+  [[nodiscard]] bool CanJoin(const PiecePool::Piece& piece) const;
+  void ScanHere(std::string_view text);
   [[nodiscard]] bool ScanLongLine(LinePieces& pieces, const Callbacks& callbacks);
 
   /// Asks the callback from time to time.
@@ -99,6 +102,10 @@ class ThreadedScan {
   OpenCommentFinder openComments_;
   /// Open in front of the next piece that is read.
   int nextOpen_ = -1;
+  /// Whether that may be guessed: until a guess is wrong.
+  bool guesses_ = true;
+  /// Pieces wait whose guesses go back to a wrong one.
+  bool hasGuessedWrong_ = false;
   const ScanChoices& choices_;
   const WordLists& lists_;
   CallbackYield yield_;

@@ -1,0 +1,77 @@
+// A count at work: what those who read its texts share. It lives as long as they do.
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "engine/scan_settings.h"
+#include "sources/count_observer.h"
+#include "sources/count_request.h"
+#include "sources/count_result.h"
+
+namespace quillomat {
+
+/// Asks the observer whether to stop, and remembers that it said so.
+class StopQuestion final : public ScanYield {
+ public:
+  explicit StopQuestion(CountObserver& observer) : observer_(observer) {}
+
+  bool Yield() override {
+    stopped_ = observer_.Yield() || stopped_;
+    return stopped_;
+  }
+  [[nodiscard]] std::uint32_t CallsLeft() const override { return observer_.CallsLeft(); }
+  bool YieldFor(std::uint32_t calls) override {
+    stopped_ = observer_.YieldFor(calls) || stopped_;
+    return stopped_;
+  }
+  /// For many words together, however many they were.
+  bool YieldForMany() { return YieldFor(CallsLeft()); }
+
+  /// Without asking anew.
+  [[nodiscard]] bool Stopped() const { return stopped_; }
+
+ private:
+  CountObserver& observer_;
+  bool stopped_ = false;
+};
+
+struct CountAtWork {
+  CountAtWork(const CountRequest& itsRequest, CountObserver& itsObserver)
+      : request(itsRequest), observer(itsObserver), stop(itsObserver) {
+    settings.SetAllowWordsFlags(request.scan);
+    settings.BuildExtraWordChars();
+    settings.CountOnlyMode = request.lists.HasCountOnlyWords();
+    settings.OpenComment = request.openComment;
+    result.countOnlyMode = settings.CountOnlyMode;
+  }
+
+  void BeginScan(bool tallyFiles) {
+    scanning = true;
+    result.store.Files().Reset(tallyFiles);
+    result.store.SetListener(&observer);
+    observer.OnScanBegins();
+  }
+  void EndScan() {
+    if (stop.Stopped()) result.end = CountEnd::kStopped;
+  }
+  void Refuse(Refusal refusal) {
+    result.end = CountEnd::kRefused;
+    result.refusal = refusal;
+  }
+  void Fail(const RunTimeError& error) {
+    result.end = CountEnd::kFailed;
+    result.error = error;
+  }
+
+  const CountRequest& request;
+  CountObserver& observer;
+  StopQuestion stop;
+  CountResult result;
+  /// The allow flags are ready; the markers are those of the text that is being read.
+  ScanSettings settings;
+  CountProgress progress;
+  bool scanning = false;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,287 @@
+#include "sources/folder_pass.h"
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "base/checked_count.h"
+#include "sources/source_check.h"
+#include "system/file_system.h"
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kStandardInput = "-";
+
+bool IsStandardInput(const TextOfPaths& source, std::string_view path) {
+  return source.standardInput != nullptr && path == kStandardInput;
+}
+
+/// A batch is full with so many things, however few bytes they have; the first ones with fewer, as
+/// nobody knows yet how many they have.
+constexpr std::size_t kMostItems = 128;
+constexpr std::size_t kFirstItems = 16;
+constexpr std::size_t kItemsWorthThreads = 8;
+/// The first files are read as they are met, up to so many or so many bytes: before threads were
+/// made, they would be done.
+constexpr std::int32_t kFilesAtOnce = 16;
+constexpr std::int64_t kBytesAtOnce = 128 * 1024;
+/// So many batches wait for each thread, so that none has nothing to do while one is joined.
+constexpr std::size_t kBatchesPerThread = 2;
+constexpr std::chrono::milliseconds kLongestWait{8};
+
+// Comments that are open from file to file are guessed. A wrong guess costs a batch's work, and
+// weighs as much as so many right ones.
+constexpr int kSurprise = 64;
+constexpr int kTooManySurprises = 3 * kSurprise;
+constexpr int kFilesNotAhead = 2048;
+
+}  // namespace
+
+void FolderPass::Read(const TextOfFolder& source) {
+  ReadMany(1, [&](const FolderVisitor& visitor) { WalkFolder(source, visitor); });
+}
+
+void FolderPass::Read(const TextOfPaths& source) {
+  standardInput_ = source.standardInput;
+  ReadMany(0, [&](const FolderVisitor& visitor) { VisitPaths(source, visitor); });
+}
+
+void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
+  state_.result.folders = folders;
+  if (state_.request.countingPass != CountingPass::kNone) {
+    if (!CountFiles(visit)) return;
+    state_.result.folders = folders;
+  }
+  state_.BeginScan(state_.settings.CountOnlyMode && state_.request.tallyFiles);
+  visit({.onFile = [this](const std::string& path) { Meet(WalkItem::Kind::kFile, path); },
+         .onSubfolder = [this] { Meet(WalkItem::Kind::kSubfolder, {}); },
+         .onUnreadableFolder =
+             [this](const std::string& path) { Meet(WalkItem::Kind::kUnreadableFolder, path); },
+         .stops = [this] { return state_.stop.Yield(); }});
+  TakeRest();
+  state_.EndScan();
+}
+
+/// False when the count has ended with it.
+bool FolderPass::CountFiles(const Visit& visit) {
+  CountResult& result = state_.result;
+  CountProgress& progress = state_.progress;
+  const bool bytes = state_.request.countingPass == CountingPass::kFilesAndBytes;
+  const auto countFile = [&](const std::string& path) {
+    ++result.files;
+    if (bytes) progress.bytesInRun += FileLength(path).value_or(0);
+    state_.observer.OnFileCounted(result.files, result.folders);
+  };
+  visit({.onFile = countFile,
+         .onSubfolder = [&] { ++result.folders; },
+         .onUnreadableFolder = [](const std::string&) {},
+         .stops = [this] { return state_.stop.Yield(); }});
+  if (state_.stop.Stopped()) {
+    result.end = CountEnd::kStoppedCounting;
+    return false;
+  }
+  progress.filesInRun = std::exchange(result.files, 0);
+  std::string outputPath = state_.request.outputPath;
+  Refusal refusal = Refusal::kNone;
+  if (!state_.observer.GoOn(progress.filesInRun, result.folders, outputPath)) {
+    refusal = Refusal::kDeclined;
+  } else if (outputPath != state_.request.outputPath) {
+    refusal = OutputFaultOf(state_.request.source, outputPath);
+  }
+  if (refusal != Refusal::kNone) state_.Refuse(refusal);
+  return refusal == Refusal::kNone;
+}
+
+void FolderPass::VisitPaths(const TextOfPaths& source, const FolderVisitor& visitor) {
+  for (const std::string& path : source.paths) {
+    if (!IsStandardInput(source, path) && FolderExists(path)) {
+      visitor.onSubfolder();
+      WalkFolder({path, source.subfolders, source.extensions}, visitor);
+    } else {
+      visitor.onFile(path);
+    }
+    if (visitor.stops()) return;
+  }
+}
+
+void FolderPass::Meet(WalkItem::Kind kind, const std::string& path) {
+  WalkItem item;
+  item.kind = kind;
+  item.report.path = path;
+  if (kind == WalkItem::Kind::kFile && standardInput_ != nullptr && path == kStandardInput) {
+    item.kind = WalkItem::Kind::kStandardInput;
+  }
+  if (!texts_.UsesThreads() || IsAmongFirst()) return Take(item, 0);
+  if (item.kind == WalkItem::Kind::kFile && filesNotAhead_ > 0) {
+    --filesNotAhead_;
+  } else {
+    item.forThreads = item.kind == WalkItem::Kind::kFile;
+  }
+  met_.items.push_back(std::move(item));
+  if (met_.items.size() >= ItemsOfBatch()) return Submit();
+  if (kind == WalkItem::Kind::kSubfolder) KeepBusy();
+}
+
+bool FolderPass::IsAmongFirst() const {
+  return !pool_ && met_.items.empty() && state_.progress.filesDone < kFilesAtOnce &&
+         bytesOfFiles_ < kBytesAtOnce;
+}
+
+/// As files go, of as many bytes as a batch is to have.
+std::size_t FolderPass::ItemsOfBatch() const {
+  const std::int64_t files = state_.result.files;
+  if (files == 0) return kFirstItems;
+  const auto usualBytes = static_cast<std::size_t>(bytesOfFiles_ / files);
+  return std::clamp<std::size_t>(batchBytes_ / (usualBytes + 1), 1, kMostItems);
+}
+
+/// A walk can be slow: between two folders it is seen to that nothing waits for it.
+void FolderPass::KeepBusy() {
+  while (pool_ && pool_->Batches() > 0 && pool_->WaitForFirst(std::chrono::milliseconds::zero())) {
+    TakeFirstBatch();
+    if (state_.stop.Stopped()) return;
+  }
+  const bool idle = pool_ ? pool_->Batches() == 0 : met_.items.size() >= kItemsWorthThreads;
+  if (idle) Submit();
+}
+
+/// Hands over what was met, once there is room for it.
+void FolderPass::Submit() {
+  if (!pool_) {
+    pool_.emplace(state_.settings, state_.request, batchBytes_);
+    joiners_.resize(state_.request.threads);
+  }
+  while (pool_->Batches() >= kBatchesPerThread * pool_->Threads() && !state_.stop.Stopped()) {
+    TakeFirstBatch();
+  }
+  if (state_.stop.Stopped()) return;
+  met_.openComment = state_.settings.OpenComment;
+  pool_->Submit(std::exchange(met_, {}));
+}
+
+void FolderPass::TakeFirstBatch() {
+  while (!pool_->WaitForFirst(kLongestWait)) {
+    if (state_.stop.YieldForMany()) return;
+  }
+  FileBatch batch = pool_->TakeFirst();
+  for (WalkItem& item : batch.items) {
+    Take(item, batch.scanner);
+    if (state_.stop.YieldForMany()) return;
+  }
+}
+
+/// Behind the end of the walk. One file is not worth threads.
+void FolderPass::TakeRest() {
+  if (!pool_ && met_.items.size() <= 1) {
+    for (WalkItem& item : met_.items) Take(item, 0);
+    return;
+  }
+  Submit();
+  while (pool_->Batches() > 0 && !state_.stop.Stopped()) TakeFirstBatch();
+  pool_.reset();
+}
+
+void FolderPass::Take(WalkItem& item, std::size_t scanner) {
+  switch (item.kind) {
+    case WalkItem::Kind::kFile:
+    case WalkItem::Kind::kStandardInput:
+      return TakeFile(item, scanner);
+    case WalkItem::Kind::kSubfolder:
+      ++state_.result.folders;
+      return;
+    case WalkItem::Kind::kUnreadableFolder:
+      return Skip({item.report.path, Refusal::kFolderUnreadable, {}});
+  }
+}
+
+void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
+  CountProgress& progress = state_.progress;
+  FileReport& report = item.report;
+  state_.observer.OnFileMet(report.path, progress);
+  const std::int64_t bytesBefore = progress.runBytesRead;
+  state_.result.store.Files().SetFileBeingScanned(report.path);
+  texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
+  ++progress.filesDone;
+  progress.bytesRead = 0;
+  progress.bytesInFile = 0;
+  progress.bytesWithLongLineEnds = 0;
+  if (report.refusal == Refusal::kNone) {
+    ++state_.result.files;
+    bytesOfFiles_ += report.bytesRead;
+  } else {
+    if (progress.bytesInRun > 0) {
+      progress.runBytesRead = bytesBefore + FileLength(report.path).value_or(report.bytesRead);
+    }
+    Skip({report.path, report.refusal, report.error});
+  }
+  state_.observer.OnFileEnds(report, progress);
+  if (state_.request.keepReports) state_.result.reports.push_back(std::move(report));
+}
+
+void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
+  if (item.kind == WalkItem::Kind::kStandardInput) {
+    return texts_.ReadStream(*standardInput_, item.report);
+  }
+  switch (item.state) {
+    case WalkItem::State::kLeftAlone:
+      return texts_.ReadFile(item.report);
+    case WalkItem::State::kOpened:
+      return texts_.ReadFile(*item.file, item.report);
+    case WalkItem::State::kRefused:
+      return;  // as the report says
+    case WalkItem::State::kScanned:
+      break;
+  }
+  if (CanJoin(item, scanner)) return Join(item, joiners_[scanner]);
+  pool_->ForgetWords(scanner);
+  joiners_[scanner].LeaveOut();
+  FileReport anew;
+  anew.path = std::move(item.report.path);
+  item.report = std::move(anew);
+  texts_.ReadFile(item.report);
+}
+
+/// Whether the file was scanned as it should have been.
+bool FolderPass::CanJoin(const WalkItem& item, std::size_t scanner) {
+  const PieceCount& count = item.count;
+  if (count.looksForComments && count.openBefore != state_.settings.OpenComment) {
+    surprises_ += kSurprise;
+    if (surprises_ > kTooManySurprises) {
+      filesNotAhead_ = kFilesNotAhead;
+      surprises_ = kTooManySurprises - kSurprise;
+    }
+    return false;
+  }
+  if (surprises_ > 0) --surprises_;
+  return joiners_[scanner].CanJoin(count);
+}
+
+/// If it fails on the way, the joiner knows.
+void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
+  const PieceCount& count = item.count;
+  const std::int64_t bytes = std::exchange(item.report.bytesRead, 0);
+  joiner.LeaveOut();
+  const auto identity = std::exchange(item.report.identity, std::nullopt);
+  texts_.Begin(item.report, item.bytes);
+  item.report.identity = identity;
+  texts_.NoteBytes(bytes, item.report);
+  if (texts_.IsTold()) texts_.NoteLines(count.bytesWithLongLineEnds);
+  AddChecked(state_.result.wordsRead, count.wordsRead);
+  joiner.Join(count, state_.result.store);
+  if (count.looksForComments) state_.settings.OpenComment = count.openComment;
+}
+
+void FolderPass::Skip(const SkippedFile& skipped) {
+  CountResult& result = state_.result;
+  if (!IsFault(skipped.reason)) {
+    ++result.leftOut;
+  } else if (++result.skippedInAll; result.skipped.size() < CountResult::kMaxSkipped) {
+    result.skipped.push_back(skipped);
+  }
+  state_.observer.OnSkipped(skipped);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,129 @@
+#include "sources/text_pass.h"
+
+#include <new>
+#include <optional>
+
+#include "base/run_time_error.h"
+#include "sources/line_endings.h"
+#include "sources/read_sources.h"
+#include "system/file_system.h"
+
+namespace quillomat {
+namespace {
+
+TextEncoding EncodingOf(std::string_view head) {
+  if (head.starts_with("\xEF\xBB\xBF")) return TextEncoding::kUtf8WithMark;
+  if (head.starts_with("\xFF\xFE")) return TextEncoding::kUtf16LittleEndian;
+  if (head.starts_with("\xFE\xFF")) return TextEncoding::kUtf16BigEndian;
+  return TextEncoding::kUtf8OrWindows1252;
+}
+
+bool IsOverflow(const RunTimeError& error) {
+  return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow);
+}
+
+}  // namespace
+
+bool JudgeText(std::string_view head, FileReport& report) {
+  report.lineEnds = LineEndingTypeOf(head, kTextTestBytes);
+  report.encoding = EncodingOf(head);
+  if (report.lineEnds != LineEndingType::kNotText) return true;
+  report.refusal = Refusal::kNotText;
+  return false;
+}
+
+void TextPass::Try(FileReport& report, const ReadReported& read) {
+  try {
+    read(report);
+  } catch (const RunTimeError& error) {
+    if (IsOverflow(error)) throw;
+    report.refusal = Refusal::kReadFailed;
+    report.error = error;
+  } catch (const std::bad_alloc&) {
+    report.refusal = Refusal::kReadFailed;
+    report.error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
+  }
+  if (report.identity) state_.result.filesRead.push_back(*report.identity);
+}
+
+void TextPass::ReadClipboard(std::string_view text) {
+  LoadMarkersFor({}, state_.request.scan, state_.settings);
+  state_.BeginScan(false);
+  reader_.ReadPiece(text);
+  state_.EndScan();
+}
+
+void TextPass::ReadFile(FileReport& report) {
+  std::optional<InputFile> file;
+  try {
+    file.emplace(report.path);
+  } catch (const RunTimeError& error) {
+    report.refusal = FileExists(report.path) ? Refusal::kCannotBeOpened : Refusal::kNotFound;
+    report.error = error;
+    return;
+  }
+  ReadFile(*file, report);
+}
+
+void TextPass::ReadFile(InputFile& file, FileReport& report) {
+  if (file.Length() == 0) {
+    PatientSource source(file, state_.stop);
+    return ReadStream(source, report);
+  }
+  if (!JudgeText(file.Ahead(HeadBytes(kTextTestBytes)), report)) return;
+  Begin(report, file.Length());
+  report.identity = file.Identity();
+  ReadText(file, file.Length() >= TextReader::kBytesWorthThreads, report);
+}
+
+void TextPass::ReadStream(ByteSource& source, FileReport& report) {
+  HeadedSource text(source);
+  const std::string_view head = text.Ahead(HeadBytes(kTextTestBytes));
+  if (head.empty() && !state_.stop.Stopped()) {
+    report.refusal = Refusal::kEmpty;
+    return;
+  }
+  if (!JudgeText(head, report)) return;
+  Begin(report, 0);
+  constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);
+  ReadText(text, reader_.UsesThreads() && text.Ahead(kWorthThreads).size() == kWorthThreads,
+           report);
+}
+
+void TextPass::Begin(const FileReport& report, std::int64_t bytes) {
+  LoadMarkersFor(report.path, state_.request.scan, state_.settings);
+  if (!state_.scanning) state_.BeginScan(false);
+  state_.progress.bytesInFile = bytes;
+  runBytesBefore_ = state_.progress.runBytesRead;
+  state_.observer.OnFileBegins({report.path, bytes, report.lineEnds, report.encoding});
+}
+
+void TextPass::NoteBytes(std::int64_t bytes, FileReport& report) {
+  state_.progress.bytesRead = bytes;
+  state_.progress.runBytesRead = runBytesBefore_ + bytes;
+  report.bytesRead = bytes;
+}
+
+void TextPass::NoteLines(std::int64_t bytes) {
+  state_.progress.bytesWithLongLineEnds += bytes;
+  state_.observer.OnProgress(state_.progress);
+}
+
+void TextPass::ReadText(ByteSource& source, bool worthThreads, FileReport& report) {
+  CountingSource text(source);
+  TextReader::OnBytes onBytes;
+  if (IsTold()) {
+    onBytes = [&](std::int64_t bytes) {
+      NoteBytes(text.BytesRead(), report);
+      NoteLines(bytes);
+    };
+  }
+  if (worthThreads && reader_.UsesThreads()) {
+    reader_.ReadLinesOnThreads(text, onBytes);
+  } else {
+    reader_.ReadLines(text, onBytes);
+  }
+  NoteBytes(text.BytesRead(), report);
+}
+
+}  // namespace quillomat

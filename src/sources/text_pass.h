@@ -1,0 +1,69 @@
+// The reading of one text of a count: whether it is one, what the observer is told of it, and what
+// its report says.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "base/byte_source.h"
+#include "sources/count_at_work.h"
+#include "sources/count_result.h"
+#include "sources/text_reader.h"
+#include "system/input_file.h"
+
+namespace quillomat {
+
+/// So many bytes at the start of a file say whether it is a text.
+inline constexpr std::size_t kTextTestBytes = 10'240;
+
+/// Notes what the text that starts with `head` is. False when it is none, and the report says so.
+[[nodiscard]] bool JudgeText(std::string_view head, FileReport& report);
+
+class TextPass {
+ public:
+  /// The state outlives the pass.
+  explicit TextPass(CountAtWork& state)
+      : state_(state),
+        reader_({state.settings, state.result.store, state.result.wordsRead}, state.request.scan,
+                state.request.lists, state.request.threads, state.stop) {}
+
+  [[nodiscard]] bool UsesThreads() const { return reader_.UsesThreads(); }
+
+  using ReadReported = std::function<void(FileReport&)>;
+  /// What fails in `read` is a matter of that text, but for an overflow, which is thrown.
+  void Try(FileReport& report, const ReadReported& read);
+
+  /// In one piece.
+  void ReadClipboard(std::string_view text);
+  /// The file of the report.
+  void ReadFile(FileReport& report);
+  /// A file that is open and was not read.
+  void ReadFile(InputFile& file, FileReport& report);
+  /// What has no length, or has not told it.
+  void ReadStream(ByteSource& source, FileReport& report);
+
+  /// A text begins that was judged to be one: its markers are chosen, and the observer is told.
+  void Begin(const FileReport& report, std::int64_t bytes);
+  /// So many of its bytes were read.
+  void NoteBytes(std::int64_t bytes, FileReport& report);
+  /// Lines of so many bytes are counted now (CountProgress::bytesWithLongLineEnds).
+  void NoteLines(std::int64_t bytes);
+  /// Whether the observer is told of the progress in that text.
+  [[nodiscard]] bool IsTold() const {
+    return state_.progress.bytesInFile == 0 ||
+           state_.progress.bytesInFile > CountProgress::kInstantBytes;
+  }
+
+ private:
+  void ReadText(ByteSource& source, bool worthThreads, FileReport& report);
+
+  CountAtWork& state_;
+  TextReader reader_;
+  /// In the texts before this one.
+  std::int64_t runBytesBefore_ = 0;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,135 @@
+// Holds the program's counter against the literal engine: files of a folder or a list, counted by
+// any number of threads, must have the outcome of the same texts read one after the other.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "properties/count_case.h"
+#include "properties/count_outcome.h"
+#include "properties/property_cases.h"
+#include "sources/marker_fault.h"
+#include "support/temporary_folder.h"
+
+namespace quillomat::properties {
+namespace {
+
+/// Files take longer to be written than a case to be counted.
+constexpr int kCasesPerFolder = 60;
+constexpr std::uint64_t kFolderSeed = 708;
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+/// A case whose texts stand in files.
+class FilesOfCase {
+ public:
+  explicit FilesOfCase(Random& random) : random_(random), case_(RandomCase(random)) {
+    case_.choices.optFolder = true;
+    case_.choices.txbFolder = folder_.Path();
+    if (FindMarkerFault(ScanChoicesOf(case_.choices))) case_.choices.chkAllowCommentMarkers = 0;
+    case_.texts.clear();
+    for (const std::size_t files = Below(90); number_ < files; ++number_) AddFile();
+  }
+
+  [[nodiscard]] const CountCase& Case() const { return case_; }
+
+  /// Of the folder, and of all that is in it by name.
+  [[nodiscard]] std::vector<CountSource> Sources() const {
+    return {TextOfFolder{folder_.Path(), true, {}}, TextOfPaths{paths_, false, {}, nullptr}};
+  }
+
+ private:
+  std::size_t Below(std::size_t limit) { return random_() % limit; }
+
+  /// Mostly a text; else one that is empty, no text, or not there.
+  void AddFile() {
+    static constexpr std::string_view kExtensions[] = {".txt", ".html", ".c", ".txt"};
+    const std::size_t kind = Below(4);
+    const std::string name = "f" + std::to_string(100 + number_) + std::string(kExtensions[kind]);
+    switch (Below(14)) {
+      case 0:
+        paths_.push_back(folder_.Write(name, ""));
+        return;
+      case 1:
+        paths_.push_back(folder_.Write(name, "cat \x01 dog"));
+        return;
+      case 2:
+        paths_.push_back(folder_ / name);
+        return;
+      default:
+        break;
+    }
+    CaseText text = TextForFile();
+    const bool users = case_.choices.chkAllowCommentMarkers == 1;
+    text.markers = kind == 1 ? "HTML" : kind == 2 ? "C" : users ? "user" : "";
+    text.path = folder_.Write(name, BytesOf(text.lines));
+    paths_.push_back(text.path);
+    case_.texts.push_back(text);
+  }
+
+  /// One that is a text as a file, too.
+  CaseText TextForFile() {
+    for (;;) {
+      CaseText text = RandomCase(random_).texts[0];
+      text.whole = false;
+      const auto isPlain = [](const std::string& line) {
+        return std::ranges::none_of(line,
+                                    [](char ch) { return ch >= 0 && ch < ' ' && ch != '\t'; });
+      };
+      if (std::ranges::all_of(text.lines, isPlain)) return text;
+    }
+  }
+
+  std::string BytesOf(const std::vector<std::string>& lines) {
+    static constexpr std::string_view kLineEnds[] = {"\n", "\r\n", "\r"};
+    // What looks like a mark and is text needs one in front.
+    const bool hasMark = Below(8) == 0 || lines[0].starts_with(kMark);
+    std::string bytes(hasMark ? kMark : "");
+    for (const std::string& line : lines) bytes.append(line).append(kLineEnds[Below(3)]);
+    if (bytes.ends_with("a\n") || bytes.ends_with("s\n")) bytes.pop_back();
+    return bytes;
+  }
+
+  Random& random_;
+  CountCase case_;
+  TemporaryFolder folder_;
+  std::vector<std::string> paths_;
+  std::size_t number_ = 0;
+};
+
+void CompareRandomFolders(std::uint64_t seed) {
+  Random random(seed);
+  for (int i = 0; i < CasesPerSeed() / kCasesPerFolder; ++i) {
+    const FilesOfCase files(random);
+    const std::string expected = OutcomeOfReference(files.Case());
+    for (const CountSource& source : files.Sources()) {
+      std::string expectedEvents;
+      for (const std::size_t threads : {1U, 2U, 3U, 8U}) {
+        std::string events;
+        const std::string outcome = OutcomeOfCounter(files.Case(), {source, threads, &events});
+        if (threads == 1) expectedEvents = events;
+        ASSERT_EQ(outcome, expected)
+            << "seed " << seed << ", case " << i << ", " << threads << " threads:\n"
+            << AsCode(files.Case());
+        ASSERT_EQ(events, expectedEvents) << "seed " << seed << ", case " << i;
+      }
+    }
+  }
+}
+
+TEST(FolderProperty, RandomFoldersOfFixedSeedHaveTheOutcomeOfTheLiteralEngine) {
+  CompareRandomFolders(kFolderSeed);
+}
+
+TEST(FolderProperty, RandomFoldersOfFreshSeedHaveTheOutcomeOfTheLiteralEngine) {
+  const std::uint64_t seed = std::random_device()();
+  std::cout << "fresh seed " << seed << std::endl;
+  CompareRandomFolders(seed);
+}
+
+}  // namespace
+}  // namespace quillomat::properties

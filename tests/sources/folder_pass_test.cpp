@@ -1,0 +1,172 @@
+// Files of a folder that are scanned ahead on several threads give what they give one by one.
+#include "sources/folder_pass.h"
+
+#include <gtest/gtest.h>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "engine/parallel/line_pieces.h"
+#include "sources/counter_fixture.h"
+
+namespace quillomat {
+namespace {
+
+constexpr int kManyFiles = 150;
+
+class FilesOnThreads : public CounterFixture {
+ protected:
+  void Put(const std::string& name, const std::string& contents) {
+    static_cast<void>(folder.Write(name, contents));
+  }
+  static std::string Numbered(int number) { return "f" + std::to_string(1000 + number) + ".txt"; }
+
+  /// Words that are spelled in different ways in turn.
+  void PutManyFiles() {
+    request.scan.caseSignificant = CheckState::kChecked;
+    const std::vector<std::string> spellings = {"caf\u00E9 Dog ", "cafe dog ", "Cafe owl "};
+    for (int i = 0; i < kManyFiles; ++i) {
+      std::string text;
+      for (int k = 0; k <= i % 7; ++k) text += spellings[static_cast<std::size_t>(i + k) % 3];
+      const std::string below = i % 4 == 0 ? "sub" + std::to_string(i % 9) + "/" : "";
+      Put(below + Numbered(i), text + std::string(1, static_cast<char>('a' + i % 26)) + "x\n");
+    }
+  }
+
+  struct Outcome {
+    std::string words;
+    std::string newWords;
+    std::vector<std::string> events;
+    std::string tallies;
+    std::int32_t wordsRead = 0;
+    std::int32_t files = 0;
+    std::int32_t folders = 0;
+    std::int64_t runBytes = 0;
+
+    bool operator==(const Outcome&) const = default;
+  };
+
+  Outcome CountFolder(std::size_t threads, std::size_t batchBytes) {
+    request.threads = threads;
+    RecordingObserver noted;
+    CountAtWork state(request, noted);
+    TextPass texts(state);
+    FolderPass(state, texts, batchBytes).Read(TextOfFolder{folder.Path(), true, {}});
+    const CountResult& result = state.result;
+    Outcome outcome{
+        WordsOf(result),  noted.newWords, noted.events,   {},
+        result.wordsRead, result.files,   result.folders, noted.afterFiles.back().runBytesRead};
+    for (std::int32_t i = 1; i <= result.store.NumDifferentWords(); ++i) {
+      const FileTally* files = result.store.FilesOf(i);
+      for (std::size_t k = 0; files != nullptr && k < files->FileNumbers.size(); ++k) {
+        outcome.tallies += std::to_string(files->FileNumbers[k]) + ":" +
+                           std::to_string(files->FileCounts[k]) + " ";
+      }
+    }
+    return outcome;
+  }
+
+  void ExpectSameOnThreads() {
+    const Outcome expected = CountFolder(1, kBatchBytes);
+    for (const std::size_t threads : {2U, 3U, 8U}) {
+      for (const std::size_t batchBytes : {std::size_t{1}, std::size_t{200}, kBatchBytes}) {
+        EXPECT_EQ(CountFolder(threads, batchBytes), expected) << threads << ", " << batchBytes;
+      }
+    }
+  }
+};
+
+TEST_F(FilesOnThreads, AreJoinedInTheOrderOfTheWalk) {
+  PutManyFiles();
+  ExpectSameOnThreads();
+}
+
+TEST_F(FilesOnThreads, AreTalliedOneByOne) {
+  PutManyFiles();
+  CountOnly({"dog", "Cafe", "ax"});
+  ExpectSameOnThreads();
+}
+
+TEST_F(FilesOnThreads, CarryCommentsOnThatNobodyForesees) {
+  for (int i = 0; i < kManyFiles; ++i) {
+    const bool opens = i % 5 == 1;
+    const bool closes = i % 5 == 3;
+    Put("f" + std::to_string(1000 + i) + ".c", "w" +
+                                                   std::string(1, static_cast<char>('a' + i % 26)) +
+                                                   (opens    ? " /* hidden"
+                                                    : closes ? " hidden */ seen"
+                                                             : " plain"));
+  }
+  ExpectSameOnThreads();
+}
+
+TEST_F(FilesOnThreads, MayBeOfAnySize) {
+  for (int i = 0; i < 40; ++i) {
+    std::string text;
+    const std::size_t bytes = i % 13 == 5 ? 3 * LinePieces::kPieceBytes : i % 6 * 9000;
+    while (text.size() < bytes) text += "word w" + std::to_string(text.size() % 97) + "\n";
+    Put(Numbered(i), text + "end");
+  }
+  ExpectSameOnThreads();
+}
+
+TEST_F(FilesOnThreads, MayBeNoTextOrInUtf16OrOneLongLine) {
+  for (int i = 0; i < 20; ++i) {
+    Put(Numbered(6 * i), "cat\x01");
+    Put(Numbered(6 * i + 1), "");
+    Put(Numbered(6 * i + 2), std::string("\xFF\xFE"
+                                         "c\0a\0t\0",
+                                         8));
+    Put(Numbered(6 * i + 3),
+        "\xEF\xBB\xBF"
+        "cat dog\r");
+    Put(Numbered(6 * i + 4), "\xEF\xBB\xBF");
+    std::string line;
+    while (line.size() < 30'000) line += line.size() % 5 == 0 ? "caf\u00E9 " : "caf\xE9 tea ";
+    Put(Numbered(6 * i + 5), line);
+  }
+  ExpectSameOnThreads();
+}
+
+TEST_F(FilesOnThreads, GoOnBehindOneForWhichTheMemoryRunsOut) {
+  PutManyFiles();
+  request.threads = 3;
+  observer.onFileBegins = [](const FileBegins& file) {
+    if (file.path.ends_with(Numbered(5))) throw std::bad_alloc();
+  };
+  const CountResult result = Run(TextOfFolder{folder.Path(), true, {}});
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  EXPECT_EQ(result.files, kManyFiles - 1);
+  EXPECT_EQ(result.skipped.at(0).reason, Refusal::kReadFailed);
+  request.threads = 1;
+  observer.newWords.clear();
+  EXPECT_EQ(WordsOf(Run(TextOfFolder{folder.Path(), true, {}})), WordsOf(result));
+}
+
+TEST_F(FilesOnThreads, StopBehindTheFileInWhichTheyAreStopped) {
+  PutManyFiles();
+  request.threads = 2;
+  observer.onFileBegins = [this](const FileBegins& file) {
+    observer.stopped = file.path.ends_with(Numbered(30));
+  };
+  const CountResult result = Run(TextOfFolder{folder.Path(), false, {}});
+  EXPECT_EQ(result.end, CountEnd::kStopped);
+  EXPECT_EQ(observer.events.back(), "ends " + Numbered(30));
+}
+
+TEST_F(FilesOnThreads, FailAtTheFileThatOverflows) {
+  CountOnly({"cat"});
+  for (int i = 0; i < 30; ++i) Put(Numbered(i), "cat");
+  std::string cats;
+  for (int i = 0; i < 32'768; ++i) cats += "cat\n";
+  Put(Numbered(20), cats);
+  request.threads = 2;
+  const CountResult result = Run(TextOfFolder{folder.Path(), false, {}});
+  EXPECT_EQ(result.end, CountEnd::kFailed);
+  EXPECT_EQ(result.error.value().Description(), "Overflow");
+  EXPECT_EQ(observer.events.back(), "begins " + Numbered(20));
+}
+
+}  // namespace
+}  // namespace quillomat
