@@ -73,11 +73,6 @@ void TablePage::SetTexts(const ProgramText& text) {
   ShowTotals();
 }
 
-void TablePage::Show(const RowFilter& filter) {
-  kind_.setCurrentIndex(static_cast<int>(filter.kind));
-  words_.setText(ToQt(filter.text));
-}
-
 void TablePage::Find() {
   words_.selectAll();
   words_.setFocus(Qt::ShortcutFocusReason);

@@ -25,9 +25,6 @@ class TablePage final : public QWidget {
 
   void SetTexts(const ProgramText& text);
 
-  /// Fills in the filter, as a hand would.
-  void Show(const RowFilter& filter);
-
   /// Puts the keyboard where words are looked for.
   void Find();
 

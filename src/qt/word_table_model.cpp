@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <utility>
 
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
@@ -18,16 +19,19 @@ bool StartsWithTheLargest(WordColumn column) {
 
 }  // namespace
 
-WordTableModel::WordTableModel(ResultTable& table, QObject* parent)
-    : QAbstractTableModel(parent), table_(table) {
+WordTableModel::WordTableModel(ResultTable& table, std::function<bool()> isWatched)
+    : table_(table), isWatched_(std::move(isWatched)) {
   table_.Changing.Connect([this] { beginResetModel(); });
-  table_.Changed.Connect([this] { endResetModel(); });
+  table_.Changed.Connect([this] {
+    awake_ = isWatched_();
+    endResetModel();
+  });
 }
 
-void WordTableModel::SetWatched(bool watched) {
-  if (watched == watched_) return;
+void WordTableModel::Wake() {
+  if (awake_) return;
   beginResetModel();
-  watched_ = watched;
+  awake_ = true;
   endResetModel();
 }
 

@@ -1,9 +1,11 @@
 // The rows of the table of words as the toolkit's views want them; what they are is decided in
-// app/table. While no view looks the model has no rows, so that nothing is worked out for nobody.
+// app/table. Rows that come while no view looks are none until one does, so that nothing is worked
+// out for nobody.
 #pragma once
 
 #include <QAbstractTableModel>
 #include <QStringList>
+#include <functional>
 
 #include "app/table/result_table.h"
 #include "app/table/row_cells.h"
@@ -13,15 +15,15 @@ namespace quillomat {
 
 class WordTableModel final : public QAbstractTableModel {
  public:
-  /// `table` outlives the model.
-  explicit WordTableModel(ResultTable& table, QObject* parent = nullptr);
+  /// `table` outlives the model. `isWatched` says whether a view looks.
+  WordTableModel(ResultTable& table, std::function<bool()> isWatched);
 
   /// Those that a table may show, in their order; a file's are for exports only.
   static constexpr int kColumns = static_cast<int>(WordColumn::kFile);
   [[nodiscard]] static WordColumn ColumnOf(int section) { return static_cast<WordColumn>(section); }
 
-  /// Whether a view looks.
-  void SetWatched(bool watched);
+  /// A view looks from now on.
+  void Wake();
   void SetSigns(const NumberSigns& signs) { signs_ = signs; }
   /// The columns' titles in the current language.
   void SetTexts(const ProgramText& text);
@@ -40,10 +42,11 @@ class WordTableModel final : public QAbstractTableModel {
                                       int hits, Qt::MatchFlags flags) const override;
 
  private:
-  [[nodiscard]] const WordRows* Rows() const { return watched_ ? table_.Rows() : nullptr; }
+  [[nodiscard]] const WordRows* Rows() const { return awake_ ? table_.Rows() : nullptr; }
 
   ResultTable& table_;
-  bool watched_ = false;
+  std::function<bool()> isWatched_;
+  bool awake_ = false;
   NumberSigns signs_;
   QStringList titles_;
 };

@@ -27,7 +27,10 @@ constexpr qsizetype kMostRowsOfATable = 100'000;
 }  // namespace
 
 WordTableView::WordTableView(ResultTable& table, QWidget* parent)
-    : QTableView(parent), table_(table), model_(table), columns_(*this, model_) {
+    : QTableView(parent),
+      table_(table),
+      model_(table, [this] { return isVisible(); }),
+      columns_(*this, model_) {
   setModel(&model_);
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setAlternatingRowColors(true);
@@ -176,13 +179,8 @@ void WordTableView::contextMenuEvent(QContextMenuEvent* event) {
 
 void WordTableView::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
-  model_.SetWatched(true);
+  model_.Wake();
   FollowTheTable();
-}
-
-void WordTableView::hideEvent(QHideEvent* event) {
-  QTableView::hideEvent(event);
-  if (!event->spontaneous()) model_.SetWatched(false);
 }
 
 void WordTableView::resizeEvent(QResizeEvent* event) {

@@ -61,9 +61,13 @@ class Photographer {
   void TakeTable(const QString& name, const QString& beginning) {
     MainWindowView& window = user_.windows.Main();
     window.Views().Show("table");
-    window.Table().Show({FilterKind::kBeginWith, FromQt(beginning)});
+    auto* words = window.Table().findChild<QLineEdit*>();
+    auto* kind = window.Table().findChild<QComboBox*>();
+    kind->setCurrentIndex(static_cast<int>(FilterKind::kBeginWith));
+    words->setText(beginning);
     Save(window, name);
-    window.Table().Show({});
+    words->clear();
+    kind->setCurrentIndex(0);
     window.Views().Show("text");
   }
 

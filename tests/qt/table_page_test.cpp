@@ -213,6 +213,21 @@ TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
   EXPECT_EQ(View().currentIndex().row(), 0);
 }
 
+TEST_F(TablePageTest, PlaceInTheTableIsKeptWhileTheTextIsLookedAt) {
+  Count("dog cat dog emu elk\n");
+  OpenTable();
+  View().selectRow(2);
+  Window().Views().Show("text");
+  user->Settle();
+  OpenTable();
+  EXPECT_TRUE(View().selectionModel()->isRowSelected(2));
+  Window().Views().Show("text");
+  Count("ox\n");
+  EXPECT_EQ(View().model()->rowCount(), 0) << "nobody has looked at them yet";
+  OpenTable();
+  EXPECT_THAT(Words(), ElementsAre("ox"));
+}
+
 TEST_F(TablePageTest, LettersFollowTheSizeOfTheLists) {
   OpenTable();
   const qreal usual = View().font().pointSizeF();
