@@ -14,7 +14,7 @@
 namespace quillomat {
 
 /// What a count of a folder went through.
-struct FolderPass {
+struct FolderFigures {
   std::int32_t filesScanned = 0;
   /// The chosen one included; 0 before any folder was scanned.
   std::int32_t foldersScanned = 0;
@@ -40,7 +40,7 @@ struct CurrentWords {
   /// Where they come from.
   CountedText counted;
   /// Of the last folder that was counted.
-  FolderPass folder;
+  FolderFigures folder;
 
   /// The last count went to its end, and its words can be listed again.
   bool completeRun = false;
