@@ -170,6 +170,7 @@ LineDecoder::LineDecoder(ByteSource& source)
 std::optional<std::string_view> LineDecoder::NextLine() {
   const std::optional<std::string_view> line = NextRawLine();
   if (!line || IsWellFormedUtf8(*line)) return line;
+  if (linesNotUtf8_ != nullptr) ++*linesNotUtf8_;
   decoded_.clear();
   AppendWindows1252(decoded_, *line);
   return decoded_;

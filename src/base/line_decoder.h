@@ -65,6 +65,10 @@ class LineDecoder {
   /// decoder.
   explicit LineDecoder(std::string_view text) : text_(text), end_(text.size()) {}
 
+  /// Lines of NextLine that were not UTF-8 are counted in `count` from now on, which must outlive
+  /// the decoder.
+  void CountLinesNotUtf8In(std::int64_t& count) { linesNotUtf8_ = &count; }
+
   /// The next line without its end, or nothing after the last. The view is good until the next
   /// call. Passes on what the source throws.
   [[nodiscard]] std::optional<std::string_view> NextLine();
@@ -108,6 +112,7 @@ class LineDecoder {
   /// The last block filled the buffer, so the source is likely to have more.
   bool moreToCome_ = false;
   std::string decoded_;
+  std::int64_t* linesNotUtf8_ = nullptr;
 };
 
 }  // namespace quillomat

@@ -53,6 +53,7 @@ bool DirectCount::Run() {
   watch.EndProgress();
   TellSkipped(watch);
   if (!HasWords(result, watch)) return false;
+  TellUncounted(result.uncounted);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
                  << "the list is of what was counted until then\n";
@@ -120,6 +121,19 @@ void DirectCount::TellSkipped(const CountWatch& watch) const {
   const auto kept = static_cast<std::int64_t>(watch.Skipped().size());
   if (watch.SkippedInAll() > kept) {
     streams_.err << kSkipped << watch.SkippedInAll() - kept << " more\n";
+  }
+}
+
+/// Nothing is lost without a word.
+void DirectCount::TellUncounted(const Uncounted& uncounted) const {
+  constexpr Headed kNote{MessageTone::kWarning, "Note: "};
+  const std::int64_t letters = uncounted.foreignLetters;
+  if (letters == 1) {
+    streams_.err << kNote
+                 << "1 letter of another alphabet was not counted; --letters all counts it.\n";
+  } else if (letters > 1) {
+    streams_.err << kNote << Grouped(program_.context, letters)
+                 << " letters of other alphabets were not counted; --letters all counts them.\n";
   }
 }
 

@@ -28,6 +28,7 @@ class LongLine::Alternative {
     AddChecked(read, scanner_.WordsRead());
     scan.scanner.SetWordsRead(read);
     scan.settings.OpenComment = settings_.OpenComment;
+    scan.settings.Uncounted = settings_.Uncounted;
     for (const auto& [place, times] : store_.TakeCountedWords()) {
       const std::uint32_t joined = scan.store.AddWord(store_.WordAtPlace(place)).value();
       if (times > 1) scan.store.CountWordAt(joined, times - 1);
@@ -101,6 +102,7 @@ void LongLine::ScanBothWays(std::string_view part) {
   if (IsWellFormedUtf8(part)) return asUtf8_->Take(part);
   encoding_ = Encoding::kWindows1252;
   Settle(*asWindows1252_);
+  ++scan_.settings.Uncounted.linesNotUtf8;
 }
 
 void LongLine::Settle(Alternative& chosen) {

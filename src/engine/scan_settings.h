@@ -9,6 +9,7 @@
 
 #include "base/check_state.h"
 #include "engine/letter_rule.h"
+#include "engine/uncounted.h"
 
 namespace quillomat {
 
@@ -83,6 +84,8 @@ struct ScanSettings {
   bool ReadingWordList = false;
   /// Only listed words are counted.
   bool CountOnlyMode = false;
+  /// What was met under these settings and not counted; who scans adds to it.
+  quillomat::Uncounted Uncounted;
 
   /// All flags for a words file, else those that the user checked; and the letters.
   void SetAllowWordsFlags(const ScanChoices& choices);

@@ -25,6 +25,7 @@ bool ScanLongLine(const LongLine::Scan& scan, LineDecoder& lines) {
 
 void ScanWholeLines(const LongLine::Scan& scan, std::string_view text) {
   LineDecoder lines(text);
+  lines.CountLinesNotUtf8In(scan.settings.Uncounted.linesNotUtf8);
   std::string buffer;
   while (!scan.yield.Yield()) {
     const std::string_view atHand = lines.NextLines();

@@ -31,7 +31,14 @@ WordScanner::WordScanner(ScanSettings& settings, const ScanChoices& choices, con
   store.SetKeyRule(choices.Keys());
 }
 
+/// For the user, of a text that is counted.
+void WordScanner::NoteForeignLetters(std::string_view text) {
+  if (settings_.Letters == LetterRule::kAll || settings_.ReadingWordList) return;
+  settings_.Uncounted.foreignLetters += CountForeignLetters(text, IsSet(choices_.caseSignificant));
+}
+
 void WordScanner::GetWords(std::string_view lineBuffer) {
+  NoteForeignLetters(lineBuffer);
   ScanText(lineBuffer, [this](std::string_view token) { taker_.TakeCut(token); });
 }
 
@@ -136,10 +143,13 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
     const auto start = std::ranges::find_if(lines, mayStart);
     lines = lines.substr(0, static_cast<std::size_t>(start - lines.begin()));
   }
-  return lines.substr(0, WellFormedUtf8Bytes(lines)).rfind('\n') + 1;
+  linesAreAscii_ = IsAscii(lines);
+  const std::size_t wellFormed = linesAreAscii_ ? lines.size() : WellFormedUtf8Bytes(lines);
+  return lines.substr(0, wellFormed).rfind('\n') + 1;
 }
 
 void WordScanner::GetWordsOfLines(std::string_view lines) {
+  if (!linesAreAscii_) NoteForeignLetters(lines);
   block_.Take(lines, markers_, settings_, IsSet(choices_.caseSignificant));
   TakeTokens();
 }
@@ -152,6 +162,7 @@ bool WordScanner::CanTakeParts() {
 
 void WordScanner::GetWordsOfPart(std::string_view part, LinePartState& state) {
   PrepareMarkers();
+  NoteForeignLetters(part);
   block_.TakePart(part, markers_, settings_, IsSet(choices_.caseSignificant), state);
   TakeTokens();
 }

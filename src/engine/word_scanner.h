@@ -58,8 +58,8 @@ class WordScanner {
   /// given to GetWordsOfLines; 0 when the first line needs GetWords.
   [[nodiscard]] std::size_t PlainLineBytes(std::string_view lines);
 
-  /// Scans lines of PlainLineBytes in one go, as they stand in the file: with the results of
-  /// GetWords for each of them, many times faster.
+  /// Scans lines of the last PlainLineBytes in one go, as they stand in the file: with the results
+  /// of GetWords for each of them, many times faster.
   void GetWordsOfLines(std::string_view lines);
 
   /// Whether lines can be scanned in parts: the markers are such that GetWordsOfLines finds them.
@@ -87,6 +87,7 @@ class WordScanner {
   /// What stays to be done after comments were skipped.
   enum class AfterComments { kScan, kStop };
 
+  void NoteForeignLetters(std::string_view text);
   template <typename Take>
   void ScanText(std::string_view lineBuffer, Take take);
   std::string_view Rewritten(std::string_view text);
@@ -121,6 +122,8 @@ class WordScanner {
   std::size_t position_ = 0;
   std::string rewritten_;
   std::string normalText_;
+  /// Of the lines that PlainLineBytes was asked about last.
+  bool linesAreAscii_ = false;
 };
 
 }  // namespace quillomat

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "engine/uncounted.h"
 #include "engine/word_filters.h"
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
@@ -115,6 +116,9 @@ struct CountResult {
   std::int64_t skippedInAll = 0;
   /// Files that were left out by design: no text, or empty.
   std::int64_t leftOut = 0;
+
+  /// What was met and not counted.
+  Uncounted uncounted;
 
   /// The open comment that the last text has left behind.
   int openComment = -1;

@@ -271,6 +271,7 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
   if (texts_.IsTold()) texts_.NoteLines(count.bytesWithLongLineEnds);
   AddChecked(state_.result.wordsRead, count.wordsRead);
   joiner.Join(count, state_.result.store);
+  state_.settings.Uncounted += count.uncounted;
   if (count.looksForComments) state_.settings.OpenComment = count.openComment;
 }
 

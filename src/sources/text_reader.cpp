@@ -76,6 +76,7 @@ bool TextReader::ReadLongLine(LineDecoder& lines, const OnBytes& onBytes) {
 
 void TextReader::ReadLines(ByteSource& source, const OnBytes& onBytes) {
   LineDecoder lines(source);
+  lines.CountLinesNotUtf8In(target_.settings.Uncounted.linesNotUtf8);
   for (;;) {
     const std::string_view ahead = lines.NextLines();
     const std::size_t plainBytes = scanner_.PlainLineBytes(ahead);

@@ -184,7 +184,8 @@ class ProgramCase {
   }
 
   void DescribeCount() {
-    out_ << "read " << wordsRead_ << " open " << settings_.OpenComment << '\n';
+    out_ << "read " << wordsRead_ << " open " << settings_.OpenComment << " foreign "
+         << settings_.Uncounted.foreignLetters << '\n';
   }
 
   void CountFiles() {

@@ -53,7 +53,8 @@ std::string OutcomeOfReference(const CountCase& countCase) {
   engine.BeginRun();
   for (const CaseText& text : countCase.texts) Scan(engine, text);
   engine.FinishRun();
-  out << "read " << engine.WordsRead << " open " << engine.OpenComment << '\n';
+  out << "read " << engine.WordsRead << " open " << engine.OpenComment << " foreign "
+      << engine.ForeignLetters << '\n';
   out << "included " << engine.NumIncludedWords << " excluded " << engine.NumExcludedWords
       << " total " << engine.TotalIncludedCount << " max " << engine.MaxCount << " longest "
       << engine.MaxWordLength << '\n';

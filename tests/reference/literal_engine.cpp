@@ -88,6 +88,7 @@ void LiteralEngine::BeginRun() {
   ForceCommentMarkers = false;
   TextboxFull = false;
   WordsRead = 0;
+  ForeignLetters = 0;
   StopRequested = false;
   EmptyStore();
 }
@@ -108,6 +109,9 @@ void LiteralEngine::ScanPrepared(const Characters& text) {
   if (AllLetters()) LineBuffer = NormalForm(LineBuffer);
   if (choices.chkCaseSignificant != 1) {
     LineBuffer = AllLetters() ? LowerCaseOfAll(LineBuffer) : LowerCase(LineBuffer);
+  }
+  for (const char32_t character : LineBuffer) {
+    if (!AllLetters() && character > 255 && IsAnyLetter(character)) ForeignLetters += 1;
   }
   LineBuffer += U" ";
   GetWords();

@@ -95,6 +95,7 @@ class LiteralEngine {
   Characters LineBuffer;
   std::size_t ScanPos = 1;
   std::int32_t WordsRead = 0;
+  std::int32_t ForeignLetters = 0;  // met in texts, and of other alphabets than the western one
   bool StopRequested = false;
   /// Called wherever the program lets pending events happen; it may set StopRequested.
   std::function<void()> onYield;

@@ -31,6 +31,7 @@ PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& setting
   store_.NoteCountedWords(text.size() <
                           static_cast<std::size_t>(store_.NumDifferentWords()) * kBytesWorthLook);
   settings_ = settings;
+  settings_.Uncounted = {};
   scanner_.SetWordsRead(0);
   PieceCount count;
   count.looksForComments = scanner_.LooksForComments();
@@ -42,6 +43,7 @@ PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& setting
   DescribeNewWords(count);
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
+  count.uncounted = settings_.Uncounted;
   return count;
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/scan_settings.h"
+#include "engine/uncounted.h"
 #include "engine/word_list.h"
 #include "engine/word_scanner.h"
 #include "engine/word_store.h"
@@ -32,6 +33,7 @@ struct PieceCount {
   int openBefore = -1;
   int openComment = -1;
   std::int64_t bytesWithLongLineEnds = 0;
+  Uncounted uncounted;
 };
 
 /// For one thread.

@@ -100,6 +100,7 @@ void ThreadedScan::JoinFirst() {
     AddChecked(target_.wordsRead, first.count.wordsRead);
     joiner.Join(first.count, target_.store);
     target_.settings.OpenComment = first.count.openComment;
+    target_.settings.Uncounted += first.count.uncounted;
   } else {
     guesses_ = false;
     hasGuessedWrong_ = true;

@@ -1,0 +1,78 @@
+// What a count tells of letters and lines that it could not take as they are.
+#include "engine/uncounted.h"
+
+#include <string>
+
+#include "base/byte_source.h"
+#include "engine/long_line.h"
+#include "engine/parallel/threaded_scan.h"
+#include "support/engine_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class UncountedTest : public EngineFixture {
+ protected:
+  Uncounted ScanOnThreads(const std::string& text) {
+    StartCount();
+    settings.Uncounted = {};
+    TextSource source(text);
+    constexpr std::size_t kThreads = 2;
+    constexpr std::size_t kPieceBytes = 32;
+    ThreadedScan scan({settings, store, wordsRead}, choices, lists, kThreads, kPieceBytes);
+    scan.Scan(source, {[] { return false; }, [](std::int64_t) {}});
+    return settings.Uncounted;
+  }
+
+  Uncounted ScanLongLine(const std::string& text) {
+    StartCount();
+    settings.Uncounted = {};
+    WordScanner scanner(settings, choices, lists, store, yield);
+    constexpr std::size_t kPartBytes = 16;
+    LongLine line({settings, choices, lists, store, yield, scanner}, kPartBytes);
+    line.Take(text);
+    line.End();
+    return settings.Uncounted;
+  }
+
+  static std::string Repeated(std::string_view text, std::size_t times) {
+    std::string all;
+    for (; times > 0; --times) all += text;
+    return all;
+  }
+};
+
+TEST_F(UncountedTest, LettersBeyondLatin1AreForeignAndNothingElse) {
+  EXPECT_EQ(CountForeignLetters("Łódź слово 漢字", true), 9);
+  EXPECT_EQ(
+      CountForeignLetters("naïve “don’t” — £5 ½ ªº µ 123 × 🙂 e\u0301", true), 0);
+  EXPECT_EQ(CountForeignLetters("Œuvre Ÿ", true), 2);
+  EXPECT_EQ(CountForeignLetters("Ÿ", false), 0) << "its small letter is counted";
+  EXPECT_EQ(CountForeignLetters(Repeated("a", 200) + "ж" + Repeated("é", 200) + "ж", true), 2);
+}
+
+TEST_F(UncountedTest, LettersAreCountedWhileTheirTextIs) {
+  Count({"слово and word", "дело"});
+  EXPECT_EQ(settings.Uncounted, (Uncounted{9, 0}));
+}
+
+TEST_F(UncountedTest, NoneIsForeignAmongAllLettersOrInAWordsFile) {
+  ReadList({"слово"});
+  UseAllLetters();
+  Count("слово");
+  EXPECT_EQ(settings.Uncounted, Uncounted());
+}
+
+TEST_F(UncountedTest, PiecesOnThreadsAreAddedUp) {
+  const std::string text = Repeated("слово word\nword \xE9t\xE9\n", 30) + Repeated("word\n", 100);
+  EXPECT_EQ(ScanOnThreads(text), (Uncounted{150, 30}));
+}
+
+TEST_F(UncountedTest, LongLineIsCountedAsWhatItIs) {
+  EXPECT_EQ(ScanLongLine(Repeated("word слово ", 40)), (Uncounted{200, 0}));
+  EXPECT_EQ(ScanLongLine(Repeated("word ", 40) + "\xE9t\xE9 " + Repeated("word ", 40)),
+            (Uncounted{0, 1}));
+}
+
+}  // namespace
+}  // namespace quillomat
