@@ -50,6 +50,23 @@ Utf8Character WellFormedCharacterAt(std::string_view text, std::size_t position)
   return {codePoint, bytes};
 }
 
+/// How many bytes from `position` on are well-formed characters of one or two bytes.
+std::size_t AsciiOrTwoBytes(std::string_view bytes, std::size_t position) {
+  const std::size_t start = position;
+  while (position < bytes.size()) {
+    const unsigned lead = ByteAt(bytes, position);
+    if (lead < 0x80) {
+      ++position;
+    } else if (AnnouncedBytes(lead) == 2 && position + 1 < bytes.size() &&
+               IsContinuation(ByteAt(bytes, position + 1))) {
+      position += 2;
+    } else {
+      break;
+    }
+  }
+  return position - start;
+}
+
 }  // namespace
 
 Utf8Character CharacterAt(std::string_view text, std::size_t position) {
@@ -133,6 +150,8 @@ std::size_t WellFormedUtf8Bytes(std::string_view bytes) {
   if (IsAscii(bytes)) return bytes.size();
   std::size_t position = 0;
   while (position < bytes.size()) {
+    position += AsciiOrTwoBytes(bytes, position);  // most text is nothing else
+    if (position == bytes.size()) break;
     const Utf8Character character = WellFormedCharacterAt(bytes, position);
     if (character.bytes == 0) break;
     position += character.bytes;

@@ -52,8 +52,8 @@ class MarkerSearch {
 }  // namespace
 
 void LineBlock::Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
-                     bool caseSignificant) {
-  Rewrite(lines, caseSignificant);
+                     bool caseSignificant, bool ascii) {
+  Rewrite(lines, caseSignificant, ascii);
   FindTokens(markers, settings);
 }
 
@@ -92,9 +92,9 @@ std::string_view LineBlock::Normal(std::string_view text) {
   return NormalForm(text, dotted, normal_);
 }
 
-void LineBlock::Rewrite(std::string_view lines, bool caseSignificant) {
+void LineBlock::Rewrite(std::string_view lines, bool caseSignificant, bool ascii) {
   caseSignificant_ = caseSignificant;
-  const std::string_view normal = Normal(lines);
+  const std::string_view normal = ascii ? lines : Normal(lines);
   const bool decoded = DecodeHtmlEntitiesOfLines(normal, !caseSignificant, decoded_);
   text_ = decoded ? std::string_view(decoded_) : normal;
 }

@@ -30,9 +30,10 @@ class LineBlock {
 
   /// Takes whole lines of well-formed UTF-8, and forgets those before. `settings` says whether
   /// markers are in force, and whether a comment is open: this is carried on. The markers can be
-  /// found in raw lines. `lines` must outlive the use of the tokens.
+  /// found in raw lines. `ascii`: they are known to hold no byte above 127. `lines` must outlive
+  /// the use of the tokens.
   void Take(std::string_view lines, const CommentMarkers& markers, ScanSettings& settings,
-            bool caseSignificant);
+            bool caseSignificant, bool ascii = false);
 
   /// Takes a part of one line, cut as LineCutter does, in the same way.
   void TakePart(std::string_view part, const CommentMarkers& markers, ScanSettings& settings,
@@ -57,7 +58,7 @@ class LineBlock {
 
  private:
   [[nodiscard]] std::string_view Normal(std::string_view text);
-  void Rewrite(std::string_view lines, bool caseSignificant);
+  void Rewrite(std::string_view lines, bool caseSignificant, bool ascii = false);
   void FindTokens(const CommentMarkers& markers, ScanSettings& settings);
   template <typename OnComment>
   void FindComments(const CommentMarkers& markers, ScanSettings& settings, OnComment onComment);

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 #include <vector>
 
@@ -15,48 +16,41 @@ namespace {
 
 constexpr char32_t kDottedCapitalI = 0x130;
 
-/// Whether a byte may lead a character that is not in normal form, or has to be looked at together
-/// with its neighbours: soft hyphen (C2), dotted I (C4), spacing apostrophe (CA), marks (CC, CD),
-/// scripts with marks (D2, D6 to E0), Hangul in pieces (E1), signs (E2), kana (E3), more scripts
-/// with marks (EA), forms and marks (EF), and everything above.
-constexpr bool MayLeadUnsettled(unsigned char byte) {
-  return byte == 0xC2 || byte == 0xC4 || byte == 0xCA || byte == 0xCC || byte == 0xCD ||
-         byte == 0xD2 || (byte >= 0xD6 && byte <= 0xE3) || byte == 0xEA || byte >= 0xEF;
-}
+using Byte = unsigned char;
 
-constexpr std::array<bool, 256> kMayLeadUnsettled = [] {
-  std::array<bool, 256> leads{};
-  for (std::size_t byte = 0; byte < leads.size(); ++byte) {
-    leads[byte] = MayLeadUnsettled(static_cast<unsigned char>(byte));
-  }
-  return leads;
-}();
-
-/// The one character that is not in normal form although its neighbours in the alphabet are:
-/// Greek's raised dot. Its lead leads half of all Greek letters.
-constexpr bool IsRaisedDot(unsigned char lead, unsigned char next) {
-  return lead == 0xCE && next == 0x87;
+/// Whether a byte, before another, leads a character that may not be in normal form, or has to be
+/// looked at together with its neighbours: soft hyphen (C2 AD), dotted I (C4 B0), spacing
+/// apostrophe and marks (CA to CD), Greek's raised dot (CE 87), scripts with marks (D2, D6 to E0),
+/// Hangul in pieces (E1), signs (E2), kana (E3), more scripts with marks (EA), forms and marks
+/// (EF), and everything above. Without branches: compilers make vectors of that.
+constexpr Byte IsSuspect(Byte byte, Byte next) {
+  const auto within = [byte](Byte first, Byte last) {
+    return static_cast<Byte>(byte - first) <= last - first;
+  };
+  const auto pair = [byte, next](Byte lead, Byte behind) {
+    return static_cast<int>(byte == lead) & static_cast<int>(next == behind);
+  };
+  return static_cast<Byte>(static_cast<int>(within(0xCA, 0xCD)) | static_cast<int>(byte == 0xD2) |
+                           static_cast<int>(within(0xD6, 0xE3)) | static_cast<int>(byte == 0xEA) |
+                           static_cast<int>(byte >= 0xEF) | pair(0xC2, 0xAD) | pair(0xC4, 0xB0) |
+                           pair(0xCE, 0x87));
 }
 
 /// The first place at or behind `position` with a character that may not be settled, or the size of
 /// the text.
 std::size_t NextSuspect(std::string_view text, std::size_t position) {
-  const auto byteAt = [text](std::size_t place) { return static_cast<unsigned char>(text[place]); };
+  const auto byteAt = [text](std::size_t place) { return static_cast<Byte>(text[place]); };
   constexpr std::size_t kAtOnce = 64;
   for (; text.size() - position > kAtOnce; position += kAtOnce) {
-    // Without a look in between: compilers make vectors of that.
-    unsigned any = 0;
-    for (std::size_t i = position; i < position + kAtOnce; ++i) {
-      any |= static_cast<unsigned>(MayLeadUnsettled(byteAt(i))) |
-             static_cast<unsigned>(IsRaisedDot(byteAt(i), byteAt(i + 1)));
-    }
+    std::array<Byte, kAtOnce + 1> bytes;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::memcpy(bytes.data(), text.data() + position, bytes.size());
+    Byte any = 0;
+    for (std::size_t i = 0; i < kAtOnce; ++i) any |= IsSuspect(bytes[i], bytes[i + 1]);
     if (any != 0) break;
   }
   for (; position < text.size(); ++position) {
-    if (kMayLeadUnsettled[byteAt(position)]) return position;
-    if (position + 1 < text.size() && IsRaisedDot(byteAt(position), byteAt(position + 1))) {
-      return position;
-    }
+    const Byte next = position + 1 < text.size() ? byteAt(position + 1) : Byte{0};
+    if (byteAt(position) >= 0xC2 && IsSuspect(byteAt(position), next) != 0) return position;
   }
   return position;
 }

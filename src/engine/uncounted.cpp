@@ -1,7 +1,9 @@
 #include "engine/uncounted.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstring>
 
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
@@ -18,8 +20,10 @@ std::size_t NextForeign(std::string_view text, std::size_t position) {
   const auto byteAt = [text](std::size_t place) { return static_cast<unsigned char>(text[place]); };
   constexpr std::size_t kAtOnce = 64;
   for (; text.size() - position >= kAtOnce; position += kAtOnce) {
+    std::array<unsigned char, kAtOnce> bytes;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::memcpy(bytes.data(), text.data() + position, bytes.size());
     unsigned char greatest = 0;  // compilers make vectors of that
-    for (std::size_t i = 0; i < kAtOnce; ++i) greatest = std::max(greatest, byteAt(position + i));
+    for (const unsigned char byte : bytes) greatest = std::max(greatest, byte);
     if (greatest >= kFirstForeignLead) break;
   }
   while (position < text.size() && byteAt(position) < kFirstForeignLead) ++position;

@@ -150,7 +150,7 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
 
 void WordScanner::GetWordsOfLines(std::string_view lines) {
   if (!linesAreAscii_) NoteForeignLetters(lines);
-  block_.Take(lines, markers_, settings_, IsSet(choices_.caseSignificant));
+  block_.Take(lines, markers_, settings_, IsSet(choices_.caseSignificant), linesAreAscii_);
   TakeTokens();
 }
 

@@ -36,6 +36,7 @@ class Count {
     }
     result.store.SetListener(nullptr);
     result.openComment = state_.settings.OpenComment;
+    result.uncounted = state_.settings.Uncounted;
     SortFilesRead(result.filesRead);
     return std::move(result);
   }

@@ -36,6 +36,17 @@ TEST_F(TerminalRunTest, StandardInputIsCountedLikeAFile) {
   }
 }
 
+TEST_F(TerminalRunTest, LettersThatAreNotCountedAreTold) {
+  const std::string path = folder.Write("a.txt", "слово word");
+  EXPECT_EQ(Run({path}), 0);
+  EXPECT_EQ(err,
+            "Note: 5 letters of other alphabets were not counted; --letters all counts them.\n");
+  EXPECT_EQ(Run({folder.Write("b.txt", "word \xC5\x93")}), 0);
+  EXPECT_EQ(err, "Note: 1 letter of another alphabet was not counted; --letters all counts it.\n");
+  EXPECT_EQ(Run({path, "--letters", "all"}), 0);
+  EXPECT_EQ(err, "");
+}
+
 TEST_F(TerminalRunTest, FilesFoldersAndStandardInputAreCountedTogether) {
   input = "cat";
   static_cast<void>(folder.Write("many/b.txt", "cat dog"));
