@@ -132,7 +132,7 @@ void DirectCount::TellUncounted(const Uncounted& uncounted) const {
     streams_.err << kNote
                  << "1 letter of another alphabet was not counted; --letters all counts it.\n";
   } else if (letters > 1) {
-    streams_.err << kNote << Grouped(program_.context, letters)
+    streams_.err << kNote << messages_.Grouped(letters)
                  << " letters of other alphabets were not counted; --letters all counts them.\n";
   }
 }
