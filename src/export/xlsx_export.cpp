@@ -150,33 +150,54 @@ class WordSheets {
   std::string text_;
 };
 
-void WriteFacts(Workbook& book, const ExportTable& table) {
-  lxw_worksheet* sheet = nullptr;
-  lxw_row_t row = 0;
-  const auto writeGroup = [&](const char* title, const std::vector<ExportFact>& facts) {
+/// The sheet of totals, statistics and settings, once there is any.
+class FactSheet {
+ public:
+  explicit FactSheet(Workbook& book) : book_(book) {}
+
+  void Take(const char* title, const std::vector<ExportFact>& facts) {
     if (facts.empty()) return;
-    if (sheet == nullptr) {
-      sheet = book.AddSheet("Count");
-      worksheet_set_column(sheet, 0, 1, kFactWidth, nullptr);
+    if (sheet_ == nullptr) {
+      sheet_ = book_.AddSheet("Count");
+      worksheet_set_column(sheet_, 0, 1, kFactWidth, nullptr);
     }
-    Check(worksheet_write_string(sheet, row++, 0, title, book.Head()));
-    for (const ExportFact& fact : facts) {
-      Check(worksheet_write_string(sheet, row, 0, fact.name.c_str(), nullptr));
-      if (std::holds_alternative<std::string>(fact.value)) {
-        Check(worksheet_write_string(sheet, row, 1, TextOf(fact).c_str(), nullptr));
-      } else if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
-        Check(worksheet_write_number(sheet, row, 1, static_cast<double>(*whole), nullptr));
-      } else {
-        Check(worksheet_write_number(sheet, row, 1, std::get<double>(fact.value), nullptr));
+    Check(worksheet_write_string(sheet_, row_++, 0, title, book_.Head()));
+    for (const ExportFact& fact : facts) Write(fact);
+    ++row_;
+  }
+
+ private:
+  /// The points of a curve stand one below the other.
+  void Write(const ExportFact& fact) {
+    WriteText(0, fact.name);
+    if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
+      for (const GrowthPoint& point : *points) {
+        WriteNumber(1, static_cast<double>(point.instances));
+        WriteNumber(2, static_cast<double>(point.differentWords));
+        ++row_;
       }
-      ++row;
+      return;
     }
-    ++row;
-  };
-  writeGroup("Totals", table.totals);
-  writeGroup("Statistics", table.statistics);
-  writeGroup("Settings", table.settings);
-}
+    if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
+      WriteNumber(1, static_cast<double>(*whole));
+    } else if (const auto* number = std::get_if<double>(&fact.value)) {
+      WriteNumber(1, *number);
+    } else {
+      WriteText(1, std::get<std::string>(fact.value));
+    }
+    ++row_;
+  }
+  void WriteText(lxw_col_t column, const std::string& text) {
+    Check(worksheet_write_string(sheet_, row_, column, text.c_str(), nullptr));
+  }
+  void WriteNumber(lxw_col_t column, double number) {
+    Check(worksheet_write_number(sheet_, row_, column, number, nullptr));
+  }
+
+  Workbook& book_;
+  lxw_worksheet* sheet_ = nullptr;
+  lxw_row_t row_ = 0;
+};
 
 }  // namespace
 
@@ -190,7 +211,10 @@ bool WriteXlsx(const ExportTable& table, const std::string& path, const std::str
     return ++rows % kRowsPerQuestion != 0 || !progress || progress(rows);
   });
   if (!whole) return false;
-  WriteFacts(book, table);
+  FactSheet facts(book);
+  facts.Take("Totals", table.totals);
+  facts.Take("Statistics", table.statistics);
+  facts.Take("Settings", table.settings);
   book.Close();
   return true;
 }

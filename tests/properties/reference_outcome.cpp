@@ -54,6 +54,9 @@ std::string OutcomeOfReference(const CountCase& countCase) {
   for (const CaseText& text : countCase.texts) Scan(engine, text);
   engine.FinishRun();
   out << "read " << engine.WordsRead << " open " << engine.OpenComment << '\n';
+  out << "order";
+  for (const reference::Characters& key : engine.WordOrder) out << ' ' << ToUtf8(key);
+  out << '\n';
   out << "included " << engine.NumIncludedWords << " excluded " << engine.NumExcludedWords
       << " total " << engine.TotalIncludedCount << " max " << engine.MaxCount << " longest "
       << engine.MaxWordLength << '\n';
