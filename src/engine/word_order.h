@@ -1,5 +1,5 @@
-// The words of a text one after the other, as they are counted: for whatever hangs on their order. A
-// store with a listener makes counting slower, one without costs nothing.
+// The words of a text one after the other, as they are counted: for whatever hangs on their order.
+// A store with a listener makes counting slower, one without costs nothing.
 #pragma once
 
 #include <cstdint>

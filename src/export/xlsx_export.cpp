@@ -1,6 +1,8 @@
 #include "export/xlsx_export.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 #include <utility>
 #include <variant>
@@ -39,6 +41,10 @@ void Check(lxw_error error) {
 double RoundedNumberOf(const ExportRow& row, WordColumn column) {
   const double power = std::pow(10.0, DecimalsOf(column));
   return std::round(NumberOf(row, column) * power) / power;
+}
+
+bool IsHexDigit(char ch) {
+  return (ch >= '0' && ch <= '9') || (ch >= 'a' && ch <= 'f') || (ch >= 'A' && ch <= 'F');
 }
 
 /// A workbook of the library, which is given up unless it was closed.
@@ -134,6 +140,7 @@ class WordSheets {
     const auto line = static_cast<lxw_row_t>(row_);
     if (IsText(column)) {
       text_ = TextOf(row, column);
+      if (text_.find("_x") != std::string::npos) text_ = XlsxText(text_);
       Check(worksheet_write_string(sheet_, line, place, text_.c_str(), nullptr));
     } else if (HasNumber(row, column)) {
       Check(worksheet_write_number(sheet_, line, place, RoundedNumberOf(row, column),
@@ -188,7 +195,7 @@ class FactSheet {
     ++row_;
   }
   void WriteText(lxw_col_t column, const std::string& text) {
-    Check(worksheet_write_string(sheet_, row_, column, text.c_str(), nullptr));
+    Check(worksheet_write_string(sheet_, row_, column, XlsxText(text).c_str(), nullptr));
   }
   void WriteNumber(lxw_col_t column, double number) {
     Check(worksheet_write_number(sheet_, row_, column, number, nullptr));
@@ -200,6 +207,22 @@ class FactSheet {
 };
 
 }  // namespace
+
+std::string XlsxText(std::string_view text) {
+  constexpr std::string_view kUnderscore = "_x005F_";
+  std::string escaped;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::string_view rest = text.substr(i, kUnderscore.size());
+    const bool isEscape = rest.size() == kUnderscore.size() && rest.starts_with("_x") &&
+                          rest.ends_with('_') && std::ranges::all_of(rest.substr(2, 4), IsHexDigit);
+    if (isEscape) {
+      escaped.append(kUnderscore);
+    } else {
+      escaped.push_back(text[i]);
+    }
+  }
+  return escaped;
+}
 
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
                const ExportProgress& progress, std::size_t rowsPerSheet) {

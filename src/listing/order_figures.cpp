@@ -16,13 +16,14 @@ void OrderFigureCounter::Take(std::uint32_t place) {
   TakeIntoWindow(place, before);
   lastSeen_[place] = words_;
   TakeIntoPart(before);
-  if (words_ % step_ == 0) NoteGrowth();
+  if (words_ == nextPoint_) NoteGrowth();
 }
 
 /// `before` is which word of the text the new one was the last time. A word leaves the window with
 /// its last occurrence there.
 void OrderFigureCounter::TakeIntoWindow(std::uint32_t place, std::uint32_t before) {
-  std::uint32_t& slot = inWindow_[words_ % sizes_.window];
+  std::uint32_t& slot = inWindow_[nextInWindow_];
+  nextInWindow_ = nextInWindow_ + 1 == sizes_.window ? 0 : nextInWindow_ + 1;
   const std::uint32_t gone = words_ > sizes_.window ? words_ - sizes_.window : 0;
   if (gone > 0 && lastSeen_[slot] == gone) --differentInWindow_;
   if (before <= gone) ++differentInWindow_;
@@ -43,9 +44,9 @@ void OrderFigureCounter::NoteGrowth() {
     for (std::size_t i = 0; i < points_.size() / 2; ++i) points_[i] = points_[2 * i + 1];
     points_.resize(points_.size() / 2);
     step_ *= 2;
-    if (words_ % step_ != 0) return;
   }
-  points_.push_back({words_, differentWords_});
+  if (words_ % step_ == 0) points_.push_back({words_, differentWords_});
+  nextPoint_ = words_ - words_ % step_ + step_;
 }
 
 OrderFigures OrderFigureCounter::Figures() const {

@@ -77,8 +77,9 @@ class OrderFigureCounter final : public WordOrderListener {
   /// By place, which word of the text it was the last time, from 1; 0 for none.
   std::vector<std::uint32_t> lastSeen_;
 
-  /// The last words by their numbers modulo the window.
+  /// The last words, as a ring.
   std::vector<std::uint32_t> inWindow_;
+  std::uint32_t nextInWindow_ = 0;
   std::uint32_t differentInWindow_ = 0;
   /// The sum over all windows.
   std::uint64_t differentInWindows_ = 0;
@@ -90,6 +91,7 @@ class OrderFigureCounter final : public WordOrderListener {
   std::uint64_t differentInParts_ = 0;
 
   std::uint32_t step_ = 1;
+  std::uint32_t nextPoint_ = 1;
   std::vector<GrowthPoint> points_;
 };
 

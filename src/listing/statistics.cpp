@@ -132,8 +132,8 @@ Statistics StatisticsOf(const WordStore& store, std::optional<OrderFigures> orde
   statistics.wordsOnce = std::ranges::count(frequencies, 1);
   statistics.wordsTwice = std::ranges::count(frequencies, 2);
   if (statistics.instances > 0) {
-    statistics.typeTokenRatio = static_cast<double>(statistics.differentWords) /
-                                static_cast<double>(statistics.instances);
+    statistics.typeTokenRatio =
+        static_cast<double>(statistics.differentWords) / static_cast<double>(statistics.instances);
   }
   statistics.lengthOfInstances = instances.Figures();
   statistics.lengthOfWords = words.Figures();

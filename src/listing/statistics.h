@@ -1,7 +1,7 @@
 // Statistics of a count. They are of the words that were counted, whether they are listed or not:
-// what the filters leave out of the list (rare, short and long words, numerals ...) belongs to them;
-// words to ignore do not, nor does anything else where there are count-only words. An instance is
-// an occurrence of a word.
+// what the filters leave out of the list (rare, short and long words, numerals ...) belongs to
+// them; words to ignore do not, nor does anything else where there are count-only words. An
+// instance is an occurrence of a word.
 //
 //   type-token ratio: different words to instances (M. C. Templin, "Certain Language Skills in
 //     Children", 1957).
@@ -106,8 +106,7 @@ inline constexpr std::array<std::string_view, 15> kStatisticNames = {
 }
 
 /// Numbers that are not whole are rounded to six decimals.
-using StatisticValue =
-    std::variant<std::int64_t, double, std::string, std::vector<GrowthPoint>>;
+using StatisticValue = std::variant<std::int64_t, double, std::string, std::vector<GrowthPoint>>;
 
 struct Statistic {
   StatisticName name = StatisticName::kInstances;

@@ -56,8 +56,7 @@ TEST_F(WordOrder, WordsThatBecomeOneAreToldOfAsOne) {
 }
 
 TEST_F(WordOrder, ATokenMayHoldSeveralWordsOrNone) {
-  ExpectOrder("one--two 's well--known one--two--three\n",
-              "one two well known one two three");
+  ExpectOrder("one--two 's well--known one--two--three\n", "one two well known one two three");
 }
 
 TEST_F(WordOrder, WordsThatAreNotCountedAreNotToldOf) {

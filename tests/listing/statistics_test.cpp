@@ -61,8 +61,8 @@ TEST(Statistics, LongestWordsComeFirstAndEquallyLongOnesByTheAlphabet) {
 }
 
 TEST(Statistics, OfZipfsLawHaveASlopeOfMinusOne) {
-  const Statistics statistics = StatisticsOfWords(
-      {{"a", 60}, {"b", 30}, {"c", 20}, {"d", 15}, {"e", 12}, {"f", 10}});
+  const Statistics statistics =
+      StatisticsOfWords({{"a", 60}, {"b", 30}, {"c", 20}, {"d", 15}, {"e", 12}, {"f", 10}});
   EXPECT_NEAR(statistics.rankFrequencyLine->slope, -1.0, 1e-12);
   EXPECT_NEAR(statistics.rankFrequencyLine->fit.value(), 1.0, 1e-12);
 }
@@ -77,8 +77,8 @@ TEST(Statistics, SlopeIsThatOfTheLeastSquares) {
   const double products = -m * 2 * a;  // the sum of (x - m) y, where only the first y is not 0
   EXPECT_NEAR(statistics.rankFrequencyLine->slope, products / squares, 1e-12);
   const double squaresOfY = 4 * a * a * 2 / 3;
-  EXPECT_NEAR(statistics.rankFrequencyLine->fit.value(),
-              products * products / squares / squaresOfY, 1e-12);
+  EXPECT_NEAR(statistics.rankFrequencyLine->fit.value(), products * products / squares / squaresOfY,
+              1e-12);
 }
 
 TEST(Statistics, EqualFrequenciesHaveASlopeAndNoFit) {

@@ -31,7 +31,8 @@ TEST_F(WordOrderOfCount, GoesOnFromFileToFile) {
 
 TEST_F(WordOrderOfCount, IsTheSameOnSeveralThreads) {
   std::string text;
-  for (int i = 0; static_cast<std::int64_t>(text.size()) < 3 * TextReader::kBytesWorthThreads; ++i) {
+  for (int i = 0; static_cast<std::int64_t>(text.size()) < 3 * TextReader::kBytesWorthThreads;
+       ++i) {
     std::string word = "w";
     for (int rest = i % 1000 * (i % 97); rest > 0; rest /= 26) {
       word += static_cast<char>('a' + rest % 26);

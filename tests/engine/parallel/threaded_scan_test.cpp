@@ -40,7 +40,7 @@ class ThreadedScanTest : public EngineFixture {
   };
 
   Outcome Described(const ToldWords& told) {
-    Outcome outcome{told.told, Words(),  "", std::move(order_.places), wordsRead,
+    Outcome outcome{told.told,           Words(), "", std::move(order_.places), wordsRead,
                     settings.OpenComment};
     order_.places.clear();
     for (std::int32_t i = 1; i <= store.NumDifferentWords() && store.Files().IsOn(); ++i) {
