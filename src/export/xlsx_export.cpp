@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <memory>
 #include <utility>
 #include <variant>
@@ -11,6 +12,9 @@
 
 #include "base/run_time_error.h"
 #include "export/cell_text.h"
+#include "export/workbook_check.h"
+#include "system/input_file.h"
+#include "system/write_shield.h"
 
 namespace quillomat {
 namespace {
@@ -69,19 +73,30 @@ class Workbook {
   Workbook(Workbook&&) = delete;
   Workbook& operator=(Workbook&&) = delete;
   ~Workbook() {
-    if (book_ != nullptr) lxw_workbook_free(book_);
+    if (book_ == nullptr) return;
+    for (const lxw_worksheet* sheet : sheets_) fclose(sheet->optimize_tmpfile);  // it forgets them
+    lxw_workbook_free(book_);
   }
 
   [[nodiscard]] lxw_worksheet* AddSheet(const std::string& name) {
     lxw_worksheet* sheet = workbook_add_worksheet(book_, name.c_str());
     if (sheet == nullptr) Throw(LXW_ERROR_CREATING_TMPFILE);
+    sheets_.push_back(sheet);
     return sheet;
+  }
+  /// Throws when there was no room for the rows until now, which the library does not notice.
+  void ExpectGathered() const {
+    for (const lxw_worksheet* sheet : sheets_) {
+      if (fflush(sheet->optimize_tmpfile) == 0 && ferror(sheet->optimize_tmpfile) == 0) continue;
+      throw RunTimeError(RunTimeErrorNumber::kDiskFull);
+    }
   }
   [[nodiscard]] lxw_format* Head() { return head_; }
   [[nodiscard]] lxw_format* FormatOf(WordColumn column) {
     return formats_[static_cast<std::size_t>(column)];
   }
   void Close() {
+    ExpectGathered();
     lxw_workbook* book = std::exchange(book_, nullptr);
     Check(workbook_close(book));  // which frees it, too
   }
@@ -98,6 +113,7 @@ class Workbook {
 
   std::string scratch_;
   lxw_workbook* book_ = nullptr;
+  std::vector<lxw_worksheet*> sheets_;
   lxw_format* head_ = nullptr;
   std::vector<lxw_format*> formats_;
 };
@@ -122,6 +138,7 @@ class WordSheets {
 
  private:
   void BeginSheet() {
+    book_.ExpectGathered();
     ++sheets_;
     sheet_ = book_.AddSheet(sheets_ == 1 ? "Words" : "Words " + std::to_string(sheets_));
     worksheet_freeze_panes(sheet_, 1, 0);
@@ -226,6 +243,7 @@ std::string XlsxText(std::string_view text) {
 
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
                const ExportProgress& progress, std::size_t rowsPerSheet) {
+  const WriteShield shield;
   Workbook book(path, scratchFolder);
   WordSheets sheets(book, table, rowsPerSheet);
   std::size_t rows = 0;
@@ -239,6 +257,8 @@ bool WriteXlsx(const ExportTable& table, const std::string& path, const std::str
   facts.Take("Statistics", table.statistics);
   facts.Take("Settings", table.settings);
   book.Close();
+  InputFile made(path);
+  if (!IsWholeWorkbook(made)) throw RunTimeError(RunTimeErrorNumber::kDiskFull);
   return true;
 }
 

@@ -195,8 +195,7 @@ class ProgramCase {
     std::string described = "order";
     std::string buffer;
     for (const std::uint32_t place : order_.places) {
-      described.append(" ").append(
-          SortKeyOf(store_.WordAtPlace(place), choices_.Keys(), buffer));
+      described.append(" ").append(SortKeyOf(store_.WordAtPlace(place), choices_.Keys(), buffer));
     }
     return described + '\n';
   }

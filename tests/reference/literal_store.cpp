@@ -28,7 +28,7 @@ bool LiteralEngine::TrackingFiles() const {
 void LiteralEngine::AddWord(const Characters& word) {
   if (!ReadingWordList && word.size() > LongWordLimit) return;
   if (TrackingFiles()) NoteCurrentFile();
-  WordOrder.push_back(SortKeyOf(word));
+  WordOrder.push_back(KeyOf(word));
   if (NumDifferentWords == 0) {
     NumDifferentWords = 1;
     AppendWordRecord(word);
