@@ -102,13 +102,6 @@ std::string Joined(const std::vector<std::string>& words) {
   return joined;
 }
 
-std::string TextOf(double number) {
-  std::array<char, 64> text{};
-  char* const end =
-      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
-  return {text.data(), end};
-}
-
 }  // namespace
 
 Statistics StatisticsOf(const WordStore& store, std::optional<OrderFigures> order) {
@@ -180,6 +173,13 @@ std::vector<Statistic> ListStatistics(const Statistics& statistics) {
   return list;
 }
 
+std::string NumberText(double number) {
+  std::array<char, 64> text{};
+  char* const end =
+      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
+  return {text.data(), end};
+}
+
 std::string StatisticsText(const Statistics& statistics) {
   std::string text;
   const auto line = [&text](std::string_view name, std::string_view value) {
@@ -190,7 +190,7 @@ std::string StatisticsText(const Statistics& statistics) {
     if (const auto* whole = std::get_if<std::int64_t>(&statistic.value)) {
       line(name, std::to_string(*whole));
     } else if (const auto* number = std::get_if<double>(&statistic.value)) {
-      line(name, TextOf(*number));
+      line(name, NumberText(*number));
     } else if (const auto* words = std::get_if<std::string>(&statistic.value)) {
       line(name, *words);
     } else {

@@ -116,6 +116,9 @@ struct Statistic {
 /// Those that are known, in the order of StatisticName.
 [[nodiscard]] std::vector<Statistic> ListStatistics(const Statistics& statistics);
 
+/// With a dot, at most as many decimals as it needs and no exponent, whatever the locale.
+[[nodiscard]] std::string NumberText(double number);
+
 /// "NAME<TAB>VALUE" lines with line feeds; numbers have a dot, whatever the locale. A point of the
 /// growth is a line of its own, "different-words-after-1000<TAB>412".
 [[nodiscard]] std::string StatisticsText(const Statistics& statistics);
