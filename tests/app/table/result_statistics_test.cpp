@@ -79,7 +79,7 @@ TEST_F(ResultStatisticsTest, AnotherTextThatWasNamedSinceIsNotCountedForIt) {
 }
 
 TEST_F(ResultStatisticsTest, NothingIsCountedForWantsBeforeThereIsACount) {
-  desktop.SetClipboardText("dog", false);
+  desktop.SetClipboard("dog");
   program.WantOrderFigures(true);
   EXPECT_THAT(Rows(), IsEmpty());
 }
