@@ -6,12 +6,9 @@
 namespace quillomat {
 namespace {
 
-std::vector<std::unique_ptr<PieceScanner>> MakeScanners(std::size_t number,
-                                                        const ScanSettings& settings,
-                                                        const ScanChoices& choices,
-                                                        const WordLists& lists,
-                                                        const std::atomic<bool>& stop,
-                                                        bool keepOrder) {
+std::vector<std::unique_ptr<PieceScanner>> MakeScanners(
+    std::size_t number, const ScanSettings& settings, const ScanChoices& choices,
+    const WordLists& lists, const std::atomic<bool>& stop, bool keepOrder) {
   std::vector<std::unique_ptr<PieceScanner>> scanners;
   for (std::size_t i = 0; i < number; ++i) {
     scanners.push_back(std::make_unique<PieceScanner>(settings, choices, lists, stop, keepOrder));
