@@ -7,7 +7,6 @@
 #include "export/xlsx_export.h"
 #include "system/input_file.h"
 #include "system/output_file.h"
-#include "system/paths.h"
 #include "system/scratch_folder.h"
 
 namespace quillomat {
@@ -43,8 +42,8 @@ namespace {
 
 /// The library writes by a path, so the workbook is made apart and then takes the way of all files.
 bool ExportWorkbook(const ExportTable& table, ByteSink& file, const ExportProgress& progress) {
-  const ScratchFolder scratch;
-  const std::string path = JoinPath(scratch.Path(), "words.xlsx");
+  ScratchFolder scratch;
+  const std::string path = scratch.PathOf("words.xlsx");
   if (!WriteXlsx(table, path, scratch.Path(), progress)) return false;
   InputFile made(path);
   std::vector<char> block(kBlockBytes);

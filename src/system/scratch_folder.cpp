@@ -30,7 +30,12 @@ ScratchFolder::ScratchFolder()
   unfinished_.HasBeenMade();
 }
 
+std::string ScratchFolder::PathOf(const std::string& name) {
+  return files_.emplace_back(JoinPath(path_, name));
+}
+
 ScratchFolder::~ScratchFolder() {
+  for (const std::string& file : files_) RemoveFile(file);
   RemoveFolder(path_);
 }
 

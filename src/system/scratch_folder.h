@@ -4,6 +4,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "system/unfinished_files.h"
 
@@ -21,9 +22,12 @@ class ScratchFolder {
   ~ScratchFolder();
 
   [[nodiscard]] const std::string& Path() const { return path_; }
+  /// The path of a file in it, which is removed also where the folder cannot be looked through.
+  [[nodiscard]] std::string PathOf(const std::string& name);
 
  private:
   std::string path_;
+  std::vector<std::string> files_;
   UnfinishedFile unfinished_;
 };
 

@@ -127,7 +127,7 @@ void RemoveFile(const std::string& path) {
 
 void RemoveFolder(const std::string& path) {
   std::error_code ignored;
-  fs::remove_all(path, ignored);
+  if (!fs::remove(path, ignored)) fs::remove_all(path, ignored);
 }
 
 }  // namespace quillomat
