@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/captions.h"
+#include "app/count/named_text.h"
 #include "app/count/window_state.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
@@ -93,6 +94,16 @@ bool Program::Start(const StartOptions& options) {
   SetTheFocus(frmMain);
   parts_.flags.blnStartUpCompleted = true;
   return true;
+}
+
+void Program::WantOrderFigures(bool wanted) {
+  parts_.inForce.wantsOrderFigures = wanted;
+  const CurrentWords& words = parts_.words;
+  if (!wanted || !words.CanBeListed() || words.orderFigures || parts_.run.Busy()) return;
+  const CountedText named = TextNamedIn(frmMain);
+  const bool isTheSame = named.source == words.counted.source && named.path == words.counted.path &&
+                         named.withSubfolders == words.counted.withSubfolders;
+  if (isTheSame) frmMain.cmdCountWords.PerformClick();
 }
 
 void Program::BeginControls() {

@@ -86,6 +86,9 @@ class Program {
   void UseSettingsFolder();
   /// How many threads may scan a large text at the same time.
   void UseThreads(std::size_t threads) { parts_.inForce.scanThreads = threads; }
+  /// Whether counts work out the figures that need the order of words, too. If the words at hand
+  /// have none, their text is counted again, unless another one has been named since.
+  void WantOrderFigures(bool wanted);
   /// The text on the clipboard is that of a file, which must not be written.
   void SetClipboardFile(std::string path) {
     parts_.inForce.filesRead.clipboardText = std::move(path);

@@ -94,6 +94,10 @@ void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& an
   app.add_flag("--null", options.null,
                "End the lines of the list with a NUL byte: names of files may hold line breaks");
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
+  app.add_flag(
+      "--statistics", options.statistics,
+      "Print statistics on standard error, a NAME<tab>VALUE line each; exports with a place "
+      "for them then have them all");
   app.add_flag("--window-text", options.windowText,
                "Print what the window's output box shows at the end, not the whole list");
   app.add_flag("--progress", options.progress,
@@ -218,6 +222,7 @@ void CheckWindowText(const CommandLine& options) {
     forbid(options.top.has_value(), "--top", "--window-text or --list-files");
     forbid(!options.exports.empty(), "--export", "--window-text or --list-files");
   }
+  forbid(options.statistics && options.listFiles, "--statistics", "--list-files");
   if (options.windowText || options.listFiles || options.text) {
     forbid(options.progress, "--progress", "--text, --window-text or --list-files");
     forbid(options.listOnInterrupt, "--list-on-interrupt", "--text, --window-text or --list-files");

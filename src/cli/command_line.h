@@ -25,6 +25,7 @@ struct CommandLine {
   bool listFiles = false;
   bool windowText = false;
   bool summary = false;
+  bool statistics = false;
   /// So many words of the list, from its start.
   std::optional<std::int32_t> top;
   /// Files to export to; each has an ending that is a format's.

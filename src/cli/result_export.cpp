@@ -12,6 +12,7 @@
 #include "cli/export_options.h"
 #include "export/word_export.h"
 #include "listing/display_format.h"
+#include "listing/statistics.h"
 #include "listing/word_table.h"
 #include "sources/output_rules.h"
 #include "system/file_system.h"
@@ -104,7 +105,12 @@ std::optional<std::string> ExportResult(const Program& program, const CommandLin
   }
   const std::vector<std::int32_t> places = PlacesOf(program, words, options);
   const ExportTable table{
-      words, places, columns, TotalsOf(program.Words()), {}, SettingsOf(program)};
+      words,
+      places,
+      columns,
+      TotalsOf(program.Words()),
+      FactsOf(StatisticsOf(program.Words().store, program.Words().orderFigures)),
+      SettingsOf(program)};
   for (const std::string& path : options.exports) {
     if (const auto fault = ExportInto(path, program, table)) return path + " " + *fault;
   }

@@ -22,6 +22,7 @@
 #include "cli/setting_options.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
+#include "listing/statistics.h"
 #include "sources/count_observer.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
@@ -42,6 +43,7 @@ class TerminalRun {
   int Run() {
     if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
     if (options_.threads) program_.UseThreads(*options_.threads);
+    program_.WantOrderFigures(options_.statistics);
     program_.BeginControls();
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
@@ -189,6 +191,7 @@ class TerminalRun {
     const bool toFile = HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
     if (options_.summary) PrintSummary();
+    if (options_.statistics && made) PrintStatistics();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
       const bool failed = desktop_.ProblemShown() && !program_.Output().IsFull();
@@ -274,6 +277,11 @@ class TerminalRun {
     for (const Label* label : labels) {
       if (label->Visible() && !label->Caption().empty()) err_ << label->Caption() << '\n';
     }
+  }
+
+  void PrintStatistics() {
+    const CurrentWords& words = program_.Words();
+    err_ << StatisticsText(StatisticsOf(words.store, words.orderFigures));
   }
 
   bool PrintList() {

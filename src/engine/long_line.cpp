@@ -16,7 +16,9 @@ class LongLine::Alternative {
   Alternative(const Scan& scan, const LinePartState& state)
       : settings_(scan.settings),
         state_(state),
-        scanner_(settings_, scan.choices, scan.lists, store_, scan.yield) {}
+        scanner_(settings_, scan.choices, scan.lists, store_, scan.yield) {
+    if (scan.store.OrderListener() != nullptr) store_.SetOrderListener(&order_);
+  }
 
   void Take(std::string_view part) { scanner_.GetWordsOfPart(part, state_); }
 
@@ -29,9 +31,15 @@ class LongLine::Alternative {
     scan.scanner.SetWordsRead(read);
     scan.settings.OpenComment = settings_.OpenComment;
     scan.settings.Uncounted = settings_.Uncounted;
+    std::vector<std::uint32_t> places(static_cast<std::size_t>(store_.NumDifferentWords()));
     for (const auto& [place, times] : store_.TakeCountedWords()) {
       const std::uint32_t joined = scan.store.AddWord(store_.WordAtPlace(place)).value();
       if (times > 1) scan.store.CountWordAt(joined, times - 1);
+      places[place] = joined;
+    }
+    if (WordOrderListener* const listener = scan.store.OrderListener()) {
+      for (std::uint32_t& place : order_.places) place = places[place];
+      listener->OnWords(order_.places);
     }
   }
 
@@ -39,6 +47,7 @@ class LongLine::Alternative {
   ScanSettings settings_;
   LinePartState state_;
   WordStore store_;
+  WordOrderRecorder order_;
   WordScanner scanner_;
 };
 

@@ -50,10 +50,15 @@ void TokenTaker::TakeCut(std::string_view token) {
     newTokens_.push_back({0, key, 0});
     NoteNewWord(FinalForm(token));
     newTokens_.back().wordsEnd = newWords_.size();
-    return AddNewWords();
+    AddNewWords();
+  } else {
+    if (known != kNoWord) IncrementChecked(wordsRead_);
+    if (IsPlace(known)) store_.CountWordAt(known);
   }
-  if (known != kNoWord) IncrementChecked(wordsRead_);
-  if (IsPlace(known)) store_.CountWordAt(known);
+  if (store_.OrderListener() == nullptr) return;
+  if (known != kUnknownToken) newTokens_.clear();
+  outcomes_.assign(1, known);
+  TellOrder(0);
 }
 
 TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) const {
@@ -98,13 +103,41 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
   }
   AddChecked(wordsRead_, words);
   store_.CountWordsAt(std::span(places).first(placed));
-  if (newTokens_.empty()) return;
+  const bool orderMatters = store_.OrderListener() != nullptr;
+  if (orderMatters) NoteOutcomes(std::span(keys).first(count));
   for (NewToken& token : newTokens_) {
     const LineBlock::Token found = block.TokenAt(token.number);
     WorkOutToken({found.text, found.bytes});
     token.wordsEnd = newWords_.size();
   }
-  AddNewWords();
+  if (!newTokens_.empty()) AddNewWords();
+  if (orderMatters) TellOrder(first);
+}
+
+/// Before new tokens make the memo forget others.
+void TokenTaker::NoteOutcomes(std::span<const TokenMemo::Key> keys) {
+  outcomes_.clear();
+  for (const TokenMemo::Key& key : keys) outcomes_.push_back(memo_.Find(key));
+}
+
+/// Of the tokens of outcomes_, which are numbered from `first` on. The words of new ones have been
+/// added.
+void TokenTaker::TellOrder(std::size_t first) {
+  order_.clear();
+  const auto take = [this](TokenOutcome outcome) {
+    if (IsPlace(outcome)) order_.push_back(outcome);
+  };
+  auto newToken = newTokens_.begin();
+  std::size_t newWord = 0;
+  for (std::size_t i = 0; i < outcomes_.size(); ++i) {
+    if (newToken == newTokens_.end() || newToken->number != first + i) {
+      take(outcomes_[i]);
+      continue;
+    }
+    for (; newWord < newToken->wordsEnd; ++newWord) take(newWords_[newWord].outcome);
+    ++newToken;
+  }
+  store_.OrderListener()->OnWords(order_);
 }
 
 /// Notes the words of a token as it stands in a file: seldom more than one ("well--known").
@@ -183,8 +216,9 @@ void TokenTaker::AddNewWords() {
     const std::size_t words = token.wordsEnd - next;
     TokenOutcome outcome = kNoWord;
     for (; next < token.wordsEnd; ++next) {
-      const NewWord& word = newWords_[next];
-      outcome = word.isStored ? store_.AddKeyedWord(Keyed(word)) : kWordNotStored;
+      NewWord& word = newWords_[next];
+      if (word.isStored) word.outcome = store_.AddKeyedWord(Keyed(word));
+      outcome = word.outcome;
     }
     const bool canBeRemembered = words <= 1 && token.key.low != 0;
     // It may stand in the block twice.

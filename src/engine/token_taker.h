@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,6 +58,8 @@ class TokenTaker {
     std::size_t keyBytes = 0;
     std::uint32_t hash = 0;
     bool isStored = false;
+    /// Once it was added.
+    TokenOutcome outcome = kWordNotStored;
   };
   /// A token that is met for the first time, and where its words end in newWords_.
   struct NewToken {
@@ -75,6 +78,8 @@ class TokenTaker {
   [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
   void AddNewWords();
   void ForgetTokensOfOldStore();
+  void NoteOutcomes(std::span<const TokenMemo::Key> keys);
+  void TellOrder(std::size_t first);
 
   ScanSettings& settings_;
   const ScanChoices& choices_;
@@ -92,6 +97,10 @@ class TokenTaker {
   std::string tokenText_;
   std::string normalText_;
   std::string keyText_;
+
+  // For a listener to the order of words: what tokens are worth, and the words that they are.
+  std::vector<TokenOutcome> outcomes_;
+  std::vector<std::uint32_t> order_;
 };
 
 /// `line` as a scan wants a line of text to be counted: lower-cased unless letter case is

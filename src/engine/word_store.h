@@ -25,6 +25,7 @@
 #include "engine/letter_rule.h"
 #include "engine/word_hash.h"
 #include "engine/word_letters.h"
+#include "engine/word_order.h"
 
 namespace quillomat {
 
@@ -92,6 +93,11 @@ class WordStore {
 
   /// Who is told of new words; null for nobody. The listener must outlive the count.
   void SetListener(NewWordListener* listener) { listener_ = listener; }
+
+  /// Who is told of every occurrence in the order of the text; null for nobody. The listener must
+  /// outlive the count. Those who scan a text into the store tell it, the store does not.
+  void SetOrderListener(WordOrderListener* listener) { orderListener_ = listener; }
+  [[nodiscard]] WordOrderListener* OrderListener() const { return orderListener_; }
 
   /// Counts one occurrence of `word`. With `anyLength` (words files) long words are taken too.
   /// Throws RunTimeError 6 when a count would leave the range of 32 bits. Returns the place of the
@@ -221,6 +227,7 @@ class WordStore {
   FileTracker files_;
   NewWordListener* listener_ = nullptr;
   KeyRule keyRule_;
+  WordOrderListener* orderListener_ = nullptr;
   std::string keyScratch_;
 
   // In which order the words stand is nobody's affair but the store's: hence mutable.

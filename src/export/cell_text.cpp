@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 #include <variant>
 
 namespace quillomat {
@@ -48,6 +49,14 @@ bool TakeRowsOfFiles(const ExportTable& table, std::int32_t place, ExportRow& ro
 }
 
 }  // namespace
+
+std::vector<ExportFact> FactsOf(const Statistics& statistics) {
+  std::vector<ExportFact> facts;
+  for (Statistic& statistic : ListStatistics(statistics)) {
+    facts.push_back({std::string(NameOf(statistic.name)), std::move(statistic.value)});
+  }
+  return facts;
+}
 
 std::vector<WordColumn> UsualColumns(bool knowsFiles) {
   std::vector<WordColumn> columns = {WordColumn::kRank,       WordColumn::kWord,
@@ -135,6 +144,15 @@ void AppendHtml(std::string& out, std::string_view text) {
 std::string TextOf(const ExportFact& fact) {
   if (const auto* text = std::get_if<std::string>(&fact.value)) return *text;
   std::string number;
+  if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
+    for (const GrowthPoint& point : *points) {
+      if (!number.empty()) number.append("; ");
+      AppendInteger(number, point.instances);
+      number.append(": ");
+      AppendInteger(number, point.differentWords);
+    }
+    return number;
+  }
   if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
     AppendInteger(number, *whole);
     return number;

@@ -6,9 +6,9 @@
 #include <functional>
 #include <span>
 #include <string>
-#include <variant>
 #include <vector>
 
+#include "listing/statistics.h"
 #include "listing/word_table.h"
 
 namespace quillomat {
@@ -16,7 +16,7 @@ namespace quillomat {
 /// One fact of a count: a total, a statistic, a setting.
 struct ExportFact {
   std::string name;
-  std::variant<std::int64_t, double, std::string> value;
+  StatisticValue value;
 };
 
 struct ExportTable {
@@ -30,6 +30,9 @@ struct ExportTable {
   std::vector<ExportFact> statistics;
   std::vector<ExportFact> settings;
 };
+
+/// The statistics that are known, as facts.
+[[nodiscard]] std::vector<ExportFact> FactsOf(const Statistics& statistics);
 
 /// The columns that are exported when nobody chooses: all that are known.
 [[nodiscard]] std::vector<WordColumn> UsualColumns(bool knowsFiles);

@@ -29,11 +29,20 @@ void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row)
   out.push_back('}');
 }
 
+Json ValueOf(const StatisticValue& value) {
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
+  if (const auto* number = std::get_if<double>(&value)) return *number;
+  if (const auto* text = std::get_if<std::string>(&value)) return *text;
+  Json points = Json::array();
+  for (const GrowthPoint& point : std::get<std::vector<GrowthPoint>>(value)) {
+    points.push_back(Json::array({point.instances, point.differentWords}));
+  }
+  return points;
+}
+
 Json ObjectOf(const std::vector<ExportFact>& facts) {
   Json object = Json::object();
-  for (const ExportFact& fact : facts) {
-    std::visit([&](const auto& value) { object[fact.name] = value; }, fact.value);
-  }
+  for (const ExportFact& fact : facts) object[fact.name] = ValueOf(fact.value);
   return object;
 }
 

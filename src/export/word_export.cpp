@@ -7,7 +7,7 @@
 #include "export/xlsx_export.h"
 #include "system/input_file.h"
 #include "system/output_file.h"
-#include "system/scratch_file.h"
+#include "system/scratch_folder.h"
 
 namespace quillomat {
 namespace {
@@ -42,9 +42,10 @@ namespace {
 
 /// The library writes by a path, so the workbook is made apart and then takes the way of all files.
 bool ExportWorkbook(const ExportTable& table, ByteSink& file, const ExportProgress& progress) {
-  const ScratchFile scratch;
-  if (!WriteXlsx(table, scratch.Path(), ScratchFolder(), progress)) return false;
-  InputFile made(scratch.Path());
+  ScratchFolder scratch;
+  const std::string path = scratch.PathOf("words.xlsx");
+  if (!WriteXlsx(table, path, scratch.Path(), progress)) return false;
+  InputFile made(path);
   std::vector<char> block(kBlockBytes);
   while (const std::size_t bytes = made.Read(block)) file.Write({block.data(), bytes});
   return true;

@@ -1,6 +1,9 @@
 #include "export/xlsx_export.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstdio>
 #include <memory>
 #include <utility>
 #include <variant>
@@ -9,6 +12,9 @@
 
 #include "base/run_time_error.h"
 #include "export/cell_text.h"
+#include "export/workbook_check.h"
+#include "system/input_file.h"
+#include "system/write_shield.h"
 
 namespace quillomat {
 namespace {
@@ -41,6 +47,10 @@ double RoundedNumberOf(const ExportRow& row, WordColumn column) {
   return std::round(NumberOf(row, column) * power) / power;
 }
 
+bool IsHexDigit(char ch) {
+  return (ch >= '0' && ch <= '9') || (ch >= 'a' && ch <= 'f') || (ch >= 'A' && ch <= 'F');
+}
+
 /// A workbook of the library, which is given up unless it was closed.
 class Workbook {
  public:
@@ -63,19 +73,30 @@ class Workbook {
   Workbook(Workbook&&) = delete;
   Workbook& operator=(Workbook&&) = delete;
   ~Workbook() {
-    if (book_ != nullptr) lxw_workbook_free(book_);
+    if (book_ == nullptr) return;
+    for (const lxw_worksheet* sheet : sheets_) fclose(sheet->optimize_tmpfile);  // it forgets them
+    lxw_workbook_free(book_);
   }
 
   [[nodiscard]] lxw_worksheet* AddSheet(const std::string& name) {
     lxw_worksheet* sheet = workbook_add_worksheet(book_, name.c_str());
     if (sheet == nullptr) Throw(LXW_ERROR_CREATING_TMPFILE);
+    sheets_.push_back(sheet);
     return sheet;
+  }
+  /// Throws when there was no room for the rows until now, which the library does not notice.
+  void ExpectGathered() const {
+    for (const lxw_worksheet* sheet : sheets_) {
+      if (fflush(sheet->optimize_tmpfile) == 0 && ferror(sheet->optimize_tmpfile) == 0) continue;
+      throw RunTimeError(RunTimeErrorNumber::kDiskFull);
+    }
   }
   [[nodiscard]] lxw_format* Head() { return head_; }
   [[nodiscard]] lxw_format* FormatOf(WordColumn column) {
     return formats_[static_cast<std::size_t>(column)];
   }
   void Close() {
+    ExpectGathered();
     lxw_workbook* book = std::exchange(book_, nullptr);
     Check(workbook_close(book));  // which frees it, too
   }
@@ -92,6 +113,7 @@ class Workbook {
 
   std::string scratch_;
   lxw_workbook* book_ = nullptr;
+  std::vector<lxw_worksheet*> sheets_;
   lxw_format* head_ = nullptr;
   std::vector<lxw_format*> formats_;
 };
@@ -116,6 +138,7 @@ class WordSheets {
 
  private:
   void BeginSheet() {
+    book_.ExpectGathered();
     ++sheets_;
     sheet_ = book_.AddSheet(sheets_ == 1 ? "Words" : "Words " + std::to_string(sheets_));
     worksheet_freeze_panes(sheet_, 1, 0);
@@ -134,6 +157,7 @@ class WordSheets {
     const auto line = static_cast<lxw_row_t>(row_);
     if (IsText(column)) {
       text_ = TextOf(row, column);
+      if (text_.find("_x") != std::string::npos) text_ = XlsxText(text_);
       Check(worksheet_write_string(sheet_, line, place, text_.c_str(), nullptr));
     } else if (HasNumber(row, column)) {
       Check(worksheet_write_number(sheet_, line, place, RoundedNumberOf(row, column),
@@ -150,38 +174,76 @@ class WordSheets {
   std::string text_;
 };
 
-void WriteFacts(Workbook& book, const ExportTable& table) {
-  lxw_worksheet* sheet = nullptr;
-  lxw_row_t row = 0;
-  const auto writeGroup = [&](const char* title, const std::vector<ExportFact>& facts) {
+/// The sheet of totals, statistics and settings, once there is any.
+class FactSheet {
+ public:
+  explicit FactSheet(Workbook& book) : book_(book) {}
+
+  void Take(const char* title, const std::vector<ExportFact>& facts) {
     if (facts.empty()) return;
-    if (sheet == nullptr) {
-      sheet = book.AddSheet("Count");
-      worksheet_set_column(sheet, 0, 1, kFactWidth, nullptr);
+    if (sheet_ == nullptr) {
+      sheet_ = book_.AddSheet("Count");
+      worksheet_set_column(sheet_, 0, 1, kFactWidth, nullptr);
     }
-    Check(worksheet_write_string(sheet, row++, 0, title, book.Head()));
-    for (const ExportFact& fact : facts) {
-      Check(worksheet_write_string(sheet, row, 0, fact.name.c_str(), nullptr));
-      if (std::holds_alternative<std::string>(fact.value)) {
-        Check(worksheet_write_string(sheet, row, 1, TextOf(fact).c_str(), nullptr));
-      } else if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
-        Check(worksheet_write_number(sheet, row, 1, static_cast<double>(*whole), nullptr));
-      } else {
-        Check(worksheet_write_number(sheet, row, 1, std::get<double>(fact.value), nullptr));
+    Check(worksheet_write_string(sheet_, row_++, 0, title, book_.Head()));
+    for (const ExportFact& fact : facts) Write(fact);
+    ++row_;
+  }
+
+ private:
+  /// The points of a curve stand one below the other.
+  void Write(const ExportFact& fact) {
+    WriteText(0, fact.name);
+    if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
+      for (const GrowthPoint& point : *points) {
+        WriteNumber(1, static_cast<double>(point.instances));
+        WriteNumber(2, static_cast<double>(point.differentWords));
+        ++row_;
       }
-      ++row;
+      return;
     }
-    ++row;
-  };
-  writeGroup("Totals", table.totals);
-  writeGroup("Statistics", table.statistics);
-  writeGroup("Settings", table.settings);
-}
+    if (const auto* whole = std::get_if<std::int64_t>(&fact.value)) {
+      WriteNumber(1, static_cast<double>(*whole));
+    } else if (const auto* number = std::get_if<double>(&fact.value)) {
+      WriteNumber(1, *number);
+    } else {
+      WriteText(1, std::get<std::string>(fact.value));
+    }
+    ++row_;
+  }
+  void WriteText(lxw_col_t column, const std::string& text) {
+    Check(worksheet_write_string(sheet_, row_, column, XlsxText(text).c_str(), nullptr));
+  }
+  void WriteNumber(lxw_col_t column, double number) {
+    Check(worksheet_write_number(sheet_, row_, column, number, nullptr));
+  }
+
+  Workbook& book_;
+  lxw_worksheet* sheet_ = nullptr;
+  lxw_row_t row_ = 0;
+};
 
 }  // namespace
 
+std::string XlsxText(std::string_view text) {
+  constexpr std::string_view kUnderscore = "_x005F_";
+  std::string escaped;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::string_view rest = text.substr(i, kUnderscore.size());
+    const bool isEscape = rest.size() == kUnderscore.size() && rest.starts_with("_x") &&
+                          rest.ends_with('_') && std::ranges::all_of(rest.substr(2, 4), IsHexDigit);
+    if (isEscape) {
+      escaped.append(kUnderscore);
+    } else {
+      escaped.push_back(text[i]);
+    }
+  }
+  return escaped;
+}
+
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
                const ExportProgress& progress, std::size_t rowsPerSheet) {
+  const WriteShield shield;
   Workbook book(path, scratchFolder);
   WordSheets sheets(book, table, rowsPerSheet);
   std::size_t rows = 0;
@@ -190,8 +252,13 @@ bool WriteXlsx(const ExportTable& table, const std::string& path, const std::str
     return ++rows % kRowsPerQuestion != 0 || !progress || progress(rows);
   });
   if (!whole) return false;
-  WriteFacts(book, table);
+  FactSheet facts(book);
+  facts.Take("Totals", table.totals);
+  facts.Take("Statistics", table.statistics);
+  facts.Take("Settings", table.settings);
   book.Close();
+  InputFile made(path);
+  if (!IsWholeWorkbook(made)) throw RunTimeError(RunTimeErrorNumber::kDiskFull);
   return true;
 }
 

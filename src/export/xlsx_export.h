@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "export/export_table.h"
 
@@ -10,6 +11,10 @@ namespace quillomat {
 
 /// Words on one sheet; more go on in the next. A sheet takes 1,048,576 rows, its header's included.
 inline constexpr std::size_t kRowsPerSheet = 1'048'575;
+
+/// `text` as a workbook holds it, where "_x000D_" would stand for a carriage return: text that
+/// happens to look so has its first underscore written in that form.
+[[nodiscard]] std::string XlsxText(std::string_view text);
 
 /// Writes the workbook into `path`, a file of the caller's that is new or may be overwritten.
 /// Sheets are collected in files of the folder `scratchFolder`. False when `progress` ended it;

@@ -51,7 +51,8 @@ MainWindowView::MainWindowView(Program& program)
       findBar_((ui_->setupUi(this), *ui_->txbOutput),
                [&program] { return ToQt(program.NotFoundText()); }),
       views_(new ResultTabs),
-      table_(new TablePage(program)) {
+      table_(new TablePage(program)),
+      statistics_(new StatisticsPage(program)) {
   setAcceptDrops(true);
   MakeRowsFlow(*this);
   ui_->splitter->setStretchFactor(1, 1);  // a wider window is for the list
@@ -89,8 +90,11 @@ void MainWindowView::PlaceViews() {
   column->addWidget(&findBar_);
   views_->Add(text, QStringLiteral("text"), kTextViewText, [this] { findBar_.Open(); });
   views_->Add(table_, QStringLiteral("table"), kTableViewText, [this] { table_->Find(); });
+  views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText);
   // What stands below the views comes behind them on the keyboard's way, too.
-  setTabOrder(&table_->View(), ui_->cmdCopyToClipboard);
+  setTabOrder(&table_->View(), &statistics_->OrderBox());
+  setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
+  setTabOrder(&statistics_->Table(), ui_->cmdCopyToClipboard);
   setTabOrder(ui_->cmdCopyToClipboard, ui_->cmdClearOutput);
   setTabOrder(ui_->cmdClearOutput, ui_->cmdClipboardViewer);
 }
@@ -137,6 +141,7 @@ void MainWindowView::SetTexts(const ProgramText& text) {
   findBar_.SetTexts(text);
   views_->SetTexts(text);
   table_->SetTexts(text);
+  statistics_->SetTexts(text);
   fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
   ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
   ShowProgress();

@@ -13,6 +13,7 @@
 #include "qt/form_window.h"
 #include "qt/list_view.h"
 #include "qt/result_tabs.h"
+#include "qt/statistics_page.h"
 #include "qt/table_page.h"
 
 namespace Ui {
@@ -35,6 +36,7 @@ class MainWindowView final : public FormWindow {
   /// The views of the result, and that of them which is a table.
   [[nodiscard]] ResultTabs& Views() { return *views_; }
   [[nodiscard]] TablePage& Table() { return *table_; }
+  [[nodiscard]] StatisticsPage& StatisticsView() { return *statistics_; }
 
   /// The texts that are the window's own, in the current language.
   void SetTexts(const ProgramText& text);
@@ -68,6 +70,7 @@ class MainWindowView final : public FormWindow {
   // Children of the window.
   ResultTabs* views_;
   TablePage* table_;
+  StatisticsPage* statistics_;
   /// Since a count has listed its words, and nobody has been told.
   bool listIsNew_ = false;
   /// "File %1 of %2".

@@ -112,6 +112,7 @@ void Windows::RestorePlaces() {
   memory.RestoreZoom(main_.List());
   memory.RestoreView(main_.Views());
   memory.RestoreColumns(main_.Table().View().Columns());
+  memory.RestoreOrderFigures(main_.StatisticsView().OrderBox());
   program_.Paths().SetLastFolder(FromQt(memory.LastFolder()));
 }
 
@@ -125,6 +126,7 @@ void Windows::KeepPlaces() {
   memory.KeepZoom(main_.List());
   memory.KeepView(main_.Views());
   memory.KeepColumns(main_.Table().View().Columns());
+  memory.KeepOrderFigures(main_.StatisticsView().OrderBox());
   memory.KeepLastFolder(ToQt(program_.Paths().LastFolder()));
 }
 

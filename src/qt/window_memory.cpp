@@ -14,6 +14,7 @@ const char* const kZoomKey = "list/zoom";
 const char* const kViewKey = "result/view";
 const char* const kColumnsKey = "table/columns";
 const char* const kColumnWidthsKey = "table/widths";
+const char* const kOrderFiguresKey = "statistics/order";
 const char* const kLastFolderKey = "dialogs/folder";
 
 /// What the desktop puts round a window, in logical pixels.
@@ -84,6 +85,16 @@ void WindowMemory::KeepColumns(const TableColumns& columns) const {
   QSettings settings(path_, QSettings::IniFormat);
   settings.setValue(QLatin1String(kColumnsKey), columns.Wanted());
   settings.setValue(QLatin1String(kColumnWidthsKey), columns.Widths());
+}
+
+void WindowMemory::RestoreOrderFigures(QCheckBox& box) const {
+  const QSettings settings(path_, QSettings::IniFormat);
+  box.setChecked(settings.value(QLatin1String(kOrderFiguresKey)).toBool());
+}
+
+void WindowMemory::KeepOrderFigures(const QCheckBox& box) const {
+  QSettings settings(path_, QSettings::IniFormat);
+  settings.setValue(QLatin1String(kOrderFiguresKey), box.isChecked());
 }
 
 QString WindowMemory::LastFolder() const {

@@ -1,8 +1,10 @@
 // Remembers the windows' places and sizes, how their splitters stand, the size of the list's
-// letters, the view of the result that is in front, the columns of its table, and the folder used
-// last, in a file of the user's settings folder. No window opens larger than its screen.
+// letters, the view of the result that is in front, the columns of its table, which statistics are
+// wanted, and the folder used last, in a file of the user's settings folder. No window opens larger
+// than its screen.
 #pragma once
 
+#include <QCheckBox>
 #include <QString>
 #include <QWidget>
 
@@ -31,6 +33,9 @@ class WindowMemory {
   /// Which columns the table of words shows, and how wide they are.
   void RestoreColumns(TableColumns& columns) const;
   void KeepColumns(const TableColumns& columns) const;
+  /// Whether figures that need the order of words are worked out.
+  void RestoreOrderFigures(QCheckBox& box) const;
+  void KeepOrderFigures(const QCheckBox& box) const;
   /// The folder in which the next dialog opens; "" for none.
   [[nodiscard]] QString LastFolder() const;
   void KeepLastFolder(const QString& folder) const;

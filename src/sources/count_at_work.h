@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "engine/scan_settings.h"
+#include "listing/order_figures.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
@@ -44,6 +45,7 @@ struct CountAtWork {
     settings.CountOnlyMode = request.lists.HasCountOnlyWords();
     settings.OpenComment = request.openComment;
     result.countOnlyMode = settings.CountOnlyMode;
+    if (request.orderFigures) result.store.SetOrderListener(&orderFigures);
   }
 
   void BeginScan(bool tallyFiles) {
@@ -68,6 +70,8 @@ struct CountAtWork {
   CountObserver& observer;
   StopQuestion stop;
   CountResult result;
+  /// Of the words that were counted until now, if the request wants them.
+  OrderFigureCounter orderFigures;
   /// The allow flags are ready; the markers are those of the text that is being read.
   ScanSettings settings;
   CountProgress progress;

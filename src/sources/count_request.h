@@ -85,6 +85,9 @@ struct CountRequest {
   /// Of count-only words from a folder or a list of paths: in which files each occurs. A word that
   /// occurs more than 32,767 times in one file then ends the count with an overflow.
   bool tallyFiles = true;
+  /// Work out the figures that hang on the order of words: CountResult::orderFigures. It makes a
+  /// count slower.
+  bool orderFigures = false;
   /// Keep a report of every file in the result. The observer is told of each in any case.
   bool keepReports = false;
   /// Where the list will be written, or "": a file that must not be among those that are read

@@ -13,6 +13,7 @@
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
+#include "listing/order_figures.h"
 #include "sources/line_endings.h"
 #include "sources/marker_fault.h"
 #include "system/file_identity.h"
@@ -101,6 +102,8 @@ struct CountResult {
   /// Candidate words read, counted or not.
   std::int32_t wordsRead = 0;
   bool countOnlyMode = false;
+  /// Of the words that were counted; only if the request wants them.
+  std::optional<OrderFigures> orderFigures;
 
   /// Files that were read, and folders visited, the chosen one included. After a stop in the
   /// counting pass those that were met.

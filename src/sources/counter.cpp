@@ -35,6 +35,8 @@ class Count {
       state_.Fail(RunTimeError(RunTimeErrorNumber::kOutOfMemory));
     }
     result.store.SetListener(nullptr);
+    result.store.SetOrderListener(nullptr);
+    if (state_.request.orderFigures) result.orderFigures = state_.orderFigures.Figures();
     result.openComment = state_.settings.OpenComment;
     result.uncounted = state_.settings.Uncounted;
     SortFilesRead(result.filesRead);

@@ -66,7 +66,7 @@ class FileScanner {
         request_(request),
         stop_(stop),
         batchBytes_(batchBytes),
-        scanner_(settings, request.scan, request.lists, stop) {}
+        scanner_(settings, request.scan, request.lists, stop, request.orderFigures) {}
 
   /// Takes the items that are for threads, until it has scanned enough. Returns how many items
   /// there are before the next that was not taken; `openComment` and `bytes` say what is open

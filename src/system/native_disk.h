@@ -31,6 +31,8 @@ enum class ItemKind { kNothing, kFile, kFolder };
 
 /// A folder that is there already is no error.
 void MakeFolder(const std::string& path, std::error_code& error);
+/// A new one into which nobody else may look; an error when something is there already.
+void MakePrivateFolder(const std::string& path, std::error_code& error);
 void EnterFolder(const std::string& path, std::error_code& error);
 
 /// Where the path leads to when it is a link, or a link to a link, whether there is something or
@@ -41,7 +43,9 @@ void EnterFolder(const std::string& path, std::error_code& error);
 /// Puts the file `fresh` in the place of `target`, and asks the disk to keep that.
 void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error);
 
-/// Never complains.
+// Neither complains.
 void RemoveFile(const std::string& path);
+/// With all that is in it.
+void RemoveFolder(const std::string& path);
 
 }  // namespace quillomat

@@ -7,8 +7,9 @@ namespace quillomat {
 void HoldSignalsBack() noexcept;
 void LetSignalsCome() noexcept;
 
-/// As far as a signal handler may do these: to wait a moment, and to remove a file.
+/// As far as a signal handler may do these: to wait a moment, and to remove a file, or a folder
+/// with the files in it.
 void WaitAMoment() noexcept;
-void RemoveFileInHandler(const char* path) noexcept;
+void RemoveInHandler(const char* path) noexcept;
 
 }  // namespace quillomat

@@ -67,7 +67,7 @@ void RemoveUnfinishedFiles() noexcept {
   for (const Place& place : places) {
     // Another thread is making it: this one may not be, as its signals wait.
     while (place.use == Use::kBeingMade) WaitAMoment();
-    if (place.use == Use::kThere) RemoveFileInHandler(place.path.data());
+    if (place.use == Use::kThere) RemoveInHandler(place.path.data());
   }
 }
 

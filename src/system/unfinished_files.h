@@ -11,7 +11,8 @@
 
 namespace quillomat {
 
-/// One such file. While it lives, an end by a signal removes the file.
+/// One such file, or a folder of such files and nothing else. While it lives, an end by a signal
+/// removes it.
 class UnfinishedFile {
  public:
   /// To be made before the file is: until HasBeenMade or the destructor no signal ends the program,

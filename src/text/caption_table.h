@@ -193,4 +193,14 @@ inline constexpr int kCopyRowsText = 641;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 
+// The statistics of a result.
+inline constexpr int kStatisticsViewText = 650;
+/// Of the first StatisticName, and so on; in the last "%1" stands for a number.
+inline constexpr int kFirstStatisticText = 651;
+inline constexpr int kOrderFiguresText = 670;
+inline constexpr int kOrderFiguresTipText = 671;
+inline constexpr int kStatisticsNameText = 672;
+inline constexpr int kFigureColumnText = 673;
+inline constexpr int kValueColumnText = 674;
+
 }  // namespace quillomat

@@ -31,6 +31,11 @@ TEST(CellText, AnUnknownNumberOfFilesIsEmpty) {
   EXPECT_EQ(NumberText(WordColumn::kFiles, row), "0");
 }
 
+TEST(CellText, APointOfACurveIsTwoNumbers) {
+  EXPECT_EQ(TextOf(ExportFact{"growth", std::vector<GrowthPoint>{{100, 80}, {200, 130}}}),
+            "100: 80; 200: 130");
+}
+
 TEST(CellText, FactsAreWrittenAsTheyAre) {
   EXPECT_EQ(TextOf(ExportFact{"a", std::int64_t{12}}), "12");
   EXPECT_EQ(TextOf(ExportFact{"a", 0.25}), "0.25");

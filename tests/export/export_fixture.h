@@ -39,7 +39,8 @@ class ExportFixture : public testing::Test {
   }
 
   [[nodiscard]] ExportTable Table(std::vector<WordColumn> columns) const {
-    return {*table_, table_->ByFrequency(), std::move(columns), totalsFacts_, {}, settings_};
+    return {*table_,      table_->ByFrequency(), std::move(columns),
+            totalsFacts_, statistics_,           settings_};
   }
   [[nodiscard]] std::string Export(ExportFormat format, std::vector<WordColumn> columns) const {
     TextSink sink;
@@ -53,6 +54,7 @@ class ExportFixture : public testing::Test {
   FrequencyRanking ranking_;
   std::optional<WordTable> table_;
   std::vector<ExportFact> totalsFacts_;
+  std::vector<ExportFact> statistics_;
   std::vector<ExportFact> settings_;
 };
 

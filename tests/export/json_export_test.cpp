@@ -25,6 +25,20 @@ TEST_F(JsonExport, IsOneObjectWithRowsOfNumbersAndStrings) {
   EXPECT_DOUBLE_EQ(whole["rows"][1]["cumulative"], 12.3);
 }
 
+TEST_F(JsonExport, StatisticsAreAnObjectWithTheGrowthAsPairs) {
+  Count({{"the", 2}, {"whale", 1}});
+  OrderFigures order;
+  order.growth = {{1, 1}, {3, 2}};
+  statistics_ = FactsOf(StatisticsOf(store_, order));
+  const json statistics =
+      json::parse(Export(ExportFormat::kJson, UsualColumns(false)))["statistics"];
+  EXPECT_EQ(statistics["instances"], 3);
+  EXPECT_DOUBLE_EQ(statistics["type-token-ratio"], 0.666667);
+  EXPECT_EQ(statistics["longest-words"], "whale the");
+  EXPECT_FALSE(statistics.contains("standardised-type-token-ratio"));
+  EXPECT_EQ(statistics["growth"], json::parse("[[1, 1], [3, 2]]"));
+}
+
 TEST_F(JsonExport, AnEmptyListIsStillAnObject) {
   Count({});
   EXPECT_TRUE(json::parse(Export(ExportFormat::kJson, UsualColumns(false)))["rows"].empty());

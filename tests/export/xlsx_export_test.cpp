@@ -37,9 +37,18 @@ TEST_F(XlsxExport, IsAnArchiveWithASheetOfWords) {
   EXPECT_FALSE(HasPart("xl/worksheets/sheet2.xml"));
 }
 
+TEST_F(XlsxExport, WordsThatLookLikeEscapesAreEscaped) {
+  EXPECT_EQ(XlsxText("snake_x_case"), "snake_x_case");
+  EXPECT_EQ(XlsxText("_x000d_"), "_x005F_x000d_");
+  EXPECT_EQ(XlsxText("a_xBEEF_x0041_"), "a_x005F_xBEEF_x005F_x0041_");
+  EXPECT_EQ(XlsxText("_x00g0_"), "_x00g0_");
+  EXPECT_EQ(XlsxText("_x000d"), "_x000d");
+}
+
 TEST_F(XlsxExport, FactsStandOnASheetOfTheirOwn) {
   Count({{"the", 2}});
   totalsFacts_ = {{"words-read", std::int64_t{2}}, {"ratio", 0.5}, {"source", std::string("a")}};
+  statistics_ = {{"growth", std::vector<GrowthPoint>{{1, 1}, {2, 2}}}};
   EXPECT_TRUE(Write(kRowsPerSheet));
   EXPECT_TRUE(HasPart("xl/worksheets/sheet2.xml"));
 }

@@ -11,6 +11,10 @@
 
 namespace quillomat::properties {
 
+/// What the outcome tells of the order of words: the words themselves, or what Counter makes of it,
+/// how many are different until each.
+enum class Told { kOrder, kGrowth };
+
 /// How the engine is given its text.
 enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };
 
@@ -32,6 +36,6 @@ struct FilesInTurn {
 [[nodiscard]] ScanChoices ScanChoicesOf(const reference::LiteralChoices& from);
 
 /// By the literal engine.
-[[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase);
+[[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase, Told told = Told::kOrder);
 
 }  // namespace quillomat::properties

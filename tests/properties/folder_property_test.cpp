@@ -105,7 +105,7 @@ void CompareRandomFolders(std::uint64_t seed) {
   Random random(seed);
   for (int i = 0; i < CasesPerSeed() / kCasesPerFolder; ++i) {
     const FilesOfCase files(random);
-    const std::string expected = OutcomeOfReference(files.Case());
+    const std::string expected = OutcomeOfReference(files.Case(), Told::kGrowth);
     for (const CountSource& source : files.Sources()) {
       std::string expectedEvents;
       for (const std::size_t threads : {1U, 2U, 3U, 8U}) {

@@ -7,6 +7,7 @@
 #include "app/list/text_box_list_sink.h"
 #include "base/byte_source.h"
 #include "base/text_helpers.h"
+#include "engine/fold_accents.h"
 #include "engine/long_line.h"
 #include "engine/parallel/threaded_scan.h"
 #include "engine/word_filters.h"
@@ -175,17 +176,30 @@ class ProgramCase {
     settings_.BuildExtraWordChars();
     if (files_ != nullptr) return CountFiles();
     store_.Clear();
+    store_.SetOrderListener(&order_);
     store_.Files().Reset(case_.choices.optFolder && settings_.CountOnlyMode);
     CountTexts();
+    const std::string order = DescribedOrder();
     if (!settings_.CountOnlyMode) ApplyWordFilters(store_, FilterChoicesOf(case_.choices));
     totals_ = store_.TallyWords();
     ranking_ = RankByFrequency(store_);
-    DescribeCount();
+    DescribeCount(order);
   }
 
-  void DescribeCount() {
+  void DescribeCount(const std::string& order) {
     out_ << "read " << wordsRead_ << " open " << settings_.OpenComment << " foreign "
-         << settings_.Uncounted.foreignLetters << '\n';
+         << settings_.Uncounted.foreignLetters << '\n'
+         << order;
+  }
+
+  /// Places are good until the words are sorted.
+  std::string DescribedOrder() const {
+    std::string described = "order";
+    std::string buffer;
+    for (const std::uint32_t place : order_.places) {
+      described.append(" ").append(SortKeyOf(store_.WordAtPlace(place), choices_.Keys(), buffer));
+    }
+    return described + '\n';
   }
 
   void CountFiles() {
@@ -196,6 +210,7 @@ class ProgramCase {
     request.lists = lists_;
     request.openComment = settings_.OpenComment;
     request.threads = files_->threads;
+    request.orderFigures = true;
     EventNotes notes(files_->events);
     CountResult result = Counter(request, notes).Run();
     result.Rank(request.filters);
@@ -204,7 +219,11 @@ class ProgramCase {
     ranking_ = std::move(result.ranking);
     wordsRead_ = result.wordsRead;
     settings_.OpenComment = result.openComment;
-    DescribeCount();
+    std::string order = "growth";
+    for (const GrowthPoint& point : result.orderFigures.value().growth) {
+      order.append(" ").append(std::to_string(point.differentWords));
+    }
+    DescribeCount(order + '\n');
   }
 
   void CountTexts() {
@@ -375,6 +394,7 @@ class ProgramCase {
   ScanSettings settings_;
   WordLists lists_;
   WordStore store_;
+  WordOrderRecorder order_;
   WordTotals totals_;
   FrequencyRanking ranking_;
   std::int32_t wordsRead_ = 0;

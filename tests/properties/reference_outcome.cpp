@@ -1,5 +1,9 @@
+#include <cstdint>
+#include <map>
 #include <sstream>
+#include <vector>
 
+#include "listing/order_figures.h"
 #include "properties/count_outcome.h"
 #include "reference/literal_engine.h"
 
@@ -23,6 +27,24 @@ void Scan(LiteralEngine& engine, const CaseText& text) {
   engine.ScanText(all);
 }
 
+/// The growth is thinned as the program does it, which is tested elsewhere.
+void DescribeOrder(const LiteralEngine& engine, Told told, std::ostream& out) {
+  std::map<reference::Characters, std::uint32_t> numbers;
+  std::vector<std::uint32_t> order;
+  out << (told == Told::kOrder ? "order" : "growth");
+  for (const reference::Characters& key : engine.WordOrder) {
+    const auto next = static_cast<std::uint32_t>(numbers.size());
+    order.push_back(numbers.try_emplace(key, next).first->second);
+    if (told == Told::kOrder) out << ' ' << ToUtf8(key);
+  }
+  OrderFigureCounter figures;
+  figures.OnWords(order);
+  for (const GrowthPoint& point : figures.Figures().growth) {
+    if (told == Told::kGrowth) out << ' ' << point.differentWords;
+  }
+  out << '\n';
+}
+
 void DescribeWords(const LiteralEngine& engine, std::ostream& out) {
   for (std::size_t i = 1; i <= static_cast<std::size_t>(engine.NumDifferentWords); ++i) {
     const reference::WordRec& entry = engine.WordStore[i];
@@ -34,7 +56,7 @@ void DescribeWords(const LiteralEngine& engine, std::ostream& out) {
 
 }  // namespace
 
-std::string OutcomeOfReference(const CountCase& countCase) {
+std::string OutcomeOfReference(const CountCase& countCase, Told told) {
   std::ostringstream out;
   LiteralEngine engine;
   engine.choices = countCase.choices;
@@ -55,6 +77,7 @@ std::string OutcomeOfReference(const CountCase& countCase) {
   engine.FinishRun();
   out << "read " << engine.WordsRead << " open " << engine.OpenComment << " foreign "
       << engine.ForeignLetters << '\n';
+  DescribeOrder(engine, told, out);
   out << "included " << engine.NumIncludedWords << " excluded " << engine.NumExcludedWords
       << " total " << engine.TotalIncludedCount << " max " << engine.MaxCount << " longest "
       << engine.MaxWordLength << '\n';

@@ -126,6 +126,7 @@ class LiteralEngine {
   // --- Word store ---
   std::vector<WordRec> WordStore = std::vector<WordRec>(501);  // index 0 holds no word
   std::int32_t NumDifferentWords = 0;
+  std::vector<Characters> WordOrder;  // the key of every occurrence, as they come
   std::size_t LongWordLimit = 100;
   std::size_t DisplayLimit = 44'000;
   std::vector<Characters> FileList = std::vector<Characters>(101);  // index 0 holds no path

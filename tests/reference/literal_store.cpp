@@ -16,6 +16,7 @@ constexpr std::size_t kMostFileNumberCharacters = 40'000;
 void LiteralEngine::EmptyStore() {
   WordStore.assign(kStoreStep + 1, WordRec());
   NumDifferentWords = 0;
+  WordOrder.clear();
   FileList.assign(kFileListStep + 1, Characters());
   CurrentFileNumber = 0;
 }
@@ -27,6 +28,7 @@ bool LiteralEngine::TrackingFiles() const {
 void LiteralEngine::AddWord(const Characters& word) {
   if (!ReadingWordList && word.size() > LongWordLimit) return;
   if (TrackingFiles()) NoteCurrentFile();
+  WordOrder.push_back(KeyOf(word));
   if (NumDifferentWords == 0) {
     NumDifferentWords = 1;
     AppendWordRecord(word);

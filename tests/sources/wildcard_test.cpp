@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "base/run_time_error.h"
 #include "sources/folder_walk.h"
 #include "support/temporary_folder.h"
 

@@ -17,6 +17,8 @@ struct InForce {
   FilesRead filesRead;
   /// How many threads may scan a large text at the same time; with 1 it is scanned by the caller's.
   std::size_t scanThreads = 1;
+  /// The figures that hang on the order of words are worked out, too (CountRequest).
+  bool wantsOrderFigures = false;
 };
 
 }  // namespace quillomat

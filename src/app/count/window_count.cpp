@@ -17,6 +17,7 @@ CountRequest RequestFromControls(ParamsForm& frmParams, const InForce& inForce,
   request.filters = ReadFilterChoices(frmParams);
   request.lists = inForce.lists;
   request.openComment = inForce.settings.OpenComment;
+  request.orderFigures = inForce.wantsOrderFigures;
   request.threads = inForce.scanThreads;
   return request;
 }
@@ -52,6 +53,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
   if (observer.HasScanBegun()) {
     count.words.store = std::move(result.store);
     count.words.WordsRead = result.wordsRead;
+    count.words.orderFigures = std::move(result.orderFigures);
     count.words.counted.filesRead = std::move(result.filesRead);
     count.inForce.settings.OpenComment = result.openComment;
   }

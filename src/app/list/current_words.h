@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
+#include "listing/order_figures.h"
 #include "sources/output_rules.h"
 #include "ui/event.h"
 
@@ -29,6 +31,8 @@ struct CurrentWords {
   FrequencyRanking ranking;
   /// Candidate words read, counted or not.
   std::int32_t WordsRead = 0;
+  /// Of the same words; nothing if nobody wanted them.
+  std::optional<OrderFigures> orderFigures;
   std::int16_t minimumColumnWidth = kMinimumColumnWidth;
 
   // Whoever listens changes nothing of the words.
@@ -60,6 +64,7 @@ struct CurrentWords {
     store.Clear();
     totals = {};
     ranking = {};
+    orderFigures.reset();
     counted = {};
     folder.skippedNotice.clear();
     completeRun = false;

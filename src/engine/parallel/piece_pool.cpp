@@ -6,14 +6,12 @@
 namespace quillomat {
 namespace {
 
-std::vector<std::unique_ptr<PieceScanner>> MakeScanners(std::size_t number,
-                                                        const ScanSettings& settings,
-                                                        const ScanChoices& choices,
-                                                        const WordLists& lists,
-                                                        const std::atomic<bool>& stop) {
+std::vector<std::unique_ptr<PieceScanner>> MakeScanners(
+    std::size_t number, const ScanSettings& settings, const ScanChoices& choices,
+    const WordLists& lists, const std::atomic<bool>& stop, bool keepOrder) {
   std::vector<std::unique_ptr<PieceScanner>> scanners;
   for (std::size_t i = 0; i < number; ++i) {
-    scanners.push_back(std::make_unique<PieceScanner>(settings, choices, lists, stop));
+    scanners.push_back(std::make_unique<PieceScanner>(settings, choices, lists, stop, keepOrder));
   }
   return scanners;
 }
@@ -21,8 +19,9 @@ std::vector<std::unique_ptr<PieceScanner>> MakeScanners(std::size_t number,
 }  // namespace
 
 PiecePool::PiecePool(const ScanSettings& settings, const ScanChoices& choices,
-                     const WordLists& lists, std::size_t threads)
-    : scanners_(MakeScanners(std::max<std::size_t>(threads, 1), settings, choices, lists, stop_)),
+                     const WordLists& lists, std::size_t threads, bool keepOrder)
+    : scanners_(MakeScanners(std::max<std::size_t>(threads, 1), settings, choices, lists, stop_,
+                             keepOrder)),
       jobs_(threads, stop_, [this](Piece& piece, std::size_t scanner) {
         Scan(piece, scanner);
         return std::size_t{0};  // the owner sees to it that there are few

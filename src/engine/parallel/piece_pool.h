@@ -29,7 +29,7 @@ class PiecePool {
 
   /// The arguments are those of PieceScanner.
   PiecePool(const ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
-            std::size_t threads);
+            std::size_t threads, bool keepOrder = false);
 
   [[nodiscard]] std::size_t Threads() const { return jobs_.Threads(); }
   [[nodiscard]] std::size_t Pieces() const { return jobs_.Size(); }

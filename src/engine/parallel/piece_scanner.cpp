@@ -18,12 +18,14 @@ constexpr std::size_t kBytesWorthLook = 8;
 }  // namespace
 
 PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
-                           const WordLists& lists, const std::atomic<bool>& stop)
+                           const WordLists& lists, const std::atomic<bool>& stop, bool keepOrder)
     : settings_(std::move(settings)),
       choices_(choices),
       lists_(lists),
       stopTest_(stop),
-      scanner_(settings_, choices, lists, store_, stopTest_) {}
+      scanner_(settings_, choices, lists, store_, stopTest_) {
+  if (keepOrder) store_.SetOrderListener(&order_);
+}
 
 PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
   if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
@@ -40,6 +42,7 @@ PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& setting
   count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
   count.numbersAnew = std::exchange(numbersAnew_, false);
   count.words = store_.TakeCountedWords();
+  count.order = std::exchange(order_.places, {});
   DescribeNewWords(count);
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
@@ -57,6 +60,7 @@ void PieceScanner::DescribeNewWords(PieceCount& count) {
 
 void PieceScanner::ForgetWords() {
   store_.Clear();
+  order_.places.clear();
   wordsTold_ = 0;
   numbersAnew_ = true;
 }
@@ -76,6 +80,11 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
     if (times > 1) store.CountWordAt(place, times - 1);
     places_.push_back(place);
     letters.remove_prefix(*bytes++);
+  }
+  if (WordOrderListener* const listener = store.OrderListener()) {
+    order_.clear();
+    for (const std::uint32_t number : piece.order) order_.push_back(places_[number]);
+    listener->OnWords(order_);
   }
   knowsNumbers_ = true;
 }

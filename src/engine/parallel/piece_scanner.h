@@ -27,6 +27,9 @@ struct PieceCount {
   std::string newLetters;
   std::vector<std::uint32_t> newWordBytes;
   std::int32_t wordsRead = 0;
+  /// Every occurrence, in the order of the text, by the number of the word; only if it was asked
+  /// for.
+  std::vector<std::uint32_t> order;
   /// Whether a comment that is open in front of the piece makes a difference to it.
   bool looksForComments = false;
   /// ScanSettings::OpenComment in front of the piece, and behind it.
@@ -40,9 +43,10 @@ struct PieceCount {
 class PieceScanner {
  public:
   /// Everything but the settings must outlive the scanner. The settings' flags and lists are those
-  /// of all pieces. A scan ends early, and its result is worth nothing, once `stop` is set.
+  /// of all pieces. A scan ends early, and its result is worth nothing, once `stop` is set. With
+  /// `keepOrder` the results have the order of words.
   PieceScanner(ScanSettings settings, const ScanChoices& choices, const WordLists& lists,
-               const std::atomic<bool>& stop);
+               const std::atomic<bool>& stop, bool keepOrder = false);
 
   /// Scans `text`, whole lines. `settings` has its markers and says which comment is open.
   [[nodiscard]] PieceCount Scan(std::string_view text, const ScanSettings& settings);
@@ -69,6 +73,7 @@ class PieceScanner {
   const ScanChoices& choices_;
   const WordLists& lists_;
   WordStore store_;
+  WordOrderRecorder order_;
   StopTest stopTest_;
   WordScanner scanner_;
   std::atomic<bool> forget_ = false;
@@ -81,7 +86,8 @@ class PieceJoiner {
  public:
   /// To be called in the order of the pieces. New words come into the store in the order of the
   /// text. Throws RunTimeError 6 as the store does; then pieces cannot be joined any more until the
-  /// numbers begin anew. The store is neither sorted nor cleared between two calls.
+  /// numbers begin anew. The store is neither sorted nor cleared between two calls. If it has a
+  /// listener to the order of words, the piece has that order.
   void Join(const PieceCount& piece, WordStore& store);
   /// A piece is left out: there are numbers now of which nothing is known, until they begin anew.
   void LeaveOut() { knowsNumbers_ = false; }
@@ -94,6 +100,7 @@ class PieceJoiner {
   bool knowsNumbers_ = true;
   /// The places in the store, by the number of the word.
   std::vector<std::uint32_t> places_;
+  std::vector<std::uint32_t> order_;
 };
 
 }  // namespace quillomat

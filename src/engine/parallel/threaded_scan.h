@@ -32,7 +32,8 @@ class ThreadedScan {
   struct Target {
     /// The allow flags are ready. The markers may change between two texts.
     ScanSettings& settings;
-    /// Neither sorted nor cleared as long as the scan lives.
+    /// Neither sorted nor cleared as long as the scan lives. A listener to the order of words is
+    /// there from the start, or there is none.
     WordStore& store;
     std::int32_t& wordsRead;
   };
@@ -42,7 +43,7 @@ class ThreadedScan {
                std::size_t threads, std::size_t pieceBytes = LinePieces::kPieceBytes)
       : target_(target),
         pieceBytes_(pieceBytes),
-        pool_(target.settings, choices, lists, threads),
+        pool_(target.settings, choices, lists, threads, target.store.OrderListener() != nullptr),
         joiners_(std::max<std::size_t>(threads, 1)),
         openComments_(target.settings, choices, lists,
                       std::min(OpenCommentFinder::kLookedAt, 1 + pieceBytes / 4)),

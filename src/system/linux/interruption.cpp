@@ -3,7 +3,11 @@
 #include <array>
 #include <atomic>
 #include <csignal>
+#include <cstddef>
+#include <dirent.h>
+#include <fcntl.h>
 #include <poll.h>
+#include <sys/types.h>
 #include <unistd.h>
 
 #include "system/signals.h"
@@ -28,6 +32,19 @@ void OnSignal(int signal) {
   if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return;
   RemoveUnfinishedFiles();
   _exit(status);
+}
+
+/// By the system's own call: what the library reads folders with allocates.
+void EmptyFolder(int folder) noexcept {
+  constexpr std::size_t kBlockBytes = 4096;
+  alignas(dirent64) std::array<char, kBlockBytes> block{};
+  for (ssize_t bytes = 0; (bytes = getdents64(folder, block.data(), block.size())) > 0;) {
+    for (ssize_t at = 0; at < bytes;) {
+      const auto* const entry = reinterpret_cast<const dirent64*>(block.data() + at);
+      unlinkat(folder, entry->d_name, 0);
+      at += entry->d_reclen;
+    }
+  }
 }
 
 sigset_t SignalsThatEnd() {
@@ -76,8 +93,12 @@ void WaitAMoment() noexcept {
   poll(nullptr, 0, 1);
 }
 
-void RemoveFileInHandler(const char* path) noexcept {
-  unlink(path);
+void RemoveInHandler(const char* path) noexcept {
+  if (unlink(path) == 0) return;
+  const int folder = open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0) return;
+  EmptyFolder(folder);
+  rmdir(path);
 }
 
 }  // namespace quillomat

@@ -90,6 +90,11 @@ void MakeFolder(const std::string& path, std::error_code& error) {
   fs::create_directory(path, error);
 }
 
+void MakePrivateFolder(const std::string& path, std::error_code& error) {
+  const bool made = mkdir(path.c_str(), S_IRWXU) == 0;
+  error = made ? std::error_code() : std::error_code(errno, std::generic_category());
+}
+
 void EnterFolder(const std::string& path, std::error_code& error) {
   fs::current_path(path, error);
 }
@@ -118,6 +123,11 @@ void MoveFileOver(const std::string& fresh, const std::string& target, std::erro
 void RemoveFile(const std::string& path) {
   std::error_code ignored;
   fs::remove(path, ignored);
+}
+
+void RemoveFolder(const std::string& path) {
+  std::error_code ignored;
+  if (!fs::remove(path, ignored)) fs::remove_all(path, ignored);
 }
 
 }  // namespace quillomat

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <csignal>
-#include <ctime>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -13,6 +11,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "system/linux/signal_shield.h"
 #include "system/native_path.h"
 #include "system/paths.h"
 #include "system/system_error.h"
@@ -67,32 +66,6 @@ void WaitUntilWritable(int descriptor) {
   pollfd waiting{.fd = descriptor, .events = POLLOUT, .revents = 0};
   poll(&waiting, 1, -1);
 }
-
-/// While it lives, a write that would end the program by a signal (a pipe without a reader, a file
-/// beyond the user's limit) just fails. Only this thread is concerned, and nothing stays changed.
-class SignalShield {
- public:
-  SignalShield() {
-    sigemptyset(&signals_);
-    sigaddset(&signals_, SIGPIPE);
-    sigaddset(&signals_, SIGXFSZ);
-    pthread_sigmask(SIG_BLOCK, &signals_, &before_);
-  }
-  SignalShield(const SignalShield&) = delete;
-  SignalShield& operator=(const SignalShield&) = delete;
-  SignalShield(SignalShield&&) = delete;
-  SignalShield& operator=(SignalShield&&) = delete;
-  ~SignalShield() {
-    const timespec atOnce{};
-    while (sigtimedwait(&signals_, nullptr, &atOnce) >= 0 || errno == EINTR) {
-    }
-    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
-  }
-
- private:
-  sigset_t signals_{};
-  sigset_t before_{};
-};
 
 /// Whether an error in making one file says that another would not fare better.
 bool IsOfTheDisk(int errnoValue) {

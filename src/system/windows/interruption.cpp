@@ -52,8 +52,9 @@ void WaitAMoment() noexcept {
 }
 
 // The thread is an ordinary one, so that it may do what others may.
-void RemoveFileInHandler(const char* path) noexcept {
+void RemoveInHandler(const char* path) noexcept {
   RemoveFile(path);
+  RemoveFolder(path);
 }
 
 }  // namespace quillomat

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "system/windows/handle_identity.h"
+#include "system/paths.h"
 #include "system/windows/system_path.h"
 #include "system/windows/wide_text.h"
 #include "system/windows/windows_error.h"
@@ -145,6 +146,11 @@ void MakeFolder(const std::string& path, std::error_code& error) {
   TakeError(isThere ? TRUE : FALSE, error);
 }
 
+// The folder for such files is the user's own.
+void MakePrivateFolder(const std::string& path, std::error_code& error) {
+  TakeError(CreateDirectoryW(SystemPath(path).c_str(), nullptr), error);
+}
+
 void EnterFolder(const std::string& path, std::error_code& error) {
   TakeError(SetCurrentDirectoryW(ToWide(path).c_str()), error);
 }
@@ -180,6 +186,14 @@ void MoveFileOver(const std::string& fresh, const std::string& target, std::erro
 
 void RemoveFile(const std::string& path) {
   DeleteFileW(SystemPath(path).c_str());
+}
+
+void RemoveFolder(const std::string& path) {
+  std::error_code ignored;
+  const FolderListing items = ItemsOfFolder(path, ignored);
+  for (const std::string& file : items.files) RemoveFile(JoinPath(path, file));
+  for (const std::string& folder : items.subfolders) RemoveFolder(JoinPath(path, folder));
+  RemoveDirectoryW(SystemPath(path).c_str());
 }
 
 }  // namespace quillomat

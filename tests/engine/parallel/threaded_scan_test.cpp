@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/byte_source.h"
@@ -31,6 +32,7 @@ class ThreadedScanTest : public EngineFixture {
     std::string told;
     std::string words;
     std::string files;
+    std::vector<std::uint32_t> order;
     std::int32_t read = 0;
     int open = -1;
 
@@ -38,7 +40,9 @@ class ThreadedScanTest : public EngineFixture {
   };
 
   Outcome Described(const ToldWords& told) {
-    Outcome outcome{told.told, Words(), "", wordsRead, settings.OpenComment};
+    Outcome outcome{told.told,           Words(), "", std::move(order_.places), wordsRead,
+                    settings.OpenComment};
+    order_.places.clear();
     for (std::int32_t i = 1; i <= store.NumDifferentWords() && store.Files().IsOn(); ++i) {
       const FileTally& files = *store.FilesOf(i);
       for (std::size_t k = 0; k < files.FileNumbers.size(); ++k) {
@@ -54,6 +58,7 @@ class ThreadedScanTest : public EngineFixture {
     settings.OpenComment = -1;
     store.Files().Reset(settings.CountOnlyMode);
     store.SetListener(&told);
+    store.SetOrderListener(&order_);
     wordsRead = 0;
   }
 
@@ -88,6 +93,8 @@ class ThreadedScanTest : public EngineFixture {
     }
     return Described(told);
   }
+
+  WordOrderRecorder order_;
 
   static std::string RandomText(std::mt19937_64& random, std::size_t words) {
     static const std::vector<std::string> kPieces = {

@@ -7,10 +7,12 @@
 #include <thread>
 #include <unistd.h>
 
+#include "support/environment.h"
 #include "system/desktop_test.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
 #include "system/output_file.h"
+#include "system/scratch_folder.h"
 
 namespace quillomat {
 namespace {
@@ -68,6 +70,22 @@ TEST_F(InterruptionTest, RemovesEveryUnfinishedFileAndNoFinishedOne) {
             }),
             kInterruptedStatus);
   EXPECT_EQ(ListFolder(folder_.Path()).files, (std::vector<std::string>{"out", "whole"}));
+}
+
+TEST_F(InterruptionTest, RemovesAScratchFolderWithItsFiles) {
+  const ScopedVariable place("TMPDIR", folder_.Path());
+  EXPECT_EQ(StatusOf([] {
+              const Interruption interruption;
+              const ScratchFolder scratch;
+              for (int i = 0; i < 300; ++i) {
+                OutputFile file(scratch.Path() + "/a file with a long name " + std::to_string(i));
+                file.Close();
+              }
+              raise(SIGINT);
+            }),
+            kInterruptedStatus);
+  EXPECT_TRUE(ListFolder(folder_.Path()).subfolders.empty());
+  ExpectTheOldFileAlone();
 }
 
 TEST_F(InterruptionTest, OnAnotherThreadEndsTheProgramJustSo) {

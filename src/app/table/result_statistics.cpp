@@ -1,0 +1,59 @@
+#include "app/table/result_statistics.h"
+
+#include <cstdint>
+#include <variant>
+
+#include "base/text_helpers.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+std::string Localized(double number, const NumberSigns& signs) {
+  return ReplaceAll(NumberText(number), ".", signs.decimal);
+}
+
+std::string ValueOf(const StatisticValue& value, const NumberSigns& signs) {
+  if (const auto* whole = std::get_if<std::int64_t>(&value))
+    return GroupDigits(*whole, signs.group);
+  if (const auto* number = std::get_if<double>(&value)) return Localized(*number, signs);
+  return std::get<std::string>(value);
+}
+
+}  // namespace
+
+ResultStatistics::ResultStatistics(const CurrentWords& words, const ProgramText& text)
+    : words_(words), text_(text) {
+  words_.WordsRanked.Connect([this] {
+    hasWords_ = true;
+    statistics_.reset();
+    Changed.Fire();
+  });
+  words_.WordsGo.Connect([this] {
+    if (!hasWords_) return;
+    hasWords_ = false;
+    statistics_.reset();
+    Changed.Fire();
+  });
+}
+
+std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& signs) {
+  std::vector<Row> rows;
+  if (!hasWords_) return rows;
+  if (!statistics_) statistics_ = StatisticsOf(words_.store, words_.orderFigures);
+  for (const Statistic& statistic : ListStatistics(*statistics_)) {
+    const std::string name = text_.GetText(kFirstStatisticText + static_cast<int>(statistic.name));
+    const auto* points = std::get_if<std::vector<GrowthPoint>>(&statistic.value);
+    if (points == nullptr) {
+      rows.push_back({name, ValueOf(statistic.value, signs)});
+      continue;
+    }
+    for (const GrowthPoint& point : *points) {
+      rows.push_back({ReplaceAll(name, "%1", GroupDigits(point.instances, signs.group)),
+                      GroupDigits(point.differentWords, signs.group)});
+    }
+  }
+  return rows;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,45 @@
+// The statistics of the last count, a row each, which can be copied.
+#pragma once
+
+#include <QAction>
+#include <QCheckBox>
+#include <QTableWidget>
+#include <QWidget>
+
+#include "app/program.h"
+#include "app/table/result_statistics.h"
+#include "app/table/row_cells.h"
+
+namespace quillomat {
+
+class StatisticsPage final : public QWidget {
+ public:
+  /// `program` outlives the page.
+  explicit StatisticsPage(Program& program, QWidget* parent = nullptr);
+
+  void SetTexts(const ProgramText& text);
+
+  /// The choice whether figures that need the order of words are worked out, too.
+  [[nodiscard]] QCheckBox& OrderBox() { return *orderBox_; }
+  [[nodiscard]] const QCheckBox& OrderBox() const { return *orderBox_; }
+  [[nodiscard]] QTableWidget& Table() { return *table_; }
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void SetUpTable();
+  void ShowRows();
+  void CopySelected() const;
+
+  NumberSigns signs_;
+  ResultStatistics statistics_;
+  // Children of the page.
+  QCheckBox* orderBox_;
+  QTableWidget* table_;
+  QAction* copy_;
+  /// What is shown is not what was counted.
+  bool isOld_ = true;
+};
+
+}  // namespace quillomat
