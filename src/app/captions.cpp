@@ -68,7 +68,7 @@ void SetItems(const ProgramText& text, ParamsForm& frmParams) {
 }
 
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
-                 HelpForm& frmHelp) {
+                 HelpForm& frmHelp, ExportForm& frmExport) {
   frmMain.SetCaption(text.GetText(kProgramTitleText) + " " + VersionText());
   SetCaptionsOf(frmMain, CaptionsOf(SettingWindow::kMain), text);
   SetToolTipsOf(frmMain, ToolTipsOf(SettingWindow::kMain), text);
@@ -79,6 +79,9 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
   SetToolTipsOf(frmHelp, kHelpFormToolTips, text);
+  frmExport.SetCaption(text.GetText(kExportFormCaption));
+  SetCaptionsOf(frmExport, kExportFormCaptions, text);
+  SetToolTipsOf(frmExport, kExportFormToolTips, text);
 }
 
 }  // namespace quillomat

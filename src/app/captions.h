@@ -7,6 +7,7 @@
 #include "app/settings_table.h"
 #include "text/caption_table.h"
 #include "text/program_text.h"
+#include "ui/export_form.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -24,6 +25,6 @@ void SetItems(const ProgramText& text, ParamsForm& frmParams);
 /// Sets all captions that are numbered texts, but for the count command's, which follows from what
 /// is done (ShowCountCaption).
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
-                 HelpForm& frmHelp);
+                 HelpForm& frmHelp, ExportForm& frmExport);
 
 }  // namespace quillomat

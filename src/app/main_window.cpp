@@ -1,8 +1,6 @@
 #include "app/main_window.h"
 
-#include <cstddef>
 #include <string>
-#include <utility>
 
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
@@ -42,17 +40,6 @@ void MainWindow::FillListCombos() {
     const bool served = lister_.CanServe(static_cast<DisplayFormat>(listIndex));
     return served ? std::string() : messages_.Text(kFormatNotServedText);
   });
-}
-
-std::string MainWindow::NotFoundText() const {
-  const ListPart part = output_.Part();
-  if (!part.IsCut()) return messages_.Text(kNotFoundText);
-  std::string text = messages_.Text(kNotFoundInPartText);
-  for (const auto& [sign, number] : {std::pair("%1", part.shown), std::pair("%2", part.all)}) {
-    const std::size_t place = text.find(sign);
-    if (place != std::string::npos) text.replace(place, 2, messages_.Grouped(number));
-  }
-  return text;
 }
 
 void MainWindow::ConnectOutput() {

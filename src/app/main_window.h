@@ -1,8 +1,6 @@
 // The main window: what its commands and labels do. Its rows for texts and paths are SourceRows.
 #pragma once
 
-#include <string>
-
 #include "app/count/count_run.h"
 #include "app/count/run_state.h"
 #include "app/count/window_state.h"
@@ -33,10 +31,6 @@ class MainWindow {
 
   /// Connects the window's controls with what they do. Called once.
   void Connect();
-
-  /// What is said when something is not found in the output text box, which may hold but a part of
-  /// the list.
-  [[nodiscard]] std::string NotFoundText() const;
 
   /// Fills the combo boxes of word orders and display formats and selects the first items.
   void FillListCombos();

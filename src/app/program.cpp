@@ -8,6 +8,7 @@
 #include "app/captions.h"
 #include "app/count/named_text.h"
 #include "app/count/window_state.h"
+#include "app/list/not_found.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "app/setting_values.h"
@@ -51,7 +52,7 @@ void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
 }  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
-    : desktop_(desktop), parts_(frmMain, frmParams, frmHelp, desktop, std::move(clock)) {
+    : desktop_(desktop), parts_(frmMain, frmParams, frmHelp, frmExport, desktop, std::move(clock)) {
   UseThreads(UsualScanThreads());
   Connect();
 }
@@ -61,6 +62,10 @@ void Program::Connect() {
   parts_.mainWindow.Connect();
   parts_.panel.Connect([this] { Initialize(); });
   parts_.help.Connect();
+  parts_.notices.Connect();
+  parts_.exports.Connect();
+  parts_.notices.SetExporter([this] { parts_.exports.Open(); });
+  frmMain.cmdExport.Click.Connect([this] { parts_.exports.Open(); });
   parts_.savedState.Connect([this] { Initialize(); });
   frmMain.cmdLanguage.Click.Connect([this] { ToggleLanguage(); });
   frmMain.cmdQuit.Click.Connect([this] { Quit(); });
@@ -79,7 +84,7 @@ bool Program::Start(const StartOptions& options) {
     parts_.text.SetLanguage(ReadLanguage(desktop_.UserKeys()));
   }
   if (!parts_.text.LoadProgramText(kProgramTextFile, desktop_)) return false;
-  SetCaptions(parts_.text, frmMain, frmParams, frmHelp);
+  SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
   parts_.controls.ShowCountCaption();
   parts_.controls.EnableControls(true);
   FillLists();
@@ -153,6 +158,12 @@ void Program::ForgetWords() {
   ConcealNumWords(frmMain, true);
 }
 
+std::string Program::NotFoundText(std::string_view wanted) const {
+  const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
+  return quillomat::NotFoundText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
+                                 parts_.text, DigitGroupSeparator());
+}
+
 void Program::UseSettingsFolder() {
   parts_.savedState.SetSettingsFilePath(
       SettingsFilePath(kSettingsFile, std::string(kSettingsFolderName)));
@@ -171,8 +182,9 @@ void Program::RestoreUserSettings() {
 
 void Program::ToggleLanguage() {
   parts_.text.ToggleLanguage(desktop_.UserKeys());
-  SetCaptions(parts_.text, frmMain, frmParams, frmHelp);
+  SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
   parts_.controls.ShowCountCaption();
+  parts_.notices.Update();
 }
 
 void Program::Quit() {

@@ -5,12 +5,14 @@
 #include <chrono>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "app/program_parts.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 #include "ui/event.h"
+#include "ui/export_form.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -57,6 +59,7 @@ class Program {
   MainForm frmMain;
   ParamsForm frmParams;
   HelpForm frmHelp;
+  ExportForm frmExport;
 
   // What it is doing, and the words that it has counted.
   [[nodiscard]] const RunState& State() const { return parts_.run; }
@@ -79,8 +82,13 @@ class Program {
     return parts_.messages.DigitGroupSeparator();
   }
 
-  /// What is said when a word is not found in the output text box.
-  [[nodiscard]] std::string NotFoundText() const { return parts_.mainWindow.NotFoundText(); }
+  /// The line above the list, and the window that exports it.
+  [[nodiscard]] NoticeBar& Notices() { return parts_.notices; }
+  [[nodiscard]] ExportWindow& Exports() { return parts_.exports; }
+
+  /// What is said when a word is not found in the output text box, which may hold but a part of the
+  /// list: where in the list it stands.
+  [[nodiscard]] std::string NotFoundText(std::string_view wanted) const;
 
   /// From now on the empty path of a state file means the one in the user's settings folder.
   void UseSettingsFolder();

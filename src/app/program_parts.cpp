@@ -5,7 +5,7 @@
 namespace quillomat {
 
 ProgramParts::ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& frmHelp,
-                           Desktop& desktop, EventPump::Clock clock)
+                           ExportForm& frmExport, Desktop& desktop, EventPump::Clock clock)
     : pump(desktop, std::move(clock)),
       run(pump),
       messages(desktop, text),
@@ -23,6 +23,8 @@ ProgramParts::ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& f
               flags),
       mainWindow(frmMain, output, messages, run, controls, lister, countRun, flags, desktop),
       panel(frmMain, frmParams, messages, run, words, inForce, flags, wordLists),
-      help(frmMain, frmHelp) {}
+      help(frmMain, frmHelp),
+      notices(frmMain, frmParams, output, messages, run, words, inForce, countRun, desktop),
+      exports(frmMain, frmParams, frmExport, messages, run, pump, words, inForce, paths, desktop) {}
 
 }  // namespace quillomat

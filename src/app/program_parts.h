@@ -11,18 +11,21 @@
 #include "app/count/window_count.h"
 #include "app/count/window_state.h"
 #include "app/count/word_list_reader.h"
+#include "app/exports/export_window.h"
 #include "app/help_window.h"
 #include "app/list/current_words.h"
 #include "app/list/output_box.h"
 #include "app/list/word_lister.h"
 #include "app/main_window.h"
 #include "app/messages.h"
+#include "app/notices/notice_bar.h"
 #include "app/parameters_panel.h"
 #include "app/saved_state.h"
 #include "app/source_rows.h"
 #include "app/window_flags.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
+#include "ui/export_form.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -32,8 +35,8 @@ namespace quillomat {
 
 struct ProgramParts {
   /// All must outlive the parts. Nothing is connected yet.
-  ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& frmHelp, Desktop& desktop,
-               EventPump::Clock clock);
+  ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& frmHelp, ExportForm& frmExport,
+               Desktop& desktop, EventPump::Clock clock);
 
   // What is known.
   EventPump pump;
@@ -62,6 +65,8 @@ struct ProgramParts {
   MainWindow mainWindow;
   ParametersPanel panel;
   HelpWindow help;
+  NoticeBar notices;
+  ExportWindow exports;
 };
 
 }  // namespace quillomat

@@ -33,6 +33,14 @@ bool HasDefault(const Setting& setting, const Control& control) {
   return box != nullptr && static_cast<int>(box->Value()) == initial;
 }
 
+std::string ValueTextOf(const Control& control) {
+  if (const auto* box = control.As<CheckBox>())
+    return std::to_string(static_cast<int>(box->Value()));
+  if (const auto* combo = control.As<ComboBox>()) return combo->Text();
+  if (const auto* text = control.As<TextBox>()) return text->Text();
+  return {};
+}
+
 std::vector<CheckBox*> BoxesInClearingOrder(const ParamsForm& frmParams) {
   std::vector<CheckBox*> boxes;
   for (const std::string_view name : kClearingOrder) {

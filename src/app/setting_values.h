@@ -20,6 +20,9 @@ namespace quillomat {
 void SetToDefault(const Setting& setting, Control& control);
 [[nodiscard]] bool HasDefault(const Setting& setting, const Control& control);
 
+/// The value as a text: of a check box 0, 1 or 2, of a list the item, of a text box its text.
+[[nodiscard]] std::string ValueTextOf(const Control& control);
+
 /// The panel's check boxes in the order in which "Clear checkboxes" goes through them.
 [[nodiscard]] std::vector<CheckBox*> BoxesInClearingOrder(const ParamsForm& frmParams);
 

@@ -7,21 +7,14 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 #include <iosfwd>
 #include <optional>
 #include <string>
 
+#include "base/work_pace.h"
 #include "cli/terminal_streams.h"
 
 namespace quillomat {
-
-/// How far a count is.
-struct BytesDone {
-  std::int64_t done = 0;
-  /// 0 where it is not known.
-  std::int64_t whole = 0;
-};
 
 class ProgressLine {
  public:

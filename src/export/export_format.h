@@ -21,11 +21,11 @@ struct ExportFormatInfo {
 inline constexpr std::array<ExportFormatInfo, 7> kExportFormats = {{
     {ExportFormat::kCsv, "csv", "CSV"},
     {ExportFormat::kTsv, "tsv", "TSV"},
-    {ExportFormat::kXlsx, "xlsx", "Excel workbook"},
+    {ExportFormat::kXlsx, "xlsx", "Excel"},
     {ExportFormat::kHtml, "html", "HTML"},
     {ExportFormat::kMarkdown, "md", "Markdown"},
     {ExportFormat::kJson, "json", "JSON"},
-    {ExportFormat::kJsonLines, "jsonl", "JSON lines"},
+    {ExportFormat::kJsonLines, "jsonl", "JSON Lines"},
 }};
 
 /// The format of a file by the ending of its name, in any letter case ("htm" is HTML, too); nothing

@@ -12,14 +12,15 @@
 
 namespace quillomat {
 
-FindBar::FindBar(QPlainTextEdit& list, std::function<QString()> notFound)
+FindBar::FindBar(QPlainTextEdit& list, NotFound notFound)
     : list_(list), notFound_(std::move(notFound)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
   auto* row = new FlowLayout;
   lines->addLayout(row);
   for (QWidget* part : {static_cast<QWidget*>(&label_), static_cast<QWidget*>(&word_),
-                        static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_)}) {
+                        static_cast<QWidget*>(&previous_), static_cast<QWidget*>(&next_),
+                        static_cast<QWidget*>(&place_)}) {
     row->addWidget(part);
   }
   // In a line of its own: beside the commands a long one would become a narrow column.
@@ -39,6 +40,10 @@ void FindBar::SetTexts(const ProgramText& text) {
   label_.setText(ToQt(text.GetText(kFindText)));
   next_.setText(ToQt(text.GetText(kFindNextText)));
   previous_.setText(ToQt(text.GetText(kFindPreviousText)));
+  next_.setToolTip(QStringLiteral("F3"));
+  previous_.setToolTip(QKeySequence(Qt::SHIFT | Qt::Key_F3).toString(QKeySequence::NativeText));
+  placeOfPlaces_ = ToQt(text.GetText(kPlaceOfPlacesText));
+  place_.clear();
   word_.setAccessibleName(label_.text());
   ShowOutcome({});
 }
@@ -53,10 +58,17 @@ void FindBar::Open() {
   word_.setFocus(Qt::ShortcutFocusReason);
 }
 
+void FindBar::FindAgain(bool backward) {
+  if (word_.text().isEmpty()) return Open();
+  show();
+  Find(backward, false);
+}
+
 /// Goes round at the end of the list. `fromHere`: what is selected may stay found, as the user goes
 /// on typing.
 void FindBar::Find(bool backward, bool fromHere) {
   ShowOutcome({});
+  place_.clear();
   if (word_.text().isEmpty()) return;
   const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   QTextCursor start = list_.textCursor();
@@ -67,11 +79,26 @@ void FindBar::Find(bool backward, bool fromHere) {
     found = list_.document()->find(word_.text(), start, flags);
   }
   if (found.isNull()) {
-    ShowOutcome(notFound_());
+    ShowOutcome(notFound_(word_.text()));
     return Announce(outcome_);
   }
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
+  ShowPlace(found);
+}
+
+/// The places do not overlap, as the search goes on behind the one that it has found.
+void FindBar::ShowPlace(const QTextCursor& found) {
+  const QString text = list_.document()->toRawText();
+  const QString& word = word_.text();
+  int places = 0;
+  int place = 0;
+  for (qsizetype at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
+       at = text.indexOf(word, at + word.size(), Qt::CaseInsensitive)) {
+    ++places;
+    if (at <= found.selectionStart()) place = places;
+  }
+  place_.setText(placeOfPlaces_.arg(place).arg(places));
 }
 
 void FindBar::ShowOutcome(const QString& outcome) {

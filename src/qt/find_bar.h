@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextCursor>
 #include <QWidget>
 #include <functional>
 
@@ -14,8 +15,11 @@ namespace quillomat {
 
 class FindBar : public QWidget {
  public:
-  /// `list` must outlive the bar. `notFound` says what is shown when a word is not there.
-  FindBar(QPlainTextEdit& list, std::function<QString()> notFound);
+  /// Says what is shown when a word is not there.
+  using NotFound = std::function<QString(const QString& wanted)>;
+
+  /// `list` must outlive the bar.
+  FindBar(QPlainTextEdit& list, NotFound notFound);
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);
@@ -23,11 +27,17 @@ class FindBar : public QWidget {
   /// Shows the bar and puts the keyboard there.
   void Open();
 
+  /// Goes on to the next or the previous place; opens the bar where nothing was looked for yet.
+  void FindNext() { FindAgain(false); }
+  void FindPrevious() { FindAgain(true); }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void FindAgain(bool backward);
   void Find(bool backward, bool fromHere);
+  void ShowPlace(const QTextCursor& found);
   /// What has come of a search; "" for nothing to say.
   void ShowOutcome(const QString& outcome);
   void Close();
@@ -37,8 +47,11 @@ class FindBar : public QWidget {
   QLineEdit word_;
   QPushButton previous_;
   QPushButton next_;
+  /// "3 of 7".
+  QLabel place_;
   QLabel outcome_;
-  std::function<QString()> notFound_;
+  QString placeOfPlaces_;
+  NotFound notFound_;
 };
 
 }  // namespace quillomat

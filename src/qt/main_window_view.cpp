@@ -17,6 +17,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/count/pace_text.h"
 #include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
@@ -26,6 +27,10 @@
 
 namespace quillomat {
 namespace {
+
+// The keys of the views.
+constexpr QLatin1String kTextView("text");
+constexpr QLatin1String kTableView("table");
 
 /// The files and folders of this machine.
 std::vector<std::string> DroppedPaths(const QMimeData& data) {
@@ -48,17 +53,21 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_((ui_->setupUi(this), *ui_->txbOutput),
-               [&program] { return ToQt(program.NotFoundText()); }),
+      findBar_(
+          (ui_->setupUi(this), *ui_->txbOutput),
+          [&program](const QString& wanted) { return ToQt(program.NotFoundText(FromQt(wanted))); }),
+      noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),
-      statistics_(new StatisticsPage(program)) {
+      statistics_(new StatisticsPage(program)),
+      fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)) {
   setAcceptDrops(true);
   MakeRowsFlow(*this);
   ui_->splitter->setStretchFactor(1, 1);  // a wider window is for the list
   connect(ui_->splitter, &QSplitter::splitterMoved, this,
           [this] { ui_->splitter->setProperty(kPlacedByUser, true); });
   PlaceNotices();
+  PlaceNoticeStrip();
   BindControls();
   PlaceViews();
   for (QLineEdit* box : {ui_->txbFile_0, ui_->txbFile_1}) {
@@ -88,15 +97,38 @@ void MainWindowView::PlaceViews() {
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(ui_->txbOutput, 1);
   column->addWidget(&findBar_);
-  views_->Add(text, QStringLiteral("text"), kTextViewText, [this] { findBar_.Open(); });
-  views_->Add(table_, QStringLiteral("table"), kTableViewText, [this] { table_->Find(); });
+  views_->setCornerWidget(fold_, Qt::TopLeftCorner);
+  views_->Add(text, kTextView, kTextViewText, [this] { findBar_.Open(); });
+  views_->Add(table_, kTableView, kTableViewText, [this] { table_->Find(); });
   views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText);
   // What stands below the views comes behind them on the keyboard's way, too.
   setTabOrder(&table_->View(), &statistics_->OrderBox());
   setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
   setTabOrder(&statistics_->Table(), ui_->cmdCopyToClipboard);
-  setTabOrder(ui_->cmdCopyToClipboard, ui_->cmdClearOutput);
+  setTabOrder(ui_->cmdCopyToClipboard, ui_->cmdExport);
+  setTabOrder(ui_->cmdExport, ui_->cmdClearOutput);
   setTabOrder(ui_->cmdClearOutput, ui_->cmdClipboardViewer);
+  ConnectViews();
+  // Later, when what was folded has been laid out.
+  connect(
+      fold_, &SettingsFold::toggled, this,
+      [this] {
+        if (std::exchange(fitsWhenUnfolded_, false)) FitSettings();
+      },
+      Qt::QueuedConnection);
+}
+
+/// The notices speak of the view in front, and exports of what the table shows.
+void MainWindowView::ConnectViews() {
+  NoticeBar& notices = program_.Notices();
+  notices.SetTableShower([this] {
+    views_->Show(kTableView);
+    table_->setFocus(Qt::OtherFocusReason);
+  });
+  connect(views_, &QTabWidget::currentChanged, this,
+          [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
+  program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
+  table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
 }
 
 /// The notices stand over the empty list.
@@ -113,6 +145,23 @@ void MainWindowView::PlaceNotices() {
     link->setFocusPolicy(Qt::TabFocus);
   }
   ShowNoticesInWindowFont();
+}
+
+/// Above all that shows the result.
+void MainWindowView::PlaceNoticeStrip() {
+  static_cast<QVBoxLayout*>(ui_->paneResult->layout())->insertWidget(0, noticeStrip_);
+  QWidget* before = ui_->cmdQuit;
+  for (QPushButton* command : noticeStrip_->Commands()) {
+    setTabOrder(before, command);
+    before = command;
+  }
+  Label& lblNotice = program_.frmMain.lblNotice;
+  lblNotice.Changed.Connect([this, &lblNotice] {
+    noticeStrip_->setVisible(lblNotice.Visible());
+    // Later, when the text is shown.
+    QMetaObject::invokeMethod(
+        this, [this] { noticeStrip_->AnnounceNotice(); }, Qt::QueuedConnection);
+  });
 }
 
 std::array<QLabel*, 3> MainWindowView::Notices() const {
@@ -142,7 +191,9 @@ void MainWindowView::SetTexts(const ProgramText& text) {
   views_->SetTexts(text);
   table_->SetTexts(text);
   statistics_->SetTexts(text);
+  fold_->SetTexts(text);
   fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
+  noticeStrip_->SetDismissName(ToQt(text.GetText(kDismissNoticeText)));
   ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
   ShowProgress();
   // Later, when the captions stand.
@@ -164,7 +215,8 @@ void MainWindowView::AlignLabels() {
 /// has placed the splitter.
 void MainWindowView::FitSettings() {
   QSplitter& splitter = *ui_->splitter;
-  if (splitter.property(kPlacedByUser).toBool()) return;
+  fitsWhenUnfolded_ = fold_->IsFolded();
+  if (splitter.property(kPlacedByUser).toBool() || fitsWhenUnfolded_) return;
   const int settings = std::min(ui_->paneSettings->sizeHint().width(), splitter.width() / 2);
   splitter.setSizes({settings, splitter.width() - settings - splitter.handleWidth()});
 }
@@ -184,10 +236,7 @@ void MainWindowView::ShowProgress() {
   QProgressBar& bar = *ui_->barProgress;
   bar.setVisible(shown.has_value());
   if (!shown) return;
-  QString format = QStringLiteral("%p %");
-  if (shown->files > 0) {
-    format = fileOfFiles_.arg(shown->file).arg(shown->files) + QStringLiteral(" \u2013 ") + format;
-  }
+  const QString format = ProgressFormat(*shown);
   if (bar.format() != format) bar.setFormat(format);
   bar.setValue(static_cast<int>(shown->Share() * bar.maximum()));
 }
@@ -200,6 +249,21 @@ void MainWindowView::ConnectAnnouncements() {
     ShowChanges();
     announce(*ui_->lblNumberOfWords);
   });
+}
+
+/// The pace is told where there is room for it.
+QString MainWindowView::ProgressFormat(const Progress& progress) const {
+  const QString dash = QStringLiteral(" \u2013 ");
+  QString format = QStringLiteral("%p %");
+  if (progress.files > 0) {
+    format = fileOfFiles_.arg(progress.file).arg(progress.files) + dash + format;
+  }
+  const QString pace = ToQt(PaceText(progress, program_.Text()));
+  if (pace.isEmpty()) return format;
+  const QString whole = format + dash + pace;
+  const QProgressBar& bar = *ui_->barProgress;
+  return bar.fontMetrics().horizontalAdvance(whole + QStringLiteral("00")) < bar.width() ? whole
+                                                                                         : format;
 }
 
 void MainWindowView::ConnectKeys() {
@@ -216,6 +280,14 @@ void MainWindowView::ConnectKeys() {
   };
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
           [this] { views_->Find(); });
+  const auto findAgain = [this](QKeySequence::StandardKey key, auto find) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, [this, find] {
+      if (views_->Current() != kTextView) return views_->Find();
+      find(findBar_);
+    });
+  };
+  findAgain(QKeySequence::FindNext, [](FindBar& bar) { bar.FindNext(); });
+  findAgain(QKeySequence::FindPrevious, [](FindBar& bar) { bar.FindPrevious(); });
 }
 
 void MainWindowView::ConnectZoom() {

@@ -12,7 +12,9 @@
 #include "qt/find_bar.h"
 #include "qt/form_window.h"
 #include "qt/list_view.h"
+#include "qt/notice_strip.h"
 #include "qt/result_tabs.h"
+#include "qt/settings_fold.h"
 #include "qt/statistics_page.h"
 #include "qt/table_page.h"
 
@@ -33,6 +35,7 @@ class MainWindowView final : public FormWindow {
 
   [[nodiscard]] ListView& List() const;
   [[nodiscard]] FindBar& Finder() { return findBar_; }
+  [[nodiscard]] SettingsFold& Fold() { return *fold_; }
   /// The views of the result, and that of them which is a table.
   [[nodiscard]] ResultTabs& Views() { return *views_; }
   [[nodiscard]] TablePage& Table() { return *table_; }
@@ -53,7 +56,9 @@ class MainWindowView final : public FormWindow {
 
  private:
   void PlaceViews();
+  void ConnectViews();
   void PlaceNotices();
+  void PlaceNoticeStrip();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;
   void ShowNoticesInWindowFont();
   void ConnectKeys();
@@ -63,14 +68,19 @@ class MainWindowView final : public FormWindow {
   void ConnectProgress();
   void ConnectAnnouncements();
   void ShowProgress();
+  [[nodiscard]] QString ProgressFormat(const Progress& progress) const;
 
   Program& program_;
   std::unique_ptr<Ui::frmMain> ui_;
   FindBar findBar_;
   // Children of the window.
+  NoticeStrip* noticeStrip_;
   ResultTabs* views_;
   TablePage* table_;
   StatisticsPage* statistics_;
+  SettingsFold* fold_;
+  /// The settings were folded when they should have got their width.
+  bool fitsWhenUnfolded_ = false;
   /// Since a count has listed its words, and nobody has been told.
   bool listIsNew_ = false;
   /// "File %1 of %2".

@@ -4,11 +4,13 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
+#include "qt/accessible_names.h"
 #include "qt/flow_row.h"
 #include "qt/path_completion.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
 #include "system/settings_folder.h"
+#include "ui_export_form.h"
 #include "ui_help_form.h"
 #include "ui_params_form.h"
 
@@ -26,12 +28,15 @@ Windows::Windows(Program& program, QtDesktop& desktop)
     : program_(program),
       main_(program),
       panel_(std::make_unique<FormWindow>(program.frmParams, &main_)),
-      help_(std::make_unique<FormWindow>(program.frmHelp, &main_)) {
+      help_(std::make_unique<FormWindow>(program.frmHelp, &main_)),
+      export_(std::make_unique<FormWindow>(program.frmExport, &main_)) {
   MakePanel();
   MakeHelp();
+  MakeExport();
   ResizeOnScreen(main_, QSize(1024, 700).expandedTo(main_.sizeHint()));
   ResizeOnScreen(*panel_, QSize(860, 660).expandedTo(panel_->sizeHint()));
   ResizeOnScreen(*help_, QSize(760, 600).expandedTo(help_->sizeHint()));
+  ResizeOnScreen(*export_, QSize(640, 380).expandedTo(export_->sizeHint()));
   LeaveOthersWhenActivated(desktop);
   desktop.SetWindow(&main_);
   const auto listFormat = [&program] { return program.Output().ListFormat(); };
@@ -64,9 +69,32 @@ void Windows::MakeHelp() {
   help_->onEscape = [&frmHelp] { frmHelp.cmdClose.PerformClick(); };
 }
 
+void Windows::MakeExport() {
+  Ui::frmExport ui;
+  ui.setupUi(export_.get());
+  MakeRowsFlow(*export_);
+  export_->BindControls();
+  new PathSuggestions(*ui.txbFile, PathKind::kFile);
+  ExportForm& frmExport = program_.frmExport;
+  export_->onEnter = [&frmExport] { frmExport.cmdExport.PerformClick(); };
+  export_->onEscape = [&frmExport] {
+    // Closing rests while the export runs, which Escape stops.
+    CommandButton& close = frmExport.cmdClose;
+    (close.Enabled() ? close : frmExport.cmdExport).PerformClick();
+  };
+  export_->onHelp = main_.onHelp;
+  QWidget* state = ui.lblState;
+  frmExport.lblState.Changed.Connect([this, &frmExport, state] {
+    if (frmExport.lblState.Caption().empty() || program_.State().Busy()) return;
+    // Later, when it is shown.
+    QMetaObject::invokeMethod(
+        state, [state] { Announce(*state); }, Qt::QueuedConnection);
+  });
+}
+
 /// A box that is left for another window of the program is left all the same.
 void Windows::LeaveOthersWhenActivated(QtDesktop& desktop) {
-  const std::array<FormWindow*, 3> windows = {&main_, panel_.get(), help_.get()};
+  const std::array<FormWindow*, 4> windows = {&main_, panel_.get(), help_.get(), export_.get()};
   for (FormWindow* window : windows) {
     window->onActivated = [windows, window, &desktop] {
       desktop.SetWindow(window);
@@ -84,6 +112,7 @@ void Windows::ShowChanges() {
   main_.ShowChanges();
   panel_->ShowChanges();
   help_->ShowChanges();
+  export_->ShowChanges();
 }
 
 /// The toolkit's own buttons ("Cancel") speak the language of the program.
@@ -109,7 +138,9 @@ void Windows::RestorePlaces() {
   memory.Restore(main_);
   memory.Restore(*panel_);
   memory.Restore(*help_);
+  memory.Restore(*export_);
   memory.RestoreZoom(main_.List());
+  main_.Fold().SetFolded(memory.SettingsFolded());
   memory.RestoreView(main_.Views());
   memory.RestoreColumns(main_.Table().View().Columns());
   memory.RestoreOrderFigures(main_.StatisticsView().OrderBox());
@@ -120,10 +151,11 @@ void Windows::KeepPlaces() {
   const WindowMemory memory = Memory();
   for (const QWidget* window :
        {static_cast<const QWidget*>(&main_), static_cast<const QWidget*>(panel_.get()),
-        static_cast<const QWidget*>(help_.get())}) {
+        static_cast<const QWidget*>(help_.get()), static_cast<const QWidget*>(export_.get())}) {
     memory.Keep(*window);
   }
   memory.KeepZoom(main_.List());
+  memory.KeepSettingsFolded(main_.Fold().IsFolded());
   memory.KeepView(main_.Views());
   memory.KeepColumns(main_.Table().View().Columns());
   memory.KeepOrderFigures(main_.StatisticsView().OrderBox());

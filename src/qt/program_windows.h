@@ -1,4 +1,4 @@
-// The program's three windows on the screen, and what holds them together.
+// The program's windows on the screen, and what holds them together.
 #pragma once
 
 #include <QTranslator>
@@ -18,6 +18,7 @@ class Windows {
   MainWindowView& Main() { return main_; }
   FormWindow& Panel() { return *panel_; }
   FormWindow& Help() { return *help_; }
+  FormWindow& Export() { return *export_; }
 
   /// Shows what has changed in any of them.
   void ShowChanges();
@@ -29,6 +30,7 @@ class Windows {
  private:
   void MakePanel();
   void MakeHelp();
+  void MakeExport();
   void LeaveOthersWhenActivated(QtDesktop& desktop);
   void ShowLanguage();
 
@@ -38,6 +40,7 @@ class Windows {
   MainWindowView main_;
   std::unique_ptr<FormWindow> panel_;
   std::unique_ptr<FormWindow> help_;
+  std::unique_ptr<FormWindow> export_;
 };
 
 }  // namespace quillomat

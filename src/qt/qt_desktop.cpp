@@ -2,14 +2,17 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QStandardPaths>
 #include <mutex>
 #include <utility>
+#include <QVBoxLayout>
 
 #include "qt/text_conversion.h"
 #include "system/locale_info.h"
@@ -17,6 +20,9 @@
 
 namespace quillomat {
 namespace {
+
+/// Of a window that shows lines.
+constexpr QSize kUsualTextSize(640, 360);
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -148,6 +154,24 @@ MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
   shown.setStandardButtons(set.buttons);
   shown.setEscapeButton(set.onEscape);
   return AnswerOf(shown.exec());
+}
+
+void QtDesktop::ShowText(const std::string& lines, const std::string& title) {
+  Repaint();
+  QDialog shown(BoxParent());
+  shown.setWindowTitle(ToQt(title));
+  auto* column = new QVBoxLayout(&shown);
+  auto* text = new QPlainTextEdit(ToQtLines(lines), &shown);
+  text->setReadOnly(true);
+  text->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text->setTabChangesFocus(true);
+  text->setAccessibleName(shown.windowTitle());
+  column->addWidget(text);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &shown);
+  QObject::connect(buttons, &QDialogButtonBox::rejected, &shown, &QDialog::reject);
+  column->addWidget(buttons);
+  shown.resize(kUsualTextSize);
+  shown.exec();
 }
 
 std::string QtDesktop::AskForText(const InputBox& box) {

@@ -31,6 +31,7 @@ class QtDesktop final : public Desktop {
   void SetWindow(QWidget* window) { window_ = window; }
 
   MessageAnswer ShowMessage(const MessageBox& box) override;
+  void ShowText(const std::string& lines, const std::string& title) override;
   std::string AskForText(const InputBox& box) override;
   std::optional<std::string> ChooseFile(const FileDialog& dialog) override;
   std::optional<std::string> BrowseForFolder(const std::string& title,

@@ -11,6 +11,7 @@ namespace quillomat {
 namespace {
 
 const char* const kZoomKey = "list/zoom";
+const char* const kFoldedKey = "settings/folded";
 const char* const kViewKey = "result/view";
 const char* const kColumnsKey = "table/columns";
 const char* const kColumnWidthsKey = "table/widths";
@@ -62,6 +63,16 @@ void WindowMemory::RestoreZoom(ListView& list) const {
 void WindowMemory::KeepZoom(const ListView& list) const {
   QSettings settings(path_, QSettings::IniFormat);
   settings.setValue(QLatin1String(kZoomKey), list.Zoom());
+}
+
+bool WindowMemory::SettingsFolded() const {
+  const QSettings settings(path_, QSettings::IniFormat);
+  return settings.value(QLatin1String(kFoldedKey), false).toBool();
+}
+
+void WindowMemory::KeepSettingsFolded(bool folded) const {
+  QSettings settings(path_, QSettings::IniFormat);
+  settings.setValue(QLatin1String(kFoldedKey), folded);
 }
 
 void WindowMemory::RestoreView(ResultTabs& views) const {

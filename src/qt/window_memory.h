@@ -27,6 +27,9 @@ class WindowMemory {
   void Keep(const QWidget& window) const;
   void RestoreZoom(ListView& list) const;
   void KeepZoom(const ListView& list) const;
+  /// Whether the settings are folded away.
+  [[nodiscard]] bool SettingsFolded() const;
+  void KeepSettingsFolded(bool folded) const;
   /// Which view of the result is in front.
   void RestoreView(ResultTabs& views) const;
   void KeepView(const ResultTabs& views) const;

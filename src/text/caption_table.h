@@ -49,6 +49,8 @@ inline constexpr auto kMainFormCaptions = std::to_array<ControlCaption>({
     {"cmdQuit", 124},
     {"fraSource", 125},
     {"fraOutput", 126},
+    {"cmdDismissNotice", 723},
+    {"cmdExport", 719},
 });
 
 /// Tool tips of frmMain.
@@ -75,6 +77,10 @@ inline constexpr auto kMainFormToolTips = std::to_array<ControlCaption>({
     {"cmdClipboardViewer", 424},
     {"cmdHelp", 425},
     {"cmdQuit", 426},
+    {"cmdNotice(0)", 724},
+    {"cmdNotice(1)", 724},
+    {"cmdDismissNotice", 720},
+    {"cmdExport", 725},
     {"lblOnlineDocumentation", 427},
     {"lblOrvandelSystems", 428},
     {"lblCopyrightNotice", 429},
@@ -153,14 +159,80 @@ inline constexpr auto kHelpFormToolTips = std::to_array<ControlCaption>({
     {"cmdClose", 521},
 });
 
+/// The window frmExport itself.
+inline constexpr int kExportFormCaption = 730;
+
+/// Of frmExport.
+inline constexpr auto kExportFormCaptions = std::to_array<ControlCaption>({
+    {"lblFile", 731},
+    {"cmdChooseFile", 732},
+    {"lblFormat", 733},
+    {"lblOrder", 734},
+    {"lblFirst", 735},
+    {"chkFiltered", 736},
+    {"fraColumns", 737},
+    {"cmdExport", 738},
+    {"cmdClose", 739},
+    {"chkColumn(0)", 630},
+    {"chkColumn(1)", 631},
+    {"chkColumn(2)", 632},
+    {"chkColumn(3)", 633},
+    {"chkColumn(4)", 634},
+    {"chkColumn(5)", 635},
+    {"chkColumn(6)", 636},
+    {"chkColumn(7)", 747},
+    {"chkColumn(8)", 748},
+});
+
+/// Tool tips of frmExport.
+inline constexpr auto kExportFormToolTips = std::to_array<ControlCaption>({
+    {"txbFile", 770},
+    {"cmdChooseFile", 771},
+    {"cboFormat", 772},
+    {"cboOrder", 773},
+    {"txbFirst", 774},
+    {"chkFiltered", 775},
+    {"cmdExport", 776},
+    {"cmdClose", 777},
+    {"chkColumn(0)", 780},
+    {"chkColumn(1)", 781},
+    {"chkColumn(2)", 782},
+    {"chkColumn(3)", 783},
+    {"chkColumn(4)", 784},
+    {"chkColumn(5)", 785},
+    {"chkColumn(6)", 786},
+    {"chkColumn(7)", 787},
+    {"chkColumn(8)", 788},
+});
+
+// What frmExport says.
+inline constexpr int kExportCommandText = 738;
+inline constexpr int kNothingToExportText = 750;
+inline constexpr int kNoExportFileText = 751;
+inline constexpr int kNoExportFolderText = 752;
+inline constexpr int kExportIsTextText = 753;
+inline constexpr int kExportIsWordsFileText = 754;
+inline constexpr int kExportIsStateText = 755;
+inline constexpr int kNoColumnChosenText = 756;
+inline constexpr int kFirstWordsFaultText = 757;
+inline constexpr int kExportFailedText = 758;
+inline constexpr int kExportDoneText = 759;
+inline constexpr int kExportStoppedText = 760;
+inline constexpr int kExportProgressText = 761;
+/// The last line of the question about a file that exists.
+inline constexpr int kCancelExportText = 762;
+
 // Texts of the bar that finds a word in the list.
 inline constexpr int kFindText = 530;
 inline constexpr int kFindNextText = 531;
 inline constexpr int kNotFoundText = 532;
 inline constexpr int kFindPreviousText = 533;
-/// In place of kNotFoundText while the text box holds a part of the list: "%1" stands for the
-/// number of its words that it holds, "%2" for the number of all.
-inline constexpr int kNotFoundInPartText = 534;
+/// In place of kNotFoundText where the list goes on below the text box and holds the word, or one
+/// with it in it: "%1" stands for its rank, "%2" for its frequency, "%3" for the word.
+inline constexpr int kFoundBelowText = 534;
+inline constexpr int kSimilarFoundBelowText = 535;
+/// Which of the places found, and of how many.
+inline constexpr int kPlaceOfPlacesText = 536;
 
 /// Why a display format is of no use now.
 inline constexpr int kFormatNotServedText = 540;
@@ -171,6 +243,12 @@ inline constexpr int kNoPathDroppedText = 542;
 // Texts of the progress bar.
 inline constexpr int kProgressText = 550;
 inline constexpr int kFileOfFilesText = 551;
+/// "%1" stands for what is read in a second, "%2" for the time that is left.
+inline constexpr int kPaceText = 552;
+
+// The button that folds the settings away.
+inline constexpr int kHideSettingsText = 560;
+inline constexpr int kShowSettingsText = 561;
 
 // The views of a result: their titles, and the table of words.
 inline constexpr int kTextViewText = 600;
@@ -202,5 +280,26 @@ inline constexpr int kOrderFiguresTipText = 671;
 inline constexpr int kStatisticsNameText = 672;
 inline constexpr int kFigureColumnText = 673;
 inline constexpr int kValueColumnText = 674;
+
+// The line above the list, and what its commands are called.
+inline constexpr int kFilesSkippedText = 700;
+inline constexpr int kFileSkippedText = 701;
+inline constexpr int kListOfFileText = 702;
+inline constexpr int kListOfFolderText = 703;
+inline constexpr int kListOfClipboardText = 704;
+inline constexpr int kSettingsChangedText = 705;
+inline constexpr int kOnlyWordsCountedText = 706;
+inline constexpr int kOnlyWordCountedText = 707;
+inline constexpr int kPartShownText = 708;
+inline constexpr int kWordsLeftOutText = 709;
+inline constexpr int kWordLeftOutText = 710;
+inline constexpr int kWhichText = 715;
+inline constexpr int kCountAgainText = 716;
+inline constexpr int kChangeText = 717;
+inline constexpr int kExportText = 719;
+inline constexpr int kDismissNoticeText = 720;
+/// What the list of skipped files is called, and its last line when not all are known by name.
+inline constexpr int kSkippedTitleText = 721;
+inline constexpr int kMoreSkippedText = 722;
 
 }  // namespace quillomat

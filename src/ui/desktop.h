@@ -92,6 +92,11 @@ class Desktop {
   /// is Cancel where there is such a button, else Ok or No.
   virtual MessageAnswer ShowMessage(const MessageBox& box) = 0;
 
+  /// Shows lines that may be many, to be read and scrolled through; waits until they are closed.
+  virtual void ShowText(const std::string& lines, const std::string& title) {
+    ShowMessage({lines, title, MessageIcon::kInformation});
+  }
+
   /// The text that the user left in the box; "" when the user cancelled.
   virtual std::string AskForText(const InputBox& box) = 0;
 

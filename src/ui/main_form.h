@@ -57,6 +57,13 @@ class MainForm final : public Form {
   Label lblOrvandelSystems{*this, "lblOrvandelSystems", "Orvandel Systems"};
   CommandButton cmdClearOutput{*this, "cmdClearOutput", "Clear textbox"};
   CommandButton cmdCopyToClipboard{*this, "cmdCopyToClipboard", "Copy to clipboard"};
+  CommandButton cmdExport{*this, "cmdExport", "Export..."};
+
+  // The line above the output: what it does not show by itself, and what can be done about it.
+  Label lblNotice{*this, "lblNotice"};
+  std::array<CommandButton, 2> cmdNotice{CommandButton{*this, {"cmdNotice", 0}, ""},
+                                         CommandButton{*this, {"cmdNotice", 1}, ""}};
+  CommandButton cmdDismissNotice{*this, "cmdDismissNotice", "\u00D7"};
 
   // The result of a count.
   Frame fraSummary{*this, "fraSummary"};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 
 namespace quillomat {
@@ -13,6 +14,8 @@ struct Progress {
   /// The file that is being read, counted from 1, of so many; 0 of 0 where there is just one text.
   std::int32_t file = 0;
   std::int32_t files = 0;
+  /// Since the work began.
+  std::chrono::milliseconds elapsed{0};
 
   bool operator==(const Progress&) const = default;
 

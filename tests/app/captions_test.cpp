@@ -12,6 +12,7 @@
 #include "base/utf8.h"
 #include "system/input_file.h"
 #include "text/program_text.h"
+#include "ui/export_form.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
@@ -114,6 +115,14 @@ TEST_F(DeliveredTextsTest, HelpWindow) {
   EXPECT_NE(In(Language::kGerman, kHelpFormCaption), "");
 }
 
+TEST_F(DeliveredTextsTest, ExportWindow) {
+  const ExportForm form;
+  ExpectCaptionsOf(form, kExportFormCaptions);
+  EXPECT_THAT(WithoutEntry(form, kExportFormCaptions), testing::IsEmpty());
+  EXPECT_EQ(In(Language::kEnglish, kExportFormCaption), form.Caption());
+  EXPECT_NE(In(Language::kGerman, kExportFormCaption), form.Caption());
+}
+
 TEST_F(DeliveredTextsTest, ToolTips) {
   const MainForm frmMain;
   const ParamsForm frmParams;
@@ -121,6 +130,7 @@ TEST_F(DeliveredTextsTest, ToolTips) {
   ExpectToolTipsOf(frmMain, ToolTipsOf(SettingWindow::kMain));
   ExpectToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel));
   ExpectToolTipsOf(frmHelp, kHelpFormToolTips);
+  ExpectToolTipsOf(ExportForm(), kExportFormToolTips);
 }
 
 TEST_F(DeliveredTextsTest, TextsOfTheFindBar) {

@@ -218,25 +218,27 @@ TEST_F(MainWindowTest, FormatsThatTheSourceCannotServeHaveAReasonAgainstThem) {
   EXPECT_EQ(formats.ListIndex(), 0);
 }
 
-TEST_F(MainWindowTest, WhatIsNotFoundInAPartOfTheListIsSaidSo) {
-  EXPECT_EQ(program.NotFoundText(), "Not found");
+TEST_F(MainWindowTest, WhatStandsBelowTheTextIsFoundInTheList) {
+  EXPECT_EQ(program.NotFoundText("cat"), "Not found");
   std::string words;
   for (int i = 0; i < 12'000; ++i) {
     std::string word = "wo";
     for (int rest = i, k = 0; k < 4; ++k, rest /= 26) word += static_cast<char>('a' + rest % 26);
     words += word + "\n";
   }
-  Main().cboDisplayFormat.SetListIndex(8);
+  words += "zebra zebracrossing z\u00FCge";  // the last ones, as all occur once
   CountFile(folder.Write("many.txt", words));
-  const std::string shown = Output().substr(Output().find("\r\n") + 2);
-  const auto lines = std::count(shown.begin(), shown.end(), '\n');
-  EXPECT_EQ(program.NotFoundText(), "Not found: the box holds the first " +
-                                        GroupDigits(lines, ",") +
-                                        " of 12,000 words. An output file holds all.");
+  ASSERT_TRUE(program.Output().Part().IsCut());
+  const std::string below = ", frequency 1, below the end of this text";
+  EXPECT_EQ(program.NotFoundText("Zebra"), "rank 12,001" + below);
+  EXPECT_EQ(program.NotFoundText("bracro"), "zebracrossing: rank 12,002" + below);
+  EXPECT_EQ(program.NotFoundText("Z\u00DCGE"), "rank 12,003" + below);
+  EXPECT_EQ(program.NotFoundText("zebras"), "Not found");
+  EXPECT_EQ(program.NotFoundText("woaaaa"), "Not found") << "it stands in the text";
   Main().cmdClearOutput.PerformClick();
-  EXPECT_EQ(program.NotFoundText(), "Not found");
+  EXPECT_EQ(program.NotFoundText("zebra"), "Not found");
   CountClipboard("cat dog");
-  EXPECT_EQ(program.NotFoundText(), "Not found");
+  EXPECT_EQ(program.NotFoundText("zebra"), "Not found");
 }
 
 TEST_F(MainWindowTest, DeniedFileIsNamedAndNoNoticeOfWorkStays) {

@@ -109,11 +109,16 @@ TEST_F(Windows, MainWindow) {
                            {"txbOutput", kText, kAnyCaption, ""},
                            {"cmdClearOutput", kCommand, "Clear textbox"},
                            {"cmdCopyToClipboard", kCommand, "Copy to clipboard"},
+                           {"cmdExport", kCommand, "Export..."},
                            {"Label1", kLabel, "Order of the words in the list:"},
                            {"Label2", kLabel, "What each line of the list shows:"},
                            {"lblCopyrightNotice", kLabel, kAnyCaption},
                            {"lblOrvandelSystems", kLabel, kAnyCaption},
                            {"lblOnlineDocumentation", kLabel, kAnyCaption},
+                           {"lblNotice", kLabel, ""},
+                           {"cmdNotice(0)", kCommand, ""},
+                           {"cmdNotice(1)", kCommand, ""},
+                           {"cmdDismissNotice", kCommand, kAnyCaption},
                            {"fraSummary", kFrame, ""},
                            {"lblNumberOfWords", kLabel, ""},
                            {"lblNumWordsExcluded", kLabel, ""},
@@ -133,7 +138,7 @@ TEST_F(Windows, MainWindow) {
                           "word freq no.files", "word file-list", "word file-list (+freq)"));
 }
 
-TEST_F(Windows, OnTheMainWindowOnlyTheClipboardViewerCannotBeUsedAndOnlyTheNumbersAreHidden) {
+TEST_F(Windows, OnlyTheClipboardViewerCannotBeUsedAndOnlyNumbersAndTheNoticeAreHidden) {
   std::vector<std::string> disabled;
   std::vector<std::string> hidden;
   for (const Control* control : program.frmMain.Controls()) {
@@ -141,7 +146,8 @@ TEST_F(Windows, OnTheMainWindowOnlyTheClipboardViewerCannotBeUsedAndOnlyTheNumbe
     if (!control->Visible()) hidden.push_back(control->Name());
   }
   EXPECT_THAT(disabled, ElementsAre("cmdClipboardViewer"));
-  EXPECT_THAT(hidden, ElementsAre("lblNumberOfWords", "lblNumWordsExcluded", "lblNumOccurrences",
+  EXPECT_THAT(hidden, ElementsAre("lblNotice", "cmdNotice(0)", "cmdNotice(1)", "cmdDismissNotice",
+                                  "lblNumberOfWords", "lblNumWordsExcluded", "lblNumOccurrences",
                                   "lblTotalNumOccurrences"));
 }
 

@@ -16,7 +16,7 @@ may_include() {
     sources) echo base system engine listing ;;
     ui) echo base system ;;
     text) echo base system ui ;;
-    app) echo base system engine listing sources ui text ;;
+    app) echo base system engine listing export sources ui text ;;
     cli) echo base system engine listing export sources ui text app ;;
     qt) echo base system engine listing sources ui text app ;;
   esac

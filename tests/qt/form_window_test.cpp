@@ -53,7 +53,8 @@ TEST(FormWindowBinding, WidgetOfAnotherKindIsAnError) {
 
 TEST_F(FormWindowTest, EveryControlIsShownAsItIs) {
   for (const Form* form : {static_cast<const Form*>(&frmMain), static_cast<const Form*>(&frmParams),
-                           static_cast<const Form*>(&user->program.frmHelp)}) {
+                           static_cast<const Form*>(&user->program.frmHelp),
+                           static_cast<const Form*>(&user->program.frmExport)}) {
     for (const Control* control : form->Controls()) {
       SCOPED_TRACE(control->Name());
       auto& widget = user->WidgetOf<QWidget>(*control);

@@ -163,6 +163,21 @@ class LayoutTest : public WindowFixture, public testing::WithParamInterface<int>
     user->Click(frmMain.cmdCountWords);
   }
 
+  /// More than the text box holds, so that there is something to tell.
+  void CountMany() {
+    std::string text;
+    for (int i = 0; i < 60'000; ++i) {
+      std::string word = "word";
+      for (int rest = i % 6000; rest > 0; rest /= 26) {
+        word.push_back(static_cast<char>('a' + rest % 26));
+      }
+      text += word + " ";
+    }
+    user->program.Sources().ChooseText(folder.Write("many words.txt", text));
+    boxes.Answer(QMessageBox::Ok);
+    user->Click(frmMain.cmdCountWords);
+  }
+
   const Letters letters{GetParam()};
   MainForm& frmMain = user->program.frmMain;
 };
@@ -189,6 +204,15 @@ TEST_P(LayoutTest, MainWindowWithTheFindBar) {
   }
 }
 
+TEST_P(LayoutTest, MainWindowWithTheSettingsFolded) {
+  CountMany();
+  user->windows.Main().Fold().SetFolded(true);
+  for (int language = 0; language < 2; ++language) {
+    ExpectWellLaidOutAtAllSizes(user->windows.Main());
+    frmMain.cmdLanguage.Click.Fire();
+  }
+}
+
 TEST_P(LayoutTest, MainWindowWhileItCounts) {
   frmMain.cmdCountWords.SetCaption("Stop");
   frmMain.lblNumWordsExcluded.SetCaption("This is a Macintosh-type file.");
@@ -196,6 +220,29 @@ TEST_P(LayoutTest, MainWindowWhileItCounts) {
   frmMain.lblNumOccurrences.SetVisible(true);
   frmMain.lblNumOccurrences.SetProgress(Progress{500, 1000, 123'456, 234'567});
   ExpectWellLaidOutAtAllSizes(user->windows.Main());
+}
+
+TEST_P(LayoutTest, MainWindowWithANotice) {
+  CountMany();
+  for (int language = 0; language < 2; ++language) {
+    ASSERT_TRUE(user->WidgetOf<QLabel>(frmMain.lblNotice).isVisible());
+    ExpectWellLaidOutAtAllSizes(user->windows.Main());
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
+TEST_P(LayoutTest, Export) {
+  ExportForm& frmExport = user->program.frmExport;
+  user->program.Exports().SetFilter([] { return std::vector<std::int32_t>{1}; });
+  Count();
+  for (int language = 0; language < 2; ++language) {
+    user->Click(frmMain.cmdExport);
+    ASSERT_TRUE(user->windows.Export().isVisible());
+    frmExport.lblState.SetCaption("/a/path/that/is/rather/long/list of words.csv is written.");
+    ExpectWellLaidOutAtAllSizes(user->windows.Export());
+    user->Click(frmExport.cmdClose);
+    user->Click(frmMain.cmdLanguage);
+  }
 }
 
 TEST_P(LayoutTest, Panel) {
@@ -232,6 +279,24 @@ TEST_F(WindowLayout, ListShowsThirtyLinesInAWindowOfUsualSize) {
   }
 }
 
+TEST_F(WindowLayout, ListShowsThirtyLinesBelowANoticeToo) {
+  ASSERT_TRUE(user->Start());
+  MainForm& frmMain = user->program.frmMain;
+  frmMain.lblNotice.SetCaption("The text shows 1,770 of 12,586 words.");
+  frmMain.lblNotice.SetVisible(true);
+  for (CommandButton& command : frmMain.cmdNotice) {
+    command.SetCaption("Export...");
+    command.SetVisible(true);
+  }
+  for (const bool finding : {false, true}) {
+    if (finding) user->windows.Main().Finder().Open();
+    user->windows.Main().resize(1024, 700);
+    user->Settle();
+    const ListView& list = user->windows.Main().List();
+    EXPECT_GE(list.viewport()->height() / list.fontMetrics().lineSpacing(), 30) << finding;
+  }
+}
+
 TEST_F(WindowLayout, SettingsScrollOnlyWhereTheyMust) {
   const Letters letters(9);
   ASSERT_TRUE(user->Start());
@@ -262,6 +327,43 @@ TEST_F(WindowLayout, SplitterIsRemembered) {
   user = std::make_unique<ProgramOnDesktop>();
   ASSERT_TRUE(user->Start());
   EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+  // Also by way of a fold.
+  user->windows.Main().Fold().SetFolded(true);
+  user->Settle();
+  user->windows.Main().Fold().SetFolded(false);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+  user->windows.Main().Fold().SetFolded(true);
+  user->program.Quit();
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().Fold().SetFolded(false);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+}
+
+TEST_F(WindowLayout, SettingsAreFoldedByAKeyAndThatIsRemembered) {
+  ASSERT_TRUE(user->Start());
+  QWidget& main = user->windows.Main();
+  main.resize(780, 580);
+  user->Settle();
+  user->WidgetOf<QWidget>(user->program.frmMain.cmdCountWords).setFocus();
+  const int width = user->windows.Main().List().width();
+  QTest::keyClick(&main, Qt::Key_F9);
+  user->Settle();
+  EXPECT_FALSE(main.findChild<QWidget*>("paneSettings")->isVisible());
+  EXPECT_GT(user->windows.Main().List().width(), width);
+  EXPECT_TRUE(user->windows.Main().List().hasFocus());
+  EXPECT_EQ(user->windows.Main().Fold().accessibleName(), "Show the settings");
+  user->program.Quit();
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  auto& again = user->windows.Main();
+  EXPECT_FALSE(again.findChild<QWidget*>("paneSettings")->isVisible());
+  QTest::mouseClick(&again.Fold(), Qt::LeftButton);
+  user->Settle();
+  EXPECT_TRUE(again.findChild<QWidget*>("paneSettings")->isVisible());
+  EXPECT_NEAR(again.List().width(), width, 10);
 }
 
 TEST_F(WindowLayout, NoWindowOpensLargerThanItsScreen) {
@@ -346,11 +448,12 @@ TEST_F(WindowLayout, WhatFindSaysIsALineAndNotAColumn) {
   user->Click(user->program.frmMain.cmdCountWords);
   FindBar& bar = user->windows.Main().Finder();
   bar.Open();
-  QTest::keyClicks(bar.findChild<QLineEdit*>(), "nowhere");
+  QTest::keyClicks(bar.findChild<QLineEdit*>(), "wordzzz");
   user->Settle();
   const auto labels = bar.findChildren<QLabel*>();
-  const auto outcome = std::ranges::find_if(
-      labels, [](const QLabel* label) { return label->text().contains("17,576 words"); });
+  const auto outcome = std::ranges::find_if(labels, [](const QLabel* label) {
+    return label->text().contains("below the end of this text");
+  });
   ASSERT_NE(outcome, labels.end());
   EXPECT_LE((*outcome)->height(), 2 * (*outcome)->fontMetrics().lineSpacing());
 }

@@ -180,6 +180,48 @@ TEST_F(MainWindowViewTest, OneBarShowsTheWholeRun) {
   EXPECT_TRUE(user->WidgetOf<QLabel>(frmMain.lblTotalNumOccurrences).isVisible());
 }
 
+TEST_F(MainWindowViewTest, BarTellsThePaceWhereThereIsRoom) {
+  auto* bar = user->windows.Main().findChild<QProgressBar*>();
+  const std::chrono::seconds elapsed(2);
+  frmMain.lblNumOccurrences.SetVisible(true);
+  frmMain.lblNumOccurrences.SetProgress(Progress{200'000'000, 1'000'000'000, 3, 12, elapsed});
+  user->windows.Main().resize(1600, 900);
+  user->Settle();
+  frmMain.lblNumOccurrences.SetProgress(Progress{400'000'000, 1'000'000'000, 3, 12, elapsed});
+  user->Settle();
+  EXPECT_EQ(FromQt(bar->text()), "File 3 of 12 \u2013 40 % \u2013 200 MB/s, 0:03 left");
+  bar->setFixedWidth(160);
+  frmMain.lblNumOccurrences.SetProgress(Progress{500'000'000, 1'000'000'000, 3, 12, elapsed});
+  EXPECT_EQ(FromQt(bar->text()), "File 3 of 12 \u2013 50 %");
+}
+
+TEST_F(MainWindowViewTest, FoundPlacesAreCountedAndKeysGoThroughThem) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat cats dog bobcat\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence(Qt::Key_F3));
+  FindBar& bar = user->windows.Main().Finder();
+  ASSERT_TRUE(bar.isVisible()) << "nothing was looked for yet";
+  auto* word = bar.findChild<QLineEdit*>();
+  const auto says = [&bar](const QString& text) {
+    const auto labels = bar.findChildren<QLabel*>();
+    return std::ranges::any_of(labels, [&](const QLabel* label) { return label->text() == text; });
+  };
+  QTest::keyClicks(word, "CAT");
+  EXPECT_TRUE(says("1 of 3"));
+  QTest::keyClick(word, Qt::Key_Return);
+  EXPECT_TRUE(says("2 of 3"));
+  QTest::keyClick(word, Qt::Key_Escape);
+  Press(QKeySequence(Qt::Key_F3));
+  EXPECT_TRUE(says("3 of 3"));
+  Press(QKeySequence(Qt::Key_F3));
+  EXPECT_TRUE(says("1 of 3")) << "round the end";
+  Press(QKeySequence(Qt::SHIFT | Qt::Key_F3));
+  EXPECT_TRUE(says("3 of 3"));
+  QTest::keyClicks(word, "x");
+  EXPECT_TRUE(says("Not found"));
+  EXPECT_FALSE(says("3 of 3"));
+}
+
 TEST_F(MainWindowViewTest, NumbersOfTheSummaryStandApart) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu cat\n"));
   user->Click(frmMain.cmdCountWords);

@@ -55,6 +55,24 @@ class Photographer {
     user_.Click(user_.program.frmMain.cmdHelp);
     Save(user_.windows.Help(), "help-" + language);
     user_.Click(user_.program.frmHelp.cmdClose);
+    user_.Click(user_.program.frmMain.cmdExport);
+    Save(user_.windows.Export(), "export-" + language);
+    user_.Click(user_.program.frmExport.cmdClose);
+    TakeNotice(language);
+  }
+
+  /// A list of a part of the words, with the settings folded away.
+  void TakeNotice(const QString& language) {
+    const auto ignore = [this](const char* words) {
+      user_.program.frmParams.txbWordsToIgnoreOrCount[0].SetText(words);
+      user_.Click(user_.program.frmMain.cmdCountWords);
+    };
+    ignore("the and of der die das und");
+    Save(user_.windows.Main(), "notice-" + language);
+    user_.windows.Main().Fold().SetFolded(true);
+    Save(user_.windows.Main(), "folded-" + language);
+    user_.windows.Main().Fold().SetFolded(false);
+    ignore("");
   }
 
   /// The table of words, filtered by the beginning of words unless that is "".
@@ -106,6 +124,9 @@ class Photographer {
     user_.program.Sources().ChooseText(std::string(kBooks) + "/harbour_en.txt");
     user_.Click(user_.program.frmMain.cmdCountWords);
     Save(user_.windows.Main(), "main-dark");
+    user_.program.frmMain.optInFile.SetValue(true);
+    user_.program.frmMain.txbFile[0].SetText("/books/another.txt");
+    Save(user_.windows.Main(), "notice-dark");
     TakeTable("table-dark", "");
   }
 

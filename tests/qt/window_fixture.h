@@ -92,6 +92,7 @@ class ProgramOnDesktop {
 
   FormWindow& WindowOf(const Control& control) {
     if (&control.Owner() == &program.frmMain) return windows.Main();
+    if (&control.Owner() == &program.frmExport) return windows.Export();
     return &control.Owner() == &program.frmParams ? windows.Panel() : windows.Help();
   }
   template <class Widget>

@@ -70,6 +70,7 @@ bool CountRun::PrepareRun() {
     return false;
   }
   if (!count_.frmMain.optOnClipboard.Value() && !ExtensionsStand()) return false;
+  basis_ = CountBasisOf(count_.frmMain, frmParams_, count_.inForce);
   count_.inForce.settings.ReadingWordList = false;
   count_.words.listAfterStop = false;
   lister_.ForgetOutputFile();

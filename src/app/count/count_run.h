@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/count/clipboard_source.h"
+#include "app/count/count_basis.h"
 #include "app/count/file_extensions.h"
 #include "app/count/file_source.h"
 #include "app/count/folder_source.h"
@@ -72,6 +73,11 @@ class CountRun {
   /// What the last count of a folder had to skip.
   [[nodiscard]] const std::vector<SkippedItem>& Skipped() const { return folder_.Skipped(); }
 
+  /// How many that is in all.
+  [[nodiscard]] std::int64_t SkippedInAll() const { return folder_.SkippedInAll(); }
+  /// What the last count went by.
+  [[nodiscard]] const CountBasis& Basis() const { return basis_; }
+
   /// A list was made, of words that were found, since the last count began.
   [[nodiscard]] bool ListWasMade() const { return listWasMade_; }
 
@@ -105,6 +111,7 @@ class CountRun {
   FileSource file_;
   FileExtensions extensions_;
   FolderSource folder_;
+  CountBasis basis_;
   /// The output with the processing notice, and as it was before.
   std::string shownNotice_;
   std::string outputBeforeNotice_;

@@ -118,6 +118,7 @@ std::string FolderSource::FilesIn(std::int32_t files, std::int32_t folders) cons
 
 void FolderSource::TakeSkipped(const CountResult& result) {
   skipped_.clear();
+  skippedInAll_ = result.skippedInAll;
   for (const SkippedFile& skipped : result.skipped) {
     skipped_.push_back({skipped.path, ReasonText(skipped)});
   }

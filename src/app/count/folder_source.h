@@ -42,6 +42,7 @@ class FolderSource {
 
   /// What the last scan had to skip, in its order; the first of it where it is much.
   [[nodiscard]] const std::vector<SkippedItem>& Skipped() const { return skipped_; }
+  [[nodiscard]] std::int64_t SkippedInAll() const { return skippedInAll_; }
 
  private:
   [[nodiscard]] TextOfFolder Folder() const;
@@ -57,6 +58,7 @@ class FolderSource {
   PathBoxes& paths_;
   const FileExtensions& extensions_;
   std::vector<SkippedItem> skipped_;
+  std::int64_t skippedInAll_ = 0;
 };
 
 }  // namespace quillomat

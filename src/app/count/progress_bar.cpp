@@ -11,7 +11,13 @@ std::string ProgressBar::Bar(int k) {
          std::string(static_cast<std::size_t>(kWidth - tip), ' ') + "]";
 }
 
+void ProgressBar::SetProgress(Progress progress) {
+  progress.elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(clock_() - start_);
+  label_.SetProgress(progress);
+}
+
 void ProgressBar::StartProgressBar() {
+  start_ = clock_();
   label_.SetFontName("Courier New");
   label_.SetCaption("[" + std::string(kWidth, ' ') + "]");
   label_.SetVisible(true);

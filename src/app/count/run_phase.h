@@ -22,6 +22,8 @@ enum class RunPhase : std::uint8_t {
   kReading,
   /// The user has asked a count or a list to stop, and it has not ended yet.
   kStopping,
+  /// The words are exported.
+  kExporting,
 };
 
 /// What the count command says.
@@ -43,7 +45,7 @@ struct PhaseRules {
 };
 
 // clang-format off
-inline constexpr std::array<PhaseRules, 7> kPhaseRules = {{
+inline constexpr std::array<PhaseRules, 8> kPhaseRules = {{
     //                   caption               stops  sourceOptions listOptions commands wordCommands
     /* kIdle         */ {CountCaption::kCount, false, true,         true,       true,    true},
     /* kChecking     */ {CountCaption::kCount, false, false,        false,      true,    false},
@@ -52,6 +54,7 @@ inline constexpr std::array<PhaseRules, 7> kPhaseRules = {{
     /* kListingAgain */ {CountCaption::kStop,  true,  true,         false,      true,    false},
     /* kReading      */ {CountCaption::kCount, false, true,         true,       true,    false},
     /* kStopping     */ {CountCaption::kStop,  false, false,        false,      false,   false},
+    /* kExporting    */ {CountCaption::kStop,  true,  false,        false,      false,   false},
 }};
 // clang-format on
 

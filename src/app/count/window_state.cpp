@@ -78,6 +78,7 @@ void WindowControls::EnableControls(bool enable) {
   frmMain_.cmdHelp.SetEnabled(enable);
   frmMain_.cmdSetParameters.SetEnabled(enable);
   frmMain_.cmdClearOutput.SetEnabled(enable);
+  frmMain_.cmdExport.SetEnabled(enable);
   frmMain_.cmdSaveState.SetEnabled(enable);
   frmMain_.cmdListFiles.SetEnabled(enable);
   for (TextBox& box : frmMain_.txbFileExtensions) box.SetEnabled(enable);

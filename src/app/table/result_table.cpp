@@ -27,6 +27,12 @@ const WordRows* ResultTable::Rows() {
   return &*rows_;
 }
 
+std::optional<std::vector<std::int32_t>> ResultTable::FilteredPlaces() {
+  const WordRows* rows = filterInForce_.text.empty() ? nullptr : Rows();
+  if (rows == nullptr) return std::nullopt;
+  return rows->Places();
+}
+
 void ResultTable::SetOrder(RowOrder order) {
   if (order == order_) return;
   Change([&] {

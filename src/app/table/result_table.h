@@ -2,8 +2,10 @@
 // and go before its words do; the order and the filter that the user has chosen stay.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/list/current_words.h"
 #include "app/table/row_filter.h"
@@ -25,6 +27,9 @@ class ResultTable {
 
   /// The rows; null while there is no list. Made when first asked for.
   [[nodiscard]] const WordRows* Rows();
+
+  /// The alphabetical places of the words that the filter shows; nothing while there is none.
+  [[nodiscard]] std::optional<std::vector<std::int32_t>> FilteredPlaces();
 
   void SetOrder(RowOrder order);
   [[nodiscard]] RowOrder Order() const { return order_; }

@@ -108,7 +108,8 @@ TEST_F(ClipboardSourceTest, ARefusalLeavesTheWordsOfTheLastCount) {
 }
 
 TEST_F(ClipboardSourceTest, PastingPutsTheTextIntoTheOutputBoxAndNoListStandsThen) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+                     std::chrono::steady_clock::now);
   parts.words.blnWordsGot = true;
   desktop.SetClipboard("two\r\nlines");
   EXPECT_TRUE(ClipboardSource(parts.windowCount, parts.lister, desktop).ReadClipboard(true));
@@ -117,7 +118,8 @@ TEST_F(ClipboardSourceTest, PastingPutsTheTextIntoTheOutputBoxAndNoListStandsThe
 }
 
 TEST_F(ClipboardSourceTest, WithoutPastingTheOutputBoxIsOnlyEmptied) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, desktop, std::chrono::steady_clock::now);
+  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+                     std::chrono::steady_clock::now);
   parts.words.blnWordsGot = true;
   parts.output.OutputToTxb("cat");
   desktop.SetClipboard("two\r\nlines");

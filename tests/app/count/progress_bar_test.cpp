@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "app/count/pace_text.h"
 #include "app/count/sources_fixture.h"
 
 namespace quillomat {
@@ -17,6 +18,28 @@ TEST(ProgressBarText, GrowsFromATipToAFullBar) {
   EXPECT_EQ(ProgressBar::Bar(2), "[->" + std::string(37, ' ') + "]");
   EXPECT_EQ(ProgressBar::Bar(20), "[" + std::string(19, '-') + ">" + std::string(19, ' ') + "]");
   EXPECT_EQ(ProgressBar::Bar(39), "[" + std::string(38, '-') + ">]");
+}
+
+TEST(ProgressBarValue, TellsTheTimeSinceTheStart) {
+  MainForm frmMain;
+  std::chrono::steady_clock::time_point now{};
+  ProgressBar bar(frmMain.lblNumOccurrences, [&now] { return now; });
+  now += std::chrono::seconds(5);
+  bar.StartProgressBar();
+  now += std::chrono::milliseconds(1500);
+  bar.SetProgress({10, 100});
+  EXPECT_EQ(frmMain.lblNumOccurrences.ShownProgress()->elapsed, std::chrono::milliseconds(1500));
+  EXPECT_EQ(frmMain.lblNumOccurrences.ShownProgress()->done, 10);
+}
+
+TEST_F(SourcesFixture, PaceIsToldWhenItIsKnown) {
+  const auto pace = [this](std::int64_t done, std::int64_t whole, int milliseconds) {
+    return PaceText({done, whole, 0, 0, std::chrono::milliseconds(milliseconds)}, program.Text());
+  };
+  EXPECT_EQ(pace(500'000'000, 2'000'000'000, 2000), "250 MB/s, 0:06 left");
+  EXPECT_EQ(pace(500'000'000, 2'000'000'000, 900), "") << "too early to tell";
+  EXPECT_EQ(pace(0, 2'000'000'000, 2000), "");
+  EXPECT_EQ(pace(500'000'000, 0, 2000), "");
 }
 
 /// The bar as a count shows it.

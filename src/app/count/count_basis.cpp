@@ -1,0 +1,53 @@
+#include "app/count/count_basis.h"
+
+#include "app/setting_values.h"
+
+namespace quillomat {
+namespace {
+
+/// Paths and what bears on the list alone stand on the main window, too, and are no matter here.
+bool TellsFilesOfFolder(const Setting& setting) {
+  return setting.window == SettingWindow::kMain && setting.entails == Entails::kRescan &&
+         !setting.isPath;
+}
+
+bool TellsWords(const Setting& setting) {
+  return setting.window == SettingWindow::kPanel && setting.entails != Entails::kNothing;
+}
+
+std::string ValueInForce(const Setting& setting, const MainForm& frmMain,
+                         const ParamsForm& frmParams) {
+  if (!setting.switchedBy.empty()) {
+    const auto* box = frmParams.Find(setting.switchedBy)->As<CheckBox>();
+    if (box != nullptr && !box->IsChecked()) return {};
+  }
+  const Control& control = ControlOf(setting, frmMain, frmParams);
+  // By its number: an item may be called otherwise in another language.
+  if (const auto* combo = control.As<ComboBox>()) return std::to_string(combo->ListIndex());
+  return ValueTextOf(control);
+}
+
+}  // namespace
+
+CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
+                        const InForce& inForce) {
+  CountBasis basis;
+  for (const Setting& setting : AllSettings()) {
+    if (TellsWords(setting)) basis.panel.push_back(ValueInForce(setting, frmMain, frmParams));
+    if (TellsFilesOfFolder(setting))
+      basis.ofFolder.push_back(ValueInForce(setting, frmMain, frmParams));
+  }
+  const WordLists& lists = inForce.lists;
+  basis.countOnlyWords = lists.CountOnlyList.Count() + lists.ExtraCountOnlyList.Count();
+  if (basis.countOnlyWords == 0) {
+    basis.wordsToIgnore = lists.IgnoreList.Count() + lists.ExtraIgnoreList.Count();
+  }
+  return basis;
+}
+
+bool CountAlike(const CountBasis& one, const CountBasis& other, CountedText::Source source) {
+  const bool ofFolder = source == CountedText::Source::kFolder;
+  return one.panel == other.panel && (!ofFolder || one.ofFolder == other.ofFolder);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,22 @@
+#include "app/count/pace_text.h"
+
+#include <chrono>
+#include <optional>
+
+#include "base/work_pace.h"
+#include "text/caption_table.h"
+#include "text/filled_text.h"
+
+namespace quillomat {
+
+std::string PaceText(const Progress& progress, const ProgramText& text) {
+  constexpr auto kFirstMoments = std::chrono::seconds(1);
+  if (progress.elapsed < kFirstMoments) return {};
+  const BytesDone bytes{progress.done, progress.whole};
+  const std::optional<double> left = SecondsLeft(bytes, progress.elapsed);
+  if (!left) return {};
+  return Filled(text.GetText(kPaceText),
+                {AmountText(BytesPerSecond(bytes, progress.elapsed)), ClockText(*left)});
+}
+
+}  // namespace quillomat

@@ -1,0 +1,32 @@
+// Writes an export while the program stays awake: in a thread of its own, as one that takes long
+// would stop the windows otherwise, and the library for workbooks cannot be interrupted.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+#include "app/count/run_state.h"
+#include "export/export_format.h"
+#include "export/export_table.h"
+#include "ui/yielder.h"
+
+namespace quillomat {
+
+struct ExportOutcome {
+  enum class End { kWritten, kStopped, kFailed };
+
+  End end = End::kWritten;
+  /// Why it failed.
+  std::string error = {};
+};
+
+/// Returns when it is done; handles the user's clicks meanwhile. The stop flag ends it, and the
+/// file is as it was. The words must not change meanwhile: the caller is in a phase that sees to
+/// it. `onProgress` is called now and then, with the number of words done.
+[[nodiscard]] ExportOutcome RunExport(const RunState& run, EventPump& pump,
+                                      const ExportTable& table, ExportFormat format,
+                                      const std::string& path,
+                                      const std::function<void(std::size_t words)>& onProgress);
+
+}  // namespace quillomat

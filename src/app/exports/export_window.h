@@ -1,0 +1,98 @@
+// The window that exports the list: into which file, in which form, which words and columns. All
+// words of the list are exported, whatever the text box holds of them.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/count/in_force.h"
+#include "app/count/path_boxes.h"
+#include "app/count/run_state.h"
+#include "app/exports/result_export.h"
+#include "app/list/current_words.h"
+#include "app/messages.h"
+#include "export/export_format.h"
+#include "ui/desktop.h"
+#include "ui/export_form.h"
+#include "ui/main_form.h"
+#include "ui/params_form.h"
+#include "ui/yielder.h"
+
+namespace quillomat {
+
+/// Answers with the words that a filter shows, as alphabetical places of the store; nothing while
+/// no filter is set.
+using FilteredPlaces = std::function<std::optional<std::vector<std::int32_t>>()>;
+
+class ExportWindow {
+ public:
+  /// All must outlive it.
+  ExportWindow(MainForm& frmMain, const ParamsForm& frmParams, ExportForm& frmExport,
+               const Messages& messages, RunState& run, EventPump& pump, const CurrentWords& words,
+               const InForce& inForce, PathBoxes& paths, Desktop& desktop)
+      : frmMain_(frmMain),
+        frmParams_(frmParams),
+        frmExport_(frmExport),
+        messages_(messages),
+        run_(run),
+        pump_(pump),
+        words_(words),
+        inForce_(inForce),
+        paths_(paths),
+        desktop_(desktop) {}
+
+  /// Fills the window and connects its commands. Called once.
+  void Connect();
+
+  /// Shows the window for the list that stands; without one the user is told.
+  void Open();
+
+  void SetFilter(FilteredPlaces filter) { filter_ = std::move(filter); }
+  /// A filter was set, or is gone.
+  void OnFilterChange();
+
+ private:
+  void Prepare();
+  void SuggestFile();
+  void OfferColumns();
+  [[nodiscard]] ExportFormat Format() const;
+  void FollowEnding();
+  void ShowEnding();
+  void ChooseFile();
+  void OnExportClick();
+  void Export();
+  [[nodiscard]] std::optional<ExportWish> TakeWish();
+  [[nodiscard]] bool TakeFirst(ExportWish& wish);
+  [[nodiscard]] bool TakePath();
+  [[nodiscard]] bool MayWrite(const std::string& path);
+  [[nodiscard]] bool AskToOverwrite();
+  void Write(const ExportWish& wish);
+  void ShowRunning(bool running);
+  /// Tells what is wrong, and puts the keyboard where it can be mended.
+  void Complain(const std::string& text, Control& control);
+  [[nodiscard]] std::string Text(int number, std::initializer_list<std::string> values = {}) const;
+  void Close();
+
+  MainForm& frmMain_;
+  const ParamsForm& frmParams_;
+  ExportForm& frmExport_;
+  const Messages& messages_;
+  RunState& run_;
+  EventPump& pump_;
+  const CurrentWords& words_;
+  const InForce& inForce_;
+  PathBoxes& paths_;
+  Desktop& desktop_;
+  FilteredPlaces filter_;
+  /// What the window itself has put into the box of the file.
+  std::string suggested_;
+  std::optional<bool> filesKnown_;
+  bool running_ = false;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,102 @@
+#include "app/notices/notice.h"
+
+#include <optional>
+
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+using Values = std::optional<std::vector<NoticeValue>>;
+
+/// One notice: which text it has, in another form where its first value is 1, and when it holds.
+struct NoticeRow {
+  int text = 0;
+  int textOfOne = 0;
+  /// What goes into the text; nothing while the notice does not hold.
+  Values (*values)(const NoticeFacts& facts) = nullptr;
+  std::array<NoticeAction, 2> actions{};
+};
+
+Values If(bool holds) {
+  return holds ? Values(std::in_place) : std::nullopt;
+}
+
+Values NumberOf(std::int64_t number) {
+  return number > 0 ? Values(std::vector<NoticeValue>{number}) : std::nullopt;
+}
+
+Values NameOf(const std::string& name) {
+  return name.empty() ? std::nullopt : Values(std::vector<NoticeValue>{name});
+}
+
+using enum NoticeAction;
+
+// First what makes the list other than it looks, then what is missing in it by the user's own will.
+constexpr auto kRows = std::to_array<NoticeRow>({
+    {kFilesSkippedText,
+     kFileSkippedText,
+     [](const NoticeFacts& facts) { return NumberOf(facts.skipped); },
+     {kShowSkipped}},
+    {kListOfFileText, 0, [](const NoticeFacts& facts) { return NameOf(facts.file); }},
+    {kListOfFolderText, 0, [](const NoticeFacts& facts) { return NameOf(facts.folder); }},
+    {kListOfClipboardText, 0, [](const NoticeFacts& facts) { return If(facts.clipboard); }},
+    {kSettingsChangedText,
+     0,
+     [](const NoticeFacts& facts) { return If(facts.settingsChanged); },
+     {kCountAgain}},
+    {kOnlyWordsCountedText,
+     kOnlyWordCountedText,
+     [](const NoticeFacts& facts) { return NumberOf(facts.countOnlyWords); },
+     {kOpenPanel}},
+    {kPartShownText,
+     0,
+     [](const NoticeFacts& facts) {
+       if (facts.wordsShown >= facts.words) return Values();
+       return Values(std::vector<NoticeValue>{facts.wordsShown, facts.words});
+     },
+     {kShowTable, kExport}},
+    {kWordsLeftOutText,
+     kWordLeftOutText,
+     [](const NoticeFacts& facts) { return NumberOf(facts.wordsToIgnore); },
+     {kOpenPanel}},
+});
+
+bool StartsWithOne(const std::vector<NoticeValue>& values) {
+  return !values.empty() && values.front() == NoticeValue(std::int64_t{1});
+}
+
+}  // namespace
+
+std::vector<Notice> NoticesOf(const NoticeFacts& facts) {
+  std::vector<Notice> notices;
+  if (!facts.listStands) return notices;
+  for (std::size_t i = 0; i < kRows.size(); ++i) {
+    const NoticeRow& row = kRows.at(i);
+    Values values = row.values(facts);
+    if (!values) continue;
+    const bool one = row.textOfOne != 0 && StartsWithOne(*values);
+    notices.push_back({i, one ? row.textOfOne : row.text, std::move(*values), row.actions});
+  }
+  return notices;
+}
+
+int CaptionOf(NoticeAction action) {
+  switch (action) {
+    case kNone:
+      return 0;
+    case kShowSkipped:
+      return kWhichText;
+    case kCountAgain:
+      return kCountAgainText;
+    case kOpenPanel:
+      return kChangeText;
+    case kShowTable:
+      return kTableViewText;
+    case kExport:
+      return kExportText;
+  }
+  return 0;
+}
+
+}  // namespace quillomat

@@ -1,0 +1,61 @@
+// What the window says about its list in one quiet line: what the required boxes leave silent. One
+// table says when which notice holds, the most important first; whoever has another thing to tell
+// adds a fact and a row.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace quillomat {
+
+/// What a command of a notice does.
+enum class NoticeAction : std::uint8_t {
+  kNone,
+  kShowSkipped,
+  kCountAgain,
+  kOpenPanel,
+  kShowTable,
+  kExport,
+};
+
+/// What is known of the list on display.
+struct NoticeFacts {
+  /// Words were counted, and what came of it is on display. Nothing else counts without.
+  bool listStands = false;
+  /// Files and folders that should have been read.
+  std::int64_t skipped = 0;
+  /// The text that the list is of, where the window names another one by now; one of the three.
+  std::string file = {};
+  std::string folder = {};
+  bool clipboard = false;
+  /// The list would be another one if it were made now.
+  bool settingsChanged = false;
+  /// By the lists of words that the count went by.
+  std::int64_t countOnlyWords = 0;
+  std::int64_t wordsToIgnore = 0;
+  /// The words that the text box holds, of so many; all of them where the text is not looked at.
+  std::int64_t wordsShown = 0;
+  std::int64_t words = 0;
+};
+
+using NoticeValue = std::variant<std::int64_t, std::string>;
+
+struct Notice {
+  /// Its number among the rows, which tells notices apart.
+  std::size_t row = 0;
+  /// The number of the program text, and what goes into the places of that.
+  int text = 0;
+  std::vector<NoticeValue> values;
+  std::array<NoticeAction, 2> actions{};
+};
+
+/// The notices that hold, the most important first.
+[[nodiscard]] std::vector<Notice> NoticesOf(const NoticeFacts& facts);
+
+/// The number of the text that a command with that action bears; 0 for kNone.
+[[nodiscard]] int CaptionOf(NoticeAction action);
+
+}  // namespace quillomat

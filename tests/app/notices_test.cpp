@@ -1,0 +1,227 @@
+// The line above the list: what it says when, and what its commands do.
+#include <gmock/gmock.h>
+
+#include "app/notices/notice.h"
+#include "support/permissions.h"
+#include "support/program_fixture.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::vector<int> TextsOf(const NoticeFacts& facts) {
+  std::vector<int> texts;
+  for (const Notice& notice : NoticesOf(facts)) texts.push_back(notice.text);
+  return texts;
+}
+
+TEST(Notices, NothingIsSaidOfNoList) {
+  EXPECT_THAT(NoticesOf({.skipped = 3, .settingsChanged = true}), testing::IsEmpty());
+  EXPECT_THAT(NoticesOf({.listStands = true, .wordsShown = 5, .words = 5}), testing::IsEmpty());
+}
+
+TEST(Notices, MostImportantComesFirst) {
+  const NoticeFacts all{.listStands = true,
+                        .skipped = 3,
+                        .file = "kjv.txt",
+                        .settingsChanged = true,
+                        .countOnlyWords = 5,
+                        .wordsToIgnore = 353,
+                        .wordsShown = 1770,
+                        .words = 12586};
+  EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
+                                        kOnlyWordsCountedText, kPartShownText, kWordsLeftOutText));
+}
+
+TEST(Notices, OneIsNotMany) {
+  EXPECT_THAT(TextsOf({.listStands = true, .skipped = 1, .countOnlyWords = 1, .wordsToIgnore = 1}),
+              ElementsAre(kFileSkippedText, kOnlyWordCountedText, kWordLeftOutText));
+  // A part of one word is still a part.
+  EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
+              ElementsAre(kPartShownText));
+}
+
+TEST(Notices, EveryCommandHasACaption) {
+  for (const auto action :
+       {NoticeAction::kShowSkipped, NoticeAction::kCountAgain, NoticeAction::kOpenPanel,
+        NoticeAction::kShowTable, NoticeAction::kExport}) {
+    EXPECT_GT(CaptionOf(action), 0);
+  }
+  EXPECT_EQ(CaptionOf(NoticeAction::kNone), 0);
+}
+
+class NoticeBarTest : public ProgramFixture {
+ protected:
+  std::string Said() { return Main().lblNotice.Visible() ? Main().lblNotice.Caption() : ""; }
+  std::vector<std::string> Commands() {
+    std::vector<std::string> captions;
+    for (const CommandButton& command : Main().cmdNotice) {
+      if (command.Visible()) captions.push_back(command.Caption());
+    }
+    return captions;
+  }
+  void CountManyWords() {
+    std::string text;
+    for (int i = 0; i < 17'576; ++i) {
+      text += std::string("word") + static_cast<char>('a' + i % 26) +
+              static_cast<char>('a' + i / 26 % 26) + static_cast<char>('a' + i / 676) + " ";
+    }
+    CountFile(folder.Write("many.txt", text));
+  }
+};
+
+TEST_F(NoticeBarTest, SaysNothingWhereNothingIsSilent) {
+  EXPECT_EQ(Said(), "");
+  CountFile(folder.Write("a.txt", "cat dog"));
+  EXPECT_EQ(Said(), "");
+  EXPECT_THAT(Commands(), ElementsAre());
+  EXPECT_FALSE(Main().cmdDismissNotice.Visible());
+}
+
+TEST_F(NoticeBarTest, TellsHowMuchTheTextShows) {
+  int exports = 0;
+  int tables = 0;
+  program.Notices().SetExporter([&] { ++exports; });
+  CountManyWords();
+  EXPECT_THAT(Said(), testing::MatchesRegex("The text shows [0-9],[0-9]+ of 17,576 words."));
+  EXPECT_THAT(Commands(), ElementsAre("Export..."));
+  program.Notices().SetTableShower([&] { ++tables; });
+  program.Notices().Update();
+  EXPECT_THAT(Commands(), ElementsAre("Table", "Export..."));
+  Main().cmdNotice[0].PerformClick();
+  Main().cmdNotice[1].PerformClick();
+  EXPECT_EQ(tables, 1);
+  EXPECT_EQ(exports, 1);
+  program.Notices().SetTextShown(false);
+  EXPECT_EQ(Said(), "") << "what is looked at shows all";
+}
+
+TEST_F(NoticeBarTest, TellsThatSettingsHaveChangedUntilTheyAreBack) {
+  CountFile(folder.Write("a.txt", "cat co-op"));
+  desktop.Answer(MessageAnswer::kYes);  // it entails reading the file anew
+  Panel().chkCaseSignificant.SetChecked(true);
+  EXPECT_EQ(Said(), "Settings have changed since this list.");
+  Panel().chkCaseSignificant.SetChecked(false);
+  EXPECT_EQ(Said(), "");
+  Panel().chkAllowWordsWithHyphens.SetChecked(false);
+  ASSERT_THAT(Commands(), ElementsAre("Count again"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Said(), "");
+  EXPECT_THAT(StoredWords(), HasSubstr("op"));
+}
+
+TEST_F(NoticeBarTest, SettingsWithoutEffectChangeNothing) {
+  CountFile(folder.Write("a.txt", "cat dog"));
+  Panel().cboThresholdFrequency.SetListIndex(3);
+  Panel().txbStartComment[0].SetText("#");
+  Panel().chkWarnOnOverwrite.SetChecked(false);
+  Main().txbFileExtensions[0].SetText("txt");
+  Main().cboWordOrder.SetListIndex(1);
+  EXPECT_EQ(Said(), "");
+  Panel().chkIgnoreInfrequentWords.SetChecked(true);
+  EXPECT_EQ(Said(), "Settings have changed since this list.");
+}
+
+TEST_F(NoticeBarTest, FilesOfAFolderAreOfItsList) {
+  static_cast<void>(folder.Write("a.txt", "cat dog"));
+  CountFolder(folder.Path());
+  Main().txbFileExtensions[0].SetText("txt");
+  EXPECT_EQ(Said(), "Settings have changed since this list.");
+}
+
+TEST_F(NoticeBarTest, NamesTheTextOfTheListWhenAnotherIsChosen) {
+  const std::string path = folder.Write("kjv.txt", "cat dog");
+  CountFile(path);
+  Main().txbFile[0].SetText("");
+  EXPECT_EQ(Said(), "") << "nothing else is chosen";
+  Main().txbFile[0].SetText(folder.Write("other.txt", "emu"));
+  EXPECT_EQ(Said(), "This list is of kjv.txt.");
+  EXPECT_THAT(Commands(), ElementsAre());
+  Main().txbFile[0].SetText(path);
+  EXPECT_EQ(Said(), "");
+  Main().txbFolder.SetText(folder.Path());
+  Main().optFolder.SetValue(true);
+  EXPECT_EQ(Said(), "This list is of kjv.txt.");
+  CountClipboard("emu emu");
+  EXPECT_EQ(Said(), "");
+  Main().optInFile.SetValue(true);
+  EXPECT_EQ(Said(), "This list is of the clipboard.");
+}
+
+TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
+  TypeWords(WordListKind::kIgnore, "the and of");
+  CountFile(folder.Write("a.txt", "the cat"));
+  EXPECT_EQ(Said(), "3 words are left out.");
+  ASSERT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_TRUE(Panel().Visible());
+  TypeWords(WordListKind::kCountOnly, "cat");
+  EXPECT_EQ(Said(), "Settings have changed since this list.");
+  Count();
+  EXPECT_EQ(Said(), "Only one word is counted.");
+}
+
+TEST_F(NoticeBarTest, TellsOfSkippedFilesAndWhichTheyAre) {
+  static_cast<void>(folder.Write("a.txt", "cat dog"));
+  const std::string path = folder.Write("secret.txt", "emu");
+  const ClosedFile closed(path);
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+              desktop.AnswerFile(std::nullopt);
+              CountFolder(folder.Path());
+              EXPECT_EQ(Said(), "One file was skipped.");
+              EXPECT_THAT(Commands(), ElementsAre("Which"));
+              desktop.ForgetQuestions();
+              Main().cmdNotice[0].PerformClick();
+              EXPECT_THAT(OnlyMessage().text, testing::StartsWith(path + " ("));
+              EXPECT_EQ(OnlyMessage().title, "Skipped files");
+              CountFile(folder / "a.txt");
+              EXPECT_EQ(Said(), "") << "of another text";
+              return HasFailure() ? 1 : 0;
+            }),
+            0);
+}
+
+TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {
+  TypeWords(WordListKind::kIgnore, "the");
+  CountManyWords();
+  EXPECT_THAT(Said(), HasSubstr("The text shows"));
+  Main().cmdDismissNotice.PerformClick();
+  EXPECT_EQ(Said(), "One word is left out.");
+  Main().cmdDismissNotice.PerformClick();
+  EXPECT_EQ(Said(), "");
+  Main().cboWordOrder.SetListIndex(1);
+  EXPECT_EQ(Said(), "") << "the same list in another order";
+  Count();
+  EXPECT_THAT(Said(), HasSubstr("The text shows"));
+}
+
+TEST_F(NoticeBarTest, NothingIsSaidOfAListThatIsGone) {
+  TypeWords(WordListKind::kIgnore, "the");
+  CountFile(folder.Write("a.txt", "the cat"));
+  ASSERT_NE(Said(), "");
+  Main().cmdClearOutput.PerformClick();
+  EXPECT_EQ(Said(), "");
+  Count();
+  ASSERT_NE(Said(), "");
+  std::string saidMeanwhile = "never asked";
+  Main().txbOutput.Change.Connect([&] {
+    if (State().Busy()) saidMeanwhile = Said();
+  });
+  Count();
+  EXPECT_EQ(saidMeanwhile, "");
+}
+
+TEST_F(NoticeBarTest, SpeaksTheLanguageOfTheProgram) {
+  TypeWords(WordListKind::kIgnore, "the and");
+  CountFile(folder.Write("a.txt", "the cat"));
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Said(), "2 Wörter werden ausgelassen.");
+  EXPECT_THAT(Commands(), ElementsAre("Ändern"));
+}
+
+}  // namespace
+}  // namespace quillomat

@@ -1,0 +1,96 @@
+// The line above the list and the window of exports, on the screen.
+#include <QAccessible>
+#include <QDialog>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <gmock/gmock.h>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class NoticeStripTest : public WindowFixture {
+ protected:
+  NoticeStripTest() {
+    EXPECT_TRUE(user->Start());
+    user->windows.Main().resize(1024, 700);
+    user->program.frmParams.txbWordsToIgnoreOrCount[0].SetText("the and");
+  }
+  void Count(const std::string& text) {
+    user->program.Sources().ChooseText(folder.Write("a.txt", text));
+    user->Click(frmMain.cmdCountWords);
+  }
+
+  MainForm& frmMain = user->program.frmMain;
+  QWidget& strip = *user->windows.Main().findChild<QWidget*>("stripNotice");
+};
+
+TEST_F(NoticeStripTest, IsThereOnlyWhileThereIsSomethingToSay) {
+  EXPECT_FALSE(strip.isVisible());
+  Count("the cat");
+  EXPECT_TRUE(strip.isVisible());
+  auto& label = user->WidgetOf<QLabel>(frmMain.lblNotice);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
+            "2 words are left out.");
+  user->Click(frmMain.cmdDismissNotice);
+  EXPECT_FALSE(strip.isVisible());
+}
+
+TEST_F(NoticeStripTest, IsNeverHigherThanALineOfCommands) {
+  Count("the cat");
+  const int height = strip.height();
+  EXPECT_LE(height, user->WidgetOf<QWidget>(frmMain.cmdNotice[0]).height() + 8);
+  frmMain.lblNotice.SetCaption(std::string(2000, 'x'));
+  user->Settle();
+  EXPECT_EQ(strip.height(), height);
+  EXPECT_EQ(user->windows.Main().size(), QSize(1024, 700));
+}
+
+TEST_F(NoticeStripTest, CommandsAreReachedByTheKeyboardAndHaveNames) {
+  Count("the cat");
+  auto& change = user->WidgetOf<QPushButton>(frmMain.cmdNotice[0]);
+  auto& dismiss = user->WidgetOf<QPushButton>(frmMain.cmdDismissNotice);
+  EXPECT_EQ(dismiss.accessibleName(), "Close this notice.");
+  user->WidgetOf<QWidget>(frmMain.cmdQuit).setFocus();
+  QTest::keyClick(&user->windows.Main(), Qt::Key_Tab);
+  EXPECT_TRUE(change.hasFocus());
+  QTest::keyClick(&change, Qt::Key_Return);
+  user->Settle();
+  EXPECT_TRUE(user->windows.Panel().isVisible());
+}
+
+TEST_F(NoticeStripTest, ManyLinesAreShownToBeScrolledThrough) {
+  std::string lines;
+  for (int i = 0; i < 500; ++i) lines += "/a/path/" + std::to_string(i) + "\r\n";
+  QString shown;
+  QTimer::singleShot(20, [&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->windowTitle(), "Skipped files");
+    shown = dialog->findChild<QPlainTextEdit*>()->toPlainText();
+    EXPECT_LE(dialog->height(), 600);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  user->desktop.ShowText(lines, "Skipped files");
+  EXPECT_EQ(shown.count('\n'), 500);
+}
+
+TEST_F(NoticeStripTest, ListIsExportedByTheKeyboardAlone) {
+  Count("the cat the dog cat");
+  user->Click(frmMain.cmdExport);
+  ASSERT_TRUE(user->windows.Export().isVisible());
+  const std::string path = folder / "list.csv";
+  user->Type(user->program.frmExport.txbFile, path);
+  QTest::keyClick(&user->WidgetOf<QWidget>(user->program.frmExport.txbFile), Qt::Key_Return);
+  user->Settle();
+  EXPECT_TRUE(ContentsOf(path).starts_with("rank,word,frequency,"));
+  EXPECT_TRUE(
+      user->WidgetOf<QLabel>(user->program.frmExport.lblState).text().contains("is written"));
+  QTest::keyClick(&user->windows.Export(), Qt::Key_Escape);
+  user->Settle();
+  EXPECT_FALSE(user->windows.Export().isVisible());
+}
+
+}  // namespace
+}  // namespace quillomat
