@@ -219,6 +219,7 @@ class ProgramCase {
     ranking_ = std::move(result.ranking);
     wordsRead_ = result.wordsRead;
     settings_.OpenComment = result.openComment;
+    settings_.Uncounted = result.uncounted;
     std::string order = "growth";
     for (const GrowthPoint& point : result.orderFigures.value().growth) {
       order.append(" ").append(std::to_string(point.differentWords));

@@ -213,10 +213,10 @@ class Newcomer {
     WaitUntil("the list is there", [this] { return NoBox() && !program_.State().Busy(); });
     Press("ctrl+f");
     Type(QStringLiteral("wordzzz"));
-    WaitUntil("it is said that the box holds a part", [this] {
+    WaitUntil("it is said where a word beyond the box stands", [this] {
       const auto labels = windows_.Main().Finder().findChildren<QLabel*>();
       return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-        return label->isVisible() && label->text().contains(QStringLiteral("of 17,576 words"));
+        return label->isVisible() && label->text().contains(QStringLiteral("below the end of this text"));
       });
     });
     Press("Escape");
