@@ -204,6 +204,7 @@ class ProgramCase {
     ranking_ = std::move(result.ranking);
     wordsRead_ = result.wordsRead;
     settings_.OpenComment = result.openComment;
+    settings_.Uncounted = result.uncounted;
     DescribeCount();
   }
 
