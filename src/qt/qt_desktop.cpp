@@ -10,9 +10,9 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QStandardPaths>
+#include <QVBoxLayout>
 #include <mutex>
 #include <utility>
-#include <QVBoxLayout>
 
 #include "qt/text_conversion.h"
 #include "system/locale_info.h"

@@ -216,7 +216,8 @@ class Newcomer {
     WaitUntil("it is said where a word beyond the box stands", [this] {
       const auto labels = windows_.Main().Finder().findChildren<QLabel*>();
       return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-        return label->isVisible() && label->text().contains(QStringLiteral("below the end of this text"));
+        return label->isVisible() &&
+               label->text().contains(QStringLiteral("below the end of this text"));
       });
     });
     Press("Escape");

@@ -4,8 +4,8 @@
 #include <optional>
 #include <windows.h>
 
-#include "system/windows/handle_identity.h"
 #include "system/paths.h"
+#include "system/windows/handle_identity.h"
 #include "system/windows/system_path.h"
 #include "system/windows/wide_text.h"
 #include "system/windows/windows_error.h"
