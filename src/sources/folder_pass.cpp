@@ -27,7 +27,7 @@ constexpr std::size_t kItemsWorthThreads = 8;
 /// The first files are read as they are met, up to so many or so many bytes: before threads were
 /// made, they would be done.
 constexpr std::int32_t kFilesAtOnce = 16;
-constexpr std::int64_t kBytesAtOnce = 128 * 1024;
+constexpr std::int64_t kBytesAtOnce = std::int64_t{128} * 1024;
 /// So many batches wait for each thread, so that none has nothing to do while one is joined.
 constexpr std::size_t kBatchesPerThread = 2;
 constexpr std::chrono::milliseconds kLongestWait{8};
