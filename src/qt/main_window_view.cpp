@@ -92,7 +92,8 @@ ListView& MainWindowView::List() const {
 /// The text box, with what finds words in it, becomes the first of several views.
 void MainWindowView::PlaceViews() {
   auto* text = new QWidget;
-  ui_->paneResult->layout()->replaceWidget(ui_->txbOutput, views_);
+  // The layout gives up the item of the text box.
+  delete ui_->paneResult->layout()->replaceWidget(ui_->txbOutput, views_);
   auto* column = new QVBoxLayout(text);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(ui_->txbOutput, 1);

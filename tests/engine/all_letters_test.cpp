@@ -1,5 +1,6 @@
 // The rule for the letters of all languages, step by step.
 #include <gmock/gmock.h>
+#include <regex>
 #include <string>
 
 #include "engine/normal_text.h"
@@ -160,7 +161,7 @@ TEST_F(AllLetters, TextInNormalFormIsNotCopied) {
 }
 
 TEST(UnicodeVersion, HasThreeNumbers) {
-  EXPECT_THAT(UnicodeVersion(), testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+"));
+  EXPECT_TRUE(std::regex_match(std::string(UnicodeVersion()), std::regex(R"(\d+\.\d+\.\d+)")));
 }
 
 }  // namespace

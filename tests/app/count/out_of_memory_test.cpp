@@ -28,6 +28,12 @@ void* operator new(std::size_t bytes) {
 void* operator new[](std::size_t bytes) {
   return Allocate(bytes);
 }
+void* operator new(std::size_t bytes, const std::nothrow_t& /*none*/) noexcept {
+  return bytes > largestAllocation ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
+}
+void operator delete(void* memory, const std::nothrow_t& /*none*/) noexcept {
+  std::free(memory);
+}
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
