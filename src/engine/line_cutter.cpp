@@ -4,12 +4,14 @@
 #include <string>
 
 #include "engine/char_class.h"
+#include "engine/html_entities.h"
 
 namespace quillomat {
 namespace {
 
-/// The longest entity has 20 characters.
-constexpr std::size_t kEntityBytes = std::size_t{20} * 4;
+/// Of UTF-8.
+constexpr std::size_t kLongestCharacter = 4;
+constexpr std::string_view kWideAmpersand = "\uFF06";
 
 bool IsLetter(char ch) {
   return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
@@ -57,9 +59,31 @@ bool LineCutter::MayCutAt(std::string_view text, std::size_t position) const {
                            ? separators_[static_cast<unsigned char>(before)]
                            : letters_ == LetterRule::kWestern && position < text.size() &&
                                  IsBetweenForeignCharacters(before, text[position]);
-  if (!between) return false;
-  const std::size_t near = position - std::min(position, kEntityBytes);
-  return text.substr(near, position - near).find('&') == std::string_view::npos;
+  return between && !MayBeInEntity(text, position);
+}
+
+/// Whether an ampersand stands so near before the position that its entity may end behind it.
+///
+/// In normal form any number of the characters outside ASCII may be gone, or be one with the
+/// character before them. So those within ASCII are counted, which are never more than there are
+/// characters. No line is walked over again and again for that: with all letters it is asked behind
+/// signs of ASCII only.
+bool LineCutter::MayBeInEntity(std::string_view text, std::size_t position) const {
+  constexpr std::size_t kEntityBytes = kLongestHtmlEntity * kLongestCharacter;
+  const bool all = letters_ == LetterRule::kAll;
+  const std::size_t first = all ? 0 : position - std::min(position, kEntityBytes);
+  std::size_t characters = 0;
+  while (position > first && characters < kLongestHtmlEntity) {
+    const char ch = text[--position];
+    if (ch == ' ') return false;
+    if (ch == '&') return true;
+    if (IsAsciiByte(ch)) {
+      ++characters;
+    } else if (all && text.substr(position).starts_with(kWideAmpersand)) {
+      return true;
+    }
+  }
+  return false;
 }
 
 /// A run of word characters is cut where it is too long for a word. Only where all of it is plain:

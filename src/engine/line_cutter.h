@@ -24,6 +24,7 @@ class LineCutter {
 
  private:
   [[nodiscard]] bool MayCutAt(std::string_view text, std::size_t position) const;
+  [[nodiscard]] bool MayBeInEntity(std::string_view text, std::size_t position) const;
   [[nodiscard]] std::size_t CutOfLongWord(std::string_view text) const;
 
   const TokenClasses& classes_;

@@ -35,7 +35,8 @@ class LongLineTest : public EngineFixture {
       const std::string text = DecodeLine(line);
       const std::string_view trimmed = TrimBlanks(text);
       if (trimmed.empty()) continue;
-      scanner.GetWords(PrepareLine(trimmed, IsSet(choices.caseSignificant), buffer));
+      scanner.GetWords(
+          PrepareLine(trimmed, IsSet(choices.caseSignificant), buffer, choices.letters));
     }
     return Outcome(scanner.WordsRead());
   }
@@ -69,6 +70,59 @@ class LongLineTest : public EngineFixture {
   }
 };
 
+/// What text of all letters is brought into normal form for.
+std::string RandomLineOfAllLetters(std::mt19937_64& random) {
+  static const std::vector<std::string> kPieces = {" ",
+                                                   ",",
+                                                   "a",
+                                                   "the ",
+                                                   "&",
+                                                   ";",
+                                                   "&eacute;",
+                                                   "&am",
+                                                   "p;",
+                                                   "/*",
+                                                   "*/",
+                                                   "-",
+                                                   "--",
+                                                   "don't",
+                                                   "/",
+                                                   "&#8212;",
+                                                   "\uFF06",
+                                                   "\uFF1B",
+                                                   "\u037E",
+                                                   "\uFF0F",
+                                                   "\uFF0A",
+                                                   "\uFF0D",
+                                                   "\u2010",
+                                                   "\uFF41",
+                                                   "\u200D",
+                                                   "\u00AD",
+                                                   "\u0301",
+                                                   "\u0338",
+                                                   "\u017Da",
+                                                   "\u0439",
+                                                   "\u4E2D",
+                                                   "\uFB01",
+                                                   "\u200D,\u200D",
+                                                   "e\u0301",
+                                                   "\u212A",
+                                                   "\u0130",
+                                                   "\u03C3\u03C2",
+                                                   "\u2019",
+                                                   "\u00E9",
+                                                   "|"};
+  std::string line;
+  for (std::size_t parts = random() % 60; parts > 0; --parts) {
+    line += kPieces[random() % kPieces.size()];
+    if (random() % 40 == 0) {
+      for (std::size_t joiners = random() % 40; joiners > 0; --joiners) line += "\u200D";
+    }
+  }
+  if (random() % 6 == 0) line.insert(random() % (line.size() + 1), "\xE9");
+  return line;
+}
+
 std::string RandomLine(std::mt19937_64& random) {
   static const std::vector<std::string> kPieces = {
       " ",      "  ",      ",",        "\t",       "a",           "the ",   "The,",  "-",
@@ -91,7 +145,12 @@ std::string RandomLine(std::mt19937_64& random) {
 
 TEST_F(LongLineTest, RandomLinesAreTheSameWhereverTheyAreCut) {
   std::mt19937_64 random(std::uint64_t{31});
-  for (int round = 0; round < 3'000; ++round) {
+  for (int round = 0; round < 6'000; ++round) {
+    const bool all = round % 2 != 0;
+    choices.letters = all ? LetterRule::kAll : LetterRule::kWestern;
+    const auto randomLine = [&] {
+      return all ? RandomLineOfAllLetters(random) : RandomLine(random);
+    };
     switch (random() % 4) {
       case 0:
         UsePreset("C");
@@ -111,7 +170,7 @@ TEST_F(LongLineTest, RandomLinesAreTheSameWhereverTheyAreCut) {
     if (random() % 3 == 0) Allow(AllowFlag::kNumerals);
     if (random() % 4 == 0) Allow(AllowFlag::kComma);
     choices.caseSignificant = random() % 2 == 0 ? CheckState::kChecked : CheckState::kUnchecked;
-    const std::vector<std::string> lines = {RandomLine(random), RandomLine(random)};
+    const std::vector<std::string> lines = {randomLine(), randomLine()};
     const int open = static_cast<int>(random() % 3) - 1;
     const std::string expected = AsAWhole(lines, open);
     const std::size_t partBytes = 1 + random() % 12;
