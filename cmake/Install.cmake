@@ -18,8 +18,10 @@ function(quillomat_install_compressed file folder)
 endfunction()
 
 install(TARGETS quillomat-cli RUNTIME)
-install(FILES data/qlav_text.dat data/cwds_de.txt data/cwds_en.txt data/cwds_es.txt
-              data/cwds_fr.txt data/cwds_it.txt data/cwds_pt.txt
+install(FILES data/qlav_text.dat data/cwds_cs.txt data/cwds_de.txt data/cwds_el.txt
+              data/cwds_en.txt data/cwds_es.txt data/cwds_fr.txt data/cwds_it.txt data/cwds_nl.txt
+              data/cwds_pl.txt data/cwds_pt.txt data/cwds_ru.txt data/cwds_sv.txt data/cwds_tr.txt
+              data/cwds_uk.txt
         DESTINATION "${CMAKE_INSTALL_DATADIR}/quillomat")
 install(FILES README.md "${linux}/debian/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 

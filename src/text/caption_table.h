@@ -302,4 +302,8 @@ inline constexpr int kDismissNoticeText = 720;
 inline constexpr int kSkippedTitleText = 721;
 inline constexpr int kMoreSkippedText = 722;
 
+/// Behind the message that words were loaded: letters of the file that the western rule leaves out.
+inline constexpr int kListLettersNotReadText = 800;
+inline constexpr int kListLetterNotReadText = 801;
+
 }  // namespace quillomat

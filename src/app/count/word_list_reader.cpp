@@ -3,6 +3,7 @@
 #include <array>
 #include <new>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "app/count/line_ending_warning.h"
@@ -16,9 +17,12 @@
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
+#include "engine/uncounted.h"
 #include "engine/word_scanner.h"
 #include "sources/line_endings.h"
 #include "system/file_system.h"
+#include "text/caption_table.h"
+#include "text/filled_text.h"
 
 namespace quillomat {
 namespace {
@@ -189,7 +193,10 @@ void WordListReader::ScanWordsFile(InputFile& file) {
   LimitedSource limited(file, limits);
   LineDecoder lines(limited);
   std::string buffer;
+  lettersNotRead_ = 0;
   while (const auto line = lines.NextLine()) {
+    if (choices.letters == LetterRule::kWestern)
+      lettersNotRead_ += CountForeignLetters(*line, false);
     const std::string_view trimmed = TrimBlanks(*line);
     if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer, choices.letters));
     if (run_.Yield()) return;
@@ -222,15 +229,25 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   if (run_.Quitting()) {
     // The rest of the file was not read, and nobody wants to know any more.
   } else if (ok) {
-    messages_.Tell(
-        messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path,
-        "Words loaded", MessageIcon::kInformation);
+    TellLoaded(kind, path);
   } else {
     TellNotLoaded(kind, path);
   }
   output_.RestoreOutputText();
   run_.BecameIdle.Fire();
   return ok;
+}
+
+/// Whoever names a list of Russian while only western letters are counted would wonder.
+void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
+  std::string text =
+      messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path;
+  if (lettersNotRead_ == 0) {
+    return messages_.Tell(std::move(text), "Words loaded", MessageIcon::kInformation);
+  }
+  const int reason = lettersNotRead_ == 1 ? kListLetterNotReadText : kListLettersNotReadText;
+  text.append(kCrLf).append(Filled(messages_.Text(reason), {messages_.Grouped(lettersNotRead_)}));
+  messages_.Warn(std::move(text), "Words loaded");
 }
 
 /// False. While a state is restored the panel says that it could not be loaded as a whole, and the

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "app/count/in_force.h"
@@ -68,6 +69,7 @@ class WordListReader {
   void SetPathToCWDs_Eng();
 
  private:
+  void TellLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TellNotFound(WordListKind kind);
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
@@ -98,6 +100,8 @@ class WordListReader {
   std::array<KeyRule, 2> rulesInForce_;
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
+  /// Of the last words file, by the rule of letters that it was read with.
+  std::int64_t lettersNotRead_ = 0;
 };
 
 }  // namespace quillomat
