@@ -65,6 +65,18 @@ constexpr std::array<Layout, 12> kLayouts = {{
     {"  W F N", "  W F N"},
 }};
 
+/// Whether a sign of a layout stands for a cell.
+bool IsCell(char column) {
+  return column != ' ' && column != ',';
+}
+
+/// The cell that was appended from `begin` on. Numbers and words hold no blank at either end.
+CellSpan WithoutBlanks(std::string_view line, std::size_t begin) {
+  const std::size_t first = line.find_first_not_of(' ', begin);
+  if (first == std::string_view::npos) return {line.size(), line.size()};
+  return {first, line.find_last_not_of(' ') + 1};
+}
+
 bool IsFileList(DisplayFormat format) {
   return format == DisplayFormat::kWordFileList || format == DisplayFormat::kWordFileListFreq;
 }
@@ -138,46 +150,49 @@ void LineFormatter::WordCell(std::string& line, std::int32_t index) const {
   if (length < wordWidth_) line.append(wordWidth_ - length, ' ');
 }
 
-void LineFormatter::AppendColumns(std::string& line, std::int32_t index) const {
-  const Layout& layout = kLayouts[static_cast<std::size_t>(options_.format)];
-  for (const char column : options_.withCommas ? layout.withCommas : layout.plain) {
-    switch (column) {
-      case 'R':
-        RankCell(line, index);
-        break;
-      case 'F':
-        FreqCell(line, index);
-        break;
-      case 'N':
-        FilesCell(line, index);
-        break;
-      case 'L':
-        LogRankCell(line, index, options_.useLog10);
-        break;
-      case 'M':
-        LogFreqCell(line, index, options_.useLog10);
-        break;
-      case 'W':
-        WordCell(line, index);
-        break;
-      case 'w':
-        line.append(BareWord(index));
-        break;
-      default:
-        line.push_back(column);
-    }
+void LineFormatter::AppendColumn(std::string& line, std::int32_t index, char column) const {
+  switch (column) {
+    case 'R':
+      return RankCell(line, index);
+    case 'F':
+      return FreqCell(line, index);
+    case 'N':
+      return FilesCell(line, index);
+    case 'L':
+      return LogRankCell(line, index, options_.useLog10);
+    case 'M':
+      return LogFreqCell(line, index, options_.useLog10);
+    case 'W':
+      return WordCell(line, index);
+    case 'w':
+      line.append(BareWord(index));
+      return;
+    default:
+      line.push_back(column);
   }
 }
 
-void LineFormatter::FormatWordLine(std::string& line, std::int32_t index) const {
+void LineFormatter::AppendColumns(std::string& line, std::int32_t index,
+                                  std::vector<CellSpan>* cells) const {
+  const Layout& layout = kLayouts[static_cast<std::size_t>(options_.format)];
+  for (const char column : options_.withCommas ? layout.withCommas : layout.plain) {
+    const std::size_t begin = line.size();
+    AppendColumn(line, index, column);
+    if (cells != nullptr && IsCell(column)) cells->push_back(WithoutBlanks(line, begin));
+  }
+}
+
+void LineFormatter::FormatWordLine(std::string& line, std::int32_t index,
+                                   std::vector<CellSpan>* cells) const {
   if (!IsFileList(options_.format)) {
-    AppendColumns(line, index);
+    AppendColumns(line, index, cells);
     if (index == 0) FinishHeader(line);
+    if (index == 0 && cells != nullptr) cells->back().end = WithoutBlanks(line, 0).end;
     return;
   }
   if (index == 0) return FolderHeader(line);
   line.append(BareWord(index)).append(options_.lineBreak);
-  FileListText(line, index, options_.format == DisplayFormat::kWordFileListFreq);
+  FileListText(line, index, options_.format == DisplayFormat::kWordFileListFreq, cells);
 }
 
 void LineFormatter::FinishHeader(std::string& line) const {
@@ -197,23 +212,30 @@ void LineFormatter::FolderHeader(std::string& line) const {
   line.append(options_.lineBreak);
 }
 
-void LineFormatter::FileListText(std::string& line, std::int32_t index, bool withFreq) const {
+void LineFormatter::FileListText(std::string& line, std::int32_t index, bool withFreq,
+                                 std::vector<CellSpan>* cells) const {
   const FileTally* files = words_.store.FilesOf(index);
   if (files == nullptr) return;
   const std::vector<std::string>& paths = words_.store.Files().FileList();
   for (std::size_t k = 0; k < files->FileNumbers.size(); ++k) {
+    const std::size_t begin = line.size();
+    if (cells != nullptr) cells->push_back({begin, begin});  // below the word
     if (withFreq) {
       AppendNumber(line, files->FileCounts[k], kFileFrequencyWidth);
+      if (cells != nullptr) cells->push_back(WithoutBlanks(line, begin));
       line.push_back(' ');
     } else {
       line.append(4, ' ');
     }
+    const std::size_t pathBegin = line.size();
     std::string_view path = paths[static_cast<std::size_t>(files->FileNumbers[k])];
     if (ShowsPathsInFolder()) {
       line.append(kFolderMark);
       path.remove_prefix(BytesOfFirst(path, CharacterCount(options_.folder)));
     }
-    line.append(path).append(options_.lineBreak);
+    line.append(path);
+    if (cells != nullptr) cells->push_back({pathBegin, line.size()});
+    line.append(options_.lineBreak);
   }
 }
 

@@ -6,9 +6,11 @@
 // programs read these lists.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/word_store.h"
 #include "listing/display_format.h"
@@ -41,14 +43,26 @@ struct LineOptions {
 /// The logarithm to base 10.
 [[nodiscard]] double Log10(double x);
 
+/// Where a cell stands in a text, in bytes; without the blanks that fill its column.
+struct CellSpan {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+
+  bool operator==(const CellSpan&) const = default;
+};
+
 class LineFormatter {
  public:
   LineFormatter(const CountedWords& words, LineOptions options);
 
   [[nodiscard]] const LineOptions& Options() const { return options_; }
 
-  /// Appends the line of the word at alphabetical place `index`; 0 is the header line.
-  void FormatWordLine(std::string& line, std::int32_t index) const;
+  /// Appends the line of the word at alphabetical place `index`; 0 is the header line. Appends to
+  /// `cells` where in `line` its cells stand, if they are wanted: the columns, whatever is between
+  /// them. A file of a file list stands in the columns behind its word's: its first cell is empty.
+  /// A header that tells of a folder, and "word (+commas)", have none.
+  void FormatWordLine(std::string& line, std::int32_t index,
+                      std::vector<CellSpan>* cells = nullptr) const;
 
   // Each appends one cell, padded to its column; for index 0 the column's header.
   void RankCell(std::string& line, std::int32_t index) const;
@@ -59,11 +73,13 @@ class LineFormatter {
   void WordCell(std::string& line, std::int32_t index) const;
 
   /// Appends the files of a word, a line each, the last one ended too.
-  void FileListText(std::string& line, std::int32_t index, bool withFreq) const;
+  void FileListText(std::string& line, std::int32_t index, bool withFreq,
+                    std::vector<CellSpan>* cells = nullptr) const;
 
  private:
   void ComputeColumnWidths(std::int16_t minimumColumnWidth);
-  void AppendColumns(std::string& line, std::int32_t index) const;
+  void AppendColumns(std::string& line, std::int32_t index, std::vector<CellSpan>* cells) const;
+  void AppendColumn(std::string& line, std::int32_t index, char column) const;
   void FinishHeader(std::string& line) const;
   void FolderHeader(std::string& line) const;
   [[nodiscard]] std::string_view BareWord(std::int32_t index) const;

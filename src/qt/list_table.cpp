@@ -1,11 +1,34 @@
 #include "qt/list_table.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <span>
 #include <string>
+#include <string_view>
 
-#include "listing/list_cells.h"
 #include "qt/text_conversion.h"
 
 namespace quillomat {
+namespace {
+
+/// Cells that begin behind the copied part are not copied, cells that end before it are empty.
+QStringList CellsOf(const CopiedLine& copied, const CellSource& cells) {
+  const std::string line = FromQt(copied.line);
+  const auto known = cells ? cells(line) : std::span<const CellSpan>();
+  if (known.empty()) return {copied.line.mid(copied.begin, copied.end - copied.begin)};
+  const auto begin = static_cast<std::size_t>(FromQt(copied.line.left(copied.begin)).size());
+  const auto end = static_cast<std::size_t>(FromQt(copied.line.left(copied.end)).size());
+  QStringList row;
+  for (const CellSpan& cell : known) {
+    if (cell.begin >= end) break;
+    const std::size_t from = std::max(cell.begin, begin);
+    const std::size_t to = std::min(cell.end, end);
+    row.append(from < to ? ToQt(std::string_view(line).substr(from, to - from)) : QString());
+  }
+  return row;
+}
+
+}  // namespace
 
 void HtmlTable::AddRow(const QStringList& cells) {
   rows_ += QStringLiteral("<tr>");
@@ -19,25 +42,29 @@ QString HtmlTable::Whole() const {
   return QStringLiteral("<table>\n") + rows_ + QStringLiteral("</table>\n");
 }
 
-QString HtmlTableOf(const QString& list, DisplayFormat format) {
+std::vector<CopiedLine> LinesOf(const QString& text) {
+  std::vector<CopiedLine> lines;
+  for (const QString& line : text.split(QLatin1Char('\n'))) {
+    lines.push_back({line, 0, line.size()});
+  }
+  return lines;
+}
+
+QString HtmlTableOf(const std::vector<CopiedLine>& lines, const CellSource& cells) {
   bool hasColumns = false;
   HtmlTable table;
-  for (const QString& text : list.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-    const std::string line = FromQt(text);
-    const std::vector<std::string_view> cells = CellsOf(line, format);
-    hasColumns = hasColumns || cells.size() > 1;
-    QStringList shown;
-    for (const std::string_view cell : cells) shown.append(ToQt(cell));
-    table.AddRow(shown);
+  for (const CopiedLine& copied : lines) {
+    if (copied.begin >= copied.end) continue;
+    const QStringList row = CellsOf(copied, cells);
+    hasColumns = hasColumns || row.size() > 1;
+    table.AddRow(row);
   }
   return hasColumns ? table.Whole() : QString();
 }
 
-std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text,
-                                           std::optional<DisplayFormat> format) {
+std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text, const QString& table) {
   auto data = std::make_unique<QMimeData>();
   data->setText(text);
-  const QString table = format ? HtmlTableOf(text, *format) : QString();
   if (!table.isEmpty()) data->setHtml(table);
   return data;
 }

@@ -4,16 +4,22 @@
 #include <QMimeData>
 #include <QString>
 #include <QStringList>
-#include <functional>
 #include <memory>
-#include <optional>
+#include <vector>
 
-#include "listing/display_format.h"
+#include "listing/list_cells.h"
 
 namespace quillomat {
 
-/// Answers with the format of the list on display; none when it is no list.
-using ListFormatSource = std::function<std::optional<DisplayFormat>()>;
+/// A line of which something is copied, and from where to where.
+struct CopiedLine {
+  QString line;
+  qsizetype begin = 0;
+  qsizetype end = 0;
+};
+
+/// The lines of a text, each as a whole.
+[[nodiscard]] std::vector<CopiedLine> LinesOf(const QString& text);
 
 /// An HTML table that is put together row by row.
 class HtmlTable {
@@ -26,12 +32,11 @@ class HtmlTable {
   QString rows_;
 };
 
-/// Lines of a list of that format as an HTML table: a row a line, a cell a column. "" when no line
-/// has two columns.
-[[nodiscard]] QString HtmlTableOf(const QString& list, DisplayFormat format);
+/// The lines as an HTML table: a row a line, a cell a column. What is not copied of a cell is not
+/// in the table, but cells stay in their columns. "" when no line has two columns.
+[[nodiscard]] QString HtmlTableOf(const std::vector<CopiedLine>& lines, const CellSource& cells);
 
-/// What goes on the clipboard: the plain text, and the table if it is a list that makes one.
-[[nodiscard]] std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text,
-                                                         std::optional<DisplayFormat> format);
+/// What goes on the clipboard: the plain text, and the table unless that is "".
+[[nodiscard]] std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text, const QString& table);
 
 }  // namespace quillomat

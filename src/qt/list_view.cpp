@@ -1,6 +1,7 @@
 #include "qt/list_view.h"
 
 #include <QLayout>
+#include <QTextBlock>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -32,11 +33,25 @@ QSize ListView::minimumSizeHint() const {
   return usual.expandedTo(layout()->totalMinimumSize() + frame);
 }
 
+/// The lines that are selected, the first and the last perhaps in part.
+std::vector<CopiedLine> ListView::SelectedLines() const {
+  const QTextCursor cursor = textCursor();
+  std::vector<CopiedLine> lines;
+  QTextBlock block = document()->findBlock(cursor.selectionStart());
+  for (; block.isValid() && block.position() < cursor.selectionEnd(); block = block.next()) {
+    const QString line = block.text();
+    const int begin = std::max(cursor.selectionStart() - block.position(), 0);
+    const int end = cursor.selectionEnd() - block.position();
+    lines.push_back({line, begin, std::min<qsizetype>(end, line.size())});
+  }
+  return lines;
+}
+
 /// The toolkit takes what is returned.
 QMimeData* ListView::createMimeDataFromSelection() const {
   const QChar paragraphEnd(QChar::ParagraphSeparator);
   return ClipboardDataOf(textCursor().selectedText().replace(paragraphEnd, QLatin1Char('\n')),
-                         listFormat_ ? listFormat_() : std::nullopt)
+                         HtmlTableOf(SelectedLines(), cells_))
       .release();
 }
 

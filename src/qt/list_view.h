@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <functional>
 #include <utility>
+#include <vector>
 
 #include "qt/list_table.h"
 
@@ -23,8 +24,8 @@ class ListView : public QPlainTextEdit {
 
   [[nodiscard]] QSize minimumSizeHint() const override;
 
-  /// Asked for the columns whenever something is copied; without it there are none.
-  void SetListFormat(ListFormatSource listFormat) { listFormat_ = std::move(listFormat); }
+  /// Asked for the cells whenever something is copied; without it there are none.
+  void SetCells(CellSource cells) { cells_ = std::move(cells); }
 
   static constexpr int kSmallestZoom = -5;
   static constexpr int kLargestZoom = 30;
@@ -38,7 +39,9 @@ class ListView : public QPlainTextEdit {
  private:
   qreal usualSize_;
   int zoom_ = 0;
-  ListFormatSource listFormat_;
+  [[nodiscard]] std::vector<CopiedLine> SelectedLines() const;
+
+  CellSource cells_;
 };
 
 }  // namespace quillomat

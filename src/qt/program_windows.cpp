@@ -39,9 +39,11 @@ Windows::Windows(Program& program, QtDesktop& desktop)
   ResizeOnScreen(*export_, QSize(640, 380).expandedTo(export_->sizeHint()));
   LeaveOthersWhenActivated(desktop);
   desktop.SetWindow(&main_);
-  const auto listFormat = [&program] { return program.Output().ListFormat(); };
-  desktop.SetListFormat(listFormat);
-  main_.List().SetListFormat(listFormat);
+  const CellSource cells = [&program](std::string_view line) {
+    return program.Output().CellsOf(line);
+  };
+  desktop.SetCells(cells);
+  main_.List().SetCells(cells);
   program.frmMain.Changed.Connect([this] { ShowLanguage(); });
   program.frmMain.cmdLanguage.Changed.Connect([this] { ShowLanguage(); });
   desktop.SetPainter([this] { ShowChanges(); });

@@ -215,9 +215,10 @@ void QtDesktop::ClearClipboard() {
 }
 
 void QtDesktop::PutClipboardText(const std::string& text) {
+  const QString lines = ToQtLines(text);
   // The clipboard takes the data over.
-  const auto format = listFormat_ ? listFormat_() : std::nullopt;
-  QApplication::clipboard()->setMimeData(ClipboardDataOf(ToQtLines(text), format).release());
+  QApplication::clipboard()->setMimeData(
+      ClipboardDataOf(lines, HtmlTableOf(LinesOf(lines), cells_)).release());
 }
 
 void QtDesktop::Repaint() {

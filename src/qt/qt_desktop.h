@@ -24,8 +24,8 @@ class QtDesktop final : public Desktop {
   /// What shows the changes of the windows; nothing is shown before it is set.
   void SetPainter(std::function<void()> showChanges) { showChanges_ = std::move(showChanges); }
 
-  /// Asked for the columns of a text that goes on the clipboard; without it there are none.
-  void SetListFormat(ListFormatSource listFormat) { listFormat_ = std::move(listFormat); }
+  /// Asked for the cells of a text that goes on the clipboard; without it there are none.
+  void SetCells(CellSource cells) { cells_ = std::move(cells); }
 
   /// The window that the user is in, or was in last: boxes are shown over it. It outlives them.
   void SetWindow(QWidget* window) { window_ = window; }
@@ -54,7 +54,7 @@ class QtDesktop final : public Desktop {
   struct CallsFromThreads;
 
   std::function<void()> showChanges_;
-  ListFormatSource listFormat_;
+  CellSource cells_;
   QPointer<QWidget> window_;
   std::shared_ptr<CallsFromThreads> callsFromThreads_;
   UserRegistry registry_;

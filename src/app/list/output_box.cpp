@@ -13,7 +13,7 @@ void OutputBox::OutputToTxb(std::string_view text) {
 void OutputBox::ClearOutput() {
   frmMain_.txbOutput.SetText("");
   full_ = false;
-  part_ = {};
+  list_ = {};
 }
 
 void OutputBox::ShowText(std::string_view text) {
@@ -23,7 +23,7 @@ void OutputBox::ShowText(std::string_view text) {
 
 void OutputBox::RestoreOutputText() {
   frmMain_.txbOutput.SetText(saved_);
-  part_ = savedPart_;
+  list_ = savedList_;
   SetTheFocus(frmMain_);
 }
 

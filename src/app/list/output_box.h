@@ -4,11 +4,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "listing/display_format.h"
+#include "listing/list_cells.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
 
@@ -17,11 +18,10 @@ namespace quillomat {
 /// In characters: a list in the text box grows no further, and new words are no longer shown.
 inline constexpr std::size_t kDisplayLimit = 44'000;
 
-/// How much of a list the box holds, in words, and in which format.
+/// How much of a list the box holds, in words.
 struct ListPart {
   std::int32_t shown = 0;
   std::int32_t all = 0;
-  DisplayFormat format = DisplayFormat::kRankFrequencyWord;
 
   [[nodiscard]] bool IsCut() const { return shown < all; }
 };
@@ -46,29 +46,36 @@ class OutputBox {
   [[nodiscard]] bool IsEmpty() const { return frmMain_.txbOutput.Text().empty(); }
 
   /// Of the list in the box; of no words when it holds none.
-  [[nodiscard]] ListPart Part() const { return IsEmpty() ? ListPart() : part_; }
-  /// The format of the list in the box; none when it holds no list.
-  [[nodiscard]] std::optional<DisplayFormat> ListFormat() const {
-    return Part().all > 0 ? std::optional(part_.format) : std::nullopt;
+  [[nodiscard]] ListPart Part() const { return IsEmpty() ? ListPart() : list_.part; }
+  /// The cells of a line, if it is one of the list in the box (CellSource).
+  [[nodiscard]] std::span<const CellSpan> CellsOf(std::string_view line) const {
+    return list_.cells.Of(line);
   }
-  void SetListPart(ListPart part) { part_ = part; }
+  /// A list has been put into the box, which holds so much of it.
+  void SetList(ListPart part, ListCells cells) { list_ = {part, std::move(cells)}; }
 
   /// Keeps the text that stands in the box now.
   void SaveOutputText() {
     saved_ = frmMain_.txbOutput.Text();
-    savedPart_ = part_;
+    savedList_ = list_;
   }
   /// Puts the kept text back and moves the focus to where the user needs it.
   void RestoreOutputText();
 
  private:
+  /// What is known of the list in the box.
+  struct ShownList {
+    ListPart part;
+    ListCells cells;
+  };
+
   MainForm& frmMain_;
   Desktop& desktop_;
   bool full_ = false;
   bool displayingWords_ = false;
-  ListPart part_;
+  ShownList list_;
   std::string saved_;
-  ListPart savedPart_;
+  ShownList savedList_;
 };
 
 }  // namespace quillomat

@@ -10,6 +10,7 @@
 #include "base/text_helpers.h"
 #include "base/utf8.h"
 #include "listing/file_list_sink.h"
+#include "listing/list_cells.h"
 #include "system/file_system.h"
 #include "system/output_file.h"
 #include "system/paths.h"
@@ -202,8 +203,9 @@ void WordLister::ListIntoTextBox() {
     return;
   }
   output_.ShowText(accumulator_);
-  output_.SetListPart(
-      {sink.WordsTaken(), words_.totals.NumIncludedWords, formatter.Options().format});
+  CellSink cells(formatter, sink.WordsTaken());
+  Walk(formatter, cells);
+  output_.SetList({sink.WordsTaken(), words_.totals.NumIncludedWords}, cells.Take());
   if (output_.IsFull()) ReportProblem(kTextBoxFull, "Insufficient memory");
 }
 
