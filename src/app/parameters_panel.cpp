@@ -104,6 +104,11 @@ bool ParametersPanel::ConfirmReRead() {
   return true;
 }
 
+void ParametersPanel::AllowAllLetters() {
+  words_.blnWordsGot = false;  // so there is nothing to ask
+  frmParams_.cboLetters.SetListIndex(static_cast<int>(LetterRule::kAll));
+}
+
 void ParametersPanel::FocusClose() {
   if (flags_.blnStartUpCompleted) frmParams_.SetFocus(frmParams_.cmdClose);
 }

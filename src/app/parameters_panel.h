@@ -35,6 +35,10 @@ class ParametersPanel {
   /// Puts every parameter to its default.
   void SetDefaultValues();
 
+  /// From now on the letters of all languages make words. It is not asked whether the text may be
+  /// read anew: whoever calls it counts.
+  void AllowAllLetters();
+
  private:
   void ConnectParameters();
   void ConnectScanningChoice(Control& control);

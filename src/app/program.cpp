@@ -65,6 +65,10 @@ void Program::Connect() {
   parts_.notices.Connect();
   parts_.exports.Connect();
   parts_.notices.SetExporter([this] { parts_.exports.Open(); });
+  parts_.notices.SetLetterCounter([this] {
+    parts_.panel.AllowAllLetters();
+    frmMain.cmdCountWords.PerformClick();
+  });
   frmMain.cmdExport.Click.Connect([this] { parts_.exports.Open(); });
   parts_.savedState.Connect([this] { Initialize(); });
   frmMain.cmdLanguage.Click.Connect([this] { ToggleLanguage(); });

@@ -293,9 +293,12 @@ inline constexpr int kOnlyWordCountedText = 707;
 inline constexpr int kPartShownText = 708;
 inline constexpr int kWordsLeftOutText = 709;
 inline constexpr int kWordLeftOutText = 710;
+inline constexpr int kLettersNotCountedText = 711;
+inline constexpr int kLetterNotCountedText = 712;
 inline constexpr int kWhichText = 715;
 inline constexpr int kCountAgainText = 716;
 inline constexpr int kChangeText = 717;
+inline constexpr int kCountThemText = 718;
 inline constexpr int kExportText = 719;
 inline constexpr int kDismissNoticeText = 720;
 /// What the list of skipped files is called, and its last line when not all are known by name.

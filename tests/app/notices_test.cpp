@@ -28,17 +28,24 @@ TEST(Notices, MostImportantComesFirst) {
                         .skipped = 3,
                         .file = "kjv.txt",
                         .settingsChanged = true,
+                        .foreignLetters = 1204,
                         .countOnlyWords = 5,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
   EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
-                                        kOnlyWordsCountedText, kPartShownText, kWordsLeftOutText));
+                                        kLettersNotCountedText, kOnlyWordsCountedText,
+                                        kPartShownText, kWordsLeftOutText));
 }
 
 TEST(Notices, OneIsNotMany) {
-  EXPECT_THAT(TextsOf({.listStands = true, .skipped = 1, .countOnlyWords = 1, .wordsToIgnore = 1}),
-              ElementsAre(kFileSkippedText, kOnlyWordCountedText, kWordLeftOutText));
+  EXPECT_THAT(
+      TextsOf({.listStands = true,
+               .skipped = 1,
+               .foreignLetters = 1,
+               .countOnlyWords = 1,
+               .wordsToIgnore = 1}),
+      ElementsAre(kFileSkippedText, kLetterNotCountedText, kOnlyWordCountedText, kWordLeftOutText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -46,8 +53,8 @@ TEST(Notices, OneIsNotMany) {
 
 TEST(Notices, EveryCommandHasACaption) {
   for (const auto action :
-       {NoticeAction::kShowSkipped, NoticeAction::kCountAgain, NoticeAction::kOpenPanel,
-        NoticeAction::kShowTable, NoticeAction::kExport}) {
+       {NoticeAction::kShowSkipped, NoticeAction::kCountAgain, NoticeAction::kCountAllLetters,
+        NoticeAction::kOpenPanel, NoticeAction::kShowTable, NoticeAction::kExport}) {
     EXPECT_GT(CaptionOf(action), 0);
   }
   EXPECT_EQ(CaptionOf(NoticeAction::kNone), 0);
@@ -184,6 +191,33 @@ TEST_F(NoticeBarTest, TellsOfSkippedFilesAndWhichTheyAre) {
               return HasFailure() ? 1 : 0;
             }),
             0);
+}
+
+TEST_F(NoticeBarTest, LettersOfOtherAlphabetsAreCountedOnDemand) {
+  CountFile(folder.Write("a.txt", "мир and миры"));
+  EXPECT_EQ(Said(), "7 letters of other alphabets were not counted.");
+  ASSERT_THAT(Commands(), ElementsAre("Count them"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_THAT(desktop.Messages(), testing::IsEmpty()) << "there is nothing left to ask";
+  EXPECT_EQ(Panel().cboLetters.Text(), "of all languages");
+  EXPECT_EQ(StoredWords(), "and мир миры");
+  EXPECT_EQ(Said(), "");
+}
+
+TEST_F(NoticeBarTest, LettersThatWereNotCountedAreToldInTheUsersWay) {
+  std::string text = "cat";
+  for (int i = 0; i < 1204; ++i) text += " ж";
+  CountClipboard(text);
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Said(), "1" + program.DigitGroupSeparator() +
+                        "204 Buchstaben anderer Alphabete wurden nicht gezählt.");
+  EXPECT_THAT(Commands(), ElementsAre("Mitzählen"));
+  CountClipboard("ж cat");
+  EXPECT_EQ(Said(), "Ein Buchstabe eines anderen Alphabets wurde nicht gezählt.");
+  desktop.Answer(MessageAnswer::kYes);  // it entails reading the clipboard anew
+  Panel().cboLetters.SetListIndex(1);
+  CountClipboard("ж cat");
+  EXPECT_EQ(Said(), "");
 }
 
 TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {

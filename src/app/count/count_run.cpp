@@ -97,6 +97,7 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.ranking = std::move(result.ranking);
   count_.words.WordsRead = result.wordsRead;
   count_.words.orderFigures = std::move(result.orderFigures);
+  count_.words.uncounted = result.uncounted;
   count_.words.folder = {result.files, result.folders, {}};
   count_.words.completeRun = result.end == CountEnd::kComplete;
   count_.words.listAfterStop = !count_.words.completeRun;

@@ -54,6 +54,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.store = std::move(result.store);
     count.words.WordsRead = result.wordsRead;
     count.words.orderFigures = std::move(result.orderFigures);
+    count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.inForce.settings.OpenComment = result.openComment;
   }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "engine/uncounted.h"
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
@@ -33,6 +34,8 @@ struct CurrentWords {
   std::int32_t WordsRead = 0;
   /// Of the same words; nothing if nobody wanted them.
   std::optional<OrderFigures> orderFigures;
+  /// What was met beside them.
+  Uncounted uncounted;
   std::int16_t minimumColumnWidth = kMinimumColumnWidth;
 
   // Whoever listens changes nothing of the words.
@@ -65,6 +68,7 @@ struct CurrentWords {
     totals = {};
     ranking = {};
     orderFigures.reset();
+    uncounted = {};
     counted = {};
     folder.skippedNotice.clear();
     completeRun = false;

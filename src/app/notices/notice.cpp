@@ -45,6 +45,10 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      0,
      [](const NoticeFacts& facts) { return If(facts.settingsChanged); },
      {kCountAgain}},
+    {kLettersNotCountedText,
+     kLetterNotCountedText,
+     [](const NoticeFacts& facts) { return NumberOf(facts.foreignLetters); },
+     {kCountAllLetters}},
     {kOnlyWordsCountedText,
      kOnlyWordCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.countOnlyWords); },
@@ -89,6 +93,8 @@ int CaptionOf(NoticeAction action) {
       return kWhichText;
     case kCountAgain:
       return kCountAgainText;
+    case kCountAllLetters:
+      return kCountThemText;
     case kOpenPanel:
       return kChangeText;
     case kShowTable:

@@ -16,6 +16,7 @@ enum class NoticeAction : std::uint8_t {
   kNone,
   kShowSkipped,
   kCountAgain,
+  kCountAllLetters,
   kOpenPanel,
   kShowTable,
   kExport,
@@ -33,6 +34,8 @@ struct NoticeFacts {
   bool clipboard = false;
   /// The list would be another one if it were made now.
   bool settingsChanged = false;
+  /// Letters of other alphabets than the count went by.
+  std::int64_t foreignLetters = 0;
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   std::int64_t wordsToIgnore = 0;

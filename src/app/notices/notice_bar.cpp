@@ -76,6 +76,7 @@ NoticeFacts NoticeBar::Facts() const {
   const CountBasis& basis = countRun_.Basis();
   facts.settingsChanged =
       !CountAlike(basis, CountBasisOf(frmMain_, frmParams_, inForce_), words_.counted.source);
+  facts.foreignLetters = words_.uncounted.foreignLetters;
   facts.countOnlyWords = basis.countOnlyWords;
   facts.wordsToIgnore = basis.wordsToIgnore;
   const ListPart part = output_.Part();
@@ -134,6 +135,7 @@ void NoticeBar::Hide() {
 bool NoticeBar::CanDo(NoticeAction action) const {
   if (action == NoticeAction::kShowTable) return static_cast<bool>(showTable_);
   if (action == NoticeAction::kExport) return static_cast<bool>(export_);
+  if (action == NoticeAction::kCountAllLetters) return static_cast<bool>(countAllLetters_);
   return action != NoticeAction::kNone;
 }
 
@@ -146,6 +148,8 @@ void NoticeBar::Do(NoticeAction action) {
       return ShowSkipped();
     case NoticeAction::kCountAgain:
       return frmMain_.cmdCountWords.PerformClick();
+    case NoticeAction::kCountAllLetters:
+      return countAllLetters_();
     case NoticeAction::kOpenPanel:
       return frmMain_.cmdSetParameters.PerformClick();
     case NoticeAction::kShowTable:

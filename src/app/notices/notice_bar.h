@@ -45,9 +45,11 @@ class NoticeBar {
   /// itself: the language.
   void Update();
 
-  /// What shows the list as a table, and what exports it; without one there is no command for it.
+  // What shows the list as a table, what exports it, and what counts again with the letters of all
+  // languages; without one there is no command for it.
   void SetTableShower(std::function<void()> show) { showTable_ = std::move(show); }
   void SetExporter(std::function<void()> exportList) { export_ = std::move(exportList); }
+  void SetLetterCounter(std::function<void()> countAll) { countAllLetters_ = std::move(countAll); }
   /// The user looks at the text, or at something else that shows all words.
   void SetTextShown(bool shown);
 
@@ -75,6 +77,7 @@ class NoticeBar {
   Desktop& desktop_;
   std::function<void()> showTable_;
   std::function<void()> export_;
+  std::function<void()> countAllLetters_;
   bool textShown_ = true;
   /// Rows of notices.
   std::set<std::size_t> dismissed_;
