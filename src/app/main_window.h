@@ -2,32 +2,25 @@
 #pragma once
 
 #include "app/count/count_run.h"
-#include "app/count/run_state.h"
-#include "app/count/window_state.h"
-#include "app/list/output_box.h"
 #include "app/list/word_lister.h"
-#include "app/messages.h"
-#include "app/window_flags.h"
-#include "ui/desktop.h"
-#include "ui/main_form.h"
+#include "app/what_parts_share.h"
 
 namespace quillomat {
 
 class MainWindow {
  public:
   /// All must outlive it.
-  MainWindow(MainForm& frmMain, OutputBox& output, const Messages& messages, const RunState& run,
-             const WindowControls& controls, const WordLister& lister, CountRun& countRun,
-             const WindowFlags& flags, Desktop& desktop)
-      : frmMain_(frmMain),
-        output_(output),
-        messages_(messages),
+  MainWindow(const UserSide& user, const RunState& run, const WindowFlags& flags,
+             const WordLister& lister, CountRun& countRun)
+      : frmMain_(user.frmMain),
+        output_(user.output),
+        messages_(user.messages),
         run_(run),
-        controls_(controls),
+        controls_(user.controls),
         lister_(lister),
         countRun_(countRun),
         flags_(flags),
-        desktop_(desktop) {}
+        desktop_(user.desktop) {}
 
   /// Connects the window's controls with what they do. Called once.
   void Connect();

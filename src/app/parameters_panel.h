@@ -3,29 +3,22 @@
 
 #include <functional>
 
-#include "app/count/run_state.h"
 #include "app/count/word_list_reader.h"
-#include "app/list/current_words.h"
-#include "app/messages.h"
-#include "app/window_flags.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
+#include "app/what_parts_share.h"
 
 namespace quillomat {
 
 class ParametersPanel {
  public:
   /// All must outlive it.
-  ParametersPanel(MainForm& frmMain, ParamsForm& frmParams, const Messages& messages,
-                  const RunState& run, CurrentWords& words, InForce& inForce, WindowFlags& flags,
-                  WordListReader& wordLists)
-      : frmMain_(frmMain),
-        frmParams_(frmParams),
-        messages_(messages),
-        run_(run),
-        words_(words),
-        inForce_(inForce),
-        flags_(flags),
+  ParametersPanel(const UserSide& user, const ProgramFacts& facts, WordListReader& wordLists)
+      : frmMain_(user.frmMain),
+        frmParams_(user.frmParams),
+        messages_(user.messages),
+        run_(facts.run),
+        words_(facts.words),
+        inForce_(facts.inForce),
+        flags_(facts.flags),
         wordLists_(wordLists) {}
 
   /// Connects the panel's controls with what they do. Called once. `initialize` puts the program

@@ -52,7 +52,8 @@ void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
 }  // namespace
 
 Program::Program(Desktop& desktop, EventPump::Clock clock)
-    : desktop_(desktop), parts_(frmMain, frmParams, frmHelp, frmExport, desktop, std::move(clock)) {
+    : desktop_(desktop),
+      parts_({frmMain, frmParams, frmHelp, frmExport}, desktop, std::move(clock)) {
   UseThreads(UsualScanThreads());
   Connect();
 }

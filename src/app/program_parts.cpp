@@ -4,27 +4,26 @@
 
 namespace quillomat {
 
-ProgramParts::ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& frmHelp,
-                           ExportForm& frmExport, Desktop& desktop, EventPump::Clock clock)
+ProgramParts::ProgramParts(const ProgramForms& forms, Desktop& desktop, EventPump::Clock clock)
     : pump(desktop, std::move(clock)),
       run(pump),
       messages(desktop, text),
-      output(frmMain, desktop),
+      output(forms.frmMain, desktop),
       paths(desktop),
-      inputRow(frmMain, messages, flags),
-      controls(frmMain, frmParams, text, run),
-      lister(frmMain, frmParams, output, run, words, inForce, messages, desktop),
-      wordLists(frmMain, frmParams, output, messages, run, words, inForce, paths, flags),
-      windowCount{frmMain, output, messages, run, words, inForce},
-      countRun(windowCount, frmParams, controls, lister, wordLists, inputRow, paths, flags,
-               desktop),
-      savedState(windowCount, frmParams, flags, inputRow, paths, countRun, wordLists),
-      sources(frmMain, output, messages, run, controls, inputRow, paths, countRun.Extensions(),
-              flags),
-      mainWindow(frmMain, output, messages, run, controls, lister, countRun, flags, desktop),
-      panel(frmMain, frmParams, messages, run, words, inForce, flags, wordLists),
-      help(frmMain, frmHelp),
-      notices(frmMain, frmParams, output, messages, run, words, inForce, countRun, desktop),
-      exports(frmMain, frmParams, frmExport, messages, run, pump, words, inForce, paths, desktop) {}
+      inputRow(forms.frmMain, messages, flags),
+      controls(forms.frmMain, forms.frmParams, text, run),
+      facts{run, words, inForce, flags},
+      user{forms.frmMain, forms.frmParams, output, controls, messages, desktop},
+      named{inputRow, paths},
+      lister(user, facts),
+      wordLists(user, facts, paths),
+      countRun(user, facts, named, lister, wordLists),
+      savedState(user, facts, named, countRun, wordLists),
+      sources(user, run, flags, named, countRun.Extensions()),
+      mainWindow(user, run, flags, lister, countRun),
+      panel(user, facts, wordLists),
+      help(forms.frmMain, forms.frmHelp),
+      notices(user, facts, countRun),
+      exports(forms.frmExport, user, facts, pump, paths) {}
 
 }  // namespace quillomat

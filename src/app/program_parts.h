@@ -8,7 +8,6 @@
 #include "app/count/input_file_row.h"
 #include "app/count/path_boxes.h"
 #include "app/count/run_state.h"
-#include "app/count/window_count.h"
 #include "app/count/window_state.h"
 #include "app/count/word_list_reader.h"
 #include "app/exports/export_window.h"
@@ -22,6 +21,7 @@
 #include "app/parameters_panel.h"
 #include "app/saved_state.h"
 #include "app/source_rows.h"
+#include "app/what_parts_share.h"
 #include "app/window_flags.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
@@ -33,10 +33,17 @@
 
 namespace quillomat {
 
+/// All windows.
+struct ProgramForms {
+  MainForm& frmMain;
+  ParamsForm& frmParams;
+  HelpForm& frmHelp;
+  ExportForm& frmExport;
+};
+
 struct ProgramParts {
   /// All must outlive the parts. Nothing is connected yet.
-  ProgramParts(MainForm& frmMain, ParamsForm& frmParams, HelpForm& frmHelp, ExportForm& frmExport,
-               Desktop& desktop, EventPump::Clock clock);
+  ProgramParts(const ProgramForms& forms, Desktop& desktop, EventPump::Clock clock);
 
   // What is known.
   EventPump pump;
@@ -53,10 +60,14 @@ struct ProgramParts {
   InputFileRow inputRow;
   WindowControls controls;
 
+  // The same in groups, of which the others are made.
+  ProgramFacts facts;
+  UserSide user;
+  NamedPaths named;
+
   // What acts.
   WordLister lister;
   WordListReader wordLists;
-  WindowCount windowCount;
   CountRun countRun;
   SavedState savedState;
 

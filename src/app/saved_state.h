@@ -5,11 +5,9 @@
 #include <string>
 
 #include "app/count/count_run.h"
-#include "app/count/input_file_row.h"
-#include "app/count/path_boxes.h"
 #include "app/count/window_count.h"
 #include "app/count/word_list_reader.h"
-#include "app/window_flags.h"
+#include "app/what_parts_share.h"
 
 namespace quillomat {
 
@@ -26,14 +24,13 @@ enum class RestoreResult {
 class SavedState {
  public:
   /// All must outlive it.
-  SavedState(const WindowCount& count, ParamsForm& frmParams, WindowFlags& flags,
-             InputFileRow& inputRow, PathBoxes& paths, CountRun& countRun,
-             WordListReader& wordLists)
-      : count_(count),
-        frmParams_(frmParams),
-        flags_(flags),
-        inputRow_(inputRow),
-        paths_(paths),
+  SavedState(const UserSide& user, const ProgramFacts& facts, const NamedPaths& named,
+             CountRun& countRun, WordListReader& wordLists)
+      : count_(WindowCountOf(user, facts)),
+        frmParams_(user.frmParams),
+        flags_(facts.flags),
+        inputRow_(named.inputRow),
+        paths_(named.paths),
         countRun_(countRun),
         wordLists_(wordLists) {}
 
@@ -72,7 +69,7 @@ class SavedState {
     return path.empty() ? settingsFilePath_ : path;
   }
 
-  const WindowCount& count_;
+  WindowCount count_;
   ParamsForm& frmParams_;
   WindowFlags& flags_;
   InputFileRow& inputRow_;

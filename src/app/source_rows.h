@@ -7,30 +7,22 @@
 #include <vector>
 
 #include "app/count/file_extensions.h"
-#include "app/count/input_file_row.h"
-#include "app/count/path_boxes.h"
-#include "app/count/run_state.h"
-#include "app/count/window_state.h"
-#include "app/list/output_box.h"
-#include "app/messages.h"
-#include "app/window_flags.h"
-#include "ui/main_form.h"
+#include "app/what_parts_share.h"
 
 namespace quillomat {
 
 class SourceRows {
  public:
   /// All must outlive it.
-  SourceRows(MainForm& frmMain, OutputBox& output, const Messages& messages, const RunState& run,
-             WindowControls& controls, InputFileRow& inputRow, PathBoxes& paths,
-             FileExtensions& extensions, const WindowFlags& flags)
-      : frmMain_(frmMain),
-        output_(output),
-        messages_(messages),
+  SourceRows(const UserSide& user, const RunState& run, const WindowFlags& flags,
+             const NamedPaths& named, FileExtensions& extensions)
+      : frmMain_(user.frmMain),
+        output_(user.output),
+        messages_(user.messages),
         run_(run),
-        controls_(controls),
-        inputRow_(inputRow),
-        paths_(paths),
+        controls_(user.controls),
+        inputRow_(named.inputRow),
+        paths_(named.paths),
         extensions_(extensions),
         flags_(flags) {}
 

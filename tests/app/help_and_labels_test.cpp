@@ -160,7 +160,7 @@ TEST_F(HelpAndLabels, HelpThatWasClosedWhileMinimizedComesBack) {
 
 TEST_F(HelpAndLabels, ClipboardViewerIsOpenedWithoutAReportOfErrors) {
   MainForm main;
-  ProgramParts parts(main, Panel(), Help(), program.frmExport, desktop,
+  ProgramParts parts({main, Panel(), Help(), program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   parts.controls.SetClipboardViewer("/viewer");
   parts.mainWindow.Connect();

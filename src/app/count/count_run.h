@@ -11,12 +11,10 @@
 #include "app/count/file_extensions.h"
 #include "app/count/file_source.h"
 #include "app/count/folder_source.h"
-#include "app/count/input_file_row.h"
 #include "app/count/window_count.h"
-#include "app/count/window_state.h"
 #include "app/count/word_list_reader.h"
 #include "app/list/word_lister.h"
-#include "app/window_flags.h"
+#include "app/what_parts_share.h"
 #include "engine/word_filters.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
@@ -27,20 +25,19 @@ namespace quillomat {
 class CountRun {
  public:
   /// All must outlive it.
-  CountRun(const WindowCount& count, ParamsForm& frmParams, WindowControls& controls,
-           WordLister& lister, WordListReader& wordLists, InputFileRow& inputRow, PathBoxes& paths,
-           const WindowFlags& flags, Desktop& desktop)
-      : count_(count),
-        frmParams_(frmParams),
-        controls_(controls),
+  CountRun(const UserSide& user, const ProgramFacts& facts, const NamedPaths& named,
+           WordLister& lister, WordListReader& wordLists)
+      : count_(WindowCountOf(user, facts)),
+        frmParams_(user.frmParams),
+        controls_(user.controls),
         lister_(lister),
         wordLists_(wordLists),
-        flags_(flags),
-        desktop_(desktop),
-        clipboard_(count, lister, desktop),
-        file_(count, inputRow, paths, desktop),
-        extensions_(count.frmMain, count.messages),
-        folder_(count, inputRow, paths, extensions_) {}
+        flags_(facts.flags),
+        desktop_(user.desktop),
+        clipboard_(count_, lister, user.desktop),
+        file_(count_, named.inputRow, named.paths, user.desktop),
+        extensions_(user.frmMain, user.messages),
+        folder_(count_, named.inputRow, named.paths, extensions_) {}
 
   /// The count command was clicked: starts a run, or asks the one that is at work to stop.
   void OnCountClick();
@@ -100,7 +97,7 @@ class CountRun {
   void FinishRun(const FilterChoices& filters);
   void ListAgain(ListTarget target);
 
-  const WindowCount& count_;
+  WindowCount count_;
   ParamsForm& frmParams_;
   WindowControls& controls_;
   WordLister& lister_;

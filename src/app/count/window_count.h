@@ -6,15 +6,12 @@
 #include <string_view>
 #include <utility>
 
-#include "app/count/in_force.h"
 #include "app/count/progress_bar.h"
-#include "app/count/run_state.h"
 #include "app/count/word_echo.h"
-#include "app/list/current_words.h"
+#include "app/what_parts_share.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
-#include "ui/params_form.h"
 
 namespace quillomat {
 
@@ -31,6 +28,9 @@ struct WindowCount {
   CurrentWords& words;
   InForce& inForce;
 };
+[[nodiscard]] inline WindowCount WindowCountOf(const UserSide& user, const ProgramFacts& facts) {
+  return {user.frmMain, user.output, user.messages, facts.run, facts.words, facts.inForce};
+}
 
 /// Shows on the main window how a count gets on, and passes on the user's wish to stop. The sources
 /// add what is their own.

@@ -8,36 +8,26 @@
 #include <cstdint>
 #include <string>
 
-#include "app/count/in_force.h"
-#include "app/count/path_boxes.h"
-#include "app/count/run_state.h"
-#include "app/list/current_words.h"
-#include "app/list/output_box.h"
-#include "app/messages.h"
-#include "app/window_flags.h"
+#include "app/what_parts_share.h"
 #include "engine/letter_rule.h"
 #include "engine/word_list.h"
 #include "system/input_file.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
 
 namespace quillomat {
 
 class WordListReader {
  public:
   /// All must outlive it.
-  WordListReader(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output,
-                 const Messages& messages, RunState& run, CurrentWords& words, InForce& inForce,
-                 PathBoxes& paths, const WindowFlags& flags)
-      : frmMain_(frmMain),
-        frmParams_(frmParams),
-        output_(output),
-        messages_(messages),
-        run_(run),
-        words_(words),
-        inForce_(inForce),
+  WordListReader(const UserSide& user, const ProgramFacts& facts, PathBoxes& paths)
+      : frmMain_(user.frmMain),
+        frmParams_(user.frmParams),
+        output_(user.output),
+        messages_(user.messages),
+        run_(facts.run),
+        words_(facts.words),
+        inForce_(facts.inForce),
         paths_(paths),
-        flags_(flags) {}
+        flags_(facts.flags) {}
 
   /// Parses the typed words into their list. Returns the cleaned text of the list or, when there
   /// are too many words, the message that says so; only the message ends with ".".

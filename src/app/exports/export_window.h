@@ -10,17 +10,10 @@
 #include <utility>
 #include <vector>
 
-#include "app/count/in_force.h"
-#include "app/count/path_boxes.h"
-#include "app/count/run_state.h"
 #include "app/exports/result_export.h"
-#include "app/list/current_words.h"
-#include "app/messages.h"
+#include "app/what_parts_share.h"
 #include "export/export_format.h"
-#include "ui/desktop.h"
 #include "ui/export_form.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
 #include "ui/yielder.h"
 
 namespace quillomat {
@@ -32,19 +25,18 @@ using FilteredPlaces = std::function<std::optional<std::vector<std::int32_t>>()>
 class ExportWindow {
  public:
   /// All must outlive it.
-  ExportWindow(MainForm& frmMain, const ParamsForm& frmParams, ExportForm& frmExport,
-               const Messages& messages, RunState& run, EventPump& pump, const CurrentWords& words,
-               const InForce& inForce, PathBoxes& paths, Desktop& desktop)
-      : frmMain_(frmMain),
-        frmParams_(frmParams),
+  ExportWindow(ExportForm& frmExport, const UserSide& user, const ProgramFacts& facts,
+               EventPump& pump, PathBoxes& paths)
+      : frmMain_(user.frmMain),
+        frmParams_(user.frmParams),
         frmExport_(frmExport),
-        messages_(messages),
-        run_(run),
+        messages_(user.messages),
+        run_(facts.run),
         pump_(pump),
-        words_(words),
-        inForce_(inForce),
+        words_(facts.words),
+        inForce_(facts.inForce),
         paths_(paths),
-        desktop_(desktop) {}
+        desktop_(user.desktop) {}
 
   /// Fills the window and connects its commands. Called once.
   void Connect();

@@ -38,17 +38,15 @@ std::string_view NameInRefusal(DisplayFormat format) {
 
 }  // namespace
 
-WordLister::WordLister(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output, RunState& run,
-                       const CurrentWords& words, const InForce& inForce, const Messages& messages,
-                       Desktop& desktop)
-    : frmMain_(frmMain),
-      frmParams_(frmParams),
-      output_(output),
-      run_(run),
-      words_(words),
-      inForce_(inForce),
-      messages_(messages),
-      desktop_(desktop) {}
+WordLister::WordLister(const UserSide& user, const ProgramFacts& facts)
+    : frmMain_(user.frmMain),
+      frmParams_(user.frmParams),
+      output_(user.output),
+      run_(facts.run),
+      words_(facts.words),
+      inForce_(facts.inForce),
+      messages_(user.messages),
+      desktop_(user.desktop) {}
 
 bool WordLister::HasOutputFile() const {
   return !frmMain_.txbFile[1].Text().empty() && !frmMain_.chkDisableOutputToFile.IsChecked();

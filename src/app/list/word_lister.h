@@ -8,29 +8,20 @@
 #include <string_view>
 #include <utility>
 
-#include "app/count/in_force.h"
-#include "app/count/run_state.h"
-#include "app/list/current_words.h"
-#include "app/list/output_box.h"
-#include "app/messages.h"
+#include "app/what_parts_share.h"
 #include "base/byte_sink.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "listing/display_format.h"
 #include "listing/list_walk.h"
 #include "sources/output_rules.h"
-#include "ui/desktop.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
 
 namespace quillomat {
 
 class WordLister {
  public:
   /// All must outlive the lister.
-  WordLister(MainForm& frmMain, ParamsForm& frmParams, OutputBox& output, RunState& run,
-             const CurrentWords& words, const InForce& inForce, const Messages& messages,
-             Desktop& desktop);
+  WordLister(const UserSide& user, const ProgramFacts& facts);
 
   /// Lists the words of the last count; asks before an existing output file is overwritten. What
   /// goes wrong is shown to the user. The stop flag ends it early; an output file that is not whole

@@ -10,33 +10,24 @@
 #include <utility>
 
 #include "app/count/count_run.h"
-#include "app/count/in_force.h"
-#include "app/count/run_state.h"
-#include "app/list/current_words.h"
-#include "app/list/output_box.h"
-#include "app/messages.h"
 #include "app/notices/notice.h"
-#include "ui/desktop.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
+#include "app/what_parts_share.h"
 
 namespace quillomat {
 
 class NoticeBar {
  public:
   /// All must outlive it.
-  NoticeBar(MainForm& frmMain, ParamsForm& frmParams, const OutputBox& output,
-            const Messages& messages, RunState& run, const CurrentWords& words,
-            const InForce& inForce, const CountRun& countRun, Desktop& desktop)
-      : frmMain_(frmMain),
-        frmParams_(frmParams),
-        output_(output),
-        messages_(messages),
-        run_(run),
-        words_(words),
-        inForce_(inForce),
+  NoticeBar(const UserSide& user, const ProgramFacts& facts, const CountRun& countRun)
+      : frmMain_(user.frmMain),
+        frmParams_(user.frmParams),
+        output_(user.output),
+        messages_(user.messages),
+        run_(facts.run),
+        words_(facts.words),
+        inForce_(facts.inForce),
         countRun_(countRun),
-        desktop_(desktop) {}
+        desktop_(user.desktop) {}
 
   /// Connects the line with what it tells of. Called once.
   void Connect();

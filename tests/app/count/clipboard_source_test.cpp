@@ -108,22 +108,24 @@ TEST_F(ClipboardSourceTest, ARefusalLeavesTheWordsOfTheLastCount) {
 }
 
 TEST_F(ClipboardSourceTest, PastingPutsTheTextIntoTheOutputBoxAndNoListStandsThen) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   parts.words.blnWordsGot = true;
   desktop.SetClipboard("two\r\nlines");
-  EXPECT_TRUE(ClipboardSource(parts.windowCount, parts.lister, desktop).ReadClipboard(true));
+  EXPECT_TRUE(ClipboardSource(WindowCountOf(parts.user, parts.facts), parts.lister, desktop)
+                  .ReadClipboard(true));
   EXPECT_EQ(Output(), "two\r\nlines");
   EXPECT_FALSE(parts.words.blnWordsGot);
 }
 
 TEST_F(ClipboardSourceTest, WithoutPastingTheOutputBoxIsOnlyEmptied) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   parts.words.blnWordsGot = true;
   parts.output.OutputToTxb("cat");
   desktop.SetClipboard("two\r\nlines");
-  EXPECT_TRUE(ClipboardSource(parts.windowCount, parts.lister, desktop).ReadClipboard(false));
+  EXPECT_TRUE(ClipboardSource(WindowCountOf(parts.user, parts.facts), parts.lister, desktop)
+                  .ReadClipboard(false));
   EXPECT_EQ(Output(), "");
   EXPECT_TRUE(parts.words.blnWordsGot);
 }

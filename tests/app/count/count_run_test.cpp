@@ -69,7 +69,7 @@ TEST_F(CountRunTest, QuitAndCopyAndSuppressAreThereDuringARun) {
 }
 
 TEST_F(CountRunTest, AViewerThatWasNotFoundStaysOutOfReach) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   for (const std::string viewer : {"", "/usr/bin/viewer"}) {
     parts.controls.SetClipboardViewer(viewer);

@@ -14,7 +14,7 @@ namespace {
 class RunPhaseTest : public SourcesFixture {
  protected:
   RunPhaseTest()
-      : parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+      : parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
               std::chrono::steady_clock::now) {
     EXPECT_TRUE(parts.text.LoadProgramText("qlav_text.dat", desktop));
   }

@@ -172,7 +172,7 @@ TEST_F(WordEchoTest, TheLimitCountsCharactersNotBytes) {
 TEST_F(WordEchoTest, TheFirstWordIsShownHoweverLongTheBoxIsAndTheSecondSuppresses) {
   const std::string before(44'001, 'x');
   Main().txbOutput.SetText(before);
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   parts.mainWindow.Connect();
   WordEcho echo(Main(), parts.output, parts.messages, parts.inForce.settings);
@@ -187,7 +187,7 @@ TEST_F(WordEchoTest, TheFirstWordIsShownHoweverLongTheBoxIsAndTheSecondSuppresse
 }
 
 TEST_F(WordEchoTest, NobodyListensWhenTheScanIsOver) {
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   ASSERT_TRUE(parts.text.LoadProgramText("qlav_text.dat", desktop));
   Main().optOnClipboard.SetValue(true);

@@ -71,7 +71,7 @@ TEST_F(WordListMessages, TooManyTypedWordsAreRefusedAndTheListStands) {
 
 TEST_F(WordListMessages, OnlyTheMessageEndsWithAFullStop) {
   Panel().txbWordsToIgnoreOrCount[0].SetText(" End. Stop... ");
-  ProgramParts parts(Main(), Panel(), program.frmHelp, program.frmExport, desktop,
+  ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
   EXPECT_EQ(parts.wordLists.GetExtraWords(kIgnore), "end stop");
   Panel().txbWordsToIgnoreOrCount[0].SetText(ManyWords(1'001));
