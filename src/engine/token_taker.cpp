@@ -8,14 +8,13 @@
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
+#include "engine/final_form.h"
 #include "engine/fold_accents.h"
 #include "engine/normal_text.h"
 #include "engine/word_rules.h"
 
 namespace quillomat {
 namespace {
-
-constexpr std::string_view kTrimmedFromWords = "-'.,:()";
 
 bool IsLetter(char ch) {
   return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
@@ -25,14 +24,9 @@ bool IsLetter(char ch) {
 
 /// What is left of a token that starts as words may start; often all of it, sometimes nothing.
 std::string_view TokenTaker::FinalForm(std::string_view token) {
-  std::string_view word = TrimTrailingChars(token, kTrimmedFromWords);
-  if (settings_.ReadingWordList) {
-    if (!word.empty()) settings_.NoteListWordChars(word);
-    return word;
-  }
-  if (IsSet(choices_.dropFinalS)) word = DropFinalS(word, keyRule_.letters);
-  const bool dropFragments = choices_.AllowWith(AllowFlag::kApostrophe) == CheckState::kUnchecked;
-  if (dropFragments && IsApostropheFragment(word)) return {};
+  if (!settings_.ReadingWordList) return FinalFormOf(token, choices_).word;
+  const std::string_view word = TrimTrailingChars(token, kTrimmedFromWords);
+  if (!word.empty()) settings_.NoteListWordChars(word);
   return word;
 }
 

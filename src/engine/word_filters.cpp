@@ -16,29 +16,32 @@ bool IsExcludedRepetition(std::string_view word, std::int32_t length, LetterRule
   return length > 1 && !startsWithDigit && IsRepetition(word);
 }
 
-bool IsExcluded(const WordRec& record, const FilterChoices& choices) {
+}  // namespace
+
+WordFilter FilterThatExcludes(const WordRec& record, const FilterChoices& choices) {
+  using enum WordFilter;
   const auto length = static_cast<std::int32_t>(CharacterCount(record.Word));
   if (IsSet(choices.ignoreInfrequentWords) &&
       record.Count < choices.thresholdFrequencyIndex + kFirstListedNumber) {
-    return true;
+    return kInfrequent;
   }
   if (IsSet(choices.ignoreShortWords) && length < choices.shortWordSizeIndex + kFirstListedNumber) {
-    return true;
+    return kShort;
   }
-  if (length > choices.longWordSize) return true;
+  if (length > choices.longWordSize) return kLong;
   if (IsSet(choices.ignoreRepetitions) &&
       IsExcludedRepetition(record.Word, length, choices.letters)) {
-    return true;
+    return kRepetition;
   }
-  if (IsSet(choices.ignoreRomNum40) && IsRomanNumeral(record.Word, true)) return true;
-  return IsSet(choices.ignoreNoVowelOrY) && LacksVowel(record.Word, true, choices.letters);
+  if (IsSet(choices.ignoreRomNum40) && IsRomanNumeral(record.Word, true)) return kRomanNumeral;
+  const bool needsVowel = IsSet(choices.ignoreNoVowelOrY);
+  return needsVowel && LacksVowel(record.Word, true, choices.letters) ? kNoVowel : kNone;
 }
-
-}  // namespace
 
 void ApplyWordFilters(WordStore& store, const FilterChoices& choices) {
   for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
-    store.SetIncluded(index, !IsExcluded(store.At(index), choices));
+    const WordFilter filter = FilterThatExcludes(store.At(index), choices);
+    store.SetIncluded(index, filter == WordFilter::kNone);
   }
 }
 

@@ -26,6 +26,21 @@ struct FilterChoices {
   LetterRule letters = LetterRule::kWestern;
 };
 
+/// The filters in the order in which they are asked.
+enum class WordFilter : std::uint8_t {
+  /// The word passes all of them.
+  kNone,
+  kInfrequent,
+  kShort,
+  kLong,
+  kRepetition,
+  kRomanNumeral,
+  kNoVowel,
+};
+
+/// The first filter by which the word of a record is not listed.
+[[nodiscard]] WordFilter FilterThatExcludes(const WordRec& record, const FilterChoices& choices);
+
 /// Sets `Included` of every record.
 void ApplyWordFilters(WordStore& store, const FilterChoices& choices);
 

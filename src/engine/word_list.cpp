@@ -16,14 +16,18 @@ std::string LowerCaseBy(LetterRule letters, std::string_view text) {
 
 }  // namespace
 
-bool WordLists::Admits(std::string_view word, bool countOnlyMode, LetterRule letters) const {
+ListVerdict WordLists::VerdictOn(std::string_view word, bool countOnlyMode,
+                                 LetterRule letters) const {
+  using enum ListVerdict;
   if (countOnlyMode) {
     const std::string lower = LowerCaseBy(letters, word);
-    return ExtraCountOnlyList.IsInList(lower) || CountOnlyList.IsInList(lower);
+    const bool listed = ExtraCountOnlyList.IsInList(lower) || CountOnlyList.IsInList(lower);
+    return listed ? kAdmitted : kNotCountOnly;
   }
-  if (ExtraIgnoreList.Count() == 0 && IgnoreList.Count() == 0) return true;
+  if (ExtraIgnoreList.Count() == 0 && IgnoreList.Count() == 0) return kAdmitted;
   const std::string lower = LowerCaseBy(letters, word);
-  return !ExtraIgnoreList.IsInList(lower) && !IgnoreList.IsInList(lower);
+  if (ExtraIgnoreList.IsInList(lower)) return kTypedToIgnore;
+  return IgnoreList.IsInList(lower) ? kFileToIgnore : kAdmitted;
 }
 
 SplitResult SplitList(std::string_view text, std::string_view separators, std::size_t capacity) {

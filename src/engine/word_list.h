@@ -47,6 +47,16 @@ class WordList {
   std::unordered_set<std::string, SeededHash, std::equal_to<>> lookup_;
 };
 
+/// What the lists say of a word.
+enum class ListVerdict : std::uint8_t {
+  kAdmitted,
+  /// It is one of the words to ignore: typed, or of the words file.
+  kTypedToIgnore,
+  kFileToIgnore,
+  /// Only other words are counted.
+  kNotCountOnly,
+};
+
 struct WordLists {
   WordList IgnoreList;
   WordList ExtraIgnoreList;
@@ -59,10 +69,14 @@ struct WordLists {
     return CountOnlyList.Count() >= 1 || ExtraCountOnlyList.Count() >= 1;
   }
 
-  /// Whether the lists let `word` be counted. Letter case and accents of the lower-cased word must
-  /// be those of the list.
+  /// Letter case and accents of the lower-cased word must be those of the list.
+  [[nodiscard]] ListVerdict VerdictOn(std::string_view word, bool countOnlyMode,
+                                      LetterRule letters = LetterRule::kWestern) const;
+  /// Whether the lists let `word` be counted.
   [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode,
-                            LetterRule letters = LetterRule::kWestern) const;
+                            LetterRule letters = LetterRule::kWestern) const {
+    return VerdictOn(word, countOnlyMode, letters) == ListVerdict::kAdmitted;
+  }
 };
 
 struct SplitResult {

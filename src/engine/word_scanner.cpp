@@ -42,6 +42,12 @@ void WordScanner::GetWords(std::string_view lineBuffer) {
   ScanText(lineBuffer, [this](std::string_view token) { taker_.TakeCut(token); });
 }
 
+void WordScanner::ShowTokens(std::string_view lineBuffer, ScanWitness& witness) {
+  witness_ = &witness;
+  ScanText(lineBuffer, [&witness](std::string_view token) { witness.OnToken(token); });
+  witness_ = nullptr;
+}
+
 void WordScanner::PassOver(std::string_view lineBuffer) {
   ScanText(lineBuffer, [](std::string_view /*token*/) {});
 }
@@ -58,6 +64,7 @@ void WordScanner::ScanText(std::string_view lineBuffer, Take take) {
     text_ = NormalForm(text_, DottedCapitalI::kKept, normalText_);
   }
   PrepareMarkers();
+  if (witness_ != nullptr) witness_->OnText(text_);
   position_ = 0;
   std::size_t skipped = 0;
   const std::size_t lastCharacter = LastCharacterStart(text_);
@@ -101,7 +108,9 @@ WordScanner::AfterComments WordScanner::SkipComments() {
   int& open = settings_.OpenComment;
   if (open == kNoComment) open = CommentStart();
   while (open != kNoComment) {
+    const std::size_t start = position_;
     SkipComment();
+    if (witness_ != nullptr) witness_->OnComment(text_.substr(start, position_ - start));
     if (position_ >= text_.size()) return AfterComments::kStop;
     if (RestIsOneBlank()) {
       open = kNoComment;

@@ -43,6 +43,25 @@ class ScanYield {
   virtual bool YieldFor(std::uint32_t /*calls*/) { return Yield(); }
 };
 
+/// Is shown what a scan finds in a piece of text. All are views into the text of OnText.
+class ScanWitness {
+ public:
+  ScanWitness() = default;
+  ScanWitness(const ScanWitness&) = delete;
+  ScanWitness& operator=(const ScanWitness&) = delete;
+  ScanWitness(ScanWitness&&) = delete;
+  ScanWitness& operator=(ScanWitness&&) = delete;
+  virtual ~ScanWitness() = default;
+
+  /// First: the text as it is scanned, rewritten and in normal form. It lives
+  /// until the scanner is given another.
+  virtual void OnText(std::string_view text) = 0;
+  /// A comment with its markers, or as much of it as stands in this text.
+  virtual void OnComment(std::string_view comment) = 0;
+  /// A run of word characters that starts as words may start.
+  virtual void OnToken(std::string_view token) = 0;
+};
+
 class WordScanner {
  public:
   /// Everything referred to must outlive the scanner. `settings` is ready (SetAllowWordsFlags,
@@ -53,6 +72,9 @@ class WordScanner {
 
   /// Scans one piece of text. Throws RunTimeError 6 when a counter overflows.
   void GetWords(std::string_view lineBuffer);
+
+  /// Scans it likewise, but shows what is found and counts nothing. Comments are carried on.
+  void ShowTokens(std::string_view lineBuffer, ScanWitness& witness);
 
   /// How many bytes at the start of `lines`, which are whole lines with their line feeds, can be
   /// given to GetWordsOfLines; 0 when the first line needs GetWords.
@@ -122,6 +144,8 @@ class WordScanner {
   std::size_t position_ = 0;
   std::string rewritten_;
   std::string normalText_;
+  /// While a text is shown, else null.
+  ScanWitness* witness_ = nullptr;
   /// Of the lines that PlainLineBytes was asked about last.
   bool linesAreAscii_ = false;
 };

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "engine/scan_settings.h"
+#include "engine/word_filters.h"
 #include "properties/count_case.h"
 #include "sources/count_request.h"
 
@@ -34,6 +35,8 @@ struct FilesInTurn {
 
 /// As the panel's choices are for a scan.
 [[nodiscard]] ScanChoices ScanChoicesOf(const reference::LiteralChoices& from);
+/// And for the list.
+[[nodiscard]] FilterChoices FilterChoicesOf(const reference::LiteralChoices& from);
 
 /// By the literal engine.
 [[nodiscard]] std::string OutcomeOfReference(const CountCase& countCase, Told told = Told::kOrder);

@@ -52,20 +52,6 @@ LetterRule LettersOf(const reference::LiteralChoices& from) {
   return from.cboLetters == 1 ? LetterRule::kAll : LetterRule::kWestern;
 }
 
-FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {
-  FilterChoices choices;
-  choices.ignoreInfrequentWords = StateOf(from.chkIgnoreInfrequentWords);
-  choices.thresholdFrequencyIndex = from.cboThresholdFrequency;
-  choices.ignoreShortWords = StateOf(from.chkIgnoreShortWords);
-  choices.shortWordSizeIndex = from.cboShortWordSize;
-  choices.longWordSize = from.longWordSize;
-  choices.ignoreRepetitions = StateOf(from.chkIgnoreRepetitions);
-  choices.ignoreRomNum40 = StateOf(from.chkIgnoreRomNum40);
-  choices.ignoreNoVowelOrY = StateOf(from.chkIgnoreNoVowelOrY);
-  choices.letters = LettersOf(from);
-  return choices;
-}
-
 std::string FiveDigits(std::int32_t number) {
   const std::string digits = std::to_string(number);
   return std::string(5 - digits.size(), '0') + digits;
@@ -422,6 +408,20 @@ ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
   choices.allowCommentMarkers = StateOf(from.chkAllowCommentMarkers);
   choices.startComment = from.txbStartComment;
   choices.endComment = from.txbEndComment;
+  return choices;
+}
+
+FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {
+  FilterChoices choices;
+  choices.ignoreInfrequentWords = StateOf(from.chkIgnoreInfrequentWords);
+  choices.thresholdFrequencyIndex = from.cboThresholdFrequency;
+  choices.ignoreShortWords = StateOf(from.chkIgnoreShortWords);
+  choices.shortWordSizeIndex = from.cboShortWordSize;
+  choices.longWordSize = from.longWordSize;
+  choices.ignoreRepetitions = StateOf(from.chkIgnoreRepetitions);
+  choices.ignoreRomNum40 = StateOf(from.chkIgnoreRomNum40);
+  choices.ignoreNoVowelOrY = StateOf(from.chkIgnoreNoVowelOrY);
+  choices.letters = LettersOf(from);
   return choices;
 }
 
