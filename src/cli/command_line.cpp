@@ -66,6 +66,9 @@ void DefineText(CLI::App& app, CommandLine& options) {
   AddValue(app, "--text", options.text, "PATH|-",
            "Count the words of PATH, or of standard input for -, as a clipboard text: in one piece "
            "of 100,000 characters at most");
+  AddValue(app, "--explain", options.explain, "TEXT|-",
+           "Count nothing, but tell what would become of every piece of TEXT, or of standard input "
+           "for -: a line each with the piece, whether it is counted, and the word or the reason");
   app.add_flag("--list-files", options.listFiles,
                "With a folder: list the files that would be read, and count nothing");
 }
@@ -229,14 +232,40 @@ void CheckWindowText(const CommandLine& options) {
   }
 }
 
+/// An explanation is no list, and of no file.
+void CheckExplain(const CommandLine& options) {
+  if (!options.explain) return;
+  constexpr auto kOfLists = std::to_array<std::string_view>(
+      {"--output", "--subfolders", "--only-extensions", "--not-extensions"});
+  for (const std::string_view name : kOfLists) {
+    if (IsGiven(options, name)) {
+      throw CLI::ValidationError(std::string(name), "does not go with --explain");
+    }
+  }
+  const std::pair<bool, const char*> given[] = {{options.windowText, "--window-text"},
+                                                {options.listFiles, "--list-files"},
+                                                {options.summary, "--summary"},
+                                                {options.statistics, "--statistics"},
+                                                {options.top.has_value(), "--top"},
+                                                {!options.exports.empty(), "--export"},
+                                                {options.null, "--null"},
+                                                {options.progress, "--progress"},
+                                                {options.listOnInterrupt, "--list-on-interrupt"}};
+  for (const auto& [isGiven, name] : given) {
+    if (isGiven) throw CLI::ValidationError(name, "does not go with --explain");
+  }
+}
+
 void CheckCombinations(const CommandLine& options) {
-  const int sources =
-      static_cast<int>(!options.paths.empty()) + static_cast<int>(options.file.has_value()) +
-      static_cast<int>(options.folder.has_value()) + static_cast<int>(options.text.has_value());
+  const auto sources = std::ranges::count(
+      std::array{!options.paths.empty(), options.file.has_value(), options.folder.has_value(),
+                 options.text.has_value(), options.explain.has_value()},
+      true);
   if (sources != 1) {
     throw CLI::ValidationError(sources == 0 ? "no text" : "more than one text",
-                               "give paths, or one of --file, --folder and --text");
+                               "give paths, or one of --file, --folder, --text and --explain");
   }
+  CheckExplain(options);
   const auto needsFolder = [&](bool given, const char* option) {
     if (given && (options.file || options.text)) {
       throw CLI::ValidationError(option, "goes with a folder");

@@ -21,6 +21,8 @@ struct CommandLine {
   std::optional<std::string> folder;
   /// A path, or "-" for standard input.
   std::optional<std::string> text;
+  /// The text itself, or "-" for that of standard input: it is explained, not counted.
+  std::optional<std::string> explain;
 
   bool listFiles = false;
   bool windowText = false;

@@ -67,6 +67,7 @@ CountedText InputChoice::AsText(bool withSubfolders) const {
 }
 
 InputChoice InputOf(const CommandLine& options) {
+  if (options.explain) return {Kind::kClipboard, {*options.explain}};
   if (options.file) return {Kind::kFile, {*options.file}};
   if (options.folder) return {Kind::kFolder, {*options.folder}};
   if (options.text) return {Kind::kClipboard, {*options.text}};

@@ -21,7 +21,7 @@ struct InputChoice {
   };
 
   Kind kind = Kind::kPaths;
-  /// One, but for kPaths. "-" is standard input, except as a folder.
+  /// One, but for kPaths. "-" is standard input, except as a folder. To be explained: the text.
   std::vector<std::string> paths;
 
   /// For messages.

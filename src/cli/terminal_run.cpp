@@ -9,6 +9,7 @@
 #include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
+#include "base/byte_source.h"
 #include "base/letter_case.h"
 #include "base/limited_source.h"
 #include "base/line_decoder.h"
@@ -17,6 +18,7 @@
 #include "base/utf8.h"
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
+#include "cli/explanation.h"
 #include "cli/input_choice.h"
 #include "cli/result_export.h"
 #include "cli/setting_options.h"
@@ -47,17 +49,21 @@ class TerminalRun {
     program_.BeginControls();
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
+    if (options_.explain) return UnlessInterrupted(Explain());
     if (!CheckInput()) return kRunFailed;
     if (!CheckWhatGoesWithInput()) return kWrongCommandLine;
     if (!ChooseSource()) return kRunFailed;
     if (!TakeEffect() || !SaveState()) return kRunFailed;
     if (options_.listFiles) return ListFiles();
-    const int status = Count();
+    return UnlessInterrupted(Count());
+  }
+
+ private:
+  [[nodiscard]] int UnlessInterrupted(int status) const {
     const int interruption = streams_.interruption();
     return interruption != 0 ? interruption : status;
   }
 
- private:
   bool Fail(const std::string& what) {
     err_ << kOwnError << what << '\n';
     return false;
@@ -175,6 +181,28 @@ class TerminalRun {
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
     folder.SetText(path);
     return result == RestoreResult::kRestored && !desktop_.ProblemShown();
+  }
+
+  /// The text stands on the clipboard, as that of --text.
+  int Explain() {
+    program_.frmMain.optOnClipboard.SetValue(true);
+    if (!FillWithExplained() || !TakeEffect() || !SaveState()) return kRunFailed;
+    if (clipboardIsTooLong_) {
+      Fail("a text of more than 100,000 characters is not explained; give a part of it");
+      return kRunFailed;
+    }
+    CountRun& count = program_.Count();
+    if (!count.PrepareScan()) return kRunFailed;
+    const std::string lines =
+        ExplanationLines(desktop_.ClipboardText(), count.Request({}), program_.Text());
+    return streams_.print([&lines](ByteSink& out) { out.Write(lines); }) ? kListMade : kRunFailed;
+  }
+
+  bool FillWithExplained() {
+    if (IsStandardInput(*options_.explain)) return FillClipboard(*options_.explain);
+    TextSource text(*options_.explain);
+    TakeAsClipboard(text);
+    return true;
   }
 
   int ListFiles() {

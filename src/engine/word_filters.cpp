@@ -7,8 +7,6 @@
 namespace quillomat {
 namespace {
 
-constexpr std::int32_t kFirstListedNumber = 2;
-
 bool IsExcludedRepetition(std::string_view word, std::int32_t length, LetterRule letters) {
   const bool startsWithDigit =
       (word[0] >= '0' && word[0] <= '9') ||

@@ -10,8 +10,11 @@
 
 namespace quillomat {
 
+/// The numbers of the lists below begin with it.
+inline constexpr std::int32_t kFirstListedNumber = 2;
+
 /// The user's choices about the list, as the parameters panel stands when the filters run. The two
-/// `...Index` values are places in lists of numbers that begin with 2.
+/// `...Index` values are places in lists of numbers.
 struct FilterChoices {
   CheckState ignoreInfrequentWords = CheckState::kUnchecked;
   std::int32_t thresholdFrequencyIndex = 0;

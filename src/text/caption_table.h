@@ -281,6 +281,17 @@ inline constexpr int kStatisticsNameText = 672;
 inline constexpr int kFigureColumnText = 673;
 inline constexpr int kValueColumnText = 674;
 
+// What became of the words of a text that is explained.
+/// Of the first CandidateFate, and so on.
+inline constexpr int kFirstFateText = 900;
+/// "%1" stands for the characters, "%2" for the reason.
+inline constexpr int kCutAtText = 903;
+/// Of the first CandidateReason behind kNone, and so on; "%1" stands for a number.
+inline constexpr int kFirstReasonText = 905;
+inline constexpr int kTrimmedText = 925;
+inline constexpr int kLostFinalSText = 926;
+inline constexpr int kSpelledAsBeforeText = 927;
+
 // The line above the list, and what its commands are called.
 inline constexpr int kFilesSkippedText = 700;
 inline constexpr int kFileSkippedText = 701;

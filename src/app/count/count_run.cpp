@@ -84,6 +84,10 @@ bool CountRun::Prepare(const CountedText& text) {
   return MarkersStand() && ExtensionsStand();
 }
 
+bool CountRun::PrepareScan() {
+  return wordLists_.TakeBoxes() && MarkersStand();
+}
+
 CountRequest CountRun::Request(CountSource source) const {
   return RequestFromControls(frmParams_, count_.inForce, std::move(source));
 }

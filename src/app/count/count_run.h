@@ -59,6 +59,8 @@ class CountRun {
 
   /// Checks what the boxes say, as before a count in the window; the user is told of what is wrong.
   [[nodiscard]] bool Prepare(const CountedText& text);
+  /// The same for a scan that writes nothing.
+  [[nodiscard]] bool PrepareScan();
   /// What the controls ask for.
   [[nodiscard]] CountRequest Request(CountSource source) const;
   /// Makes the words of a count, ranked, those of the program, and shows their summary.
