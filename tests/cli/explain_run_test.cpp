@@ -1,0 +1,86 @@
+// --explain: a line for every piece of a text, by the settings of the command line.
+#include <gmock/gmock.h>
+
+#include "cli/exit_status.h"
+#include "cli/terminal_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using ExplainRun = TerminalFixture;
+
+TEST_F(ExplainRun, PrintsEveryPieceWithWhatBecomesOfIt) {
+  EXPECT_EQ(Run({"--explain", "Don't skip (XIV)"}), kListMade);
+  EXPECT_EQ(out,
+            "Don't\tcut\tat ': not allowed in words\n"
+            "Don\tcounted\tdon\n"
+            "t\tleft out\ttaken for the rest of a contraction\n"
+            "skip\tcounted\tskip\n"
+            "XIV\tleft out\tRoman numeral < XL\n");
+  EXPECT_EQ(err, "");
+}
+
+TEST_F(ExplainRun, GoesByTheOptionsAndLists) {
+  EXPECT_EQ(
+      Run({"--explain", "Don't let cats // out", "--apostrophes", "--drop-final-s",
+           "--skip-comments", "--ignore", folder.Write("ignore.txt", "let"), "--min-length", "4"}),
+      kListMade);
+  EXPECT_EQ(out,
+            "Don't\tcounted\tdon't\n"
+            "let\tleft out\tin the words-to-ignore file\n"
+            "cats\tleft out\tfewer than 4 characters\twithout its final s\n"
+            "// out\tleft out\tcomment\n");
+}
+
+TEST_F(ExplainRun, ReadsStandardInput) {
+  input = "two\r\nlines";
+  EXPECT_EQ(Run({"--explain", "-"}), kListMade);
+  EXPECT_EQ(out, "two\tcounted\ttwo\nlines\tcounted\tlines\n");
+}
+
+TEST_F(ExplainRun, EveryPieceHasOneLineWhateverStandsInIt) {
+  input = "a /* b\tc\r\nd */ e";
+  EXPECT_EQ(Run({"--explain", "-", "--skip-comments"}), kListMade);
+  EXPECT_EQ(out, "a\tcounted\ta\n/* b c  d */\tleft out\tcomment\ne\tcounted\te\n");
+}
+
+TEST_F(ExplainRun, PrintsNothingForATextWithoutPieces) {
+  EXPECT_EQ(Run({"--explain", "..."}), kListMade);
+  EXPECT_EQ(out, "");
+}
+
+TEST_F(ExplainRun, TakesNoMoreThanAClipboardDoes) {
+  input = std::string(100'001, 'a');
+  EXPECT_EQ(Run({"--explain", "-"}), kRunFailed);
+  EXPECT_THAT(err, HasSubstr("more than 100,000 characters"));
+  EXPECT_EQ(out, "");
+}
+
+TEST_F(ExplainRun, RefusesMarkersAsACountDoes) {
+  EXPECT_EQ(Run({"--explain", "a", "--skip-comments", "--comments", "rem"}), kRunFailed);
+  EXPECT_THAT(err, HasSubstr("start-comment marker"));
+}
+
+TEST_F(ExplainRun, LeavesTheOutputFileOfAStateAlone) {
+  const std::string state = folder / "a.qlm";
+  const std::string text = folder.Write("a.txt", "a");
+  const std::string list = folder / "list.txt";
+  ASSERT_EQ(Run({text, "--output", list, "--save-state", state}), kListMade);
+  const std::string before = ContentsOf(list);
+  EXPECT_EQ(Run({"--explain", "word", "--state", state}), kListMade);
+  EXPECT_EQ(out, "word\tcounted\tword\n");
+  EXPECT_EQ(ContentsOf(list), before);
+}
+
+TEST_F(ExplainRun, IsNoListAndOfNoFile) {
+  EXPECT_EQ(Run({"--explain", "a", folder.Write("a.txt", "a")}), kWrongCommandLine);
+  EXPECT_THAT(err, HasSubstr("more than one text"));
+  EXPECT_EQ(Run({"--explain", "a", "--output", folder / "list.txt"}), kWrongCommandLine);
+  EXPECT_THAT(err, HasSubstr("--output: does not go with --explain"));
+  EXPECT_EQ(Run({"--explain", "a", "--top", "3"}), kWrongCommandLine);
+  EXPECT_THAT(err, HasSubstr("--top: does not go with --explain"));
+}
+
+}  // namespace
+}  // namespace quillomat
