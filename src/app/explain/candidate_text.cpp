@@ -38,7 +38,7 @@ std::string ReasonText(const Candidate& candidate, const FilterChoices& filters,
   if (candidate.reason == CandidateReason::kNone) return {};
   const int number = kFirstReasonText + static_cast<int>(candidate.reason) - 1;
   const std::string limit = std::to_string(LimitOf(candidate.reason, filters));
-  const std::string reason = Filled(text.GetText(number), {limit});
+  std::string reason = Filled(text.GetText(number), {limit});
   if (candidate.fate != CandidateFate::kCut) return reason;
   return Filled(text.GetText(kCutAtText), {candidate.word, reason});
 }
