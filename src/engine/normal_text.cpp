@@ -2,58 +2,57 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
+#include "engine/utf8_kernels.h"
 
 namespace quillomat {
 namespace {
 
 constexpr char32_t kDottedCapitalI = 0x130;
 
-using Byte = unsigned char;
+/// Finds the characters of a text that may not be settled; most quickly from its start to its end.
+class SuspectSearch {
+ public:
+  // The masks are written before they are read.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+  explicit SuspectSearch(std::string_view text) : text_(text) {}
 
-/// Whether a byte, before another, leads a character that may not be in normal form, or has to be
-/// looked at together with its neighbours: soft hyphen (C2 AD), dotted I (C4 B0), spacing
-/// apostrophe and marks (CA to CD), Greek's raised dot (CE 87), scripts with marks (D2, D6 to E0),
-/// Hangul in pieces (E1), signs (E2), kana (E3), more scripts with marks (EA), forms and marks
-/// (EF), and everything above. Without branches: compilers make vectors of that.
-constexpr Byte IsSuspect(Byte byte, Byte next) {
-  const auto within = [byte](Byte first, Byte last) {
-    return static_cast<Byte>(byte - first) <= last - first;
-  };
-  const auto pair = [byte, next](Byte lead, Byte behind) {
-    return static_cast<int>(byte == lead) & static_cast<int>(next == behind);
-  };
-  return static_cast<Byte>(static_cast<int>(within(0xCA, 0xCD)) | static_cast<int>(byte == 0xD2) |
-                           static_cast<int>(within(0xD6, 0xE3)) | static_cast<int>(byte == 0xEA) |
-                           static_cast<int>(byte >= 0xEF) | pair(0xC2, 0xAD) | pair(0xC4, 0xB0) |
-                           pair(0xCE, 0x87));
-}
+  /// Where the first at or behind `position` starts, or the size of the text.
+  std::size_t Next(std::size_t position) {
+    const std::size_t blocks = Utf8Blocks(text_);
+    std::size_t block = (position + 1) / kUtf8Block;  // their second bytes are marked
+    std::uint64_t behind = ~std::uint64_t{0} << (position + 1) % kUtf8Block;
+    for (; block < blocks; ++block, behind = ~std::uint64_t{0}) {
+      if (block < firstMarked_ || block >= endOfMarked_) Mark(block);
+      const std::uint64_t marks = masks_[block - firstMarked_] & behind;
+      if (marks == 0) continue;
+      return block * kUtf8Block + static_cast<std::size_t>(std::countr_zero(marks)) - 1;
+    }
+    return text_.size();
+  }
 
-/// The first place at or behind `position` with a character that may not be settled, or the size of
-/// the text.
-std::size_t NextSuspect(std::string_view text, std::size_t position) {
-  const auto byteAt = [text](std::size_t place) { return static_cast<Byte>(text[place]); };
-  constexpr std::size_t kAtOnce = 64;
-  for (; text.size() - position > kAtOnce; position += kAtOnce) {
-    std::array<Byte, kAtOnce + 1> bytes;  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    std::memcpy(bytes.data(), text.data() + position, bytes.size());
-    Byte any = 0;
-    for (std::size_t i = 0; i < kAtOnce; ++i) any |= IsSuspect(bytes[i], bytes[i + 1]);
-    if (any != 0) break;
+ private:
+  static constexpr std::size_t kBlocksAtOnce = 64;
+
+  void Mark(std::size_t firstBlock) {
+    firstMarked_ = firstBlock;
+    endOfMarked_ = std::min(firstBlock + kBlocksAtOnce, Utf8Blocks(text_));
+    MarkSuspects(text_, firstBlock, std::span(masks_).first(endOfMarked_ - firstMarked_));
   }
-  for (; position < text.size(); ++position) {
-    const Byte next = position + 1 < text.size() ? byteAt(position + 1) : Byte{0};
-    if (byteAt(position) >= 0xC2 && IsSuspect(byteAt(position), next) != 0) return position;
-  }
-  return position;
-}
+
+  std::string_view text_;
+  std::size_t firstMarked_ = 0;
+  std::size_t endOfMarked_ = 0;
+  std::array<std::uint64_t, kBlocksAtOnce> masks_;
+};
 
 bool IsDropped(char32_t codePoint) {
   switch (codePoint) {
@@ -94,8 +93,9 @@ std::optional<std::string_view> Replacement(char32_t codePoint) {
 /// Brings one text into normal form.
 class Normaliser {
  public:
-  Normaliser(std::string_view text, DottedCapitalI dotted, std::string& result)
-      : text_(text), dotted_(dotted), result_(result) {}
+  Normaliser(std::string_view text, SuspectSearch& suspects, DottedCapitalI dotted,
+             std::string& result)
+      : text_(text), suspects_(suspects), dotted_(dotted), result_(result) {}
 
   /// False when the text is in normal form already; then there is no result.
   bool Run() {
@@ -120,9 +120,9 @@ class Normaliser {
     return traits_.Is(codePoint, CodePointTraits::kUnsettled) || Replacement(codePoint).has_value();
   }
 
-  [[nodiscard]] std::size_t NextUnsettled(std::size_t position) const {
+  [[nodiscard]] std::size_t NextUnsettled(std::size_t position) {
     for (;;) {
-      position = NextSuspect(text_, position);
+      position = suspects_.Next(position);
       if (position == text_.size()) return position;
       const Utf8Character character = CharacterAt(text_, position);
       if (IsUnsettled(character.codePoint)) return position;
@@ -189,6 +189,7 @@ class Normaliser {
 
   const UnicodeTraits& traits_ = UnicodeTraits::Get();
   std::string_view text_;
+  SuspectSearch& suspects_;
   DottedCapitalI dotted_;
   std::string& result_;
   std::vector<std::int32_t> codePoints_;
@@ -197,8 +198,9 @@ class Normaliser {
 }  // namespace
 
 std::string_view NormalForm(std::string_view text, DottedCapitalI dotted, std::string& scratch) {
-  if (NextSuspect(text, 0) == text.size()) return text;
-  return Normaliser(text, dotted, scratch).Run() ? std::string_view(scratch) : text;
+  SuspectSearch suspects(text);
+  if (suspects.Next(0) == text.size()) return text;
+  return Normaliser(text, suspects, dotted, scratch).Run() ? std::string_view(scratch) : text;
 }
 
 std::string LowerCaseOfAll(std::string_view text) {

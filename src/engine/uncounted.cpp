@@ -2,46 +2,42 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
-#include <cstring>
+#include <span>
 
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
+#include "engine/utf8_kernels.h"
 
 namespace quillomat {
 namespace {
 
-/// Leads the first characters beyond U+00FF.
-constexpr unsigned char kFirstForeignLead = 0xC4;
 constexpr char32_t kCapitalOfLatin1 = 0x178;
 
-/// The first byte at or behind `position` that leads a character beyond U+00FF, or the size.
-std::size_t NextForeign(std::string_view text, std::size_t position) {
-  const auto byteAt = [text](std::size_t place) { return static_cast<unsigned char>(text[place]); };
-  constexpr std::size_t kAtOnce = 64;
-  for (; text.size() - position >= kAtOnce; position += kAtOnce) {
-    std::array<unsigned char, kAtOnce> bytes;  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    std::memcpy(bytes.data(), text.data() + position, bytes.size());
-    unsigned char greatest = 0;  // compilers make vectors of that
-    for (const unsigned char byte : bytes) greatest = std::max(greatest, byte);
-    if (greatest >= kFirstForeignLead) break;
-  }
-  while (position < text.size() && byteAt(position) < kFirstForeignLead) ++position;
-  return position;
+bool IsForeignLetterAt(std::string_view text, std::size_t position, bool caseSignificant) {
+  const char32_t codePoint = CharacterAt(text, position).codePoint;
+  if (codePoint == kCapitalOfLatin1) return caseSignificant;
+  return UnicodeTraits::Get().Is(codePoint, CodePointTraits::kLetter);
 }
 
 }  // namespace
 
 std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant) {
+  constexpr std::size_t kBlocksAtOnce = 64;
+  std::array<std::uint64_t, kBlocksAtOnce>
+      memory;  // NOLINT(cppcoreguidelines-pro-type-member-init)
   std::int64_t letters = 0;
-  for (std::size_t position = NextForeign(text, 0); position < text.size();
-       position = NextForeign(text, position)) {
-    const Utf8Character character = CharacterAt(text, position);
-    position += character.bytes;
-    // Most are quotes and dashes: no letters, and no reason to make the table.
-    if (character.codePoint >= 0x2000 && character.codePoint < 0x2070) continue;
-    if (character.codePoint == kCapitalOfLatin1 && !caseSignificant) continue;
-    if (UnicodeTraits::Get().Is(character.codePoint, CodePointTraits::kLetter)) ++letters;
+  for (std::size_t first = 0; first < Utf8Blocks(text); first += kBlocksAtOnce) {
+    const auto others = std::span(memory).first(std::min(kBlocksAtOnce, Utf8Blocks(text) - first));
+    letters += static_cast<std::int64_t>(CountCommonForeign(text, first, others));
+    for (std::size_t block = 0; block < others.size(); ++block) {
+      for (std::uint64_t bits = others[block]; bits != 0; bits &= bits - 1) {
+        const auto bit = static_cast<std::size_t>(std::countr_zero(bits));
+        const std::size_t start = (first + block) * kUtf8Block + bit - 1;
+        letters += static_cast<std::int64_t>(IsForeignLetterAt(text, start, caseSignificant));
+      }
+    }
   }
   return letters;
 }

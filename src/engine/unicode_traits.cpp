@@ -125,23 +125,26 @@ const UnicodeTraits& UnicodeTraits::Get() {
   return kTraits;
 }
 
-UnicodeTraits::UnicodeTraits() : pages_(1) {
-  for (const auto& [first, end] : kAssigned) {
-    for (std::size_t page = first / kPageSize; page < end / kPageSize; ++page) TakePage(page);
+/// Those where nothing is assigned share one.
+const UnicodeTraits::Page& UnicodeTraits::MakePage(std::size_t number) const {
+  static constexpr Page kUnassigned{};
+  const std::size_t start = number * kPageSize;
+  const bool assigned = std::ranges::any_of(kAssigned, [start](const auto& range) {
+    return start >= range.first && start < range.second;
+  });
+  const std::lock_guard lock(making_);
+  if (const Page* made = pages_[number].load(std::memory_order_acquire)) return *made;
+  const Page* page = &kUnassigned;
+  if (assigned) {
+    Page& ofOwn = made_.emplace_back();
+    for (std::size_t i = 0; i < kPageSize; ++i) {
+      const bool surrogate = start + i >= 0xD800 && start + i <= 0xDFFF;
+      if (!surrogate) ofOwn[i] = TraitsOf(static_cast<char32_t>(start + i));
+    }
+    page = &ofOwn;
   }
-}
-
-/// Neighbours are often alike, as those of large scripts without case are.
-void UnicodeTraits::TakePage(std::size_t number) {
-  Page page;
-  for (std::size_t i = 0; i < kPageSize; ++i) {
-    const std::size_t codePoint = number * kPageSize + i;
-    const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (!surrogate) page[i] = TraitsOf(static_cast<char32_t>(codePoint));
-  }
-  if (page == pages_.front()) return;
-  if (page != pages_.back()) pages_.push_back(page);
-  pageNumbers_[number] = static_cast<std::uint16_t>(pages_.size() - 1);
+  pages_[number].store(page, std::memory_order_release);
+  return *page;
 }
 
 void AppendDecomposed(char32_t codePoint, std::vector<std::int32_t>& codePoints) {

@@ -1,13 +1,17 @@
-// What the program has to know of each character of Unicode, in a table that is made once, when it
-// is first asked for (some milliseconds), and can then be read by all threads. The knowledge is the
-// library utf8proc's; its own functions are too slow for every letter of a text.
+// What the program has to know of each character of Unicode, in a table whose pages are made when
+// they are first asked for: most texts need few, and all of them take some milliseconds. All
+// threads can read it. The knowledge is the library utf8proc's; its own functions are too slow for
+// every letter of a text.
 //
 // A "code point" is any number up to U+10FFFF that is no surrogate.
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -43,7 +47,10 @@ class UnicodeTraits {
   [[nodiscard]] static const UnicodeTraits& Get();
 
   [[nodiscard]] const CodePointTraits& Of(char32_t codePoint) const {
-    return pages_[pageNumbers_[codePoint >> kPageBits]][codePoint & (kPageSize - 1)];
+    const std::size_t number = codePoint >> kPageBits;
+    const Page* page = pages_[number].load(std::memory_order_acquire);
+    if (page == nullptr) page = &MakePage(number);
+    return (*page)[codePoint & (kPageSize - 1)];
   }
   [[nodiscard]] bool Is(char32_t codePoint, std::uint8_t kinds) const {
     return (Of(codePoint).kinds & kinds) != 0;
@@ -55,12 +62,13 @@ class UnicodeTraits {
   static constexpr std::size_t kPages = 0x110000 / kPageSize;
   using Page = std::array<CodePointTraits, kPageSize>;
 
-  UnicodeTraits();
-  void TakePage(std::size_t number);
+  UnicodeTraits() = default;
+  [[nodiscard]] const Page& MakePage(std::size_t number) const;
 
-  std::array<std::uint16_t, kPages> pageNumbers_{};
-  /// Different ones; the first is that of unassigned characters.
-  std::vector<Page> pages_;
+  // A page is made once and stays: who finds it need not wait for those who make others.
+  mutable std::array<std::atomic<const Page*>, kPages> pages_{};
+  mutable std::mutex making_;
+  mutable std::deque<Page> made_;
 };
 
 /// Takes a composed character apart (canonical decomposition); others stay as they are. The result

@@ -6,6 +6,7 @@
 #include "base/utf8.h"
 #include "engine/html_entities.h"
 #include "engine/normal_text.h"
+#include "engine/utf8_kernels.h"
 
 namespace quillomat {
 namespace {
@@ -153,7 +154,8 @@ std::size_t WordScanner::PlainLineBytes(std::string_view lines) {
     lines = lines.substr(0, static_cast<std::size_t>(start - lines.begin()));
   }
   linesAreAscii_ = IsAscii(lines);
-  const std::size_t wellFormed = linesAreAscii_ ? lines.size() : WellFormedUtf8Bytes(lines);
+  const bool allWellFormed = linesAreAscii_ || IsWellFormedText(lines);
+  const std::size_t wellFormed = allWellFormed ? lines.size() : WellFormedUtf8Bytes(lines);
   return lines.substr(0, wellFormed).rfind('\n') + 1;
 }
 
