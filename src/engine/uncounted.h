@@ -17,6 +17,11 @@ struct Uncounted {
     linesNotUtf8 += other.linesNotUtf8;
     return *this;
   }
+  Uncounted& operator-=(const Uncounted& other) {
+    foreignLetters -= other.foreignLetters;
+    linesNotUtf8 -= other.linesNotUtf8;
+    return *this;
+  }
   bool operator==(const Uncounted&) const = default;
 };
 

@@ -88,7 +88,8 @@ struct CountRequest {
   /// Work out the figures that hang on the order of words: CountResult::orderFigures. It makes a
   /// count slower.
   bool orderFigures = false;
-  /// Keep a report of every file in the result. The observer is told of each in any case.
+  /// Keep a report of every file in the result, and count its lines. The observer is told of each
+  /// file in any case.
   bool keepReports = false;
   /// Where the list will be written, or "": a file that must not be among those that are read
   /// (output_rules.h).

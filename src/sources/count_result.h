@@ -15,6 +15,7 @@
 #include "listing/list_line.h"
 #include "listing/order_figures.h"
 #include "sources/line_endings.h"
+#include "sources/line_tally.h"
 #include "sources/marker_fault.h"
 #include "system/file_identity.h"
 
@@ -52,7 +53,7 @@ enum class Refusal {
 /// What the bytes of a text are. Without a mark each line is judged on its own.
 enum class TextEncoding { kUtf8OrWindows1252, kUtf8WithMark, kUtf16LittleEndian, kUtf16BigEndian };
 
-/// What became of one file.
+/// What became of one file, or of a folder that could not be read.
 struct FileReport {
   /// As it was walked to or given; a stream's name.
   std::string path;
@@ -60,6 +61,8 @@ struct FileReport {
   Refusal refusal = Refusal::kNone;
   /// Why it could not be opened or read.
   std::optional<RunTimeError> error;
+  /// Nothing where it is not known: of a pipe, or a file that is not there.
+  std::optional<std::int64_t> bytes;
   /// So many were read.
   std::int64_t bytesRead = 0;
   TextEncoding encoding = TextEncoding::kUtf8OrWindows1252;
@@ -67,6 +70,11 @@ struct FileReport {
   std::optional<FileIdentity> identity;
   /// Judged by the first bytes.
   LineEndingType lineEnds = LineEndingType::kDos;
+  /// Of all that was read; only if the request wants reports.
+  std::optional<LineFigures> lines;
+  /// Candidate words, counted or not.
+  std::int32_t wordsRead = 0;
+  Uncounted uncounted;
 };
 
 struct SkippedFile {
@@ -109,7 +117,8 @@ struct CountResult {
   /// counting pass those that were met.
   std::int32_t files = 0;
   std::int32_t folders = 0;
-  /// Every file that was met, in their order; only if the request wants them, and for a single one.
+  /// Every file that was met and every folder that could not be read, in their order; only if the
+  /// request wants them, and for a single one.
   std::vector<FileReport> reports;
   /// The files of the disk that were read, if only in part; as CountedText::filesRead.
   std::vector<FileIdentity> filesRead;

@@ -37,6 +37,7 @@ void FileScanner::TakeFile(WalkItem& item, int& openComment) {
   item.file = std::make_unique<InputFile>(item.report.path);
   item.bytes = item.file->Length();
   if (item.bytes == 0) return TakeOpened(item);
+  item.report.bytes = item.bytes;
   const std::unique_ptr<InputFile> file = std::move(item.file);
   if (item.bytes >= TextReader::kBytesWorthThreads) return;
   // A file that is no text is not read to its end.
@@ -99,11 +100,18 @@ std::string_view FileScanner::Lines(TextEncoding encoding) {
   return {memory_.data() + start, bytesRead_ + (ends ? 0 : 1) - start};
 }
 
+void FileScanner::TallyLines(FileReport& report) const {
+  LineTally tally(LineUnitOf(report.encoding));
+  tally.Take({memory_.data(), bytesRead_});
+  report.lines = tally.Figures();
+}
+
 void FileScanner::Scan(WalkItem& item, int& openComment) {
   LoadMarkersFor(item.report.path, request_.scan, settings_);
   settings_.OpenComment = openComment;
   item.count = scanner_.Scan(Lines(item.report.encoding), settings_);
   item.report.bytesRead = static_cast<std::int64_t>(bytesRead_);
+  if (request_.keepReports) TallyLines(item.report);
   item.state = WalkItem::State::kScanned;
   openComment = item.count.openComment;
 }

@@ -85,6 +85,7 @@ class FileScanner {
   void Scan(WalkItem& item, int& openComment);
   void Read(InputFile& file, std::size_t atLeast, std::size_t atMost);
   [[nodiscard]] std::string_view Lines(TextEncoding encoding);
+  void TallyLines(FileReport& report) const;
 
   ScanSettings settings_;
   const CountRequest& request_;

@@ -193,7 +193,9 @@ void FolderPass::Take(WalkItem& item, std::size_t scanner) {
       ++state_.result.folders;
       return;
     case WalkItem::Kind::kUnreadableFolder:
-      return Skip({item.report.path, Refusal::kFolderUnreadable, {}});
+      item.report.refusal = Refusal::kFolderUnreadable;
+      Skip({item.report.path, item.report.refusal, {}});
+      return Keep(item.report);
   }
 }
 
@@ -218,6 +220,10 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
     Skip({report.path, report.refusal, report.error});
   }
   state_.observer.OnFileEnds(report, progress);
+  Keep(report);
+}
+
+void FolderPass::Keep(FileReport& report) {
   if (state_.request.keepReports) state_.result.reports.push_back(std::move(report));
 }
 

@@ -51,6 +51,7 @@ class FolderPass {
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);
   void Join(WalkItem& item, PieceJoiner& joiner);
   void Skip(const SkippedFile& skipped);
+  void Keep(FileReport& report);
 
   CountAtWork& state_;
   TextPass& texts_;

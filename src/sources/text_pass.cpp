@@ -2,6 +2,7 @@
 
 #include <new>
 #include <optional>
+#include <span>
 
 #include "base/run_time_error.h"
 #include "sources/line_endings.h"
@@ -22,7 +23,35 @@ bool IsOverflow(const RunTimeError& error) {
   return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow);
 }
 
+/// Tallies the lines of what is read through it.
+class TallyingSource final : public ByteSource {
+ public:
+  TallyingSource(ByteSource& source, LineTally::Unit unit) : source_(source), tally_(unit) {}
+
+  std::size_t Read(std::span<char> buffer) override {
+    const std::size_t bytes = source_.Read(buffer);
+    tally_.Take({buffer.data(), bytes});
+    return bytes;
+  }
+  [[nodiscard]] LineFigures Figures() const { return tally_.Figures(); }
+
+ private:
+  ByteSource& source_;
+  LineTally tally_;
+};
+
 }  // namespace
+
+LineTally::Unit LineUnitOf(TextEncoding encoding) {
+  switch (encoding) {
+    case TextEncoding::kUtf16LittleEndian:
+      return LineTally::Unit::kLittleEndian;
+    case TextEncoding::kUtf16BigEndian:
+      return LineTally::Unit::kBigEndian;
+    default:
+      return LineTally::Unit::kByte;
+  }
+}
 
 bool JudgeText(std::string_view head, FileReport& report) {
   report.lineEnds = LineEndingTypeOf(head, kTextTestBytes);
@@ -33,6 +62,8 @@ bool JudgeText(std::string_view head, FileReport& report) {
 }
 
 void TextPass::Try(FileReport& report, const ReadReported& read) {
+  const std::int32_t wordsBefore = state_.result.wordsRead;
+  const Uncounted uncountedBefore = state_.settings.Uncounted;
   try {
     read(report);
   } catch (const RunTimeError& error) {
@@ -43,6 +74,9 @@ void TextPass::Try(FileReport& report, const ReadReported& read) {
     report.refusal = Refusal::kReadFailed;
     report.error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
   }
+  report.wordsRead = state_.result.wordsRead - wordsBefore;
+  report.uncounted = state_.settings.Uncounted;
+  report.uncounted -= uncountedBefore;
   if (report.identity) state_.result.filesRead.push_back(*report.identity);
 }
 
@@ -58,6 +92,7 @@ void TextPass::ReadFile(FileReport& report) {
   try {
     file.emplace(report.path);
   } catch (const RunTimeError& error) {
+    report.bytes = FileLength(report.path);
     report.refusal = FileExists(report.path) ? Refusal::kCannotBeOpened : Refusal::kNotFound;
     report.error = error;
     return;
@@ -70,6 +105,7 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
     PatientSource source(file, state_.stop);
     return ReadStream(source, report);
   }
+  report.bytes = file.Length();
   if (!JudgeText(file.Ahead(HeadBytes(kTextTestBytes)), report)) return;
   Begin(report, file.Length());
   report.identity = file.Identity();
@@ -110,6 +146,13 @@ void TextPass::NoteLines(std::int64_t bytes) {
 }
 
 void TextPass::ReadText(ByteSource& source, bool worthThreads, FileReport& report) {
+  if (!state_.request.keepReports) return ReadBytes(source, worthThreads, report);
+  TallyingSource tallied(source, LineUnitOf(report.encoding));
+  ReadBytes(tallied, worthThreads, report);
+  report.lines = tallied.Figures();
+}
+
+void TextPass::ReadBytes(ByteSource& source, bool worthThreads, FileReport& report) {
   CountingSource text(source);
   TextReader::OnBytes onBytes;
   if (IsTold()) {

@@ -11,6 +11,7 @@
 #include "base/byte_source.h"
 #include "sources/count_at_work.h"
 #include "sources/count_result.h"
+#include "sources/line_tally.h"
 #include "sources/text_reader.h"
 #include "system/input_file.h"
 
@@ -18,6 +19,9 @@ namespace quillomat {
 
 /// So many bytes at the start of a file say whether it is a text.
 inline constexpr std::size_t kTextTestBytes = 10'240;
+
+/// What the lines of a text of that encoding are made of.
+[[nodiscard]] LineTally::Unit LineUnitOf(TextEncoding encoding);
 
 /// Notes what the text that starts with `head` is. False when it is none, and the report says so.
 [[nodiscard]] bool JudgeText(std::string_view head, FileReport& report);
@@ -59,6 +63,7 @@ class TextPass {
 
  private:
   void ReadText(ByteSource& source, bool worthThreads, FileReport& report);
+  void ReadBytes(ByteSource& source, bool worthThreads, FileReport& report);
 
   CountAtWork& state_;
   TextReader reader_;

@@ -1,0 +1,120 @@
+#include "sources/file_columns.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace quillomat {
+namespace {
+
+bool WasRead(const FileReport& report) {
+  return report.refusal == Refusal::kNone || report.refusal == Refusal::kReadFailed;
+}
+
+FileCell BytesOf(const FileReport& report) {
+  if (report.bytes) return std::max(*report.bytes, report.bytesRead);
+  if (WasRead(report) || report.refusal == Refusal::kEmpty) return report.bytesRead;
+  return {};
+}
+
+/// A line that is not UTF-8 is read as Windows-1252, each by itself.
+std::string EncodingOf(const FileReport& report) {
+  switch (report.encoding) {
+    case TextEncoding::kUtf16LittleEndian:
+    case TextEncoding::kUtf16BigEndian:
+      return "UTF-16";
+    case TextEncoding::kUtf8WithMark:
+    case TextEncoding::kUtf8OrWindows1252:
+      break;
+  }
+  const std::int64_t notUtf8 = report.uncounted.linesNotUtf8;
+  if (notUtf8 > 0) {
+    const bool whole = report.lines && notUtf8 >= report.lines->Lines();
+    return whole ? "Windows-1252" : "UTF-8 or Windows-1252";
+  }
+  return report.lines && report.lines->ascii ? "ASCII" : "UTF-8";
+}
+
+std::string LineEndsOf(const LineFigures& lines) {
+  const bool dos = lines.crLf > 0;
+  const bool unixLike = lines.lineFeeds > 0;
+  const bool macintosh = lines.returns > 0;
+  if (int{dos} + int{unixLike} + int{macintosh} > 1) return "mixed";
+  if (dos) return "DOS";
+  if (unixLike) return "Unix";
+  return macintosh ? "Macintosh" : "none";
+}
+
+std::string WithReason(std::string what, const std::optional<RunTimeError>& error) {
+  if (error) what.append(": ").append(error->Description());
+  return what;
+}
+
+std::string WhySkipped(const FileReport& report) {
+  switch (report.refusal) {
+    case Refusal::kNotText:
+      return "not text";
+    case Refusal::kEmpty:
+      return "empty";
+    case Refusal::kIsOutput:
+      return "the output file";
+    case Refusal::kIsFolder:
+      return "a folder";
+    case Refusal::kNotFound:
+      return "not found";
+    case Refusal::kFolderUnreadable:
+      return WithReason("folder cannot be read", report.error);
+    case Refusal::kReadFailed:
+      return WithReason("reading failed", report.error);
+    default:
+      return WithReason("cannot be opened", report.error);
+  }
+}
+
+FileCell SkippedCell(const FileReport& report) {
+  if (report.refusal != Refusal::kNone) return WhySkipped(report);
+  if (IsReadInPart(report)) {
+    return "stopped behind byte " + std::to_string(report.bytesRead);
+  }
+  return {};
+}
+
+/// What is known of the text of a file that was read.
+FileCell TextCellOf(const FileReport& report, FileColumn column) {
+  switch (column) {
+    case FileColumn::kEncoding:
+      return EncodingOf(report);
+    case FileColumn::kLineEnds:
+      return report.lines ? FileCell(LineEndsOf(*report.lines)) : FileCell();
+    case FileColumn::kLines:
+      return report.lines ? FileCell(report.lines->Lines()) : FileCell();
+    case FileColumn::kWords:
+      return std::int64_t{report.wordsRead};
+    case FileColumn::kLettersNotCounted:
+      return report.uncounted.foreignLetters;
+    case FileColumn::kLinesNotUtf8:
+      return report.uncounted.linesNotUtf8;
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+bool IsReadInPart(const FileReport& report) {
+  return report.refusal == Refusal::kNone && report.bytes && report.bytesRead < *report.bytes;
+}
+
+FileCell CellOf(const FileReport& report, FileColumn column) {
+  switch (column) {
+    case FileColumn::kPath:
+      return report.path;
+    case FileColumn::kBytes:
+      return BytesOf(report);
+    case FileColumn::kSkipped:
+      return SkippedCell(report);
+    default:
+      return WasRead(report) ? TextCellOf(report, column) : FileCell();
+  }
+}
+
+}  // namespace quillomat
