@@ -97,6 +97,8 @@ class Program {
   /// Whether counts work out the figures that need the order of words, too. If the words at hand
   /// have none, their text is counted again, unless another one has been named since.
   void WantOrderFigures(bool wanted);
+  /// Whether counts keep what became of each file (CurrentWords::files).
+  void WantFileReports(bool wanted) { parts_.inForce.wantsFileReports = wanted; }
   /// The text on the clipboard is that of a file, which must not be written.
   void SetClipboardFile(std::string path) {
     parts_.inForce.filesRead.clipboardText = std::move(path);

@@ -14,6 +14,7 @@
 #include "cli/answers.h"
 #include "cli/exit_status.h"
 #include "cli/export_options.h"
+#include "cli/file_report.h"
 #include "cli/help_formatter.h"
 #include "cli/standard_output.h"
 #include "engine/unicode_traits.h"
@@ -80,6 +81,9 @@ void DefineExports(CLI::App& app, CommandLine& options) {
   AddValue(app, "--columns", options.columns, "LIST",
            "Columns of --export: rank, word, frequency, percent, per-million, cumulative, length, "
            "files; with file a row for every file that a word occurs in");
+  AddValue(app, "--report", options.report, "FILE",
+           "Write a line for every file that was met: its size, encoding, line ends, lines and "
+           "words, or why it was skipped; csv, tsv, json or jsonl, by the ending");
 }
 
 void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>& set) {
@@ -225,6 +229,8 @@ void CheckWindowText(const CommandLine& options) {
     forbid(options.top.has_value(), "--top", "--window-text or --list-files");
     forbid(!options.exports.empty(), "--export", "--window-text or --list-files");
   }
+  forbid(options.report && (options.text || options.listFiles), "--report",
+         "--text or --list-files");
   forbid(options.statistics && options.listFiles, "--statistics", "--list-files");
   if (options.windowText || options.listFiles || options.text) {
     forbid(options.progress, "--progress", "--text, --window-text or --list-files");
@@ -277,7 +283,9 @@ void CheckCombinations(const CommandLine& options) {
     throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
   }
   CheckWindowText(options);
-  if (const auto fault = FindExportFault(options)) throw CLI::ValidationError(*fault);
+  for (const auto& fault : {FindExportFault(options), FindReportFault(options)}) {
+    if (fault) throw CLI::ValidationError(*fault);
+  }
   if (options.state && options.userSettings) {
     throw CLI::ValidationError("--state", "does not go with --user-settings");
   }

@@ -32,6 +32,8 @@ struct CommandLine {
   std::optional<std::int32_t> top;
   /// Files to export to; each has an ending that is a format's.
   std::vector<std::string> exports;
+  /// Where to write what became of each file.
+  std::optional<std::string> report;
   /// Columns of the exports, with blanks or commas between them.
   std::optional<std::string> columns;
   /// Show the progress from the start, on a terminal or not.

@@ -52,7 +52,10 @@ bool DirectCount::Run() {
   CountResult result = Counter(request, watch).Run();
   watch.EndProgress();
   TellSkipped(watch);
-  if (!HasWords(result, watch)) return false;
+  if (!HasWords(result, watch)) {
+    program_.Count().TakeFiles(std::move(result), text);
+    return false;
+  }
   TellUncounted(result.uncounted);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}

@@ -33,20 +33,20 @@ std::optional<std::string> FindFileFault(const Program& program, const std::stri
   return std::nullopt;
 }
 
-std::optional<std::string> ExportInto(const std::string& path, const Program& program,
-                                      const ExportTable& table) {
-  if (auto fault = FindFileFault(program, path)) return fault;
+}  // namespace
+
+std::optional<std::string> WriteBesideList(const std::string& path, const Program& program,
+                                           const std::function<void()>& write) {
+  if (const auto fault = FindFileFault(program, path)) return path + " " + *fault;
   try {
-    static_cast<void>(ExportToFile(table, *ExportFormatOfPath(path), path, {}));
+    write();
     return std::nullopt;
   } catch (const RunTimeError& error) {
-    return "cannot be written: " + error.Description();
+    return path + " cannot be written: " + error.Description();
   } catch (const std::bad_alloc&) {
-    return "cannot be written: " + DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
+    return path + " cannot be written: " + DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
   }
 }
-
-}  // namespace
 
 std::optional<std::string> ExportResult(const Program& program, const CommandLine& options) {
   const ExportWish wish = WishOf(program, options);
@@ -55,7 +55,10 @@ std::optional<std::string> ExportResult(const Program& program, const CommandLin
   }
   const ResultExport result(program.Words(), program.frmMain, program.frmParams, wish);
   for (const std::string& path : options.exports) {
-    if (const auto fault = ExportInto(path, program, result.Table())) return path + " " + *fault;
+    auto fault = WriteBesideList(path, program, [&] {
+      static_cast<void>(ExportToFile(result.Table(), *ExportFormatOfPath(path), path, {}));
+    });
+    if (fault) return fault;
   }
   return std::nullopt;
 }

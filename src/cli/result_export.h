@@ -3,6 +3,7 @@
 // settings go with them where the form has room for that.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -15,5 +16,12 @@ namespace quillomat {
 /// every file was written.
 [[nodiscard]] std::optional<std::string> ExportResult(const Program& program,
                                                       const CommandLine& options);
+
+/// Has `write` write a file beside the list, unless it is read by the count, or holds something
+/// that the user wants to be warned of. What went wrong, naming the file; nothing if it was
+/// written.
+[[nodiscard]] std::optional<std::string> WriteBesideList(const std::string& path,
+                                                         const Program& program,
+                                                         const std::function<void()>& write);
 
 }  // namespace quillomat

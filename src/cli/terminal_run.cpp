@@ -19,6 +19,7 @@
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
 #include "cli/explanation.h"
+#include "cli/file_report.h"
 #include "cli/input_choice.h"
 #include "cli/result_export.h"
 #include "cli/setting_options.h"
@@ -46,6 +47,7 @@ class TerminalRun {
     if (!program_.Start({.userSettings = false, .window = false})) return kRunFailed;
     if (options_.threads) program_.UseThreads(*options_.threads);
     program_.WantOrderFigures(options_.statistics);
+    program_.WantFileReports(options_.report.has_value());
     program_.BeginControls();
     if (!ReadState()) return kRunFailed;
     if (!ApplyChoices()) return kWrongCommandLine;
@@ -218,24 +220,31 @@ class TerminalRun {
     if (!FormatIsServed()) return kRunFailed;
     const bool toFile = HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
+    const bool reported = Report();
     if (options_.summary) PrintSummary();
     if (options_.statistics && made) PrintStatistics();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
       const bool failed = desktop_.ProblemShown() && !program_.Output().IsFull();
-      return PrintWindowText() && made && !failed ? kListMade : kRunFailed;
+      return PrintWindowText() && made && reported && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
       TellWhyThereIsNoList();
       return kRunFailed;
     }
     const bool printed = toFile ? program_.Lister().FileWritten() : PrintList();
-    return Export() && printed && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+    return Export() && printed && reported && !desktop_.ProblemShown() ? kListMade : kRunFailed;
   }
 
   bool Export() {
     if (options_.exports.empty()) return true;
     const std::optional<std::string> fault = ExportResult(program_, options_);
+    return !fault || Fail(*fault);
+  }
+
+  /// Also of a count that gave no list: the report may say why.
+  bool Report() {
+    const std::optional<std::string> fault = WriteFileReport(program_, options_);
     return !fault || Fail(*fault);
   }
 

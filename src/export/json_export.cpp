@@ -2,16 +2,12 @@
 #include <nlohmann/json.hpp>
 
 #include "export/export_writer.h"
+#include "export/json_text.h"
 
 namespace quillomat {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-std::string Quoted(std::string_view text) {
-  // A path may hold bytes that are no UTF-8, for which JSON has no form.
-  return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
-}
 
 void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row) {
   out.push_back('{');
@@ -21,7 +17,7 @@ void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row)
     out.append(first ? "\"" : ", \"").append(NameOf(column)).append("\": ");
     first = false;
     if (IsText(column)) {
-      out.append(Quoted(TextOf(row, column)));
+      out.append(QuotedJson(TextOf(row, column)));
     } else {
       AppendNumber(out, row, column);
     }
@@ -48,7 +44,7 @@ Json ObjectOf(const std::vector<ExportFact>& facts) {
 
 void AppendFacts(std::string& out, std::string_view name, const std::vector<ExportFact>& facts) {
   if (facts.empty()) return;
-  out.append("  ").append(Quoted(name)).append(": ");
+  out.append("  ").append(QuotedJson(name)).append(": ");
   out.append(ObjectOf(facts).dump(-1, ' ', false, Json::error_handler_t::replace));
   out.append(",\n");
 }

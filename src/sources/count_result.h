@@ -71,7 +71,7 @@ struct FileReport {
   /// Judged by the first bytes.
   LineEndingType lineEnds = LineEndingType::kDos;
   /// Of all that was read; only if the request wants reports.
-  std::optional<LineFigures> lines;
+  std::optional<LineEndFigures> lines;
   /// Candidate words, counted or not.
   std::int32_t wordsRead = 0;
   Uncounted uncounted;

@@ -34,7 +34,7 @@ std::string EncodingOf(const FileReport& report) {
   return report.lines && report.lines->ascii ? "ASCII" : "UTF-8";
 }
 
-std::string LineEndsOf(const LineFigures& lines) {
+std::string LineEndsOf(const LineEndFigures& lines) {
   const bool dos = lines.crLf > 0;
   const bool unixLike = lines.lineFeeds > 0;
   const bool macintosh = lines.returns > 0;

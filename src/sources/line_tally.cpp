@@ -92,8 +92,8 @@ void LineTally::Note(std::size_t lineFeeds, std::size_t returns, std::size_t pai
   figures_.returns += static_cast<std::int64_t>(returns) - together;
 }
 
-LineFigures LineTally::Figures() const {
-  LineFigures figures = figures_;
+LineEndFigures LineTally::Figures() const {
+  LineEndFigures figures = figures_;
   figures.endsOpen = inLine_ || hasOddByte_;
   return figures;
 }

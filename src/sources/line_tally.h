@@ -8,7 +8,7 @@
 namespace quillomat {
 
 /// How the lines of a text end. A line feed behind a carriage return is one end with it.
-struct LineFigures {
+struct LineEndFigures {
   std::int64_t crLf = 0;
   std::int64_t lineFeeds = 0;
   std::int64_t returns = 0;
@@ -20,7 +20,7 @@ struct LineFigures {
   [[nodiscard]] std::int64_t Lines() const {
     return crLf + lineFeeds + returns + (endsOpen ? 1 : 0);
   }
-  bool operator==(const LineFigures&) const = default;
+  bool operator==(const LineEndFigures&) const = default;
 };
 
 class LineTally {
@@ -33,7 +33,7 @@ class LineTally {
   /// The next bytes of the text, its mark among them.
   void Take(std::string_view bytes);
   /// Of what was taken.
-  [[nodiscard]] LineFigures Figures() const;
+  [[nodiscard]] LineEndFigures Figures() const;
 
  private:
   void TakeBytes(std::string_view bytes);
@@ -42,7 +42,7 @@ class LineTally {
   void Note(std::size_t lineFeeds, std::size_t returns, std::size_t pairs);
 
   Unit unit_;
-  LineFigures figures_;
+  LineEndFigures figures_;
   /// What was taken ends with a carriage return; with something else than a line end.
   bool afterReturn_ = false;
   bool inLine_ = false;

@@ -33,7 +33,7 @@ class TallyingSource final : public ByteSource {
     tally_.Take({buffer.data(), bytes});
     return bytes;
   }
-  [[nodiscard]] LineFigures Figures() const { return tally_.Figures(); }
+  [[nodiscard]] LineEndFigures Figures() const { return tally_.Figures(); }
 
  private:
   ByteSource& source_;

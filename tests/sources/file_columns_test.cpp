@@ -16,7 +16,7 @@ std::string Shown(const FileReport& report, FileColumn column) {
   return "";
 }
 
-FileReport ReportOf(const LineFigures& lines, std::int64_t linesNotUtf8 = 0) {
+FileReport ReportOf(const LineEndFigures& lines, std::int64_t linesNotUtf8 = 0) {
   FileReport report;
   report.lines = lines;
   report.uncounted.linesNotUtf8 = linesNotUtf8;

@@ -44,9 +44,9 @@ class FileReports : public CounterFixture {
 
 TEST_F(FileReports, TellOfEachFileHowItWasRead) {
   Put("a.txt", "The cat\nsat\n");
-  Put("b.txt", "caf\xC3\xA9\r\n\xC5\x82\xC3\xB3d\xC5\xBA\r\n");
+  Put("b.txt", "café\r\nłódź\r\n");
   Put("c.txt", "\xE9t\xE9\nor\r\n");
-  Put("d.bin", std::string_view("\0\1\2", 3));
+  Put("d.txt", std::string_view("\0\1\2", 3));
   Put("e.txt", "");
   Put("f.txt", std::string_view("\xFF\xFE"
                                 "a\0b\0\r\0",
@@ -54,7 +54,7 @@ TEST_F(FileReports, TellOfEachFileHowItWasRead) {
   EXPECT_THAT(
       RowsOf(TextOfFolder{folder.Path(), false, {}}),
       ElementsAre("a.txt 12 ASCII Unix 2 3 0 0 -", "b.txt 16 UTF-8 DOS 2 2 2 0 -",
-                  "c.txt 8 UTF-8 or Windows-1252 mixed 2 2 0 1 -", "d.bin 3 - - - - - - not text",
+                  "c.txt 8 UTF-8 or Windows-1252 mixed 2 2 0 1 -", "d.txt 3 - - - - - - not text",
                   "e.txt 0 - - - - - - empty", "f.txt 8 UTF-16 Macintosh 1 1 0 0 -"));
 }
 
@@ -77,7 +77,7 @@ TEST_F(FileReports, AreTheSameWithAnyNumberOfThreads) {
     const std::string number = std::to_string(1000 + i);
     std::string text;
     for (int line = 0; line <= i % 40; ++line) {
-      text += "line of words caf\xC3\xA9 \xD1\x81\xD0\xBB\xD0\xBE " + std::to_string(line);
+      text += "line of words café сло " + std::to_string(line);
       if (line % 7 == 3) text += "\xE9";
       text += i % 3 == 0 ? "\r\n" : "\n";
     }

@@ -14,7 +14,7 @@ namespace {
 
 using Unit = LineTally::Unit;
 
-LineFigures FiguresOf(std::string_view bytes, Unit unit = Unit::kByte) {
+LineEndFigures FiguresOf(std::string_view bytes, Unit unit = Unit::kByte) {
   LineTally tally(unit);
   tally.Take(bytes);
   return tally.Figures();
@@ -22,8 +22,8 @@ LineFigures FiguresOf(std::string_view bytes, Unit unit = Unit::kByte) {
 
 TEST(LineTally, EveryKindOfLineEndIsCountedByItself) {
   EXPECT_EQ(FiguresOf("a\r\nb\r\nc\nd\re\n\r\n"),
-            (LineFigures{.crLf = 3, .lineFeeds = 2, .returns = 1}));
-  EXPECT_EQ(FiguresOf("\r\r\n\n\r"), (LineFigures{.crLf = 1, .lineFeeds = 1, .returns = 2}));
+            (LineEndFigures{.crLf = 3, .lineFeeds = 2, .returns = 1}));
+  EXPECT_EQ(FiguresOf("\r\r\n\n\r"), (LineEndFigures{.crLf = 1, .lineFeeds = 1, .returns = 2}));
 }
 
 TEST(LineTally, LastLineNeedsNoEnd) {
@@ -44,10 +44,10 @@ TEST(LineTally, LineEndsOfUtf16AreUnitsAndTheMarkIsNoLine) {
   using std::string_literals::operator""s;
   EXPECT_EQ(FiguresOf("\xFF\xFE"s, Unit::kLittleEndian).Lines(), 0);
   EXPECT_EQ(FiguresOf("\xFF\xFE"s + "a\0\r\0\n\0\0\x0A\x0A\x0D\n\0"s, Unit::kLittleEndian),
-            (LineFigures{.crLf = 1, .lineFeeds = 1, .ascii = false}))
+            (LineEndFigures{.crLf = 1, .lineFeeds = 1, .ascii = false}))
       << "U+0A00 and U+0D0A end no line";
   EXPECT_EQ(FiguresOf("\xFE\xFF\0\r\0b"s, Unit::kBigEndian),
-            (LineFigures{.returns = 1, .endsOpen = true, .ascii = false}));
+            (LineEndFigures{.returns = 1, .endsOpen = true, .ascii = false}));
 }
 
 TEST(LineTally, HowTheBytesComeMakesNoDifferenceAndLinesAreThoseOfTheDecoder) {

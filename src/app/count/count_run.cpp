@@ -92,10 +92,18 @@ CountRequest CountRun::Request(CountSource source) const {
   return RequestFromControls(frmParams_, count_.inForce, std::move(source));
 }
 
+void CountRun::TakeFiles(CountResult result, CountedText text) {
+  count_.words.Discard();
+  count_.words.counted = std::move(text);
+  count_.words.counted.filesRead = std::move(result.filesRead);
+  count_.words.files = std::move(result.reports);
+}
+
 void CountRun::Take(CountResult result, CountedText text) {
   count_.words.Discard();
   count_.words.counted = std::move(text);
   count_.words.counted.filesRead = std::move(result.filesRead);
+  count_.words.files = std::move(result.reports);
   count_.words.store = std::move(result.store);
   count_.words.totals = result.totals;
   count_.words.ranking = std::move(result.ranking);

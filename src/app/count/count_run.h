@@ -66,6 +66,9 @@ class CountRun {
   /// Makes the words of a count, ranked, those of the program, and shows their summary.
   void Take(CountResult result, CountedText text);
 
+  /// Of a count that gave no words: keeps what became of its files.
+  void TakeFiles(CountResult result, CountedText text);
+
   [[nodiscard]] FileExtensions& Extensions() { return extensions_; }
   [[nodiscard]] const FileExtensions& Extensions() const { return extensions_; }
 

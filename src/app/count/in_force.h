@@ -19,6 +19,8 @@ struct InForce {
   std::size_t scanThreads = 1;
   /// The figures that hang on the order of words are worked out, too (CountRequest).
   bool wantsOrderFigures = false;
+  /// What became of each file is kept, too (CountRequest).
+  bool wantsFileReports = false;
 };
 
 }  // namespace quillomat

@@ -18,6 +18,7 @@ CountRequest RequestFromControls(ParamsForm& frmParams, const InForce& inForce,
   request.lists = inForce.lists;
   request.openComment = inForce.settings.OpenComment;
   request.orderFigures = inForce.wantsOrderFigures;
+  request.keepReports = inForce.wantsFileReports;
   request.threads = inForce.scanThreads;
   return request;
 }
@@ -56,6 +57,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.orderFigures = std::move(result.orderFigures);
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
+    count.words.files = std::move(result.reports);
     count.inForce.settings.OpenComment = result.openComment;
   }
   return result;

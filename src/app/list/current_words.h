@@ -5,12 +5,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "engine/uncounted.h"
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
 #include "listing/order_figures.h"
+#include "sources/count_result.h"
 #include "sources/output_rules.h"
 #include "ui/event.h"
 
@@ -46,6 +48,8 @@ struct CurrentWords {
 
   /// Where they come from.
   CountedText counted;
+  /// What became of each file of the count, in their order; if that was wanted, or of a single one.
+  std::vector<FileReport> files;
   /// Of the last folder that was counted.
   FolderFigures folder;
 
@@ -70,6 +74,7 @@ struct CurrentWords {
     orderFigures.reset();
     uncounted = {};
     counted = {};
+    files.clear();
     folder.skippedNotice.clear();
     completeRun = false;
     listAfterStop = false;
