@@ -254,6 +254,7 @@ void CheckExplain(const CommandLine& options) {
                                                 {options.statistics, "--statistics"},
                                                 {options.top.has_value(), "--top"},
                                                 {!options.exports.empty(), "--export"},
+                                                {options.report.has_value(), "--report"},
                                                 {options.null, "--null"},
                                                 {options.progress, "--progress"},
                                                 {options.listOnInterrupt, "--list-on-interrupt"}};
