@@ -37,8 +37,8 @@ struct RowFilter {
   [[nodiscard]] bool operator==(const RowFilter&) const = default;
 };
 
-/// Whether an expression matches a text in UTF-8, in any letter case. Several threads call it at
-/// the same time.
+/// Whether an expression matches a text in UTF-8, in any letter case. Only one thread may call it at
+/// a time: each works with a copy of its own.
 using Matcher = std::function<bool(std::string_view text)>;
 
 /// What is wrong with an expression, for the user.
@@ -59,7 +59,7 @@ class WordMatcher {
   /// `rule` is that of the words. `expression` is called for a filter of that kind only.
   WordMatcher(const RowFilter& filter, Matcher expression, KeyRule rule);
 
-  /// Several threads may call it at the same time.
+  /// Each thread works with a copy of its own.
   [[nodiscard]] bool Matches(const WordRec& word) const;
 
  private:

@@ -66,10 +66,11 @@ void WordRows::Match(const WordMatcher& matcher) {
   const std::vector<Part> parts = PartsOf(matches_.size());
   std::vector<std::int64_t> instances(parts.size());
   ForEachPart(parts, [&](const Part& part, std::size_t number) {
+    const WordMatcher ofThread = matcher;
     for (std::size_t index = part.begin; index < part.end; ++index) {
       if (words.ranking.rankOf[index] == 0) continue;
       const WordRec record = words.store.At(static_cast<std::int32_t>(index));
-      if (!matcher.Matches(record)) continue;
+      if (!ofThread.Matches(record)) continue;
       matches_[index] = 1;
       instances[number] += record.Count;
     }
