@@ -54,6 +54,7 @@ void MainWindow::ConnectOutput() {
 }
 
 void MainWindow::CopyOutputToClipboard() {
+  if (copyView_ && copyView_()) return;
   try {
     desktop_.ClearClipboard();
     desktop_.PutClipboardText(frmMain_.txbOutput.Text());

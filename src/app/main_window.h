@@ -1,6 +1,9 @@
 // The main window: what its commands and labels do. Its rows for texts and paths are SourceRows.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "app/count/count_run.h"
 #include "app/list/word_lister.h"
 #include "app/what_parts_share.h"
@@ -28,6 +31,10 @@ class MainWindow {
   /// Fills the combo boxes of word orders and display formats and selects the first items.
   void FillListCombos();
 
+  /// What "Copy to clipboard" copies while something else than the text box is in front: does so,
+  /// or returns false for the text box.
+  void SetViewCopier(std::function<bool()> copyView) { copyView_ = std::move(copyView); }
+
  private:
   void ConnectOutput();
   void ConnectNotices();
@@ -43,6 +50,7 @@ class MainWindow {
   CountRun& countRun_;
   const WindowFlags& flags_;
   Desktop& desktop_;
+  std::function<bool()> copyView_;
 };
 
 }  // namespace quillomat

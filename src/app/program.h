@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -85,6 +86,11 @@ class Program {
   /// The line above the list, and the window that exports it.
   [[nodiscard]] NoticeBar& Notices() { return parts_.notices; }
   [[nodiscard]] ExportWindow& Exports() { return parts_.exports; }
+
+  /// What copies the view in front, if that is another than the text box; false if it is not.
+  void SetViewCopier(std::function<bool()> copyView) {
+    parts_.mainWindow.SetViewCopier(std::move(copyView));
+  }
 
   /// What is said when a word is not found in the output text box, which may hold but a part of the
   /// list: where in the list it stands.

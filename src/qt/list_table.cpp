@@ -1,5 +1,7 @@
 #include "qt/list_table.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <algorithm>
 #include <cstddef>
 #include <span>
@@ -40,6 +42,18 @@ void HtmlTable::AddRow(const QStringList& cells) {
 
 QString HtmlTable::Whole() const {
   return QStringLiteral("<table>\n") + rows_ + QStringLiteral("</table>\n");
+}
+
+void CopiedRows::Add(const QStringList& cells) {
+  text_ += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  if (withTable_) table_.AddRow(cells);
+}
+
+void CopiedRows::PutOnClipboard() {
+  if (text_.isEmpty()) return;
+  // The clipboard takes the data over.
+  QApplication::clipboard()->setMimeData(
+      ClipboardDataOf(text_, withTable_ ? table_.Whole() : QString()).release());
 }
 
 std::vector<CopiedLine> LinesOf(const QString& text) {

@@ -32,6 +32,24 @@ class HtmlTable {
   QString rows_;
 };
 
+/// Rows of cells on their way to the clipboard: text with tabs between the cells, and a table.
+class CopiedRows {
+ public:
+  /// Of very many rows the text is enough: it is what programs take over faster.
+  explicit CopiedRows(qsizetype rows) : withTable_(rows <= kMostRowsOfATable) {}
+
+  void Add(const QStringList& cells);
+  /// Once, at the end. No row at all leaves the clipboard as it is.
+  void PutOnClipboard();
+
+ private:
+  static constexpr qsizetype kMostRowsOfATable = 100'000;
+
+  QString text_;
+  HtmlTable table_;
+  bool withTable_;
+};
+
 /// The lines as an HTML table: a row a line, a cell a column. What is not copied of a cell is not
 /// in the table, but cells stay in their columns. "" when no line has two columns.
 [[nodiscard]] QString HtmlTableOf(const std::vector<CopiedLine>& lines, const CellSource& cells);

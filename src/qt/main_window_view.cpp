@@ -99,9 +99,11 @@ void MainWindowView::PlaceViews() {
   column->addWidget(ui_->txbOutput, 1);
   column->addWidget(&findBar_);
   views_->setCornerWidget(fold_, Qt::TopLeftCorner);
-  views_->Add(text, kTextView, kTextViewText, [this] { findBar_.Open(); });
-  views_->Add(table_, kTableView, kTableViewText, [this] { table_->Find(); });
-  views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText);
+  views_->Add(text, kTextView, kTextViewText, {.find = [this] { findBar_.Open(); }});
+  views_->Add(table_, kTableView, kTableViewText,
+              {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});
+  views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText,
+              {.copy = [this] { statistics_->Copy(); }});
   // What stands below the views comes behind them on the keyboard's way, too.
   setTabOrder(&table_->View(), &statistics_->OrderBox());
   setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
@@ -119,7 +121,8 @@ void MainWindowView::PlaceViews() {
       Qt::QueuedConnection);
 }
 
-/// The notices speak of the view in front, and exports of what the table shows.
+/// The notices speak of the view in front, "Copy to clipboard" copies it, and exports are of what
+/// the table shows.
 void MainWindowView::ConnectViews() {
   NoticeBar& notices = program_.Notices();
   notices.SetTableShower([this] {
@@ -128,6 +131,7 @@ void MainWindowView::ConnectViews() {
   });
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
+  program_.SetViewCopier([this] { return views_->Copy(); });
   program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
 }

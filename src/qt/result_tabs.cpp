@@ -10,8 +10,8 @@ ResultTabs::ResultTabs(QWidget* parent) : QTabWidget(parent) {
   setDocumentMode(true);  // no frame beside those of the views
 }
 
-void ResultTabs::Add(QWidget* view, const QString& key, int titleText, std::function<void()> find) {
-  views_.append({key, titleText, std::move(find)});
+void ResultTabs::Add(QWidget* view, const QString& key, int titleText, Uses uses) {
+  views_.append({key, titleText, std::move(uses)});
   addTab(view, QString());
 }
 
@@ -31,7 +31,14 @@ void ResultTabs::Show(const QString& key) {
 
 void ResultTabs::Find() const {
   const View& view = views_[currentIndex()];
-  if (view.find) view.find();
+  if (view.uses.find) view.uses.find();
+}
+
+bool ResultTabs::Copy() const {
+  const View& view = views_[currentIndex()];
+  if (!view.uses.copy) return false;
+  view.uses.copy();
+  return true;
 }
 
 }  // namespace quillomat

@@ -15,9 +15,15 @@ class ResultTabs final : public QTabWidget {
  public:
   explicit ResultTabs(QWidget* parent = nullptr);
 
-  /// Adds a view behind the others and takes it over. `titleText` is the number of its title;
-  /// `find` is what the keys of "find" do while it is in front.
-  void Add(QWidget* view, const QString& key, int titleText, std::function<void()> find = {});
+  /// What the window's own keys and commands do while a view is in front; what it cannot do is
+  /// empty.
+  struct Uses {
+    std::function<void()> find = {};
+    std::function<void()> copy = {};
+  };
+
+  /// Adds a view behind the others and takes it over. `titleText` is the number of its title.
+  void Add(QWidget* view, const QString& key, int titleText, Uses uses);
 
   /// The titles in the current language.
   void SetTexts(const ProgramText& text);
@@ -28,12 +34,14 @@ class ResultTabs final : public QTabWidget {
 
   /// Finds something in the view in front, if it knows how.
   void Find() const;
+  /// Copies from the view in front; false if it leaves that to the program.
+  [[nodiscard]] bool Copy() const;
 
  private:
   struct View {
     QString key;
     int titleText = 0;
-    std::function<void()> find;
+    Uses uses;
   };
 
   QList<View> views_;

@@ -1,12 +1,9 @@
 #include "qt/statistics_page.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLocale>
-#include <QMimeData>
 #include <QVBoxLayout>
-#include <memory>
 
 #include "qt/list_table.h"
 #include "qt/text_conversion.h"
@@ -47,7 +44,7 @@ void StatisticsPage::SetUpTable() {
   table_->horizontalHeader()->setStretchLastSection(true);
   copy_->setShortcut(QKeySequence::Copy);
   copy_->setShortcutContext(Qt::WidgetShortcut);
-  connect(copy_, &QAction::triggered, this, [this] { CopySelected(); });
+  connect(copy_, &QAction::triggered, this, [this] { Copy(); });
   table_->addAction(copy_);
   table_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
@@ -77,20 +74,14 @@ void StatisticsPage::ShowRows() {
   table_->resizeRowsToContents();
 }
 
-void StatisticsPage::CopySelected() const {
-  QString text;
-  HtmlTable html;
+void StatisticsPage::Copy() const {
+  const QItemSelectionModel& selection = *table_->selectionModel();
+  CopiedRows copied(table_->rowCount());
   for (int row = 0; row < table_->rowCount(); ++row) {
-    if (!table_->selectionModel()->isRowSelected(row)) continue;
-    const QStringList cells = {table_->item(row, 0)->text(), table_->item(row, 1)->text()};
-    text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    html.AddRow(cells);
+    if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
+    copied.Add({table_->item(row, 0)->text(), table_->item(row, 1)->text()});
   }
-  if (text.isEmpty()) return;
-  auto copied = std::make_unique<QMimeData>();
-  copied->setText(text);
-  copied->setHtml(html.Whole());
-  QApplication::clipboard()->setMimeData(copied.release());  // which takes it
+  copied.PutOnClipboard();
 }
 
 void StatisticsPage::showEvent(QShowEvent* event) {

@@ -19,6 +19,9 @@ class StatisticsPage final : public QWidget {
 
   void SetTexts(const ProgramText& text);
 
+  /// Puts the selected rows on the clipboard; all, if none is selected.
+  void Copy() const;
+
   /// The choice whether figures that need the order of words are worked out, too.
   [[nodiscard]] QCheckBox& OrderBox() { return *orderBox_; }
   [[nodiscard]] const QCheckBox& OrderBox() const { return *orderBox_; }
@@ -30,7 +33,6 @@ class StatisticsPage final : public QWidget {
  private:
   void SetUpTable();
   void ShowRows();
-  void CopySelected() const;
 
   NumberSigns signs_;
   ResultStatistics statistics_;

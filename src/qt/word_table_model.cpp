@@ -43,6 +43,12 @@ void WordTableModel::SetTexts(const ProgramText& text) {
   emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
 }
 
+QStringList WordTableModel::TitlesOf(const QList<int>& sections) const {
+  QStringList titles;
+  for (const int section : sections) titles.append(titles_.value(section));
+  return titles;
+}
+
 QStringList WordTableModel::CopyOf(int row, const QList<int>& sections) const {
   const NumberSigns signs{.group = "", .decimal = signs_.decimal};
   const WordRow word = Rows()->RowAt(static_cast<std::size_t>(row));

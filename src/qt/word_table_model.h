@@ -28,6 +28,7 @@ class WordTableModel final : public QAbstractTableModel {
   /// The columns' titles in the current language.
   void SetTexts(const ProgramText& text);
 
+  [[nodiscard]] QStringList TitlesOf(const QList<int>& sections) const;
   /// Cells of a row as another program is to read them: numbers without groups.
   [[nodiscard]] QStringList CopyOf(int row, const QList<int>& sections) const;
 

@@ -1,12 +1,9 @@
 #include "qt/word_table_view.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -21,8 +18,6 @@ namespace {
 
 constexpr int kWordSection = static_cast<int>(WordColumn::kWord);
 constexpr int kRankSection = static_cast<int>(WordColumn::kRank);
-/// Of more rows the text is enough: it is what programs take over faster.
-constexpr qsizetype kMostRowsOfATable = 100'000;
 
 }  // namespace
 
@@ -114,20 +109,20 @@ QList<int> WordTableView::SelectedRows() const {
 
 void WordTableView::CopySelected() const {
   const QList<int> rows = SelectedRows();
-  if (rows.isEmpty()) return;
+  CopiedRows copied(rows.size());
+  for (const int row : rows) copied.Add(model_.CopyOf(row, columns_.Shown()));
+  copied.PutOnClipboard();
+}
+
+void WordTableView::Copy() const {
+  if (selectionModel()->hasSelection()) return CopySelected();
+  const int rows = model_.rowCount();
+  if (rows == 0) return;
   const QList<int> sections = columns_.Shown();
-  const bool withTable = rows.size() <= kMostRowsOfATable;
-  QString text;
-  HtmlTable html;
-  for (const int row : rows) {
-    const QStringList cells = model_.CopyOf(row, sections);
-    text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-    if (withTable) html.AddRow(cells);
-  }
-  auto copied = std::make_unique<QMimeData>();
-  copied->setText(text);
-  if (withTable) copied->setHtml(html.Whole());
-  QApplication::clipboard()->setMimeData(copied.release());  // which takes it
+  CopiedRows copied(rows);
+  copied.Add(model_.TitlesOf(sections));
+  for (int row = 0; row < rows; ++row) copied.Add(model_.CopyOf(row, sections));
+  copied.PutOnClipboard();
 }
 
 /// As a click on its title does.

@@ -26,6 +26,8 @@ class WordTableView final : public QTableView {
 
   /// Puts the selected rows on the clipboard, with the columns that are shown.
   void CopySelected() const;
+  /// The same; if none is selected, all rows that the filter shows, below their titles.
+  void Copy() const;
 
  protected:
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

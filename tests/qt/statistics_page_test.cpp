@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QMimeData>
 #include <QTabBar>
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "window_fixture.h"
@@ -73,6 +74,15 @@ TEST_F(StatisticsPageTest, RowsAreCopiedWithTheirColumns) {
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   EXPECT_EQ(FromQt(copied->text()), "Different words\t4\n");
   EXPECT_TRUE(copied->html().contains("<td>Different words</td><td>4</td>"));
+}
+
+TEST_F(StatisticsPageTest, AllRowsAreCopiedByTheCommandIfNoneIsSelected) {
+  Count("to be or not to be\n");
+  OpenPage();
+  user->Click(user->program.frmMain.cmdCopyToClipboard);
+  const std::string copied = FromQt(QApplication::clipboard()->text());
+  EXPECT_EQ(std::ranges::count(copied, '\n'), Table().rowCount());
+  EXPECT_NE(copied.find("Different words\t4\n"), std::string::npos);
 }
 
 }  // namespace

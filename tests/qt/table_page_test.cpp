@@ -150,6 +150,28 @@ TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
   EXPECT_TRUE(copied->html().contains("<tr><td>1</td><td>dog</td><td>2</td></tr>"));
 }
 
+TEST_F(TablePageTest, CommandThatCopiesTakesWhatIsInFront) {
+  Count("dog cat dog emu\n");
+  const CommandButton& copy = user->program.frmMain.cmdCopyToClipboard;
+  const auto copied = [] { return FromQt(QApplication::clipboard()->text()); };
+  user->Click(copy);
+  EXPECT_EQ(copied(), user->Shown());
+  OpenTable();
+  View().Columns().SetWanted({"frequency"});
+  user->Click(copy);
+  EXPECT_EQ(copied(), "Word\tFrequency\ndog\t2\ncat\t1\nemu\t1\n");
+  TypeFilter("c");
+  user->Click(copy);
+  EXPECT_EQ(copied(), "Word\tFrequency\ncat\t1\n");
+  Box().clear();
+  View().selectRow(2);
+  user->Click(copy);
+  EXPECT_EQ(copied(), "emu\t1\n");
+  TypeFilter("nothing");
+  user->Click(copy);
+  EXPECT_EQ(copied(), "emu\t1\n") << "there is nothing to copy";
+}
+
 TEST_F(TablePageTest, ColumnsAndTheirWidthsAreRemembered) {
   OpenTable();
   View().Columns().SetWanted({"frequency", "length"});

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -13,8 +14,10 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <cstdlib>
 #include <deque>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -26,7 +29,8 @@
 
 namespace quillomat {
 
-/// Clicks the boxes' buttons in the order of a script, and remembers what the boxes said.
+/// Clicks the boxes' buttons in the order of a script, and remembers what the boxes said. A test in
+/// which boxes come for ever, or one stays, ends with what the box says.
 class BoxAnswerer {
  public:
   BoxAnswerer() {
@@ -46,13 +50,20 @@ class BoxAnswerer {
  private:
   /// A box without an answer in the script fails the test and is closed.
   void Look() {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (modal != standing_) {
+      standing_ = modal;
+      since_.start();
+    }
+    if (modal != nullptr && since_.hasExpired(kLongestStand)) GiveUp("stays", *modal);
+    auto* box = qobject_cast<QMessageBox*>(modal);
     if (box == nullptr || box == answered_) return;
     answered_ = box;
     texts_.push_back(FromQt(box->text()));
     titles_.push_back(FromQt(box->windowTitle()));
     if (answers_.empty()) {
       ADD_FAILURE() << "an unexpected box: " << texts_.back();
+      if (++unexpected_ > kMostUnexpected) GiveUp("comes again and again", *box);
       return box->reject();
     }
     QAbstractButton* button = box->button(answers_.front());
@@ -64,8 +75,23 @@ class BoxAnswerer {
     QTest::mouseClick(button, Qt::LeftButton);
   }
 
+  /// The test may never get out of the program's own loops, so its process ends here.
+  [[noreturn]] static void GiveUp(const char* why, const QWidget& modal) {
+    const auto* const box = qobject_cast<const QMessageBox*>(&modal);
+    std::cerr << "A box " << why << ": \"" << FromQt(modal.windowTitle()) << "\" "
+              << (box == nullptr ? "" : FromQt(box->text())) << std::endl;
+    std::_Exit(EXIT_FAILURE);
+  }
+
+  static constexpr qint64 kLongestStand = 30'000;  // milliseconds
+  static constexpr int kMostUnexpected = 20;
+
   QTimer timer_;
   QPointer<QMessageBox> answered_;
+  /// What is in front, and since when.
+  QPointer<QWidget> standing_;
+  QElapsedTimer since_;
+  int unexpected_ = 0;
   std::deque<QMessageBox::StandardButton> answers_;
   std::vector<std::string> texts_;
   std::vector<std::string> titles_;

@@ -5,18 +5,18 @@
 #include <new>
 
 #include "base/run_time_error.h"
-#include "export/word_export.h"
 
 namespace quillomat {
 
-ExportOutcome RunExport(const RunState& run, EventPump& pump, const ExportTable& table,
-                        ExportFormat format, const std::string& path,
+ExportOutcome RunExport(const RunState& run, EventPump& pump, const ExportWork& work,
                         const std::function<void(std::size_t words)>& onProgress) {
+  pump.YieldNow();
+  if (run.StopRequested()) return {ExportOutcome::End::kStopped};
   std::atomic<bool> stop = false;
   std::atomic<std::size_t> words = 0;
   // Its destructor waits for the thread, which looks at all of these.
   std::future<bool> writing = std::async(std::launch::async, [&] {
-    return ExportToFile(table, format, path, [&](std::size_t done) {
+    return work([&](std::size_t done) {
       words = done;
       return !stop;
     });

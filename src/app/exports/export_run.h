@@ -7,7 +7,6 @@
 #include <string>
 
 #include "app/count/run_state.h"
-#include "export/export_format.h"
 #include "export/export_table.h"
 #include "ui/yielder.h"
 
@@ -21,12 +20,13 @@ struct ExportOutcome {
   std::string error = {};
 };
 
-/// Returns when it is done; handles the user's clicks meanwhile. The stop flag ends it, and the
-/// file is as it was. The words must not change meanwhile: the caller is in a phase that sees to
-/// it. `onProgress` is called now and then, with the number of words done.
-[[nodiscard]] ExportOutcome RunExport(const RunState& run, EventPump& pump,
-                                      const ExportTable& table, ExportFormat format,
-                                      const std::string& path,
+/// What is written: false when the progress that it is given ended it. Throws RunTimeError.
+using ExportWork = std::function<bool(const ExportProgress& progress)>;
+
+/// Returns when it is done; handles the user's clicks before it begins and meanwhile. The stop flag
+/// ends it, and the file is as it was. The words must not change meanwhile: the caller is in a
+/// phase that sees to it. `onProgress` is called now and then, with the number of words done.
+[[nodiscard]] ExportOutcome RunExport(const RunState& run, EventPump& pump, const ExportWork& work,
                                       const std::function<void(std::size_t words)>& onProgress);
 
 }  // namespace quillomat

@@ -9,6 +9,7 @@
 #include "app/exports/export_run.h"
 #include "app/list/set_the_focus.h"
 #include "base/text_helpers.h"
+#include "export/word_export.h"
 #include "system/file_system.h"
 #include "system/paths.h"
 #include "text/caption_table.h"
@@ -274,7 +275,10 @@ void ExportWindow::Write(const ExportWish& wish) {
     ShowRunning(true);
     const ResultExport result(words_, frmMain_, frmParams_, wish);
     words = messages_.Grouped(static_cast<std::int64_t>(result.Table().places.size()));
-    outcome = RunExport(run_, pump_, result.Table(), Format(), path, [&](std::size_t done) {
+    const ExportWork write = [&, format = Format()](const ExportProgress& progress) {
+      return ExportToFile(result.Table(), format, path, progress);
+    };
+    outcome = RunExport(run_, pump_, write, [&](std::size_t done) {
       frmExport_.lblState.SetCaption(
           Text(kExportProgressText, {messages_.Grouped(static_cast<std::int64_t>(done)), words}));
     });
