@@ -1,6 +1,6 @@
 #!/bin/sh
 # Unpacks the archive for Windows on an empty machine (a new Wine prefix) and uses it as a person does,
-# with real keys and clicks on a virtual screen: counts a folder into a file, switches the language,
+# with real keys on a virtual screen: counts a folder into a file, switches the language,
 # quits, starts again and finds everything as it was. Usage: test-zip.sh [ARCHIVE [PICTURES]]
 # With a folder PICTURES, pictures of the windows are left there.
 . "$(dirname "$0")/../../cmake/setup.sh"
@@ -88,11 +88,21 @@ start() {
   xdotool windowfocus --sync "$window"
   sleep 2
 }
-# click_at RIGHT BOTTOM: from the window's lower right corner.
-click_at() { xdotool mousemove $((X + WIDTH - $1)) $((Y + HEIGHT - $2)) click 1; sleep 1; }
+# tab N: goes on by so many controls in the keyboard's order (the <tabstops> of src/qt/main_form.ui).
+tab() {
+  for _ in $(seq "$1"); do xdotool key --delay 60 Tab; done
+  sleep 0.3
+}
 has_ended() { ! kill -0 "$program_pid" 2>/dev/null; }
+# From the count command, which has the focus after a count, to the one that switches the language, and
+# from there to Quit.
+switch_language() {
+  tab 4
+  xdotool key space
+}
 quit() {
-  click_at 50 23
+  tab 2
+  xdotool key space
   wait_for 30 has_ended || fail "it does not end"
   wait "$program_pid" || fail "it ends with a status"
 }
@@ -102,15 +112,13 @@ language() {
 }
 speaks() { [ "$(language)" = "$1" ]; }
 
-# The first start: the folder's box stands to the left of its button, which has the focus.
+# The first start: the button that chooses a folder has the focus, the folder's box is two behind it,
+# and the box of the output file seven behind that.
 start
-xdotool mousemove $((X + 372)) $((Y + 93)) click 1
+tab 2
 xdotool type --delay 40 'C:\books'
 sleep 1
-# The first click closes the list of paths that begin like this.
-xdotool mousemove $((X + 300)) $((Y + 208)) click 1
-sleep 1
-xdotool click 1
+tab 7
 xdotool type --delay 40 'C:\list.txt'
 xdotool key Return
 wait_for 30 test -s "$drive/list.txt" || fail "no list was written"
@@ -122,7 +130,7 @@ cmp "$drive/list.txt" "$work/cli.txt" || fail "the window's list is not the term
 cp "$drive/list.txt" "$work/first.txt"
 
 [ -z "$(language)" ] || fail "a language is kept before one was chosen"
-click_at 211 23
+switch_language
 wait_for 20 speaks DE || fail "the language is not kept in the registry"
 picture windows-main-de
 quit
@@ -141,7 +149,7 @@ xdotool windowfocus --sync "$(xdotool search --onlyvisible --name '^The output f
 xdotool key Return
 wait_for 30 cmp "$drive/list.txt" "$work/first.txt" || fail "the second list is another"
 xdotool windowfocus --sync "$window"
-click_at 211 23
+switch_language
 wait_for 20 speaks EN || fail "it did not start in German"
 quit
 printf 'Windows: counted, kept and counted again\n'

@@ -38,6 +38,7 @@ class Newcomer {
     LeaveABadFolder();
     OpenTheParameters();
     EditAWordsFileByHand();
+    Quit();
   }
 
  private:
@@ -282,6 +283,11 @@ class Newcomer {
     WaitUntil("no word is left out when the box is empty",
               [this] { return !program_.State().Busy() && Lists("harbour") && Lists("the"); });
     Expect("nothing was to be told", [this] { return NoBox(); });
+  }
+
+  void Quit() {
+    Click(frmMain_.cmdQuit);
+    WaitUntil("a click on Quit ends it", [this] { return program_.HasEnded(); });
   }
 
   bool Lists(const std::string& word) {
