@@ -73,6 +73,7 @@ void Program::Connect() {
   frmMain.cmdExport.Click.Connect([this] { parts_.exports.Open(); });
   parts_.savedState.Connect([this] { Initialize(); });
   frmMain.cmdLanguage.Click.Connect([this] { ToggleLanguage(); });
+  parts_.tryIt.Connect();
   frmMain.cmdQuit.Click.Connect([this] { Quit(); });
   frmMain.CloseRequested.Connect([this] { Quit(); });
   parts_.run.BecameIdle.Connect([this] {
@@ -149,6 +150,7 @@ void Program::Initialize() {
     parts_.wordLists.OnExtraWordsLostFocus(static_cast<WordListKind>(i));
   }
   parts_.countRun.Extensions().OnRestored();
+  parts_.tryIt.Reset();
   parts_.panel.SetDefaultValues();
   SetMainWindowsDefaults(ControlKind::kCheckBox, frmMain, frmParams);
   parts_.output.SetDisplayingWords(false);
@@ -190,6 +192,7 @@ void Program::ToggleLanguage() {
   SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
   parts_.controls.ShowCountCaption();
   parts_.notices.Update();
+  parts_.tryIt.Update();
 }
 
 void Program::Quit() {

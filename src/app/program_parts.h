@@ -10,6 +10,7 @@
 #include "app/count/run_state.h"
 #include "app/count/window_state.h"
 #include "app/count/word_list_reader.h"
+#include "app/explain/try_it.h"
 #include "app/exports/export_window.h"
 #include "app/help_window.h"
 #include "app/list/current_words.h"
@@ -75,6 +76,7 @@ struct ProgramParts {
   SourceRows sources;
   MainWindow mainWindow;
   ParametersPanel panel;
+  TryIt tryIt;
   HelpWindow help;
   NoticeBar notices;
   ExportWindow exports;

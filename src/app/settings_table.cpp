@@ -67,6 +67,11 @@ constexpr Setting EntailsRescan(Setting setting) {
   return setting;
 }
 
+constexpr Setting EntailsNothing(Setting setting) {
+  setting.entails = Entails::kNothing;
+  return setting;
+}
+
 constexpr Setting KeptByRestoreDefaults(Setting setting) {
   setting.resetBy = ResetBy::kReinitialize;
   return setting;
@@ -200,6 +205,10 @@ constexpr auto kTable = std::to_array<Setting>({
     KeptByRestoreDefaults(
         Text("txbWordsToIgnoreOrCount(1)", 483, "",
              Value(kList, kWordLists, "--only-words", "LIST", "Count only these words"))),
+    KeptByRestoreDefaults(EntailsNothing(
+        Text("txbTryIt", 515,
+             "Don't skip the caf\u00E9's well-known 3rd edition: XIV, \u0142\u00F3d\u017A, "
+             "hmm."))),
     OnMainWindow(Path("txbFolder", 407)),
     OnMainWindow(Path("txbFile(0)", 403)),
     OnMainWindow(Text("txbFileExtensions(0)", 411, "",

@@ -115,6 +115,8 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"cmdClearWordsFile(1)", 235},
     {"cmdClearWordsToIgnoreOrCount(0)", 235},
     {"cmdClearWordsToIgnoreOrCount(1)", 235},
+    {"lblTryIt", 270},
+    {"lblTried", 271},
     {"cmdClearCheckboxes(0)", 240},
     {"cmdClearCheckboxes(1)", 241},
     {"cmdSaveLoadState(0)", 242},
@@ -139,6 +141,7 @@ inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({
     {"cmdClearCheckboxes(1)", 491},
     {"cmdSaveLoadState(0)", 492},
     {"cmdSaveLoadState(1)", 493},
+    {"txbTried", 516},
     {"txbStateFile", 494},
     {"cmdRestoreDefaults", 495},
     {"cmdInitialize", 496},
@@ -291,6 +294,10 @@ inline constexpr int kFirstReasonText = 905;
 inline constexpr int kTrimmedText = 925;
 inline constexpr int kLostFinalSText = 926;
 inline constexpr int kSpelledAsBeforeText = 927;
+/// What is tried on the panel: "%1" stands for the words of the first CandidateFate, and so on.
+inline constexpr int kFirstTriedText = 930;
+inline constexpr int kMarkersRefusedText = 933;
+inline constexpr int kNothingTriedText = 934;
 
 // The line above the list, and what its commands are called.
 inline constexpr int kFilesSkippedText = 700;

@@ -90,6 +90,12 @@ class ParamsForm final : public Form {
       CommandButton{*this, {"cmdClearWordsToIgnoreOrCount", 0}, "Clear"},
       CommandButton{*this, {"cmdClearWordsToIgnoreOrCount", 1}, "Clear"}};
 
+  // A line of the user's own, and what the settings above make of it.
+  Label lblTryIt{*this, "lblTryIt", "Try it:"};
+  TextBox txbTryIt{*this, "txbTryIt"};
+  Label lblTried{*this, "lblTried", "What becomes of it:"};
+  TextBox txbTried{*this, "txbTried"};
+
   // How lists are made.
   CheckBox chkOutputWithCommas{*this, "chkOutputWithCommas", "Include commas in output file"};
   CheckBox chkUseLog10{*this, "chkUseLog10", "Use log base 10 for Zipf data"};

@@ -110,6 +110,7 @@ class NewSettings : public testing::Test {
       if (auto* combo = control.As<ComboBox>()) combo->SetListIndex(0);
     }
     frmParams.chkFoldAccents.SetChecked(true);
+    SetToDefault(*FindSetting(AllSettings(), "txbTryIt"), frmParams.txbTryIt);
     for (std::size_t i = 0; i < 3; ++i) {
       SetToDefault(settings[i], ControlOf(settings[i], frmMain, frmParams));
     }

@@ -1,0 +1,41 @@
+// "Try it" on the panel: a line of the user's own, and what the settings make of it while they are
+// changed. The line is a setting like others; what became of it stands in the box below.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "app/count/in_force.h"
+#include "text/program_text.h"
+#include "ui/params_form.h"
+
+namespace quillomat {
+
+class TryIt {
+ public:
+  /// All must outlive it.
+  TryIt(ParamsForm& frmParams, const InForce& inForce, const ProgramText& text)
+      : frmParams_(frmParams), inForce_(inForce), text_(text) {}
+
+  /// Connects the panel's settings with the box. Called once, when everything else that handles
+  /// them is connected.
+  void Connect();
+
+  /// Puts the line to its default.
+  void Reset();
+
+  /// Shows anew what becomes of the line. It costs nothing while nobody sees the panel.
+  void Update();
+
+  /// More of the line is not tried, in characters.
+  static constexpr std::size_t kMostTried = 1000;
+
+ private:
+  [[nodiscard]] std::string Outcome() const;
+
+  ParamsForm& frmParams_;
+  const InForce& inForce_;
+  const ProgramText& text_;
+};
+
+}  // namespace quillomat
