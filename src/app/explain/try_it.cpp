@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "app/count/panel_choices.h"
@@ -20,31 +19,40 @@ namespace {
 
 constexpr std::string_view kLineName = "txbTryIt";
 
-/// "cat", or "cat (without its final s)".
-std::string ItemOf(const Candidate& candidate, const FilterChoices& filters,
-                   const ProgramText& text) {
-  const bool counted = candidate.fate == CandidateFate::kCounted;
-  const std::string why =
-      counted ? ChangeText(candidate, text) : ReasonText(candidate, filters, text);
-  std::string item = counted ? candidate.word : candidate.text;
-  if (!why.empty()) item.append(" (").append(why).append(")");
-  return item;
-}
+/// Words of which there is the same to tell; "" for nothing.
+struct WordGroup {
+  std::string remark;
+  std::vector<std::string> words{};
+};
 
-/// Those of one fate, each once, with commas between them.
-std::string ItemsOf(CandidateFate fate, const std::vector<Candidate>& candidates,
-                    const FilterChoices& filters, const ProgramText& text) {
-  std::vector<std::string> items;
-  std::string joined;
+/// The candidates of one fate, each word once.
+std::vector<WordGroup> GroupsOf(CandidateFate fate, const std::vector<Candidate>& candidates,
+                                const FilterChoices& filters, const ProgramText& text) {
+  const bool counted = fate == CandidateFate::kCounted;
+  std::vector<WordGroup> groups;
   for (const Candidate& candidate : candidates) {
     if (candidate.fate != fate) continue;
-    std::string item = ItemOf(candidate, filters, text);
-    if (std::ranges::find(items, item) != items.end()) continue;
-    if (!joined.empty()) joined += ", ";
-    joined += item;
-    items.push_back(std::move(item));
+    const std::string remark =
+        counted ? ChangeText(candidate, text) : ReasonText(candidate, filters, text);
+    auto group = std::ranges::find(groups, remark, &WordGroup::remark);
+    if (group == groups.end()) group = groups.insert(groups.end(), {remark});
+    const std::string& word = counted ? candidate.word : candidate.text;
+    if (std::ranges::find(group->words, word) == group->words.end()) group->words.push_back(word);
   }
-  return joined;
+  return groups;
+}
+
+/// "dog, bird; cat (without its final s)".
+std::string ListOf(const std::vector<WordGroup>& groups) {
+  std::string list;
+  for (const WordGroup& group : groups) {
+    if (!list.empty()) list += "; ";
+    for (std::size_t i = 0; i < group.words.size(); ++i) {
+      list.append(i > 0 ? ", " : "").append(group.words[i]);
+    }
+    if (!group.remark.empty()) list.append(" (").append(group.remark).append(")");
+  }
+  return list;
 }
 
 }  // namespace
@@ -89,10 +97,10 @@ std::string TryIt::Outcome() const {
   std::string outcome;
   for (const CandidateFate fate :
        {CandidateFate::kCounted, CandidateFate::kLeftOut, CandidateFate::kCut}) {
-    const std::string items = ItemsOf(fate, candidates, filters, text_);
-    if (items.empty()) continue;
+    const std::string words = ListOf(GroupsOf(fate, candidates, filters, text_));
+    if (words.empty()) continue;
     if (!outcome.empty()) outcome += kCrLf;
-    outcome += Filled(text_.GetText(kFirstTriedText + static_cast<int>(fate)), {items});
+    outcome += Filled(text_.GetText(kFirstTriedText + static_cast<int>(fate)), {words});
   }
   return outcome.empty() ? text_.GetText(kNothingTriedText) : outcome;
 }
