@@ -26,6 +26,7 @@ class Photographer {
     Count(samples + "/harbour_en.txt");
     Save(user_.windows.Main(), "main-en");
     TakeTable("table-en", "sea");
+    TakeStatistics("statistics-en");
     TakeOthers("en");
     user_.Click(frmMain.cmdLanguage);
     Count(samples + "/leuchtturm_de.txt");
@@ -87,6 +88,12 @@ class Photographer {
     words->clear();
     kind->setCurrentIndex(0);
     window.Views().Show("text");
+  }
+
+  void TakeStatistics(const QString& name) {
+    user_.windows.Main().Views().Show("statistics");
+    Save(user_.windows.Main(), name);
+    user_.windows.Main().Views().Show("text");
   }
 
   void TakeRunning(const QString& samples) {
