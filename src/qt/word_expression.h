@@ -4,12 +4,14 @@
 #pragma once
 
 #include <QRegularExpression>
+#include <variant>
 
 #include "app/table/row_filter.h"
 
 namespace quillomat {
 
-/// Of an expression that is valid, for words in UTF-8.
-[[nodiscard]] Matcher MatcherOf(const QRegularExpression& expression);
+/// Of an expression that is valid, for words in UTF-8. The fault is that it is too large.
+[[nodiscard]] std::variant<Matcher, ExpressionFault> MatcherOf(
+    const QRegularExpression& expression);
 
 }  // namespace quillomat

@@ -24,7 +24,7 @@ bool Matches(const QRegularExpression& expression, std::string_view text) {
 
 }  // namespace
 
-Matcher MatcherOf(const QRegularExpression& expression) {
+std::variant<Matcher, ExpressionFault> MatcherOf(const QRegularExpression& expression) {
   expression.optimize();
   return [expression](std::string_view text) { return Matches(expression, text); };
 }

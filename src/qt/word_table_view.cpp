@@ -109,8 +109,9 @@ QList<int> WordTableView::SelectedRows() const {
 
 void WordTableView::CopySelected() const {
   const QList<int> rows = SelectedRows();
+  const QList<int> sections = columns_.Shown();
   CopiedRows copied(rows.size());
-  for (const int row : rows) copied.Add(model_.CopyOf(row, columns_.Shown()));
+  for (const int row : rows) copied.Add(model_.CopyOf(row, sections));
   copied.PutOnClipboard();
 }
 

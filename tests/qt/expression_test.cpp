@@ -42,6 +42,18 @@ TEST(Expression, WhatIsWrongIsSaid) {
   EXPECT_NE(std::get<ExpressionFault>(read).description, "");
 }
 
+TEST(Expression, LargeOnesMatchOrAreToldOf) {
+  std::string large;
+  for (int i = 0; i < 10'000; ++i) large += "[\u00E4b]";
+  auto read = ReadExpression(large);
+  if (auto* matcher = std::get_if<Matcher>(&read)) {
+    EXPECT_FALSE((*matcher)("b"));
+  }
+  if (const auto* fault = std::get_if<ExpressionFault>(&read)) {
+    EXPECT_NE(fault->description, "");
+  }
+}
+
 TEST(Expression, WhatIsNoTextIsNoMatchAndNoHarm) {
   EXPECT_FALSE(Finds("^..$", "a\xFF"));
 }
