@@ -66,7 +66,8 @@ void WordRows::Match(const WordMatcher& matcher) {
   const std::vector<Part> parts = PartsOf(matches_.size());
   std::vector<std::int64_t> instances(parts.size());
   ForEachPart(parts, [&](const Part& part, std::size_t number) {
-    const WordMatcher ofThread = matcher;
+    // A matcher is for one thread (row_filter.h).
+    const WordMatcher ofThread = matcher;  // NOLINT(performance-unnecessary-copy-initialization)
     for (std::size_t index = part.begin; index < part.end; ++index) {
       if (words.ranking.rankOf[index] == 0) continue;
       const WordRec record = words.store.At(static_cast<std::int32_t>(index));
