@@ -3,14 +3,6 @@
 #include "base/utf8.h"
 
 namespace quillomat {
-namespace {
-
-std::string Blanks(std::string_view text, std::size_t width) {
-  const std::size_t length = CharacterCount(text);
-  return std::string(length < width ? width - length : 0, ' ');
-}
-
-}  // namespace
 
 std::string_view TrimRightBlanks(std::string_view text) {
   return text.substr(0, text.find_last_not_of(' ') + 1);
@@ -36,11 +28,8 @@ std::size_t CountOf(char ch, std::string_view text) {
 }
 
 std::string PadLeft(std::string_view text, std::size_t width) {
-  return Blanks(text, width).append(text);
-}
-
-std::string PadRight(std::string_view text, std::size_t width) {
-  return std::string(text).append(Blanks(text, width));
+  const std::size_t length = CharacterCount(text);
+  return std::string(length < width ? width - length : 0, ' ').append(text);
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {

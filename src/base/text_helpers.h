@@ -26,9 +26,8 @@ inline constexpr std::string_view kPlatformLineBreak = "\n";
 /// How often the byte `ch` occurs in `text`.
 [[nodiscard]] std::size_t CountOf(char ch, std::string_view text);
 
-/// `text` with blanks put before (after) it until it has `width` characters.
+/// `text` with blanks put before it until it has `width` characters.
 [[nodiscard]] std::string PadLeft(std::string_view text, std::size_t width);
-[[nodiscard]] std::string PadRight(std::string_view text, std::size_t width);
 
 /// `text` with every `from` replaced by `to`, left to right, without overlap. `from` is not empty.
 [[nodiscard]] std::string ReplaceAll(std::string_view text, std::string_view from,

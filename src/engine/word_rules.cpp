@@ -69,10 +69,6 @@ std::string_view TrimTrailingChars(std::string_view text, std::string_view set) 
   return text.substr(0, text.find_last_not_of(set) + 1);
 }
 
-void RemoveSuffix(std::string& text, std::string_view suffix) {
-  if (text.ends_with(suffix)) text.resize(text.size() - suffix.size());
-}
-
 bool IsVowel(std::string_view ch, bool lowerOnly) {
   return !ch.empty() && IsVowelCodePoint(CharacterAt(ch, 0).codePoint, lowerOnly);
 }

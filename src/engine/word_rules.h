@@ -12,9 +12,6 @@ namespace quillomat {
 /// `text` without the trailing characters that occur in `set` (ASCII).
 [[nodiscard]] std::string_view TrimTrailingChars(std::string_view text, std::string_view set);
 
-/// Removes `suffix` from the end of `text` once, when it stands there.
-void RemoveSuffix(std::string& text, std::string_view suffix);
-
 /// Looks at the first character of `ch`. With `lowerOnly` only lower-case vowels count. Y is no
 /// vowel.
 [[nodiscard]] bool IsVowel(std::string_view ch, bool lowerOnly);

@@ -118,7 +118,7 @@ int FlowLayout::PlaceAll(const QRect& place, bool onlyMeasure) const {
   QRect inside = place.marginsRemoved(margins);
   int y = inside.y();
   for (const Row& row : RowsOf(inside.width())) {
-    if (y > inside.y()) y += RowGap();
+    if (y > inside.y()) y += Gap();
     y += PlaceRow(row, QRect(inside.x(), y, inside.width(), 0), onlyMeasure);
   }
   return y - place.y() + margins.bottom();

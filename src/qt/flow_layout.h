@@ -22,9 +22,6 @@ class FlowLayout final : public QLayout {
   FlowLayout& operator=(FlowLayout&&) = delete;
   ~FlowLayout() override;
 
-  /// Between the rows, in pixels; without it, as between the items of a row.
-  void SetRowSpacing(int pixels) { rowSpacing_ = pixels; }
-
   void addItem(QLayoutItem* item) override;
   [[nodiscard]] int count() const override { return static_cast<int>(items_.size()); }
   [[nodiscard]] QLayoutItem* itemAt(int index) const override;
@@ -46,15 +43,14 @@ class FlowLayout final : public QLayout {
     bool atEnd = false;
   };
 
+  /// Between items, and between rows.
   [[nodiscard]] int Gap() const;
-  [[nodiscard]] int RowGap() const { return rowSpacing_ < 0 ? Gap() : rowSpacing_; }
   [[nodiscard]] std::vector<Row> RowsOf(int width) const;
   /// Places a row, or only measures it; returns its height.
   [[nodiscard]] int PlaceRow(const Row& row, const QRect& place, bool onlyMeasure) const;
   [[nodiscard]] int PlaceAll(const QRect& place, bool onlyMeasure) const;
 
   std::vector<std::unique_ptr<QLayoutItem>> items_;
-  int rowSpacing_ = -1;
 };
 
 }  // namespace quillomat

@@ -67,10 +67,6 @@ void Mnemonics::ShareLetter(const QList<QString>& captions, QList<QString>& show
   }
 }
 
-QList<QString> WithMnemonics(const QList<QString>& captions) {
-  return Mnemonics().Assign(captions);
-}
-
 QList<QString> Mnemonics::Assign(const QList<QString>& captions) {
   const bool sameWindow = captions.size() == captions_.size();
   const auto stays = [&](qsizetype i) { return sameWindow && captions[i] == captions_[i]; };

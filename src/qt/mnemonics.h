@@ -8,11 +8,6 @@
 
 namespace quillomat {
 
-/// The captions as the toolkit takes them, with "&" before the letter chosen. Earlier captions
-/// choose first; a letter at the start of a word is taken before one inside. A caption of which no
-/// letter is free gets none.
-[[nodiscard]] QList<QString> WithMnemonics(const QList<QString>& captions);
-
 /// A caption as the toolkit takes it, without a mnemonic.
 [[nodiscard]] QString WithoutMnemonic(QString caption);
 /// What a person reads in a caption that was made for the toolkit.
@@ -24,7 +19,10 @@ namespace quillomat {
 /// over.
 class Mnemonics {
  public:
-  /// As WithMnemonics, for the same captions in the same order time and again.
+  /// The captions as the toolkit takes them, with "&" before the letter chosen. Earlier captions
+  /// choose first; a letter at the start of a word is taken before one inside. A caption of which
+  /// no letter is free gets none. To be called for the same captions in the same order time and
+  /// again.
   [[nodiscard]] QList<QString> Assign(const QList<QString>& captions);
 
  private:

@@ -41,11 +41,6 @@ struct CountProgress {
   std::int64_t bytesInRun = 0;
 
   static constexpr std::int64_t kInstantBytes = 10'240;
-
-  /// 0 to 1; 0 where it is not known.
-  [[nodiscard]] double ShareOfFile() const;
-  /// By bytes if those are known, else by files.
-  [[nodiscard]] double ShareOfRun() const;
 };
 
 /// A text that is read now.

@@ -19,13 +19,14 @@ ItemKind KindOf(const std::string& path) {
 
 /// A path that names nothing would be cut short, or be the current folder, on its way to the
 /// system.
-void RefuseIfItNamesNothing(const std::string& path, FileAction action) {
+void RefuseIfItNamesNothing(const std::string& path) {
   if (!NamesNothing(path)) return;
-  throw ToRunTimeError(make_error_code(std::errc::no_such_file_or_directory), action, path);
+  throw ToRunTimeError(make_error_code(std::errc::no_such_file_or_directory),
+                       FileAction::kUseFolder, path);
 }
 
-void ThrowIfSet(const std::error_code& error, FileAction action, const std::string& path) {
-  if (error) throw ToRunTimeError(error, action, path);
+void ThrowIfSet(const std::error_code& error, const std::string& path) {
+  if (error) throw ToRunTimeError(error, FileAction::kUseFolder, path);
 }
 
 void SortByName(std::vector<std::string>& names) {
@@ -57,15 +58,6 @@ std::optional<std::int64_t> FileLength(const std::string& path) {
   return bytes;
 }
 
-std::int64_t FileLengthOrThrow(const std::string& path) {
-  RefuseIfItNamesNothing(path, FileAction::kOpenToRead);
-  std::error_code error;
-  const std::int64_t bytes = LengthOfFile(path, error);
-  if (FolderExists(path)) error = make_error_code(std::errc::is_a_directory);
-  ThrowIfSet(error, FileAction::kOpenToRead, path);
-  return bytes;
-}
-
 bool IsSameFile(const std::string& left, const std::string& right) {
   if (NamesNothing(left) || NamesNothing(right)) return false;
   const std::optional<FileIdentity> one = IdentityOfItem(left);
@@ -78,28 +70,28 @@ std::optional<FileIdentity> IdentityOf(const std::string& path) {
 }
 
 FolderListing ListFolder(const std::string& path) {
-  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  RefuseIfItNamesNothing(path);
   std::error_code error;
   FolderListing listing = ItemsOfFolder(path, error);
-  ThrowIfSet(error, FileAction::kUseFolder, path);
+  ThrowIfSet(error, path);
   SortByName(listing.files);
   SortByName(listing.subfolders);
   return listing;
 }
 
 void CreateFolder(const std::string& path) {
-  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  RefuseIfItNamesNothing(path);
   std::error_code error;
   MakeFolder(path, error);
   if (FileExists(path)) error = make_error_code(std::errc::file_exists);
-  ThrowIfSet(error, FileAction::kUseFolder, path);
+  ThrowIfSet(error, path);
 }
 
 void SetCurrentFolder(const std::string& path) {
-  RefuseIfItNamesNothing(path, FileAction::kUseFolder);
+  RefuseIfItNamesNothing(path);
   std::error_code error;
   EnterFolder(path, error);
-  ThrowIfSet(error, FileAction::kUseFolder, path);
+  ThrowIfSet(error, path);
 }
 
 std::string RootFolder() {

@@ -21,9 +21,6 @@ namespace quillomat {
 
 /// In bytes; nothing when there is no such file, or it has no length (a folder, a device).
 [[nodiscard]] std::optional<std::int64_t> FileLength(const std::string& path);
-/// As FileLength, but throws the RunTimeError that tells why there is no length: 53 or 76 for a
-/// file that is missing, 70 or 75 for one that cannot be asked.
-[[nodiscard]] std::int64_t FileLengthOrThrow(const std::string& path);
 
 /// Whether both paths lead to one file; where one of them leads nowhere, whether they are spelled
 /// the same (SamePath).

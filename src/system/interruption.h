@@ -7,8 +7,8 @@
 // started, as under nohup, stays ignored. A kill that cannot be caught leaves an unfinished file,
 // but never under the name that was asked for.
 //
-// Who would rather finish something first asks for First::kIsNoted and looks at WasInterrupted from
-// time to time; the second interruption ends the program at once all the same.
+// Who would rather finish something first asks for First::kIsNoted and looks at InterruptionStatus
+// from time to time; the second interruption ends the program at once all the same.
 #pragma once
 
 namespace quillomat {
@@ -35,8 +35,5 @@ class Interruption {
 /// The exit status that the interruption asks for; 0 as long as there was none. Costs next to
 /// nothing.
 [[nodiscard]] int InterruptionStatus() noexcept;
-[[nodiscard]] inline bool WasInterrupted() noexcept {
-  return InterruptionStatus() != 0;
-}
 
 }  // namespace quillomat

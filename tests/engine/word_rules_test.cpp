@@ -31,26 +31,6 @@ TEST(TrimTrailingChars, LeavesCharactersThatAreNotInTheSet) {
   EXPECT_EQ(TrimTrailingChars("café", "-'.,:()"), "café");
 }
 
-TEST(RemoveSuffix, TakesItOffOnce) {
-  std::string text = "anana";
-  RemoveSuffix(text, "na");
-  EXPECT_EQ(text, "ana");
-}
-
-TEST(RemoveSuffix, LeavesATextThatEndsOtherwise) {
-  std::string text = "anana";
-  RemoveSuffix(text, "nan");
-  EXPECT_EQ(text, "anana");
-  RemoveSuffix(text, "xanana");
-  EXPECT_EQ(text, "anana");
-}
-
-TEST(RemoveSuffix, MayLeaveNothing) {
-  std::string text = "na";
-  RemoveSuffix(text, "na");
-  EXPECT_EQ(text, "");
-}
-
 TEST(IsVowel, ExactlyTheSixtyVowelsAre) {
   int vowels = 0;
   for (char32_t codePoint = 1; codePoint < 0x500; ++codePoint) {

@@ -6,12 +6,12 @@ namespace quillomat {
 namespace {
 
 TEST(Mnemonics, EachLetterIsGivenOnceAndTheStartOfAWordComesFirst) {
-  EXPECT_EQ(WithMnemonics({"Save state", "Select folder", "Stop", "x", "X"}),
+  EXPECT_EQ(Mnemonics().Assign({"Save state", "Select folder", "Stop", "x", "X"}),
             (QList<QString>{"&Save state", "Select &folder", "S&top", "&x", "X"}));
 }
 
 TEST(Mnemonics, SignsOfTheCaptionStandAsTheyAre) {
-  EXPECT_EQ(WithMnemonics({"R&D", "1 & 2"}), (QList<QString>{"&R&&D", "1 && 2"}));
+  EXPECT_EQ(Mnemonics().Assign({"R&D", "1 & 2"}), (QList<QString>{"&R&&D", "1 && 2"}));
   EXPECT_EQ(WithoutMnemonic("R&D"), "R&&D");
 }
 
@@ -36,7 +36,7 @@ TEST(Mnemonics, ReadableCaptionHasNoMarks) {
 }
 
 TEST(Mnemonics, OnlyLettersOfEveryKeyboardAreGiven) {
-  EXPECT_EQ(WithMnemonics({QString::fromUtf8("\u00D6ffnen")}),
+  EXPECT_EQ(Mnemonics().Assign({QString::fromUtf8("\u00D6ffnen")}),
             (QList<QString>{QString::fromUtf8("\u00D6&ffnen")}));
 }
 

@@ -39,15 +39,10 @@ TEST_F(FileSystem, WhatIsNotThereDoesNotExist) {
   }
 }
 
-TEST_F(FileSystem, LengthOrTheReasonWhyThereIsNone) {
+TEST_F(FileSystem, LengthOfAFolderIsNone) {
   const std::string file = folder_.Write("a.txt", "12345");
   EXPECT_EQ(FileLength(file), 5);
   EXPECT_EQ(FileLength(folder_.Path()), std::nullopt);
-  EXPECT_EQ(FileLengthOrThrow(file), 5);
-  EXPECT_EQ(ErrorNumberOf([&] { (void)FileLengthOrThrow(folder_ / "b"); }), 53);
-  EXPECT_EQ(ErrorNumberOf([&] { (void)FileLengthOrThrow(folder_ / "no/b"); }), 76);
-  EXPECT_EQ(ErrorNumberOf([&] { (void)FileLengthOrThrow(folder_.Path()); }), 75);
-  EXPECT_EQ(ErrorNumberOf([&] { (void)FileLengthOrThrow(""); }), 53);
 }
 
 TEST_F(FileSystem, FilesThatAreNotThereAreComparedByName) {
