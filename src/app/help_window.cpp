@@ -4,11 +4,6 @@
 #include "text/help_text.h"
 
 namespace quillomat {
-namespace {
-
-constexpr int kF1 = 112;
-
-}  // namespace
 
 void HelpWindow::Connect() {
   frmHelp_.txbHelpScreen.SetText(HelpText());
@@ -16,7 +11,7 @@ void HelpWindow::Connect() {
   frmHelp_.CloseRequested.Connect([this] { Close(); });
   frmMain_.cmdHelp.Click.Connect([this] { ShowHelp(); });
   const auto onKey = [this](int keyCode) {
-    if (keyCode == kF1) ShowHelp();
+    if (keyCode == kF1Key) ShowHelp();
   };
   for (CommandButton* command :
        {&frmMain_.cmdHelp, &frmMain_.cmdFile[0], &frmMain_.cmdFile[1], &frmMain_.cmdCountWords}) {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/text_helpers.h"
-#include "text/caption_table.h"
 
 namespace quillomat {
 

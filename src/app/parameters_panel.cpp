@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "app/count/panel_choices.h"
 #include "app/list/set_the_focus.h"
 #include "app/setting_values.h"
 #include "base/text_helpers.h"
@@ -155,7 +154,7 @@ void ParametersPanel::ConnectCommands() {
   });
   frmMain_.cmdSetParameters.Click.Connect([this] { Open(); });
   frmParams_.cmdClose.Click.Connect([this] { Close(); });
-  frmParams_.CloseRequested.Connect([this] { Close(); });
+  frmParams_.CloseRequested.Connect([this] { frmParams_.cmdClose.PerformClick(); });
 }
 
 void ParametersPanel::Open() {
@@ -172,17 +171,9 @@ void ParametersPanel::SetAllCheckBoxes(CheckState state) const {
   for (CheckBox* box : BoxesInClearingOrder(frmParams_)) box->SetValue(state);
 }
 
-void ParametersPanel::SetDefaultValues() {
-  SetDefaults(true);
-  inForce_.settings.SetCommentMarkers(kCPreset, ReadScanChoices(frmParams_));
-  SetDefaults(false);
-}
-
-void ParametersPanel::SetDefaults(bool checkBoxes) const {
+void ParametersPanel::SetDefaultValues() const {
   for (const Setting& setting : AllSettings()) {
-    if (!IsParameter(setting)) continue;
-    Control& control = ControlOf(setting, frmMain_, frmParams_);
-    if ((control.Kind() == ControlKind::kCheckBox) == checkBoxes) SetToDefault(setting, control);
+    if (IsParameter(setting)) SetToDefault(setting, ControlOf(setting, frmMain_, frmParams_));
   }
 }
 

@@ -17,7 +17,6 @@ class ParametersPanel {
         messages_(user.messages),
         run_(facts.run),
         words_(facts.words),
-        inForce_(facts.inForce),
         flags_(facts.flags),
         wordLists_(wordLists) {}
 
@@ -26,7 +25,7 @@ class ParametersPanel {
   void Connect(std::function<void()> initialize);
 
   /// Puts every parameter to its default.
-  void SetDefaultValues();
+  void SetDefaultValues() const;
 
   /// From now on the letters of all languages make words. It is not asked whether the text may be
   /// read anew: whoever calls it counts.
@@ -44,8 +43,6 @@ class ParametersPanel {
   [[nodiscard]] bool MayReadAnew();
   [[nodiscard]] bool ConfirmReRead();
   void SetAllCheckBoxes(CheckState state) const;
-  /// Of the check boxes, or of all parameters that are none.
-  void SetDefaults(bool checkBoxes) const;
   void FocusClose();
   void Open();
   void Close();
@@ -55,7 +52,6 @@ class ParametersPanel {
   const Messages& messages_;
   const RunState& run_;
   CurrentWords& words_;
-  InForce& inForce_;
   WindowFlags& flags_;
   WordListReader& wordLists_;
   std::function<void()> initialize_;

@@ -90,8 +90,7 @@ bool Program::Start(const StartOptions& options) {
     parts_.text.SetLanguage(ReadLanguage(desktop_.UserKeys()));
   }
   if (!parts_.text.LoadProgramText(kProgramTextFile, desktop_)) return false;
-  SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
-  parts_.controls.ShowCountCaption();
+  ShowCaptions();
   parts_.controls.EnableControls(true);
   FillLists();
   ConcealNumWords(frmMain, true);
@@ -189,10 +188,16 @@ void Program::RestoreUserSettings() {
 
 void Program::ToggleLanguage() {
   parts_.text.ToggleLanguage(desktop_.UserKeys());
-  SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
-  parts_.controls.ShowCountCaption();
+  ShowCaptions();
   parts_.notices.Update();
   parts_.tryIt.Update();
+}
+
+/// What says "Stop" while something runs follows that, whatever the language.
+void Program::ShowCaptions() {
+  SetCaptions(parts_.text, frmMain, frmParams, frmHelp, frmExport);
+  parts_.controls.ShowCountCaption();
+  parts_.exports.ShowCommandCaption();
 }
 
 void Program::Quit() {

@@ -116,6 +116,7 @@ class Program {
   void FillLists();
   void RestoreUserSettings();
   void ToggleLanguage();
+  void ShowCaptions();
   void End();
 
   Desktop& desktop_;

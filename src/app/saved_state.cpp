@@ -7,7 +7,6 @@
 
 #include "app/count/named_text.h"
 #include "app/count/path_boxes.h"
-#include "app/count/window_state.h"
 #include "app/list/set_the_focus.h"
 #include "app/state_file.h"
 #include "base/run_time_error.h"
@@ -100,7 +99,7 @@ RestoreResult SavedState::RestoreSavedState(const std::string& path) {
 }
 
 RestoreResult SavedState::TakeControlsAsTheyAre() {
-  const bool listStood = count_.words.CanBeListed();
+  const bool listStood = count_.words.CanBeListed() && count_.output.HoldsList();
   TakeTypedLists();
   RestoreResult result =
       AnyComboWithoutItem() ? RestoreResult::kInvalidIndex : RestoreResult::kRestored;
@@ -188,6 +187,7 @@ void SavedState::OnLoadFromFile() {
     const PromptsInhibited inhibited(flags_);
     result = RestoreSavedState(*path);
   }
+  frmParams_.ForgetAfterClick();  // the box that was left for this click holds what was loaded
   if (result < RestoreResult::kInvalidIndex) {
     frmParams_.lblState.SetCaption("State loaded from");
     return;

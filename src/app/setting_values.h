@@ -2,8 +2,6 @@
 // default.
 #pragma once
 
-#include <array>
-#include <span>
 #include <vector>
 
 #include "app/settings_table.h"

@@ -5,7 +5,6 @@
 
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
-#include "base/text_helpers.h"
 #include "system/file_system.h"
 #include "text/caption_table.h"
 
@@ -77,10 +76,7 @@ void SourceRows::ConnectFiles() {
   });
   frmMain_.txbFile[1].LostFocus.Connect([this] { paths_.CompletePathIn(frmMain_.txbFile[1]); });
   frmMain_.cmdFile[0].Click.Connect([this] { ChooseInputFile(); });
-  frmMain_.cmdFile[1].Click.Connect([this] {
-    paths_.ChooseOutputFile(frmMain_.txbFile[1]);
-    SetTheFocus(frmMain_);
-  });
+  frmMain_.cmdFile[1].Click.Connect([this] { paths_.ChooseOutputFile(frmMain_); });
   frmMain_.cmdClearFile[0].Click.Connect([this] {
     frmMain_.txbFile[0].SetText("");
     SetTheFocus(frmMain_);
@@ -131,8 +127,7 @@ void SourceRows::ConnectFolder() {
     const auto leave = [this, list] { LeaveExtensions(list); };
     frmMain_.txbFileExtensions[i].LostFocus.Connect(leave);
     frmMain_.txbFileExtensions[i].KeyDown.Connect([leave](int keyCode) {
-      constexpr int kEnter = 13;
-      if (keyCode == kEnter) leave();
+      if (keyCode == kEnterKey) leave();
     });
   }
 }

@@ -10,7 +10,6 @@
 #include "app/program.h"
 #include "app/state_check.h"
 #include "base/byte_source.h"
-#include "base/letter_case.h"
 #include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"

@@ -26,9 +26,6 @@
 namespace quillomat {
 namespace {
 
-constexpr int kF1Code = 112;
-constexpr int kEnterCode = 13;
-
 bool IsEnter(const QKeyEvent& key) {
   return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
@@ -273,9 +270,10 @@ void FormWindow::TakeFocus() {
 /// True when the key is used up.
 bool FormWindow::OnKey(Control& control, const QKeyEvent& key) {
   if (key.key() == Qt::Key_F1 && control.Kind() == ControlKind::kCommandButton) {
-    control.KeyDown.Fire(kF1Code);
+    control.KeyDown.Fire(kF1Key);
+    return control.KeyDown.IsHeard();  // else the window's own help
   } else if (IsEnter(key)) {
-    control.KeyDown.Fire(kEnterCode);
+    control.KeyDown.Fire(kEnterKey);
     const bool link = control.Kind() == ControlKind::kLabel;
     if (link) control.As<Label>()->PerformClick();
     return link;

@@ -60,7 +60,6 @@ void Windows::MakePanel() {
   ParamsForm& frmParams = program_.frmParams;
   panel_->onEscape = [&frmParams] { frmParams.cmdClose.PerformClick(); };
   panel_->onHelp = main_.onHelp;
-  frmParams.CloseRequested.Connect([&frmParams] { frmParams.cmdClose.PerformClick(); });
 }
 
 void Windows::MakeHelp() {

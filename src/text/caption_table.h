@@ -5,7 +5,8 @@
 //
 // Not in the tables either, because other things than the language decide on them:
 // - the caption of the main window: the program's title and version;
-// - cmdCountWords: text 21 while no count runs, "Stop" in every language while one does;
+// - cmdCountWords and the cmdExport of frmExport: text 21 and text 738 while nothing runs that they
+//   stop, "Stop" in every language while something does;
 // - labels that show results.
 #pragma once
 
@@ -174,7 +175,6 @@ inline constexpr auto kExportFormCaptions = std::to_array<ControlCaption>({
     {"lblFirst", 735},
     {"chkFiltered", 736},
     {"fraColumns", 737},
-    {"cmdExport", 738},
     {"cmdClose", 739},
     {"chkColumn(0)", 630},
     {"chkColumn(1)", 631},

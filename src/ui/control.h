@@ -29,6 +29,10 @@ enum class ControlKind {
   kFrame
 };
 
+// Virtual key codes, of the keys that matter to controls.
+inline constexpr int kF1Key = 112;
+inline constexpr int kEnterKey = 13;
+
 /// A control's name in its window: "cmdQuit", or with an index for an element of a control array.
 struct ControlName {
   ControlName(const char* plainName) : base(plainName) {}
@@ -82,7 +86,7 @@ class Control {
   /// Fired by Form::SetFocus.
   Event<> GotFocus;
   Event<> LostFocus;
-  /// A key went down here; `keyCode` is a virtual key code (112 is F1, 13 is Enter).
+  /// A key went down here, told by its virtual key code.
   Event<int> KeyDown;
 
  protected:

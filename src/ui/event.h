@@ -27,6 +27,9 @@ class Event {
   /// `handler` must not be empty.
   void Connect(Handler handler) { handlers_.push_back(std::move(handler)); }
 
+  /// Whether anybody is told.
+  [[nodiscard]] bool IsHeard() const { return !handlers_.empty(); }
+
   /// Calls the handlers. What one of them throws goes to the caller, and the rest are not called.
   void Fire(Args... args) const {
     auto handler = handlers_.begin();

@@ -59,6 +59,8 @@ class Form {
   /// Does `action` now or, during a click, when that has been carried out. For a question that
   /// comes up when a box is left: the click that leaves it may be the answer.
   void AfterClick(std::function<void()> action);
+  /// What was put off comes to nothing: the click has put something else into the boxes.
+  void ForgetAfterClick() { afterClick_.clear(); }
 
   /// Caption, visibility or state has changed.
   Event<> Changed;

@@ -118,7 +118,8 @@ TEST_F(DeliveredTextsTest, HelpWindow) {
 TEST_F(DeliveredTextsTest, ExportWindow) {
   const ExportForm form;
   ExpectCaptionsOf(form, kExportFormCaptions);
-  EXPECT_THAT(WithoutEntry(form, kExportFormCaptions), testing::IsEmpty());
+  EXPECT_THAT(WithoutEntry(form, kExportFormCaptions), testing::ElementsAre("cmdExport"));
+  EXPECT_EQ(In(Language::kEnglish, kExportCommandText), form.cmdExport.Caption());
   EXPECT_EQ(In(Language::kEnglish, kExportFormCaption), form.Caption());
   EXPECT_NE(In(Language::kGerman, kExportFormCaption), form.Caption());
 }

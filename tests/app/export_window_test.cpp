@@ -158,6 +158,9 @@ TEST_F(ExportWindowTest, StopLeavesTheFileAsItWas) {
   desktop.AtPump(desktop.Pumps() + 1, [&] {
     couldBeUsed = Main().cmdSetParameters.Enabled() || Window().cmdClose.Enabled();
     EXPECT_EQ(Window().cmdExport.Caption(), "Stop");
+    Main().cmdLanguage.PerformClick();
+    EXPECT_EQ(Window().cmdExport.Caption(), "Stop") << "in every language";
+    Main().cmdLanguage.PerformClick();
     Window().cmdExport.PerformClick();
   });
   ExportTo(Target("list.xlsx"));
@@ -166,6 +169,9 @@ TEST_F(ExportWindowTest, StopLeavesTheFileAsItWas) {
   EXPECT_EQ(ContentsOf(Target("list.xlsx")), "old");
   EXPECT_TRUE(Main().cmdSetParameters.Enabled());
   EXPECT_FALSE(State().StopRequested());
+  EXPECT_EQ(Window().cmdExport.Caption(), "Export");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Window().cmdExport.Caption(), "Exportieren");
 }
 
 TEST_F(ExportWindowTest, FilesAreKnownOfAFolderWithCountOnlyWords) {

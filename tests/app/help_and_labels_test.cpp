@@ -11,8 +11,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr int kF1 = 112;
-
 class HelpAndLabels : public ProgramFixture {
  protected:
   HelpForm& Help() { return program.frmHelp; }
@@ -43,14 +41,23 @@ TEST_F(HelpAndLabels, F1OpensTheHelpWindowFromFourCommands) {
        {&Main().cmdHelp, &Main().cmdFile[0], &Main().cmdFile[1], &Main().cmdCountWords}) {
     SCOPED_TRACE(command->Name());
     Help().Hide();
-    command->KeyDown.Fire(kF1 + 1);
+    command->KeyDown.Fire(kF1Key + 1);
     EXPECT_FALSE(Help().Visible());
-    command->KeyDown.Fire(kF1);
+    command->KeyDown.Fire(kF1Key);
     EXPECT_TRUE(Help().Visible());
   }
   Help().SetState(WindowState::kMinimized);
-  Main().cmdCountWords.KeyDown.Fire(kF1);
+  Main().cmdCountWords.KeyDown.Fire(kF1Key);
   EXPECT_EQ(Help().State(), WindowState::kNormal);
+}
+
+TEST_F(HelpAndLabels, PanelThatIsClosedByItsFrameLeavesItsBoxes) {
+  Panel().Show();
+  Panel().SetFocus(Panel().txbStartComment[0]);
+  Panel().txbStartComment[0].EnterText(" # ");
+  Panel().CloseRequested.Fire();
+  EXPECT_FALSE(Panel().Visible());
+  EXPECT_EQ(Panel().txbStartComment[0].Text(), "#");
 }
 
 TEST_F(HelpAndLabels, HelpTextSaysWhatItMust) {
@@ -153,7 +160,7 @@ TEST_F(HelpAndLabels, HelpThatWasClosedWhileMinimizedComesBack) {
   Main().cmdHelp.PerformClick();
   Help().SetState(WindowState::kMinimized);
   Help().CloseRequested.Fire();
-  Main().cmdCountWords.KeyDown.Fire(kF1);
+  Main().cmdCountWords.KeyDown.Fire(kF1Key);
   EXPECT_TRUE(Help().Visible());
   EXPECT_EQ(Help().State(), WindowState::kNormal);
 }

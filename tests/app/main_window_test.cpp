@@ -128,6 +128,22 @@ TEST_F(MainWindowTest, BareNameBecomesAPathInTheFolderUsedLast) {
   EXPECT_TRUE(std::ifstream(folder / "other.txt").good());
 }
 
+TEST_F(MainWindowTest, BlanksRoundAWholePathAreDroppedToo) {
+  desktop.SetDocumentsFolder(documents.Path());
+  const std::string words = folder.Write("w.txt", "cat\n");
+  TextBox& txbWordsFile = Panel().txbWordsFile[0];
+  Panel().SetFocus(txbWordsFile);
+  txbWordsFile.EnterText(" " + words + " ");
+  Panel().SetFocus(Panel().cmdClose);
+  EXPECT_EQ(txbWordsFile.Text(), words);
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded"));
+  Main().SetFocus(Main().txbFolder);
+  Main().txbFolder.EnterText(" " + folder.Path());
+  Main().SetFocus(Main().txbFile[0]);
+  EXPECT_EQ(Main().txbFolder.Text(), folder.Path());
+  EXPECT_THAT(desktop.Titles(), ElementsAre("Words loaded"));
+}
+
 TEST_F(MainWindowTest, WhereNobodyIsAskedForPathsABareNameStays) {
   Main().SetFocus(Main().txbFile[1]);
   Main().txbFile[1].EnterText("list.txt");

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "app/state_lines.h"
+#include "support/colliding_words.h"
 #include "support/program_fixture.h"
 #include "support/user_home.h"
 
@@ -69,6 +70,65 @@ TEST_F(Quitting, WhileAWordsFileIsReadTellsNothingMore) {
   Panel().cmdSelectWordsFile[0].PerformClick();
   EXPECT_EQ(ends, 1);
   EXPECT_THAT(desktop.Titles(), testing::ElementsAre("Specify file containing words to ignore"));
+}
+
+TEST_F(Quitting, AtTheQuestionAboutManyFilesCountsNone) {
+  const std::string texts = folder.Make("t");
+  static_cast<void>(folder.Write("t/a.txt", "cat"));
+  static_cast<void>(folder.Write("t/b.txt", "dog"));
+  desktop.AtMessage("Multiple files/folders", [&] { Main().CloseRequested.Fire(); });
+  desktop.Answer(MessageAnswer::kOk);
+  CountFolder(texts);
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(desktop.Titles(), testing::ElementsAre("Multiple files/folders"));
+  EXPECT_EQ(StoredWords(), "");
+}
+
+TEST_F(Quitting, AtTheQuestionAboutAStoppedCountListsNothing) {
+  EveryYieldPumps();
+  desktop.AtPump(desktop.Pumps() + 3, [&] { Main().cmdCountWords.PerformClick(); });
+  desktop.AtMessage("Counting interrupted", [&] { Main().CloseRequested.Fire(); });
+  desktop.Answer(MessageAnswer::kYes);
+  CountClipboard("cat dog emu fox");
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(Output(), testing::EndsWith("words found."));
+}
+
+TEST_F(Quitting, WhileAnInterruptedListIsRelistedTellsNothingMore) {
+  EveryYieldPumps();
+  desktop.AtPump(desktop.Pumps() + 4, [&] { Main().cmdCountWords.PerformClick(); });
+  desktop.Answer(MessageAnswer::kYes);
+  CountClipboard("cat dog emu fox gnu hen");
+  desktop.ForgetQuestions();
+  desktop.AtPump(desktop.Pumps() + 1, [&] { Main().CloseRequested.Fire(); });
+  Main().cboWordOrder.PerformChoice(1);
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(desktop.Titles(), testing::IsEmpty());
+}
+
+TEST_F(Quitting, InAListThatFillsTheBoxTellsNothingMore) {
+  std::string text;
+  for (std::size_t i = 0; i < 9'000; ++i) text.append("wo").append(InLetters(i, 3)).append("rd ");
+  Main().cboDisplayFormat.SetListIndex(8);
+  CountClipboard(text);
+  ASSERT_TRUE(program.Output().IsFull());
+  desktop.ForgetQuestions();
+  EveryYieldPumps();
+  desktop.AtPump(desktop.Pumps() + 8'900, [&] { Main().CloseRequested.Fire(); });
+  Main().cboWordOrder.PerformChoice(1);
+  EXPECT_EQ(ends, 1);
+  EXPECT_THAT(desktop.Titles(), testing::IsEmpty());
+}
+
+TEST_F(Quitting, AtTheQuestionWhetherToRelistListsNothing) {
+  CountClipboard("cat");
+  Main().txbFile[1].SetText(folder / "list.txt");
+  Main().chkDisableOutputToFile.SetChecked(true);
+  desktop.AtMessage("Relist?", [&] { Main().CloseRequested.Fire(); });
+  desktop.Answer(MessageAnswer::kYes);
+  Main().chkDisableOutputToFile.PerformClick();
+  EXPECT_EQ(ends, 1);
+  EXPECT_FALSE(std::filesystem::exists(folder / "list.txt"));
 }
 
 TEST_F(Quitting, DuringACountStopsItFirstAndAsksNothing) {

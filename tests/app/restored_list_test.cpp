@@ -94,6 +94,48 @@ TEST_F(RestoredList, OtherTextInTheBoxStays) {
   EXPECT_EQ(Output(), "typed");
 }
 
+TEST_F(RestoredList, OtherTextStaysAfterACountToo) {
+  Save();
+  CountClipboard("dog dog cat");
+  Main().cmdClearOutput.PerformClick();
+  Main().txbOutput.EnterText("composed");
+  Load();
+  EXPECT_EQ(Output(), "composed");
+  CountClipboard("dog dog cat");
+  Main().txbOutput.EnterText(Output() + "with a remark");
+  const std::string remarked = Output();
+  Load();
+  EXPECT_EQ(Output(), remarked);
+}
+
+TEST_F(RestoredList, EmptyBoxStaysEmptyAfterACount) {
+  Save();
+  CountClipboard("dog dog cat");
+  Main().cmdClearOutput.PerformClick();
+  Load();
+  EXPECT_EQ(Output(), "");
+  EXPECT_FALSE(Main().lblNumberOfWords.Visible());
+}
+
+TEST_F(RestoredList, ListOfFilesStaysWhenTheWordsGo) {
+  const std::string texts = folder.Make("t");
+  static_cast<void>(folder.Write("t/a.txt", "dog"));
+  Save();
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\n"));
+  const std::string withWordsFile = folder / "other.qlm";
+  ASSERT_EQ(program.States().SaveState(withWordsFile), "");
+  program.Initialize();
+  CountFolder(texts);
+  Main().cmdListFiles.PerformClick();
+  const std::string files = Output();
+  EXPECT_THAT(files, HasSubstr("a.txt"));
+  Load();
+  EXPECT_EQ(Output(), files);
+  desktop.AnswerFile(withWordsFile);
+  Panel().cmdSaveLoadState[1].PerformClick();
+  EXPECT_EQ(Output(), files);
+}
+
 TEST_F(RestoredList, EmptiesTheFileSizeWithTheInputFile) {
   Save();
   Main().txbFile[0].SetText(folder.Write("a.txt", "dog"));

@@ -116,6 +116,28 @@ TEST_F(StateRestore, IndexesThatAreNoneOrOutOfRangeHaveTheirCodes) {
   }
 }
 
+TEST_F(StateRestore, LostWordsFileIsNotTalkedAboutWhenItsBoxIsLeftForTheLoading) {
+  for (const std::size_t i : {0U, 1U}) {
+    SCOPED_TRACE(i);
+    auto lines = initial_;
+    lines[42 + i] = "\"" + (folder / "lost.txt") + "\"";
+    Panel().SetFocus(Panel().txbWordsFile[i]);
+    LoadOnPanel(FileOf(lines));
+    EXPECT_THAT(desktop.Messages(), IsEmpty());
+    EXPECT_EQ(Panel().lblState.Caption(), "Error loading from");
+  }
+  EXPECT_EQ(Panel().txbWordsFile[1].Text(), folder / "lost.txt") << "the next count will tell";
+}
+
+TEST_F(StateRestore, BoxThatIsLeftForALoadingThatIsCancelledIsTakenAllTheSame) {
+  const std::string words = folder.Write("w.txt", "cat\n");
+  Panel().SetFocus(Panel().txbWordsFile[1]);
+  Panel().txbWordsFile[1].EnterText(words);
+  desktop.AnswerFile(std::nullopt);
+  Panel().cmdSaveLoadState[1].PerformClick();
+  EXPECT_EQ(OnlyMessage().title, "Words loaded");
+}
+
 TEST_F(StateRestore, GarbageInAnyLineNeverHarms) {
   const std::string binary("\x00\xFF\xFE\x01", 4);
   for (std::size_t line = 0; line < kStateValues; ++line) {

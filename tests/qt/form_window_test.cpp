@@ -208,6 +208,33 @@ TEST_F(FormWindowTest, HelpKeyLeavesTheFocusWhereItIs) {
   EXPECT_EQ(user->windows.Main().focusWidget(), &user->WidgetOf<QWidget>(frmMain.cmdCountWords));
 }
 
+TEST_F(FormWindowTest, HelpKeyShowsHelpOnceWhereverItIsPressed) {
+  int shown = 0;
+  user->program.frmHelp.Raised.Connect([&shown] { ++shown; });
+  int expected = 0;
+  for (const Control* place : {static_cast<const Control*>(&frmMain.cmdCountWords),
+                               static_cast<const Control*>(&frmMain.cmdQuit),
+                               static_cast<const Control*>(&frmMain.txbFile[0])}) {
+    SCOPED_TRACE(place->Name());
+    QTest::keyClick(&user->WidgetOf<QWidget>(*place), Qt::Key_F1);
+    user->Settle();
+    EXPECT_EQ(shown, ++expected);
+  }
+}
+
+TEST_F(FormWindowTest, ClosingThePanelByItsFrameIsClosingItOnce) {
+  user->Click(frmMain.cmdSetParameters);
+  int closed = 0;
+  user->program.frmParams.cmdClose.Click.Connect([&closed] { ++closed; });
+  int focused = 0;
+  frmMain.FocusMoved.Connect([&focused] { ++focused; });
+  user->windows.Panel().close();
+  EXPECT_EQ(closed, 1);
+  EXPECT_EQ(focused, 1);
+  user->Settle();
+  EXPECT_FALSE(user->windows.Panel().isVisible());
+}
+
 TEST_F(FormWindowTest, MinimizedPanelComesBackWithItsCommand) {
   user->Click(frmMain.cmdSetParameters);
   user->windows.Panel().showMinimized();

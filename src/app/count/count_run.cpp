@@ -186,11 +186,9 @@ bool CountRun::HandleInterruption() {
       count_.messages.Ask("The operation was stopped before all words were counted." + lineBreak +
                               "Do you wish to list the words which were found?",
                           "Counting interrupted");
-  if (answer == MessageAnswer::kYes) {
-    count_.words.listAfterStop = true;
-    return true;
-  }
-  return false;
+  if (answer != MessageAnswer::kYes || count_.run.Quitting()) return false;
+  count_.words.listAfterStop = true;
+  return true;
 }
 
 bool CountRun::FolderHadFiles() const {
@@ -265,7 +263,7 @@ void CountRun::OnListChoiceChanged() {
   if (!flags_.blnStartUpCompleted || count_.run.Busy() || lister_.IsChangingFormat()) return;
   if (lister_.CheckDisplayFormat() && count_.words.CanBeListed()) {
     ListAgain(ListTarget::kAll);
-    if (count_.words.listAfterStop) {
+    if (count_.words.listAfterStop && !count_.run.Quitting()) {
       count_.messages.Tell(count_.messages.Text(kInterruptedListText),
                            count_.messages.Text(kInterruptedListTitle));
     }
@@ -281,7 +279,7 @@ void CountRun::OnDisableOutputClick() {
   if (canRelist) {
     const MessageAnswer answer =
         count_.messages.Ask("Relist words (so as to write to file)?", "Relist?");
-    if (answer == MessageAnswer::kYes) ListAgain(ListTarget::kAll);
+    if (answer == MessageAnswer::kYes && !count_.run.Quitting()) ListAgain(ListTarget::kAll);
   }
   SetTheFocus(count_.frmMain);
 }

@@ -51,8 +51,9 @@ class CountRun {
   /// File output was switched on or off.
   void OnDisableOutputClick();
 
-  /// The settings were restored. A list that stood before is made anew as they want it, in the text
-  /// box alone; where its words are gone, or are not what the format needs, the box is emptied.
+  /// The settings were restored. A list that stood in the text box before is made anew as they want
+  /// it, there alone; where its words are gone, or are not what the format needs, the box is
+  /// emptied.
   void OnRestored(bool listStood);
 
   // For a face that counts with Counter itself, without the window.

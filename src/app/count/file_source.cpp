@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "app/count/progress_bar.h"
-#include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "base/text_helpers.h"
 #include "system/file_system.h"
@@ -79,10 +78,9 @@ bool FileSource::OutputIsInput() const {
   return WhyNotToWrite(count_.frmMain.txbFile[1].Text(), AsText()).has_value();
 }
 
-/// False when the user cancels. Only asked when an earlier scan ended early.
+/// False when the user cancels or quits. Only asked when an earlier scan ended early.
 bool FileSource::AskAboutLargeFile() {
-  TextBox& outputBox = count_.frmMain.txbFile[1];
-  const bool mayOverflow = count_.run.Scanning() && outputBox.Text().empty() &&
+  const bool mayOverflow = count_.run.Scanning() && count_.frmMain.txbFile[1].Text().empty() &&
                            FileLength(path_).value_or(0) > kLargeFileBytes;
   if (!mayOverflow) return true;
   const MessageAnswer answer = count_.messages.Ask(
@@ -92,10 +90,8 @@ bool FileSource::AskAboutLargeFile() {
           "in case the text window will not hold the result. "
           "Do you wish to specify an output file?",
       "Large input file", MessageButtons::kYesNoCancel);
-  if (answer == MessageAnswer::kYes) {
-    paths_.ChooseOutputFile(outputBox);
-    SetTheFocus(count_.frmMain);
-  }
+  if (count_.run.Quitting()) return false;
+  if (answer == MessageAnswer::kYes) paths_.ChooseOutputFile(count_.frmMain);
   return answer != MessageAnswer::kCancel;
 }
 

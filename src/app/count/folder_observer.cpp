@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "app/count/named_text.h"
-#include "app/list/set_the_focus.h"
 #include "base/text_helpers.h"
 #include "system/paths.h"
 
@@ -80,17 +79,16 @@ void FolderObserver::OnFileCounted(std::int32_t files, std::int32_t /*folders*/)
   Count().frmMain.txbOutput.SetText("Counting files . . . " + Count().messages.Grouped(files));
 }
 
-/// False when the user cancels the run.
+/// False when the user cancels the run, or quits.
 bool FolderObserver::GoOn(std::int32_t files, std::int32_t /*folders*/, std::string& outputPath) {
   if (!AskAboutManyFiles(Count().messages, files, outputPath)) return false;
+  if (Count().run.Quitting()) return false;
   if (files > 1 && outputPath.empty()) {
-    TextBox& outputBox = Count().frmMain.txbFile[1];
-    paths_.ChooseOutputFile(outputBox);
-    SetTheFocus(Count().frmMain);
-    outputPath = outputBox.Text();
+    paths_.ChooseOutputFile(Count().frmMain);
+    outputPath = Count().frmMain.txbFile[1].Text();
   }
   Count().run.ForgetStop();
-  return true;
+  return !Count().run.Quitting();
 }
 
 void FolderObserver::OnScanBegins() {

@@ -10,7 +10,6 @@
 #include "base/text_helpers.h"
 #include "sources/counter.h"
 #include "sources/folder_walk.h"
-#include "system/paths.h"
 
 namespace quillomat {
 namespace {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/list/set_the_focus.h"
 #include "base/text_helpers.h"
 #include "system/file_system.h"
 #include "system/paths.h"
@@ -46,7 +47,8 @@ std::optional<std::string> PathBoxes::ChooseFolderFor(const TextBox& box,
 }
 
 /// The list asks before it overwrites, so the dialog does not.
-void PathBoxes::ChooseOutputFile(TextBox& box) {
+void PathBoxes::ChooseOutputFile(MainForm& frmMain) {
+  TextBox& box = frmMain.txbFile[1];
   FileDialog dialog;
   dialog.mode = FileDialog::Mode::kSave;
   dialog.title = "Specify output file";
@@ -55,6 +57,7 @@ void PathBoxes::ChooseOutputFile(TextBox& box) {
   dialog.hideReadOnly = true;
   dialog.noReadOnlyReturn = true;
   if (const auto path = ChooseFileFor(box, dialog)) box.SetText(*path);
+  SetTheFocus(frmMain);
 }
 
 void PathBoxes::CompletePathIn(TextBox& box) {
@@ -62,7 +65,7 @@ void PathBoxes::CompletePathIn(TextBox& box) {
   const std::string path(TrimBlanks(box.Text()));
   if (usual.empty() || path.empty()) return;
   const std::string full = FullPathIn(usual, path);
-  if (full != path) box.SetText(full);
+  if (full != box.Text()) box.SetText(full);
   RememberFolderOf(full);
 }
 

@@ -6,6 +6,7 @@
 
 #include "ui/controls.h"
 #include "ui/desktop.h"
+#include "ui/main_form.h"
 
 namespace quillomat {
 
@@ -22,12 +23,12 @@ class PathBoxes {
   [[nodiscard]] std::optional<std::string> ChooseFolderFor(const TextBox& box,
                                                            const std::string& title);
 
-  /// Asks for the output file, and puts it into its box.
-  void ChooseOutputFile(TextBox& box);
+  /// Asks for the output file, puts it into its box, and the focus where the user needs it.
+  void ChooseOutputFile(MainForm& frmMain);
 
   /// A path that starts at no root becomes a full one, in the folder used last, else in the user's
-  /// documents: the program's current folder means nothing to the user. To be called when the box
-  /// is left.
+  /// documents: the program's current folder means nothing to the user. Blanks round it are
+  /// dropped. To be called when the box is left.
   void CompletePathIn(TextBox& box);
 
   /// The user has chosen or named this file or folder: the next dialog opens in the folder where it

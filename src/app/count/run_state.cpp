@@ -16,6 +16,7 @@ void RunState::RequestStop() {
 }
 
 void RunState::ForgetStop() {
+  if (quitting_) return;  // that wish stands
   stopRequested_ = false;
   if (phase_ == RunPhase::kStopping) EnterPhase(stopped_);
 }

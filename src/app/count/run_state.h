@@ -30,6 +30,7 @@ class RunState final : public ScanYield {
   /// on, until it has ended.
   void RequestStop();
   /// The wish was met, or comes to nothing: the run goes on in the phase that was to be stopped.
+  /// The wish to quit is never forgotten.
   void ForgetStop();
 
   /// The user wants to quit: at once, or as soon as the run has ended.

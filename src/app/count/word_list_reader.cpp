@@ -9,10 +9,8 @@
 #include "app/count/line_ending_warning.h"
 #include "app/count/panel_choices.h"
 #include "app/count/path_boxes.h"
-#include "app/count/window_state.h"
 #include "app/count/word_echo.h"
 #include "app/list/summary.h"
-#include "base/letter_case.h"
 #include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
@@ -250,8 +248,9 @@ void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
   messages_.Warn(std::move(text), "Words loaded");
 }
 
-/// False. While a state is restored the panel says that it could not be loaded as a whole, and the
-/// box keeps the path: the next count will tell.
+/// False. While a state is restored the panel says that it could not be loaded as a whole. The box
+/// of count-only words keeps the path then, so the next count will tell; words to ignore are the
+/// default ones from then on.
 bool WordListReader::TellNotFound(WordListKind kind) {
   ForgetWordsOfFile(kind);
   if (flags_.blnStartUpCompleted && !flags_.blnInhibitPrompt) {
@@ -316,7 +315,7 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
                           "specifying words to be ignored will have no effect." + lineBreak +
                           "Do you still wish to specify words to be ignored?",
                       "Proceed?");
-    if (answer != MessageAnswer::kYes) return;
+    if (answer != MessageAnswer::kYes || run_.Quitting()) return;
   }
   FileDialog dialog;
   dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"

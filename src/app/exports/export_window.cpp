@@ -296,10 +296,14 @@ void ExportWindow::Write(const ExportWish& wish) {
   run_.BecameIdle.Fire();
 }
 
+void ExportWindow::ShowCommandCaption() {
+  frmExport_.cmdExport.SetCaption(running_ ? std::string(kStopCaption)
+                                           : messages_.Text(kExportCommandText));
+}
+
 void ExportWindow::ShowRunning(bool running) {
   running_ = running;
-  frmExport_.cmdExport.SetCaption(running ? std::string(kStopCaption)
-                                          : messages_.Text(kExportCommandText));
+  ShowCommandCaption();
   frmExport_.cmdClose.SetEnabled(!running);
   frmExport_.SetFocus(frmExport_.cmdExport);
 }

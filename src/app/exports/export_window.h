@@ -44,6 +44,9 @@ class ExportWindow {
   /// Shows the window for the list that stands; without one the user is told.
   void Open();
 
+  /// After a change of the language.
+  void ShowCommandCaption();
+
   void SetFilter(FilteredPlaces filter) { filter_ = std::move(filter); }
   /// A filter was set, or is gone.
   void OnFilterChange();

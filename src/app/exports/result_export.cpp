@@ -1,6 +1,7 @@
 #include "app/exports/result_export.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "app/setting_values.h"
 #include "app/settings_table.h"

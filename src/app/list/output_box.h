@@ -52,7 +52,13 @@ class OutputBox {
     return list_.cells.Of(line);
   }
   /// A list has been put into the box, which holds so much of it.
-  void SetList(ListPart part, ListCells cells) { list_ = {part, std::move(cells)}; }
+  void SetList(ListPart part, ListCells cells) { list_ = {part, std::move(cells), {}}; }
+  /// What stands in the box now is all that is said of the words.
+  void FinishList() { list_.text = frmMain_.txbOutput.Text(); }
+  /// Whether it stands there still, and nobody has written anything else.
+  [[nodiscard]] bool HoldsList() const {
+    return !IsEmpty() && list_.text == frmMain_.txbOutput.Text();
+  }
 
   /// Keeps the text that stands in the box now.
   void SaveOutputText() {
@@ -67,6 +73,7 @@ class OutputBox {
   struct ShownList {
     ListPart part;
     ListCells cells;
+    std::string text;
   };
 
   MainForm& frmMain_;

@@ -72,7 +72,7 @@ void WordLister::ListNoWords() {
       NoWordsMessage({words_.store.NumDifferentWords(), frmParams_.cboShortWordSize.ListIndex(),
                       frmParams_.cboThresholdFrequency.ListIndex(),
                       frmParams_.chkIgnoreInfrequentWords.IsChecked()}));
-  RemoveLastComma();
+  output_.FinishList();
 }
 
 void WordLister::ListInTextBox() {
@@ -80,9 +80,10 @@ void WordLister::ListInTextBox() {
   ListIntoTextBox();
   if (run_.StopRequested()) {
     output_.OutputToTxb(std::string(kCrLf).append("Listing stopped.").append(kCrLf));
-    return;
+  } else {
+    RemoveLastComma();
   }
-  RemoveLastComma();
+  output_.FinishList();
 }
 
 /// A list of words with commas between them does not end with one.
@@ -204,7 +205,7 @@ void WordLister::ListIntoTextBox() {
   CellSink cells(formatter, sink.WordsTaken());
   Walk(formatter, cells);
   output_.SetList({sink.WordsTaken(), words_.totals.NumIncludedWords}, cells.Take());
-  if (output_.IsFull()) ReportProblem(kTextBoxFull, "Insufficient memory");
+  if (output_.IsFull() && !run_.Quitting()) ReportProblem(kTextBoxFull, "Insufficient memory");
 }
 
 void WordLister::Walk(const LineFormatter& formatter, ListSink& sink) {

@@ -1,4 +1,4 @@
-// What the window says about its list in one quiet line: what the required boxes leave silent. One
+// What the window says about its list in one quiet line, without a box to click away. One
 // table says when which notice holds, the most important first; whoever has another thing to tell
 // adds a fact and a row.
 #pragma once

@@ -5,6 +5,7 @@
 
 #include "base/text_helpers.h"
 #include "text/caption_table.h"
+#include "text/filled_text.h"
 
 namespace quillomat {
 namespace {
@@ -49,7 +50,7 @@ std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& sig
       continue;
     }
     for (const GrowthPoint& point : *points) {
-      rows.push_back({ReplaceAll(name, "%1", GroupDigits(point.instances, signs.group)),
+      rows.push_back({Filled(name, {GroupDigits(point.instances, signs.group)}),
                       GroupDigits(point.differentWords, signs.group)});
     }
   }

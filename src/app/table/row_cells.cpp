@@ -6,6 +6,7 @@
 
 #include "base/text_helpers.h"
 #include "text/caption_table.h"
+#include "text/filled_text.h"
 
 namespace quillomat {
 namespace {
@@ -28,10 +29,8 @@ std::string Decimal(double number, int decimals, const NumberSigns& signs) {
 /// A numbered text with a number in place of "%1"; one text for 1, another for all else.
 std::string Counted(std::int64_t number, int textForOne, int textForMany, const ProgramText& text,
                     const NumberSigns& signs) {
-  std::string counted = text.GetText(number == 1 ? textForOne : textForMany);
-  const std::size_t place = counted.find("%1");
-  if (place != std::string::npos) counted.replace(place, 2, GroupDigits(number, signs.group));
-  return counted;
+  return Filled(text.GetText(number == 1 ? textForOne : textForMany),
+                {GroupDigits(number, signs.group)});
 }
 
 }  // namespace

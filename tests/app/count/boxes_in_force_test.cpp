@@ -217,7 +217,6 @@ TEST_F(BoxesInForce, ACancelledChoiceOfAFolderLeavesNoSummaryOfAListThatIsGone) 
 }
 
 TEST_F(BoxesInForce, OneEnterTellsOneFaultOnce) {
-  constexpr int kEnterKey = 13;
   TextBox& box = Main().txbFileExtensions[0];
   desktop.AtMessage("Invalid input", [&box] { box.LostFocus.Fire(); });  // the message takes focus
   box.SetText("t?t");

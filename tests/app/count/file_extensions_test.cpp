@@ -55,9 +55,8 @@ TEST_F(FileExtensionsTest, AnEmptyBoxHasNoEntries) {
 }
 
 TEST_F(FileExtensionsTest, TheEnterKeyLeavesTheBoxToo) {
-  constexpr int kEnter = 13;
   Main().txbFileExtensions[1].SetText("*.c;*.h");
-  Main().txbFileExtensions[1].KeyDown.Fire(kEnter);
+  Main().txbFileExtensions[1].KeyDown.Fire(kEnterKey);
   EXPECT_EQ(Box(1), "c h");
   EXPECT_FALSE(Scans("a.c"));
 }
