@@ -73,6 +73,7 @@ class Program {
   // What a face has done besides clicks and keys on the controls.
   [[nodiscard]] SourceRows& Sources() { return parts_.sources; }
   [[nodiscard]] CountRun& Count() { return parts_.countRun; }
+  [[nodiscard]] WordListReader& WordLists() { return parts_.wordLists; }
   [[nodiscard]] WordLister& Lister() { return parts_.lister; }
   [[nodiscard]] SavedState& States() { return parts_.savedState; }
   /// Where the user was last, which a face may keep from one run to the next.

@@ -31,6 +31,7 @@ namespace {
 // The keys of the views.
 constexpr QLatin1String kTextView("text");
 constexpr QLatin1String kTableView("table");
+constexpr QLatin1String kFilesView("files");
 
 /// The files and folders of this machine.
 std::vector<std::string> DroppedPaths(const QMimeData& data) {
@@ -60,6 +61,7 @@ MainWindowView::MainWindowView(Program& program)
       views_(new ResultTabs),
       table_(new TablePage(program)),
       statistics_(new StatisticsPage(program)),
+      files_(new FilesPage(program)),
       fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)) {
   setAcceptDrops(true);
   MakeRowsFlow(*this);
@@ -104,10 +106,12 @@ void MainWindowView::PlaceViews() {
               {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});
   views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText,
               {.copy = [this] { statistics_->Copy(); }});
+  views_->Add(files_, kFilesView, kFilesViewText, {.copy = [this] { files_->Copy(); }});
   // What stands below the views comes behind them on the keyboard's way, too.
   setTabOrder(&table_->View(), &statistics_->OrderBox());
   setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
-  setTabOrder(&statistics_->Table(), ui_->cmdCopyToClipboard);
+  setTabOrder(&statistics_->Table(), &files_->Table());
+  setTabOrder(&files_->Table(), ui_->cmdCopyToClipboard);
   setTabOrder(ui_->cmdCopyToClipboard, ui_->cmdExport);
   setTabOrder(ui_->cmdExport, ui_->cmdClearOutput);
   setTabOrder(ui_->cmdClearOutput, ui_->cmdClipboardViewer);
@@ -128,6 +132,10 @@ void MainWindowView::ConnectViews() {
   notices.SetTableShower([this] {
     views_->Show(kTableView);
     table_->setFocus(Qt::OtherFocusReason);
+  });
+  notices.SetSkippedShower([this] {
+    views_->Show(kFilesView);
+    files_->ShowSkipped();
   });
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
@@ -196,6 +204,7 @@ void MainWindowView::SetTexts(const ProgramText& text) {
   views_->SetTexts(text);
   table_->SetTexts(text);
   statistics_->SetTexts(text);
+  files_->SetTexts(text);
   fold_->SetTexts(text);
   fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
   noticeStrip_->SetDismissName(ToQt(text.GetText(kDismissNoticeText)));

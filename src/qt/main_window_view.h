@@ -9,6 +9,7 @@
 
 #include "app/program.h"
 #include "qt/accessible_names.h"
+#include "qt/files_page.h"
 #include "qt/find_bar.h"
 #include "qt/form_window.h"
 #include "qt/list_view.h"
@@ -40,6 +41,7 @@ class MainWindowView final : public FormWindow {
   [[nodiscard]] ResultTabs& Views() { return *views_; }
   [[nodiscard]] TablePage& Table() { return *table_; }
   [[nodiscard]] StatisticsPage& StatisticsView() { return *statistics_; }
+  [[nodiscard]] FilesPage& FilesView() { return *files_; }
 
   /// The texts that are the window's own, in the current language.
   void SetTexts(const ProgramText& text);
@@ -78,6 +80,7 @@ class MainWindowView final : public FormWindow {
   ResultTabs* views_;
   TablePage* table_;
   StatisticsPage* statistics_;
+  FilesPage* files_;
   SettingsFold* fold_;
   /// The settings were folded when they should have got their width.
   bool fitsWhenUnfolded_ = false;

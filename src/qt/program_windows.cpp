@@ -3,7 +3,11 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <string>
 
+#include "app/count/common_words.h"
 #include "qt/accessible_names.h"
 #include "qt/flow_row.h"
 #include "qt/path_completion.h"
@@ -57,9 +61,26 @@ void Windows::MakePanel() {
   for (QLineEdit* box : {ui.txbWordsFile_0, ui.txbWordsFile_1, ui.txbStateFile}) {
     new PathSuggestions(*box, PathKind::kFile);
   }
+  OfferCommonWords(*ui.cmdCommonWords);
   ParamsForm& frmParams = program_.frmParams;
   panel_->onEscape = [&frmParams] { frmParams.cmdClose.PerformClick(); };
   panel_->onHelp = main_.onHelp;
+}
+
+void Windows::OfferCommonWords(QPushButton& button) {
+  auto* menu = new QMenu(&button);
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu] {
+    menu->clear();
+    const std::string& inForce = program_.frmParams.txbWordsFile[0].Text();
+    for (const CommonWordsList& list : FindCommonWords()) {
+      QAction* language = menu->addAction(ToQt(program_.Text().GetText(list.languageText)));
+      language->setCheckable(true);
+      language->setChecked(list.path == inForce);
+      QObject::connect(language, &QAction::triggered, menu,
+                       [this, list] { program_.WordLists().ChooseCommonWords(list.path); });
+    }
+  });
+  button.setMenu(menu);
 }
 
 void Windows::MakeHelp() {

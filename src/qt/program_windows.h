@@ -1,6 +1,7 @@
 // The program's windows on the screen, and what holds them together.
 #pragma once
 
+#include <QPushButton>
 #include <QTranslator>
 #include <memory>
 
@@ -29,6 +30,7 @@ class Windows {
 
  private:
   void MakePanel();
+  void OfferCommonWords(QPushButton& button);
   void MakeHelp();
   void MakeExport();
   void LeaveOthersWhenActivated(QtDesktop& desktop);

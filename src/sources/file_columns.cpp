@@ -29,19 +29,18 @@ std::string EncodingOf(const FileReport& report) {
   const std::int64_t notUtf8 = report.uncounted.linesNotUtf8;
   if (notUtf8 > 0) {
     const bool whole = report.lines && notUtf8 >= report.lines->Lines();
-    return whole ? "Windows-1252" : "UTF-8 or Windows-1252";
+    return whole ? "Windows-1252" : "UTF-8, Windows-1252";
   }
   return report.lines && report.lines->ascii ? "ASCII" : "UTF-8";
 }
 
-std::string LineEndsOf(const LineEndFigures& lines) {
-  const bool dos = lines.crLf > 0;
-  const bool unixLike = lines.lineFeeds > 0;
-  const bool macintosh = lines.returns > 0;
-  if (int{dos} + int{unixLike} + int{macintosh} > 1) return "mixed";
-  if (dos) return "DOS";
-  if (unixLike) return "Unix";
-  return macintosh ? "Macintosh" : "none";
+/// In the order of LineEndKind.
+constexpr std::array<std::string_view, 5> kLineEndNames = {"none", "DOS", "Unix", "Macintosh",
+                                                           "mixed"};
+
+FileCell LineEndsCell(const FileReport& report) {
+  if (!report.lines) return {};
+  return std::string(kLineEndNames.at(static_cast<std::size_t>(LineEndKindOf(*report.lines))));
 }
 
 std::string WithReason(std::string what, const std::optional<RunTimeError>& error) {
@@ -84,7 +83,7 @@ FileCell TextCellOf(const FileReport& report, FileColumn column) {
     case FileColumn::kEncoding:
       return EncodingOf(report);
     case FileColumn::kLineEnds:
-      return report.lines ? FileCell(LineEndsOf(*report.lines)) : FileCell();
+      return LineEndsCell(report);
     case FileColumn::kLines:
       return report.lines ? FileCell(report.lines->Lines()) : FileCell();
     case FileColumn::kWords:
@@ -99,6 +98,16 @@ FileCell TextCellOf(const FileReport& report, FileColumn column) {
 }
 
 }  // namespace
+
+LineEndKind LineEndKindOf(const LineEndFigures& lines) {
+  const bool dos = lines.crLf > 0;
+  const bool unixLike = lines.lineFeeds > 0;
+  const bool macintosh = lines.returns > 0;
+  if (int{dos} + int{unixLike} + int{macintosh} > 1) return LineEndKind::kMixed;
+  if (dos) return LineEndKind::kDos;
+  if (unixLike) return LineEndKind::kUnix;
+  return macintosh ? LineEndKind::kMacintosh : LineEndKind::kNone;
+}
 
 bool IsReadInPart(const FileReport& report) {
   return report.refusal == Refusal::kNone && report.bytes && report.bytesRead < *report.bytes;

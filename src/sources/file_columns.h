@@ -38,6 +38,10 @@ using FileCell = std::variant<std::monostate, std::int64_t, std::string>;
 
 [[nodiscard]] FileCell CellOf(const FileReport& report, FileColumn column);
 
+/// How the lines of a text end.
+enum class LineEndKind : std::uint8_t { kNone, kDos, kUnix, kMacintosh, kMixed };
+[[nodiscard]] LineEndKind LineEndKindOf(const LineEndFigures& lines);
+
 /// Whether a count was stopped in the middle of the file.
 [[nodiscard]] bool IsReadInPart(const FileReport& report);
 

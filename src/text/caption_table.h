@@ -110,6 +110,7 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"lblCommentPair(1)", 230},
     {"cmdSelectWordsFile(0)", 231},
     {"cmdSelectWordsFile(1)", 232},
+    {"cmdCommonWords", 802},
     {"lblWordsToIgnoreOrCount(0)", 233},
     {"lblWordsToIgnoreOrCount(1)", 234},
     {"cmdClearWordsFile(0)", 235},
@@ -134,6 +135,7 @@ inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({
     {"cmdSelectWordsFile(0)", 476},
     {"cmdSelectWordsFile(1)", 477},
+    {"cmdCommonWords", 803},
     {"cmdClearWordsFile(0)", 480},
     {"cmdClearWordsFile(1)", 481},
     {"cmdClearWordsToIgnoreOrCount(0)", 484},
@@ -326,5 +328,23 @@ inline constexpr int kMoreSkippedText = 722;
 /// Behind the message that words were loaded: letters of the file that the western rule leaves out.
 inline constexpr int kListLettersNotReadText = 800;
 inline constexpr int kListLetterNotReadText = 801;
+/// The languages of the lists of common words, from this number on (app/count/common_words.h).
+inline constexpr int kFirstLanguageText = 810;
+
+// The view of the files of a count.
+inline constexpr int kFilesViewText = 830;
+/// In the order of FileColumn.
+inline constexpr int kFirstFileColumnText = 831;
+/// For a screen reader.
+inline constexpr int kFilesNameText = 840;
+inline constexpr int kNoLineEndsText = 841;
+inline constexpr int kMixedLineEndsText = 842;
+inline constexpr int kFileIsNoTextText = 843;
+inline constexpr int kFileIsEmptyText = 844;
+inline constexpr int kFileNotFoundText = 845;
+inline constexpr int kFileNotOpenedText = 846;
+inline constexpr int kFileReadFailedText = 847;
+inline constexpr int kFolderUnreadableText = 848;
+inline constexpr int kFileReadInPartText = 849;
 
 }  // namespace quillomat

@@ -76,6 +76,8 @@ class ParamsForm final : public Form {
   std::array<CommandButton, 2> cmdSelectWordsFile{
       CommandButton{*this, {"cmdSelectWordsFile", 0}, "Words-to-ignore file"},
       CommandButton{*this, {"cmdSelectWordsFile", 1}, "Count-only words file"}};
+  /// A face offers the lists that come with the program (app/count/common_words.h).
+  CommandButton cmdCommonWords{*this, "cmdCommonWords", "Common words"};
   std::array<TextBox, 2> txbWordsFile{TextBox{*this, {"txbWordsFile", 0}},
                                       TextBox{*this, {"txbWordsFile", 1}}};
   std::array<CommandButton, 2> cmdClearWordsFile{

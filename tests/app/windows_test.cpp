@@ -207,6 +207,7 @@ TEST_F(Windows, Panel) {
        {"txbEndComment(1)", kText, kAnyCaption, ""},
        {"cmdSelectWordsFile(0)", kCommand, "Words-to-ignore file"},
        {"cmdSelectWordsFile(1)", kCommand, "Count-only words file"},
+       {"cmdCommonWords", kCommand, "Common words"},
        {"txbWordsFile(0)", kText, kAnyCaption, ""},
        {"txbWordsFile(1)", kText, kAnyCaption, ""},
        {"cmdClearWordsFile(0)", kCommand, kAnyCaption},

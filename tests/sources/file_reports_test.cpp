@@ -54,7 +54,7 @@ TEST_F(FileReports, TellOfEachFileHowItWasRead) {
   EXPECT_THAT(
       RowsOf(TextOfFolder{folder.Path(), false, {}}),
       ElementsAre("a.txt 12 ASCII Unix 2 3 0 0 -", "b.txt 16 UTF-8 DOS 2 2 2 0 -",
-                  "c.txt 8 UTF-8 or Windows-1252 mixed 2 2 0 1 -", "d.txt 3 - - - - - - not text",
+                  "c.txt 8 UTF-8, Windows-1252 mixed 2 2 0 1 -", "d.txt 3 - - - - - - not text",
                   "e.txt 0 - - - - - - empty", "f.txt 8 UTF-16 Macintosh 1 1 0 0 -"));
 }
 

@@ -58,6 +58,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
+    count.words.FilesKnown.Fire();
     count.inForce.settings.OpenComment = result.openComment;
   }
   return result;

@@ -12,7 +12,8 @@ namespace {
 /// The panel's commands that load settings or words, or open a dialog over a run.
 std::vector<Control*> WordCommands(ParamsForm& frmParams) {
   std::vector<Control*> commands = {&frmParams.cmdRestoreDefaults, &frmParams.cmdInitialize,
-                                    &frmParams.cmdSaveLoadState[0], &frmParams.cmdSaveLoadState[1]};
+                                    &frmParams.cmdSaveLoadState[0], &frmParams.cmdSaveLoadState[1],
+                                    &frmParams.cmdCommonWords};
   for (std::size_t i = 0; i < 2; ++i) {
     commands.insert(commands.end(),
                     {&frmParams.cmdSelectWordsFile[i], &frmParams.cmdClearWordsFile[i],

@@ -304,19 +304,30 @@ bool WordListReader::TakeWordsFile(WordListKind kind) {
   return ok;
 }
 
-void WordListReader::SelectWordsFile(WordListKind kind) {
-  const bool countOnlyGiven = !PathBox(WordListKind::kCountOnly).Text().empty() ||
-                              !ExtraBox(WordListKind::kCountOnly).Text().empty();
-  if (IsIgnore(kind) && countOnlyGiven) {
-    const std::string lineBreak(kCrLf);
-    const MessageAnswer answer =
-        messages_.Ask("Since there are count-only words (that is," + lineBreak +
-                          "only specified words are to be counted)," + lineBreak +
-                          "specifying words to be ignored will have no effect." + lineBreak +
-                          "Do you still wish to specify words to be ignored?",
-                      "Proceed?");
-    if (answer != MessageAnswer::kYes || run_.Quitting()) return;
+/// Asks where words to ignore would have no effect.
+bool WordListReader::WantsWordsToIgnore() {
+  if (PathBox(WordListKind::kCountOnly).Text().empty() &&
+      ExtraBox(WordListKind::kCountOnly).Text().empty()) {
+    return true;
   }
+  const std::string lineBreak(kCrLf);
+  const MessageAnswer answer =
+      messages_.Ask("Since there are count-only words (that is," + lineBreak +
+                        "only specified words are to be counted)," + lineBreak +
+                        "specifying words to be ignored will have no effect." + lineBreak +
+                        "Do you still wish to specify words to be ignored?",
+                    "Proceed?");
+  return answer == MessageAnswer::kYes && !run_.Quitting();
+}
+
+void WordListReader::ChooseCommonWords(const std::string& path) {
+  if (run_.Busy() || !WantsWordsToIgnore()) return;
+  PathBox(WordListKind::kIgnore).SetText(path);
+  AttemptToReadWords(WordListKind::kIgnore);
+}
+
+void WordListReader::SelectWordsFile(WordListKind kind) {
+  if (IsIgnore(kind) && !WantsWordsToIgnore()) return;
   FileDialog dialog;
   dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"
                                 : "Specify file containing count-only words";

@@ -50,6 +50,8 @@ class WordListReader {
   [[nodiscard]] bool TakeBoxes();
   /// Lets the user choose a words file and reads it.
   void SelectWordsFile(WordListKind kind);
+  /// Makes one of the lists that come with the program the words-to-ignore file, and reads it.
+  void ChooseCommonWords(const std::string& path);
   /// Forgets the words file and its list.
   void ClearWordsFile(WordListKind kind);
   /// Empties the list that was read from a file; its path stays, and is read before a count.
@@ -59,6 +61,7 @@ class WordListReader {
   void SetPathToCWDs_Eng();
 
  private:
+  [[nodiscard]] bool WantsWordsToIgnore();
   void TellLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TellNotFound(WordListKind kind);
   void TellNotLoaded(WordListKind kind, const std::string& path);

@@ -43,7 +43,9 @@ struct CurrentWords {
   // Whoever listens changes nothing of the words.
   /// The words of a count are filtered and ranked: who shows them may look at them from now on.
   mutable Event<> WordsRanked;
-  /// They are about to go: nobody may look at them any more.
+  /// What became of the files of a count is known, whether there are words or not.
+  mutable Event<> FilesKnown;
+  /// The words and the files are about to go: nobody may look at them any more.
   mutable Event<> WordsGo;
 
   /// Where they come from.

@@ -165,6 +165,7 @@ void NoticeBar::Dismiss() {
 }
 
 void NoticeBar::ShowSkipped() {
+  if (showSkipped_) return showSkipped_();
   std::string lines;
   for (const SkippedItem& item : countRun_.Skipped()) {
     lines.append(item.path).append(" (").append(item.reason).append(")").append(kCrLf);

@@ -1,5 +1,7 @@
 // The lists of common words that come with the program: what they hold, and that each leaves out
 // exactly its words.
+#include "app/count/common_words.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -92,6 +94,26 @@ TEST_F(CommonWords, EveryListOfTheDataFolderIsTested) {
     if (name.starts_with("cwds_")) names.insert(name);
   }
   EXPECT_EQ(names.size(), 14U) << "a new one belongs into the instantiation above";
+}
+
+TEST_F(CommonWords, OfALanguageAreReadWhenTheyAreChosen) {
+  const std::vector<CommonWordsList> lists = FindCommonWords();
+  ASSERT_EQ(lists.size(), 14U);
+  EXPECT_EQ(lists[4].path, Path("de"));
+  EXPECT_EQ(program.Text().GetText(lists[4].languageText), "German");
+  program.WordLists().ChooseCommonWords(lists[4].path);
+  EXPECT_EQ(Panel().txbWordsFile[0].Text(), Path("de"));
+  EXPECT_EQ(OnlyMessage().title, "Words loaded");
+  CountClipboard("und Haus");
+  EXPECT_EQ(StoredWords(), "haus");
+}
+
+TEST_F(CommonWords, AreAskedAboutWhereTheyWouldHaveNoEffect) {
+  TypeWords(WordListKind::kCountOnly, "cat");
+  desktop.Answer(MessageAnswer::kNo);
+  program.WordLists().ChooseCommonWords(Path("de"));
+  EXPECT_EQ(OnlyMessage().title, "Proceed?");
+  EXPECT_THAT(InForce(), testing::IsEmpty());
 }
 
 TEST_F(CommonWords, OfOtherAlphabetsAreToldOfWhileOnlyWesternLettersCount) {

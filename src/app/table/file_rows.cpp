@@ -1,0 +1,97 @@
+#include "app/table/file_rows.h"
+
+#include <algorithm>
+#include <numeric>
+#include <variant>
+
+#include "base/text_helpers.h"
+#include "text/caption_table.h"
+
+namespace quillomat {
+namespace {
+
+int ReasonTextOf(Refusal refusal) {
+  switch (refusal) {
+    case Refusal::kNotText:
+      return kFileIsNoTextText;
+    case Refusal::kEmpty:
+      return kFileIsEmptyText;
+    case Refusal::kNotFound:
+      return kFileNotFoundText;
+    case Refusal::kFolderUnreadable:
+      return kFolderUnreadableText;
+    case Refusal::kReadFailed:
+      return kFileReadFailedText;
+    default:
+      return kFileNotOpenedText;
+  }
+}
+
+}  // namespace
+
+FileRows::FileRows(const CurrentWords& words, const ProgramText& text)
+    : words_(words), text_(text) {
+  words_.FilesKnown.Connect([this] { TakeFiles(); });
+  words_.WordsGo.Connect([this] {
+    if (places_.empty()) return;
+    Changing.Fire();
+    places_.clear();
+    Changed.Fire();
+  });
+}
+
+void FileRows::TakeFiles() {
+  Changing.Fire();
+  places_.resize(words_.files.size());
+  Arrange();
+  Changed.Fire();
+}
+
+void FileRows::SetOrder(std::optional<Order> order) {
+  Changing.Fire();
+  order_ = order;
+  Arrange();
+  Changed.Fire();
+}
+
+/// Files that are alike in a column stay in the order of the count.
+void FileRows::Arrange() {
+  std::iota(places_.begin(), places_.end(), 0U);
+  if (!order_) return;
+  std::vector<FileCell> keys;
+  keys.reserve(places_.size());
+  for (const std::uint32_t place : places_) {
+    keys.push_back(CellOf(words_.files[place], order_->column));
+  }
+  std::ranges::stable_sort(places_, [&](std::uint32_t left, std::uint32_t right) {
+    return order_->descending ? keys[right] < keys[left] : keys[left] < keys[right];
+  });
+}
+
+std::string FileRows::ReasonText(const FileReport& file) const {
+  if (IsReadInPart(file)) return text_.GetText(kFileReadInPartText);
+  if (file.refusal == Refusal::kNone) return {};
+  std::string reason = text_.GetText(ReasonTextOf(file.refusal));
+  if (file.error && file.refusal != Refusal::kNotFound) {
+    reason.append(": ").append(file.error->Description());
+  }
+  return reason;
+}
+
+std::string FileRows::TextAt(std::size_t row, FileColumn column, const NumberSigns& signs) const {
+  const FileReport& file = words_.files[places_[row]];
+  if (column == FileColumn::kSkipped) return ReasonText(file);
+  if (column == FileColumn::kLineEnds && file.lines) {
+    const LineEndKind kind = LineEndKindOf(*file.lines);
+    if (kind == LineEndKind::kNone) return text_.GetText(kNoLineEndsText);
+    if (kind == LineEndKind::kMixed) return text_.GetText(kMixedLineEndsText);
+  }
+  const FileCell cell = CellOf(file, column);
+  if (const auto* number = std::get_if<std::int64_t>(&cell)) {
+    return GroupDigits(*number, signs.group);
+  }
+  const auto* text = std::get_if<std::string>(&cell);
+  return text != nullptr ? *text : std::string();
+}
+
+}  // namespace quillomat

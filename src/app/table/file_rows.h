@@ -1,0 +1,52 @@
+// The files of the last count as rows of a table, for people: how each was read, or why not, in the
+// current language. They come when a count has read its files, and go before the next begins.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/list/current_words.h"
+#include "app/table/row_cells.h"
+#include "sources/file_columns.h"
+#include "text/program_text.h"
+#include "ui/event.h"
+
+namespace quillomat {
+
+class FileRows {
+ public:
+  /// Both outlive the rows.
+  FileRows(const CurrentWords& words, const ProgramText& text);
+
+  /// Fired before and after there are others, or they change places.
+  Event<> Changing;
+  Event<> Changed;
+
+  [[nodiscard]] std::size_t Size() const { return places_.size(); }
+  /// `row` is below Size().
+  [[nodiscard]] std::string TextAt(std::size_t row, FileColumn column,
+                                   const NumberSigns& signs) const;
+
+  struct Order {
+    FileColumn column = FileColumn::kPath;
+    bool descending = false;
+  };
+  /// Without an order they stand in that of the count. It holds for later counts, too.
+  void SetOrder(std::optional<Order> order);
+
+ private:
+  void TakeFiles();
+  void Arrange();
+  [[nodiscard]] std::string ReasonText(const FileReport& file) const;
+
+  const CurrentWords& words_;
+  const ProgramText& text_;
+  std::optional<Order> order_;
+  /// Of the files, in the order of the rows.
+  std::vector<std::uint32_t> places_;
+};
+
+}  // namespace quillomat

@@ -1,0 +1,70 @@
+// The files of the last count, a row each: sorted by a click on a column's title, and rows copied
+// with their columns.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QAction>
+#include <QStringList>
+#include <QTableView>
+#include <QWidget>
+
+#include "app/program.h"
+#include "app/table/file_rows.h"
+#include "app/table/row_cells.h"
+
+namespace quillomat {
+
+/// The rows as the toolkit's views want them; what they are is decided in app/table.
+class FilesModel final : public QAbstractTableModel {
+ public:
+  /// `rows` outlives the model.
+  FilesModel(FileRows& rows, NumberSigns signs);
+
+  void SetTexts(const ProgramText& text);
+  /// As another program is to read it: numbers without groups.
+  [[nodiscard]] QStringList CopyOf(int row) const;
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                    int role) const override;
+  /// By none for -1.
+  void sort(int section, Qt::SortOrder order) override;
+
+ private:
+  FileRows& rows_;
+  NumberSigns signs_;
+  QStringList titles_;
+};
+
+class FilesPage final : public QWidget {
+ public:
+  /// `program` outlives the page.
+  explicit FilesPage(Program& program, QWidget* parent = nullptr);
+
+  void SetTexts(const ProgramText& text);
+  [[nodiscard]] QTableView& Table() { return *table_; }
+
+  /// Puts what was not read first, and the keyboard there.
+  void ShowSkipped();
+  /// Puts the selected rows on the clipboard; all, if none is.
+  void Copy() const;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void SetUpTable();
+  void FitColumns();
+
+  FileRows rows_;
+  FilesModel model_;
+  // Children of the page.
+  QTableView* table_;
+  QAction* copy_;
+  /// Columns were not made as wide as what they hold.
+  bool isOld_ = true;
+};
+
+}  // namespace quillomat

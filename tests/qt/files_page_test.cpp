@@ -1,0 +1,94 @@
+// The files of a count, and the menu of common words, as a person uses them.
+#include <QClipboard>
+#include <QHeaderView>
+#include <QMenu>
+#include <gmock/gmock.h>
+
+#include "app/count/common_words.h"
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+class FilesPageTest : public WindowFixture {
+ protected:
+  FilesPageTest() { EXPECT_TRUE(user->Start()); }
+
+  MainWindowView& Window() { return user->windows.Main(); }
+  QTableView& Table() { return Window().FilesView().Table(); }
+
+  void CountThree() {
+    static_cast<void>(folder.Write("texts/a.txt", "a line\n"));
+    static_cast<void>(folder.Write("texts/b.txt", "one\r\ntwo\r\nthree"));
+    static_cast<void>(folder.Write("texts/c.txt", std::string_view("\0\1", 2)));
+    user->program.frmMain.txbFile[1].SetText(folder / "list.txt");
+    user->program.frmMain.txbFolder.SetText(folder / "texts");
+    user->program.frmMain.optFolder.SetValue(true);
+    user->Click(user->program.frmMain.cmdCountWords);
+  }
+  std::string Cell(int row, FileColumn column) {
+    const QModelIndex index = Table().model()->index(row, static_cast<int>(column));
+    return FromQt(index.data().toString());
+  }
+  std::string Names() {
+    std::string names;
+    for (int row = 0; row < Table().model()->rowCount(); ++row) {
+      names += FileNamePartOf(Cell(row, FileColumn::kPath)).substr(0, 1);
+    }
+    return names;
+  }
+};
+
+TEST_F(FilesPageTest, ShowsTheFilesOfTheCountAndSortsThem) {
+  Window().Views().Show("files");
+  user->Settle();
+  CountThree();
+  EXPECT_EQ(Names(), "abc");
+  EXPECT_EQ(Cell(1, FileColumn::kLineEnds), "DOS");
+  EXPECT_EQ(Cell(2, FileColumn::kSkipped), "not text");
+  Table().sortByColumn(static_cast<int>(FileColumn::kWords), Qt::DescendingOrder);
+  EXPECT_EQ(Names(), "bac");
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_EQ(Cell(2, FileColumn::kSkipped), "kein Text");
+  EXPECT_EQ(Table().model()->headerData(1, Qt::Horizontal).toString(), "Bytes");
+  user->Click(user->program.frmMain.cmdLanguage);
+}
+
+TEST_F(FilesPageTest, SkippedOnesComeFirstWhenTheyAreAskedFor) {
+  CountThree();
+  Window().Views().Show("files");
+  Window().FilesView().ShowSkipped();
+  user->Settle();
+  EXPECT_EQ(Names(), "cab");
+  EXPECT_EQ(Table().currentIndex().row(), 0);
+}
+
+TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
+  CountThree();
+  Window().Views().Show("files");
+  user->Settle();
+  Table().selectRow(1);
+  Window().FilesView().Copy();
+  EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
+            folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t\n");
+}
+
+TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
+  user->Click(user->program.frmMain.cmdSetParameters);
+  auto& button = user->WidgetOf<QPushButton>(user->program.frmParams.cmdCommonWords);
+  ASSERT_NE(button.menu(), nullptr);
+  emit button.menu()->aboutToShow();
+  const QList<QAction*> languages = button.menu()->actions();
+  ASSERT_EQ(languages.size(), 14);
+  EXPECT_EQ(languages[0]->text(), "Czech");
+  EXPECT_TRUE(languages[2]->isChecked()) << "English is the default";
+  boxes.Answer(QMessageBox::Ok);
+  languages[4]->trigger();
+  user->Settle();
+  EXPECT_EQ(user->program.frmParams.txbWordsFile[0].Text(), FindCommonWords()[4].path);
+  EXPECT_TRUE(user->program.frmParams.txbWordsFile[0].Text().ends_with("cwds_de.txt"));
+  EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
+}
+
+}  // namespace
+}  // namespace quillomat
