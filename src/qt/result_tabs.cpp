@@ -8,6 +8,9 @@ namespace quillomat {
 
 ResultTabs::ResultTabs(QWidget* parent) : QTabWidget(parent) {
   setDocumentMode(true);  // no frame beside those of the views
+  // Where letters are large and the window is small, titles give way before arrows hide a view.
+  setUsesScrollButtons(false);
+  setElideMode(Qt::ElideRight);
 }
 
 void ResultTabs::Add(QWidget* view, const QString& key, int titleText, Uses uses) {
@@ -16,7 +19,11 @@ void ResultTabs::Add(QWidget* view, const QString& key, int titleText, Uses uses
 }
 
 void ResultTabs::SetTexts(const ProgramText& text) {
-  for (int i = 0; i < count(); ++i) setTabText(i, ToQt(text.GetText(views_[i].titleText)));
+  for (int i = 0; i < count(); ++i) {
+    const QString title = ToQt(text.GetText(views_[i].titleText));
+    setTabText(i, title);
+    setTabToolTip(i, title);
+  }
 }
 
 QString ResultTabs::Current() const {

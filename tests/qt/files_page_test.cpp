@@ -81,13 +81,15 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   const QList<QAction*> languages = button.menu()->actions();
   ASSERT_EQ(languages.size(), 14);
   EXPECT_EQ(languages[0]->text(), "Czech");
-  EXPECT_TRUE(languages[2]->isChecked()) << "English is the default";
+  EXPECT_FALSE(languages[4]->isChecked());
   boxes.Answer(QMessageBox::Ok);
   languages[4]->trigger();
   user->Settle();
   EXPECT_EQ(user->program.frmParams.txbWordsFile[0].Text(), FindCommonWords()[4].path);
   EXPECT_TRUE(user->program.frmParams.txbWordsFile[0].Text().ends_with("cwds_de.txt"));
   EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
+  emit button.menu()->aboutToShow();
+  EXPECT_TRUE(button.menu()->actions()[4]->isChecked());
 }
 
 }  // namespace
