@@ -25,8 +25,7 @@ bool IsForeignLetterAt(std::string_view text, std::size_t position, bool caseSig
 
 std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant) {
   constexpr std::size_t kBlocksAtOnce = 64;
-  std::array<std::uint64_t, kBlocksAtOnce>
-      memory;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+  std::array<std::uint64_t, kBlocksAtOnce> memory{};
   std::int64_t letters = 0;
   for (std::size_t first = 0; first < Utf8Blocks(text); first += kBlocksAtOnce) {
     const auto others = std::span(memory).first(std::min(kBlocksAtOnce, Utf8Blocks(text) - first));
