@@ -23,14 +23,19 @@ namespace quillomat {
 using TokenOutcome = std::uint32_t;
 
 /// A word was read that is not stored.
-inline constexpr TokenOutcome kWordNotStored = UINT32_MAX - 2;
+inline constexpr TokenOutcome kWordNotStored = std::uint32_t{1} << 31U;
 /// The token is no word.
-inline constexpr TokenOutcome kNoWord = UINT32_MAX - 1;
+inline constexpr TokenOutcome kNoWord = kWordNotStored + 1;
 /// The token was not remembered.
-inline constexpr TokenOutcome kUnknownToken = UINT32_MAX;
+inline constexpr TokenOutcome kUnknownToken = kWordNotStored + 2;
+/// The token is several words: this, and above it a number that tells which.
+inline constexpr TokenOutcome kFirstOfSeveral = kWordNotStored + 3;
 
 [[nodiscard]] inline bool IsPlace(TokenOutcome outcome) {
   return outcome < kWordNotStored;
+}
+[[nodiscard]] inline bool IsSeveral(TokenOutcome outcome) {
+  return outcome >= kFirstOfSeveral;
 }
 
 class TokenMemo {

@@ -16,6 +16,10 @@
 namespace quillomat {
 namespace {
 
+constexpr LongTokenMemo::Key kNoLongKey = {nullptr, 0, 0};
+/// The most that is remembered of tokens that are several words.
+constexpr std::size_t kMostOfSeveral = 65'536;
+
 bool IsLetter(char ch) {
   return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
 }
@@ -41,10 +45,12 @@ void TokenTaker::TakeCut(std::string_view token) {
   const TokenOutcome known = memo_.Find(key);
   if (known == kUnknownToken) {
     ForgetNewTokens();
-    newTokens_.push_back({0, key, 0});
+    newTokens_.push_back({0, key, kNoLongKey, 0});
     NoteNewWord(FinalForm(token));
     newTokens_.back().wordsEnd = newWords_.size();
     AddNewWords();
+  } else if (IsSeveral(known)) {
+    TakeSeveral(known);
   } else {
     if (known != kNoWord) IncrementChecked(wordsRead_);
     if (IsPlace(known)) store_.CountWordAt(known);
@@ -68,37 +74,26 @@ void TokenTaker::ForgetNewTokens() {
 }
 
 void TokenTaker::ForgetTokensOfOldStore() {
-  if (memoGeneration_ == store_.Generation() && !memo_.IsCrowded()) return;
+  const bool full = memo_.IsCrowded() || longMemo_.IsCrowded() || several_.size() > kMostOfSeveral;
+  if (memoGeneration_ == store_.Generation() && !full) return;
   memo_.Clear();
+  longMemo_.Clear();
+  several_.clear();
   memoGeneration_ = store_.Generation();
 }
 
 void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t count) {
   ForgetTokensOfOldStore();
-  std::array<std::uint32_t, kTokensAtOnce> places{};
-  std::size_t placed = 0;
-  std::int32_t words = 0;
   ForgetNewTokens();
-  // In steps, so that the memory has time to bring what the next step needs. The keys are written
-  // before they are read, and are not worth a kilobyte of zeros.
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-  std::array<TokenMemo::Key, kTokensAtOnce> keys;
-  for (std::size_t i = 0; i < count; ++i) {
-    const LineBlock::Token token = block.TokenAt(first + i);
-    keys[i] = KeyOf({token.text, token.bytes}, token.readable);
-    memo_.Prefetch(keys[i]);
-  }
-  for (std::size_t i = 0; i < count; ++i) {
-    const TokenOutcome outcome = memo_.Find(keys[i]);
-    places[placed] = outcome;
-    placed += static_cast<std::size_t>(IsPlace(outcome));
-    words += static_cast<std::int32_t>(outcome <= kWordNotStored);
-    if (outcome == kUnknownToken) newTokens_.push_back({first + i, keys[i], 0});
-  }
-  AddChecked(wordsRead_, words);
-  store_.CountWordsAt(std::span(places).first(placed));
+  // In steps, so that the memory has time to bring what the next step needs.
+  Batch batch;  // NOLINT(cppcoreguidelines-pro-type-member-init): see there
+  FindKeys(block, first, count, batch);
+  FindShort(first, batch);
+  if (batch.longKeyCount > 0) FindLong(first, batch);
+  AddChecked(wordsRead_, batch.words);
+  store_.CountWordsAt(std::span(batch.places).first(batch.placeCount));
   const bool orderMatters = store_.OrderListener() != nullptr;
-  if (orderMatters) NoteOutcomes(std::span(keys).first(count));
+  if (orderMatters) NoteOutcomes(block, first, count);
   for (NewToken& token : newTokens_) {
     const LineBlock::Token found = block.TokenAt(token.number);
     WorkOutToken({found.text, found.bytes});
@@ -108,10 +103,95 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
   if (orderMatters) TellOrder(first);
 }
 
-/// Before new tokens make the memo forget others.
-void TokenTaker::NoteOutcomes(std::span<const TokenMemo::Key> keys) {
+void TokenTaker::FindKeys(const LineBlock& block, std::size_t first, std::size_t count,
+                          Batch& batch) const {
+  for (std::size_t i = 0; i < count; ++i) {
+    const LineBlock::Token token = block.TokenAt(first + i);
+    if (token.bytes <= TokenMemo::kMostBytes) {
+      const TokenMemo::Key key = memo_.KeyOf(token.text, token.bytes, token.readable);
+      memo_.Prefetch(key);
+      batch.keys[batch.keyCount] = key;
+      batch.numbers[batch.keyCount++] = static_cast<std::uint8_t>(i);
+    } else {
+      const LongTokenMemo::Key key = longMemo_.KeyOf(token.text, token.bytes);
+      longMemo_.Prefetch(key);
+      batch.longKeys[batch.longKeyCount] = key;
+      batch.longNumbers[batch.longKeyCount++] = static_cast<std::uint8_t>(i);
+    }
+  }
+}
+
+void TokenTaker::FindShort(std::size_t first, Batch& batch) {
+  for (std::size_t i = 0; i < batch.keyCount; ++i) {
+    const TokenOutcome outcome = memo_.Find(batch.keys[i]);
+    batch.places[batch.placeCount] = outcome;
+    batch.placeCount += static_cast<std::size_t>(IsPlace(outcome));
+    batch.words += static_cast<std::int32_t>(outcome <= kWordNotStored);
+    if (outcome < kUnknownToken) continue;
+    if (IsSeveral(outcome)) {
+      TakeSeveral(outcome);
+    } else {
+      newTokens_.push_back({first + batch.numbers[i], batch.keys[i], kNoLongKey, 0});
+    }
+  }
+}
+
+void TokenTaker::FindLong(std::size_t first, Batch& batch) {
+  const std::size_t shortOnes = newTokens_.size();
+  for (std::size_t i = 0; i < batch.longKeyCount; ++i) {
+    const TokenOutcome outcome = longMemo_.Find(batch.longKeys[i]);
+    batch.places[batch.placeCount] = outcome;
+    batch.placeCount += static_cast<std::size_t>(IsPlace(outcome));
+    batch.words += static_cast<std::int32_t>(outcome <= kWordNotStored);
+    if (outcome < kUnknownToken) continue;
+    if (IsSeveral(outcome)) {
+      TakeSeveral(outcome);
+    } else {
+      const std::size_t number = first + batch.longNumbers[i];
+      newTokens_.push_back({number, TokenMemo::NoKey(), batch.longKeys[i], 0});
+    }
+  }
+  // New words are new in the order of the text.
+  const auto middle = newTokens_.begin() + static_cast<std::ptrdiff_t>(shortOnes);
+  const auto isBefore = [](const NewToken& left, const NewToken& right) {
+    return left.number < right.number;
+  };
+  std::inplace_merge(newTokens_.begin(), middle, newTokens_.end(), isBefore);
+}
+
+TokenOutcome TokenTaker::OutcomeOf(const LineBlock::Token& token) const {
+  if (token.bytes > TokenMemo::kMostBytes) {
+    return longMemo_.Find(longMemo_.KeyOf(token.text, token.bytes));
+  }
+  return memo_.Find(memo_.KeyOf(token.text, token.bytes, token.readable));
+}
+
+/// Of a token that consists of several words: what each of them is worth.
+std::span<const TokenOutcome> TokenTaker::OutcomesOfSeveral(TokenOutcome several) const {
+  const std::size_t start = several - kFirstOfSeveral;
+  return std::span(several_).subspan(start + 1, several_[start]);
+}
+
+/// Counts the words of a token that consists of several.
+void TokenTaker::TakeSeveral(TokenOutcome several) {
+  for (const TokenOutcome outcome : OutcomesOfSeveral(several)) {
+    IncrementChecked(wordsRead_);
+    if (IsPlace(outcome)) store_.CountWordAt(outcome);
+  }
+}
+
+/// What a token of these words is worth.
+TokenOutcome TokenTaker::KeepSeveral(std::span<const NewWord> words) {
+  const std::size_t start = several_.size();
+  several_.push_back(static_cast<TokenOutcome>(words.size()));
+  for (const NewWord& word : words) several_.push_back(word.outcome);
+  return kFirstOfSeveral + static_cast<TokenOutcome>(start);
+}
+
+/// Before new tokens make the memos forget others.
+void TokenTaker::NoteOutcomes(const LineBlock& block, std::size_t first, std::size_t count) {
   outcomes_.clear();
-  for (const TokenMemo::Key& key : keys) outcomes_.push_back(memo_.Find(key));
+  for (std::size_t i = 0; i < count; ++i) outcomes_.push_back(OutcomeOf(block.TokenAt(first + i)));
 }
 
 /// Of the tokens of outcomes_, which are numbered from `first` on. The words of new ones have been
@@ -125,7 +205,11 @@ void TokenTaker::TellOrder(std::size_t first) {
   std::size_t newWord = 0;
   for (std::size_t i = 0; i < outcomes_.size(); ++i) {
     if (newToken == newTokens_.end() || newToken->number != first + i) {
-      take(outcomes_[i]);
+      if (IsSeveral(outcomes_[i])) {
+        std::ranges::for_each(OutcomesOfSeveral(outcomes_[i]), take);
+      } else {
+        take(outcomes_[i]);
+      }
       continue;
     }
     for (; newWord < newToken->wordsEnd; ++newWord) take(newWords_[newWord].outcome);
@@ -207,18 +291,29 @@ void TokenTaker::AddNewWords() {
   }
   std::size_t next = 0;
   for (const NewToken& token : newTokens_) {
-    const std::size_t words = token.wordsEnd - next;
-    TokenOutcome outcome = kNoWord;
-    for (; next < token.wordsEnd; ++next) {
-      NewWord& word = newWords_[next];
+    const auto words = std::span(newWords_).subspan(next, token.wordsEnd - next);
+    next = token.wordsEnd;
+    for (NewWord& word : words) {
       if (word.isStored) word.outcome = store_.AddKeyedWord(Keyed(word));
-      outcome = word.outcome;
     }
-    const bool canBeRemembered = words <= 1 && token.key.low != 0;
-    // It may stand in the block twice.
-    if (canBeRemembered && memo_.Find(token.key) == kUnknownToken) {
-      memo_.Remember(token.key, outcome);
-    }
+    RememberToken(token, words);
+  }
+}
+
+/// What a token is worth that consists of these words, which have been added.
+void TokenTaker::RememberToken(const NewToken& token, std::span<const NewWord> words) {
+  const bool isShort = token.key.low != 0;
+  if (!isShort && token.longKey.hash == 0) return;
+  // It may stand in the block twice.
+  const TokenOutcome known = isShort ? memo_.Find(token.key) : longMemo_.Find(token.longKey);
+  if (known != kUnknownToken) return;
+  TokenOutcome outcome = kNoWord;
+  if (words.size() == 1) outcome = words[0].outcome;
+  if (words.size() > 1) outcome = KeepSeveral(words);
+  if (isShort) {
+    memo_.Remember(token.key, outcome);
+  } else {
+    longMemo_.Remember(token.longKey, outcome);
   }
 }
 

@@ -5,6 +5,7 @@
 // remembered; the next token like it costs one look-up.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -14,6 +15,7 @@
 
 #include "engine/char_class.h"
 #include "engine/line_block.h"
+#include "engine/long_token_memo.h"
 #include "engine/scan_settings.h"
 #include "engine/token_memo.h"
 #include "engine/word_list.h"
@@ -64,21 +66,46 @@ class TokenTaker {
   /// A token that is met for the first time, and where its words end in newWords_.
   struct NewToken {
     std::size_t number = 0;
+    /// One of them is a key; the other is that of no token.
     TokenMemo::Key key{};
+    LongTokenMemo::Key longKey{};
     std::size_t wordsEnd = 0;
+  };
+  /// Tokens of a block as they are looked up: the short ones together, and the long ones. The keys
+  /// are written before they are read, and are not worth a kilobyte of zeros.
+  struct Batch {
+    std::array<TokenMemo::Key, kTokensAtOnce> keys;
+    std::array<LongTokenMemo::Key, kTokensAtOnce> longKeys;
+    /// Which tokens they are.
+    std::array<std::uint8_t, kTokensAtOnce> numbers;
+    std::array<std::uint8_t, kTokensAtOnce> longNumbers;
+    std::size_t keyCount = 0;
+    std::size_t longKeyCount = 0;
+    /// What is to be counted.
+    std::array<std::uint32_t, kTokensAtOnce> places;
+    std::size_t placeCount = 0;
+    std::int32_t words = 0;
   };
 
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
   /// `readable` bytes can be read at the token.
   [[nodiscard]] TokenMemo::Key KeyOf(std::string_view token, std::size_t readable) const;
+  [[nodiscard]] TokenOutcome OutcomeOf(const LineBlock::Token& token) const;
+  void FindKeys(const LineBlock& block, std::size_t first, std::size_t count, Batch& batch) const;
+  void FindShort(std::size_t first, Batch& batch);
+  void FindLong(std::size_t first, Batch& batch);
+  void TakeSeveral(TokenOutcome several);
+  [[nodiscard]] std::span<const TokenOutcome> OutcomesOfSeveral(TokenOutcome several) const;
+  [[nodiscard]] TokenOutcome KeepSeveral(std::span<const NewWord> words);
   void ForgetNewTokens();
   void WorkOutToken(std::string_view token);
   [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
   void NoteNewWord(std::string_view word);
   [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
   void AddNewWords();
+  void RememberToken(const NewToken& token, std::span<const NewWord> words);
   void ForgetTokensOfOldStore();
-  void NoteOutcomes(std::span<const TokenMemo::Key> keys);
+  void NoteOutcomes(const LineBlock& block, std::size_t first, std::size_t count);
   void TellOrder(std::size_t first);
 
   ScanSettings& settings_;
@@ -88,6 +115,9 @@ class TokenTaker {
   WordStore& store_;
   KeyRule keyRule_;
   TokenMemo memo_;
+  LongTokenMemo longMemo_;
+  /// Of tokens that are several words: how many, and what each of them is worth.
+  std::vector<TokenOutcome> several_;
   std::uint64_t memoGeneration_;
   std::int32_t wordsRead_ = 0;
 
