@@ -39,7 +39,7 @@ bool IsInLatinOrGreekBlock(char32_t codePoint) {
       {0x41, 0x2AF},       // Latin, with IPA
       {0x370, 0x3E1},      // Greek
       {0x3F0, 0x3FF},      // more of it, behind Coptic
-      {0x1D00, 0x1D25},    // phonetic Latin
+      {0x1D00, 0x1D2A},    // phonetic Latin, small capitals of Greek
       {0x1D6B, 0x1D77},    //
       {0x1D79, 0x1D9A},    //
       {0x1E00, 0x1FFF},    // Latin, then Greek with many accents

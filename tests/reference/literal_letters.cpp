@@ -47,7 +47,7 @@ bool IsLatinOrGreek(char32_t letter) {
   constexpr std::array<std::pair<char32_t, char32_t>, 10> kBlocks = {{{0x0041, 0x02AF},
                                                                       {0x0370, 0x03E1},
                                                                       {0x03F0, 0x03FF},
-                                                                      {0x1D00, 0x1D25},
+                                                                      {0x1D00, 0x1D2A},
                                                                       {0x1D6B, 0x1D9A},
                                                                       {0x1E00, 0x1FFF},
                                                                       {0x2C60, 0x2C7F},
