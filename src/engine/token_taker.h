@@ -73,6 +73,7 @@ class TokenTaker {
   };
   /// Tokens of a block as they are looked up: the short ones together, and the long ones. The keys
   /// are written before they are read, and are not worth a kilobyte of zeros.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
   struct Batch {
     std::array<TokenMemo::Key, kTokensAtOnce> keys;
     std::array<LongTokenMemo::Key, kTokensAtOnce> longKeys;
