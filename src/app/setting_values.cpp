@@ -41,6 +41,11 @@ std::string ValueTextOf(const Control& control) {
   return {};
 }
 
+std::string LanguageFreeValueOf(const Control& control) {
+  if (const auto* combo = control.As<ComboBox>()) return std::to_string(combo->ListIndex());
+  return ValueTextOf(control);
+}
+
 std::vector<CheckBox*> BoxesInClearingOrder(const ParamsForm& frmParams) {
   std::vector<CheckBox*> boxes;
   for (const std::string_view name : kClearingOrder) {

@@ -20,6 +20,8 @@ void SetToDefault(const Setting& setting, Control& control);
 
 /// The value as a text: of a check box 0, 1 or 2, of a list the item, of a text box its text.
 [[nodiscard]] std::string ValueTextOf(const Control& control);
+/// The same, but of a list the index: an item may be called otherwise in another language.
+[[nodiscard]] std::string LanguageFreeValueOf(const Control& control);
 
 /// The panel's check boxes in the order in which "Clear checkboxes" goes through them.
 [[nodiscard]] std::vector<CheckBox*> BoxesInClearingOrder(const ParamsForm& frmParams);

@@ -17,6 +17,7 @@
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
+#include "base/whole_number.h"
 #include "system/input_file.h"
 #include "system/output_file.h"
 
@@ -41,12 +42,10 @@ std::string_view Unquoted(std::string_view line) {
 }
 
 std::int32_t WholeNumber(std::string_view line) {
-  const std::string_view text = Unquoted(line);
   std::int32_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [last, error] = std::from_chars(text.data(), end, number);
+  const std::errc error = ReadWholeNumber(Unquoted(line), number);
   if (error == std::errc::result_out_of_range) throw RunTimeError(RunTimeErrorNumber::kOverflow);
-  if (error != std::errc() || last != end) throw RunTimeError(RunTimeErrorNumber::kTypeMismatch);
+  if (error != std::errc()) throw RunTimeError(RunTimeErrorNumber::kTypeMismatch);
   return number;
 }
 

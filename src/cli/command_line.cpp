@@ -34,7 +34,7 @@ constexpr const char* kFooter =
     "\n"
     "Formats: 0 rank frequency word, 1 rank word frequency, 2 rank frequency, 3 rank word,\n"
     "4 frequency rank, 5 frequency word, 6 word rank, 7 word frequency, 8 word, 9 word (+commas),\n"
-    "10 Zipf data; of folders or several paths with count-only words also 11 word freq no.files,\n"
+    "10 Zipf data; with count-only words, of --folder and any PATH also 11 word freq no.files,\n"
     "12 word file-list, 13 word file-list (+freq).\n"
     "\n"
     "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line,\n"
@@ -248,16 +248,12 @@ void CheckExplain(const CommandLine& options) {
       throw CLI::ValidationError(std::string(name), "does not go with --explain");
     }
   }
-  const std::pair<bool, const char*> given[] = {{options.windowText, "--window-text"},
-                                                {options.listFiles, "--list-files"},
-                                                {options.summary, "--summary"},
-                                                {options.statistics, "--statistics"},
-                                                {options.top.has_value(), "--top"},
-                                                {!options.exports.empty(), "--export"},
-                                                {options.report.has_value(), "--report"},
-                                                {options.null, "--null"},
-                                                {options.progress, "--progress"},
-                                                {options.listOnInterrupt, "--list-on-interrupt"}};
+  const std::pair<bool, const char*> given[] = {
+      {options.windowText, "--window-text"},    {options.listFiles, "--list-files"},
+      {options.summary, "--summary"},           {options.statistics, "--statistics"},
+      {options.top.has_value(), "--top"},       {!options.exports.empty(), "--export"},
+      {options.report.has_value(), "--report"}, {options.null, "--null"},
+      {options.progress, "--progress"},         {options.listOnInterrupt, "--list-on-interrupt"}};
   for (const auto& [isGiven, name] : given) {
     if (isGiven) throw CLI::ValidationError(name, "does not go with --explain");
   }

@@ -1,18 +1,17 @@
 #include "cli/control_settings.h"
 
-#include <charconv>
+#include <cstdint>
 #include <string_view>
 
+#include "base/whole_number.h"
 #include "ui/controls.h"
 
 namespace quillomat {
 namespace {
 
-std::optional<int> WholeNumber(std::string_view text) {
-  int number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [last, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || last != end) return std::nullopt;
+std::optional<std::int32_t> WholeNumber(std::string_view text) {
+  std::int32_t number = 0;
+  if (ReadWholeNumber(text, number) != std::errc()) return std::nullopt;
   return number;
 }
 

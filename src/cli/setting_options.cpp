@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/setting_values.h"
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
 #include "cli/control_settings.h"
@@ -14,15 +15,6 @@ namespace quillomat {
 namespace {
 
 using Fault = std::optional<std::string>;
-
-/// The value that a control has taken, in a form that can be compared.
-std::string ValueTaken(const Control& control) {
-  if (const auto* box = control.As<CheckBox>())
-    return std::to_string(static_cast<int>(box->Value()));
-  if (const auto* combo = control.As<ComboBox>()) return std::to_string(combo->ListIndex());
-  if (const auto* text = control.As<TextBox>()) return text->Text();
-  return {};
-}
 
 template <typename Items>
 std::string Listed(const Items& items) {
@@ -64,8 +56,9 @@ class SettingsWriter {
              NamesOfSettings();
     }
     if (const Fault fault = SetValue(*control, value)) return source + ": " + *fault;
-    const auto [before, isFirst] = taken_.try_emplace(control, Taken{source, ValueTaken(*control)});
-    if (isFirst || before->second.value == ValueTaken(*control)) return std::nullopt;
+    const std::string now = LanguageFreeValueOf(*control);
+    const auto [before, isFirst] = taken_.try_emplace(control, Taken{source, now});
+    if (isFirst || before->second.value == now) return std::nullopt;
     return source + " contradicts " + before->second.source;
   }
 

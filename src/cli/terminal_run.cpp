@@ -247,7 +247,8 @@ class TerminalRun {
     return !fault || Fail(*fault);
   }
 
-  /// Several paths are served like a folder.
+  /// Paths, be it one, are served like a folder; --file and --text are the window's sources, which
+  /// are not.
   bool FormatIsServed() {
     const bool likeFolder =
         input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();

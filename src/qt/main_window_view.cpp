@@ -19,7 +19,7 @@
 
 #include "app/count/pace_text.h"
 #include "qt/flow_row.h"
-#include "qt/path_completion.h"
+#include "qt/path_suggestions.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
 #include "text/caption_table.h"

@@ -10,7 +10,7 @@
 #include "app/count/common_words.h"
 #include "qt/accessible_names.h"
 #include "qt/flow_row.h"
-#include "qt/path_completion.h"
+#include "qt/path_suggestions.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
 #include "system/settings_folder.h"

@@ -16,7 +16,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "qt/path_completion.h"
+#include "qt/path_suggestions.h"
 #include "qt/program_windows.h"
 #include "qt/text_conversion.h"
 

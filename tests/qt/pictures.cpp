@@ -7,18 +7,21 @@
 namespace quillomat {
 namespace {
 
-constexpr const char* kBooks = "/tmp/books";
+/// A name that may be seen on the pictures.
+QString Books() {
+  return QDir::temp().filePath(QStringLiteral("books"));
+}
 
 class Photographer {
  public:
   Photographer(ProgramOnDesktop& user, QString folder) : user_(user), folder_(std::move(folder)) {
-    QDir().mkpath(kBooks);
+    QDir().mkpath(Books());
   }
   Photographer(const Photographer&) = delete;
   Photographer& operator=(const Photographer&) = delete;
   Photographer(Photographer&&) = delete;
   Photographer& operator=(Photographer&&) = delete;
-  ~Photographer() { QDir(kBooks).removeRecursively(); }
+  ~Photographer() { QDir(Books()).removeRecursively(); }
 
   void TakeAll(const QString& samples) {
     MainForm& frmMain = user_.program.frmMain;
@@ -42,7 +45,7 @@ class Photographer {
  private:
   /// Counts a copy, whose path is the same on every machine.
   void Count(const QString& sample) {
-    const QString copy = QString(kBooks) + "/" + QFileInfo(sample).fileName();
+    const QString copy = Books() + "/" + QFileInfo(sample).fileName();
     QFile::remove(copy);
     if (!QFile::copy(sample, copy)) std::cerr << "cannot copy " << FromQt(sample) << '\n';
     user_.program.Sources().ChooseText(FromQt(copy));
@@ -82,7 +85,7 @@ class Photographer {
     window.Views().Show("table");
     auto* words = window.Table().findChild<QLineEdit*>();
     auto* kind = window.Table().findChild<QComboBox*>();
-    kind->setCurrentIndex(static_cast<int>(FilterKind::kBeginWith));
+    kind->setCurrentIndex(static_cast<int>(FilterKind::kStartsWith));
     words->setText(beginning);
     Save(window, name);
     words->clear();
@@ -97,7 +100,7 @@ class Photographer {
   }
 
   void TakeRunning(const QString& samples) {
-    const QString path = QString(kBooks) + "/library.txt";
+    const QString path = Books() + "/library.txt";
     QFile library(path);
     if (!library.open(QIODevice::WriteOnly)) return;
     QFile sample(samples + "/harbour_en.txt");
@@ -115,7 +118,7 @@ class Photographer {
   }
 
   void TakeMessage() {
-    user_.Type(user_.program.frmMain.txbFile[0], std::string(kBooks) + "/no-such-book.txt");
+    user_.Type(user_.program.frmMain.txbFile[0], FromQt(Books()) + "/no-such-book.txt");
     QTimer::singleShot(40, [this] {
       if (QWidget* box = QApplication::activeModalWidget()) Save(*box, "message-en");
     });
@@ -128,7 +131,7 @@ class Photographer {
     QPalette dark(QColor(53, 53, 53), QColor(35, 35, 35));
     dark.setColor(QPalette::Link, QColor(100, 160, 255));
     QApplication::setPalette(dark);
-    user_.program.Sources().ChooseText(std::string(kBooks) + "/harbour_en.txt");
+    user_.program.Sources().ChooseText(FromQt(Books()) + "/harbour_en.txt");
     user_.Click(user_.program.frmMain.cmdCountWords);
     Save(user_.windows.Main(), "main-dark");
     user_.program.frmMain.optInFile.SetValue(true);

@@ -115,7 +115,7 @@ TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   EXPECT_THAT(Words(), ElementsAre("cat", "category", "scatter"));
   EXPECT_TRUE(Says("3 words, 3 instances"));
   auto* kind = Window().Table().findChild<QComboBox*>();
-  kind->setCurrentIndex(static_cast<int>(FilterKind::kBeginWith));
+  kind->setCurrentIndex(static_cast<int>(FilterKind::kStartsWith));
   EXPECT_THAT(Words(), ElementsAre("cat", "category"));
   QTest::keyClick(&Box(), Qt::Key_Escape);
   EXPECT_THAT(Words(), testing::SizeIs(4));

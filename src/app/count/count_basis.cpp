@@ -21,10 +21,7 @@ std::string ValueInForce(const Setting& setting, const MainForm& frmMain,
     const auto* box = frmParams.Find(setting.switchedBy)->As<CheckBox>();
     if (box != nullptr && !box->IsChecked()) return {};
   }
-  const Control& control = ControlOf(setting, frmMain, frmParams);
-  // By its number: an item may be called otherwise in another language.
-  if (const auto* combo = control.As<ComboBox>()) return std::to_string(combo->ListIndex());
-  return ValueTextOf(control);
+  return LanguageFreeValueOf(ControlOf(setting, frmMain, frmParams));
 }
 
 }  // namespace

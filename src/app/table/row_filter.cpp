@@ -41,13 +41,13 @@ bool WordMatcher::Matches(const WordRec& word) const {
 
 bool WordMatcher::MatchesText(std::string_view text, std::string_view pattern) const {
   switch (kind_) {
-    case FilterKind::kContain:
+    case FilterKind::kContains:
       return text.find(pattern) != std::string_view::npos;
-    case FilterKind::kBeginWith:
+    case FilterKind::kStartsWith:
       return text.starts_with(pattern);
-    case FilterKind::kEndWith:
+    case FilterKind::kEndsWith:
       return text.ends_with(pattern);
-    case FilterKind::kAre:
+    case FilterKind::kEquals:
       return text == pattern;
     case FilterKind::kPattern:
       return MatchesWildcard(text, pattern);

@@ -19,10 +19,10 @@ namespace quillomat {
 
 /// In the order in which the user is offered them.
 enum class FilterKind : std::uint8_t {
-  kContain,
-  kBeginWith,
-  kEndWith,
-  kAre,
+  kContains,
+  kStartsWith,
+  kEndsWith,
+  kEquals,
   /// "?" stands for one character, "*" for any run of them.
   kPattern,
   /// It may match anywhere in a word.
@@ -30,7 +30,7 @@ enum class FilterKind : std::uint8_t {
 };
 
 struct RowFilter {
-  FilterKind kind = FilterKind::kContain;
+  FilterKind kind = FilterKind::kContains;
   /// "" for all words.
   std::string text;
 

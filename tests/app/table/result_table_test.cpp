@@ -57,7 +57,7 @@ TEST_F(ResultTableTest, WordsAreThereBeforeTheListIsMadeWhichMayAskTheUser) {
 
 TEST_F(ResultTableTest, OrderAndFilterStayForTheNextCount) {
   table_.SetOrder({WordColumn::kLength, true});
-  table_.SetFilter({FilterKind::kEndWith, "t"});
+  table_.SetFilter({FilterKind::kEndsWith, "t"});
   CountClipboard("cat dog carrot ox");
   EXPECT_EQ(Shown(), "carrot cat ");
   CountClipboard("rat parrot cow");

@@ -40,7 +40,7 @@ TEST_F(RowCellsTest, NumberOfFilesIsShownWhereItIsKnown) {
 TEST_F(RowCellsTest, TotalsAreSaidInTheLanguageOfTheProgram) {
   Add("cat", 1204);
   EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "1 word, 1.204 instances");
-  Rows().SetFilter({FilterKind::kAre, "dog"});
+  Rows().SetFilter({FilterKind::kEquals, "dog"});
   EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "0 words, 0 instances");
   text_.SetLanguage(Language::kGerman);
   EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "0 Wörter, 0 Vorkommen");

@@ -21,7 +21,7 @@ TEST_F(WordRowsTest, NoWordsAreNoRows) {
   EXPECT_EQ(Rows().Size(), 0U);
   EXPECT_EQ(Rows().Instances(), 0);
   EXPECT_EQ(Ordered(WordColumn::kWord), "");
-  EXPECT_EQ(Filtered(FilterKind::kContain, "a"), "");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "a"), "");
   EXPECT_EQ(Rows().FindBeginning("a", 0), std::nullopt);
 }
 
@@ -79,20 +79,20 @@ TEST_F(WordRowsTest, WordsThatAreLeftOutAreNoRows) {
     if (store_.WordOf(index) == "cat") store_.SetIncluded(index, false);
   }
   EXPECT_EQ(Shown(), "the sat Müller ox");
-  EXPECT_EQ(Filtered(FilterKind::kContain, "at"), "sat");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "at"), "sat");
   EXPECT_EQ(Ordered(WordColumn::kWord), "sat");
 }
 
 TEST_F(WordRowsTest, FilterLooksAtWordsAsTheListFoldsThem) {
   AddSample();
-  EXPECT_EQ(Filtered(FilterKind::kContain, "AT"), "cat sat");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "AT"), "cat sat");
   EXPECT_EQ(Rows().Instances(), 6);
-  EXPECT_EQ(Filtered(FilterKind::kContain, "ül"), "Müller");
-  EXPECT_EQ(Filtered(FilterKind::kContain, "muell"), "Müller");
-  EXPECT_EQ(Filtered(FilterKind::kBeginWith, "c"), "cat");
-  EXPECT_EQ(Filtered(FilterKind::kEndWith, "t"), "cat sat");
-  EXPECT_EQ(Filtered(FilterKind::kAre, "the"), "the");
-  EXPECT_EQ(Filtered(FilterKind::kAre, "th"), "");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "ül"), "Müller");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "muell"), "Müller");
+  EXPECT_EQ(Filtered(FilterKind::kStartsWith, "c"), "cat");
+  EXPECT_EQ(Filtered(FilterKind::kEndsWith, "t"), "cat sat");
+  EXPECT_EQ(Filtered(FilterKind::kEquals, "the"), "the");
+  EXPECT_EQ(Filtered(FilterKind::kEquals, "th"), "");
   EXPECT_EQ(Rows().Instances(), 0);
 }
 
@@ -118,8 +118,8 @@ TEST_F(WordRowsTest, ExpressionSeesWordsFoldedAndInLowerCase) {
 TEST_F(WordRowsTest, AccentsMakeADifferenceWhereTheyDoForTheList) {
   store_.SetKeyRule({.keepAccents = true});
   AddSample();
-  EXPECT_EQ(Filtered(FilterKind::kContain, "MÜL"), "Müller");
-  EXPECT_EQ(Filtered(FilterKind::kContain, "muel"), "");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "MÜL"), "Müller");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "muel"), "");
   EXPECT_EQ(Filtered(FilterKind::kPattern, "m?ller"), "Müller");
   Rows().SetFilter({});
   EXPECT_EQ(Rows().FindBeginning("mü", 0), 3U);
@@ -130,15 +130,15 @@ TEST_F(WordRowsTest, LettersOfAllLanguagesAreFoldedAsTheListDoes) {
   store_.SetKeyRule({.letters = LetterRule::kAll});
   Add("\u041C\u0438\u0440");
   Add("\u0141\u00F3d\u017A");
-  EXPECT_EQ(Filtered(FilterKind::kAre, "\u043C\u0418\u0420"), "\u041C\u0438\u0440");
-  EXPECT_EQ(Filtered(FilterKind::kBeginWith, "lod"), "\u0141\u00F3d\u017A");
+  EXPECT_EQ(Filtered(FilterKind::kEquals, "\u043C\u0418\u0420"), "\u041C\u0438\u0440");
+  EXPECT_EQ(Filtered(FilterKind::kStartsWith, "lod"), "\u0141\u00F3d\u017A");
   EXPECT_EQ(Filtered(FilterKind::kPattern, "\u0142?d?"), "\u0141\u00F3d\u017A");
 }
 
 TEST_F(WordRowsTest, FilterAndOrderDoNotDisturbEachOther) {
   AddSample();
   Rows().SetOrder({WordColumn::kWord, true});
-  EXPECT_EQ(Filtered(FilterKind::kContain, "at"), "sat cat");
+  EXPECT_EQ(Filtered(FilterKind::kContains, "at"), "sat cat");
   EXPECT_EQ(Ordered(WordColumn::kFrequency, true), "cat sat");
   Rows().SetFilter({});
   EXPECT_EQ(Shown(), "the cat sat Müller ox");
@@ -152,7 +152,7 @@ TEST_F(WordRowsTest, WordsAreFoundByTheirBeginningRoundTheEnd) {
   EXPECT_EQ(Rows().FindBeginning("mü", 0), 3U);
   EXPECT_EQ(Rows().FindBeginning("x", 0), std::nullopt);
   EXPECT_EQ(Rows().FindBeginning("ox", 99), 4U);
-  Rows().SetFilter({FilterKind::kContain, "at"});
+  Rows().SetFilter({FilterKind::kContains, "at"});
   EXPECT_EQ(Rows().FindBeginning("the", 0), std::nullopt) << "it is not shown";
 }
 
@@ -161,7 +161,7 @@ TEST_F(WordRowsTest, RowOfAWordIsFoundWhereverItStands) {
   const std::int32_t cat = Rows().Places()[1];
   Rows().SetOrder({WordColumn::kWord, true});
   EXPECT_EQ(Rows().RowAt(*Rows().RowOfPlace(cat)).word, "cat");
-  Rows().SetFilter({FilterKind::kAre, "ox"});
+  Rows().SetFilter({FilterKind::kEquals, "ox"});
   EXPECT_EQ(Rows().RowOfPlace(cat), std::nullopt);
 }
 

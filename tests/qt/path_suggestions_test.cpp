@@ -1,5 +1,5 @@
 // Paths that are offered while they are typed.
-#include "qt/path_completion.h"
+#include "qt/path_suggestions.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "qt/path_completion.h"
+#include "qt/path_suggestions.h"
 
 #include <QApplication>
 #include <QDir>
