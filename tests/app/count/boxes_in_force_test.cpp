@@ -10,6 +10,7 @@
 #include "app/count/count_fixture.h"
 #include "base/text_helpers.h"
 #include "support/permissions.h"
+#include "support/user_home.h"
 
 #ifndef _WIN32
 #include <sys/stat.h>
@@ -270,6 +271,24 @@ TEST_F(BoxesInForce, AWordsFileThatIsAPipeIsReadInWhole) {
   LeaveWordsFile(WordListKind::kIgnore);
   writer.join();
   EXPECT_THAT(IgnoredOfFile(), ElementsAre("cat", "dog", "zebra"));
+}
+
+TEST_F(BoxesInForce, AWordsFileThatIsAnIdlePipeIsGivenUpWhenTheProgramEnds) {
+  const UserHome home;  // the settings are saved there
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  std::fstream writing(pipe, std::ios::in | std::ios::out);
+  writing << "dog\n" << std::flush;
+  bool busy = false;
+  AtYield(3, [this, &busy] {
+    busy = State().Busy();
+    Main().CloseRequested.Fire();
+  });
+  TypeWordsFile(WordListKind::kIgnore, pipe);
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_TRUE(busy) << "nothing else begins meanwhile";
+  EXPECT_TRUE(program.HasEnded());
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
 }
 #endif
 
