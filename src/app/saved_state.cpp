@@ -64,8 +64,9 @@ std::string SavedState::SaveState(const std::string& path) {
 std::string SavedState::WhyNotToSaveTo(const std::string& path) const {
   if (path.empty()) return {};  // the settings file, which is nobody's text
   std::optional<NeededAs> neededAs = WhyNotToWrite(path, count_.words.counted);
-  if (!neededAs) neededAs = WhyNotToWrite(path, TextNamedIn(count_.frmMain));
-  if (!neededAs) neededAs = WhyNotToWrite(path, count_.inForce.filesRead);
+  if (!neededAs) {
+    neededAs = WhyNotToWrite(path, TextNamedIn(count_.frmMain), count_.inForce.filesRead);
+  }
   if (!neededAs || *neededAs == NeededAs::kState) return {};
   if (*neededAs == NeededAs::kText) return "the file is the text that is counted.";
   if (*neededAs == NeededAs::kWordsFile) return "the file is a words file.";

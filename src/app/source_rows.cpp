@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "app/count/file_source.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "system/file_system.h"
@@ -26,7 +27,7 @@ void SourceRows::ChooseText(const std::string& path) {
     frmMain_.txbFile[0].EnterText(path);
     frmMain_.optInFile.SetValue(true);
     const bool found = inputRow_.CheckInputFile(path) == ScanFileResult::kDone;
-    if (!found) messages_.Refuse("Input file does not exist.", "File not found");
+    if (!found) RefuseMissingInput(messages_);
   }
   SetTheFocus(frmMain_);
 }

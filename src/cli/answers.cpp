@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "app/list/output_refusal.h"
 #include "base/letter_case.h"
 
 namespace quillomat {

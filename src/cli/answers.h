@@ -7,9 +7,6 @@
 
 namespace quillomat {
 
-/// The box that takes a path besides "OK" and "Cancel".
-inline constexpr std::string_view kOverwriteTitle = "The output file exists.";
-
 /// Why `word` is no answer to the question with that title, in words for the user who wrote it;
 /// nothing when it is one. Letter case makes no difference.
 [[nodiscard]] std::optional<std::string> WhyNoAnswer(std::string_view title, std::string_view word);

@@ -2,10 +2,15 @@
 
 #include <algorithm>
 #include <ostream>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "app/count/file_source.h"
 #include "app/count/folder_observer.h"
+#include "app/exports/result_export.h"
+#include "cli/export_options.h"
+#include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
 #include "listing/display_format.h"
 #include "sources/counter.h"
@@ -73,7 +78,9 @@ CountRequest DirectCount::Request(CountWatch& watch) {
   if (progress && SizeCanBeKnown()) request.countingPass = CountingPass::kFilesAndBytes;
   // Whoever asks for no files shall not meet the limit of what can be counted in one.
   const auto format = static_cast<DisplayFormat>(program_.frmMain.cboDisplayFormat.ListIndex());
-  request.tallyFiles = input_.kind == Kind::kFolder || NeedsFileTallies(format);
+  const std::vector<WordColumn> columns = ExportColumns(options_, false);
+  request.tallyFiles = input_.kind == Kind::kFolder || NeedsFileTallies(format) ||
+                       std::ranges::any_of(columns, NeedsFiles);
   return request;
 }
 
@@ -112,19 +119,14 @@ CountWatch::Progress DirectCount::ProgressWanted() const {
 /// A text that was the only one is told of by HasWords.
 void DirectCount::TellSkipped(const CountWatch& watch) const {
   if (input_.kind != Kind::kFolder && input_.paths.size() == 1) return;
-  constexpr Headed kSkipped{MessageTone::kWarning, "Skipped: "};
+  std::vector<std::string> items;
   for (const SkippedFile& skipped : watch.Skipped()) {
-    if (input_.IsNamed(skipped.path)) {
-      streams_.err << kSkipped << NameOf(skipped.path) << " "
-                   << ReasonNotCounted(skipped.reason, skipped.error) << '\n';
-    } else {
-      streams_.err << kSkipped << skipped.path << ": " << ReasonText(skipped) << '\n';
-    }
+    items.push_back(input_.IsNamed(skipped.path)
+                        ? NameOf(skipped.path) + " " +
+                              ReasonNotCounted(skipped.reason, skipped.error)
+                        : skipped.path + ": " + ReasonText(skipped));
   }
-  const auto kept = static_cast<std::int64_t>(watch.Skipped().size());
-  if (watch.SkippedInAll() > kept) {
-    streams_.err << kSkipped << watch.SkippedInAll() - kept << " more\n";
-  }
+  PrintSkipped(streams_.err, items, watch.SkippedInAll(), messages_);
 }
 
 /// Nothing is lost without a word.
@@ -145,11 +147,7 @@ bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {
     case CountEnd::kRefused:
       return Refuse(result.refusal, result.error);
     case CountEnd::kFailed:
-      if (IsOutOfMemory(*result.error)) {
-        program_.Lister().ReportOutOfMemory(input_.Name());
-      } else {
-        program_.Lister().ReportProblem(result.error->Number(), result.error->Description());
-      }
+      program_.Lister().ReportError(*result.error, "reading " + input_.Name());
       return false;
     case CountEnd::kStoppedCounting:
       fault_ = "interrupted before anything was read";

@@ -51,7 +51,8 @@ std::optional<std::string> WriteBesideList(const std::string& path, const Progra
 std::optional<std::string> ExportResult(const Program& program, const CommandLine& options) {
   const ExportWish wish = WishOf(program, options);
   if (std::ranges::any_of(wish.columns, NeedsFiles) && !program.Words().store.Files().IsOn()) {
-    return "--columns: in which files a word occurs is known of folders with count-only words only";
+    return "--columns: in which files a word occurs is known of folders and several paths with "
+           "count-only words only";
   }
   const ResultExport result(program.Words(), program.frmMain, program.frmParams, wish);
   for (const std::string& path : options.exports) {

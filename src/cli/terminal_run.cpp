@@ -22,6 +22,7 @@
 #include "cli/input_choice.h"
 #include "cli/result_export.h"
 #include "cli/setting_options.h"
+#include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
 #include "listing/statistics.h"
@@ -217,7 +218,7 @@ class TerminalRun {
     if (options_.null) program_.Lister().SetFileLineBreak(std::string(1, '\0'));
     if (options_.top) program_.Lister().SetMostWordsInFile(*options_.top);
     if (!FormatIsServed()) return kRunFailed;
-    const bool toFile = HasOutputFile();
+    const bool toFile = program_.Lister().HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
     const bool reported = Report();
     if (options_.summary) PrintSummary();
@@ -258,7 +259,7 @@ class TerminalRun {
   /// True when a list was made.
   bool CountInWindow() {
     program_.frmMain.cmdCountWords.PerformClick();
-    PrintSkipped();
+    TellSkipped();
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
@@ -278,17 +279,12 @@ class TerminalRun {
     return program_.Words().totals.NumIncludedWords > 0;
   }
 
-  /// Whether the list goes to a file, by --output, a state or a setting.
-  bool HasOutputFile() const {
-    return !program_.frmMain.txbFile[1].Text().empty() &&
-           !program_.frmMain.chkDisableOutputToFile.IsChecked();
-  }
-
-  void PrintSkipped() {
+  void TellSkipped() {
+    std::vector<std::string> items;
     for (const SkippedItem& item : program_.Count().Skipped()) {
-      err_ << Headed{MessageTone::kWarning, "Skipped: "} << item.path << ": " << item.reason
-           << '\n';
+      items.push_back(item.path + ": " + item.reason);
     }
+    PrintSkipped(err_, items, program_.Count().SkippedInAll(), Messages(desktop_, program_.Text()));
   }
 
   /// What the window would show in place of a list; else a message has told why, but not of what.

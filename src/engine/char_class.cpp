@@ -60,17 +60,10 @@ bool IsWordChar(std::string_view ch, bool allowDigits, std::string_view extras) 
 }
 
 std::size_t CountWordChars(std::string_view text, std::size_t start, bool allowDigits,
-                           std::string_view extras) {
-  const CharClass charClass(allowDigits, extras);
-  std::size_t position = BytesOfFirst(text, start - 1);
-  std::size_t count = 0;
-  while (count < kMaxWordRun && position < text.size()) {
-    const std::size_t bytes = charClass.WordCharBytes(text, position);
-    if (bytes == 0) break;
-    position += bytes;
-    ++count;
-  }
-  return count;
+                           std::string_view extras, LetterRule letters) {
+  const CharClass charClass(allowDigits, extras, letters);
+  const std::size_t position = BytesOfFirst(text, start - 1);
+  return CharacterCount(text.substr(position, charClass.RunBytes(text, position)));
 }
 
 bool ContainsDigit(std::string_view text) {

@@ -26,9 +26,10 @@ inline constexpr std::size_t kMaxWordRun = 65'000;
 [[nodiscard]] bool IsWordChar(std::string_view ch, bool allowDigits, std::string_view extras);
 
 /// How many consecutive word characters stand in `text` from the character number `start` (1-based)
-/// on; at most kMaxWordRun.
+/// on; at most kMaxWordRun. A mark is one behind a letter.
 [[nodiscard]] std::size_t CountWordChars(std::string_view text, std::size_t start, bool allowDigits,
-                                         std::string_view extras);
+                                         std::string_view extras,
+                                         LetterRule letters = LetterRule::kWestern);
 
 /// Whether a decimal digit of any script occurs in `text`.
 [[nodiscard]] bool ContainsDigit(std::string_view text);

@@ -88,7 +88,7 @@ enum class CountEnd {
   kComplete,
   /// The observer asked for it while text was read; the words found until then are there.
   kStopped,
-  /// The observer asked for it in the counting pass.
+  /// The observer asked for it in the counting pass, or before.
   kStoppedCounting,
   /// Nothing was read, see `refusal`.
   kRefused,

@@ -22,8 +22,10 @@ class Count {
   CountResult Take() {
     CountResult& result = state_.result;
     try {
-      const Refusal refusal = Counter::Check(state_.request, result.error);
-      if (refusal != Refusal::kNone) {
+      const Refusal refusal = Counter::Check(state_.request, result.error, state_.stop);
+      if (state_.stop.Stopped()) {
+        result.end = CountEnd::kStoppedCounting;
+      } else if (refusal != Refusal::kNone) {
         state_.Refuse(refusal);
       } else {
         state_.observer.OnChecked();
@@ -80,12 +82,13 @@ class Count {
 
 }  // namespace
 
-Refusal Counter::Check(const CountRequest& request, std::optional<RunTimeError>& error) {
+Refusal Counter::Check(const CountRequest& request, std::optional<RunTimeError>& error,
+                       ScanYield& yield) {
   if (IsSet(request.scan.allowCommentMarkers) && FindMarkerFault(request.scan)) {
     return Refusal::kBadMarkers;
   }
   try {
-    return FaultOf(request.source, request.outputPath);
+    return FaultOf(request.source, request.outputPath, yield);
   } catch (const RunTimeError& unreadable) {
     error = unreadable;
     return Refusal::kFolderUnreadable;

@@ -34,9 +34,10 @@ class Counter {
   [[nodiscard]] CountResult Run();
 
   /// Why a count would be refused before anything is read, as far as that can be told without
-  /// opening a file; kNone if it would not. With kFolderUnreadable `error` says why.
+  /// opening a file; kNone if it would not. With kFolderUnreadable `error` says why. Yields while
+  /// it looks for the files of a folder; what it answers after a stop means nothing.
   [[nodiscard]] static Refusal Check(const CountRequest& request,
-                                     std::optional<RunTimeError>& error);
+                                     std::optional<RunTimeError>& error, ScanYield& yield);
 
  private:
   CountObserver nobody_;

@@ -45,16 +45,18 @@ void WalkFolder(const TextOfFolder& folder, const FolderVisitor& visitor) {
   Walk(folder.path, folder, visitor);
 }
 
-bool FolderHasFiles(const std::string& path, std::string_view pattern, bool includeSubfolders) {
+bool FolderHasFiles(const std::string& path, std::string_view pattern, bool includeSubfolders,
+                    const std::function<bool()>& stops) {
   const FolderListing listing = ListFolder(path);
   const auto fits = [pattern](const std::string& name) { return MatchesWildcard(name, pattern); };
   if (std::ranges::any_of(listing.files, fits)) return true;
   const auto hasFiles = [&](const std::string& name) {
     try {
-      return FolderHasFiles(JoinPath(path, name), pattern, true);
+      if (FolderHasFiles(JoinPath(path, name), pattern, true, stops)) return true;
     } catch (const RunTimeError&) {
-      return false;
+      // Nobody knows what it holds.
     }
+    return stops();
   };
   return includeSubfolders && std::ranges::any_of(listing.subfolders, hasFiles);
 }

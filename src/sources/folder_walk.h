@@ -25,8 +25,9 @@ void WalkFolder(const TextOfFolder& folder, const FolderVisitor& visitor);
 
 /// Whether a file whose name fits `pattern` (wildcard.h) is in the folder or, if asked for,
 /// anywhere below it. A subfolder that may not be read holds none; throws RunTimeError when the
-/// folder itself may not.
+/// folder itself may not. `stops` is asked after every subfolder; true ends the walk, with whatever
+/// answer.
 [[nodiscard]] bool FolderHasFiles(const std::string& path, std::string_view pattern,
-                                  bool includeSubfolders);
+                                  bool includeSubfolders, const std::function<bool()>& stops);
 
 }  // namespace quillomat

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 
 #include "base/byte_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
+#include "system/input_file.h"
 
 namespace quillomat {
 namespace {
@@ -58,11 +60,6 @@ LineEndingType LineEndingTypeOf(std::string_view head, std::size_t maximum) {
 
 LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum) {
   std::optional<InputFile> file;
-  return OpenText(path, maximum, file);
-}
-
-LineEndingType OpenText(const std::string& path, std::size_t maximum,
-                        std::optional<InputFile>& file) {
   try {
     file.emplace(path);
   } catch (const RunTimeError&) {

@@ -2,11 +2,8 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
-
-#include "system/input_file.h"
 
 namespace quillomat {
 
@@ -34,10 +31,5 @@ enum class LineEndingType {
 /// control character other than tab, line feed and carriage return makes it no text. Throws
 /// RunTimeError when a file that could be opened cannot be read.
 [[nodiscard]] LineEndingType GetLineEndingType(const std::string& path, std::size_t maximum);
-
-/// The same, and leaves the file open, to be read from its start on; empty when it could not be
-/// opened.
-[[nodiscard]] LineEndingType OpenText(const std::string& path, std::size_t maximum,
-                                      std::optional<InputFile>& file);
 
 }  // namespace quillomat

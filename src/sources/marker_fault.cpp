@@ -6,10 +6,11 @@
 namespace quillomat {
 namespace {
 
-bool CouldBePartOfWord(const std::string& marker, const ScanSettings& settings) {
+bool CouldBePartOfWord(const std::string& marker, const ScanSettings& settings,
+                       LetterRule letters) {
   const bool numerals = settings.AllowFlags[static_cast<std::size_t>(AllowFlag::kNumerals)];
-  return !marker.empty() &&
-         CountWordChars(marker, 1, numerals, settings.ExtraWordChars) == CharacterCount(marker);
+  return !marker.empty() && CountWordChars(marker, 1, numerals, settings.ExtraWordChars, letters) ==
+                                CharacterCount(marker);
 }
 
 }  // namespace
@@ -30,7 +31,8 @@ std::optional<MarkerFault> FindMarkerFault(const ScanChoices& choices) {
   settings.SetAllowWordsFlags(choices);
   settings.BuildExtraWordChars();
   for (const std::string& marker : choices.startComment) {
-    if (CouldBePartOfWord(marker, settings)) return MarkerFault{Kind::kPartOfWord, marker};
+    if (CouldBePartOfWord(marker, settings, choices.letters))
+      return MarkerFault{Kind::kPartOfWord, marker};
   }
   return std::nullopt;
 }

@@ -65,4 +65,14 @@ std::optional<NeededAs> WhyNotToWrite(const std::string& path, const FilesRead& 
   return std::nullopt;
 }
 
+std::optional<NeededAs> WhyNotToWrite(const std::string& path, const CountedText& text,
+                                      const FilesRead& filesRead) {
+  const std::optional<NeededAs> neededAs = WhyNotToWrite(path, text);
+  return neededAs ? neededAs : WhyNotToWrite(path, filesRead);
+}
+
+bool HoldsSomething(const std::string& path) {
+  return FileExists(path) && FileLength(path).has_value();
+}
+
 }  // namespace quillomat

@@ -49,5 +49,12 @@ enum class NeededAs : std::uint8_t { kText, kPartOfFolder, kWordsFile, kState };
                                                     const CountedText& text);
 [[nodiscard]] std::optional<NeededAs> WhyNotToWrite(const std::string& path,
                                                     const FilesRead& filesRead);
+/// Because of either; the text comes first.
+[[nodiscard]] std::optional<NeededAs> WhyNotToWrite(const std::string& path,
+                                                    const CountedText& text,
+                                                    const FilesRead& filesRead);
+
+/// Whether something would be lost that stands in the file. A device exists too, but holds nothing.
+[[nodiscard]] bool HoldsSomething(const std::string& path);
 
 }  // namespace quillomat

@@ -1,5 +1,7 @@
 #include "sources/source_check.h"
 
+#include <functional>
+#include <utility>
 #include <variant>
 
 #include "sources/folder_walk.h"
@@ -13,7 +15,8 @@ namespace {
 
 class SourceCheck {
  public:
-  explicit SourceCheck(const std::string& outputPath) : outputPath_(outputPath) {}
+  SourceCheck(const std::string& outputPath, std::function<bool()> stops)
+      : outputPath_(outputPath), stops_(std::move(stops)) {}
 
   Refusal operator()(const TextOfClipboard& source) const {
     if (source.text.empty()) return Refusal::kEmpty;
@@ -32,7 +35,9 @@ class SourceCheck {
     if (FindExtensionFault(source.extensions)) return Refusal::kBadExtensions;
     if (source.path.empty()) return Refusal::kNothingNamed;
     if (!FolderExists(source.path)) return Refusal::kFolderNotFound;
-    if (!FolderHasFiles(source.path, "*.*", source.subfolders)) return Refusal::kFolderHasNoFiles;
+    if (!FolderHasFiles(source.path, "*.*", source.subfolders, stops_)) {
+      return Refusal::kFolderHasNoFiles;
+    }
     return OutputIn(source);
   }
   Refusal operator()(const TextOfPaths& source) const {
@@ -64,16 +69,18 @@ class SourceCheck {
   }
 
   const std::string& outputPath_;
+  /// Whether to look on for files.
+  std::function<bool()> stops_;
 };
 
 }  // namespace
 
-Refusal FaultOf(const CountSource& source, const std::string& outputPath) {
-  return std::visit(SourceCheck(outputPath), source);
+Refusal FaultOf(const CountSource& source, const std::string& outputPath, ScanYield& yield) {
+  return std::visit(SourceCheck(outputPath, [&yield] { return yield.Yield(); }), source);
 }
 
 Refusal OutputFaultOf(const CountSource& source, const std::string& outputPath) {
-  const SourceCheck check(outputPath);
+  const SourceCheck check(outputPath, {});
   return std::visit([&check](const auto& text) { return check.OutputIn(text); }, source);
 }
 

@@ -3,13 +3,16 @@
 
 #include <string>
 
+#include "engine/word_scanner.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
 
 namespace quillomat {
 
-/// kNone if nothing is. Throws RunTimeError when a folder may not be read.
-[[nodiscard]] Refusal FaultOf(const CountSource& source, const std::string& outputPath);
+/// kNone if nothing is. Throws RunTimeError when a folder may not be read. Yields while it looks
+/// for the files of a folder; what it answers after a stop means nothing.
+[[nodiscard]] Refusal FaultOf(const CountSource& source, const std::string& outputPath,
+                              ScanYield& yield);
 
 /// Whether the list cannot be written there since the text needs it, for a folder or a list of
 /// paths; kNone also for a path that is empty.

@@ -7,6 +7,17 @@ namespace quillomat {
 
 InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForReading(path)) {}
 
+/// A pipe without a writer is at its end, though it is not ready.
+bool InputFile::AwaitsWriter() {
+  if (length_ > 0 || bytesRead_ > 0 || IsReady(std::chrono::milliseconds{0})) return false;
+  char first = 0;
+  const std::optional<std::size_t> bytes = file_.ReadAtHand({&first, 1});
+  if (!bytes) return false;
+  ahead_.append(&first, *bytes);
+  bytesRead_ += static_cast<std::int64_t>(*bytes);
+  return *bytes == 0;
+}
+
 std::size_t InputFile::Read(std::span<char> buffer) {
   if (aheadStart_ == ahead_.size()) return ReadFile(buffer);
   const std::size_t bytes = std::min(buffer.size(), ahead_.size() - aheadStart_);

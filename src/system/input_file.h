@@ -35,11 +35,9 @@ class InputFile final : public ByteSource {
     return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);
   }
 
-  /// Of a pipe that was found to be at its end: whether it has been because nobody has opened it
-  /// for writing yet. Always false where the system has no answer.
-  [[nodiscard]] bool AwaitsWriter() const {
-    return ended_ && bytesRead_ == 0 && !file_.IsReady(std::chrono::milliseconds{0});
-  }
+  /// Of a pipe of which nothing was read yet: whether nobody has opened it for writing. Always
+  /// false where the system has no answer.
+  [[nodiscard]] bool AwaitsWriter();
 
   /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
   std::size_t Read(std::span<char> buffer) override;

@@ -62,6 +62,8 @@ class NativeFile {
 
   /// At least one byte unless at the end, or `buffer` is empty.
   [[nodiscard]] std::size_t Read(std::span<char> buffer) const;
+  /// The same, but nothing where Read would wait, if the system can tell.
+  [[nodiscard]] std::optional<std::size_t> ReadAtHand(std::span<char> buffer) const;
 
   /// Writes all of `bytes`. A pipe without a reader is an error (ReaderGone), never the end of the
   /// program.

@@ -3,8 +3,11 @@
 #include <gmock/gmock.h>
 #include <sstream>
 
+#include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_fixture.h"
+#include "support/scripted_desktop.h"
+#include "text/program_text.h"
 
 namespace quillomat {
 namespace {
@@ -64,6 +67,30 @@ TEST_F(TerminalRunTest, PathsServeTheFormatsThatNameFiles) {
   EXPECT_EQ(Run({path, "--format", "13"}), 1);
   EXPECT_THAT(err, HasSubstr("Invalid display format: "));
   EXPECT_EQ(Run({"--file", path, "--only-words", "cat", "--format", "13"}), 1);
+}
+
+TEST_F(TerminalRunTest, PathsServeTheColumnsThatNameFiles) {
+  const std::vector<std::string> texts = {folder.Write("a.txt", "cat cat"),
+                                          folder.Write("b.txt", "cat dog")};
+  const std::string table = folder / "table.csv";
+  EXPECT_EQ(Run({texts[0], texts[1], "--only-words", "cat", "--export", table, "--columns",
+                 "word,files"}),
+            0)
+      << err;
+  EXPECT_EQ(ContentsOf(table), "word,files\r\ncat,2\r\n");
+  EXPECT_EQ(Run({texts[0], texts[1], "--export", table, "--overwrite", "--columns", "word,files"}),
+            1);
+  EXPECT_THAT(err, HasSubstr("known of folders and several paths with count-only words only"));
+}
+
+TEST_F(TerminalRunTest, SkippedItemsThatAreNotKeptAreNumbered) {
+  std::ostringstream told;
+  ScriptedDesktop desktop;
+  const ProgramText text;
+  const Messages messages(desktop, text);
+  PrintSkipped(told, {"a.txt: gone", "b.txt: gone"}, 1'236, messages);
+  EXPECT_EQ(told.str(), "Skipped: a.txt: gone\nSkipped: b.txt: gone\nSkipped: " +
+                            messages.Grouped(1'234) + " more\n");
 }
 
 TEST_F(TerminalRunTest, APathOfAFolderIsThatFolder) {

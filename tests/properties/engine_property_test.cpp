@@ -9,6 +9,8 @@
 #include "properties/count_case.h"
 #include "properties/count_outcome.h"
 #include "properties/property_cases.h"
+#include "reference/literal_engine.h"
+#include "sources/marker_fault.h"
 
 namespace quillomat::properties {
 namespace {
@@ -61,6 +63,18 @@ void CompareRandomCases(std::uint64_t seed) {
            << OutcomeOfProgram(smallest, Reading::kInParts) << "\non threads:\n"
            << OutcomeOfProgram(smallest, Reading::kOnThreads) << "\nthe literal engine's:\n"
            << OutcomeOfReference(smallest);
+  }
+}
+
+TEST(EngineProperty, CommentMarkersAreRefusedForTheReasonOfTheLiteralEngine) {
+  Random random(kFixedSeed);
+  for (int i = 0; i < CasesPerSeed(); ++i) {
+    const CountCase countCase = RandomCase(random);
+    reference::LiteralEngine literal;
+    literal.choices = countCase.choices;
+    const auto fault = FindMarkerFault(ScanChoicesOf(countCase.choices));
+    ASSERT_EQ(fault ? static_cast<int>(fault->kind) + 1 : 0, literal.CheckCommentMarkers())
+        << AsCode(countCase);
   }
 }
 

@@ -236,7 +236,7 @@ constexpr auto kPiecesOfAll =
 
 constexpr auto kStartMarkers =
     std::to_array<std::string_view>({"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t",
-                                     " ", "-", "\xD0\x96", "i\xCC\x81"});
+                                     " ", "-", "\xD0\x96", "i\xCC\x81", "\xD9\xA3"});
 constexpr auto kEndMarkers = std::to_array<std::string_view>(
     {"*/", "", ">", "#", "end", "|", "END", ";", "\xC3\xA9", " ", "- "});
 constexpr std::array<std::string_view, 4> kMarkerKinds = {"", "HTML", "C", "user"};

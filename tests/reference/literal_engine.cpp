@@ -56,6 +56,26 @@ void LiteralEngine::SetCommentMarkers(std::string_view preset) {
   }
 }
 
+int LiteralEngine::CheckCommentMarkers() {
+  SetCommentMarkers("user");
+  if (CommentStart[0].empty()) return 1;
+  for (std::size_t i = 0; i < 2; ++i) {
+    if (CommentStart[i].empty() && !CommentEnd[i].empty()) return 2;
+  }
+  for (std::size_t i = 0; i < 2; ++i) {
+    if (!CommentStart[i].empty() && CommentStart[i] == CommentEnd[i]) return 3;
+  }
+  ReadingWordList = false;
+  SetAllowWordsFlags();
+  BuildExtraWordChars();
+  const auto count = AllLetters() ? CountWordCharsOfAll : CountWordChars;
+  for (const Characters& marker : CommentStart) {
+    if (marker.empty()) continue;
+    if (count(marker, 1, AllowFlags[10], ExtraWordChars) == marker.size()) return 4;
+  }
+  return 0;
+}
+
 void LiteralEngine::ClearListCharFlags() {
   ListCharFlags.fill(false);
 }

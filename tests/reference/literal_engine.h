@@ -77,6 +77,10 @@ class LiteralEngine {
   void BuildExtraWordChars();
   /// "HTML", "C", "" (no markers); anything else loads the markers of the choices.
   void SetCommentMarkers(std::string_view preset);
+  /// The number of the first check that the markers of the choices fail, 1 to 4, or 0: the first
+  /// start marker is empty; one is empty with an end marker; both are the same; every character of
+  /// a start marker may stand in a word.
+  [[nodiscard]] int CheckCommentMarkers();
   void ClearListCharFlags();
   void NoteListWordChars(const Characters& word);
   void TickAllowBoxesForListWords();

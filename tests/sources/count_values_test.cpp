@@ -85,5 +85,25 @@ TEST_F(Markers, MayBePartOfWordsByWhatIsAllowedThere) {
   EXPECT_TRUE(FindMarkerFault(choices_));
 }
 
+TEST_F(Markers, MayBePartOfWordsByTheLettersThatAreChosen) {
+  for (const std::string_view marker : {"\u0436", "re\u0301m", "\u8A9E"}) {
+    choices_.letters = LetterRule::kWestern;
+    choices_.startComment = {std::string(marker), ""};
+    EXPECT_FALSE(FindMarkerFault(choices_)) << marker;
+    choices_.letters = LetterRule::kAll;
+    EXPECT_TRUE(FindMarkerFault(choices_)) << marker;
+  }
+  choices_.startComment = {"\u0301", ""};  // a mark behind no letter
+  EXPECT_FALSE(FindMarkerFault(choices_));
+}
+
+TEST_F(Markers, MayBeDigitsOfAnyScriptWhereThoseAreWords) {
+  choices_.letters = LetterRule::kAll;
+  choices_.startComment = {"\u0663", ""};
+  EXPECT_FALSE(FindMarkerFault(choices_));
+  choices_.allowWordsWith[static_cast<std::size_t>(AllowFlag::kNumerals)] = CheckState::kChecked;
+  EXPECT_TRUE(FindMarkerFault(choices_));
+}
+
 }  // namespace
 }  // namespace quillomat

@@ -159,6 +159,14 @@ TEST_F(ManyFiles, MayBeStoppedWhileTheyAreCounted) {
   EXPECT_EQ(result.wordsRead, 0);
 }
 
+TEST_F(ManyFiles, MayBeStoppedWhileItIsLookedForAny) {
+  static_cast<void>(folder.Make("none/at/all"));
+  observer.stopped = true;
+  const CountResult result = Run(TextOfFolder{folder / "none", true, {}});
+  EXPECT_EQ(result.end, CountEnd::kStoppedCounting);
+  EXPECT_TRUE(observer.events.empty());
+}
+
 TEST_F(ManyFiles, AreStoppedInTheMiddle) {
   observer.stopAtWord = 2;
   const CountResult result = Run(Whole());

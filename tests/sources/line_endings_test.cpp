@@ -1,7 +1,6 @@
 #include "sources/line_endings.h"
 
 #include <gtest/gtest.h>
-#include <optional>
 #include <string>
 
 #include "support/permissions.h"
@@ -32,17 +31,6 @@ TEST_F(LineEndings, TheTypesHaveTheirCodes) {
   EXPECT_EQ(static_cast<int>(Type::kNotFound), -1);
   EXPECT_EQ(static_cast<int>(Type::kZeroLength), -2);
   EXPECT_EQ(static_cast<int>(Type::kCannotBeOpened), -3);
-}
-
-TEST_F(LineEndings, FileThatWasLookedAtIsAtItsStart) {
-  const std::string contents = "one\n" + std::string(3 * kMaximum, 'x');
-  std::optional<InputFile> file;
-  EXPECT_EQ(OpenText(folder_.Write("text.txt", contents), kMaximum, file), Type::kUnix);
-  ASSERT_TRUE(file.has_value());
-  EXPECT_EQ(ReadWhole(*file, 4096), contents);
-  file.reset();
-  EXPECT_EQ(OpenText(folder_ / "none.txt", kMaximum, file), Type::kNotFound);
-  EXPECT_FALSE(file.has_value());
 }
 
 TEST_F(LineEndings, AreToldFromTheBreaksThatOccur) {

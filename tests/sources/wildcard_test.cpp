@@ -75,13 +75,23 @@ TEST(Wildcard, ManyStarsCostNoMoreThanAMoment) {
 }
 
 TEST(FolderHasFiles, LooksForAPatternAndBelowOnlyIfAskedFor) {
+  const auto goesOn = [] { return false; };
   const TemporaryFolder folder;
   static_cast<void>(folder.Write("texts/a.txt", "cat"));
-  EXPECT_FALSE(FolderHasFiles(folder.Path(), "*.*", false));
-  EXPECT_TRUE(FolderHasFiles(folder.Path(), "*.*", true));
-  EXPECT_TRUE(FolderHasFiles(folder / "texts", "?.t*", false));
-  EXPECT_FALSE(FolderHasFiles(folder.Path(), "b*", true));
-  EXPECT_THROW(static_cast<void>(FolderHasFiles(folder / "nowhere", "*.*", true)), RunTimeError);
+  EXPECT_FALSE(FolderHasFiles(folder.Path(), "*.*", false, goesOn));
+  EXPECT_TRUE(FolderHasFiles(folder.Path(), "*.*", true, goesOn));
+  EXPECT_TRUE(FolderHasFiles(folder / "texts", "?.t*", false, goesOn));
+  EXPECT_FALSE(FolderHasFiles(folder.Path(), "b*", true, goesOn));
+  EXPECT_THROW(static_cast<void>(FolderHasFiles(folder / "nowhere", "*.*", true, goesOn)),
+               RunTimeError);
+}
+
+TEST(FolderHasFiles, StopsWhenAsked) {
+  const TemporaryFolder folder;
+  for (const char* name : {"a", "b", "c"}) static_cast<void>(folder.Make(name));
+  int asked = 0;
+  static_cast<void>(FolderHasFiles(folder.Path(), "*.*", true, [&asked] { return ++asked == 2; }));
+  EXPECT_EQ(asked, 2);
 }
 
 }  // namespace

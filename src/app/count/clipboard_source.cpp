@@ -92,11 +92,7 @@ bool ClipboardSource::ScanClipboard(CountRequest request) {
                            "Invalid input");
     return false;
   }
-  if (result.error && IsOutOfMemory(*result.error)) {
-    lister_.ReportOutOfMemory("the text on the clipboard");
-  } else if (result.error) {
-    lister_.ReportProblem(result.error->Number(), result.error->Description());
-  }
+  if (result.error) lister_.ReportError(*result.error, "reading the text on the clipboard");
   chkSuppressWords.SetValue(suppress);
   SetTheFocus(count_.frmMain);
   return !result.error;

@@ -6,6 +6,7 @@
 
 #include "app/count/comment_marker_check.h"
 #include "app/count/window_state.h"
+#include "app/list/output_refusal.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "base/run_time_error.h"
@@ -50,8 +51,7 @@ void CountRun::RunCount() {
     if (!FolderHadFiles()) return;
     FinishRun(request.filters);
   } catch (const RunTimeError& error) {
-    if (IsOutOfMemory(error)) return lister_.ReportOutOfMemory();
-    lister_.ReportProblem(error.Number(), error.Description());
+    lister_.ReportError(error);
   } catch (const std::bad_alloc&) {
     lister_.ReportOutOfMemory();
   }
@@ -63,19 +63,16 @@ bool CountRun::PrepareRun() {
   ConcealNumWords(count_.frmMain, false);
   if (!listsTaken || !lister_.MayWriteOutputFile({})) return false;
   count_.words.minimumColumnWidth = kMinimumColumnWidth;
-  count_.inForce.settings.CountOnlyMode = count_.inForce.lists.HasCountOnlyWords();
   if (!MarkersStand()) {
     frmParams_.SetState(WindowState::kNormal);  // it may be minimized
     frmParams_.Show();
     return false;
   }
   if (!count_.frmMain.optOnClipboard.Value() && !ExtensionsStand()) return false;
-  basis_ = CountBasisOf(count_.frmMain, frmParams_, count_.inForce);
   count_.inForce.settings.ReadingWordList = false;
   count_.words.listAfterStop = false;
   lister_.ForgetOutputFile();
   count_.output.SetFull(false);
-  count_.words.WordsRead = 0;
   return true;
 }
 
@@ -138,11 +135,7 @@ bool CountRun::ScanSingleFile(const CountRequest& request) {
   file_.EndProgressBar();
   if (result == ScanFileResult::kDone) return true;
   if (result == ScanFileResult::kRunTimeError) {
-    if (IsOutOfMemory(file_.Error())) {
-      lister_.ReportOutOfMemory(file_.Path());
-    } else {
-      lister_.ReportProblem(file_.Error().Number(), file_.Error().Description());
-    }
+    lister_.ReportError(file_.Error(), "reading " + file_.Path());
   } else {
     ReportInputFileError(result);
   }
@@ -160,12 +153,11 @@ void CountRun::ReportInputFileError(ScanFileResult code) const {
     case ScanFileResult::kFolderNotFile:
       return count_.messages.Refuse("Invalid input file specification.", "Invalid input");
     case ScanFileResult::kNotFound:
-      return count_.messages.Refuse("Input file does not exist.", "File not found");
+      return RefuseMissingInput(count_.messages);
     case ScanFileResult::kNotSpecified:
       return count_.messages.Refuse("Input file not specified.", "Error");
     case ScanFileResult::kOutputIsInput:
-      return count_.messages.Refuse("The output file cannot be the same as the input file.",
-                                    "Error");
+      return RefuseOutputFile(count_.messages, NeededAs::kText);
     default:
       return;
   }
@@ -201,17 +193,26 @@ bool CountRun::FolderHadFiles() const {
   return false;
 }
 
-void CountRun::FinishRun(const FilterChoices& filters) {
-  ShowProcessingNotice();
-  count_.frmMain.lblNumWordsExcluded.SetCaption("");
-  count_.run.EnterPhase(RunPhase::kListing);
-  desktop_.Repaint();
+void CountRun::FilterAndRank(const FilterChoices& filters) {
   if (!count_.inForce.settings.CountOnlyMode) {
     ApplyWordFilters(count_.words.store, filters);
   }
   count_.output.ShowText(count_.frmMain.txbOutput.Text() + ". . . ");
   count_.words.totals = count_.words.store.TallyWords();
   RankWords();
+}
+
+void CountRun::FinishRun(const FilterChoices& filters) {
+  ShowProcessingNotice();
+  count_.frmMain.lblNumWordsExcluded.SetCaption("");
+  count_.run.EnterPhase(RunPhase::kListing);
+  desktop_.Repaint();
+  try {
+    FilterAndRank(filters);
+  } catch (...) {
+    count_.words.Discard();  // what is not ranked cannot be listed
+    throw;
+  }
   ShowSummary(count_.frmMain, count_.words, count_.inForce, count_.messages.DigitGroupSeparator());
   count_.words.blnWordsGot = true;
   count_.words.WordsRanked.Fire();
@@ -251,12 +252,22 @@ void CountRun::OnListFilesClick() {
   count_.output.ClearOutput();
   {
     const PhaseGuard guard(count_.run, RunPhase::kChecking);
-    count_.output.OutputToTxb("{Folder} = " + count_.frmMain.txbFolder.Text() + std::string(kCrLf));
-    folder_.ListFiles();
+    ListFiles();
   }
   controls_.EnableControls(true);
   count_.run.ForgetStop();
   count_.run.BecameIdle.Fire();
+}
+
+void CountRun::ListFiles() {
+  try {
+    count_.output.OutputToTxb("{Folder} = " + count_.frmMain.txbFolder.Text() + std::string(kCrLf));
+    folder_.ListFiles();
+  } catch (const RunTimeError& error) {
+    lister_.ReportError(error);
+  } catch (const std::bad_alloc&) {
+    lister_.ReportOutOfMemory();
+  }
 }
 
 void CountRun::OnListChoiceChanged() {

@@ -79,7 +79,7 @@ class CountRun {
   /// How many that is in all.
   [[nodiscard]] std::int64_t SkippedInAll() const { return folder_.SkippedInAll(); }
   /// What the last count went by.
-  [[nodiscard]] const CountBasis& Basis() const { return basis_; }
+  [[nodiscard]] const CountBasis& Basis() const { return count_.words.basis; }
 
   /// A list was made, of words that were found, since the last count began.
   [[nodiscard]] bool ListWasMade() const { return listWasMade_; }
@@ -100,7 +100,9 @@ class CountRun {
   void ShowProcessingNotice();
   void DropProcessingNotice();
   void RankWords();
+  void FilterAndRank(const FilterChoices& filters);
   void FinishRun(const FilterChoices& filters);
+  void ListFiles();
   void ListAgain(ListTarget target);
 
   WindowCount count_;
@@ -114,7 +116,6 @@ class CountRun {
   FileSource file_;
   FileExtensions extensions_;
   FolderSource folder_;
-  CountBasis basis_;
   /// The output with the processing notice, and as it was before.
   std::string shownNotice_;
   std::string outputBeforeNotice_;

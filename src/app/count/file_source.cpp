@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/count/named_text.h"
 #include "app/count/progress_bar.h"
 #include "app/list/summary.h"
 #include "base/text_helpers.h"
@@ -41,6 +42,10 @@ void TellNotText(const Messages& messages) {
                 std::string(kInvalidInputFile), MessageIcon::kInformation);
 }
 
+void RefuseMissingInput(const Messages& messages) {
+  messages.Refuse("Input file does not exist.", "File not found");
+}
+
 ScanFileResult FileSource::ScanFile(CountRequest request) {
   if (const ScanFileResult refused = CheckPaths(); refused != ScanFileResult::kDone) {
     return refused;
@@ -48,7 +53,7 @@ ScanFileResult FileSource::ScanFile(CountRequest request) {
   if (!AskAboutLargeFile()) return ScanFileResult::kCancelled;
   if (OutputIsInput()) return ScanFileResult::kOutputIsInput;  // it may have been chosen only now
   count_.run.SetScanning(true);
-  FileObserver observer(count_, AsText(), desktop_);
+  FileObserver observer(count_, TextNamedIn(count_.frmMain), desktop_);
   request.source = TextOfFile{path_};
   const CountResult result = CountInWindow(count_, request, observer);
   if (result.end == CountEnd::kRefused) return TellRefusal(result.refusal);
@@ -70,12 +75,8 @@ ScanFileResult FileSource::CheckPaths() {
   return OutputIsInput() ? ScanFileResult::kOutputIsInput : ScanFileResult::kDone;
 }
 
-CountedText FileSource::AsText() const {
-  return {CountedText::Source::kFile, AbsolutePath(path_)};
-}
-
 bool FileSource::OutputIsInput() const {
-  return WhyNotToWrite(count_.frmMain.txbFile[1].Text(), AsText()).has_value();
+  return WhyNotToWrite(count_.frmMain.txbFile[1].Text(), TextNamedIn(count_.frmMain)).has_value();
 }
 
 /// False when the user cancels or quits. Only asked when an earlier scan ended early.

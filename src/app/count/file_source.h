@@ -37,7 +37,6 @@ class FileSource {
 
  private:
   [[nodiscard]] ScanFileResult CheckPaths();
-  [[nodiscard]] CountedText AsText() const;
   [[nodiscard]] bool OutputIsInput() const;
   [[nodiscard]] bool AskAboutLargeFile();
   [[nodiscard]] ScanFileResult TellRefusal(Refusal refusal) const;
@@ -53,5 +52,7 @@ class FileSource {
 
 /// Tells the user that a file is no text.
 void TellNotText(const Messages& messages);
+/// Tells the user that there is no such file.
+void RefuseMissingInput(const Messages& messages);
 
 }  // namespace quillomat

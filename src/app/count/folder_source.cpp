@@ -84,7 +84,8 @@ void FolderSource::ListFiles() {
   request.source = TextOfFolder{Folder().path, Folder().subfolders, {}};
   request.outputPath = count_.frmMain.txbFile[1].Text();
   CountResult check;
-  check.refusal = Counter::Check(request, check.error);
+  check.refusal = Counter::Check(request, check.error, count_.run);
+  if (count_.run.StopRequested()) return TellStoppedCounting(0, 1);
   if (check.refusal != Refusal::kNone) return TellRefusal(check);
   count_.run.EnterPhase(RunPhase::kCounting);
   std::int32_t files = 0;

@@ -28,6 +28,8 @@ void WindowObserver::OnScanBegins() {
   HideNoticeLabels(count_.frmMain);
   count_.words.Discard();
   count_.words.counted = text_;
+  count_.words.basis = basis_;
+  count_.inForce.settings.CountOnlyMode = countOnlyMode_;
 }
 
 void WindowObserver::OnFileBegins(const FileBegins& file) {
@@ -58,6 +60,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
+    count.words.folder = {result.files, result.folders, {}};
     count.words.FilesKnown.Fire();
     count.inForce.settings.OpenComment = result.openComment;
   }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "app/count/count_basis.h"
 #include "app/count/progress_bar.h"
 #include "app/count/word_echo.h"
 #include "app/what_parts_share.h"
@@ -22,6 +23,7 @@ namespace quillomat {
 /// What a count in the window works with: the sources hand it to their observers.
 struct WindowCount {
   MainForm& frmMain;
+  const ParamsForm& frmParams;
   OutputBox& output;
   const Messages& messages;
   RunState& run;
@@ -29,17 +31,20 @@ struct WindowCount {
   InForce& inForce;
 };
 [[nodiscard]] inline WindowCount WindowCountOf(const UserSide& user, const ProgramFacts& facts) {
-  return {user.frmMain, user.output, user.messages, facts.run, facts.words, facts.inForce};
+  return {user.frmMain, user.frmParams, user.output,  user.messages,
+          facts.run,    facts.words,    facts.inForce};
 }
 
 /// Shows on the main window how a count gets on, and passes on the user's wish to stop. The sources
 /// add what is their own.
 class WindowObserver : public CountObserver {
  public:
-  /// `text` is where the words will have come from.
+  /// `text` is where the words will have come from. The count goes by what the windows say now.
   WindowObserver(const WindowCount& count, CountedText text)
       : count_(count),
         text_(std::move(text)),
+        basis_(CountBasisOf(count.frmMain, count.frmParams, count.inForce)),
+        countOnlyMode_(count.inForce.lists.HasCountOnlyWords()),
         echo_(count.frmMain, count.output, count.messages, count.inForce.settings),
         fileProgress_(count.frmMain.lblTotalNumOccurrences) {}
 
@@ -51,7 +56,8 @@ class WindowObserver : public CountObserver {
   }
 
   void OnChecked() override { count_.run.EnterPhase(RunPhase::kCounting); }
-  /// The words of the last count are gone.
+  /// The words of the last count are gone, and what it went by: until now all stands as it was, as
+  /// the count may be refused.
   void OnScanBegins() override;
   void OnFileBegins(const FileBegins& file) override;
   void OnProgress(const CountProgress& progress) override;
@@ -65,6 +71,8 @@ class WindowObserver : public CountObserver {
  private:
   const WindowCount& count_;
   CountedText text_;
+  CountBasis basis_;
+  bool countOnlyMode_;
   WordEcho echo_;
   ProgressBar fileProgress_;
   bool unixFile_ = false;

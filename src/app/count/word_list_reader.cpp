@@ -18,6 +18,7 @@
 #include "engine/uncounted.h"
 #include "engine/word_scanner.h"
 #include "sources/line_endings.h"
+#include "sources/read_sources.h"
 #include "system/file_system.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -25,7 +26,8 @@
 namespace quillomat {
 namespace {
 
-constexpr std::size_t kTextTestBytes = 16'384;
+/// So many bytes at the start of a words file say whether it is a text.
+constexpr std::size_t kListTestBytes = 16'384;
 /// Of a line of a words file, and of one that has no length of its own and may have no end: a pipe,
 /// a device.
 constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
@@ -40,6 +42,12 @@ bool IsIgnore(WordListKind kind) {
 
 std::string KindName(WordListKind kind) {
   return IsIgnore(kind) ? "words-to-ignore" : "count-only words";
+}
+
+/// `text` is what stands in the file.
+LineEndingType TypeOf(HeadedSource& text, const std::string& path) {
+  if (FileLength(path) == 0) return LineEndingType::kZeroLength;
+  return LineEndingTypeOf(text.Ahead(HeadBytes(kListTestBytes)), kListTestBytes);
 }
 
 /// While it lives, the boxes that a words file is read with stand as it needs them.
@@ -139,13 +147,16 @@ bool WordListReader::ReadWords(WordListKind kind) {
   ForgetWordsOfFile(kind);
   tooLong_.clear();
   try {
-    std::optional<InputFile> file;  // opened once: what comes from a pipe comes only once
-    const LineEndingType type = OpenText(path, kTextTestBytes, file);
-    if (!file) return false;
-    if (file->AwaitsWriter()) {
+    const PhaseGuard guard(run_, RunPhase::kReading);
+    InputFile file(path);  // opened once: what comes from a pipe comes only once
+    if (file.AwaitsWriter()) {
       messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;
     }
+    PatientSource patient(file, run_);
+    HeadedSource text(patient);
+    const LineEndingType type = TypeOf(text, path);
+    if (run_.StopRequested()) return false;
     if (type == LineEndingType::kNotText) {
       messages_.Refuse("This is not a text file.", "Invalid input");
       return false;
@@ -164,7 +175,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ConcealNumWords(frmMain_, false);
     output_.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
                                     : "Now reading count-only words . . . ");
-    ScanWordsFile(*file);
+    ScanWordsFile(text, file.Length() == 0);
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
     rulesInForce_[IndexOf(kind)] = choices.Keys();
@@ -179,16 +190,15 @@ bool WordListReader::ReadWords(WordListKind kind) {
   }
 }
 
-void WordListReader::ScanWordsFile(InputFile& file) {
-  const PhaseGuard guard(run_, RunPhase::kReading);
+void WordListReader::ScanWordsFile(ByteSource& text, bool mayBeEndless) {
   const ScanChoices choices = ReadScanChoices(frmParams_);
   const WordLists lists = inForce_.lists;
   WordEcho echo(frmMain_, output_, messages_, inForce_.settings);
   const ListenerGuard listening(words_.store, echo);
   WordScanner scanner(inForce_.settings, choices, lists, words_.store, run_);
   SourceLimits limits{.lineBytes = kMostWordsBytes};
-  if (file.Length() == 0) limits.bytes = kMostWordsBytes;
-  LimitedSource limited(file, limits);
+  if (mayBeEndless) limits.bytes = kMostWordsBytes;
+  LimitedSource limited(text, limits);
   LineDecoder lines(limited);
   std::string buffer;
   lettersNotRead_ = 0;

@@ -9,9 +9,9 @@
 #include <string>
 
 #include "app/what_parts_share.h"
+#include "base/byte_source.h"
 #include "engine/letter_rule.h"
 #include "engine/word_list.h"
-#include "system/input_file.h"
 
 namespace quillomat {
 
@@ -67,7 +67,7 @@ class WordListReader {
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
-  void ScanWordsFile(InputFile& file);
+  void ScanWordsFile(ByteSource& text, bool mayBeEndless);
   void TakeWordsFromStore(WordListKind kind);
   void TickAllowBoxesForListWords();
   [[nodiscard]] WordList& FileList(WordListKind kind);

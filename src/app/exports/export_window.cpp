@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <charconv>
+#include <new>
 #include <system_error>
 
 #include "app/count/path_boxes.h"
 #include "app/count/window_state.h"
 #include "app/exports/export_run.h"
+#include "app/list/output_refusal.h"
 #include "app/list/set_the_focus.h"
+#include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "export/word_export.h"
 #include "system/file_system.h"
@@ -85,7 +88,7 @@ void ExportWindow::Connect() {
 
 void ExportWindow::Open() {
   if (run_.Busy()) return;
-  if (!words_.CanBeListed() || words_.totals.NumIncludedWords == 0) {
+  if (words_.totals.NumIncludedWords == 0) {
     return messages_.Tell(Text(kNothingToExportText), frmExport_.Caption());
   }
   Prepare();
@@ -183,7 +186,8 @@ void ExportWindow::OnExportClick() {
 
 void ExportWindow::Export() {
   frmExport_.lblState.SetCaption("");
-  if (!words_.CanBeListed()) return Complain(Text(kNothingToExportText), frmExport_.cmdClose);
+  if (words_.totals.NumIncludedWords == 0)
+    return Complain(Text(kNothingToExportText), frmExport_.cmdClose);
   const std::optional<ExportWish> wish = TakeWish();
   if (!wish || !TakePath() || !MayWrite(frmExport_.txbFile.Text()) || !AskToOverwrite()) return;
   Write(*wish);
@@ -251,12 +255,7 @@ bool ExportWindow::AskToOverwrite() {
   if (!frmParams_.chkWarnOnOverwrite.IsChecked()) return true;
   std::string agreed;
   while (txbFile.Text() != agreed && HoldsSomething(txbFile.Text())) {
-    InputBox box;
-    box.title = "The output file exists.";
-    box.prompt = "To overwrite the current output file click on 'OK'." + std::string(kCrLf) +
-                 "To write to a different file edit the filepath below." + std::string(kCrLf) +
-                 Text(kCancelExportText);
-    box.defaultAnswer = txbFile.Text();
+    const InputBox box = OverwriteQuestion(txbFile.Text(), Text(kCancelExportText));
     const std::string answer(TrimBlanks(desktop_.AskForText(box)));
     if (answer.empty()) return false;
     agreed = txbFile.Text();
@@ -273,15 +272,19 @@ void ExportWindow::Write(const ExportWish& wish) {
   {
     const PhaseGuard guard(run_, RunPhase::kExporting);
     ShowRunning(true);
-    const ResultExport result(words_, frmMain_, frmParams_, wish);
-    words = messages_.Grouped(static_cast<std::int64_t>(result.Table().places.size()));
-    const ExportWork write = [&, format = Format()](const ExportProgress& progress) {
-      return ExportToFile(result.Table(), format, path, progress);
-    };
-    outcome = RunExport(run_, pump_, write, [&](std::size_t done) {
-      frmExport_.lblState.SetCaption(
-          Text(kExportProgressText, {messages_.Grouped(static_cast<std::int64_t>(done)), words}));
-    });
+    try {
+      const ResultExport result(words_, frmMain_, frmParams_, wish);
+      words = messages_.Grouped(static_cast<std::int64_t>(result.Table().places.size()));
+      const ExportWork write = [&, format = Format()](const ExportProgress& progress) {
+        return ExportToFile(result.Table(), format, path, progress);
+      };
+      outcome = RunExport(run_, pump_, write, [&](std::size_t done) {
+        frmExport_.lblState.SetCaption(
+            Text(kExportProgressText, {messages_.Grouped(static_cast<std::int64_t>(done)), words}));
+      });
+    } catch (const std::bad_alloc&) {
+      outcome = {ExportOutcome::End::kFailed, DescriptionOf(RunTimeErrorNumber::kOutOfMemory)};
+    }
     ShowRunning(false);
   }
   run_.ForgetStop();

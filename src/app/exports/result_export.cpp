@@ -6,7 +6,6 @@
 #include "app/setting_values.h"
 #include "app/settings_table.h"
 #include "listing/statistics.h"
-#include "system/file_system.h"
 
 namespace quillomat {
 namespace {
@@ -60,12 +59,7 @@ bool NeedsFiles(WordColumn column) {
 
 std::optional<NeededAs> WhyNotToExport(const std::string& path, const CurrentWords& words,
                                        const InForce& inForce) {
-  const std::optional<NeededAs> neededAs = WhyNotToWrite(path, words.counted);
-  return neededAs ? neededAs : WhyNotToWrite(path, inForce.filesRead);
-}
-
-bool HoldsSomething(const std::string& path) {
-  return FileExists(path) && FileLength(path).has_value();
+  return WhyNotToWrite(path, words.counted, inForce.filesRead);
 }
 
 ResultExport::ResultExport(const CurrentWords& words, const MainForm& frmMain,

@@ -36,8 +36,6 @@ struct ExportWish {
 [[nodiscard]] std::optional<NeededAs> WhyNotToExport(const std::string& path,
                                                      const CurrentWords& words,
                                                      const InForce& inForce);
-/// Whether something would be lost that stands in the file. A device exists too, but holds nothing.
-[[nodiscard]] bool HoldsSomething(const std::string& path);
 
 class ResultExport {
  public:

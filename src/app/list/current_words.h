@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "app/count/count_basis.h"
 #include "engine/uncounted.h"
 #include "engine/word_store.h"
 #include "listing/frequency_ranking.h"
@@ -18,10 +19,11 @@
 
 namespace quillomat {
 
-/// What a count of a folder went through.
+/// What a count went through.
 struct FolderFigures {
+  /// 0 for text of the clipboard.
   std::int32_t filesScanned = 0;
-  /// The chosen one included; 0 before any folder was scanned.
+  /// The chosen one included; 0 where no folder was scanned.
   std::int32_t foldersScanned = 0;
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
@@ -52,8 +54,9 @@ struct CurrentWords {
   CountedText counted;
   /// What became of each file of the count, in their order; if that was wanted, or of a single one.
   std::vector<FileReport> files;
-  /// Of the last folder that was counted.
   FolderFigures folder;
+  /// What their count went by.
+  CountBasis basis;
 
   /// The last count went to its end, and its words can be listed again.
   bool completeRun = false;
@@ -73,11 +76,13 @@ struct CurrentWords {
     store.Clear();
     totals = {};
     ranking = {};
+    WordsRead = 0;
     orderFigures.reset();
     uncounted = {};
     counted = {};
     files.clear();
-    folder.skippedNotice.clear();
+    folder = {};
+    basis = {};
     completeRun = false;
     listAfterStop = false;
     blnWordsGot = false;

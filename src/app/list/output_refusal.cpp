@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "base/text_helpers.h"
+
 namespace quillomat {
 
 void RefuseOutputFile(const Messages& messages, NeededAs neededAs) {
@@ -17,6 +19,16 @@ void RefuseOutputFile(const Messages& messages, NeededAs neededAs) {
       return messages.Refuse(
           "The output file cannot be the same as the state file that was loaded.", title);
   }
+}
+
+InputBox OverwriteQuestion(const std::string& path, const std::string& cancelText) {
+  InputBox box;
+  box.title = kOverwriteTitle;
+  box.prompt = "To overwrite the current output file click on 'OK'." + std::string(kCrLf) +
+               "To write to a different file edit the filepath below." + std::string(kCrLf) +
+               cancelText;
+  box.defaultAnswer = path;
+  return box;
 }
 
 }  // namespace quillomat

@@ -104,15 +104,9 @@ std::string WordLister::InOutputFolder(std::string_view path) const {
 
 bool WordLister::AskToOverwrite() {
   TextBox& txbPath = frmMain_.txbFile[1];
-  // A device exists too, but holds nothing that could be lost.
-  const bool exists = FileExists(txbPath.Text()) && FileLength(txbPath.Text()).has_value();
-  if (!frmParams_.chkWarnOnOverwrite.IsChecked() || !exists) return true;
-  InputBox box;
-  box.title = "The output file exists.";
-  box.prompt = "To overwrite the current output file click on 'OK'." + std::string(kCrLf) +
-               "To write to a different file edit the filepath below." + std::string(kCrLf) +
-               "To disable file output click on 'Cancel'.";
-  box.defaultAnswer = txbPath.Text();
+  if (!frmParams_.chkWarnOnOverwrite.IsChecked() || !HoldsSomething(txbPath.Text())) return true;
+  const InputBox box =
+      OverwriteQuestion(txbPath.Text(), "To disable file output click on 'Cancel'.");
   const std::string path = PathForWalk(InOutputFolder(TrimBlanks(desktop_.AskForText(box))));
   if (!path.empty()) {
     const std::string folder = FolderPartOf(path);
@@ -129,8 +123,7 @@ bool WordLister::AskToOverwrite() {
 bool WordLister::MayWriteOutputFile(const CountedText& text) const {
   if (!HasOutputFile()) return true;
   const std::string& path = frmMain_.txbFile[1].Text();
-  std::optional<NeededAs> neededAs = WhyNotToWrite(path, text);
-  if (!neededAs) neededAs = WhyNotToWrite(path, inForce_.filesRead);
+  const std::optional<NeededAs> neededAs = WhyNotToWrite(path, text, inForce_.filesRead);
   if (neededAs) RefuseOutputFile(messages_, *neededAs);
   return !neededAs;
 }
@@ -166,9 +159,13 @@ bool WordLister::ListIntoFile() {
     fileWritten_ = true;
     return true;
   } catch (const RunTimeError& error) {
-    ReportProblem(error.Number(), error.Description() + PathWorthNaming(error));
+    if (IsOutOfMemory(error)) {
+      ReportOutOfMemory("writing " + frmMain_.txbFile[1].Text());
+    } else {
+      ReportProblem(error.Number(), error.Description() + PathWorthNaming(error));
+    }
   } catch (const std::bad_alloc&) {
-    ReportOutOfMemory();
+    ReportOutOfMemory("writing " + frmMain_.txbFile[1].Text());
   }
   frmMain_.lblTwirler.SetCaption(" ");
   if (frmMain_.txbOutput.Text() == kWritingNotice) output_.ClearOutput();
@@ -197,7 +194,7 @@ void WordLister::ListIntoTextBox() {
     Walk(formatter, sink);
   } catch (const RunTimeError& error) {
     frmMain_.lblTwirler.SetCaption(" ");
-    ReportProblem(error.Number(), error.Description());
+    ReportError(error);
     frmMain_.txbOutput.SetSelStart(0);
     return;
   }
@@ -248,9 +245,14 @@ void WordLister::ReportProblem(int code, std::string_view text) {
   messages_.Refuse(message, "Problem");
 }
 
-void WordLister::ReportOutOfMemory(std::string_view path) {
+void WordLister::ReportError(const RunTimeError& error, std::string_view doing) {
+  if (IsOutOfMemory(error)) return ReportOutOfMemory(doing);
+  ReportProblem(error.Number(), error.Description());
+}
+
+void WordLister::ReportOutOfMemory(std::string_view doing) {
   std::string text = DescriptionOf(RunTimeErrorNumber::kOutOfMemory);
-  if (!path.empty()) text.append(" while reading ").append(path);
+  if (!doing.empty()) text.append(" while ").append(doing);
   const std::string message =
       ErrorMessage(static_cast<int>(RunTimeErrorNumber::kOutOfMemory), text);
   messages_.Refuse(message, "Problem");

@@ -48,9 +48,11 @@ class WordLister {
 
   /// Shows a problem in a message box. Code 7: the text box is full, whatever `text` says.
   void ReportProblem(int code, std::string_view text);
-  /// Tells that there was not enough memory, which is another thing than a full text box; while
-  /// `path` was read, unless it is empty.
-  void ReportOutOfMemory(std::string_view path = {});
+  /// Tells of an error. One for want of memory is told with what was done then, unless that is
+  /// empty: "reading a.txt".
+  void ReportError(const RunTimeError& error, std::string_view doing = {});
+  /// Tells that there was not enough memory, which is another thing than a full text box.
+  void ReportOutOfMemory(std::string_view doing = {});
 
   /// Whether the source that is chosen can serve a format.
   [[nodiscard]] bool CanServe(DisplayFormat format) const;
@@ -66,6 +68,8 @@ class WordLister {
   /// A new run begins: what was written before is not its result.
   void ForgetOutputFile() { fileWritten_ = false; }
 
+  /// Whether the list goes to a file, too.
+  [[nodiscard]] bool HasOutputFile() const;
   /// Whether no output file is wanted, or one that nothing is read from: neither `text`, nor a
   /// words file, nor the state that was loaded, by any link. If not, the user is told.
   [[nodiscard]] bool MayWriteOutputFile(const CountedText& text) const;
@@ -75,7 +79,6 @@ class WordLister {
 
  private:
   [[nodiscard]] LineOptions OptionsFor(bool toFile) const;
-  [[nodiscard]] bool HasOutputFile() const;
   [[nodiscard]] std::string InOutputFolder(std::string_view path) const;
   /// Whether the output file may be written; the user may name another one.
   bool AskToOverwrite();

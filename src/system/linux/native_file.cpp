@@ -62,6 +62,15 @@ Opened Open(const std::string& path, int flags, FileAction action) {
   return {descriptor, status.st_mode};
 }
 
+/// -1 and errno when it cannot be read.
+ssize_t TryToRead(int descriptor, std::span<char> buffer) {
+  ssize_t bytesRead = -1;
+  do {
+    bytesRead = read(descriptor, buffer.data(), buffer.size());
+  } while (bytesRead < 0 && errno == EINTR);
+  return bytesRead;
+}
+
 void WaitUntilWritable(int descriptor) {
   pollfd waiting{.fd = descriptor, .events = POLLOUT, .revents = 0};
   poll(&waiting, 1, -1);
@@ -208,12 +217,21 @@ bool NativeFile::IsReady(std::chrono::milliseconds longest) const {
 }
 
 std::size_t NativeFile::Read(std::span<char> buffer) const {
-  ssize_t bytesRead = -1;
-  do {
-    bytesRead = read(static_cast<int>(handle_), buffer.data(), buffer.size());
-  } while (bytesRead < 0 && errno == EINTR);
+  const ssize_t bytesRead = TryToRead(static_cast<int>(handle_), buffer);
   if (bytesRead < 0) ThrowErrno(errno, FileAction::kTransfer);
   return static_cast<std::size_t>(bytesRead);
+}
+
+std::optional<std::size_t> NativeFile::ReadAtHand(std::span<char> buffer) const {
+  const int descriptor = static_cast<int>(handle_);
+  const int flags = fcntl(descriptor, F_GETFL);
+  fcntl(descriptor, F_SETFL, flags | O_NONBLOCK);
+  const ssize_t bytesRead = TryToRead(descriptor, buffer);
+  const int error = errno;
+  fcntl(descriptor, F_SETFL, flags);
+  if (bytesRead >= 0) return static_cast<std::size_t>(bytesRead);
+  if (error != EAGAIN) ThrowErrno(error, FileAction::kTransfer);
+  return std::nullopt;
 }
 
 void NativeFile::Write(std::string_view bytes) const {

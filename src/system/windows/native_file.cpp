@@ -136,6 +136,10 @@ std::size_t NativeFile::Read(std::span<char> buffer) const {
   return bytesRead;
 }
 
+std::optional<std::size_t> NativeFile::ReadAtHand(std::span<char> buffer) const {
+  return Read(buffer);
+}
+
 void NativeFile::Write(std::string_view bytes) const {
   while (!bytes.empty()) {
     const auto wanted = static_cast<DWORD>(std::min(bytes.size(), kMostBytesPerCall));

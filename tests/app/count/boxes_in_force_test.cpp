@@ -271,6 +271,26 @@ TEST_F(BoxesInForce, AWordsFileThatIsAPipeIsReadInWhole) {
   writer.join();
   EXPECT_THAT(IgnoredOfFile(), ElementsAre("cat", "dog", "zebra"));
 }
+
+TEST_F(BoxesInForce, AWordsFileThatIsAnIdlePipeIsGivenUpWhenTheProgramEnds) {
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  std::fstream writing(pipe, std::ios::in | std::ios::out);
+  writing << "dog\n" << std::flush;
+  bool busy = false;
+  AtYield(3, [this, &busy] {
+    busy = State().Busy();
+    Main().CloseRequested.Fire();
+  });
+  TypeWordsFile(WordListKind::kIgnore, pipe);
+  LeaveWordsFile(WordListKind::kIgnore);
+  EXPECT_TRUE(busy) << "nothing else begins meanwhile";
+  EXPECT_TRUE(program.HasEnded());
+  for (const MessageBox& box : desktop.Messages()) {
+    // This program has no settings file.
+    EXPECT_THAT(box.text, testing::StartsWith("Error when attempting to save state: "));
+  }
+}
 #endif
 
 }  // namespace

@@ -116,9 +116,61 @@ TEST_F(OutOfMemory, WhileTheOutputFileIsWrittenLeavesItAsItWas) {
   CountClipboard("cat");
   Main().txbFile[1].SetText(list);
   WithMemory(20'000, [&] { Main().cboWordOrder.SetListIndex(1); });
-  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory");
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory while writing " + list);
   EXPECT_EQ(ContentsOf(list), "old");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(TestPath(folder.Path())), {}), 1);
+}
+
+TEST_F(OutOfMemory, WhileWordsAreRankedLeavesNothingToBeListed) {
+  bool ranking = false;
+  Main().txbOutput.Change.Connect([&] {
+    if (ranking || !Output().ends_with(". . . . . . ")) return;
+    ranking = true;
+    largestAllocation = 400'000;
+  });
+  CountFile(WriteManyWords("many.txt"));
+  largestAllocation = std::numeric_limits<std::size_t>::max();
+  ASSERT_TRUE(ranking);
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory");
+  desktop.ForgetQuestions();
+  Main().cboWordOrder.SetListIndex(1);
+  EXPECT_EQ(Output(), "");
+  EXPECT_FALSE(Words().CanBeListed());
+  Main().cmdExport.PerformClick();
+  EXPECT_FALSE(program.frmExport.Visible());
+}
+
+TEST_F(OutOfMemory, WhileFilesAreListedIsToldAndEndsOnlyThat) {
+  for (char first = 'a'; first <= 'z'; ++first) {
+    for (char second = 'a'; second <= 'd'; ++second) {
+      (void)folder.Write(std::string{first, second} + std::string(60, 'x') + ".txt", "cat");
+    }
+  }
+  Main().optFolder.SetValue(true);
+  Main().txbFolder.SetText(folder.Path());
+  WithMemory(5'000, [&] { Main().cmdListFiles.PerformClick(); });
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory");
+  EXPECT_FALSE(State().Busy());
+  Main().cmdListFiles.PerformClick();
+  EXPECT_THAT(Output(), HasSubstr("104 files in 1 folder will be scanned."));
+}
+
+TEST_F(OutOfMemory, WhileAnExportIsMadeReadyIsToldAndEndsOnlyThat) {
+  CountFile(WriteManyWords("many.txt"));
+  Main().cmdExport.PerformClick();
+  program.frmExport.txbFile.SetText(folder / "list.csv");
+  desktop.ForgetQuestions();
+  WithMemory(100'000, [&] { program.frmExport.cmdExport.PerformClick(); });
+  EXPECT_THAT(OnlyMessage().text, HasSubstr("Out of memory"));
+  EXPECT_FALSE(State().Busy());
+  EXPECT_EQ(program.frmExport.cmdExport.Caption(), "Export");
+  EXPECT_FALSE(std::filesystem::exists(TestPath(folder / "list.csv")));
+}
+
+TEST_F(OutOfMemory, OfAFailedWriteIsNoFullTextBox) {
+  program.Lister().ReportError(RunTimeError(RunTimeErrorNumber::kOutOfMemory), "writing a.txt");
+  EXPECT_EQ(OnlyMessage().text, "Error 7: Out of memory while writing a.txt");
+  EXPECT_FALSE(program.Output().IsFull());
 }
 
 TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeTheWord) {
