@@ -7,6 +7,7 @@
 #include "app/count/file_source.h"
 #include "app/count/folder_observer.h"
 #include "cli/standard_output.h"
+#include "cli/uncounted_notes.h"
 #include "listing/display_format.h"
 #include "sources/counter.h"
 #include "system/file_system.h"
@@ -56,7 +57,7 @@ bool DirectCount::Run() {
     program_.Count().TakeFiles(std::move(result), text);
     return false;
   }
-  TellUncounted(result.uncounted);
+  TellUncounted(result.uncounted, messages_, streams_.err);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
                  << "the list is of what was counted until then\n";
@@ -124,19 +125,6 @@ void DirectCount::TellSkipped(const CountWatch& watch) const {
   const auto kept = static_cast<std::int64_t>(watch.Skipped().size());
   if (watch.SkippedInAll() > kept) {
     streams_.err << kSkipped << watch.SkippedInAll() - kept << " more\n";
-  }
-}
-
-/// Nothing is lost without a word.
-void DirectCount::TellUncounted(const Uncounted& uncounted) const {
-  constexpr Headed kNote{MessageTone::kWarning, "Note: "};
-  const std::int64_t letters = uncounted.foreignLetters;
-  if (letters == 1) {
-    streams_.err << kNote
-                 << "1 letter of another alphabet was not counted; --letters all counts it.\n";
-  } else if (letters > 1) {
-    streams_.err << kNote << messages_.Grouped(letters)
-                 << " letters of other alphabets were not counted; --letters all counts them.\n";
   }
 }
 

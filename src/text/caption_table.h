@@ -99,6 +99,7 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"lblOnThisPage", 201},
     {"lblAllowWords", 202},
     {"lblLetters", 247},
+    {"lblEncoding", 260},
     {"fraIgnoreWords", 216},
     {"lblShortWordSize", 218},
     {"lblLongWords", 219},
@@ -130,6 +131,8 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
 
 /// The items of cboLetters.
 inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
+/// The first items of cboEncoding; the others are names.
+inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 
 /// Tool tips of frmParams.
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({

@@ -17,6 +17,8 @@
 #include "base/text_helpers.h"
 #include "engine/uncounted.h"
 #include "engine/word_scanner.h"
+#include "sources/converted_source.h"
+#include "sources/encoding_guess.h"
 #include "sources/line_endings.h"
 #include "system/file_system.h"
 #include "text/caption_table.h"
@@ -105,7 +107,8 @@ std::string& WordListReader::FileInForce(WordListKind kind) {
 
 bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   if (path != FileInForce(kind)) return false;
-  return path.empty() || rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_);
+  return path.empty() || (rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_) &&
+                          encodingsInForce_[IndexOf(kind)] == ReadEncoding(frmParams_));
 }
 
 std::string WordListReader::GetExtraWords(WordListKind kind) {
@@ -140,12 +143,13 @@ bool WordListReader::ReadWords(WordListKind kind) {
   tooLong_.clear();
   try {
     std::optional<InputFile> file;  // opened once: what comes from a pipe comes only once
-    const LineEndingType type = OpenText(path, kTextTestBytes, file);
+    LineEndingType type = OpenText(path, kTextTestBytes, file);
     if (!file) return false;
     if (file->AwaitsWriter()) {
       messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;
     }
+    const CharacterSet from = FindEncoding(*file, type);
     if (type == LineEndingType::kNotText) {
       messages_.Refuse("This is not a text file.", "Invalid input");
       return false;
@@ -164,10 +168,11 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ConcealNumWords(frmMain_, false);
     output_.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
                                     : "Now reading count-only words . . . ");
-    ScanWordsFile(*file);
+    ScanWordsFile(*file, from);
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
     rulesInForce_[IndexOf(kind)] = choices.Keys();
+    encodingsInForce_[IndexOf(kind)] = ReadEncoding(frmParams_);
     return true;
   } catch (const InputTooLong& error) {
     tooLong_ = ":" + std::string(kCrLf) + error.Description();
@@ -179,7 +184,21 @@ bool WordListReader::ReadWords(WordListKind kind) {
   }
 }
 
-void WordListReader::ScanWordsFile(InputFile& file) {
+/// What the words file is converted from. `type` is what it is as its bytes stand, and becomes what
+/// it is then.
+CharacterSet WordListReader::FindEncoding(InputFile& file, LineEndingType& type) const {
+  const CharacterSet choice = ReadEncoding(frmParams_);
+  constexpr std::size_t kHeadBytes = HeadBytes(kTextTestBytes);
+  const bool asFound = choice == CharacterSet::kAsFound;
+  const std::string_view head = file.Ahead(asFound ? kHeadBytes : kGuessBytes);
+  const CharacterSet from = CharacterSetOfWords(head, choice);
+  if (from != CharacterSet::kAsFound) {
+    type = LineEndingTypeOf(ConvertedHead(head.substr(0, kHeadBytes), from), kTextTestBytes);
+  }
+  return from;
+}
+
+void WordListReader::ScanWordsFile(InputFile& file, CharacterSet from) {
   const PhaseGuard guard(run_, RunPhase::kReading);
   const ScanChoices choices = ReadScanChoices(frmParams_);
   const WordLists lists = inForce_.lists;
@@ -189,7 +208,10 @@ void WordListReader::ScanWordsFile(InputFile& file) {
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (file.Length() == 0) limits.bytes = kMostWordsBytes;
   LimitedSource limited(file, limits);
-  LineDecoder lines(limited);
+  std::int64_t bytesNotDecoded = 0;
+  std::optional<ConvertedSource> converted;
+  if (from != CharacterSet::kAsFound) converted.emplace(limited, from, bytesNotDecoded);
+  LineDecoder lines(converted ? static_cast<ByteSource&>(*converted) : limited);
   std::string buffer;
   lettersNotRead_ = 0;
   while (const auto line = lines.NextLine()) {
