@@ -205,14 +205,14 @@ constexpr auto kTable = std::to_array<Setting>({
                        Choice(kWhatAWordIs, "--letters", "WHICH", kLetterChoices,
                               "western: the letters of Western Europe (the default); all: those "
                               "of all languages"))),
-    EntailsRescan(List("cboEncoding", 505, 0,
-                       WithOtherNames(Choice(kTheText, "--encoding", "NAME|guess",
-                                             kCharacterSetNames,
-                                             "What the bytes of files are in, like UTF-16, "
-                                             "Windows-1251 or Shift_JIS; guess: for each file; "
-                                             "as-found (the default): UTF-8, and lines that are "
-                                             "none are Windows-1252"),
-                                      FindEncoding))),
+    EntailsRescan(
+        List("cboEncoding", 505, 0,
+             WithOtherNames(Choice(kTheText, "--encoding", "NAME|guess", kCharacterSetNames,
+                                   "What the bytes of files are in, like UTF-16, "
+                                   "Windows-1251 or Shift_JIS; guess: for each file; "
+                                   "as-found (the default): UTF-8, and lines that are "
+                                   "none are Windows-1252"),
+                            FindEncoding))),
     KeptByRestoreDefaults(
         Path("txbWordsFile(0)", 478,
              Value(kText, kWordLists, "--ignore", "FILE", "Leave out the words in a file"))),

@@ -22,8 +22,8 @@ bool MayBecomeCharacter(std::string_view bytes) {
   constexpr std::size_t kMostBytes = 4;
   if (bytes.size() >= kMostBytes) return false;
   // The smallest and the greatest bytes that can follow.
-  for (std::string longer : {std::string(bytes) + '\x80', std::string(bytes) + '\x90',
-                             std::string(bytes) + '\xA0'}) {
+  for (std::string longer :
+       {std::string(bytes) + '\x80', std::string(bytes) + '\x90', std::string(bytes) + '\xA0'}) {
     while (longer.size() <= kMostBytes) {
       if (IsWellFormedUtf8(longer)) return true;
       longer.push_back('\x80');

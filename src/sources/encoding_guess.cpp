@@ -54,6 +54,7 @@ bool LooksLikeUtf8(std::string_view head) {
   Utf8Decoder decoder;
   std::string text;
   decoder.Decode(head, text);
+  if (head.size() < kGuessBytes) decoder.End(text);
   return decoder.BytesNotDecoded() == 0 && text.find('\0') == std::string::npos;
 }
 

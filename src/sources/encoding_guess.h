@@ -11,7 +11,8 @@ namespace quillomat {
 /// So many bytes at the start of a text are enough for a guess.
 inline constexpr std::size_t kGuessBytes = std::size_t{64} * 1024;
 
-/// Whether all of `head`, but for a character that its end may cut, is text in UTF-8.
+/// Whether all of `head` is text in UTF-8. One of kGuessBytes may end within a character; a shorter
+/// one is the whole text.
 [[nodiscard]] bool LooksLikeUtf8(std::string_view head);
 
 /// The set that the text that starts with `head` is to be converted from, where the user wants

@@ -8,8 +8,8 @@
 
 namespace quillomat {
 
-/// What decodes texts of that set, which is one: neither kAsFound nor kGuess. Throws RunTimeError 380
-/// where the system does not know it. A byte that begins no character becomes a replacement
+/// What decodes texts of that set, which is one: neither kAsFound nor kGuess. Throws RunTimeError
+/// 380 where the system does not know it. A byte that begins no character becomes a replacement
 /// character.
 [[nodiscard]] std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set);
 

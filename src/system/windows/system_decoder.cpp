@@ -127,9 +127,9 @@ class CodePageDecoder final : public TextDecoder {
       asked = {bytes[1], static_cast<char>(static_cast<unsigned char>(bytes[2]) & 0x7FU)};
     }
     std::array<wchar_t, 4> units{};
-    const int count =
-        MultiByteToWideChar(page_, MB_ERR_INVALID_CHARS, asked.data(), static_cast<int>(asked.size()),
-                            units.data(), static_cast<int>(units.size()));
+    const int count = MultiByteToWideChar(page_, MB_ERR_INVALID_CHARS, asked.data(),
+                                          static_cast<int>(asked.size()), units.data(),
+                                          static_cast<int>(units.size()));
     if (count == 1) return IsUndefined(bytes, units[0]) ? kNone : char32_t{units[0]};
     if (count == 2 && IS_SURROGATE_PAIR(units[0], units[1])) {
       return 0x10000U + ((units[0] - 0xD800U) << 10U) + (units[1] - 0xDC00U);
