@@ -83,7 +83,7 @@ class IconvDecoder final : public TextDecoder {
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
   if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
   if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  const iconv_t converter = iconv_open("UTF-8", LibraryNameOf(set).c_str());
+  iconv_t converter = iconv_open("UTF-8", LibraryNameOf(set).c_str());
   // The C library's own way to say that there is none.
   if (converter == reinterpret_cast<iconv_t>(-1)) {  // NOLINT(*-reinterpret-cast,*-no-int-to-ptr)
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
