@@ -3,14 +3,15 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
 
 namespace quillomat {
 
-/// In the order in which they are offered. State files keep the number, so what is new stands at
-/// the end.
+/// In the order in which they are offered; those that the converters of all systems know. State
+/// files keep the number, so what is new stands at the end.
 enum class CharacterSet : std::uint8_t {
   /// Each line is judged on its own, as line_decoder.h does it.
   kAsFound,
