@@ -125,7 +125,7 @@ TEST_F(Encodings, BytesThatAreNoCharacterSeparateWordsAndAreCounted) {
       CharacterSet::kWindows1252);
   EXPECT_EQ(WordsOf(result), "cat dog");
   EXPECT_EQ(result.uncounted, (Uncounted{0, 0, 3}));
-  EXPECT_EQ(result.reports.at(0).bytesNotDecoded, 3);
+  EXPECT_EQ(result.reports.at(0).uncounted.bytesNotDecoded, 3);
   result = CountFile("cat\n\x82\xC6\x82", CharacterSet::kShiftJis);
   EXPECT_EQ(WordsOf(result), "cat と");
   EXPECT_EQ(result.uncounted.bytesNotDecoded, 1);
@@ -163,9 +163,9 @@ TEST_F(Encodings, FilesOfAFolderAreConvertedOnThreads) {
   EXPECT_EQ(together.uncounted, alone.uncounted);
   ASSERT_EQ(together.reports.size(), 201U);
   EXPECT_EQ(together.reports[0].convertedFrom, CharacterSet::kWindows1253);
-  EXPECT_EQ(together.reports[0].bytesNotDecoded, 1);
+  EXPECT_EQ(together.reports[0].uncounted.bytesNotDecoded, 1);
   EXPECT_EQ(together.reports[200].convertedFrom, CharacterSet::kUtf16);
-  EXPECT_EQ(together.reports[200].bytesNotDecoded, 2);
+  EXPECT_EQ(together.reports[200].uncounted.bytesNotDecoded, 2);
 }
 
 TEST_F(Encodings, LargeFilesAreConvertedOnThreads) {
