@@ -54,7 +54,7 @@ TEST_F(FileReportRun, TellsTheEncodingThatEachFileWasReadIn) {
   EXPECT_EQ(Run({folder / "texts", "--report", report, "--encoding", "cp1252"}), kListMade);
   EXPECT_EQ(Reported(), kReportHead + a + ",5,Windows-1252,Unix,1,1,0,0,1,\r\n" + b +
                             ",6,UTF-16,Unix,1,1,0,0,0,\r\n");
-  const std::string c = folder.Write("c.txt", std::string_view("c\0\n\0d\0", 6));
+  const std::string c = folder.Write("c.txt", std::string_view("a\0\n\0i\0", 6));
   EXPECT_EQ(Run({c, "--report", folder / "c.csv", "--encoding", "utf16"}), kListMade);
   EXPECT_EQ(ContentsOf(folder / "c.csv"), kReportHead + c + ",6,UTF-16,Unix,2,2,0,0,0,\r\n");
 }
