@@ -343,7 +343,7 @@ inline constexpr int kFilesViewText = 830;
 /// In the order of FileColumn.
 inline constexpr int kFirstFileColumnText = 831;
 /// For a screen reader.
-inline constexpr int kFilesNameText = 840;
+inline constexpr int kFilesNameText = 850;
 inline constexpr int kNoLineEndsText = 841;
 inline constexpr int kMixedLineEndsText = 842;
 inline constexpr int kFileIsNoTextText = 843;
