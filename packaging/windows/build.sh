@@ -10,7 +10,8 @@ qt=$("$here/build-qt.sh" | tail -n 1)
 build=$root/build/windows-release
 QUILLOMAT_XLSX=$("$here/build-xlsx.sh" | tail -n 1)
 QUILLOMAT_UTF8PROC=$("$here/build-utf8proc.sh" | tail -n 1)
-export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC
+QUILLOMAT_UCHARDET=$("$here/build-uchardet.sh" | tail -n 1)
+export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC QUILLOMAT_UCHARDET
 multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
 mkdir -p "$build"
 

@@ -22,6 +22,7 @@ for library in double-conversion easing freetype harfbuzz-ng libpng md4c pcre2 s
 done
 take /usr/share/doc/libhwy-dev/copyright "Highway"
 take /usr/share/doc/libutf8proc-dev/copyright "utf8proc"
+take /usr/share/doc/libuchardet-dev/copyright "uchardet"
 take /usr/share/doc/libcli11-dev/copyright "CLI11"
 take /usr/share/doc/mingw-w64-x86-64-dev/copyright "MinGW-w64"
 take /usr/share/doc/g++-mingw-w64-x86-64-posix/copyright "GCC"

@@ -11,7 +11,8 @@ here=$root/packaging/windows
 native=${1:-$root/build/dev/src/cli/quillomat-cli}
 QUILLOMAT_XLSX=$("$here/build-xlsx.sh" | tail -n 1)
 QUILLOMAT_UTF8PROC=$("$here/build-utf8proc.sh" | tail -n 1)
-export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC
+QUILLOMAT_UCHARDET=$("$here/build-uchardet.sh" | tail -n 1)
+export QUILLOMAT_XLSX QUILLOMAT_UTF8PROC QUILLOMAT_UCHARDET
 build windows
 prefix=$root/build/windows/wine
 mkdir -p "$prefix"

@@ -1,5 +1,6 @@
 #include "app/captions.h"
 
+#include <algorithm>
 #include <span>
 
 #include "base/version.h"
@@ -62,9 +63,13 @@ std::vector<ControlCaption> ToolTipsOf(SettingWindow window) {
 }
 
 void SetItems(const ProgramText& text, ParamsForm& frmParams) {
-  for (std::size_t i = 0; i < frmParams.cboLetters.Items().size(); ++i) {
-    frmParams.cboLetters.SetItem(static_cast<int>(i), text.GetText(kLetterTexts[i]));
-  }
+  const auto setFirst = [&text](ComboBox& combo, std::span<const int> texts) {
+    for (std::size_t i = 0; i < std::min(texts.size(), combo.Items().size()); ++i) {
+      combo.SetItem(static_cast<int>(i), text.GetText(texts[i]));
+    }
+  };
+  setFirst(frmParams.cboLetters, kLetterTexts);
+  setFirst(frmParams.cboEncoding, kEncodingTexts);
 }
 
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/character_set.h"
 #include "listing/display_format.h"
 
 namespace quillomat {
@@ -9,6 +10,11 @@ namespace {
 
 constexpr std::array<std::string_view, 2> kOrderChoices = {"frequency", "alphabetical"};
 constexpr std::array<std::string_view, 2> kLetterChoices = {"western", "all"};
+
+std::optional<std::size_t> FindEncoding(std::string_view name) {
+  const std::optional<CharacterSet> set = FindCharacterSet(name);
+  return set ? std::optional(static_cast<std::size_t>(*set)) : std::nullopt;
+}
 
 /// Numbers of program texts.
 struct Texts {
@@ -108,6 +114,12 @@ constexpr SettingOption Choice(OptionGroup group, std::string_view name, std::st
           .help = help};
 }
 
+constexpr SettingOption WithOtherNames(SettingOption option,
+                                       std::optional<std::size_t> (*find)(std::string_view)) {
+  option.find = find;
+  return option;
+}
+
 using enum OptionGroup;
 using enum OptionKind;
 using enum Entails;
@@ -193,6 +205,14 @@ constexpr auto kTable = std::to_array<Setting>({
                        Choice(kWhatAWordIs, "--letters", "WHICH", kLetterChoices,
                               "western: the letters of Western Europe (the default); all: those "
                               "of all languages"))),
+    EntailsRescan(
+        List("cboEncoding", 505, 0,
+             WithOtherNames(Choice(kTheText, "--encoding", "NAME|guess", kCharacterSetNames,
+                                   "What the bytes of files are in, like UTF-16, "
+                                   "Windows-1251 or Shift_JIS; guess: for each file; "
+                                   "as-found (the default): UTF-8, and lines that are "
+                                   "none are Windows-1252"),
+                            FindEncoding))),
     KeptByRestoreDefaults(
         Path("txbWordsFile(0)", 478,
              Value(kText, kWordLists, "--ignore", "FILE", "Leave out the words in a file"))),

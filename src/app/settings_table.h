@@ -11,7 +11,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <variant>
@@ -75,6 +77,8 @@ struct SettingOption {
   std::string_view argument{};
   /// Of a choice: what may be given for the items of the list, in their order.
   std::span<const std::string_view> choices{};
+  /// Of a choice whose items go by other names, too: the item of a name. Null where there are none.
+  std::optional<std::size_t> (*find)(std::string_view name) = nullptr;
   std::string_view help{};
 };
 

@@ -13,20 +13,12 @@ namespace {
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
 /// Most files of a large folder are small, and a large buffer for each would cost more than they.
 constexpr std::size_t kFirstBufferBytes = std::size_t{16} * 1024;
-constexpr char32_t kReplacement = 0xFFFD;
 
 /// The characters of the bytes 80 to 9F.
 constexpr std::array<char16_t, 32> kWindows1252High = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-bool IsHighSurrogate(char16_t unit) {
-  return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLowSurrogate(char16_t unit) {
-  return unit >= 0xDC00 && unit <= 0xDFFF;
-}
 
 void AppendWindows1252(std::string& text, std::string_view bytes) {
   for (const char ch : bytes) {
@@ -62,7 +54,7 @@ std::string DecodeLine(std::string_view line) {
   return IsWellFormedUtf8(line) ? std::string(line) : DecodeWindows1252(line);
 }
 
-std::string DecodeText(ByteSource& source) {
+std::string DecodeText(ByteSource& source, std::int64_t* linesNotUtf8) {
   UnmarkedSource unmarked(source);
   std::string bytes;
   std::vector<char> block(kBlockBytes);
@@ -71,7 +63,9 @@ std::string DecodeText(ByteSource& source) {
   std::string text;
   for (std::string_view rest = bytes; !rest.empty();) {
     const std::size_t lineBytes = std::min(FindLineEnd(rest) + 1, rest.size());
-    text.append(DecodeLine(rest.substr(0, lineBytes)));
+    const std::string_view line = rest.substr(0, lineBytes);
+    if (linesNotUtf8 != nullptr && !IsWellFormedUtf8(line)) ++*linesNotUtf8;
+    text.append(DecodeLine(line));
     rest.remove_prefix(lineBytes);
   }
   return text;
@@ -79,12 +73,11 @@ std::string DecodeText(ByteSource& source) {
 
 std::size_t UnmarkedSource::Read(std::span<char> buffer) {
   if (buffer.empty()) return 0;
-  if (encoding_ == Encoding::kUnknown) Detect();
-  const bool utf16 = encoding_ != Encoding::kBytes;
+  if (!detected_) Detect();
   while (pendingStart_ == pending_.size()) {
     pending_.clear();
     pendingStart_ = 0;
-    if (!utf16) return source_.Read(buffer);
+    if (!utf16_) return source_.Read(buffer);
     DecodeUtf16Block();
     if (pending_.empty()) return 0;
   }
@@ -102,65 +95,35 @@ void UnmarkedSource::Detect() {
     if (bytes == 0) break;
     have += bytes;
   }
-  const std::string_view start(head.data(), have);
-  encoding_ = Encoding::kBytes;
-  std::size_t markBytes = 0;
+  detected_ = true;
+  std::string_view start(head.data(), have);
   if (start.starts_with("\xFF\xFE")) {
-    encoding_ = Encoding::kUtf16LittleEndian;
-    markBytes = 2;
+    utf16_.emplace(Utf16Decoder::ByteOrder::kLittleEndian);
+    start.remove_prefix(2);
   } else if (start.starts_with("\xFE\xFF")) {
-    encoding_ = Encoding::kUtf16BigEndian;
-    markBytes = 2;
+    utf16_.emplace(Utf16Decoder::ByteOrder::kBigEndian);
+    start.remove_prefix(2);
   } else if (start.starts_with("\xEF\xBB\xBF")) {
-    markBytes = 3;
+    start.remove_prefix(3);
   }
-  const std::string_view rest = start.substr(markBytes);
-  if (encoding_ == Encoding::kBytes) {
-    pending_ = rest;
-  } else if (!rest.empty()) {
-    oddByte_ = static_cast<unsigned char>(rest[0]);
+  if (utf16_) {
+    utf16_->Decode(start, pending_);
+  } else {
+    pending_ = start;
   }
 }
 
 /// Decodes some more into pending_; leaves it empty only at the end of the source.
 void UnmarkedSource::DecodeUtf16Block() {
   std::vector<char> block(kBlockBytes);
-  while (pending_.empty()) {
+  while (pending_.empty() && !ended_) {
     const std::size_t bytes = source_.Read(block);
-    if (bytes == 0) {
-      if (highSurrogate_ || oddByte_) AppendCharacter(pending_, kReplacement);
-      highSurrogate_.reset();
-      oddByte_.reset();
-      return;
+    ended_ = bytes == 0;
+    if (ended_) {
+      utf16_->End(pending_);
+    } else {
+      utf16_->Decode({block.data(), bytes}, pending_);
     }
-    for (std::size_t i = 0; i < bytes; ++i) {
-      const auto byte = static_cast<unsigned char>(block[i]);
-      if (!oddByte_) {
-        oddByte_ = byte;
-        continue;
-      }
-      const bool little = encoding_ == Encoding::kUtf16LittleEndian;
-      const unsigned high = little ? byte : *oddByte_;
-      const unsigned low = little ? *oddByte_ : byte;
-      oddByte_.reset();
-      TakeUnit(static_cast<char16_t>((high << 8U) | low));
-    }
-  }
-}
-
-void UnmarkedSource::TakeUnit(char16_t unit) {
-  if (highSurrogate_ && IsLowSurrogate(unit)) {
-    const char32_t high = *highSurrogate_ - 0xD800U;
-    AppendCharacter(pending_, 0x10000U + (high << 10U) + (unit - 0xDC00U));
-    highSurrogate_.reset();
-    return;
-  }
-  if (highSurrogate_) AppendCharacter(pending_, kReplacement);
-  highSurrogate_.reset();
-  if (IsHighSurrogate(unit)) {
-    highSurrogate_ = unit;
-  } else {
-    AppendCharacter(pending_, IsLowSurrogate(unit) ? kReplacement : char32_t{unit});
   }
 }
 

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "base/byte_source.h"
+#include "base/text_decoder.h"
 
 namespace quillomat {
 
@@ -30,7 +31,8 @@ namespace quillomat {
 [[nodiscard]] std::string DecodeLine(std::string_view line);
 
 /// All of the source as text, line breaks included; decoded as LineDecoder does it.
-[[nodiscard]] std::string DecodeText(ByteSource& source);
+/// Lines that were not UTF-8 are counted in `linesNotUtf8`.
+[[nodiscard]] std::string DecodeText(ByteSource& source, std::int64_t* linesNotUtf8 = nullptr);
 
 /// The bytes of `source` without a byte-order mark; UTF-16 comes out as UTF-8 (a lone surrogate or
 /// an odd last byte as U+FFFD). All who look at a file's text look through this.
@@ -41,19 +43,16 @@ class UnmarkedSource final : public ByteSource {
   std::size_t Read(std::span<char> buffer) override;
 
  private:
-  enum class Encoding { kUnknown, kBytes, kUtf16LittleEndian, kUtf16BigEndian };
-
   void Detect();
   void DecodeUtf16Block();
-  void TakeUnit(char16_t unit);
 
   ByteSource& source_;
-  Encoding encoding_ = Encoding::kUnknown;
+  bool detected_ = false;
+  bool ended_ = false;
+  std::optional<Utf16Decoder> utf16_;  // none for other bytes
   /// Decoded and not yet given out, from pendingStart_ on.
   std::string pending_;
   std::size_t pendingStart_ = 0;
-  std::optional<unsigned char> oddByte_;
-  std::optional<char16_t> highSurrogate_;
 };
 
 class LineDecoder {

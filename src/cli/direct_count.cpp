@@ -12,6 +12,7 @@
 #include "cli/export_options.h"
 #include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
+#include "cli/uncounted_notes.h"
 #include "listing/display_format.h"
 #include "sources/counter.h"
 #include "system/file_system.h"
@@ -61,7 +62,7 @@ bool DirectCount::Run() {
     program_.Count().TakeFiles(std::move(result), text);
     return false;
   }
-  TellUncounted(result.uncounted);
+  TellUncounted(result.uncounted, messages_, streams_.err);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
                  << "the list is of what was counted until then\n";
@@ -127,19 +128,6 @@ void DirectCount::TellSkipped(const CountWatch& watch) const {
                         : skipped.path + ": " + ReasonText(skipped));
   }
   PrintSkipped(streams_.err, items, watch.SkippedInAll(), messages_);
-}
-
-/// Nothing is lost without a word.
-void DirectCount::TellUncounted(const Uncounted& uncounted) const {
-  constexpr Headed kNote{MessageTone::kWarning, "Note: "};
-  const std::int64_t letters = uncounted.foreignLetters;
-  if (letters == 1) {
-    streams_.err << kNote
-                 << "1 letter of another alphabet was not counted; --letters all counts it.\n";
-  } else if (letters > 1) {
-    streams_.err << kNote << messages_.Grouped(letters)
-                 << " letters of other alphabets were not counted; --letters all counts them.\n";
-  }
 }
 
 bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {

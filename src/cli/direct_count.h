@@ -41,7 +41,6 @@ class DirectCount {
   [[nodiscard]] bool SizeCanBeKnown() const;
   [[nodiscard]] CountWatch::Progress ProgressWanted() const;
   void TellSkipped(const CountWatch& watch) const;
-  void TellUncounted(const Uncounted& uncounted) const;
   [[nodiscard]] bool HasWords(const CountResult& result, const CountWatch& watch);
   [[nodiscard]] bool Refuse(Refusal reason, const std::optional<RunTimeError>& error);
   [[nodiscard]] std::string NoFilesText() const;

@@ -100,6 +100,10 @@ class SettingsWriter {
       if (value != number && !EqualIgnoringCase(value, choices[i])) continue;
       return Set(setting.control, "#" + number, source);
     }
+    if (setting.option.find != nullptr) {
+      const std::optional<std::size_t> item = setting.option.find(value);
+      if (item) return Set(setting.control, "#" + std::to_string(*item), source);
+    }
     return source + ": takes a number from 0 to " + std::to_string(choices.size() - 1) +
            " or one of: " + Listed(choices);
   }

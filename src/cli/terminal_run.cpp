@@ -6,12 +6,12 @@
 #include <utility>
 #include <vector>
 
+#include "app/count/panel_choices.h"
 #include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
 #include "base/byte_source.h"
 #include "base/limited_source.h"
-#include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
@@ -25,7 +25,9 @@
 #include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
 #include "cli/terminal_desktop.h"
+#include "cli/uncounted_notes.h"
 #include "listing/statistics.h"
+#include "sources/converted_source.h"
 #include "sources/count_observer.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
@@ -167,7 +169,7 @@ class TerminalRun {
     constexpr std::size_t kMostBytesPerCharacter = 4;
     constexpr std::size_t kMarkBytes = 3;
     StartOfSource start(input, kMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
-    std::string text = DecodeText(start);
+    std::string text = WholeText(start, ReadEncoding(program_.frmParams), clipboardUncounted_);
     clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
@@ -263,7 +265,13 @@ class TerminalRun {
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
-    return program_.Count().ListWasMade();
+    const bool made = program_.Count().ListWasMade();
+    if (made) {
+      Uncounted uncounted = program_.Words().uncounted;
+      uncounted += clipboardUncounted_;
+      TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    }
+    return made;
   }
 
   bool CountDirectly() {
@@ -333,6 +341,8 @@ class TerminalRun {
   InputChoice input_;
   TerminalDesktop desktop_;
   bool clipboardIsTooLong_ = false;
+  /// Of its bytes.
+  Uncounted clipboardUncounted_;
   /// Why the count gave no words.
   std::string fault_;
   Program program_;

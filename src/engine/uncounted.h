@@ -11,15 +11,19 @@ struct Uncounted {
   std::int64_t foreignLetters = 0;
   /// Lines that are not well-formed UTF-8 and were read as Windows-1252.
   std::int64_t linesNotUtf8 = 0;
+  /// Bytes that are no character of the encoding that their text was converted from.
+  std::int64_t bytesNotDecoded = 0;
 
   Uncounted& operator+=(const Uncounted& other) {
     foreignLetters += other.foreignLetters;
     linesNotUtf8 += other.linesNotUtf8;
+    bytesNotDecoded += other.bytesNotDecoded;
     return *this;
   }
   Uncounted& operator-=(const Uncounted& other) {
     foreignLetters -= other.foreignLetters;
     linesNotUtf8 -= other.linesNotUtf8;
+    bytesNotDecoded -= other.bytesNotDecoded;
     return *this;
   }
   bool operator==(const Uncounted&) const = default;

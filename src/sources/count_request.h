@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "base/byte_source.h"
+#include "base/character_set.h"
 #include "engine/scan_settings.h"
 #include "engine/word_filters.h"
 #include "engine/word_list.h"
@@ -81,6 +82,8 @@ struct CountRequest {
   /// For CountResult::Rank, when the words have been counted.
   FilterChoices filters;
   WordLists lists;
+  /// What the bytes of texts are in; those of the clipboard are characters already.
+  CharacterSet encoding = CharacterSet::kAsFound;
   CountingPass countingPass = CountingPass::kNone;
   /// Of count-only words from a folder or a list of paths: in which files each occurs. A word that
   /// occurs more than 32,767 times in one file then ends the count with an overflow.

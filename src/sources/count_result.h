@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/character_set.h"
 #include "base/run_time_error.h"
 #include "engine/uncounted.h"
 #include "engine/word_filters.h"
@@ -50,7 +51,8 @@ enum class Refusal {
 /// it is not complete. What is no text, or empty, is left out by design.
 [[nodiscard]] bool IsFault(Refusal reason);
 
-/// What the bytes of a text are. Without a mark each line is judged on its own.
+/// What the bytes of a text look like. Without a mark each line is judged on its own, unless the
+/// text is converted (FileReport::convertedFrom).
 enum class TextEncoding { kUtf8OrWindows1252, kUtf8WithMark, kUtf16LittleEndian, kUtf16BigEndian };
 
 /// What became of one file, or of a folder that could not be read.
@@ -66,6 +68,8 @@ struct FileReport {
   /// So many were read.
   std::int64_t bytesRead = 0;
   TextEncoding encoding = TextEncoding::kUtf8OrWindows1252;
+  /// What it was converted from, as chosen, guessed or told by a mark; kAsFound where it was not.
+  CharacterSet convertedFrom = CharacterSet::kAsFound;
   /// Of a file of the disk that was read, if only in part: nothing may be written over it.
   std::optional<FileIdentity> identity;
   /// Judged by the first bytes.

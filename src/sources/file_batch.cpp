@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "base/byte_source.h"
-#include "base/line_decoder.h"
+#include "sources/converted_source.h"
 #include "sources/line_endings.h"
 #include "sources/text_pass.h"
 #include "sources/text_reader.h"
@@ -25,6 +25,7 @@ std::size_t FileScanner::Take(std::vector<WalkItem>& items, int& openComment, st
     } catch (const std::exception&) {
       item.state = WalkItem::State::kLeftAlone;
       item.file.reset();
+      item.report.uncounted = {};
       scanner_.ForgetWords();  // which may be half a word
     }
     bytes += static_cast<std::size_t>(item.report.bytesRead);
@@ -41,12 +42,13 @@ void FileScanner::TakeFile(WalkItem& item, int& openComment) {
   const std::unique_ptr<InputFile> file = std::move(item.file);
   if (item.bytes >= TextReader::kBytesWorthThreads) return;
   // A file that is no text is not read to its end.
-  constexpr std::size_t kHeadBytes = HeadBytes(kTextTestBytes);
+  const std::size_t headBytes = HeadBytesFor(request_.encoding);
   const auto length = static_cast<std::size_t>(item.bytes);
   if (memory_.size() <= length) memory_.resize(length + 1);
   bytesRead_ = 0;
-  Read(*file, std::min(kHeadBytes, length), std::min(kHeadBytes, length + 1));
-  if (!JudgeText({memory_.data(), std::min(kHeadBytes, bytesRead_)}, item.report)) {
+  Read(*file, std::min(headBytes, length), std::min(headBytes, length + 1));
+  const std::string_view head(memory_.data(), std::min(headBytes, bytesRead_));
+  if (!JudgeText(head, request_.encoding, item.report)) {
     item.state = WalkItem::State::kRefused;
     return;
   }
@@ -80,22 +82,16 @@ void FileScanner::Read(InputFile& file, std::size_t atLeast, std::size_t atMost)
 }
 
 /// What was read as text, whose last line has an end.
-std::string_view FileScanner::Lines(TextEncoding encoding) {
+std::string_view FileScanner::Lines(FileReport& report) {
   constexpr std::size_t kMarkBytes = 3;
-  const std::string_view bytes(memory_.data(), bytesRead_);
-  switch (encoding) {
-    case TextEncoding::kUtf16LittleEndian:
-    case TextEncoding::kUtf16BigEndian: {
-      TextSource source(bytes);
-      decoded_ = DecodeText(source) + '\n';
-      return decoded_;
-    }
-    case TextEncoding::kUtf8WithMark:
-    case TextEncoding::kUtf8OrWindows1252:
-      break;
+  if (report.convertedFrom != CharacterSet::kAsFound) {
+    const std::string_view bytes(memory_.data(), bytesRead_);
+    converted_ =
+        ConvertedText(bytes, report.convertedFrom, report.uncounted.bytesNotDecoded) + '\n';
+    return converted_;
   }
-  const std::size_t start = encoding == TextEncoding::kUtf8WithMark ? kMarkBytes : 0;
-  const bool ends = bytesRead_ == start || bytes.back() == '\n';
+  const std::size_t start = report.encoding == TextEncoding::kUtf8WithMark ? kMarkBytes : 0;
+  const bool ends = bytesRead_ == start || memory_[bytesRead_ - 1] == '\n';
   if (!ends) memory_[bytesRead_] = '\n';
   return {memory_.data() + start, bytesRead_ + (ends ? 0 : 1) - start};
 }
@@ -109,7 +105,7 @@ void FileScanner::TallyLines(FileReport& report) const {
 void FileScanner::Scan(WalkItem& item, int& openComment) {
   LoadMarkersFor(item.report.path, request_.scan, settings_);
   settings_.OpenComment = openComment;
-  item.count = scanner_.Scan(Lines(item.report.encoding), settings_);
+  item.count = scanner_.Scan(Lines(item.report), settings_);
   item.report.bytesRead = static_cast<std::int64_t>(bytesRead_);
   if (request_.keepReports) TallyLines(item.report);
   item.state = WalkItem::State::kScanned;

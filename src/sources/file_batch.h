@@ -84,7 +84,7 @@ class FileScanner {
   void TakeOpened(WalkItem& item);
   void Scan(WalkItem& item, int& openComment);
   void Read(InputFile& file, std::size_t atLeast, std::size_t atMost);
-  [[nodiscard]] std::string_view Lines(TextEncoding encoding);
+  [[nodiscard]] std::string_view Lines(FileReport& report);
   void TallyLines(FileReport& report) const;
 
   ScanSettings settings_;
@@ -96,7 +96,7 @@ class FileScanner {
   /// The bytes of a file, and room for one more.
   std::vector<char> memory_;
   std::size_t bytesRead_ = 0;
-  std::string decoded_;
+  std::string converted_;
 };
 
 }  // namespace quillomat

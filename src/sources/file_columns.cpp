@@ -16,15 +16,10 @@ FileCell BytesOf(const FileReport& report) {
   return {};
 }
 
-/// A line that is not UTF-8 is read as Windows-1252, each by itself.
+/// Where nothing is converted, a line that is not UTF-8 is read as Windows-1252, each by itself.
 std::string EncodingOf(const FileReport& report) {
-  switch (report.encoding) {
-    case TextEncoding::kUtf16LittleEndian:
-    case TextEncoding::kUtf16BigEndian:
-      return "UTF-16";
-    case TextEncoding::kUtf8WithMark:
-    case TextEncoding::kUtf8OrWindows1252:
-      break;
+  if (report.convertedFrom != CharacterSet::kAsFound) {
+    return std::string(NameOf(report.convertedFrom));
   }
   const std::int64_t notUtf8 = report.uncounted.linesNotUtf8;
   if (notUtf8 > 0) {
@@ -92,6 +87,8 @@ FileCell TextCellOf(const FileReport& report, FileColumn column) {
       return report.uncounted.foreignLetters;
     case FileColumn::kLinesNotUtf8:
       return report.uncounted.linesNotUtf8;
+    case FileColumn::kBytesNotDecoded:
+      return report.uncounted.bytesNotDecoded;
     default:
       return {};
   }

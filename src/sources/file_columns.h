@@ -24,14 +24,22 @@ enum class FileColumn : std::uint8_t {
   kWords,
   kLettersNotCounted,
   kLinesNotUtf8,
+  kBytesNotDecoded,
   /// Why it was not read, or not to its end; empty for one that was.
   kSkipped,
 };
 
 /// The names of the columns in files, in the order of FileColumn.
-inline constexpr std::array<std::string_view, 9> kFileColumnNames = {
-    "path",           "bytes",  "encoding", "line-ends", "lines", "words", "letters-not-counted",
-    "lines-not-utf8", "skipped"};
+inline constexpr std::array<std::string_view, 10> kFileColumnNames = {"path",
+                                                                      "bytes",
+                                                                      "encoding",
+                                                                      "line-ends",
+                                                                      "lines",
+                                                                      "words",
+                                                                      "letters-not-counted",
+                                                                      "lines-not-utf8",
+                                                                      "bytes-not-decoded",
+                                                                      "skipped"};
 
 /// Nothing where it is not known, or means nothing.
 using FileCell = std::variant<std::monostate, std::int64_t, std::string>;

@@ -5,6 +5,7 @@
 #include <span>
 
 #include "base/run_time_error.h"
+#include "sources/converted_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
@@ -53,9 +54,19 @@ LineTally::Unit LineUnitOf(TextEncoding encoding) {
   }
 }
 
-bool JudgeText(std::string_view head, FileReport& report) {
-  report.lineEnds = LineEndingTypeOf(head, kTextTestBytes);
+bool JudgeText(std::string_view head, CharacterSet encoding, FileReport& report) {
   report.encoding = EncodingOf(head);
+  report.convertedFrom = CharacterSetOf(head, encoding);
+  if (report.convertedFrom == CharacterSet::kAsFound) {
+    report.lineEnds = LineEndingTypeOf(head, kTextTestBytes);
+  } else {
+    const std::string_view judged = head.substr(0, HeadBytes(kTextTestBytes));
+    report.lineEnds = LineEndingTypeOf(ConvertedHead(judged, report.convertedFrom), kTextTestBytes);
+  }
+  const bool hasNoMark = report.encoding == TextEncoding::kUtf8OrWindows1252;
+  if (report.convertedFrom == CharacterSet::kUtf16 && hasNoMark) {
+    report.encoding = TextEncoding::kUtf16LittleEndian;
+  }
   if (report.lineEnds != LineEndingType::kNotText) return true;
   report.refusal = Refusal::kNotText;
   return false;
@@ -74,6 +85,7 @@ void TextPass::Try(FileReport& report, const ReadReported& read) {
     report.refusal = Refusal::kReadFailed;
     report.error = RunTimeError(RunTimeErrorNumber::kOutOfMemory);
   }
+  state_.settings.Uncounted.bytesNotDecoded += report.uncounted.bytesNotDecoded;
   report.wordsRead = state_.result.wordsRead - wordsBefore;
   report.uncounted = state_.settings.Uncounted;
   report.uncounted -= uncountedBefore;
@@ -106,7 +118,8 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
     return ReadStream(source, report);
   }
   report.bytes = file.Length();
-  if (!JudgeText(file.Ahead(HeadBytes(kTextTestBytes)), report)) return;
+  const CharacterSet encoding = state_.request.encoding;
+  if (!JudgeText(file.Ahead(HeadBytesFor(encoding)), encoding, report)) return;
   Begin(report, file.Length());
   report.identity = file.Identity();
   ReadText(file, file.Length() >= TextReader::kBytesWorthThreads, report);
@@ -114,12 +127,13 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
 
 void TextPass::ReadStream(ByteSource& source, FileReport& report) {
   HeadedSource text(source);
-  const std::string_view head = text.Ahead(HeadBytes(kTextTestBytes));
+  const CharacterSet encoding = state_.request.encoding;
+  const std::string_view head = text.Ahead(HeadBytesFor(encoding));
   if (head.empty() && !state_.stop.Stopped()) {
     report.refusal = Refusal::kEmpty;
     return;
   }
-  if (!JudgeText(head, report)) return;
+  if (!JudgeText(head, encoding, report)) return;
   Begin(report, 0);
   constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);
   ReadText(text, reader_.UsesThreads() && text.Ahead(kWorthThreads).size() == kWorthThreads,
@@ -161,10 +175,15 @@ void TextPass::ReadBytes(ByteSource& source, bool worthThreads, FileReport& repo
       NoteLines(bytes);
     };
   }
+  std::optional<ConvertedSource> converted;
+  if (report.convertedFrom != CharacterSet::kAsFound) {
+    converted.emplace(text, report.convertedFrom, report.uncounted.bytesNotDecoded);
+  }
+  ByteSource& lines = converted ? static_cast<ByteSource&>(*converted) : text;
   if (worthThreads && reader_.UsesThreads()) {
-    reader_.ReadLinesOnThreads(text, onBytes);
+    reader_.ReadLinesOnThreads(lines, onBytes);
   } else {
-    reader_.ReadLines(text, onBytes);
+    reader_.ReadLines(lines, onBytes);
   }
   NoteBytes(text.BytesRead(), report);
 }

@@ -11,6 +11,8 @@
 #include "base/byte_source.h"
 #include "sources/count_at_work.h"
 #include "sources/count_result.h"
+#include "sources/encoding_guess.h"
+#include "sources/line_endings.h"
 #include "sources/line_tally.h"
 #include "sources/text_reader.h"
 #include "system/input_file.h"
@@ -23,8 +25,14 @@ inline constexpr std::size_t kTextTestBytes = 10'240;
 /// What the lines of a text of that encoding are made of.
 [[nodiscard]] LineTally::Unit LineUnitOf(TextEncoding encoding);
 
-/// Notes what the text that starts with `head` is. False when it is none, and the report says so.
-[[nodiscard]] bool JudgeText(std::string_view head, FileReport& report);
+/// So many bytes at the start of a text are wanted to judge it.
+[[nodiscard]] constexpr std::size_t HeadBytesFor(CharacterSet encoding) {
+  return encoding == CharacterSet::kGuess ? kGuessBytes : HeadBytes(kTextTestBytes);
+}
+
+/// Notes what the text that starts with `head` is, where the user wants that encoding. False when
+/// it is none, and the report says so. Throws RunTimeError where the system cannot decode it.
+[[nodiscard]] bool JudgeText(std::string_view head, CharacterSet encoding, FileReport& report);
 
 class TextPass {
  public:

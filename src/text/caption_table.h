@@ -99,6 +99,7 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
     {"lblOnThisPage", 201},
     {"lblAllowWords", 202},
     {"lblLetters", 247},
+    {"lblEncoding", 260},
     {"fraIgnoreWords", 216},
     {"lblShortWordSize", 218},
     {"lblLongWords", 219},
@@ -130,6 +131,8 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
 
 /// The items of cboLetters.
 inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
+/// The first items of cboEncoding; the others are names.
+inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 
 /// Tool tips of frmParams.
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({
@@ -315,6 +318,10 @@ inline constexpr int kWordsLeftOutText = 709;
 inline constexpr int kWordLeftOutText = 710;
 inline constexpr int kLettersNotCountedText = 711;
 inline constexpr int kLetterNotCountedText = 712;
+inline constexpr int kBytesNotDecodedText = 726;
+inline constexpr int kByteNotDecodedText = 727;
+inline constexpr int kLinesNotUtf8Text = 728;
+inline constexpr int kLineNotUtf8Text = 729;
 inline constexpr int kWhichText = 715;
 inline constexpr int kCountAgainText = 716;
 inline constexpr int kChangeText = 717;
@@ -336,7 +343,7 @@ inline constexpr int kFilesViewText = 830;
 /// In the order of FileColumn.
 inline constexpr int kFirstFileColumnText = 831;
 /// For a screen reader.
-inline constexpr int kFilesNameText = 840;
+inline constexpr int kFilesNameText = 850;
 inline constexpr int kNoLineEndsText = 841;
 inline constexpr int kMixedLineEndsText = 842;
 inline constexpr int kFileIsNoTextText = 843;

@@ -1,6 +1,10 @@
 #include "ui/params_form.h"
 
+#include <span>
 #include <string>
+#include <string_view>
+
+#include "base/character_set.h"
 
 namespace quillomat {
 namespace {
@@ -28,6 +32,11 @@ void ParamsForm::FillCombos() {
   AddNumbers(cboThresholdFrequency, 2, 9, 1);
   cboLetters.AddItem("Western European");
   cboLetters.AddItem("of all languages");
+  constexpr std::string_view kFirstEncodings[] = {"as found", "guess"};
+  for (const std::string_view words : kFirstEncodings) cboEncoding.AddItem(std::string(words));
+  for (const std::string_view name : std::span(kCharacterSetNames).subspan(2)) {
+    cboEncoding.AddItem(std::string(name));
+  }
 }
 
 }  // namespace quillomat

@@ -19,8 +19,8 @@ class ParamsForm final : public Form {
   /// The boxes that allow a sign in words, in the order of the allow flags: hyphens to numerals.
   [[nodiscard]] std::array<CheckBox*, kAllowFlagCount> AllowCheckBoxes();
 
-  /// Fills the three lists of numbers, and that of letters; called once, at start-up. None is
-  /// selected then.
+  /// Fills the three lists of numbers, and those of letters and encodings; called once, at
+  /// start-up. None is selected then.
   void FillCombos();
 
   Label lblOnThisPage{*this, "lblOnThisPage"};
@@ -43,6 +43,8 @@ class ParamsForm final : public Form {
   CheckBox chkDropFinalS{*this, "chkDropFinalS", "Drop final 's' unless 'ss' or vowel+'s'"};
   Label lblLetters{*this, "lblLetters", "Letters:"};
   ComboBox cboLetters{*this, "cboLetters"};
+  Label lblEncoding{*this, "lblEncoding", "Encoding:"};
+  ComboBox cboEncoding{*this, "cboEncoding"};
   CheckBox chkFoldAccents{*this, "chkFoldAccents", "Accents make no difference"};
 
   // Which words are left out of the list.

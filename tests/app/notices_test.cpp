@@ -29,23 +29,28 @@ TEST(Notices, MostImportantComesFirst) {
                         .file = "kjv.txt",
                         .settingsChanged = true,
                         .foreignLetters = 1204,
+                        .bytesNotDecoded = 7,
+                        .linesNotUtf8 = 12,
                         .countOnlyWords = 5,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
-  EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
-                                        kLettersNotCountedText, kOnlyWordsCountedText,
-                                        kPartShownText, kWordsLeftOutText));
+  EXPECT_THAT(TextsOf(all),
+              ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
+                          kBytesNotDecodedText, kLettersNotCountedText, kOnlyWordsCountedText,
+                          kPartShownText, kLinesNotUtf8Text, kWordsLeftOutText));
 }
 
 TEST(Notices, OneIsNotMany) {
-  EXPECT_THAT(
-      TextsOf({.listStands = true,
-               .skipped = 1,
-               .foreignLetters = 1,
-               .countOnlyWords = 1,
-               .wordsToIgnore = 1}),
-      ElementsAre(kFileSkippedText, kLetterNotCountedText, kOnlyWordCountedText, kWordLeftOutText));
+  EXPECT_THAT(TextsOf({.listStands = true,
+                       .skipped = 1,
+                       .foreignLetters = 1,
+                       .bytesNotDecoded = 1,
+                       .linesNotUtf8 = 1,
+                       .countOnlyWords = 1,
+                       .wordsToIgnore = 1}),
+              ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
+                          kOnlyWordCountedText, kLineNotUtf8Text, kWordLeftOutText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -218,6 +223,27 @@ TEST_F(NoticeBarTest, LettersThatWereNotCountedAreToldInTheUsersWay) {
   Panel().cboLetters.SetListIndex(1);
   CountClipboard("ж cat");
   EXPECT_EQ(Said(), "");
+}
+
+TEST_F(NoticeBarTest, LinesThatWereNotUtf8AreTold) {
+  CountFile(folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n"));
+  EXPECT_EQ(Said(), "2 lines were not UTF-8 and were read as Windows-1252.");
+  EXPECT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Said(), "2 Zeilen waren kein UTF-8 und wurden als Windows-1252 gelesen.");
+  CountFile(folder.Write("a.txt", "th\xE9\n"));
+  EXPECT_EQ(Said(), "Eine Zeile war kein UTF-8 und wurde als Windows-1252 gelesen.");
+  CountFile(folder.Write("a.txt", "th\xC3\xA9\n"));
+  EXPECT_EQ(Said(), "");
+}
+
+TEST_F(NoticeBarTest, BytesThatCouldNotBeDecodedAreTold) {
+  Panel().cboEncoding.SetListIndex(2);
+  CountFile(folder.Write("a.txt", "caf\xE9 th\xE9\n"));
+  EXPECT_EQ(Said(), "2 bytes could not be decoded.");
+  EXPECT_THAT(Commands(), ElementsAre("Change"));
+  CountFile(folder.Write("a.txt", "cat\xFF\n"));
+  EXPECT_EQ(Said(), "One byte could not be decoded.");
 }
 
 TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {

@@ -112,17 +112,18 @@ TEST_F(SettingsTable, DefaultsAreSetInTheOrderOfTheTable) {
   }
   EXPECT_THAT(
       OrderOf([this] { Panel().cmdRestoreDefaults.PerformClick(); }),
-      ElementsAre(
-          "chkCaseSignificant", "chkIgnoreShortWords", "chkIgnoreInfrequentWords",
-          "chkIgnoreRepetitions", "chkIgnoreRomNum40", "chkIgnoreNoVowelOrY",
-          "chkAllowWordsWithHyphens", "chkAllowWordsWithApostrophes",
-          "chkAllowWordsWithUnderscores", "chkAllowWordsWithColons", "chkAllowWordsWithBackslashes",
-          "chkAllowWordsWithForwardslashes", "chkAllowWordsWithParentheses",
-          "chkAllowWordsWithPeriods", "chkAllowWordsWithCommas", "chkAllowWordsWithAtSigns",
-          "chkAllowWordsWithNumerals", "chkDropFinalS", "chkFoldAccents", "chkOutputWithCommas",
-          "chkUseLog10", "chkAllowCommentMarkers", "chkWarnOnOverwrite", "chkSaveStateOnQuit",
-          "txbStartComment(0)", "txbEndComment(0)", "txbStartComment(1)", "txbEndComment(1)",
-          "cboShortWordSize", "cboLongWordSize", "cboThresholdFrequency", "cboLetters"))
+      ElementsAre("chkCaseSignificant", "chkIgnoreShortWords", "chkIgnoreInfrequentWords",
+                  "chkIgnoreRepetitions", "chkIgnoreRomNum40", "chkIgnoreNoVowelOrY",
+                  "chkAllowWordsWithHyphens", "chkAllowWordsWithApostrophes",
+                  "chkAllowWordsWithUnderscores", "chkAllowWordsWithColons",
+                  "chkAllowWordsWithBackslashes", "chkAllowWordsWithForwardslashes",
+                  "chkAllowWordsWithParentheses", "chkAllowWordsWithPeriods",
+                  "chkAllowWordsWithCommas", "chkAllowWordsWithAtSigns",
+                  "chkAllowWordsWithNumerals", "chkDropFinalS", "chkFoldAccents",
+                  "chkOutputWithCommas", "chkUseLog10", "chkAllowCommentMarkers",
+                  "chkWarnOnOverwrite", "chkSaveStateOnQuit", "txbStartComment(0)",
+                  "txbEndComment(0)", "txbStartComment(1)", "txbEndComment(1)", "cboShortWordSize",
+                  "cboLongWordSize", "cboThresholdFrequency", "cboLetters", "cboEncoding"))
       << "the typed lists and the words files are kept";
 }
 

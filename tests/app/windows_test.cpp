@@ -178,6 +178,8 @@ TEST_F(Windows, Panel) {
        {"chkDropFinalS", kCheck, "Drop final 's' unless 'ss' or vowel+'s'", "0"},
        {"lblLetters", kLabel, "Letters:"},
        {"cboLetters", kCombo, kAnyCaption, "0"},
+       {"lblEncoding", kLabel, "Encoding:"},
+       {"cboEncoding", kCombo, kAnyCaption, "0"},
        {"chkFoldAccents", kCheck, "Accents make no difference", "1"},
        {"chkAllowCommentMarkers", kCheck, "Allow comment markers", "0"},
        {"fraIgnoreWords", kFrame, " Ignore words "},

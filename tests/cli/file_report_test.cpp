@@ -13,7 +13,8 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr const char* kReportHead =
-    "path,bytes,encoding,line-ends,lines,words,letters-not-counted,lines-not-utf8,skipped\r\n";
+    "path,bytes,encoding,line-ends,lines,words,letters-not-counted,lines-not-utf8,bytes-not-"
+    "decoded,skipped\r\n";
 
 class FileReportRun : public TerminalFixture {
  protected:
@@ -26,14 +27,14 @@ TEST_F(FileReportRun, HasALineForEveryFileInTheirOrder) {
   const std::string a = folder.Write("texts/a.txt", "caf\xE9\r\n");
   const std::string d = folder.Write("texts/d.txt", std::string_view("\0\1", 2));
   EXPECT_EQ(Run({folder / "texts", "--report", report, "--threads", "2"}), kListMade);
-  EXPECT_EQ(Reported(), kReportHead + a + ",6,Windows-1252,DOS,1,1,0,1,\r\n\"" + b +
-                            "\",14,ASCII,Unix,2,3,0,0,\r\n" + d + ",2,,,,,,,not text\r\n");
+  EXPECT_EQ(Reported(), kReportHead + a + ",6,Windows-1252,DOS,1,1,0,1,0,\r\n\"" + b +
+                            "\",14,ASCII,Unix,2,3,0,0,0,\r\n" + d + ",2,,,,,,,,not text\r\n");
 }
 
 TEST_F(FileReportRun, TellsWhyThereIsNoList) {
   const std::string path = folder.Write("a.txt", std::string_view("\0\1", 2));
   EXPECT_EQ(Run({path, "--report", report}), kRunFailed);
-  EXPECT_EQ(Reported(), kReportHead + path + ",2,,,,,,,not text\r\n");
+  EXPECT_EQ(Reported(), kReportHead + path + ",2,,,,,,,,not text\r\n");
   EXPECT_EQ(Run({folder.Path(), "--only-extensions", "log", "--report", folder / "b.csv"}),
             kRunFailed);
   EXPECT_THAT(err, HasSubstr("b.csv is not written: no file was met"));
@@ -42,7 +43,20 @@ TEST_F(FileReportRun, TellsWhyThereIsNoList) {
 TEST_F(FileReportRun, IsMadeOfWhatTheWindowCounts) {
   const std::string path = folder.Write("a.txt", "one two");
   EXPECT_EQ(Run({"--file", path, "--window-text", "--report", report}), kListMade);
-  EXPECT_EQ(Reported(), kReportHead + path + ",7,ASCII,none,1,2,0,0,\r\n");
+  EXPECT_EQ(Reported(), kReportHead + path + ",7,ASCII,none,1,2,0,0,0,\r\n");
+}
+
+TEST_F(FileReportRun, TellsTheEncodingThatEachFileWasReadIn) {
+  const std::string a = folder.Write("texts/a.txt", "cat\x81\n");
+  const std::string b = folder.Write("texts/b.txt", std::string_view("\xFF\xFE"
+                                                                     "c\0\n\0",
+                                                                     6));
+  EXPECT_EQ(Run({folder / "texts", "--report", report, "--encoding", "cp1252"}), kListMade);
+  EXPECT_EQ(Reported(), kReportHead + a + ",5,Windows-1252,Unix,1,1,0,0,1,\r\n" + b +
+                            ",6,UTF-16,Unix,1,1,0,0,0,\r\n");
+  const std::string c = folder.Write("c.txt", std::string_view("a\0\n\0i\0", 6));
+  EXPECT_EQ(Run({c, "--report", folder / "c.csv", "--encoding", "utf16"}), kListMade);
+  EXPECT_EQ(ContentsOf(folder / "c.csv"), kReportHead + c + ",6,UTF-16,Unix,2,2,0,0,0,\r\n");
 }
 
 TEST_F(FileReportRun, HasTheFormOfItsEnding) {

@@ -89,6 +89,7 @@ TEST_F(SettingOptions, EveryOtherOptionSetsItsControls) {
          {"txbEndComment(0)", "-->"},
          {"txbStartComment(1)", ""}}}},
       {"--letters", {"All", {{"cboLetters", "of all languages"}}}},
+      {"--encoding", {"CP1251", {{"cboEncoding", "Windows-1251"}}}},
       {"--ignore", {"a b,c.txt", {{"txbWordsFile(0)", "a b,c.txt"}}}},
       {"--only", {"c.txt", {{"txbWordsFile(1)", "c.txt"}}}},
       {"--ignore-words", {"the,and of", {{"txbWordsToIgnoreOrCount(0)", "the and of"}}}},

@@ -50,6 +50,56 @@ TEST_F(TerminalRunTest, LettersThatAreNotCountedAreTold) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(TerminalRunTest, LinesThatWereNotUtf8AreTold) {
+  const std::string path = folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n");
+  const std::string note =
+      "Note: 2 lines were not UTF-8 and were read as Windows-1252; --encoding names another "
+      "encoding.\n";
+  for (const char* how : {"--file", "--text", "--window-text"}) {
+    const bool window = std::string(how) == "--window-text";
+    EXPECT_EQ(
+        Run(window ? std::vector<std::string>{path, how} : std::vector<std::string>{how, path}), 0);
+    EXPECT_EQ(err, note) << how;
+  }
+  EXPECT_EQ(Run({folder.Write("b.txt", "caf\xE9\n")}), 0);
+  EXPECT_EQ(err,
+            "Note: 1 line was not UTF-8 and was read as Windows-1252; --encoding names another "
+            "encoding.\n");
+  EXPECT_EQ(Run({path, "--encoding", "Latin1"}), 0);
+  EXPECT_EQ(err, "");
+}
+
+TEST_F(TerminalRunTest, BytesThatCouldNotBeDecodedAreTold) {
+  input = "cat\x81 dog";
+  const std::string path = folder.Write("a.txt", input);
+  for (const std::vector<std::string>& how :
+       {std::vector<std::string>{path}, {"-"}, {"--text", path}, {path, "--window-text"}}) {
+    std::vector<std::string> arguments = how;
+    arguments.insert(arguments.end(), {"--encoding", "cp1252"});
+    EXPECT_EQ(Run(arguments), 0);
+    EXPECT_EQ(err, "Note: 1 byte could not be decoded; --encoding names another encoding.\n");
+  }
+  EXPECT_EQ(Run({folder.Write("b.txt", "cat\xFF\xFE"), "--encoding", "utf8"}), 0);
+  EXPECT_EQ(err, "Note: 2 bytes could not be decoded; --encoding names another encoding.\n");
+}
+
+TEST_F(TerminalRunTest, TextsAreReadInTheEncodingThatIsNamed) {
+  input = "\xC4\xC5\xCC\xCF";
+  const std::string path = folder.Write("a.txt", input);
+  for (const std::vector<std::string>& how :
+       {std::vector<std::string>{path}, {"-"}, {"--text", path}}) {
+    std::vector<std::string> arguments = how;
+    arguments.insert(arguments.end(), {"--encoding", "koi8-r", "--letters", "all", "--format=8"});
+    EXPECT_EQ(Run(arguments), 0);
+    EXPECT_THAT(out, HasSubstr("дело\n"));
+    EXPECT_EQ(err, "");
+  }
+  EXPECT_EQ(Run({path, "--encoding", "klingon"}), 2);
+  EXPECT_THAT(err, HasSubstr("--encoding klingon: takes"));
+  EXPECT_THAT(err, HasSubstr("as-found, guess, UTF-8, UTF-16, Windows-1250"));
+  EXPECT_THAT(err, HasSubstr("IBM850\n"));
+}
+
 TEST_F(TerminalRunTest, FilesFoldersAndStandardInputAreCountedTogether) {
   input = "cat";
   static_cast<void>(folder.Write("many/b.txt", "cat dog"));

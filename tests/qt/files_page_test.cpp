@@ -70,7 +70,7 @@ TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
   Table().selectRow(1);
   Window().FilesView().Copy();
   EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
-            folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t\n");
+            folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
 }
 
 TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {

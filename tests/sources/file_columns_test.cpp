@@ -31,8 +31,10 @@ TEST(FileColumns, EncodingIsWhatTheTextWasReadAs) {
   FileReport marked;
   marked.encoding = TextEncoding::kUtf8WithMark;
   EXPECT_EQ(Shown(marked, kEncoding), "UTF-8");
-  marked.encoding = TextEncoding::kUtf16BigEndian;
+  marked.convertedFrom = CharacterSet::kUtf16;
   EXPECT_EQ(Shown(marked, kEncoding), "UTF-16");
+  marked.convertedFrom = CharacterSet::kKoi8R;
+  EXPECT_EQ(Shown(marked, kEncoding), "KOI8-R");
 }
 
 TEST(FileColumns, LineEndsAreNamedByTheirSystem) {

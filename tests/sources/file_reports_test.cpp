@@ -53,21 +53,21 @@ TEST_F(FileReports, TellOfEachFileHowItWasRead) {
                                 8));
   EXPECT_THAT(
       RowsOf(TextOfFolder{folder.Path(), false, {}}),
-      ElementsAre("a.txt 12 ASCII Unix 2 3 0 0 -", "b.txt 16 UTF-8 DOS 2 2 2 0 -",
-                  "c.txt 8 UTF-8, Windows-1252 mixed 2 2 0 1 -", "d.txt 3 - - - - - - not text",
-                  "e.txt 0 - - - - - - empty", "f.txt 8 UTF-16 Macintosh 1 1 0 0 -"));
+      ElementsAre("a.txt 12 ASCII Unix 2 3 0 0 0 -", "b.txt 16 UTF-8 DOS 2 2 2 0 0 -",
+                  "c.txt 8 UTF-8, Windows-1252 mixed 2 2 0 1 0 -", "d.txt 3 - - - - - - - not text",
+                  "e.txt 0 - - - - - - - empty", "f.txt 8 UTF-16 Macintosh 1 1 0 0 0 -"));
 }
 
 TEST_F(FileReports, TellOfFilesThatAreNotThereAndOfStreams) {
   ChunkedSource input("one\ntwo", 2);
   EXPECT_THAT(RowsOf(TextOfPaths{{folder / "gone.txt", "-"}, false, {}, &input}),
-              ElementsAre(testing::StartsWith("gone.txt - - - - - - - not found"),
-                          "- 7 ASCII Unix 2 2 0 0 -"));
+              ElementsAre(testing::StartsWith("gone.txt - - - - - - - - not found"),
+                          "- 7 ASCII Unix 2 2 0 0 0 -"));
 }
 
 TEST_F(FileReports, OfASingleFileAreThereToo) {
   const std::string path = folder.Write("a.txt", "cat\rdog\r");
-  EXPECT_THAT(RowsOf(TextOfFile{path}), ElementsAre("a.txt 8 ASCII Macintosh 2 2 0 0 -"));
+  EXPECT_THAT(RowsOf(TextOfFile{path}), ElementsAre("a.txt 8 ASCII Macintosh 2 2 0 0 0 -"));
   request.keepReports = false;
   EXPECT_FALSE(Run().reports.at(0).lines.has_value()) << "nobody asked for its lines";
 }

@@ -37,6 +37,10 @@ KeyRule ReadKeyRule(const ParamsForm& frmParams) {
   return {ReadLetterRule(frmParams), !frmParams.chkFoldAccents.IsChecked()};
 }
 
+CharacterSet ReadEncoding(const ParamsForm& frmParams) {
+  return static_cast<CharacterSet>(std::max(frmParams.cboEncoding.ListIndex(), 0));
+}
+
 FilterChoices ReadFilterChoices(const ParamsForm& frmParams) {
   FilterChoices choices;
   choices.ignoreInfrequentWords = frmParams.chkIgnoreInfrequentWords.Value();

@@ -16,6 +16,7 @@ CountRequest RequestFromControls(ParamsForm& frmParams, const InForce& inForce,
   request.scan = ReadScanChoices(frmParams);
   request.filters = ReadFilterChoices(frmParams);
   request.lists = inForce.lists;
+  request.encoding = ReadEncoding(frmParams);
   request.openComment = inForce.settings.OpenComment;
   request.orderFigures = inForce.wantsOrderFigures;
   request.keepReports = inForce.wantsFileReports;

@@ -17,6 +17,8 @@
 #include "base/text_helpers.h"
 #include "engine/uncounted.h"
 #include "engine/word_scanner.h"
+#include "sources/converted_source.h"
+#include "sources/encoding_guess.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
@@ -113,7 +115,8 @@ std::string& WordListReader::FileInForce(WordListKind kind) {
 
 bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   if (path != FileInForce(kind)) return false;
-  return path.empty() || rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_);
+  return path.empty() || (rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_) &&
+                          encodingsInForce_[IndexOf(kind)] == ReadEncoding(frmParams_));
 }
 
 std::string WordListReader::GetExtraWords(WordListKind kind) {
@@ -155,7 +158,8 @@ bool WordListReader::ReadWords(WordListKind kind) {
     }
     PatientSource patient(file, run_);
     HeadedSource text(patient);
-    const LineEndingType type = TypeOf(text, path);
+    LineEndingType type = TypeOf(text, path);
+    const CharacterSet from = FindEncoding(text, type);
     if (run_.StopRequested()) return false;
     if (type == LineEndingType::kNotText) {
       messages_.Refuse("This is not a text file.", "Invalid input");
@@ -175,10 +179,11 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ConcealNumWords(frmMain_, false);
     output_.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
                                     : "Now reading count-only words . . . ");
-    ScanWordsFile(text, file.Length() == 0);
+    ScanWordsFile(text, {from, file.Length() == 0});
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
     rulesInForce_[IndexOf(kind)] = choices.Keys();
+    encodingsInForce_[IndexOf(kind)] = ReadEncoding(frmParams_);
     return true;
   } catch (const InputTooLong& error) {
     tooLong_ = ":" + std::string(kCrLf) + error.Description();
@@ -190,16 +195,33 @@ bool WordListReader::ReadWords(WordListKind kind) {
   }
 }
 
-void WordListReader::ScanWordsFile(ByteSource& text, bool mayBeEndless) {
+/// What the words file is converted from. `type` is what it is as its bytes stand, and becomes what
+/// it is then.
+CharacterSet WordListReader::FindEncoding(HeadedSource& text, LineEndingType& type) const {
+  const CharacterSet choice = ReadEncoding(frmParams_);
+  constexpr std::size_t kHeadBytes = HeadBytes(kListTestBytes);
+  const bool asFound = choice == CharacterSet::kAsFound;
+  const std::string_view head = text.Ahead(asFound ? kHeadBytes : kGuessBytes);
+  const CharacterSet from = CharacterSetOfWords(head, choice);
+  if (from != CharacterSet::kAsFound) {
+    type = LineEndingTypeOf(ConvertedHead(head.substr(0, kHeadBytes), from), kListTestBytes);
+  }
+  return from;
+}
+
+void WordListReader::ScanWordsFile(ByteSource& text, const WordsFileForm& form) {
   const ScanChoices choices = ReadScanChoices(frmParams_);
   const WordLists lists = inForce_.lists;
   WordEcho echo(frmMain_, output_, messages_, inForce_.settings);
   const ListenerGuard listening(words_.store, echo);
   WordScanner scanner(inForce_.settings, choices, lists, words_.store, run_);
   SourceLimits limits{.lineBytes = kMostWordsBytes};
-  if (mayBeEndless) limits.bytes = kMostWordsBytes;
+  if (form.mayBeEndless) limits.bytes = kMostWordsBytes;
   LimitedSource limited(text, limits);
-  LineDecoder lines(limited);
+  std::int64_t bytesNotDecoded = 0;
+  std::optional<ConvertedSource> converted;
+  if (form.from != CharacterSet::kAsFound) converted.emplace(limited, form.from, bytesNotDecoded);
+  LineDecoder lines(converted ? static_cast<ByteSource&>(*converted) : limited);
   std::string buffer;
   lettersNotRead_ = 0;
   while (const auto line = lines.NextLine()) {

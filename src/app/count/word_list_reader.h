@@ -1,6 +1,7 @@
 // The lists of words to ignore and of count-only words: typed by hand on the panel, or read from
 // words files. A words file is scanned as a text is, with every sign allowed in words and /* */ and
-// // comments skipped; it uses the word store, so the words of the last count are gone afterwards.
+// // comments skipped, in the encoding that the user has chosen unless it looks like UTF-8; it uses
+// the word store, so the words of the last count are gone afterwards.
 #pragma once
 
 #include <array>
@@ -10,8 +11,11 @@
 
 #include "app/what_parts_share.h"
 #include "base/byte_source.h"
+#include "base/character_set.h"
 #include "engine/letter_rule.h"
 #include "engine/word_list.h"
+#include "sources/line_endings.h"
+#include "sources/read_sources.h"
 
 namespace quillomat {
 
@@ -67,7 +71,13 @@ class WordListReader {
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
-  void ScanWordsFile(ByteSource& text, bool mayBeEndless);
+  struct WordsFileForm {
+    CharacterSet from = CharacterSet::kAsFound;
+    bool mayBeEndless = false;
+  };
+
+  [[nodiscard]] CharacterSet FindEncoding(HeadedSource& text, LineEndingType& type) const;
+  void ScanWordsFile(ByteSource& text, const WordsFileForm& form);
   void TakeWordsFromStore(WordListKind kind);
   void TickAllowBoxesForListWords();
   [[nodiscard]] WordList& FileList(WordListKind kind);
@@ -75,7 +85,8 @@ class WordListReader {
   [[nodiscard]] TextBox& PathBox(WordListKind kind);
   [[nodiscard]] TextBox& ExtraBox(WordListKind kind);
 
-  /// Whether the words of the file are those that it has under the present rule of letters.
+  /// Whether the words of the file are those that it has under the present rule of letters, and in
+  /// the present encoding.
   [[nodiscard]] bool IsInForce(WordListKind kind, const std::string& path);
   /// The file that the list was read from; "" when it was read from none.
   [[nodiscard]] std::string& FileInForce(WordListKind kind);
@@ -91,6 +102,7 @@ class WordListReader {
   const WindowFlags& flags_;
   /// By which the files in force were read.
   std::array<KeyRule, 2> rulesInForce_;
+  std::array<CharacterSet, 2> encodingsInForce_{};
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
   /// Of the last words file, by the rule of letters that it was read with.

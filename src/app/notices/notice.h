@@ -36,6 +36,9 @@ struct NoticeFacts {
   bool settingsChanged = false;
   /// Letters of other alphabets than the count went by.
   std::int64_t foreignLetters = 0;
+  /// What of the text's bytes was not as its encoding wants it (Uncounted).
+  std::int64_t bytesNotDecoded = 0;
+  std::int64_t linesNotUtf8 = 0;
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   std::int64_t wordsToIgnore = 0;

@@ -1,0 +1,71 @@
+// From the bytes of an encoding to UTF-8, piece by piece: a piece may end within a character.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillomat {
+
+/// What stands for bytes that are no character of their encoding. It is no part of any word.
+inline constexpr char32_t kReplacementCharacter = 0xFFFD;
+
+class TextDecoder {
+ public:
+  TextDecoder() = default;
+  TextDecoder(const TextDecoder&) = delete;
+  TextDecoder& operator=(const TextDecoder&) = delete;
+  TextDecoder(TextDecoder&&) = delete;
+  TextDecoder& operator=(TextDecoder&&) = delete;
+  virtual ~TextDecoder() = default;
+
+  /// Appends the characters that end with `bytes` to `text`. A byte-order mark is a character as
+  /// any other.
+  virtual void Decode(std::string_view bytes, std::string& text) = 0;
+  /// There are no more bytes: a character that is not finished is none. Called once, at last.
+  virtual void End(std::string& text) = 0;
+
+  /// How many bytes were no character, and became a replacement character.
+  [[nodiscard]] std::int64_t BytesNotDecoded() const { return bytesNotDecoded_; }
+
+ protected:
+  /// Appends what stands for so many bytes together.
+  void Replace(std::size_t bytes, std::string& text);
+
+ private:
+  std::int64_t bytesNotDecoded_ = 0;
+};
+
+/// Each byte that fits nowhere becomes a replacement character.
+class Utf8Decoder final : public TextDecoder {
+ public:
+  void Decode(std::string_view bytes, std::string& text) override;
+  void End(std::string& text) override;
+
+ private:
+  /// The start of a character, or of what may be one.
+  std::string unfinished_;
+};
+
+/// A lone surrogate, or an odd last byte, becomes a replacement character.
+class Utf16Decoder final : public TextDecoder {
+ public:
+  enum class ByteOrder : std::uint8_t { kByMark, kLittleEndian, kBigEndian };
+
+  /// By its mark: without one the low byte comes first.
+  explicit Utf16Decoder(ByteOrder order = ByteOrder::kByMark) : order_(order) {}
+
+  void Decode(std::string_view bytes, std::string& text) override;
+  void End(std::string& text) override;
+
+ private:
+  void TakeUnit(char16_t unit, std::string& text);
+
+  ByteOrder order_;
+  std::optional<unsigned char> oddByte_;
+  std::optional<char16_t> highSurrogate_;
+};
+
+}  // namespace quillomat

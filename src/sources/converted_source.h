@@ -1,0 +1,53 @@
+// A source whose bytes are in an encoding, as one of UTF-8: who reads it knows nothing of
+// encodings.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/byte_source.h"
+#include "base/character_set.h"
+#include "base/text_decoder.h"
+#include "engine/uncounted.h"
+
+namespace quillomat {
+
+class ConvertedSource final : public ByteSource {
+ public:
+  /// Both outlive it. `from` is a set, neither kAsFound nor kGuess. Bytes that are no character are
+  /// added to `bytesNotDecoded`; a byte-order mark stays. Throws RunTimeError where the system
+  /// cannot decode the set.
+  ConvertedSource(ByteSource& source, CharacterSet from, std::int64_t& bytesNotDecoded);
+
+  std::size_t Read(std::span<char> buffer) override;
+
+ private:
+  void ConvertBlock();
+
+  ByteSource& source_;
+  std::unique_ptr<TextDecoder> decoder_;
+  std::int64_t& bytesNotDecoded_;
+  std::vector<char> block_;
+  /// Converted, and not yet given out from convertedStart_ on.
+  std::string converted_;
+  std::size_t convertedStart_ = 0;
+  bool ended_ = false;
+};
+
+/// All of `bytes`, in UTF-8, without a byte-order mark. The arguments are those of ConvertedSource.
+[[nodiscard]] std::string ConvertedText(std::string_view bytes, CharacterSet from,
+                                        std::int64_t& bytesNotDecoded);
+
+/// All of `source` as text, line breaks included, where the user wants the encoding `choice`. What
+/// is not as it should be is added to `uncounted`.
+[[nodiscard]] std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncounted);
+
+/// The start of a text whose start is `head`, which may end within a character.
+[[nodiscard]] std::string ConvertedHead(std::string_view head, CharacterSet from);
+
+}  // namespace quillomat

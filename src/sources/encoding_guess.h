@@ -1,0 +1,27 @@
+// Which character set the bytes of a text are likely to be in.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "base/character_set.h"
+
+namespace quillomat {
+
+/// So many bytes at the start of a text are enough for a guess.
+inline constexpr std::size_t kGuessBytes = std::size_t{64} * 1024;
+
+/// Whether all of `head` is text in UTF-8. One of kGuessBytes may end within a character; a shorter
+/// one is the whole text.
+[[nodiscard]] bool LooksLikeUtf8(std::string_view head);
+
+/// The set that the text that starts with `head` is to be converted from, where the user wants
+/// `choice`. A byte-order mark says more than any choice. kAsFound where nothing is to be converted
+/// or nothing can be guessed; never kGuess.
+[[nodiscard]] CharacterSet CharacterSetOf(std::string_view head, CharacterSet choice);
+
+/// The same of a list that may come with the program, or from elsewhere than the texts: what looks
+/// like UTF-8 is read as it is.
+[[nodiscard]] CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice);
+
+}  // namespace quillomat

@@ -1,0 +1,112 @@
+// The panel's choice of what the bytes of texts are in.
+#include <gmock/gmock.h>
+
+#include "base/character_set.h"
+#include "support/program_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// "слово дело" in KOI8-R.
+constexpr const char* kWordsInKoi8 = "\xD3\xCC\xCF\xD7\xCF \xC4\xC5\xCC\xCF\n";
+
+class EncodingSetting : public ProgramFixture {
+ protected:
+  void ChooseEncoding(CharacterSet set) {
+    Panel().cboEncoding.PerformChoice(static_cast<int>(set));
+  }
+  void ChooseAllLetters() { Panel().cboLetters.PerformChoice(1); }
+};
+
+TEST_F(EncodingSetting, FilesAreReadAsTheyAreFoundUnlessOneIsChosen) {
+  const std::string path = folder.Write("a.txt", kWordsInKoi8);
+  ChooseAllLetters();
+  CountFile(path);
+  EXPECT_EQ(StoredWords(), "äåìï ï óìï") << "as Windows-1252, where D7 is a sign";
+}
+
+TEST_F(EncodingSetting, FilesAreReadInTheEncodingThatIsChosen) {
+  ChooseAllLetters();
+  ChooseEncoding(CharacterSet::kKoi8R);
+  CountFile(folder.Write("a.txt", kWordsInKoi8));
+  EXPECT_EQ(StoredWords(), "дело слово");
+}
+
+TEST_F(EncodingSetting, FilesOfAFolderAreReadInIt) {
+  ChooseAllLetters();
+  ChooseEncoding(CharacterSet::kKoi8R);
+  static_cast<void>(folder.Write("texts/a.txt", kWordsInKoi8));
+  CountFolder(folder / "texts");
+  EXPECT_EQ(StoredWords(), "дело слово");
+}
+
+TEST_F(EncodingSetting, ChangeEntailsReadingAnewAndNoTakesItBack) {
+  CountFile(folder.Write("a.txt", "cat"));
+  desktop.Answer(MessageAnswer::kNo);
+  ChooseEncoding(CharacterSet::kUtf16);
+  EXPECT_THAT(OnlyMessage().text, HasSubstr("entails reading"));
+  EXPECT_EQ(Panel().cboEncoding.ListIndex(), 0);
+}
+
+TEST_F(EncodingSetting, WordsFilesFollowUnlessTheyLookLikeUtf8) {
+  ChooseAllLetters();
+  ChooseEncoding(CharacterSet::kKoi8R);
+  Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", "\xD3\xCC\xCF\xD7\xCF\n"));
+  CountClipboard("слово дело");
+  EXPECT_EQ(StoredWords(), "дело");
+  Panel().txbWordsFile[0].SetText(folder.Write("utf8.txt", "дело\n"));
+  CountClipboard("слово дело");
+  EXPECT_EQ(StoredWords(), "слово");
+}
+
+TEST_F(EncodingSetting, WordsFileIsReadAnewInAnotherEncoding) {
+  ChooseAllLetters();
+  Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", "\xD3\xCC\xCF\xD7\xCF\n"));
+  CountClipboard("слово дело");
+  EXPECT_EQ(StoredWords(), "дело слово");
+  desktop.Answer(MessageAnswer::kYes);
+  ChooseEncoding(CharacterSet::kKoi8R);
+  CountClipboard("слово дело");
+  EXPECT_EQ(StoredWords(), "дело");
+}
+
+TEST_F(EncodingSetting, WordsFileInUtf16WithoutAMarkIsATextIfChosen) {
+  using namespace std::string_literals;
+  ChooseEncoding(CharacterSet::kUtf16);
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "c\0a\0t\0"s));
+  CountClipboard("cat dog");
+  EXPECT_EQ(StoredWords(), "dog");
+}
+
+TEST_F(EncodingSetting, StateFileTellsOfItWhereItIsNotTheDefault) {
+  const auto savedState = [this] {
+    EXPECT_EQ(program.States().SaveState(folder / "state.qlm"), "");
+    return ContentsOf(folder / "state.qlm");
+  };
+  EXPECT_THAT(savedState(), Not(HasSubstr("cboEncoding")));
+  ChooseEncoding(CharacterSet::kShiftJis);
+  EXPECT_THAT(savedState(), HasSubstr("\r\ncboEncoding=26\r\n"));
+  Panel().cmdRestoreDefaults.PerformClick();
+  EXPECT_EQ(Panel().cboEncoding.ListIndex(), 0);
+  EXPECT_EQ(program.States().RestoreSavedState(folder / "state.qlm"), RestoreResult::kRestored);
+  EXPECT_EQ(Panel().cboEncoding.ListIndex(), static_cast<int>(CharacterSet::kShiftJis));
+}
+
+TEST_F(EncodingSetting, ItemsAreTheNamesAndSpeakTheLanguageOfTheWindows) {
+  const std::span<const std::string> items = Panel().cboEncoding.Items();
+  ASSERT_EQ(items.size(), kCharacterSetNames.size());
+  EXPECT_EQ(items[0], "as found");
+  EXPECT_EQ(items[1], "guess");
+  for (std::size_t i = 2; i < items.size(); ++i) EXPECT_EQ(items[i], kCharacterSetNames[i]);
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Panel().lblEncoding.Caption(), "Kodierung:");
+  EXPECT_EQ(Panel().cboEncoding.Items()[0], "wie vorgefunden");
+  EXPECT_EQ(Panel().cboEncoding.Items()[1], "erraten");
+  EXPECT_EQ(Panel().cboEncoding.Items()[2], "UTF-8");
+}
+
+}  // namespace
+}  // namespace quillomat
