@@ -1,7 +1,6 @@
 // What the table of words costs with two million different words: its rows, its order, its filters.
 // Wall clock and processor time; the work is done on all cores.
 #include <benchmark/benchmark.h>
-
 #include <cstdint>
 #include <string>
 #include <utility>

@@ -37,8 +37,8 @@ struct RowFilter {
   [[nodiscard]] bool operator==(const RowFilter&) const = default;
 };
 
-/// Whether an expression matches a text in UTF-8, in any letter case. Only one thread may call it at
-/// a time: each works with a copy of its own.
+/// Whether an expression matches a text in UTF-8, in any letter case. Only one thread may call it
+/// at a time: each works with a copy of its own.
 using Matcher = std::function<bool(std::string_view text)>;
 
 /// What is wrong with an expression, for the user.
