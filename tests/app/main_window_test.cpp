@@ -130,7 +130,7 @@ TEST_F(MainWindowTest, BareNameBecomesAPathInTheFolderUsedLast) {
 
 TEST_F(MainWindowTest, BlanksRoundAWholePathAreDroppedToo) {
   desktop.SetDocumentsFolder(documents.Path());
-  const std::string words = folder.Write("w.txt", "cat\n");
+  const std::string words = folder.Write("w.txt", "cat\r\n");
   TextBox& txbWordsFile = Panel().txbWordsFile[0];
   Panel().SetFocus(txbWordsFile);
   txbWordsFile.EnterText(" " + words + " ");

@@ -130,7 +130,7 @@ TEST_F(StateRestore, LostWordsFileIsNotTalkedAboutWhenItsBoxIsLeftForTheLoading)
 }
 
 TEST_F(StateRestore, BoxThatIsLeftForALoadingThatIsCancelledIsTakenAllTheSame) {
-  const std::string words = folder.Write("w.txt", "cat\n");
+  const std::string words = folder.Write("w.txt", "cat\r\n");
   Panel().SetFocus(Panel().txbWordsFile[1]);
   Panel().txbWordsFile[1].EnterText(words);
   desktop.AnswerFile(std::nullopt);
