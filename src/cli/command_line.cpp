@@ -16,13 +16,14 @@
 #include "cli/export_options.h"
 #include "cli/file_report.h"
 #include "cli/help_formatter.h"
+#include "cli/option_errors.h"
 #include "cli/standard_output.h"
 #include "engine/unicode_traits.h"
 
 namespace quillomat {
 namespace {
 
-constexpr unsigned kMostThreads = 64;
+constexpr std::int32_t kMostThreads = 64;
 
 constexpr const char* kFooter =
     "An option and its opposite: (on) tells what holds without them.\n"
@@ -75,9 +76,12 @@ void DefineText(CLI::App& app, CommandLine& options) {
 }
 
 void DefineExports(CLI::App& app, CommandLine& options) {
-  AddValue(app, "--export", options.exports, "FILE",
+  AddValue(app, "--export", options.exports, "FILE|-",
            "Write the words as a table, too: csv, tsv, xlsx, html, md, json or jsonl, by the "
-           "ending; may be repeated");
+           "ending; may be repeated; - for standard output, in place of the list");
+  AddValue(app, "--export-format", options.exportFormat, "FORMAT",
+           "The form of an export whose name does not tell it, by such an ending; csv for - if "
+           "not given");
   AddValue(app, "--columns", options.columns, "LIST",
            "Columns of --export: rank, word, frequency, percent, per-million, cumulative, length, "
            "files; with file a row for every file that a word occurs in");
@@ -97,7 +101,7 @@ void DefineStates(CLI::App& app, CommandLine& options, std::vector<std::string>&
 
 void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& answers) {
   AddValue(app, "--top", options.top, "N", "List the first N words only, in the order asked for")
-      ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()));
+      ->check(WholeNumberFrom(1, std::numeric_limits<std::int32_t>::max()));
   app.add_flag("--null", options.null,
                "End the lines of the list with a NUL byte: names of files may hold line breaks");
   app.add_flag("--summary", options.summary, "Print the summary of the count on standard error");
@@ -114,7 +118,7 @@ void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& an
                "On Ctrl+C list what was counted until then");
   AddValue(app, "--threads", options.threads, "N",
            "How many threads may scan a large text; one for every core if not given")
-      ->check(CLI::Range(1U, kMostThreads));
+      ->check(WholeNumberFrom(1, kMostThreads));
   AddValue(app, "--answer", answers, "TITLE=ANSWER",
            "The answer to the question with that title, e.g. "
            "'The output file exists.=OK'; may be repeated");
@@ -179,19 +183,20 @@ void DefineOptions(CLI::App& app, CommandLine& options, SettingOptions& settings
   }
   app.option_defaults()->group(kRunHeading);
   DefineRun(app, options, answers);
-  app.set_help_flag("--help", "Print this help");
+  app.set_help_flag("-h,--help", "Print this help");
   app.set_version_flag("--version", VersionLine(), "Print the version");
   app.footer(kFooter);
 }
 
-/// Splits "NAME=VALUE" at the first "="; without one the argument is at fault.
+/// Splits at the first "="; an argument that has not the form is at fault.
 std::vector<std::pair<std::string, std::string>> SplitPairs(const std::string& option,
+                                                            const std::string& form,
                                                             const std::vector<std::string>& items) {
   std::vector<std::pair<std::string, std::string>> pairs;
   for (const std::string& item : items) {
     const std::size_t equals = item.find('=');
     if (equals == std::string::npos || equals == 0) {
-      throw CLI::ValidationError(option, "'" + item + "' must have the form NAME=VALUE");
+      throw CLI::ValidationError(option, "'" + item + "' must have the form " + form);
     }
     pairs.emplace_back(item.substr(0, equals), item.substr(equals + 1));
   }
@@ -210,8 +215,10 @@ void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& desc
     if (!descriptions.empty() && option->get_name() == descriptions.front().name) continue;
     const bool takesValue = option->get_items_expected_max() > 0;
     for (const std::string& name : option->get_lnames()) {
-      descriptions.push_back(
-          {"--" + name, takesValue ? option->get_option_text() : "", option->get_description()});
+      const std::vector<std::string>& letters = option->get_snames();
+      descriptions.push_back({"--" + name, letters.empty() ? "" : "-" + letters.front(),
+                              takesValue ? option->get_option_text() : "",
+                              option->get_description()});
     }
   }
   // Groups of options are parts of their own there.
@@ -259,15 +266,25 @@ void CheckExplain(const CommandLine& options) {
   }
 }
 
+/// There is one, of one kind.
+void CheckSource(const CommandLine& options) {
+  std::vector<std::string> given;
+  if (!options.paths.empty()) given.push_back(options.paths.front());
+  const auto take = [&given](const char* name, const std::optional<std::string>& value) {
+    if (value) given.push_back(std::string(name) + " " + *value);
+  };
+  take("--file", options.file);
+  take("--folder", options.folder);
+  take("--text", options.text);
+  take("--explain", options.explain);
+  if (given.size() == 1) return;
+  const std::string fault =
+      given.empty() ? "no text" : "more than one text (" + given[0] + ", " + given[1] + ")";
+  throw CLI::ValidationError(fault, "give paths, or one of --file, --folder, --text and --explain");
+}
+
 void CheckCombinations(const CommandLine& options) {
-  const auto sources = std::ranges::count(
-      std::array{!options.paths.empty(), options.file.has_value(), options.folder.has_value(),
-                 options.text.has_value(), options.explain.has_value()},
-      true);
-  if (sources != 1) {
-    throw CLI::ValidationError(sources == 0 ? "no text" : "more than one text",
-                               "give paths, or one of --file, --folder, --text and --explain");
-  }
+  CheckSource(options);
   CheckExplain(options);
   const auto needsFolder = [&](bool given, const char* option) {
     if (given && (options.file || options.text)) {
@@ -311,15 +328,19 @@ ParsedCommandLine ParseCommandLine(const std::vector<std::string>& arguments, st
   std::vector<std::string> set;
   std::vector<std::string> answers;
   DefineOptions(app, result.options, settings, set, answers);
+  std::vector<std::string> given(
+      arguments.begin() + std::min<std::ptrdiff_t>(1, std::ssize(arguments)), arguments.end());
+  if (const auto fault = FindArgumentFault(app, given)) {
+    fail(*fault);
+    return result;
+  }
   try {
-    // The library takes them from the back on, without the program's name.
-    std::vector<std::string> remaining(arguments.rbegin(), arguments.rend());
-    if (!remaining.empty()) remaining.pop_back();
-    app.parse(std::move(remaining));
+    std::ranges::reverse(given);  // the library takes them from the back on
+    app.parse(std::move(given));
     result.options.settings = settings.Given();
     CheckCombinations(result.options);
-    result.options.set = SplitPairs("--set", set);
-    result.options.answers = SplitPairs("--answer", answers);
+    result.options.set = SplitPairs("--set", "CONTROL=VALUE", set);
+    result.options.answers = SplitPairs("--answer", "TITLE=ANSWER", answers);
     for (const auto& [title, word] : result.options.answers) {
       if (const auto fault = WhyNoAnswer(title, word)) {
         throw CLI::ValidationError("--answer", *fault);

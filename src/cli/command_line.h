@@ -30,8 +30,10 @@ struct CommandLine {
   bool statistics = false;
   /// So many words of the list, from its start.
   std::optional<std::int32_t> top;
-  /// Files to export to; each has an ending that is a format's.
+  /// Files to export to, and "-" for standard output.
   std::vector<std::string> exports;
+  /// The format of the exports whose name does not tell it.
+  std::optional<std::string> exportFormat;
   /// Where to write what became of each file.
   std::optional<std::string> report;
   /// Columns of the exports, with blanks or commas between them.
@@ -72,6 +74,8 @@ struct ParsedCommandLine {
 struct OptionDescription {
   /// With its two hyphens.
   std::string name;
+  /// "-h"; "" for the many that have none.
+  std::string shortName;
   /// What its value is called, e.g. "PATH"; empty for an option that takes none.
   std::string value;
   std::string description;

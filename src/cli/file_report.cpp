@@ -1,10 +1,9 @@
 #include "cli/file_report.h"
 
-#include <algorithm>
 #include <variant>
 #include <vector>
 
-#include "cli/result_export.h"
+#include "cli/targets.h"
 #include "export/plain_table.h"
 #include "sources/file_columns.h"
 
@@ -19,24 +18,14 @@ PlainTable TableOf(const std::vector<FileReport>& files) {
           }};
 }
 
-/// Whether the list or an export goes there, too.
-bool IsOtherTarget(const CommandLine& options, const std::string& path) {
-  if (std::ranges::count(options.exports, path) > 0) return true;
-  return std::ranges::any_of(options.settings, [&path](const GivenOption& given) {
-    return given.setting->option.name == "--output" && given.values.back() == path;
-  });
-}
-
 }  // namespace
 
 std::optional<std::string> FindReportFault(const CommandLine& options) {
   if (!options.report) return std::nullopt;
   const std::string& path = *options.report;
   if (!PlainFormatOfPath(path)) {
-    return "--report: '" + path + "' must end in one of: " + PlainEndings();
+    return "--report " + path + ": the name must end in one of: " + PlainEndings();
   }
-  if (IsOtherTarget(options, path))
-    return "--report: '" + path + "' is written by --output or --export";
   return std::nullopt;
 }
 
@@ -44,9 +33,9 @@ std::optional<std::string> WriteFileReport(const Program& program, const Command
   if (!options.report) return std::nullopt;
   const std::string& path = *options.report;
   const std::vector<FileReport>& files = program.Words().files;
-  if (files.empty()) return path + " is not written: no file was met";
-  return WriteBesideList(path, program,
-                         [&] { ExportPlainTable(TableOf(files), *PlainFormatOfPath(path), path); });
+  if (files.empty()) return "--report " + path + " is not written: no file was met";
+  return WriteTarget({"--report", path}, program,
+                     [&] { ExportPlainTable(TableOf(files), *PlainFormatOfPath(path), path); });
 }
 
 }  // namespace quillomat

@@ -1,6 +1,7 @@
 #include "cli/help_formatter.h"
 
 #include <sstream>
+#include <string_view>
 
 namespace quillomat {
 namespace {
@@ -37,10 +38,9 @@ HelpFormatter::HelpFormatter() {
 std::string HelpFormatter::make_option_name(const CLI::Option* option, bool isPositional) const {
   if (isPositional) return option->get_name(true, false);
   std::string names;
-  for (const std::string& name : option->get_lnames()) {
-    names.append(names.empty() ? "--" : ", --").append(name);
-  }
-  return names;
+  for (const std::string& name : option->get_snames()) names.append(", -").append(name);
+  for (const std::string& name : option->get_lnames()) names.append(", --").append(name);
+  return names.substr(std::string_view(", ").size());
 }
 
 std::string HelpFormatter::make_option_opts(const CLI::Option* option) const {

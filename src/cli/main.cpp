@@ -35,6 +35,7 @@ TerminalStreams StandardStreams(std::ostream& err, bool errIsTerminal) {
           .print = [&err](const auto& write) { return PrintToStandardOutput(write, err); },
           .err = err,
           .errIsTerminal = errIsTerminal,
+          .outIsTerminal = IsTerminal(StandardStream::kOutput),
           .interruption = InterruptionStatus};
 }
 

@@ -10,6 +10,7 @@
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
 #include "cli/control_settings.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {
@@ -154,6 +155,20 @@ std::optional<std::string> ApplySettings(MainForm& frmMain, ParamsForm& frmParam
   }
   for (const auto& [name, value] : set) {
     if (Fault fault = writer.TakeSet(name, value)) return fault;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options) {
+  for (const auto& [setting, values] : options) {
+    const SettingOption& option = setting->option;
+    if (option.group != OptionGroup::kWordLists || !setting->isPath) continue;
+    const std::string& path = values.back();
+    if (FileExists(path)) continue;
+    const std::string name(option.name);
+    if (FolderExists(path)) return name + " " + path + " is a folder; name a file of words";
+    return name + " " + path + " does not exist; check the path, or type the words (" + name +
+           "-words)";
   }
   return std::nullopt;
 }

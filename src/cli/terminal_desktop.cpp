@@ -75,7 +75,8 @@ std::string TerminalDesktop::AskForText(const InputBox& box) {
   if (lower == "ok") return box.defaultAnswer;
   if (lower != "cancel") return word;
   err_ << Headed{MessageTone::kError, box.title + ": "} << OnOneLine(box.defaultAnswer)
-       << " is left as it is (--answer '" << box.title << "=OK' overwrites it)\n";
+       << " is left as it is (--overwrite replaces it, as does --answer '" << box.title
+       << "=OK')\n";
   problemShown_ = true;
   return {};
 }

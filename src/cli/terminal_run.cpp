@@ -1,5 +1,6 @@
 #include "cli/terminal_run.h"
 
+#include <algorithm>
 #include <new>
 #include <ostream>
 #include <string_view>
@@ -7,6 +8,7 @@
 #include <vector>
 
 #include "app/count/panel_choices.h"
+#include "app/list/output_refusal.h"
 #include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
@@ -20,10 +22,11 @@
 #include "cli/explanation.h"
 #include "cli/file_report.h"
 #include "cli/input_choice.h"
-#include "cli/result_export.h"
+#include "cli/list_exports.h"
 #include "cli/setting_options.h"
 #include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
+#include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
 #include "listing/statistics.h"
@@ -55,9 +58,9 @@ class TerminalRun {
     if (!ApplyChoices()) return kWrongCommandLine;
     if (options_.explain) return UnlessInterrupted(Explain());
     if (!CheckInput()) return kRunFailed;
-    if (!CheckWhatGoesWithInput()) return kWrongCommandLine;
-    if (!ChooseSource()) return kRunFailed;
-    if (!TakeEffect() || !SaveState()) return kRunFailed;
+    if (!CheckWhatGoesWithInput() || !CheckThatTargetsDiffer()) return kWrongCommandLine;
+    if (!ChooseSource() || !CheckWordsFiles() || !TakeEffect()) return kRunFailed;
+    if (!CheckTargets() || !SaveState()) return kRunFailed;
     if (options_.listFiles) return ListFiles();
     return UnlessInterrupted(Count());
   }
@@ -80,9 +83,12 @@ class TerminalRun {
     switch (program_.States().ReadControls(path)) {
       case RestoreResult::kNoFile:
         // Whoever has never saved settings has those of a first start.
-        return options_.userSettings || Fail(path + " does not exist; check the path");
+        if (options_.userSettings) return true;
+        return Fail(
+            "--state " + path +
+            (FolderExists(path) ? " is a folder; name a file" : " does not exist; check the path"));
       case RestoreResult::kError:
-        return Fail((path.empty() ? std::string("the user's settings") : path) +
+        return Fail((path.empty() ? std::string("the user's settings") : "--state " + path) +
                     " cannot be used as a state: " + program_.States().ErrorDescription());
       default:
         return true;
@@ -95,19 +101,24 @@ class TerminalRun {
     // A device, or a file that is made for this, holds nothing that could be lost.
     const bool holdsSomething = FileLength(path).value_or(0) > 0;
     if (holdsSomething && !IsStateFile(path, program_.frmMain, program_.frmParams)) {
-      return Fail(path + " exists and is no state; it is not overwritten by --save-state");
+      return Fail("--save-state " + path + " exists and is no state; it is not overwritten");
     }
     if (IsSameFile(path, program_.Settings().filesRead.state)) {
-      return Fail(path + " is the state that was read; save the new one to another file");
+      return Fail("--save-state " + path +
+                  " is the state that was read; save the new one to another file");
     }
     const std::string error = program_.States().SaveState(path);
-    return error.empty() || Fail(path + ": " + error);
+    return error.empty() || Fail("--save-state " + path + ": " + error);
   }
 
   bool ApplyChoices() {
     const auto fault =
         ApplySettings(program_.frmMain, program_.frmParams, options_.settings, options_.set);
-    return !fault || Fail(OnOneLine(*fault));
+    if (fault) return Fail(OnOneLine(*fault));
+    TextBox& listPath = program_.frmMain.txbFile[1];
+    listIsPrinted_ = IsStandardOutput(listPath.Text());
+    if (listIsPrinted_) listPath.SetText("");
+    return true;
   }
 
   bool CheckInput() {
@@ -125,6 +136,60 @@ class TerminalRun {
       return Fail("--window-text goes with one file or folder, or with --text");
     }
     return true;
+  }
+
+  bool CheckThatTargetsDiffer() {
+    if (listIsPrinted_ && ExportIsPrinted()) {
+      return Fail("--export - does not go with --output -: standard output takes one of them");
+    }
+    const auto fault = FindDoubleTarget(Targets());
+    return !fault || Fail(*fault);
+  }
+
+  bool CheckWordsFiles() {
+    const auto fault = FindWordsFileFault(options_.settings);
+    return !fault || Fail(*fault);
+  }
+
+  /// Nobody wants to hear after a long count that what came of it cannot be written.
+  bool CheckTargets() {
+    const CountedText text = input_.AsText(program_.frmMain.chkIncludeSubfolders.IsChecked());
+    std::optional<std::string> fault = FindUnservedExport(options_, streams_, WillKnowFiles());
+    for (const Target& target : Targets()) {
+      if (fault) break;
+      if (target.option == kListTarget) {
+        if (!MayWriteList(target.path, text)) return false;
+      } else if (target.option != kStateTarget) {
+        fault = FindLoss(target, program_, text);
+      }
+      if (!fault) fault = FindWriteFault(target);
+    }
+    return !fault || Fail(*fault);
+  }
+
+  /// As it will be asked when there is a list.
+  bool MayWriteList(const std::string& path, const CountedText& text) {
+    if (!program_.Lister().MayWriteOutputFile(text)) {
+      return Fail("--output " + path + " is refused; there is no list of " + input_.Name());
+    }
+    if (!program_.frmParams.chkWarnOnOverwrite.IsChecked() || !HoldsSomething(path)) return true;
+    return !desktop_.AskForText(OverwriteQuestion(path, "")).empty();
+  }
+
+  [[nodiscard]] bool WillKnowFiles() const {
+    const bool likeFolder =
+        input_.kind == InputChoice::Kind::kPaths || input_.kind == InputChoice::Kind::kFolder;
+    return likeFolder && program_.Settings().lists.HasCountOnlyWords();
+  }
+
+  /// The file of the list is what state and options together say.
+  [[nodiscard]] std::vector<Target> Targets() {
+    const bool toFile = program_.Lister().HasOutputFile() && !options_.listFiles;
+    return TargetsOf(options_, toFile ? program_.frmMain.txbFile[1].Text() : "");
+  }
+
+  [[nodiscard]] bool ExportIsPrinted() const {
+    return std::ranges::any_of(options_.exports, IsStandardOutput);
   }
 
   bool ChooseSource() {
@@ -190,7 +255,9 @@ class TerminalRun {
   /// The text stands on the clipboard, as that of --text.
   int Explain() {
     program_.frmMain.optOnClipboard.SetValue(true);
-    if (!FillWithExplained() || !TakeEffect() || !SaveState()) return kRunFailed;
+    if (!FillWithExplained() || !CheckWordsFiles() || !TakeEffect() || !SaveState()) {
+      return kRunFailed;
+    }
     if (clipboardIsTooLong_) {
       Fail("a text of more than 100,000 characters is not explained; give a part of it");
       return kRunFailed;
@@ -234,14 +301,14 @@ class TerminalRun {
       TellWhyThereIsNoList();
       return kRunFailed;
     }
-    const bool printed = toFile ? program_.Lister().FileWritten() : PrintList();
+    const bool printed =
+        toFile ? program_.Lister().FileWritten() : ExportIsPrinted() || PrintList();
     return Export() && printed && reported && !desktop_.ProblemShown() ? kListMade : kRunFailed;
   }
 
   bool Export() {
-    if (options_.exports.empty()) return true;
-    const std::optional<std::string> fault = ExportResult(program_, options_);
-    return !fault || Fail(*fault);
+    const std::optional<std::string> fault = ExportList(program_, options_, streams_);
+    return !fault || (!fault->empty() && Fail(*fault));
   }
 
   /// Also of a count that gave no list: the report may say why.
@@ -340,6 +407,7 @@ class TerminalRun {
   std::ostream& err_;
   InputChoice input_;
   TerminalDesktop desktop_;
+  bool listIsPrinted_ = false;  // on standard output, by --output -
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.
   Uncounted clipboardUncounted_;

@@ -24,8 +24,9 @@ struct TerminalStreams {
   std::function<bool(const std::function<void(ByteSink&)>& write)> print;
   /// Outlives the run.
   std::ostream& err;
-  /// A person looks at `err`.
+  /// A person looks at `err`, or at what is printed.
   bool errIsTerminal = false;
+  bool outIsTerminal = false;
   /// The exit status that an interruption asks for; 0 as long as there was none.
   std::function<int()> interruption = [] { return 0; };
   Clock clock = std::chrono::steady_clock::now;

@@ -53,11 +53,16 @@ bool ExportWorkbook(const ExportTable& table, ByteSink& file, const ExportProgre
 
 }  // namespace
 
+bool ExportTo(ByteSink& sink, const ExportTable& table, ExportFormat format,
+              const ExportProgress& progress) {
+  return format == ExportFormat::kXlsx ? ExportWorkbook(table, sink, progress)
+                                       : ExportText(table, format, sink, progress);
+}
+
 bool ExportToFile(const ExportTable& table, ExportFormat format, const std::string& path,
                   const ExportProgress& progress) {
   OutputFile file(path);
-  const bool whole = format == ExportFormat::kXlsx ? ExportWorkbook(table, file, progress)
-                                                   : ExportText(table, format, file, progress);
+  const bool whole = ExportTo(file, table, format, progress);
   if (whole) file.Close();
   return whole;
 }

@@ -25,7 +25,12 @@ namespace quillomat {
 bool ExportToFile(const ExportTable& table, ExportFormat format, const std::string& path,
                   const ExportProgress& progress);
 
-/// Writes the table in a format that is text: any but XLSX. False when `progress` ended it.
+/// Writes the table into a sink, which decides what becomes of a part. False when `progress` ended
+/// it. Throws RunTimeError as the sink does, and where no workbook can be made for want of room.
+bool ExportTo(ByteSink& sink, const ExportTable& table, ExportFormat format,
+              const ExportProgress& progress);
+
+/// The same in a format that is text: any but XLSX.
 bool ExportText(const ExportTable& table, ExportFormat format, ByteSink& sink,
                 const ExportProgress& progress);
 

@@ -10,10 +10,15 @@
 namespace quillomat {
 namespace {
 
+/// From its root on, and not a link.
+std::string PlaceOf(const std::string& path) {
+  return FromRootOn(BehindLinks(path).value_or(path));
+}
+
 /// Whether the file that the path leads to is in the folder, or would be if it were there: going up
 /// from it, the folder is met.
 bool LeadsInto(const std::string& folder, bool includeSubfolders, const std::string& path) {
-  std::string above = FolderPartOf(FromRootOn(BehindLinks(path).value_or(path)));
+  std::string above = FolderPartOf(PlaceOf(path));
   // There are no more folders above it than its path names; where one is not there, "up" leads
   // nowhere.
   auto left = std::ranges::count_if(above, IsPathSeparator) + 1;
@@ -32,6 +37,15 @@ bool LeadsInto(const std::string& folder, bool includeSubfolders, const std::str
 bool LiesInFolder(const std::string& path, const std::string& folder, bool includeSubfolders) {
   if (NamesNothing(path) || NamesNothing(folder)) return false;
   return IsInFolder(path, folder, includeSubfolders) || LeadsInto(folder, includeSubfolders, path);
+}
+
+bool LeadToOneFile(const std::string& left, const std::string& right) {
+  if (NamesNothing(left) || NamesNothing(right)) return false;
+  if (IsSameFile(left, right)) return true;
+  const std::string one = PlaceOf(left);
+  const std::string other = PlaceOf(right);
+  return SamePathText(FileNamePartOf(one), FileNamePartOf(other)) &&
+         IsSameFile(FolderPartOf(one), FolderPartOf(other));
 }
 
 }  // namespace quillomat

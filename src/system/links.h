@@ -11,4 +11,8 @@ namespace quillomat {
 [[nodiscard]] bool LiesInFolder(const std::string& path, const std::string& folder,
                                 bool includeSubfolders);
 
+/// Whether who writes both paths writes one file: as IsSameFile, and where nothing is there yet, by
+/// the folder and the name that the links lead to. Never throws.
+[[nodiscard]] bool LeadToOneFile(const std::string& left, const std::string& right);
+
 }  // namespace quillomat

@@ -28,6 +28,8 @@ class NativeFile {
   [[nodiscard]] static NativeFile OpenForReading(const std::string& path);
   /// Creates the file, or empties it.
   [[nodiscard]] static NativeFile OpenForWriting(const std::string& path);
+  /// Opens a file that is there for writing, and leaves it as it is.
+  [[nodiscard]] static NativeFile OpenForChanges(const std::string& path);
   /// Makes a file at `path`, where nothing must be, that can take the place of `target`: with the
   /// owner, the group and the permissions of that one if it is there. Nothing when `target` is none
   /// that can be replaced (a device, a pipe, a folder, what may not be written) or `path` cannot be

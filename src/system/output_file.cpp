@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "base/run_time_error.h"
+#include "system/file_system.h"
+#include "system/native_disk.h"
 
 namespace quillomat {
 namespace {
@@ -84,6 +86,18 @@ void OutputFile::Abandon() noexcept {
   } catch (...) {  // NOLINT(bugprone-empty-catch): the first error is the one to tell
   }
   temporary_.reset();
+}
+
+void CheckWritable(const std::string& path) {
+  if (TemporaryFile::For(path).temporary) return;
+  if (FileExists(path)) {
+    if (FileLength(path)) static_cast<void>(NativeFile::OpenForChanges(path));
+    return;
+  }
+  // A folder, or a place where no file can be made: the system tells why. Made all the same, it
+  // goes.
+  static_cast<void>(NativeFile::OpenForWriting(path));
+  RemoveFile(BehindLinks(path).value_or(path));
 }
 
 }  // namespace quillomat

@@ -65,4 +65,8 @@ class OutputFile final : public ByteSink {
   NativeFile file_;                           // closed before the temporary file goes
 };
 
+/// Throws what an OutputFile of that path would throw at its start, as far as that can be told
+/// without writing: a device or a pipe is not touched. All is as it was afterwards.
+void CheckWritable(const std::string& path);
+
 }  // namespace quillomat

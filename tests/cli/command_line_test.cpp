@@ -121,6 +121,46 @@ TEST(CommandLine, OptionWithoutItsValueIsNamed) {
   ExpectWrong({"--file"}, "--file");
 }
 
+TEST(CommandLine, AnOptionIsNoValueUnlessItIsMeant) {
+  ExpectWrong({"a", "--output", "--summary"},
+              "--output: PATH is missing before --summary (if that is it: --output=--summary)");
+  EXPECT_EQ(Parse({"--explain=--summary"}).result.options.explain, "--summary");
+  EXPECT_EQ(Parse({"a", "--comments", "--"}).result.options.settings.at(0).values.at(0), "--");
+}
+
+TEST(CommandLine, AMissingValueIsCalledByWhatItIs) {
+  ExpectWrong({"--file"}, "--file: PATH|- is missing (");
+  ExpectWrong({"--file="}, "--file: PATH|- is missing (");
+  ExpectWrong({"a", "--top"}, "--top: N is missing (");
+}
+
+TEST(CommandLine, AValueWhereNoneIsTakenIsNotPassedOver) {
+  ExpectWrong({"a", "--summary=3"}, "--summary=3: --summary takes no value");
+  ExpectWrong({"a", "--no-numerals=false"}, "--no-numerals takes no value");
+  ExpectWrong({"a", "--help=x"}, "--help takes no value");
+}
+
+TEST(CommandLine, WhatIsGivenTwiceIsNamed) {
+  ExpectWrong({"--file", "a", "--file", "b"}, "--file is given twice");
+  ExpectWrong({"a", "--columns=word", "--columns", "rank"}, "--columns is given twice");
+  EXPECT_EQ(Parse({"a", "--export", "b.csv", "--export=c.csv"}).result.options.exports.size(), 2U);
+}
+
+TEST(CommandLine, ASlipOfThePenIsSetRight) {
+  ExpectWrong({"a", "--sumary"}, "--sumary: there is no such option; is it --summary?");
+  ExpectWrong({"a", "--outptu=b"}, "is it --output?");
+  ExpectWrong({"-x"}, "-x: there is no such option; a path that begins with - is given after --");
+}
+
+TEST(CommandLine, ANumberOutOfRangeIsNamed) {
+  ExpectWrong({"a", "--top", "0"}, "--top: '0' is no whole number from 1 on");
+  ExpectWrong({"a", "--threads", "65"}, "--threads: '65' is no whole number from 1 to 64");
+}
+
+TEST(CommandLine, TwoTextsAreBothNamed) {
+  ExpectWrong({"a", "--file", "b"}, "more than one text (a, --file b)");
+}
+
 TEST(CommandLine, SettingWithoutEqualsSignIsNamed) {
   ExpectWrong({"--file", "a", "--set", "chkDropFinalS"}, "chkDropFinalS");
 }
@@ -146,6 +186,8 @@ TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   EXPECT_THAT(help.out, HasSubstr("--set"));
   EXPECT_THAT(help.out, HasSubstr("Exit status"));
   EXPECT_EQ(help.err, "");
+  EXPECT_EQ(Parse({"-h"}).out, help.out);
+  EXPECT_THAT(help.out, HasSubstr("\n  -h, --help "));
   const Parsed version = Parse({"--version"});
   EXPECT_EQ(version.result.exitStatus, 0);
   EXPECT_EQ(version.out, "quillomat-cli 7.07 (Unicode " + UnicodeVersion() + ")\n");

@@ -35,7 +35,8 @@ TEST_F(FileReportRun, TellsWhyThereIsNoList) {
   const std::string path = folder.Write("a.txt", std::string_view("\0\1", 2));
   EXPECT_EQ(Run({path, "--report", report}), kRunFailed);
   EXPECT_EQ(Reported(), kReportHead + path + ",2,,,,,,,,not text\r\n");
-  EXPECT_EQ(Run({folder.Path(), "--only-extensions", "log", "--report", folder / "b.csv"}),
+  static_cast<void>(folder.Write("many/a.txt", "cat"));
+  EXPECT_EQ(Run({folder / "many", "--only-extensions", "log", "--report", folder / "b.csv"}),
             kRunFailed);
   EXPECT_THAT(err, HasSubstr("b.csv is not written: no file was met"));
 }
@@ -65,7 +66,8 @@ TEST_F(FileReportRun, HasTheFormOfItsEnding) {
   EXPECT_EQ(Run({"-", "--report", json}), kListMade);
   EXPECT_THAT(ContentsOf(json), HasSubstr("\"bytes\": 7, \"encoding\": \"ASCII\""));
   EXPECT_EQ(Run({"-", "--report", "a.xlsx"}), kWrongCommandLine);
-  EXPECT_THAT(err, HasSubstr("--report: 'a.xlsx' must end in one of: csv, tsv, json, jsonl"));
+  EXPECT_THAT(err,
+              HasSubstr("--report a.xlsx: the name must end in one of: csv, tsv, json, jsonl"));
 }
 
 TEST_F(FileReportRun, ReplacesNothingUnasked) {
@@ -85,7 +87,7 @@ TEST_F(FileReportRun, GoesNowhereWhereSomethingElseGoes) {
   const std::string path = folder.Write("a.txt", "one two");
   EXPECT_EQ(Run({path, "--report", report, "--export", report}), kWrongCommandLine);
   EXPECT_EQ(Run({path, "--report", report, "--output", report}), kWrongCommandLine);
-  EXPECT_THAT(err, HasSubstr("is written by --output or --export"));
+  EXPECT_THAT(err, HasSubstr("would replace what --output "));
   EXPECT_EQ(Run({"--text", path, "--report", report}), kWrongCommandLine);
   EXPECT_EQ(Run({folder.Path(), "--list-files", "--report", report}), kWrongCommandLine);
 }

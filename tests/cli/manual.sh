@@ -2,7 +2,7 @@
 # Every option that --help names is in the manual page and in the completions.
 # Usage: manual.sh PROGRAM MANUAL_FOLDER
 set -u
-options=$("$1" --help | grep -oE '^ +--[a-z0-9-]+' | tr -d ' ')
+options=$("$1" --help | grep -oE '^ +(-[a-z], )?--[a-z0-9-]+' | grep -oE -- '--.*')
 [ "$(printf '%s\n' "$options" | wc -l)" -ge 15 ] || { echo "too few options: $options"; exit 1; }
 failed=0
 for option in $options; do

@@ -38,7 +38,9 @@ class TerminalFixture : public testing::Test {
   TemporaryFolder folder;
   /// What stands ready on standard input.
   std::string input;
+  bool inputWasOpened = false;
   bool errIsTerminal = false;
+  bool outIsTerminal = false;
   std::function<int()> interruption = [] { return 0; };
   std::chrono::milliseconds stepPerLook{0};
   std::string out;
@@ -59,6 +61,7 @@ class TerminalFixture : public testing::Test {
   TerminalStreams Streams(std::ostream& messages) {
     return {.openInput =
                 [this](ScanYield& /*yield*/) {
+                  inputWasOpened = true;
                   return std::make_unique<ChunkedSource>(input, kChunkBytes);
                 },
             .print =
@@ -69,6 +72,7 @@ class TerminalFixture : public testing::Test {
                 },
             .err = messages,
             .errIsTerminal = errIsTerminal,
+            .outIsTerminal = outIsTerminal,
             .interruption = [this] { return interruption(); },
             .clock = [this] { return now_ += stepPerLook; }};
   }

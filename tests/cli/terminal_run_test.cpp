@@ -130,7 +130,7 @@ TEST_F(TerminalRunTest, PathsServeTheColumnsThatNameFiles) {
   EXPECT_EQ(ContentsOf(table), "word,files\r\ncat,2\r\n");
   EXPECT_EQ(Run({texts[0], texts[1], "--export", table, "--overwrite", "--columns", "word,files"}),
             1);
-  EXPECT_THAT(err, HasSubstr("known of folders and several paths with count-only words only"));
+  EXPECT_THAT(err, HasSubstr("known of folders and of paths with count-only words"));
 }
 
 TEST_F(TerminalRunTest, SkippedItemsThatAreNotKeptAreNumbered) {

@@ -5,6 +5,7 @@
 
 #include "support/temporary_folder.h"
 #include "system/desktop_test.h"
+#include "system/links.h"
 
 namespace quillomat {
 namespace {
@@ -50,6 +51,15 @@ TEST_F(FileSystem, FilesThatAreNotThereAreComparedByName) {
   EXPECT_TRUE(IsSameFile(folder_ / "new.txt", folder_ / "x/../new.txt"));
   EXPECT_FALSE(IsSameFile(file, folder_ / "new.txt"));
   EXPECT_FALSE(IsSameFile("", ""));
+}
+
+TEST_F(FileSystem, TwoSpellingsOfAFileThatIsNotThereLeadToOne) {
+  (void)folder_.Make("sub");
+  EXPECT_TRUE(LeadToOneFile(folder_ / "new.txt", folder_ / "sub/../new.txt"));
+  EXPECT_TRUE(LeadToOneFile(folder_ / "no/new.txt", folder_ / "no/new.txt"));
+  EXPECT_FALSE(LeadToOneFile(folder_ / "new.txt", folder_ / "sub/new.txt"));
+  EXPECT_FALSE(LeadToOneFile(folder_ / "new.txt", folder_ / "other.txt"));
+  EXPECT_FALSE(LeadToOneFile("", ""));
 }
 
 TEST_F(FileSystem, ListingIsInOrderOfNamesWithoutLetterCase) {

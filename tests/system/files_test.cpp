@@ -114,6 +114,21 @@ TEST_F(OutputFileTest, TellsWhyAFileCannotBeOpened) {
   EXPECT_EQ(opening(""), 76);
 }
 
+TEST_F(OutputFileTest, TheCheckTellsTheSameAndLeavesAllAsItIs) {
+  const std::string file = folder_.Write("file", "old");
+  const auto checking = [](const std::string& path) {
+    return ErrorNumberOf([&] { CheckWritable(path); });
+  };
+  EXPECT_EQ(checking(file), 0);
+  EXPECT_EQ(checking(folder_ / "new"), 0);
+  EXPECT_EQ(checking(folder_ / "no/file"), 76);
+  EXPECT_EQ(checking(file + "/x"), 76);
+  EXPECT_EQ(checking(folder_.Path()), 75);
+  EXPECT_EQ(checking(""), 76);
+  EXPECT_EQ(ContentsOf(file), "old");
+  EXPECT_EQ(ListFolder(folder_.Path()).files, std::vector<std::string>{"file"});
+}
+
 TEST_F(OutputFileTest, AFileThatIsNeverClosedIsAsItWas) {
   const std::string path = folder_.Write("out", "old");
   {

@@ -41,7 +41,9 @@ void WriteManual(std::ostream& out) {
          "file whose name begins with a hyphen is given after \\fB\\-\\-\\fR.\n"
       << ".SH OPTIONS\n";
   for (const OptionDescription& option : DescribeOptions()) {
-    out << ".TP\n\\fB" << ForManual(option.name) << "\\fR";
+    out << ".TP\n";
+    if (!option.shortName.empty()) out << "\\fB" << ForManual(option.shortName) << "\\fR, ";
+    out << "\\fB" << ForManual(option.name) << "\\fR";
     if (!option.value.empty()) out << " \\fI" << ForManual(option.value) << "\\fR";
     out << '\n' << ForManual(option.description) << ".\n";
   }

@@ -156,6 +156,10 @@ NativeFile NativeFile::OpenForWriting(const std::string& path) {
   return NativeFile(Open(path, O_WRONLY | O_CREAT | O_TRUNC, FileAction::kOpenToWrite).descriptor);
 }
 
+NativeFile NativeFile::OpenForChanges(const std::string& path) {
+  return NativeFile(Open(path, O_WRONLY, FileAction::kOpenToWrite).descriptor);
+}
+
 std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
                                                       const std::string& path) {
   struct stat status {};

@@ -76,6 +76,11 @@ NativeFile NativeFile::OpenForWriting(const std::string& path) {
       Open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS, FileAction::kOpenToWrite));
 }
 
+NativeFile NativeFile::OpenForChanges(const std::string& path) {
+  return NativeFile(
+      Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING, FileAction::kOpenToWrite));
+}
+
 std::optional<NativeFile> NativeFile::CreateInPlaceOf(const std::string& target,
                                                       const std::string& path) {
   if (!MayBeMade(target) || IsDeviceName(target)) return std::nullopt;

@@ -6,6 +6,7 @@
 #include "support/temporary_folder.h"
 #include "system/desktop_test.h"
 #include "system/file_system.h"
+#include "system/links.h"
 
 namespace quillomat {
 namespace {
@@ -37,6 +38,16 @@ TEST_F(PosixFileSystem, TwoNamesOfOneFileAreTheSameFile) {
   EXPECT_TRUE(IsSameFile(file, folder_ / "hard"));
   EXPECT_TRUE(IsSameFile(file, folder_ / "./a.txt"));
   EXPECT_FALSE(IsSameFile(file, other));
+}
+
+TEST_F(PosixFileSystem, LinksToWhatIsNotThereYetLeadToOneFile) {
+  const std::string shelf = folder_.Make("shelf");
+  fs::create_symlink(shelf, folder_ / "here");
+  fs::create_symlink("shelf/new.txt", folder_ / "link");
+  const std::string path = shelf + "/new.txt";
+  EXPECT_TRUE(LeadToOneFile(path, folder_ / "here/new.txt"));
+  EXPECT_TRUE(LeadToOneFile(path, folder_ / "link"));
+  EXPECT_FALSE(LeadToOneFile(path, folder_ / "here/other.txt"));
 }
 
 TEST_F(PosixFileSystem, ListingHoldsFilesAndLinksToFilesOnly) {

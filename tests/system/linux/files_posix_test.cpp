@@ -103,6 +103,26 @@ TEST_F(PosixOutputFile, ALockedFolderOrFileIsPermissionDenied) {
   EXPECT_EQ(ContentsOf(file), "x");
 }
 
+TEST_F(PosixOutputFile, TheCheckKnowsWhatMayBeWritten) {
+  const std::string locked = folder_.Make("locked");
+  const std::string open = folder_.Write("locked/open", "x");
+  const std::string file = folder_.Write("file", "x");
+  const std::string pipe = folder_ / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  fs::permissions(open, fs::perms(0666));
+  fs::permissions(locked, fs::perms(0555));
+  fs::permissions(file, fs::perms(0444));
+  const auto checking = [](const std::string& path) {
+    return AsOrdinaryUser([&] { return ErrorNumberOf([&] { CheckWritable(path); }); });
+  };
+  EXPECT_EQ(checking(locked + "/new"), 70);
+  EXPECT_EQ(checking(file), 70);
+  EXPECT_EQ(checking(open), 0) << "it is written in place";
+  EXPECT_EQ(checking(pipe), 0) << "and nobody waits for a reader";
+  EXPECT_EQ(ContentsOf(open), "x");
+  EXPECT_EQ(ContentsOf(file), "x");
+}
+
 TEST_F(PosixOutputFile, AFullDiskIsNoticedWhileWriting) {
   OutputFile file("/dev/full");
   const std::string block(200'000, 'x');
