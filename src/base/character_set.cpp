@@ -18,8 +18,14 @@ constexpr auto kAliases = std::to_array<Alias>({
     {"latin3", CharacterSet::kIso8859Part3},
     {"latin4", CharacterSet::kIso8859Part4},
     {"latin5", CharacterSet::kIso8859Part9},
+    {"latin6", CharacterSet::kIso8859Part10},
     {"latin7", CharacterSet::kIso8859Part13},
+    {"latin8", CharacterSet::kIso8859Part14},
     {"latin9", CharacterSet::kIso8859Part15},
+    {"latin10", CharacterSet::kIso8859Part16},
+    {"tis620", CharacterSet::kIso8859Part11},
+    {"cp874", CharacterSet::kIso8859Part11},
+    {"windows874", CharacterSet::kIso8859Part11},
     {"utf16le", CharacterSet::kUtf16},
     {"sjis", CharacterSet::kShiftJis},
     {"cp932", CharacterSet::kShiftJis},
@@ -35,6 +41,9 @@ constexpr auto kAliases = std::to_array<Alias>({
     {"macintosh", CharacterSet::kMacRoman},
     {"cp437", CharacterSet::kIbm437},
     {"cp850", CharacterSet::kIbm850},
+    {"cp852", CharacterSet::kIbm852},
+    {"cp855", CharacterSet::kIbm855},
+    {"cp866", CharacterSet::kIbm866},
 });
 
 /// Letters and digits alone, without letter case.

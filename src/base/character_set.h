@@ -10,15 +10,15 @@
 
 namespace quillomat {
 
-/// In the order in which they are offered; those that the converters of all systems know. State
-/// files keep the number, so what is new stands at the end.
+/// In the order in which they are offered. Not every system can decode the rarer ones (see
+/// CanDecode). State files keep the number, so what is new stands at the end.
 enum class CharacterSet : std::uint8_t {
   /// Each line is judged on its own, as line_decoder.h does it.
   kAsFound,
   /// Whatever the text's bytes look like.
   kGuess,
   kUtf8,
-  /// As the byte-order mark says; without one the low byte comes first.
+  /// As the byte-order mark says; without one as the text looks, or the low byte comes first.
   kUtf16,
   kWindows1250,
   kWindows1251,
@@ -50,6 +50,16 @@ enum class CharacterSet : std::uint8_t {
   kMacRoman,
   kIbm437,
   kIbm850,
+  kIso8859Part10,
+  kIso8859Part11,
+  kIso8859Part14,
+  kIso8859Part16,
+  kIbm852,
+  kIbm855,
+  kIbm866,
+  kMacCyrillic,
+  /// Without a byte-order mark, and the high byte first.
+  kUtf16HighByteFirst,
 };
 
 /// By number.
@@ -59,7 +69,9 @@ inline constexpr auto kCharacterSetNames = std::to_array<std::string_view>(
      "Windows-1258", "ISO-8859-1",   "ISO-8859-2",   "ISO-8859-3",   "ISO-8859-4",   "ISO-8859-5",
      "ISO-8859-6",   "ISO-8859-7",   "ISO-8859-8",   "ISO-8859-9",   "ISO-8859-13",  "ISO-8859-15",
      "KOI8-R",       "KOI8-U",       "Shift_JIS",    "EUC-JP",       "GB18030",      "Big5",
-     "EUC-KR",       "MacRoman",     "IBM437",       "IBM850"});
+     "EUC-KR",       "MacRoman",     "IBM437",       "IBM850",       "ISO-8859-10",  "ISO-8859-11",
+     "ISO-8859-14",  "ISO-8859-16",  "IBM852",       "IBM855",       "IBM866",       "MacCyrillic",
+     "UTF-16BE"});
 
 [[nodiscard]] constexpr std::string_view NameOf(CharacterSet set) {
   return kCharacterSetNames[static_cast<std::size_t>(set)];

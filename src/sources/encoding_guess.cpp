@@ -1,16 +1,20 @@
 #include "sources/encoding_guess.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <uchardet.h>
 
 #include "base/text_decoder.h"
+#include "system/system_decoder.h"
 
 namespace quillomat {
 namespace {
 
+/// Enough to see which byte of UTF-16 comes first; all who ask have as many.
+constexpr std::size_t kOrderBytes = 4096;
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 struct DetectorCloser {
@@ -22,15 +26,70 @@ bool HasUtf16Mark(std::string_view head) {
   return head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF");
 }
 
-/// Without a mark: the zero bytes that western characters have, and none but those.
-bool LooksLikeUtf16(std::string_view head) {
-  std::size_t high = 0;
-  for (std::size_t i = 0; i < head.size(); ++i) {
-    if (head[i] != '\0') continue;
-    if (i % 2 == 0) return false;
-    ++high;
+enum class Utf16Order : std::uint8_t { kNone, kLowByteFirst, kHighByteFirst };
+
+char16_t UnitAt(std::string_view head, std::size_t at, Utf16Order order) {
+  const auto first = static_cast<unsigned char>(head[at]);
+  const auto second = static_cast<unsigned char>(head[at + 1]);
+  const bool highFirst = order == Utf16Order::kHighByteFirst;
+  return static_cast<char16_t>(highFirst ? (first << 8U) | second : (second << 8U) | first);
+}
+
+/// What texts of all languages have: blanks, line breaks, ASCII letters, digits and signs.
+std::size_t CommonUnits(std::string_view head, Utf16Order order) {
+  std::size_t common = 0;
+  for (std::size_t at = 0; at + 1 < head.size(); at += 2) {
+    const char16_t unit = UnitAt(head, at, order);
+    if ((unit >= u' ' && unit <= u'~') || (unit >= u'\t' && unit <= u'\r')) ++common;
   }
-  return high > head.size() / 4;
+  return common;
+}
+
+/// Whether there is no control character and no lone surrogate in it.
+bool IsWholeUtf16(std::string_view head, Utf16Order order) {
+  bool high = false;
+  for (std::size_t at = 0; at + 1 < head.size(); at += 2) {
+    const char16_t unit = UnitAt(head, at, order);
+    const bool isLow = unit >= 0xDC00 && unit <= 0xDFFF;
+    if (high != isLow) return false;
+    high = unit >= 0xD800 && unit <= 0xDBFF;
+    const bool isBreak = unit >= u'\t' && unit <= u'\r';
+    if ((unit < u' ' && !isBreak) || (unit >= 0x7F && unit < 0xA0) || unit >= 0xFFFE) return false;
+  }
+  return true;
+}
+
+/// Of a text without a mark that is known to be in UTF-16.
+Utf16Order LikelierOrder(std::string_view head) {
+  return CommonUnits(head, Utf16Order::kHighByteFirst) >
+                 CommonUnits(head, Utf16Order::kLowByteFirst)
+             ? Utf16Order::kHighByteFirst
+             : Utf16Order::kLowByteFirst;
+}
+
+/// Of any bytes without a mark: texts have blanks or line breaks, and those read the wrong way
+/// round are characters that hardly any text has.
+Utf16Order Utf16OrderOf(std::string_view head) {
+  constexpr std::size_t kUnitsForOneCommon = 100;
+  constexpr std::size_t kTimesAsMany = 4;
+  const Utf16Order order = LikelierOrder(head);
+  const bool highFirst = order == Utf16Order::kHighByteFirst;
+  const std::size_t common = CommonUnits(head, order);
+  const std::size_t turned =
+      CommonUnits(head, highFirst ? Utf16Order::kLowByteFirst : Utf16Order::kHighByteFirst);
+  const std::size_t units = head.size() / 2;
+  const bool looksLikeIt = common * kUnitsForOneCommon >= units && common > turned * kTimesAsMany;
+  return looksLikeIt && IsWholeUtf16(head, order) ? order : Utf16Order::kNone;
+}
+
+CharacterSet SetOf(Utf16Order order) {
+  return order == Utf16Order::kHighByteFirst ? CharacterSet::kUtf16HighByteFirst
+                                             : CharacterSet::kUtf16;
+}
+
+/// The larger set where the library names one that holds fewer of the same letters.
+CharacterSet Widened(CharacterSet set) {
+  return set == CharacterSet::kKoi8R ? CharacterSet::kKoi8U : set;
 }
 
 /// By what the library knows of languages.
@@ -40,12 +99,14 @@ CharacterSet Detected(std::string_view head) {
     return CharacterSet::kAsFound;
   }
   uchardet_data_end(detector.get());
-  return FindCharacterSet(uchardet_get_charset(detector.get())).value_or(CharacterSet::kAsFound);
+  const std::optional<CharacterSet> set = FindCharacterSet(uchardet_get_charset(detector.get()));
+  return set && CanDecode(*set) ? Widened(*set) : CharacterSet::kAsFound;
 }
 
 CharacterSet Guess(std::string_view head) {
   if (LooksLikeUtf8(head)) return CharacterSet::kAsFound;
-  return LooksLikeUtf16(head) ? CharacterSet::kUtf16 : Detected(head);
+  const Utf16Order order = Utf16OrderOf(head);
+  return order == Utf16Order::kNone ? Detected(head) : SetOf(order);
 }
 
 }  // namespace
@@ -62,12 +123,26 @@ CharacterSet CharacterSetOf(std::string_view head, CharacterSet choice) {
   if (HasUtf16Mark(head)) return CharacterSet::kUtf16;
   if (choice == CharacterSet::kAsFound) return choice;
   if (choice == CharacterSet::kGuess) return Guess(head.substr(0, kGuessBytes));
-  return head.starts_with(kUtf8Mark) ? CharacterSet::kUtf8 : choice;
+  if (head.starts_with(kUtf8Mark)) return CharacterSet::kUtf8;
+  return choice == CharacterSet::kUtf16 ? SetOf(LikelierOrder(head.substr(0, kOrderBytes)))
+                                        : choice;
 }
 
 CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice) {
   const bool isChosen = choice != CharacterSet::kAsFound && choice != CharacterSet::kGuess;
   return CharacterSetOf(head, isChosen && LooksLikeUtf8(head) ? CharacterSet::kAsFound : choice);
+}
+
+std::size_t FirstBeyondAscii(std::string_view bytes) {
+  const auto beyond =
+      std::ranges::find_if(bytes, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; });
+  return beyond == bytes.end() ? std::string_view::npos
+                               : static_cast<std::size_t>(beyond - bytes.begin());
+}
+
+CharacterSet LateGuess(std::string_view bytes) {
+  bytes = bytes.substr(0, kGuessBytes);
+  return LooksLikeUtf8(bytes) ? CharacterSet::kAsFound : Detected(bytes);
 }
 
 }  // namespace quillomat

@@ -24,4 +24,12 @@ inline constexpr std::size_t kGuessBytes = std::size_t{64} * 1024;
 /// like UTF-8 is read as it is.
 [[nodiscard]] CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice);
 
+/// Where the first byte beyond ASCII stands; npos if there is none.
+[[nodiscard]] std::size_t FirstBeyondAscii(std::string_view bytes);
+
+/// A guess for a text whose first kGuessBytes are ASCII, which is alike in all sets but UTF-16:
+/// `bytes` are those from its first byte beyond ASCII on, kGuessBytes of them or all that there
+/// are.
+[[nodiscard]] CharacterSet LateGuess(std::string_view bytes);
+
 }  // namespace quillomat

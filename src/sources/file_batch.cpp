@@ -81,9 +81,19 @@ void FileScanner::Read(InputFile& file, std::size_t atLeast, std::size_t atMost)
   }
 }
 
+/// As LateGuessSource does it.
+void FileScanner::GuessBehindHead(FileReport& report) const {
+  const std::string_view bytes(memory_.data(), bytesRead_);
+  if (report.convertedFrom != CharacterSet::kAsFound || bytes.size() <= kGuessBytes) return;
+  const std::size_t first = FirstBeyondAscii(bytes);
+  if (first == std::string_view::npos || first < kGuessBytes) return;
+  report.convertedFrom = LateGuess(bytes.substr(first));
+}
+
 /// What was read as text, whose last line has an end.
 std::string_view FileScanner::Lines(FileReport& report) {
   constexpr std::size_t kMarkBytes = 3;
+  if (request_.encoding == CharacterSet::kGuess) GuessBehindHead(report);
   if (report.convertedFrom != CharacterSet::kAsFound) {
     const std::string_view bytes(memory_.data(), bytesRead_);
     converted_ =

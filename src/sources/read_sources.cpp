@@ -36,4 +36,9 @@ std::size_t HeadedSource::Read(std::span<char> buffer) {
   return bytes;
 }
 
+void HeadedSource::PutBack(std::string_view bytes) {
+  ahead_.replace(0, aheadStart_, bytes);
+  aheadStart_ = 0;
+}
+
 }  // namespace quillomat

@@ -29,6 +29,9 @@ class HeadedSource final : public ByteSource {
 
   std::size_t Read(std::span<char> buffer) override;
 
+  /// These, which were the last to be read, come next.
+  void PutBack(std::string_view bytes);
+
  private:
   ByteSource& source_;
   /// Read ahead, and not yet given out from aheadStart_ on.

@@ -1,11 +1,13 @@
 #include "sources/text_pass.h"
 
+#include <memory>
 #include <new>
 #include <optional>
 #include <span>
 
 #include "base/run_time_error.h"
 #include "sources/converted_source.h"
+#include "sources/late_guess_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
@@ -66,6 +68,8 @@ bool JudgeText(std::string_view head, CharacterSet encoding, FileReport& report)
   const bool hasNoMark = report.encoding == TextEncoding::kUtf8OrWindows1252;
   if (report.convertedFrom == CharacterSet::kUtf16 && hasNoMark) {
     report.encoding = TextEncoding::kUtf16LittleEndian;
+  } else if (report.convertedFrom == CharacterSet::kUtf16HighByteFirst) {
+    report.encoding = TextEncoding::kUtf16BigEndian;
   }
   if (report.lineEnds != LineEndingType::kNotText) return true;
   report.refusal = Refusal::kNotText;
@@ -166,6 +170,16 @@ void TextPass::ReadText(ByteSource& source, bool worthThreads, FileReport& repor
   report.lines = tallied.Figures();
 }
 
+/// Nothing where the text is read as it is.
+std::unique_ptr<ByteSource> TextPass::Converted(ByteSource& text, FileReport& report) const {
+  std::int64_t& bytesNotDecoded = report.uncounted.bytesNotDecoded;
+  if (report.convertedFrom != CharacterSet::kAsFound) {
+    return std::make_unique<ConvertedSource>(text, report.convertedFrom, bytesNotDecoded);
+  }
+  if (state_.request.encoding != CharacterSet::kGuess) return nullptr;
+  return std::make_unique<LateGuessSource>(text, report.convertedFrom, bytesNotDecoded);
+}
+
 void TextPass::ReadBytes(ByteSource& source, bool worthThreads, FileReport& report) {
   CountingSource text(source);
   TextReader::OnBytes onBytes;
@@ -175,11 +189,8 @@ void TextPass::ReadBytes(ByteSource& source, bool worthThreads, FileReport& repo
       NoteLines(bytes);
     };
   }
-  std::optional<ConvertedSource> converted;
-  if (report.convertedFrom != CharacterSet::kAsFound) {
-    converted.emplace(text, report.convertedFrom, report.uncounted.bytesNotDecoded);
-  }
-  ByteSource& lines = converted ? static_cast<ByteSource&>(*converted) : text;
+  const std::unique_ptr<ByteSource> converted = Converted(text, report);
+  ByteSource& lines = converted ? *converted : text;
   if (worthThreads && reader_.UsesThreads()) {
     reader_.ReadLinesOnThreads(lines, onBytes);
   } else {

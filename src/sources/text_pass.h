@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -71,6 +72,7 @@ class TextPass {
 
  private:
   void ReadText(ByteSource& source, bool worthThreads, FileReport& report);
+  [[nodiscard]] std::unique_ptr<ByteSource> Converted(ByteSource& text, FileReport& report) const;
   void ReadBytes(ByteSource& source, bool worthThreads, FileReport& report);
 
   CountAtWork& state_;

@@ -13,4 +13,7 @@ namespace quillomat {
 /// character.
 [[nodiscard]] std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set);
 
+/// Whether the system knows that set, which is neither kAsFound nor kGuess.
+[[nodiscard]] bool CanDecode(CharacterSet set);
+
 }  // namespace quillomat

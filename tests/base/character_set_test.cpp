@@ -21,7 +21,10 @@ TEST(CharacterSets, HaveNamesThatFitTheirNumbers) {
   EXPECT_EQ(NameOf(CharacterSet::kIso8859Part15), "ISO-8859-15");
   EXPECT_EQ(NameOf(CharacterSet::kGb18030), "GB18030");
   EXPECT_EQ(NameOf(CharacterSet::kIbm850), "IBM850");
-  EXPECT_EQ(kCharacterSetNames.size(), static_cast<std::size_t>(CharacterSet::kIbm850) + 1);
+  EXPECT_EQ(NameOf(CharacterSet::kIso8859Part16), "ISO-8859-16");
+  EXPECT_EQ(NameOf(CharacterSet::kUtf16HighByteFirst), "UTF-16BE");
+  EXPECT_EQ(kCharacterSetNames.size(),
+            static_cast<std::size_t>(CharacterSet::kUtf16HighByteFirst) + 1);
 }
 
 TEST(CharacterSets, GoByUsualOtherNames) {
@@ -40,6 +43,10 @@ TEST(CharacterSets, GoByUsualOtherNames) {
   EXPECT_EQ(FindCharacterSet("gbk"), CharacterSet::kGb18030);
   EXPECT_EQ(FindCharacterSet("Mac Roman"), CharacterSet::kMacRoman);
   EXPECT_EQ(FindCharacterSet("cp437"), CharacterSet::kIbm437);
+  EXPECT_EQ(FindCharacterSet("TIS-620"), CharacterSet::kIso8859Part11);
+  EXPECT_EQ(FindCharacterSet("latin10"), CharacterSet::kIso8859Part16);
+  EXPECT_EQ(FindCharacterSet("MAC-CYRILLIC"), CharacterSet::kMacCyrillic);
+  EXPECT_EQ(FindCharacterSet("utf-16be"), CharacterSet::kUtf16HighByteFirst);
 }
 
 TEST(CharacterSets, AreNotGuessedByOtherNames) {

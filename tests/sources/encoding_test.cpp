@@ -39,6 +39,20 @@ constexpr std::string_view kJapaneseShiftJis =
     "\x96\x88\x92\xA9\x81\x41\x90\xEC\x82\xCD\x8C\xC3\x82\xA2\x89\xC6\x82\xCC\x82\xBB\x82\xCE\x82"
     "\xF0\x97\xAC\x82\xEA\x82\xDC\x82\xB7\x81\x42\n";
 
+constexpr std::string_view kUkrainianKoi8 =
+    "\xBD\xC1\xCE\xCF\xCB \xA6 \xD3\xC1\xC4, \xA7\xD6\xC1\xCB \xC2\xA6\xD6\xC9\xD4\xD8 \xC4\xCF "
+    "\xCC\xA6\xD3\xD5, \xA4 \xD7\xCF\xC4\xC1 \xCA \xD4\xC9\xC8\xC1 \xD2\xA6\xDE\xCB\xC1.\n";
+
+std::string InUtf16(std::u16string_view text, bool highByteFirst) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    const char high = static_cast<char>(unit >> 8U);
+    const char low = static_cast<char>(unit & 0xFFU);
+    bytes.append({highByteFirst ? high : low, highByteFirst ? low : high});
+  }
+  return bytes;
+}
+
 class Encodings : public CounterFixture {
  protected:
   Encodings() {
@@ -180,7 +194,7 @@ TEST_F(Encodings, LargeFilesAreConvertedOnThreads) {
 
 TEST_F(Encodings, GuessKnowsRussianPolishAndJapanese) {
   const CountResult koi8 = CountFile(TimesOver(kRussianKoi8, 5), CharacterSet::kGuess);
-  EXPECT_EQ(SourceSetOf(koi8), CharacterSet::kKoi8R);
+  EXPECT_EQ(SourceSetOf(koi8), CharacterSet::kKoi8U) << "whose letters hold those of KOI8-R";
   EXPECT_EQ(koi8.store.At(1).Word, "воду");
   const CountResult windows = CountFile(TimesOver(kRussianWindows, 5), CharacterSet::kGuess);
   EXPECT_EQ(SourceSetOf(windows), CharacterSet::kWindows1251);
@@ -207,6 +221,60 @@ TEST_F(Encodings, GuessLeavesUtf8AndWhatNobodyKnows) {
   EXPECT_EQ(CharacterSetOf("", CharacterSet::kGuess), CharacterSet::kAsFound);
   EXPECT_EQ(CharacterSetOf("c\0a\0t\0s\0"s, CharacterSet::kGuess), CharacterSet::kUtf16);
   EXPECT_EQ(CharacterSetOf("\0\x01\x02\x03\0\0"s, CharacterSet::kGuess), CharacterSet::kAsFound);
+}
+
+TEST_F(Encodings, GuessKnowsUkrainian) {
+  const CountResult result = CountFile(TimesOver(kUkrainianKoi8, 5), CharacterSet::kGuess);
+  EXPECT_EQ(WordsOf(result),
+            "біжить*5 вода*5 до*5 й*5 лісу*5 річка*5 сад*5 тиха*5 є*5 і*5 їжак*5 ґанок*5");
+}
+
+TEST_F(Encodings, GuessSeesWhichByteOfUtf16ComesFirst) {
+  for (const std::u16string_view text : {u"Тихая река", u"über die Brücke", u"静かな川\n"}) {
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kGuess), CharacterSet::kUtf16);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), CharacterSet::kGuess),
+              CharacterSet::kUtf16HighByteFirst);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), CharacterSet::kUtf16),
+              CharacterSet::kUtf16HighByteFirst);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kUtf16), CharacterSet::kUtf16);
+  }
+  EXPECT_EQ(CountFile("\x20\0\x00\xD8\x20\0"s, CharacterSet::kGuess).refusal, Refusal::kNotText)
+      << "a lone surrogate";
+  const CountResult result = CountFile(InUtf16(u"Тихая река\n", true), CharacterSet::kUtf16);
+  EXPECT_EQ(WordsOf(result), "река тихая");
+  EXPECT_EQ(result.reports.at(0).lines->lineFeeds, 1);
+}
+
+TEST_F(Encodings, GuessIsPutOffBehindAHeadOfAscii) {
+  const std::string ascii = TimesOver("plain words ", 7000);
+  ASSERT_GT(ascii.size(), kGuessBytes);
+  const std::string text = ascii + TimesOver(kRussianKoi8, 50);
+  const CountResult one = CountFile(text, CharacterSet::kGuess);
+  EXPECT_EQ(SourceSetOf(one), CharacterSet::kKoi8U);
+  EXPECT_EQ(WordsOf(one).find("plain*7000"), WordsOf(one).find("plain")) << WordsOf(one);
+  EXPECT_EQ(one.uncounted, Uncounted());
+  for (std::size_t chunk : {1000U, 65'536U, 100'000U}) {
+    ChunkedSource stream(text, chunk);
+    EXPECT_EQ(WordsOf(Run(TextOfStream{&stream, "pipe"})), WordsOf(one)) << chunk;
+  }
+  EXPECT_EQ(SourceSetOf(CountFile(ascii, CharacterSet::kGuess)), CharacterSet::kAsFound);
+  EXPECT_EQ(SourceSetOf(CountFile(ascii + "река", CharacterSet::kGuess)), CharacterSet::kAsFound);
+}
+
+TEST_F(Encodings, GuessIsPutOffInFoldersOnThreadsAsWell) {
+  const std::string text = TimesOver("plain words ", 7000) + TimesOver(kRussianKoi8, 50);
+  for (int i = 0; i < 40; ++i) {
+    static_cast<void>(folder.Write("a" + std::to_string(i) + ".txt", text));
+  }
+  request.encoding = CharacterSet::kGuess;
+  const CountResult alone = Run(TextOfFolder{folder.Path(), false, {}});
+  request.threads = 3;
+  const CountResult together = Run(TextOfFolder{folder.Path(), false, {}});
+  EXPECT_EQ(WordsOf(together), WordsOf(alone));
+  EXPECT_NE(WordsOf(alone).find("река*2000"), std::string::npos) << WordsOf(alone);
+  for (const FileReport& report : together.reports) {
+    EXPECT_EQ(report.convertedFrom, CharacterSet::kKoi8U);
+  }
 }
 
 TEST_F(Encodings, HeadThatIsCutWithinACharacterIsUtf8) {

@@ -105,6 +105,46 @@ inline constexpr auto kEncodedTexts = std::to_array<EncodedText>({
      "\x8Frhus, \x9Dre, \xA8qu\x82\x3F \xA4"
      "and\xA3",
      "Århus, Øre, ¿qué? ñandú"},
+    {CharacterSet::kIso8859Part10,
+     "\xDE\xF3r\xF0ur r\xE6\xF0ir vi\xF0 \xF6mmu s\xEDna \xED \xA9"
+     "akovo, \xAAibenik",
+     "Þórður ræðir við ömmu sína í Đakovo, Šibenik"},
+    {CharacterSet::kIso8859Part11, "\xE1\xC1\xE8\xB9\xE9\xD3\xE4\xCB\xC5\xAA\xE9\xD2\xE6",
+     "แม่น้ำไหลช้าๆ"},
+    {CharacterSet::kIso8859Part14,
+     "\xD0ylaf, \xFE"
+     "d, \xB8, \xA4"
+     "eol, \xBF"
+     "eo",
+     "Ŵylaf, ŷd, ẁ, Ċeol, ṡeo"},
+    {CharacterSet::kIso8859Part16,
+     "\xCEntr-o diminea\xFE\xE3, r\xE2ul \xBAi \xFE"
+     "ara",
+     "Într-o dimineață, râul și țara"},
+    {CharacterSet::kIbm852,
+     "Ka\xA7"
+     "d\x82 r\xA0no te\x9F"
+     "e \xFD"
+     "eka ti\xE7"
+     "e, \xABr\xA2"
+     "d\x88o",
+     "Každé ráno teče řeka tiše, źródło"},
+    {CharacterSet::kIbm855,
+     "\xE6\xB7\xB5\xA0\xDE \xE1\xA8\xC6\xA0, \x92\xA8\xD4\xA0 \xD8\xA8\xE3\xD2\xA0",
+     "Тихая река, њена песма"},
+    {CharacterSet::kIbm866, "\x92\xA8\xE5\xA0\xEF \xE0\xA5\xAA\xA0, \xA5\xF1 \xAF\xA5\xE1\xAD\xEF",
+     "Тихая река, её песня"},
+    {CharacterSet::kMacCyrillic,
+     "\x92\xE8\xF5\xE0\xDF \xF0\xE5\xEA\xE0, \xBB\xF5\xED\xDF \xEF\xB4\xF1\xED\xDF",
+     "Тихая река, їхня пісня"},
+    {CharacterSet::kUtf16HighByteFirst,
+     std::string_view("\x04 \x04"
+                      "5\x04:\x04"
+                      "0\x00,\x00 \x00r\x00i\x00v\x00"
+                      "a\xD8"
+                      "4\xDD\x1E\x00.",
+                      26),
+     "Река, riva𝄞."},
 });
 
 }  // namespace quillomat

@@ -41,6 +41,7 @@ void ExpectConverted(CharacterSet set, std::string_view bytes, std::string_view 
 TEST(SystemDecoder, DecodesEachEncoding) {
   std::set<CharacterSet> decoded;
   for (const EncodedText& encoded : kEncodedTexts) {
+    ASSERT_TRUE(CanDecode(encoded.set)) << NameOf(encoded.set);
     ExpectConverted(encoded.set, encoded.bytes, encoded.text, 0);
     decoded.insert(encoded.set);
   }

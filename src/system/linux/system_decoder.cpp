@@ -28,9 +28,23 @@ std::string LibraryNameOf(CharacterSet set) {
       return "UHC";
     case CharacterSet::kMacRoman:
       return "MACINTOSH";
+    case CharacterSet::kMacCyrillic:
+      return "MAC-CYRILLIC";
+    case CharacterSet::kIso8859Part11:
+      return "CP874";
     default:
       return std::string(NameOf(set));
   }
+}
+
+/// Nothing where the C library knows no such set.
+Converter OpenConverter(CharacterSet set) {
+  iconv_t converter = iconv_open("UTF-8", LibraryNameOf(set).c_str());
+  // The C library's own way to say that there is none.
+  if (converter == reinterpret_cast<iconv_t>(-1)) {  // NOLINT(*-reinterpret-cast,*-no-int-to-ptr)
+    return nullptr;
+  }
+  return Converter(converter);
 }
 
 class IconvDecoder final : public TextDecoder {
@@ -83,13 +97,20 @@ class IconvDecoder final : public TextDecoder {
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
   if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
   if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  iconv_t converter = iconv_open("UTF-8", LibraryNameOf(set).c_str());
-  // The C library's own way to say that there is none.
-  if (converter == reinterpret_cast<iconv_t>(-1)) {  // NOLINT(*-reinterpret-cast,*-no-int-to-ptr)
+  if (set == CharacterSet::kUtf16HighByteFirst) {
+    return std::make_unique<Utf16Decoder>(Utf16Decoder::ByteOrder::kBigEndian);
+  }
+  Converter converter = OpenConverter(set);
+  if (!converter) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  return std::make_unique<IconvDecoder>(Converter(converter));
+  return std::make_unique<IconvDecoder>(std::move(converter));
+}
+
+bool CanDecode(CharacterSet set) {
+  return set == CharacterSet::kUtf8 || set == CharacterSet::kUtf16 ||
+         set == CharacterSet::kUtf16HighByteFirst || OpenConverter(set);
 }
 
 }  // namespace quillomat

@@ -52,9 +52,31 @@ UINT CodePageOf(CharacterSet set) {
       return 437;
     case CharacterSet::kIbm850:
       return 850;
+    case CharacterSet::kIbm852:
+      return 852;
+    case CharacterSet::kIbm855:
+      return 855;
+    case CharacterSet::kIbm866:
+      return 866;
+    case CharacterSet::kMacCyrillic:
+      return 10007;
+    // Not every system has these.
+    case CharacterSet::kIso8859Part10:
+      return 28600;
+    case CharacterSet::kIso8859Part11:
+      return 874;
+    case CharacterSet::kIso8859Part14:
+      return 28604;
+    case CharacterSet::kIso8859Part16:
+      return 28606;
     default:
-      return 0;
+      return 0;  // which stands for the system's own page
   }
+}
+
+bool HasPage(CharacterSet set) {
+  const UINT page = CodePageOf(set);
+  return page != 0 && IsValidCodePage(page) != 0;
 }
 
 /// The system does not say where a text is wrong, so it is asked for one character after the other,
@@ -161,13 +183,19 @@ class CodePageDecoder final : public TextDecoder {
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
   if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
   if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  const UINT page = CodePageOf(set);
-  if (IsValidCodePage(page) == 0) {
+  if (set == CharacterSet::kUtf16HighByteFirst) {
+    return std::make_unique<Utf16Decoder>(Utf16Decoder::ByteOrder::kBigEndian);
+  }
+  if (!HasPage(set)) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  const bool isIso = set >= CharacterSet::kIso8859Part1 && set <= CharacterSet::kIso8859Part15;
-  return std::make_unique<CodePageDecoder>(page, !isIso);
+  return std::make_unique<CodePageDecoder>(CodePageOf(set), !NameOf(set).starts_with("ISO-"));
+}
+
+bool CanDecode(CharacterSet set) {
+  return set == CharacterSet::kUtf8 || set == CharacterSet::kUtf16 ||
+         set == CharacterSet::kUtf16HighByteFirst || HasPage(set);
 }
 
 }  // namespace quillomat
