@@ -24,6 +24,10 @@ constexpr Wording kBytesNotDecoded{
     "1 byte could not be decoded; --encoding names another encoding.",
     " bytes could not be decoded; --encoding names another encoding."};
 
+constexpr std::string_view kRunsLeftWhole =
+    "Chinese, Japanese, Thai, Lao, Khmer and Burmese were not cut into words: the system has no ICU "
+    "library.";
+
 }  // namespace
 
 void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::ostream& err) {
@@ -39,6 +43,9 @@ void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::os
   tell(uncounted.foreignLetters, kForeignLetters);
   tell(uncounted.linesNotUtf8, kLinesNotUtf8);
   tell(uncounted.bytesNotDecoded, kBytesNotDecoded);
+  if (uncounted.runsLeftWhole) {
+    err << Headed{MessageTone::kWarning, "Note: "} << kRunsLeftWhole << '\n';
+  }
 }
 
 }  // namespace quillomat

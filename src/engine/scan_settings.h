@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/check_state.h"
+#include "base/run_segmenter.h"
 #include "engine/letter_rule.h"
 #include "engine/uncounted.h"
 
@@ -52,6 +53,8 @@ struct ScanChoices {
   std::array<std::string, 2> startComment;
   std::array<std::string, 2> endComment;
   LetterRule letters = LetterRule::kWestern;
+  /// Of all letters, those of scripts without blanks are cut by it; null leaves them whole.
+  SegmenterMaker makeSegmenter = nullptr;
   CheckState foldAccents = CheckState::kChecked;
 
   /// What makes two words the same.

@@ -36,9 +36,7 @@ std::string_view TokenTaker::FinalForm(std::string_view token) {
 
 void TokenTaker::TakeCut(std::string_view token) {
   if (settings_.ReadingWordList) {
-    const std::string_view word = FinalForm(token);
-    if (!word.empty()) store_.AddWord(word, true);
-    return;
+    return TakeListWords(token);
   }
   ForgetTokensOfOldStore();
   const TokenMemo::Key key = KeyOf(token, token.size());
@@ -46,7 +44,7 @@ void TokenTaker::TakeCut(std::string_view token) {
   if (known == kUnknownToken) {
     ForgetNewTokens();
     newTokens_.push_back({0, key, kNoLongKey, 0});
-    NoteNewWord(FinalForm(token));
+    WorkOutRun(token);
     newTokens_.back().wordsEnd = newWords_.size();
     AddNewWords();
   } else if (IsSeveral(known)) {
@@ -59,6 +57,13 @@ void TokenTaker::TakeCut(std::string_view token) {
   if (known != kUnknownToken) newTokens_.clear();
   outcomes_.assign(1, known);
   TellOrder(0);
+}
+
+void TokenTaker::TakeListWords(std::string_view run) {
+  cutter_.ForEachPart(run, [this](std::string_view part) {
+    const std::string_view word = FinalForm(part);
+    if (!word.empty()) store_.AddWord(word, true);
+  });
 }
 
 TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) const {
@@ -236,9 +241,15 @@ void TokenTaker::WorkOutToken(std::string_view token) {
       continue;
     }
     const std::size_t bytes = charClass_.RunBytes(text, position);
-    NoteNewWord(FinalForm(text.substr(position, bytes)));
+    WorkOutRun(text.substr(position, bytes));
     position += bytes;
   }
+}
+
+/// Of word characters: one word, but for scripts without blanks.
+void TokenTaker::WorkOutRun(std::string_view run) {
+  cutter_.ForEachPart(run, [this](std::string_view part) { NoteNewWord(FinalForm(part)); });
+  if (cutter_.HasLeftWhole()) settings_.Uncounted.runsLeftWhole = true;
 }
 
 /// The same for a short token of letters without accents, which most are; false for any other.

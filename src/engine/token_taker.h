@@ -16,6 +16,7 @@
 #include "engine/char_class.h"
 #include "engine/line_block.h"
 #include "engine/long_token_memo.h"
+#include "engine/run_cutter.h"
 #include "engine/scan_settings.h"
 #include "engine/token_memo.h"
 #include "engine/word_list.h"
@@ -36,6 +37,7 @@ class TokenTaker {
         charClass_(charClass),
         lists_(lists),
         store_(store),
+        cutter_(charClass, choices.letters, choices.makeSegmenter),
         keyRule_(choices.Keys()),
         memoGeneration_(store.Generation()) {}
 
@@ -45,6 +47,9 @@ class TokenTaker {
 
   /// Takes tokens of a block, at most kTokensAtOnce.
   void TakeMany(const LineBlock& block, std::size_t first, std::size_t count);
+
+  /// Cuts runs as it does itself.
+  [[nodiscard]] RunCutter& Cutter() { return cutter_; }
 
   /// Words read so far, whether they were counted or not.
   [[nodiscard]] std::int32_t WordsRead() const { return wordsRead_; }
@@ -100,6 +105,8 @@ class TokenTaker {
   [[nodiscard]] TokenOutcome KeepSeveral(std::span<const NewWord> words);
   void ForgetNewTokens();
   void WorkOutToken(std::string_view token);
+  void WorkOutRun(std::string_view run);
+  void TakeListWords(std::string_view run);
   [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
   void NoteNewWord(std::string_view word);
   [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
@@ -114,6 +121,7 @@ class TokenTaker {
   const CharClass& charClass_;
   const WordLists& lists_;
   WordStore& store_;
+  RunCutter cutter_;
   KeyRule keyRule_;
   TokenMemo memo_;
   LongTokenMemo longMemo_;

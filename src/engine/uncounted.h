@@ -13,13 +13,17 @@ struct Uncounted {
   std::int64_t linesNotUtf8 = 0;
   /// Bytes that are no character of the encoding that their text was converted from.
   std::int64_t bytesNotDecoded = 0;
+  /// Whether letters of scripts without blanks were not cut into words, for want of a segmenter.
+  bool runsLeftWhole = false;
 
   Uncounted& operator+=(const Uncounted& other) {
     foreignLetters += other.foreignLetters;
     linesNotUtf8 += other.linesNotUtf8;
     bytesNotDecoded += other.bytesNotDecoded;
+    runsLeftWhole = runsLeftWhole || other.runsLeftWhole;
     return *this;
   }
+  /// Of numbers; whether runs were left whole is told of all that was counted so far.
   Uncounted& operator-=(const Uncounted& other) {
     foreignLetters -= other.foreignLetters;
     linesNotUtf8 -= other.linesNotUtf8;

@@ -4,7 +4,10 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
+#include "engine/char_class.h"
 #include "engine/normal_text.h"
+#include "engine/run_cutter.h"
+#include "engine/scan_settings.h"
 #include "engine/word_rules.h"
 
 namespace quillomat {
@@ -12,6 +15,19 @@ namespace {
 
 std::string LowerCaseBy(LetterRule letters, std::string_view text) {
   return letters == LetterRule::kAll ? NormalLowerCase(text) : LowerCase(text);
+}
+
+/// As runs of a text that may hold any sign.
+void CutItems(std::vector<std::string>& items, LetterRule letters, SegmenterMaker makeSegmenter) {
+  std::string signs;
+  for (const std::string_view ofFlag : kAllowFlagChars) signs += ofFlag;
+  const CharClass charClass(true, signs, letters);
+  RunCutter cutter(charClass, letters, makeSegmenter);
+  std::vector<std::string> parts;
+  for (const std::string& item : items) {
+    cutter.ForEachPart(item, [&parts](std::string_view part) { parts.emplace_back(part); });
+  }
+  items = std::move(parts);
 }
 
 }  // namespace
@@ -42,8 +58,11 @@ SplitResult SplitList(std::string_view text, std::string_view separators, std::s
   return result;
 }
 
-SplitResult ParseTypedWords(std::string_view text, LetterRule letters) {
+SplitResult ParseTypedWords(std::string_view text, LetterRule letters,
+                            SegmenterMaker makeSegmenter) {
   SplitResult result = SplitList(LowerCaseBy(letters, text), " \t\r\n", kMaxTypedWords);
+  if (makeSegmenter != nullptr) CutItems(result.items, letters, makeSegmenter);
+  if (result.items.size() > kMaxTypedWords) return {false, {}};
   for (std::string& item : result.items) item.resize(TrimTrailingChars(item, "-'_.,:").size());
   std::erase(result.items, std::string());
   return result;

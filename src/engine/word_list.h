@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/run_segmenter.h"
 #include "engine/letter_rule.h"
 #include "engine/word_hash.h"
 
@@ -96,8 +97,10 @@ inline constexpr std::size_t kMaxTypedWords = 1000;
 /// A list typed by hand, lower-cased, split at blanks, tabs and line breaks, and with the trailing
 /// characters "-'_.,:" taken off each word; an item of such characters alone is no word. `fits` is
 /// false when it has more than kMaxTypedWords items. Of all letters the text is brought into normal
-/// form.
+/// form, and an item with letters of scripts without blanks is cut into the words that it is in a
+/// text.
 [[nodiscard]] SplitResult ParseTypedWords(std::string_view text,
-                                          LetterRule letters = LetterRule::kWestern);
+                                          LetterRule letters = LetterRule::kWestern,
+                                          SegmenterMaker makeSegmenter = nullptr);
 
 }  // namespace quillomat

@@ -45,7 +45,9 @@ void WordScanner::GetWords(std::string_view lineBuffer) {
 
 void WordScanner::ShowTokens(std::string_view lineBuffer, ScanWitness& witness) {
   witness_ = &witness;
-  ScanText(lineBuffer, [&witness](std::string_view token) { witness.OnToken(token); });
+  const auto show = [&witness](std::string_view token) { witness.OnToken(token); };
+  ScanText(lineBuffer,
+           [this, &show](std::string_view run) { taker_.Cutter().ForEachPart(run, show); });
   witness_ = nullptr;
 }
 

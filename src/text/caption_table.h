@@ -318,6 +318,7 @@ inline constexpr int kWordsLeftOutText = 709;
 inline constexpr int kWordLeftOutText = 710;
 inline constexpr int kLettersNotCountedText = 711;
 inline constexpr int kLetterNotCountedText = 712;
+inline constexpr int kRunsLeftWholeText = 713;
 inline constexpr int kBytesNotDecodedText = 726;
 inline constexpr int kByteNotDecodedText = 727;
 inline constexpr int kLinesNotUtf8Text = 728;

@@ -160,7 +160,7 @@ class EngineFixture : public testing::Test {
 
  private:
   [[nodiscard]] WordList Typed(std::string_view words) const {
-    return WordList(ParseTypedWords(words, choices.letters).items);
+    return WordList(ParseTypedWords(words, choices.letters, choices.makeSegmenter).items);
   }
 
   [[nodiscard]] std::string Shown(bool includedOnly) const {

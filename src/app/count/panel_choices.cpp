@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string>
 
+#include "system/system_segmenter.h"
+
 namespace quillomat {
 namespace {
 
@@ -23,6 +25,7 @@ ScanChoices ReadScanChoices(ParamsForm& frmParams) {
   }
   choices.caseSignificant = frmParams.chkCaseSignificant.Value();
   choices.letters = ReadLetterRule(frmParams);
+  choices.makeSegmenter = MakeSystemSegmenter;
   choices.foldAccents = frmParams.chkFoldAccents.Value();
   choices.dropFinalS = frmParams.chkDropFinalS.Value();
   choices.allowCommentMarkers = frmParams.chkAllowCommentMarkers.Value();

@@ -22,6 +22,7 @@
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
+#include "system/system_segmenter.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
 
@@ -120,8 +121,8 @@ bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
 }
 
 std::string WordListReader::GetExtraWords(WordListKind kind) {
-  SplitResult typed =
-      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), ReadKeyRule(frmParams_).letters);
+  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()),
+                                      ReadKeyRule(frmParams_).letters, MakeSystemSegmenter);
   if (!typed.fits) {
     return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
   }

@@ -39,7 +39,7 @@ std::string ReasonText(const Candidate& candidate, const FilterChoices& filters,
   const int number = kFirstReasonText + static_cast<int>(candidate.reason) - 1;
   const std::string limit = std::to_string(LimitOf(candidate.reason, filters));
   std::string reason = Filled(text.GetText(number), {limit});
-  if (candidate.fate != CandidateFate::kCut) return reason;
+  if (candidate.fate != CandidateFate::kCut || candidate.word.empty()) return reason;
   return Filled(text.GetText(kCutAtText), {candidate.word, reason});
 }
 

@@ -53,6 +53,7 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      kLetterNotCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.foreignLetters); },
      {kCountAllLetters}},
+    {kRunsLeftWholeText, 0, [](const NoticeFacts& facts) { return If(facts.runsLeftWhole); }},
     {kOnlyWordsCountedText,
      kOnlyWordCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.countOnlyWords); },

@@ -36,6 +36,8 @@ struct NoticeFacts {
   bool settingsChanged = false;
   /// Letters of other alphabets than the count went by.
   std::int64_t foreignLetters = 0;
+  /// Scripts without blanks were not cut into words.
+  bool runsLeftWhole = false;
   /// What of the text's bytes was not as its encoding wants it (Uncounted).
   std::int64_t bytesNotDecoded = 0;
   std::int64_t linesNotUtf8 = 0;

@@ -77,6 +77,7 @@ NoticeFacts NoticeBar::Facts() const {
   facts.settingsChanged =
       !CountAlike(basis, CountBasisOf(frmMain_, frmParams_, inForce_), words_.counted.source);
   facts.foreignLetters = words_.uncounted.foreignLetters;
+  facts.runsLeftWhole = words_.uncounted.runsLeftWhole;
   facts.bytesNotDecoded = words_.uncounted.bytesNotDecoded;
   facts.linesNotUtf8 = words_.uncounted.linesNotUtf8;
   facts.countOnlyWords = basis.countOnlyWords;

@@ -35,6 +35,8 @@ enum class CandidateReason : std::uint8_t {
   kRepetition,
   kRomanNumeral,
   kNoVowel,
+  /// Letters of a script without blanks are cut into words, at no sign.
+  kUnspaced,
 };
 
 enum class CandidateFate : std::uint8_t {
@@ -51,7 +53,7 @@ struct Candidate {
   CandidateReason reason = CandidateReason::kNone;
   /// Of a word its final form; where it is counted, as the list spells it. Of a cut candidate the
   /// characters at which it was cut, each once, with blanks between them; one that cannot be seen
-  /// by itself as "U+00AD".
+  /// by itself as "U+00AD". Nothing where it was cut between letters.
   std::string word;
   /// The final form lacks signs that stood at the end, or a final s.
   bool trimmed = false;

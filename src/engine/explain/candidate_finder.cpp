@@ -145,6 +145,9 @@ void CandidateFinder::EndStretch() {
   } else if (!stretch.signs.empty()) {
     pieces_.push_back(
         {FoundPiece::Kind::kCut, stretch.start, stretch.end, reason, Shown(stretch.signs)});
+  } else if (stretch.tokens.size() > 1) {
+    pieces_.push_back(
+        {FoundPiece::Kind::kCut, stretch.start, stretch.end, CandidateReason::kUnspaced});
   }
   pieces_.insert(pieces_.end(), stretch.tokens.begin(), stretch.tokens.end());
 }
