@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/run_segmenter.h"
 #include "reference/literal_choices.h"
 
 namespace quillomat::properties {
@@ -23,8 +24,12 @@ struct CaseText {
   std::vector<std::string> lines;
 };
 
+/// What cuts scripts without blanks into words.
+enum class Segmenter : std::uint8_t { kNone, kMadeUp, kOfTheSystem };
+
 struct CountCase {
   reference::LiteralChoices choices;
+  Segmenter segmenter = Segmenter::kNone;
   /// Words files, 0 words to ignore, 1 count-only words; none when there are no lines.
   std::array<std::vector<std::string>, 2> wordsFiles;
   std::vector<CaseText> texts;
@@ -33,6 +38,9 @@ struct CountCase {
   std::int32_t numFiles = 1;
   std::int32_t numFolders = 1;
 };
+
+/// Of the case: what makes it, or null.
+[[nodiscard]] SegmenterMaker MakerOf(Segmenter segmenter);
 
 using Random = std::mt19937_64;
 

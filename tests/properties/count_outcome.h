@@ -35,6 +35,8 @@ struct FilesInTurn {
 
 /// As the panel's choices are for a scan.
 [[nodiscard]] ScanChoices ScanChoicesOf(const reference::LiteralChoices& from);
+/// With the case's segmenter.
+[[nodiscard]] ScanChoices ScanChoicesOf(const CountCase& from);
 /// And for the list.
 [[nodiscard]] FilterChoices FilterChoicesOf(const reference::LiteralChoices& from);
 

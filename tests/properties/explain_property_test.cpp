@@ -28,18 +28,18 @@ constexpr std::uint64_t kExplainedSeed = 1607;
 /// A random case as one text of the clipboard.
 struct ExplainedCase {
   explicit ExplainedCase(const CountCase& from)
-      : scan(ScanChoicesOf(from.choices)), filters(FilterChoicesOf(from.choices)) {
+      : scan(ScanChoicesOf(from)), filters(FilterChoicesOf(from.choices)) {
     for (const CaseText& part : from.texts) {
       for (const std::string& line : part.lines) text += line + "\r\n";
     }
     const auto typed = [&](int kind) {
       const std::string& words =
           from.choices.txbWordsToIgnoreOrCount[static_cast<std::size_t>(kind)];
-      return WordList(ParseTypedWords(words, scan.letters).items);
+      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items);
     };
     const auto ofFile = [&](std::size_t kind) {
       const std::string words = JoinWithBlanks(from.wordsFiles[kind]);
-      return WordList(ParseTypedWords(words, scan.letters).items);
+      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items);
     };
     lists = {ofFile(0), typed(0), ofFile(1), typed(1)};
   }
@@ -138,7 +138,9 @@ void ExpectReasons(const std::vector<Candidate>& candidates) {
     EXPECT_FALSE(candidate.text.empty());
     EXPECT_EQ(candidate.reason == CandidateReason::kNone, candidate.fate == CandidateFate::kCounted)
         << candidate.text;
-    EXPECT_FALSE(candidate.fate == CandidateFate::kCut && candidate.word.empty()) << candidate.text;
+    const bool betweenLetters = candidate.reason == CandidateReason::kUnspaced;
+    EXPECT_EQ(candidate.fate == CandidateFate::kCut && candidate.word.empty(), betweenLetters)
+        << candidate.text;
   }
 }
 

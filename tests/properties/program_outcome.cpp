@@ -16,7 +16,9 @@
 #include "listing/list_walk.h"
 #include "properties/count_outcome.h"
 #include "sources/counter.h"
+#include "support/made_up_segmenter.h"
 #include "support/scripted_desktop.h"
+#include "system/system_segmenter.h"
 
 namespace quillomat::properties {
 namespace {
@@ -97,7 +99,7 @@ class ProgramCase {
       : case_(countCase),
         reading_(reading),
         files_(files),
-        choices_(ScanChoicesOf(countCase.choices)),
+        choices_(ScanChoicesOf(countCase)),
         yield_(reading == Reading::kInBlocks ? kCallsOfBlocks : kCallsOneByOne) {}
 
   std::string Outcome() {
@@ -110,8 +112,8 @@ class ProgramCase {
 
  private:
   void ReadLists(std::size_t kind) {
-    SplitResult typed =
-        ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]), choices_.letters);
+    SplitResult typed = ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]),
+                                        choices_.letters, choices_.makeSegmenter);
     std::string cleaned;
     for (std::size_t i = 0; i < typed.items.size(); ++i) {
       cleaned += (i > 0 ? " " : "") + typed.items[i];
@@ -409,6 +411,24 @@ ScanChoices ScanChoicesOf(const reference::LiteralChoices& from) {
   choices.startComment = from.txbStartComment;
   choices.endComment = from.txbEndComment;
   return choices;
+}
+
+ScanChoices ScanChoicesOf(const CountCase& from) {
+  ScanChoices choices = ScanChoicesOf(from.choices);
+  choices.makeSegmenter = MakerOf(from.segmenter);
+  return choices;
+}
+
+SegmenterMaker MakerOf(Segmenter segmenter) {
+  switch (segmenter) {
+    case Segmenter::kNone:
+      return nullptr;
+    case Segmenter::kMadeUp:
+      return MakeMadeUpSegmenter;
+    case Segmenter::kOfTheSystem:
+      return MakeSystemSegmenter;
+  }
+  return nullptr;
 }
 
 FilterChoices FilterChoicesOf(const reference::LiteralChoices& from) {

@@ -234,6 +234,61 @@ constexpr auto kPiecesOfAll =
                                      "\xC3\xBD",
                                      "\xC5\xA0"});
 
+/// Letters of scripts without blanks, with marks of theirs, and words of such languages.
+constexpr auto kUnspacedPieces =
+    std::to_array<std::string_view>({"\u4E2D",
+                                     "\u56FD",
+                                     "\u4EBA",
+                                     "\u4E2D\u56FD\u4EBA",
+                                     "\u624B\u673A",
+                                     "\u6211\u559C\u6B22",
+                                     "\u3001",
+                                     "\uFF0C",
+                                     "\u3002",
+                                     "\u3005",
+                                     "\u3007",
+                                     "\u304B\u3099",
+                                     "\u3042",
+                                     "\u3044\u307E\u3059",
+                                     "\u30AB\u30BF",
+                                     "\u30FC",
+                                     "\uFF76",
+                                     "\uFF9E",
+                                     "\u65E5\u672C\u8A9E",
+                                     "\u302A",
+                                     "\u0E20\u0E32\u0E29\u0E32",
+                                     "\u0E44\u0E17\u0E22",
+                                     "\u0E01",
+                                     "\u0E34",
+                                     "\u0E48",
+                                     "\u0E51",
+                                     "\u0E2F",
+                                     "\u0E9E\u0EB2\u0EAA\u0EB2",
+                                     "\u0EA5",
+                                     "\u0EBB",
+                                     "\u1797\u17B6\u179F\u17B6",
+                                     "\u1780",
+                                     "\u17D2",
+                                     "\u17E1",
+                                     "\u1019\u103C\u1014\u103A\u1019\u102C",
+                                     "\u1005\u102C",
+                                     "\u1041",
+                                     "\uAA60",
+                                     "\u200B",
+                                     "\u200D",
+                                     "\U00020000",
+                                     "\U0002F800",
+                                     "\U0001B000",
+                                     "\uAC00",
+                                     "\u0915",
+                                     "a",
+                                     "x",
+                                     "7",
+                                     "-",
+                                     "_",
+                                     "'",
+                                     "\u0301"});
+
 constexpr auto kStartMarkers =
     std::to_array<std::string_view>({"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t",
                                      " ", "-", "\xD0\x96", "i\xCC\x81", "\xD9\xA3"});
@@ -248,6 +303,7 @@ class CaseMaker {
   CountCase Make() {
     CountCase result;
     MakeChoices(result.choices);
+    result.segmenter = static_cast<Segmenter>(Below(3));
     for (auto& file : result.wordsFiles) {
       if (OneIn(6)) file = Lines(3, 6);
     }
@@ -297,6 +353,7 @@ class CaseMaker {
       *box = Box();
     }
     all_ = OneIn(2);
+    unspaced_ = all_ && OneIn(3);
     choices.cboLetters = all_ ? 1 : 0;
     choices.chkFoldAccents = OneIn(4) ? 0 : 1;
     for (std::size_t pair = 0; pair < 2; ++pair) {
@@ -330,7 +387,9 @@ class CaseMaker {
   std::string Line(std::size_t mostPieces) {
     std::string line;
     for (std::size_t pieces = Below(mostPieces + 1); pieces > 0; --pieces) {
-      if (all_ && OneIn(2)) {
+      if (unspaced_ && !OneIn(3)) {
+        line += Pick(kUnspacedPieces);
+      } else if (all_ && OneIn(2)) {
         line += Pick(kPiecesOfAll);
       } else if (OneIn(all_ ? 8 : 60)) {
         AppendCharacter(line, AnyCharacter());
@@ -363,6 +422,8 @@ class CaseMaker {
   Random& random_;
   /// The letters of all languages.
   bool all_ = false;
+  /// Text with many letters of scripts without blanks.
+  bool unspaced_ = false;
 };
 
 }  // namespace

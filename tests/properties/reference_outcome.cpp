@@ -1,5 +1,6 @@
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <sstream>
 #include <vector>
 
@@ -25,6 +26,20 @@ void Scan(LiteralEngine& engine, const CaseText& text) {
   std::string all;
   for (const std::string& line : text.lines) all += line + "\r\n";
   engine.ScanText(all);
+}
+
+/// By the segmenter's cuts.
+reference::WordFinder FinderOf(Segmenter segmenter) {
+  const SegmenterMaker make = MakerOf(segmenter);
+  const std::shared_ptr<RunSegmenter> made = make == nullptr ? nullptr : make();
+  if (made == nullptr) return {};
+  return [made](const reference::Characters& run) {
+    const std::string utf8 = ToUtf8(run);
+    std::vector<std::size_t> cuts;
+    made->FindCuts(utf8, cuts);
+    for (std::size_t& cut : cuts) cut = reference::FromUtf8(utf8.substr(0, cut)).size() + 1;
+    return cuts;
+  };
 }
 
 /// The growth is thinned as the program does it, which is tested elsewhere.
@@ -60,6 +75,7 @@ std::string OutcomeOfReference(const CountCase& countCase, Told told) {
   std::ostringstream out;
   LiteralEngine engine;
   engine.choices = countCase.choices;
+  engine.findWords = FinderOf(countCase.segmenter);
   for (int kind = 0; kind < 2; ++kind) {
     out << "typed: " << engine.GetExtraWords(kind) << '\n';
     const auto& lines = countCase.wordsFiles[static_cast<std::size_t>(kind)];

@@ -163,6 +163,10 @@ std::vector<CountCase> SimplerCases(const CountCase& countCase) {
     if (countCase.choices.*box == defaults.*box) continue;
     variants.Add([&](CountCase& c) { c.choices.*box = defaults.*box; });
   }
+  for (const Segmenter segmenter : {Segmenter::kNone, Segmenter::kMadeUp}) {
+    if (segmenter >= countCase.segmenter) continue;
+    variants.Add([segmenter](CountCase& c) { c.segmenter = segmenter; });
+  }
   return variants.Take();
 }
 
@@ -173,6 +177,10 @@ std::string AsCode(const CountCase& countCase) {
     const int value = countCase.choices.*kBoxes[i];
     if (value == defaults.*kBoxes[i]) continue;
     code += "c.choices." + std::string(kBoxNames[i]) + " = " + std::to_string(value) + ";\n";
+  }
+  if (countCase.segmenter != Segmenter::kNone) {
+    code += "c.segmenter = static_cast<Segmenter>(" +
+            std::to_string(static_cast<int>(countCase.segmenter)) + ");\n";
   }
   const auto pair = [](const std::array<std::string, 2>& texts) {
     return "{" + Quoted(texts[0]) + ", " + Quoted(texts[1]) + "};\n";

@@ -21,6 +21,7 @@
 
 #include "reference/literal_arithmetic.h"
 #include "reference/literal_choices.h"
+#include "reference/literal_letters.h"
 #include "reference/literal_lists.h"
 #include "reference/literal_text.h"
 
@@ -105,7 +106,13 @@ class LiteralEngine {
   std::function<void()> onYield;
 
   void GetWords();
-  [[nodiscard]] Characters GetNextWord();
+  /// The next run of word characters, and a word of it.
+  [[nodiscard]] Characters GetNextRun();
+  [[nodiscard]] Characters FinalForm(const Characters& token);
+  /// Finds the words of scripts without blanks where the letters of all languages are chosen;
+  /// without it their runs stay whole.
+  WordFinder findWords;
+  [[nodiscard]] std::vector<Characters> PartsOf(const Characters& run) const;
   /// Where the letters of all languages are chosen these are other functions than else.
   [[nodiscard]] Characters Lower(const Characters& text) const;
   [[nodiscard]] Characters KeyOf(const Characters& word) const;
@@ -201,6 +208,7 @@ class LiteralEngine {
   void ScanPrepared(const Characters& text);
   void Yield() const;
 
+  [[nodiscard]] std::vector<Characters> CutItems(const std::vector<Characters>& items) const;
   void CollectListWords(const std::vector<std::string>& lines);
 
   [[nodiscard]] bool TrackingFiles() const;

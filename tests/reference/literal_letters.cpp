@@ -188,6 +188,70 @@ std::size_t CountWordCharsOfAll(const Characters& text, std::size_t start, bool 
   return count;
 }
 
+bool IsUnspacedLetter(char32_t character) {
+  constexpr std::array<std::pair<char32_t, char32_t>, 15> kBlocks = {{{0x0E00, 0x0E7F},
+                                                                      {0x0E80, 0x0EFF},
+                                                                      {0x1000, 0x109F},
+                                                                      {0x1780, 0x17FF},
+                                                                      {0x3000, 0x303F},
+                                                                      {0x3040, 0x30FF},
+                                                                      {0x31F0, 0x31FF},
+                                                                      {0x3400, 0x4DBF},
+                                                                      {0x4E00, 0x9FFF},
+                                                                      {0xA9E0, 0xA9FF},
+                                                                      {0xAA60, 0xAA7F},
+                                                                      {0xF900, 0xFAFF},
+                                                                      {0xFF66, 0xFF9F},
+                                                                      {0x1AFF0, 0x1B16F},
+                                                                      {0x20000, 0x3FFFF}}};
+  if (!IsAnyLetter(character)) return false;
+  for (const auto& [first, last] : kBlocks) {
+    if (character >= first && character <= last) return true;
+  }
+  return false;
+}
+
+std::vector<Characters> CutRun(const Characters& run, bool allowDigits, const Characters& extras,
+                               const WordFinder& find) {
+  // Stretches of such letters with their marks, and of all else.
+  std::vector<Characters> stretches;
+  bool unspaced = false;
+  bool any = false;
+  for (const char32_t character : run) {
+    const bool joins = IsAnyMark(character) && !stretches.empty();
+    if (!joins && (stretches.empty() || IsUnspacedLetter(character) != unspaced)) {
+      unspaced = IsUnspacedLetter(character);
+      stretches.emplace_back();
+    }
+    any = any || unspaced;
+    stretches.back() += character;
+  }
+  if (!any) return {run};
+  std::vector<Characters> parts;
+  for (Characters stretch : stretches) {
+    if (IsUnspacedLetter(stretch[0])) {
+      std::size_t done = 0;
+      for (const std::size_t place : find(stretch)) {
+        if (IsAnyMark(CharacterAt(stretch, place)[0])) continue;
+        parts.push_back(Mid(stretch, done + 1, place - 1 - done));
+        done = place - 1;
+      }
+      parts.push_back(Mid(stretch, done + 1));
+      continue;
+    }
+    const auto mayStart = [&](const Characters& ch) {
+      return CountWordCharsOfAll(ch, 1, allowDigits, extras) == 1 && InStr(1, U"-'.,()", ch) == 0;
+    };
+    while (!stretch.empty() && !mayStart(CharacterAt(stretch, 1))) stretch = Mid(stretch, 2);
+    bool signsAlone = true;
+    for (const char32_t ch : stretch) {
+      if (ch >= 128 || IsAnyLetter(ch) || IsAnyDigit(ch)) signsAlone = false;
+    }
+    if (!signsAlone) parts.push_back(stretch);
+  }
+  return parts;
+}
+
 Characters FoldAccentsOfAll(const Characters& word) {
   Characters folded;
   bool behindLatinOrGreek = false;

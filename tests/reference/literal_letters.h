@@ -4,6 +4,8 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <vector>
 
 #include "reference/literal_text.h"
 
@@ -28,6 +30,18 @@ namespace quillomat::reference {
 /// How many characters of a word follow each other from `start` on; never more than 65,000.
 [[nodiscard]] std::size_t CountWordCharsOfAll(const Characters& text, std::size_t start,
                                               bool allowDigits, const Characters& extras);
+
+/// Where words begin in a run of letters of scripts without blanks: the numbers of their first
+/// letters, all but that of the first word.
+using WordFinder = std::function<std::vector<std::size_t>(const Characters& run)>;
+
+/// Whether it is a letter of a script without blanks: Han, kana, Thai, Lao, Khmer, Burmese.
+[[nodiscard]] bool IsUnspacedLetter(char32_t character);
+
+/// A run of word characters cut where letters of such scripts meet others and where the finder says
+/// so. What stands between others begins as words may begin; signs alone are left out.
+[[nodiscard]] std::vector<Characters> CutRun(const Characters& run, bool allowDigits,
+                                             const Characters& extras, const WordFinder& find);
 
 /// Case folded, and without the accents of Latin and Greek letters.
 [[nodiscard]] Characters FoldAccentsOfAll(const Characters& word);

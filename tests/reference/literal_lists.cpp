@@ -48,6 +48,17 @@ std::int32_t SplitList(const Characters& text, char32_t separator, std::vector<C
   return static_cast<std::int32_t>(items.size());
 }
 
+/// As the words of a text are cut in which every sign is allowed.
+std::vector<Characters> LiteralEngine::CutItems(const std::vector<Characters>& items) const {
+  std::vector<Characters> cut;
+  for (const Characters& item : items) {
+    for (const Characters& part : CutRun(item, true, U"-'_:\\/().,@0123456789", findWords)) {
+      cut.push_back(part);
+    }
+  }
+  return cut;
+}
+
 std::string LiteralEngine::GetExtraWords(int index) {
   const std::string& typed = choices.txbWordsToIgnoreOrCount[static_cast<std::size_t>(index)];
   Characters text = Trim(Lower(FromUtf8(typed)));
@@ -59,10 +70,15 @@ std::string LiteralEngine::GetExtraWords(int index) {
   if (n == kItemsDoNotFit) {
     return index == 0 ? "Too many words to ignore." : "Too many count-only words.";
   }
+  std::vector<Characters> items(work.begin(), work.begin() + n);
+  if (AllLetters() && findWords) items = CutItems(items);
+  if (items.size() > 1000) {
+    return index == 0 ? "Too many words to ignore." : "Too many count-only words.";
+  }
   WordList list;
   Characters cleaned;
-  for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
-    const Characters item = TrimTrailingChars(work[i], U"-'_.,:");
+  for (const Characters& whole : items) {
+    const Characters item = TrimTrailingChars(whole, U"-'_.,:");
     if (item.empty()) continue;  // signs alone are no word
     if (!cleaned.empty()) cleaned += U" ";
     cleaned += item;

@@ -15,8 +15,10 @@ void LiteralEngine::GetWords() {
       if (RestIsOneBlank()) return;
       continue;
     }
-    const Characters word = GetNextWord();
-    if (!word.empty()) TakeWord(word);
+    for (const Characters& part : PartsOf(GetNextRun())) {
+      const Characters word = FinalForm(part);
+      if (!word.empty()) TakeWord(word);
+    }
     Yield();
     if (StopRequested) return;
   }
@@ -87,13 +89,21 @@ void LiteralEngine::TakeWord(const Characters& word) {
   AddWord(word);
 }
 
-Characters LiteralEngine::GetNextWord() {
+Characters LiteralEngine::GetNextRun() {
   const auto count = AllLetters() ? CountWordCharsOfAll : CountWordChars;
   const std::size_t n = count(LineBuffer, ScanPos, AllowFlags[10], ExtraWordChars);
-  Characters word = Mid(LineBuffer, ScanPos, n);
-  if (word.empty()) return word;
+  const std::size_t start = ScanPos;
   ScanPos += n;
-  word = TrimTrailingChars(word, U"-'.,:()");
+  return Mid(LineBuffer, start, n);
+}
+
+std::vector<Characters> LiteralEngine::PartsOf(const Characters& run) const {
+  if (!AllLetters() || !findWords) return {run};
+  return CutRun(run, AllowFlags[10], ExtraWordChars, findWords);
+}
+
+Characters LiteralEngine::FinalForm(const Characters& token) {
+  Characters word = TrimTrailingChars(token, U"-'.,:()");
   if (choices.chkDropFinalS == 1 && !ReadingWordList) {
     word = AllLetters() ? ApplyFinalSRuleOfAll(word) : ApplyFinalSRule(word);
   }
