@@ -33,19 +33,24 @@ std::uint8_t KindOf(char32_t codePoint) {
   }
 }
 
-/// Of letters: the blocks of Unicode for the two scripts, as the library does not know scripts.
+/// Of letters: where those of the two scripts stand, as the library does not know scripts. The
+/// micro sign is one: in folded case it is the Greek letter.
 bool IsInLatinOrGreekBlock(char32_t codePoint) {
   static constexpr std::pair<char32_t, char32_t> kBlocks[] = {
-      {0x41, 0x2AF},       // Latin, with IPA
-      {0x370, 0x3E1},      // Greek
-      {0x3F0, 0x3FF},      // more of it, behind Coptic
-      {0x1D00, 0x1D2A},    // phonetic Latin, small capitals of Greek
-      {0x1D6B, 0x1D77},    //
-      {0x1D79, 0x1D9A},    //
-      {0x1E00, 0x1FFF},    // Latin, then Greek with many accents
-      {0x2C60, 0x2C7F},    // Latin
-      {0xA722, 0xA7FF},    //
-      {0xAB30, 0xAB6F},    //
+      {0x41, 0x2B8},     // Latin, with IPA and its modifiers
+      {0x2E0, 0x2E4},    //
+      {0x370, 0x3E1},    // Greek
+      {0x3F0, 0x3FF},    // more of it, behind Coptic
+      {0x1D00, 0x1D2A},  // phonetic Latin and Greek, before and behind a letter of Cyrillic,
+      {0x1D2C, 0x1D77},  // before and behind another,
+      {0x1D79, 0x209C},  // then Latin and Greek with many accents, and small letters below the line
+      {0x2132, 0x2132},  // letters of Latin among signs
+      {0x214E, 0x2184},  //
+      {0x2C60, 0x2C7F},  // Latin
+      {0xA722, 0xA787},  // before and behind an accent that is a letter
+      {0xA78B, 0xA7FF},  //
+      {0xAB30, 0xAB69},  //
+      {0x10780, 0x107BA},  //
       {0x1DF00, 0x1DFFF},  //
   };
   return std::ranges::any_of(kBlocks, [codePoint](const auto& block) {

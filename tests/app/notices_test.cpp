@@ -29,16 +29,17 @@ TEST(Notices, MostImportantComesFirst) {
                         .file = "kjv.txt",
                         .settingsChanged = true,
                         .foreignLetters = 1204,
+                        .runsLeftWhole = true,
                         .bytesNotDecoded = 7,
                         .linesNotUtf8 = 12,
                         .countOnlyWords = 5,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
-  EXPECT_THAT(TextsOf(all),
-              ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
-                          kBytesNotDecodedText, kLettersNotCountedText, kOnlyWordsCountedText,
-                          kPartShownText, kLinesNotUtf8Text, kWordsLeftOutText));
+  EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
+                                        kBytesNotDecodedText, kLettersNotCountedText,
+                                        kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
+                                        kLinesNotUtf8Text, kWordsLeftOutText));
 }
 
 TEST(Notices, OneIsNotMany) {

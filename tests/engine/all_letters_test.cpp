@@ -100,6 +100,20 @@ TEST_F(AllLetters, LettersThatConsistOfNoOthersFoldAsTheirLike) {
   }
 }
 
+TEST_F(AllLetters, LetterIsLatinOrGreekByItsScriptWhateverItIsCalled) {
+  // Below the line, above it, turned, and the micro sign, which folds to a letter of Greek.
+  EXPECT_EQ(Count("x\u1D65\u0323 x\u1D65"), "x\u1D65\u0323*2");
+  EXPECT_EQ(Count("x\uA770\u0323 x\uA770"), "x\uA770\u0323*2");
+  EXPECT_EQ(Count("x\u1D2C\u0323 x\u1D2C"), "x\u1D2C\u0323*2");
+  EXPECT_EQ(Count("x\uAB69\u0323 x\uAB69"), "x\uAB69\u0323*2");
+  EXPECT_EQ(Count("x\u214E\u0323 x\u214E"), "x\u214E\u0323*2");
+  EXPECT_EQ(Count("x\u00B5\u0323 x\u03BC"), "x\u00B5\u0323*2");
+  // Letters of Cyrillic, of no script and of Hebrew among them.
+  EXPECT_EQ(Count("x\u1D78\u0323 x\u1D78"), "x\u1D78 x\u1D78\u0323");
+  EXPECT_EQ(Count("x\uA788\u0323 x\uA788"), "x\uA788 x\uA788\u0323");
+  EXPECT_EQ(Count("x\u2135\u0323 x\u2135"), "x\u2135 x\u2135\u0323");
+}
+
 TEST_F(AllLetters, AccentsMakeADifferenceIfTheyAreToBeKept) {
   KeepAccents();
   EXPECT_EQ(Count("sąd sad SĄD"), "sad sąd*2");

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "support/engine_fixture.h"
+#include "support/made_up_segmenter.h"
 
 namespace quillomat {
 namespace {
@@ -53,6 +54,14 @@ TEST_F(TextExplainer, ShowsWhatRewritingHasMadeOfThem) {
   UseAllLetters();
   EXPECT_EQ(Outline("Cafe\u0301 \uFB01n e\u00ADmail"),
             "Cafe\u0301=caf\u00E9  \uFB01n=fin  e\u00ADmail=email");
+}
+
+TEST_F(TextExplainer, ShowsWhatScriptsWithoutBlanksAreCutInto) {
+  UseAllLetters();
+  EXPECT_EQ(Outline("\u4E2D\u56FDx"), "\u4E2D\u56FDx=\u4E2D\u56FDx");
+  choices.makeSegmenter = MakeMadeUpSegmenter;
+  EXPECT_EQ(Outline("X\u4E2Dy"), "X\u4E2Dy|  X=x  \u4E2D=\u4E2D  y=y");
+  EXPECT_EQ(Explain("X\u4E2Dy")[0].reason, kUnspaced);
 }
 
 TEST_F(TextExplainer, ShowsTheRewrittenTextWhereTheOriginCannotBeTold) {

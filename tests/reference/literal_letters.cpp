@@ -42,20 +42,27 @@ char32_t FoldedCase(char32_t character) {
   return folded.size() == 1 ? folded[0] : LowerCaseOfAll(character);
 }
 
-/// Of a letter, by the blocks of the two scripts.
+/// Of a letter, by the places of the two scripts; and the micro sign, which folds to one.
 bool IsLatinOrGreek(char32_t letter) {
-  constexpr std::array<std::pair<char32_t, char32_t>, 10> kBlocks = {{{0x0041, 0x02AF},
+  constexpr std::array<std::pair<char32_t, char32_t>, 13> kBlocks = {{{0x0041, 0x02B8},
+                                                                      {0x02E0, 0x02E4},
                                                                       {0x0370, 0x03E1},
                                                                       {0x03F0, 0x03FF},
-                                                                      {0x1D00, 0x1D2A},
-                                                                      {0x1D6B, 0x1D9A},
-                                                                      {0x1E00, 0x1FFF},
+                                                                      {0x1D00, 0x1FFF},
+                                                                      {0x2071, 0x209C},
+                                                                      {0x2132, 0x2132},
+                                                                      {0x214E, 0x2184},
                                                                       {0x2C60, 0x2C7F},
                                                                       {0xA722, 0xA7FF},
-                                                                      {0xAB30, 0xAB6F},
+                                                                      {0xAB30, 0xAB69},
+                                                                      {0x10780, 0x107BA},
                                                                       {0x1DF00, 0x1DFFF}}};
-  constexpr char32_t kCyrillicAmongThem = 0x1D78;
-  if (!IsAnyLetter(letter) || letter == kCyrillicAmongThem) return false;
+  // Two letters of Cyrillic and an accent.
+  constexpr std::array<char32_t, 3> kOthersAmongThem = {0x1D2B, 0x1D78, 0xA788};
+  if (!IsAnyLetter(letter)) return false;
+  for (const char32_t other : kOthersAmongThem) {
+    if (letter == other) return false;
+  }
   for (const auto& [first, last] : kBlocks) {
     if (letter >= first && letter <= last) return true;
   }

@@ -1,0 +1,63 @@
+// The system's own knowledge of words in scripts without blanks.
+#include "system/system_segmenter.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace quillomat {
+namespace {
+
+/// With bars where a word begins.
+std::string Cut(std::string_view run) {
+  std::vector<std::size_t> cuts;
+  MakeSystemSegmenter()->FindCuts(run, cuts);
+  std::string cut(run);
+  for (std::size_t i = cuts.size(); i > 0; --i) cut.insert(cuts[i - 1], 1, '|');
+  return cut;
+}
+
+class SystemSegmenter : public testing::Test {
+ protected:
+  void SetUp() override {
+#ifdef _WIN32
+    if (MakeSystemSegmenter() == nullptr) GTEST_SKIP() << "this Windows has no ICU";
+#endif
+    ASSERT_NE(MakeSystemSegmenter(), nullptr);
+  }
+};
+
+// Words that any dictionary has.
+TEST_F(SystemSegmenter, FindsWordsOfScriptsWithoutBlanks) {
+  EXPECT_EQ(Cut("我喜欢手机"), "我|喜欢|手机");
+  EXPECT_EQ(Cut("日本語の文章"), "日本語|の|文章");
+  EXPECT_EQ(Cut("ภาษาไทย"), "ภาษา|ไทย");
+  EXPECT_EQ(Cut("ພາສາລາວ"), "ພາສາ|ລາວ");
+}
+
+TEST_F(SystemSegmenter, PlacesAreThoseOfBytesAlsoBehindTheFirstPlane) {
+  const std::string rare = "\U00020000\U00020001";
+  EXPECT_EQ(Cut("手机" + rare).substr(0, 7), "手机|");
+  const std::string cut = Cut(rare);
+  EXPECT_TRUE(cut == rare || cut == "\U00020000|\U00020001") << cut;
+}
+
+TEST_F(SystemSegmenter, OneOrNoLetterHasNoCut) {
+  EXPECT_EQ(Cut(""), "");
+  EXPECT_EQ(Cut("手"), "手");
+}
+
+TEST_F(SystemSegmenter, FindsTheSameAgainAndInAnyThread) {
+  const std::string expected = Cut("我喜欢手机");
+  std::vector<std::string> found(4);
+  std::vector<std::thread> threads;
+  for (std::string& each : found) {
+    threads.emplace_back([&each] { each = Cut("我喜欢手机"); });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (const std::string& each : found) EXPECT_EQ(each, expected);
+}
+
+}  // namespace
+}  // namespace quillomat
