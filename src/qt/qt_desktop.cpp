@@ -9,6 +9,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 #include <mutex>
@@ -101,6 +102,20 @@ void SetUpDialog(QFileDialog& shown, const FileDialog& dialog) {
   shown.selectFile(ToQt(dialog.fileName));
 }
 
+/// Enter presses the default command: Cancel, until the answer is another one.
+void KeepFromLosing(QInputDialog& shown) {
+  auto* buttons = shown.findChild<QDialogButtonBox*>();
+  if (buttons == nullptr) return;
+  QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
+  QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
+  if (ok == nullptr || cancel == nullptr) return;
+  cancel->setDefault(true);
+  QObject::connect(&shown, &QInputDialog::textValueChanged, ok,
+                   [ok, cancel, unchanged = shown.textValue()](const QString& text) {
+                     (text == unchanged ? cancel : ok)->setDefault(true);
+                   });
+}
+
 bool IsReadOnly(const QString& path) {
   const QFileInfo file(path);
   return file.exists() && !file.isWritable();
@@ -180,6 +195,9 @@ std::string QtDesktop::AskForText(const InputBox& box) {
   shown.setWindowTitle(ToQt(box.title));
   shown.setLabelText(ToQtLines(box.prompt));
   shown.setTextValue(ToQt(box.defaultAnswer));
+  if (!box.okCaption.empty()) shown.setOkButtonText(ToQt(box.okCaption));
+  if (!box.cancelCaption.empty()) shown.setCancelButtonText(ToQt(box.cancelCaption));
+  if (box.okLoses) KeepFromLosing(shown);
   constexpr int kWidth = 480;
   shown.resize(kWidth, shown.sizeHint().height());
   return shown.exec() == QDialog::Accepted ? FromQt(shown.textValue()) : std::string();

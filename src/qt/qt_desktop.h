@@ -7,6 +7,7 @@
 #include <memory>
 #include <utility>
 
+#include "qt/box_guard.h"
 #include "qt/list_table.h"
 #include "ui/desktop.h"
 
@@ -53,6 +54,7 @@ class QtDesktop final : public Desktop {
   /// Carries calls from other threads into that of the desktop, as long as there is one.
   struct CallsFromThreads;
 
+  BoxGuard guard_;
   std::function<void()> showChanges_;
   CellSource cells_;
   QPointer<QWidget> window_;

@@ -227,8 +227,12 @@ inline constexpr int kExportFailedText = 758;
 inline constexpr int kExportDoneText = 759;
 inline constexpr int kExportStoppedText = 760;
 inline constexpr int kExportProgressText = 761;
-/// The last line of the question about a file that exists.
-inline constexpr int kCancelExportText = 762;
+/// The question about a file that exists, and its title.
+inline constexpr int kOverwriteExportText = 762;
+inline constexpr int kExportFileExistsText = 763;
+/// The same as kExportFailedText and kExportStoppedText where there was no file before.
+inline constexpr int kNothingExportedText = 764;
+inline constexpr int kExportStoppedAtNothingText = 765;
 
 // Texts of the bar that finds a word in the list.
 inline constexpr int kFindText = 530;
@@ -253,6 +257,7 @@ inline constexpr int kProgressText = 550;
 inline constexpr int kFileOfFilesText = 551;
 /// "%1" stands for what is read in a second, "%2" for the time that is left.
 inline constexpr int kPaceText = 552;
+inline constexpr int kAlmostDoneText = 553;
 
 // The button that folds the settings away.
 inline constexpr int kHideSettingsText = 560;

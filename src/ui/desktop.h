@@ -46,6 +46,11 @@ struct InputBox {
   std::string title;
   std::string prompt;
   std::string defaultAnswer;
+  /// What the box says of its commands; "" leaves that to the desktop.
+  std::string okCaption = {};
+  std::string cancelCaption = {};
+  /// OK on the default answer loses something: Enter is Cancel until the user has changed it.
+  bool okLoses = false;
 
   bool operator==(const InputBox&) const = default;
 };

@@ -100,7 +100,8 @@ TEST_F(ExportWindowTest, ExistingFileIsAskedAbout) {
   ExportTo(Target("list.csv"));
   EXPECT_EQ(ContentsOf(Target("list.csv")), "precious");
   ASSERT_EQ(desktop.InputBoxes().size(), 1U);
-  EXPECT_EQ(desktop.InputBoxes()[0].title, "The output file exists.");
+  EXPECT_EQ(desktop.InputBoxes()[0].title, "The file exists.");
+  EXPECT_TRUE(desktop.InputBoxes()[0].okLoses);
   EXPECT_EQ(desktop.InputBoxes()[0].defaultAnswer, Target("list.csv"));
   // Another one that exists is asked about, too.
   static_cast<void>(folder.Write("out/other.csv", "dear"));

@@ -32,9 +32,90 @@ class QtDesktopTest : public testing::Test {
     timer->start(5);
   }
 
+  /// Until a box may be answered by keys.
+  static void WaitForKeys() { QTest::qWait(static_cast<int>((2 * BoxGuard::kPause).count())); }
+
+  /// As a key that is held down repeats itself.
+  static void Repeat(QWidget& box, Qt::Key key) {
+    QTest::simulateEvent(&box, true, key, Qt::NoModifier, QString(), true);
+  }
+
   TemporaryFolder folder;
   QtDesktop desktop;
 };
+
+TEST_F(QtDesktopTest, KeyThatIsHeldAnswersNoBox) {
+  WithDialog<QMessageBox>([](QMessageBox& box) {
+    WaitForKeys();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
+      Repeat(box, key);
+      Repeat(*box.button(QMessageBox::No), key);
+      EXPECT_TRUE(box.isVisible());
+    }
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
+            MessageAnswer::kYes);
+  WithDialog<QInputDialog>([](QInputDialog& box) {
+    WaitForKeys();
+    auto& line = *box.findChild<QLineEdit*>();
+    Repeat(line, Qt::Key_Return);
+    EXPECT_TRUE(box.isVisible());
+    line.clear();
+    QTest::simulateEvent(&line, true, Qt::Key_A, Qt::NoModifier, "a", true);
+    QTest::keyClick(&line, Qt::Key_Return);
+  });
+  EXPECT_EQ(desktop.AskForText({"Title", "Text", "/here"}), "a") << "letters may be held";
+}
+
+TEST_F(QtDesktopTest, KeyOfTheMomentBeforeABoxDoesNotAnswerIt) {
+  QWidget window;
+  window.show();
+  QTest::keyPress(&window, Qt::Key_Return);
+  WithDialog<QMessageBox>([](QMessageBox& box) {
+    QEvent comes(QEvent::WindowActivate);
+    QApplication::sendEvent(&box, &comes);
+    QTest::keyClick(&box, Qt::Key_Escape);
+    QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(box.isVisible()) << "so soon";
+    WaitForKeys();
+    QTest::keyPress(&box, Qt::Key_Return);
+    EXPECT_TRUE(box.isVisible()) << "it went down before the box came";
+    QTest::keyRelease(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_FALSE(box.isVisible());
+  });
+  EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
+            MessageAnswer::kYes);
+}
+
+TEST_F(QtDesktopTest, EnterIsCancelWhereOkWouldLoseSomethingUntilTheAnswerIsAnother) {
+  InputBox box{"Title", "Text", "/here"};
+  box.okCaption = "Go";
+  box.cancelCaption = "Leave";
+  box.okLoses = true;
+  const auto enter = [](QInputDialog& shown) {
+    WaitForKeys();
+    QTest::keyClick(shown.findChild<QLineEdit*>(), Qt::Key_Return);
+  };
+  WithDialog<QInputDialog>([enter](QInputDialog& shown) {
+    EXPECT_EQ(shown.okButtonText(), "Go");
+    EXPECT_EQ(shown.cancelButtonText(), "Leave");
+    enter(shown);
+  });
+  EXPECT_EQ(desktop.AskForText(box), "");
+  WithDialog<QInputDialog>([enter](QInputDialog& shown) {
+    shown.setTextValue("/there");
+    enter(shown);
+  });
+  EXPECT_EQ(desktop.AskForText(box), "/there");
+  WithDialog<QInputDialog>([](QInputDialog& shown) {
+    WaitForKeys();
+    QTest::keyClick(shown.findChild<QLineEdit*>(), Qt::Key_Tab);
+    QTest::keyClick(shown.focusWidget(), Qt::Key_Return);
+  });
+  EXPECT_EQ(desktop.AskForText(box), "/here") << "with the keyboard on it, OK is OK";
+}
 
 TEST_F(QtDesktopTest, BoxShowsWhatItIsToldAndGivesTheAnswer) {
   for (const auto& [button, answer] : {std::pair(QMessageBox::Yes, MessageAnswer::kYes),
@@ -53,7 +134,10 @@ TEST_F(QtDesktopTest, BoxShowsWhatItIsToldAndGivesTheAnswer) {
 }
 
 TEST_F(QtDesktopTest, EscapeIsCancelOrNoOrOk) {
-  const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+  const auto escape = [](QMessageBox& box) {
+    WaitForKeys();
+    QTest::keyClick(&box, Qt::Key_Escape);
+  };
   for (const auto& [buttons, answer] : {std::pair(MessageButtons::kOk, MessageAnswer::kOk),
                                         {MessageButtons::kOkCancel, MessageAnswer::kCancel},
                                         {MessageButtons::kYesNo, MessageAnswer::kNo},

@@ -15,8 +15,10 @@ std::string PaceText(const Progress& progress, const ProgramText& text) {
   const BytesDone bytes{progress.done, progress.whole};
   const std::optional<double> left = SecondsLeft(bytes, progress.elapsed);
   if (!left) return {};
-  return Filled(text.GetText(kPaceText),
-                {AmountText(BytesPerSecond(bytes, progress.elapsed)), ClockText(*left)});
+  const std::string pace = AmountText(BytesPerSecond(bytes, progress.elapsed));
+  const std::string clock = ClockText(*left);
+  if (clock == ClockText(0)) return Filled(text.GetText(kAlmostDoneText), {pace});
+  return Filled(text.GetText(kPaceText), {pace, clock});
 }
 
 }  // namespace quillomat

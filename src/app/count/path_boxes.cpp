@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "app/list/set_the_focus.h"
-#include "base/text_helpers.h"
 #include "system/file_system.h"
 #include "system/paths.h"
+#include "system/typed_path.h"
 
 namespace quillomat {
 namespace {
@@ -28,7 +28,7 @@ std::string PathBoxes::UsualFolder() {
 
 std::string PathBoxes::FolderToOpen(const TextBox& box) {
   const std::string usual = UsualFolder();
-  const std::string named = NearestFolder(FullPathIn(usual, std::string(TrimBlanks(box.Text()))));
+  const std::string named = NearestFolder(PathFromTyped(usual, box.Text()));
   return named.empty() ? usual : named;
 }
 
@@ -62,9 +62,8 @@ void PathBoxes::ChooseOutputFile(MainForm& frmMain) {
 
 void PathBoxes::CompletePathIn(TextBox& box) {
   const std::string usual = UsualFolder();
-  const std::string path(TrimBlanks(box.Text()));
-  if (usual.empty() || path.empty()) return;
-  const std::string full = FullPathIn(usual, path);
+  const std::string full = usual.empty() ? usual : PathFromTyped(usual, box.Text());
+  if (full.empty()) return;
   if (full != box.Text()) box.SetText(full);
   RememberFolderOf(full);
 }

@@ -27,8 +27,8 @@ class PathBoxes {
   void ChooseOutputFile(MainForm& frmMain);
 
   /// A path that starts at no root becomes a full one, in the folder used last, else in the user's
-  /// documents: the program's current folder means nothing to the user. Blanks round it are
-  /// dropped. To be called when the box is left.
+  /// documents: the program's current folder means nothing to the user. What else a person writes
+  /// for a path is understood, too (PathFromTyped). To be called when the box is left.
   void CompletePathIn(TextBox& box);
 
   /// The user has chosen or named this file or folder: the next dialog opens in the folder where it

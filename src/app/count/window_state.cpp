@@ -34,6 +34,7 @@ WindowControls::WindowControls(MainForm& frmMain, ParamsForm& frmParams, const P
 void WindowControls::SetClipboardViewer(std::string path) {
   clipboardViewer_ = std::move(path);
   frmMain_.cmdClipboardViewer.SetEnabled(!clipboardViewer_.empty());
+  frmMain_.cmdClipboardViewer.SetVisible(!clipboardViewer_.empty());
 }
 
 /// Only what changes is touched: enabling the commands moves the focus.

@@ -255,7 +255,8 @@ bool ExportWindow::AskToOverwrite() {
   if (!frmParams_.chkWarnOnOverwrite.IsChecked()) return true;
   std::string agreed;
   while (txbFile.Text() != agreed && HoldsSomething(txbFile.Text())) {
-    const InputBox box = OverwriteQuestion(txbFile.Text(), Text(kCancelExportText));
+    InputBox box{Text(kExportFileExistsText), Text(kOverwriteExportText), txbFile.Text()};
+    box.okLoses = true;
     const std::string answer(TrimBlanks(desktop_.AskForText(box)));
     if (answer.empty()) return false;
     agreed = txbFile.Text();
@@ -269,6 +270,7 @@ void ExportWindow::Write(const ExportWish& wish) {
   const std::string path = frmExport_.txbFile.Text();
   ExportOutcome outcome;
   std::string words;
+  const bool existed = FileExists(path);
   {
     const PhaseGuard guard(run_, RunPhase::kExporting);
     ShowRunning(true);
@@ -290,9 +292,11 @@ void ExportWindow::Write(const ExportWish& wish) {
   run_.ForgetStop();
   frmExport_.lblState.SetCaption("");
   if (outcome.end == ExportOutcome::End::kFailed) {
-    Complain(Text(kExportFailedText, {path, outcome.error}), frmExport_.txbFile);
+    Complain(Text(existed ? kExportFailedText : kNothingExportedText, {path, outcome.error}),
+             frmExport_.txbFile);
   } else if (outcome.end == ExportOutcome::End::kStopped) {
-    frmExport_.lblState.SetCaption(Text(kExportStoppedText, {path}));
+    frmExport_.lblState.SetCaption(
+        Text(existed ? kExportStoppedText : kExportStoppedAtNothingText, {path}));
   } else {
     frmExport_.lblState.SetCaption(Text(kExportDoneText, {path, words}));
   }

@@ -21,13 +21,16 @@ void RefuseOutputFile(const Messages& messages, NeededAs neededAs) {
   }
 }
 
-InputBox OverwriteQuestion(const std::string& path, const std::string& cancelText) {
+InputBox OverwriteQuestion(const std::string& path) {
   InputBox box;
   box.title = kOverwriteTitle;
   box.prompt = "To overwrite the current output file click on 'OK'." + std::string(kCrLf) +
                "To write to a different file edit the filepath below." + std::string(kCrLf) +
-               cancelText;
+               "To disable file output click on 'Cancel'.";
   box.defaultAnswer = path;
+  box.okCaption = "OK";
+  box.cancelCaption = "Cancel";
+  box.okLoses = true;
   return box;
 }
 

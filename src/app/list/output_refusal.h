@@ -15,8 +15,8 @@ void RefuseOutputFile(const Messages& messages, NeededAs neededAs);
 /// The title of OverwriteQuestion.
 inline constexpr std::string_view kOverwriteTitle = "The output file exists.";
 
-/// Whether the file at `path` may be overwritten, or which one is written instead. `cancelText` is
-/// the line that says what "Cancel" does.
-[[nodiscard]] InputBox OverwriteQuestion(const std::string& path, const std::string& cancelText);
+/// Whether the output file at `path` may be overwritten, or which one is written instead. All of it
+/// is English, as its text is, which names its commands.
+[[nodiscard]] InputBox OverwriteQuestion(const std::string& path);
 
 }  // namespace quillomat

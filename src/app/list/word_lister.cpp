@@ -14,6 +14,7 @@
 #include "system/file_system.h"
 #include "system/output_file.h"
 #include "system/paths.h"
+#include "system/typed_path.h"
 
 namespace quillomat {
 namespace {
@@ -97,17 +98,15 @@ void WordLister::RemoveLastComma() {
 /// A bare name is meant to stand beside the file that is there, unless paths count from the current
 /// folder.
 std::string WordLister::InOutputFolder(std::string_view path) const {
-  std::string answer(path);
-  if (desktop_.DocumentsFolder().empty()) return answer;
-  return FullPathIn(FolderPartOf(frmMain_.txbFile[1].Text()), answer);
+  if (desktop_.DocumentsFolder().empty()) return std::string(TrimBlanks(path));
+  return PathFromTyped(FolderPartOf(frmMain_.txbFile[1].Text()), path);
 }
 
 bool WordLister::AskToOverwrite() {
   TextBox& txbPath = frmMain_.txbFile[1];
   if (!frmParams_.chkWarnOnOverwrite.IsChecked() || !HoldsSomething(txbPath.Text())) return true;
-  const InputBox box =
-      OverwriteQuestion(txbPath.Text(), "To disable file output click on 'Cancel'.");
-  const std::string path = PathForWalk(InOutputFolder(TrimBlanks(desktop_.AskForText(box))));
+  const InputBox box = OverwriteQuestion(txbPath.Text());
+  const std::string path = PathForWalk(InOutputFolder(desktop_.AskForText(box)));
   if (!path.empty()) {
     const std::string folder = FolderPartOf(path);
     if (folder.empty() || FolderExists(folder)) {

@@ -164,6 +164,10 @@ TEST_F(OutputFileTest, AnExistingFileIsAskedAbout) {
             "To write to a different file edit the filepath below.\r\n"
             "To disable file output click on 'Cancel'.");
   EXPECT_EQ(box.defaultAnswer, path);
+  // Its text names its commands, in whichever language the window is.
+  EXPECT_EQ(box.okCaption, "OK");
+  EXPECT_EQ(box.cancelCaption, "Cancel");
+  EXPECT_TRUE(box.okLoses);
 }
 
 TEST_F(OutputFileTest, OkOnTheUnchangedPathOverwrites) {

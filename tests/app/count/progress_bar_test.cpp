@@ -37,6 +37,7 @@ TEST_F(SourcesFixture, PaceIsToldWhenItIsKnown) {
     return PaceText({done, whole, 0, 0, std::chrono::milliseconds(milliseconds)}, program.Text());
   };
   EXPECT_EQ(pace(500'000'000, 2'000'000'000, 2000), "250 MB/s, 0:06 left");
+  EXPECT_EQ(pace(1'999'000'000, 2'000'000'000, 8000), "250 MB/s, almost done");
   EXPECT_EQ(pace(500'000'000, 2'000'000'000, 900), "") << "too early to tell";
   EXPECT_EQ(pace(0, 2'000'000'000, 2000), "");
   EXPECT_EQ(pace(500'000'000, 0, 2000), "");

@@ -1,0 +1,74 @@
+#include "qt/box_guard.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QWidget>
+
+namespace quillomat {
+namespace {
+
+/// The box that takes the keys; null while another kind of window does.
+QDialog* BoxInFront() {
+  if (QApplication::activePopupWidget() != nullptr) return nullptr;
+  return qobject_cast<QDialog*>(QApplication::activeModalWidget());
+}
+
+bool IsWrittenInto(const QDialog& box) {
+  const QWidget* focused = box.focusWidget();
+  return qobject_cast<const QLineEdit*>(focused) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(focused) != nullptr;
+}
+
+}  // namespace
+
+BoxGuard::BoxGuard() {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool BoxGuard::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::WindowActivate:
+      if (qobject_cast<QDialog*>(watched) != nullptr) open_ = Clock::now() + kPause;
+      return false;
+    case QEvent::ShortcutOverride: {
+      const auto& key = static_cast<QKeyEvent&>(*event);
+      NotePress(key);
+      shortcutMayAnswer_ = MayAnswer(key);
+      return false;
+    }
+    case QEvent::KeyPress:
+      NotePress(static_cast<QKeyEvent&>(*event));
+      return KeepsAway(static_cast<QKeyEvent&>(*event));
+    case QEvent::Shortcut:
+      return BoxInFront() != nullptr && (!shortcutMayAnswer_ || Clock::now() < open_);
+    case QEvent::KeyRelease:
+      if (const auto& key = static_cast<QKeyEvent&>(*event); !key.isAutoRepeat())
+        down_.remove(key.key());
+      return false;
+    default:
+      return false;
+  }
+}
+
+/// A press is told several times on its way from the window to the widget, and is still the first.
+void BoxGuard::NotePress(const QKeyEvent& key) {
+  if (!key.isAutoRepeat() && !down_.contains(key.key())) down_.insert(key.key(), Clock::now());
+}
+
+bool BoxGuard::MayAnswer(const QKeyEvent& key) const {
+  if (key.isAutoRepeat()) return false;
+  return down_.value(key.key(), Clock::now()) >= open_;
+}
+
+bool BoxGuard::KeepsAway(const QKeyEvent& key) const {
+  const QDialog* box = BoxInFront();
+  if (box == nullptr) return false;
+  const bool answers = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+                       key.key() == Qt::Key_Escape || !IsWrittenInto(*box);
+  return answers && !MayAnswer(key);
+}
+
+}  // namespace quillomat

@@ -1,0 +1,42 @@
+// Keeps keys that were not meant for a box from answering it: one that is held down and repeats
+// itself, one that went down before the box was there, and one that comes so soon after it that
+// nobody can have read it. What is typed into a box of text goes there all the same; only Enter and
+// Escape are kept from that.
+//
+// It watches all boxes of the program, also those that the toolkit opens over its own.
+#pragma once
+
+#include <QHash>
+#include <QKeyEvent>
+#include <QObject>
+#include <chrono>
+
+namespace quillomat {
+
+class BoxGuard final : public QObject {
+ public:
+  /// As long as it lives, which is within that of the application.
+  BoxGuard();
+
+  /// A box is answered by no key before it has stood, and had the keyboard, for so long.
+  static constexpr std::chrono::milliseconds kPause{250};
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  void NotePress(const QKeyEvent& key);
+  [[nodiscard]] bool MayAnswer(const QKeyEvent& key) const;
+  [[nodiscard]] bool KeepsAway(const QKeyEvent& key) const;
+
+  /// Keys that went down from then on may answer the box in front.
+  Clock::time_point open_;
+  /// The keys that are down, by when they went down.
+  QHash<int, Clock::time_point> down_;
+  /// Of the key whose letter a command of the box may take.
+  bool shortcutMayAnswer_ = true;
+};
+
+}  // namespace quillomat
