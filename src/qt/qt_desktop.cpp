@@ -197,9 +197,9 @@ std::string QtDesktop::AskForText(const InputBox& box) {
   shown.setTextValue(ToQt(box.defaultAnswer));
   if (!box.okCaption.empty()) shown.setOkButtonText(ToQt(box.okCaption));
   if (!box.cancelCaption.empty()) shown.setCancelButtonText(ToQt(box.cancelCaption));
-  if (box.okLoses) KeepFromLosing(shown);
   constexpr int kWidth = 480;
   shown.resize(kWidth, shown.sizeHint().height());
+  if (box.okLoses) KeepFromLosing(shown);  // the size is known, so its parts are there
   return shown.exec() == QDialog::Accepted ? FromQt(shown.textValue()) : std::string();
 }
 

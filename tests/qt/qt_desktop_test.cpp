@@ -104,6 +104,10 @@ TEST_F(QtDesktopTest, EnterIsCancelWhereOkWouldLoseSomethingUntilTheAnswerIsAnot
     enter(shown);
   });
   EXPECT_EQ(desktop.AskForText(box), "");
+  box.okCaption.clear();
+  box.cancelCaption.clear();
+  WithDialog<QInputDialog>(enter);
+  EXPECT_EQ(desktop.AskForText(box), "");
   WithDialog<QInputDialog>([enter](QInputDialog& shown) {
     shown.setTextValue("/there");
     enter(shown);
