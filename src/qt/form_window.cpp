@@ -143,10 +143,13 @@ void FormWindow::ShowCaptions() {
   }
   std::ranges::stable_sort(bindings, {}, AccessRank);
   QList<QString> captions;
+  if (ownCaptions.captions) captions = ownCaptions.captions();
+  const qsizetype own = captions.size();
   for (const WidgetBinding* binding : bindings) captions.append(binding->Caption());
   const QList<QString> shown = mnemonics_.Assign(captions);
+  if (ownCaptions.show) ownCaptions.show(shown.first(own));
   for (std::size_t i = 0; i < bindings.size(); ++i) {
-    bindings[i]->SetShownCaption(shown[static_cast<qsizetype>(i)]);
+    bindings[i]->SetShownCaption(shown[own + static_cast<qsizetype>(i)]);
   }
 }
 

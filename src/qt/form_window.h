@@ -42,6 +42,13 @@ class FormWindow : public QWidget {
   std::function<void()> onActivated;
 
  protected:
+  /// Captions that are no control's. They choose their letters before all others.
+  struct OwnCaptions {
+    std::function<QList<QString>()> captions;
+    std::function<void(const QList<QString>& shown)> show;
+  };
+  OwnCaptions ownCaptions;
+
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;

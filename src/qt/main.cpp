@@ -8,6 +8,7 @@
 
 #include "base/version.h"
 #include "engine/kernel_choice.h"
+#include "qt/clear_boxes.h"
 #include "qt/program_windows.h"
 #include "qt/text_conversion.h"
 #include "system/file_system.h"
@@ -89,6 +90,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(ToQt(VersionText()));
     QApplication::setDesktopFileName(QStringLiteral("quillomat"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new ClearBoxes);  // which it takes over
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillomat.png")));
     return RunOnDesktop(application);
   } catch (const std::exception& error) {

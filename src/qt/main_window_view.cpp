@@ -62,7 +62,9 @@ MainWindowView::MainWindowView(Program& program)
       table_(new TablePage(program)),
       statistics_(new StatisticsPage(program)),
       files_(new FilesPage(program)),
-      fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)) {
+      fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)),
+      foldedRun_(new FoldedRun(*ui_)),
+      quitLetter_(new QShortcut(this)) {
   setAcceptDrops(true);
   MakeRowsFlow(*this);
   ui_->splitter->setStretchFactor(1, 1);  // a wider window is for the list
@@ -116,6 +118,21 @@ void MainWindowView::PlaceViews() {
   setTabOrder(ui_->cmdExport, ui_->cmdClearOutput);
   setTabOrder(ui_->cmdClearOutput, ui_->cmdClipboardViewer);
   ConnectViews();
+  ConnectFold();
+}
+
+void MainWindowView::ConnectFold() {
+  ownCaptions = {[this] { return views_->Titles(); },
+                 [this](const QList<QString>& shown) {
+                   views_->ShowTitles(shown);
+                   // Later, when all letters are chosen.
+                   QTimer::singleShot(0, this, [this] { ShowQuitLetter(); });
+                 }};
+  connect(fold_, &SettingsFold::toggled, this, [this](bool folded) {
+    foldedRun_->Follow(folded);
+    ShowQuitLetter();
+    ShowProgress();
+  });
   // Later, when what was folded has been laid out.
   connect(
       fold_, &SettingsFold::toggled, this,
@@ -123,6 +140,12 @@ void MainWindowView::PlaceViews() {
         if (std::exchange(fitsWhenUnfolded_, false)) FitSettings();
       },
       Qt::QueuedConnection);
+}
+
+/// The toolkit passes over the letter of what is hidden.
+void MainWindowView::ShowQuitLetter() {
+  quitLetter_->setKey(fold_->IsFolded() ? QKeySequence::mnemonic(ui_->cmdQuit->text())
+                                        : QKeySequence());
 }
 
 /// The notices speak of the view in front, "Copy to clipboard" copies it, and exports are of what
@@ -164,7 +187,7 @@ void MainWindowView::PlaceNotices() {
 void MainWindowView::PlaceNoticeStrip() {
   static_cast<QVBoxLayout*>(ui_->paneResult->layout())->insertWidget(0, noticeStrip_);
   QWidget* before = ui_->cmdQuit;
-  for (QPushButton* command : noticeStrip_->Commands()) {
+  for (QAbstractButton* command : noticeStrip_->Commands()) {
     setTabOrder(before, command);
     before = command;
   }
@@ -207,12 +230,16 @@ void MainWindowView::SetTexts(const ProgramText& text) {
   files_->SetTexts(text);
   fold_->SetTexts(text);
   fileOfFiles_ = ToQt(text.GetText(kFileOfFilesText));
-  noticeStrip_->SetDismissName(ToQt(text.GetText(kDismissNoticeText)));
+  noticeStrip_->SetNames(ToQt(text.GetText(kNoticeCommandsText)),
+                         ToQt(text.GetText(kDismissNoticeText)));
   ui_->barProgress->setAccessibleName(ToQt(text.GetText(kProgressText)));
   ShowProgress();
-  // Later, when the captions stand.
+  // Later, when all captions are set.
   QTimer::singleShot(0, this, [this] {
+    ShowChanges();
     AlignLabels();
+    // What holds a caption wants another width when it has been laid out anew, and so on outwards.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     FitSettings();
   });
 }
@@ -292,6 +319,11 @@ void MainWindowView::ConnectKeys() {
     // The focus stays where it is.
     if (frmMain.cmdHelp.Enabled()) frmMain.cmdHelp.Click.Fire();
   };
+  auto* quitKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
+  quitKey->setContext(Qt::ApplicationShortcut);
+  for (const QShortcut* quit : {quitKey, quitLetter_}) {
+    connect(quit, &QShortcut::activated, this, [&frmMain] { frmMain.cmdQuit.PerformClick(); });
+  }
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
           [this] { views_->Find(); });
   const auto findAgain = [this](QKeySequence::StandardKey key, auto find) {

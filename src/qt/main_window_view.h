@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QShortcut>
 #include <array>
 #include <functional>
 #include <memory>
@@ -11,6 +12,7 @@
 #include "qt/accessible_names.h"
 #include "qt/files_page.h"
 #include "qt/find_bar.h"
+#include "qt/folded_run.h"
 #include "qt/form_window.h"
 #include "qt/list_view.h"
 #include "qt/notice_strip.h"
@@ -63,6 +65,8 @@ class MainWindowView final : public FormWindow {
   void PlaceNoticeStrip();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;
   void ShowNoticesInWindowFont();
+  void ConnectFold();
+  void ShowQuitLetter();
   void ConnectKeys();
   void ConnectZoom();
   void AlignLabels();
@@ -82,6 +86,9 @@ class MainWindowView final : public FormWindow {
   StatisticsPage* statistics_;
   FilesPage* files_;
   SettingsFold* fold_;
+  FoldedRun* foldedRun_;
+  /// The letter of the quit command, where that is folded away.
+  QShortcut* quitLetter_;
   /// The settings were folded when they should have got their width.
   bool fitsWhenUnfolded_ = false;
   /// Since a count has listed its words, and nobody has been told.

@@ -1,9 +1,12 @@
 // The line above the list: a notice and its commands on a quiet tint of the desktop's colours. As
-// high as its commands, and not there at all while there is nothing to say.
+// high as its commands; while there is nothing to say its place stays empty, so that nothing jumps.
+// Where the notice has no room beside its commands, these make room and stand in a menu.
 #pragma once
 
 #include <QFrame>
+#include <QMenu>
 #include <QPushButton>
+#include <QToolButton>
 #include <array>
 
 #include "qt/elided_label.h"
@@ -17,17 +20,30 @@ class NoticeStrip final : public QFrame {
 
   /// A screen reader reads it out.
   void AnnounceNotice();
-  /// What the command is called whose caption is a mere sign.
-  void SetDismissName(const QString& name) { dismiss_->setAccessibleName(name); }
+  /// What the commands are called whose captions are mere signs: the menu and the one that closes.
+  void SetNames(const QString& more, const QString& dismiss);
   /// Its commands in the order in which the Tab key goes through them.
-  [[nodiscard]] std::array<QPushButton*, 3> Commands() const;
+  [[nodiscard]] std::array<QAbstractButton*, 4> Commands() const;
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Fit();
+  [[nodiscard]] int WidthOfAll() const;
+  void FillMenu();
+
   ElidedLabel* notice_;
+  /// Holds the actions, so that they can be hidden whatever their controls say.
+  QWidget* commands_;
   std::array<QPushButton*, 2> actions_;
+  QToolButton* more_;
+  QMenu menu_;
   QPushButton* dismiss_;
   QString announced_;
 };

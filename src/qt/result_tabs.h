@@ -27,6 +27,9 @@ class ResultTabs final : public QTabWidget {
 
   /// The titles in the current language.
   void SetTexts(const ProgramText& text);
+  [[nodiscard]] QList<QString> Titles() const;
+  /// How they are written, with the letters that lead to them.
+  void ShowTitles(const QList<QString>& shown);
 
   /// The key of the view in front, and which that is; a key that is unknown changes nothing.
   [[nodiscard]] QString Current() const;
@@ -38,8 +41,11 @@ class ResultTabs final : public QTabWidget {
   [[nodiscard]] bool Copy() const;
 
  private:
+  void GoOn(int step);
+
   struct View {
     QString key;
+    QString title;
     int titleText = 0;
     Uses uses;
   };

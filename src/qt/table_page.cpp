@@ -36,11 +36,13 @@ TablePage::TablePage(Program& program, QWidget* parent)
   table_.Changed.Connect([this] {
     if (isVisible()) ShowTotals();
   });
+  program.BecameIdle.Connect([this] { ShowHint(); });
 }
 
 TablePage::~TablePage() {
   // Members, which the page must not delete as its children.
-  for (QWidget* part : std::array<QWidget*, 5>{&view_, &label_, &words_, &kind_, &totals_}) {
+  for (QWidget* part :
+       std::array<QWidget*, 6>{&hint_, &view_, &label_, &words_, &kind_, &totals_}) {
     part->setParent(nullptr);
   }
 }
@@ -54,7 +56,12 @@ void TablePage::PlaceParts() {
     row->addWidget(part);
   }
   lines->addWidget(&view_, 1);
+  auto* middle = new QVBoxLayout(view_.viewport());
+  middle->addWidget(&hint_);
+  hint_.setAlignment(Qt::AlignCenter);
+  hint_.setWordWrap(true);
   words_.setMinimumWidth(kShortestBox);
+  kind_.setSizeAdjustPolicy(QComboBox::AdjustToContents);  // in every language
   label_.setBuddy(&words_);
   setFocusProxy(&view_);
   setTabOrder(&words_, &kind_);
@@ -70,6 +77,7 @@ void TablePage::SetTexts(const ProgramText& text) {
     kind_.setItemText(kind, ToQt(text.GetText(kFirstFilterKindText + kind)));
   }
   view_.SetTexts(text);
+  hint_.setText(ToQt(text.GetText(kNoTableYetText)));
   ShowTotals();
 }
 
@@ -86,6 +94,11 @@ void TablePage::TakeFilter() {
 
 void TablePage::ShowTotals() {
   totals_.setText(TotalsText());
+  ShowHint();
+}
+
+void TablePage::ShowHint() {
+  hint_.setVisible(table_.Rows() == nullptr && !program_.State().Busy());
 }
 
 QString TablePage::TotalsText() {

@@ -40,6 +40,7 @@ class TablePage final : public QWidget {
   void PlaceParts();
   void TakeFilter();
   void ShowTotals();
+  void ShowHint();
   [[nodiscard]] QString TotalsText();
 
   Program& program_;
@@ -51,6 +52,8 @@ class TablePage final : public QWidget {
   QComboBox kind_;
   /// "37 words, 1,204 instances", or what is wrong with the filter.
   QLabel totals_;
+  /// In the middle of the table while no words have been counted.
+  QLabel hint_;
 };
 
 }  // namespace quillomat

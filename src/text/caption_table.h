@@ -281,6 +281,7 @@ inline constexpr int kExpressionFaultText = 624;
 inline constexpr int kFirstColumnText = 630;
 inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
+inline constexpr int kNoTableYetText = 643;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 
@@ -334,6 +335,8 @@ inline constexpr int kChangeText = 717;
 inline constexpr int kCountThemText = 718;
 inline constexpr int kExportText = 719;
 inline constexpr int kDismissNoticeText = 720;
+/// Where its commands have no room and stand in a menu.
+inline constexpr int kNoticeCommandsText = 724;
 /// What the list of skipped files is called, and its last line when not all are known by name.
 inline constexpr int kSkippedTitleText = 721;
 inline constexpr int kMoreSkippedText = 722;

@@ -138,7 +138,7 @@ TEST_F(Windows, MainWindow) {
                           "word freq no.files", "word file-list", "word file-list (+freq)"));
 }
 
-TEST_F(Windows, OnlyTheClipboardViewerCannotBeUsedAndOnlyNumbersAndTheNoticeAreHidden) {
+TEST_F(Windows, ClipboardViewerIsNotThereWithoutItsProgramAndNumbersAndTheNoticeAreHidden) {
   std::vector<std::string> disabled;
   std::vector<std::string> hidden;
   for (const Control* control : program.frmMain.Controls()) {
@@ -148,7 +148,7 @@ TEST_F(Windows, OnlyTheClipboardViewerCannotBeUsedAndOnlyNumbersAndTheNoticeAreH
   EXPECT_THAT(disabled, ElementsAre("cmdClipboardViewer"));
   EXPECT_THAT(hidden, ElementsAre("lblNotice", "cmdNotice(0)", "cmdNotice(1)", "cmdDismissNotice",
                                   "lblNumberOfWords", "lblNumWordsExcluded", "lblNumOccurrences",
-                                  "lblTotalNumOccurrences"));
+                                  "lblTotalNumOccurrences", "cmdClipboardViewer"));
 }
 
 TEST_F(Windows, Panel) {

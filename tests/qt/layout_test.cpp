@@ -366,6 +366,87 @@ TEST_F(WindowLayout, SettingsAreFoldedByAKeyAndThatIsRemembered) {
   EXPECT_NEAR(again.List().width(), width, 10);
 }
 
+TEST_F(WindowLayout, SettingsGetTheirWidthBackWithTheLanguage) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().resize(1024, 700);
+  user->Settle();
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  const QList<int> english = user->windows.Main().findChild<QSplitter*>()->sizes();
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  EXPECT_GT(user->windows.Main().findChild<QSplitter*>()->sizes()[0], english[0]);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), english);
+}
+
+TEST_F(WindowLayout, CountIsRunAndSeenWhileTheSettingsAreFolded) {
+  ASSERT_TRUE(user->Start());
+  QWidget& main = user->windows.Main();
+  MainForm& frmMain = user->program.frmMain;
+  auto& count = user->WidgetOf<QPushButton>(frmMain.cmdCountWords);
+  auto& bar = *main.findChild<QProgressBar*>("barProgress");
+  const QPoint place = count.mapTo(&main, QPoint(0, 0));
+  for (const QSize size : {QSize(760, 560), QSize(1600, 1000)}) {
+    main.resize(size);
+    user->windows.Main().Fold().SetFolded(true);
+    user->Settle();
+    EXPECT_TRUE(count.isVisible());
+    EXPECT_FALSE(bar.isVisible());
+    frmMain.lblTotalNumOccurrences.SetProgress(Progress{1, 2});
+    user->Settle();
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_GE(bar.width(), 120);
+    ExpectWellLaidOut(main);
+    frmMain.lblTotalNumOccurrences.SetProgress(std::nullopt);
+    count.setFocus();
+    user->windows.Main().Fold().SetFolded(false);
+    user->Settle();
+    EXPECT_TRUE(count.isVisible());
+    EXPECT_TRUE(count.hasFocus());
+    EXPECT_FALSE(bar.isVisible());
+    ExpectWellLaidOut(main);
+  }
+  main.resize(1024, 700);
+  user->Settle();
+  EXPECT_EQ(count.mapTo(&main, QPoint(0, 0)).x(), place.x());
+}
+
+TEST_F(WindowLayout, QuitKeysWorkInEveryLayout) {
+  for (const bool folded : {false, true}) {
+    for (const bool control : {false, true}) {
+      user = std::make_unique<ProgramOnDesktop>();
+      ASSERT_TRUE(user->Start());
+      user->windows.Main().Fold().SetFolded(folded);
+      user->Settle();
+      QTest::keyClick(&user->windows.Main(), Qt::Key_Q,
+                      control ? Qt::ControlModifier : Qt::AltModifier);
+      // A letter shows its command pressed for a moment.
+      EXPECT_TRUE(QTest::qWaitFor([this] { return user->program.HasEnded(); }))
+          << folded << control;
+    }
+  }
+}
+
+TEST_F(WindowLayout, NothingJumpsWhenANoticeComesOrGoes) {
+  ASSERT_TRUE(user->Start());
+  MainForm& frmMain = user->program.frmMain;
+  for (const QSize size : {QSize(760, 560), QSize(1600, 1000)}) {
+    user->windows.Main().resize(size);
+    frmMain.lblNotice.SetVisible(false);
+    user->Settle();
+    const QRect without = user->windows.Main().Views().geometry();
+    frmMain.lblNotice.SetCaption("The text shows 1,770 of 12,586 words.");
+    frmMain.lblNotice.SetVisible(true);
+    frmMain.cmdNotice[0].SetCaption("Export...");
+    frmMain.cmdNotice[0].SetVisible(true);
+    user->Settle();
+    EXPECT_EQ(user->windows.Main().Views().geometry(), without);
+  }
+}
+
 TEST_F(WindowLayout, NoWindowOpensLargerThanItsScreen) {
   ASSERT_TRUE(user->Start());
   user->windows.Main().resize(5000, 5000);

@@ -2,7 +2,9 @@
 #include <QAccessible>
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QPlainTextEdit>
+#include <QToolButton>
 #include <gmock/gmock.h>
 
 #include "window_fixture.h"
@@ -47,6 +49,32 @@ TEST_F(NoticeStripTest, IsNeverHigherThanALineOfCommands) {
   EXPECT_EQ(user->windows.Main().size(), QSize(1024, 700));
 }
 
+TEST_F(NoticeStripTest, CommandsMakeRoomForTheNotice) {
+  Count("the cat");
+  auto& label = user->WidgetOf<QLabel>(frmMain.lblNotice);
+  auto& change = user->WidgetOf<QPushButton>(frmMain.cmdNotice[0]);
+  auto* more = strip.findChild<QToolButton*>();
+  EXPECT_TRUE(change.isVisible());
+  EXPECT_FALSE(more->isVisible());
+  // As wide as the line without its commands.
+  std::string text;
+  while (label.fontMetrics().horizontalAdvance(ToQt(text)) < strip.width() - 60) text += "word ";
+  frmMain.lblNotice.SetCaption(text);
+  user->Settle();
+  EXPECT_FALSE(change.isVisible());
+  ASSERT_TRUE(more->isVisible());
+  EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(label.text()) * 3 / 4);
+  EXPECT_FALSE(more->accessibleName().isEmpty());
+  emit more->menu()->aboutToShow();
+  ASSERT_EQ(more->menu()->actions().size(), 1);
+  more->menu()->actions().constFirst()->trigger();
+  user->Settle();
+  EXPECT_TRUE(user->windows.Panel().isVisible());
+  frmMain.lblNotice.SetCaption("Short.");
+  user->Settle();
+  EXPECT_TRUE(change.isVisible());
+}
+
 TEST_F(NoticeStripTest, CommandsAreReachedByTheKeyboardAndHaveNames) {
   Count("the cat");
   auto& change = user->WidgetOf<QPushButton>(frmMain.cmdNotice[0]);
@@ -70,6 +98,7 @@ TEST_F(NoticeStripTest, ManyLinesAreShownToBeScrolledThrough) {
     EXPECT_EQ(dialog->windowTitle(), "Skipped files");
     shown = dialog->findChild<QPlainTextEdit*>()->toPlainText();
     EXPECT_LE(dialog->height(), 600);
+    QTest::qWait(static_cast<int>((2 * BoxGuard::kPause).count()));
     QTest::keyClick(dialog, Qt::Key_Escape);
   });
   user->desktop.ShowText(lines, "Skipped files");

@@ -2,6 +2,7 @@
 #include <QDir>
 #include <iostream>
 
+#include "qt/clear_boxes.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -158,6 +159,7 @@ int main(int argc, char** argv) {
   using namespace quillomat;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
+  QApplication::setStyle(new ClearBoxes);
   if (argc != 3) {
     std::cerr << "usage: quillomat_pictures FOLDER SAMPLES_FOLDER\n";
     return 2;
