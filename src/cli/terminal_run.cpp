@@ -173,7 +173,7 @@ class TerminalRun {
       return Fail("--output " + path + " is refused; there is no list of " + input_.Name());
     }
     if (!program_.frmParams.chkWarnOnOverwrite.IsChecked() || !HoldsSomething(path)) return true;
-    return !desktop_.AskForText(OverwriteQuestion(path, "")).empty();
+    return !desktop_.AskForText(OverwriteQuestion(path)).empty();
   }
 
   [[nodiscard]] bool WillKnowFiles() const {
