@@ -3,6 +3,8 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QStylePainter>
+#include <QTextLayout>
+#include <QTextOption>
 #include <QToolTip>
 
 namespace quillomat {
@@ -18,12 +20,35 @@ QSize ElidedLabel::sizeHint() const {
   return {kLetters * fontMetrics().averageCharWidth(), fontMetrics().height()};
 }
 
-QString ElidedLabel::ShownText() const {
-  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+QStringList ElidedLabel::ShownLines() const {
+  const QFontMetrics metrics = fontMetrics();
+  const int width = contentsRect().width();
+  const int most = contentsRect().height() / metrics.lineSpacing();
+  QString rest = text();
+  QStringList lines;
+  while (lines.size() + 1 < most && metrics.horizontalAdvance(rest) > width) {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(rest, font());
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(width);
+    layout.endLayout();
+    lines.append(rest.left(line.textLength()).trimmed());
+    rest = rest.mid(line.textLength());
+  }
+  lines.append(metrics.elidedText(rest, Qt::ElideRight, width));
+  return lines;
+}
+
+bool ElidedLabel::IsCut() const {
+  const QString& last = ShownLines().constLast();
+  return !text().endsWith(last);
 }
 
 bool ElidedLabel::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip || ShownText() == text()) return QLabel::event(event);
+  if (event->type() != QEvent::ToolTip || !IsCut()) return QLabel::event(event);
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
   return true;
 }
@@ -31,7 +56,7 @@ bool ElidedLabel::event(QEvent* event) {
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   style()->drawItemText(&painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
-                        isEnabled(), ShownText(), foregroundRole());
+                        isEnabled(), ShownLines().join(QLatin1Char('\n')), foregroundRole());
 }
 
 }  // namespace quillomat

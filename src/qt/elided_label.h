@@ -1,8 +1,10 @@
-// A label of one line that shows as much of its text as there is room for, with dots at the end of
-// what is cut; the tip then shows all of it. A screen reader reads the whole text.
+// A label that shows as much of its text as there is room for, in as many lines as its height has,
+// with dots at the end of what is cut; the tip then shows all of it. A screen reader reads the
+// whole text. It asks for the height of one line only.
 #pragma once
 
 #include <QLabel>
+#include <QStringList>
 
 namespace quillomat {
 
@@ -13,12 +15,14 @@ class ElidedLabel final : public QLabel {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+  [[nodiscard]] bool IsCut() const;
+
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  [[nodiscard]] QString ShownText() const;
+  [[nodiscard]] QStringList ShownLines() const;
 };
 
 }  // namespace quillomat

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <algorithm>
 
 #include "qt/accessible_names.h"
 #include "qt/mixed_color.h"
@@ -49,7 +50,7 @@ NoticeStrip::NoticeStrip(QWidget* parent)
   setSizePolicy(policy);
   notice_->setObjectName(QStringLiteral("lblNotice"));
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(2 * kPadding, kPadding / 2, kPadding, kPadding / 2);
+  row->setContentsMargins(2 * kPadding, 1, kPadding, 1);
   row->addWidget(notice_, 1);
   row->addWidget(commands_);
   row->addWidget(more_);
@@ -100,10 +101,12 @@ void NoticeStrip::Fit() {
   more_->setVisible(any && !roomy);
 }
 
-/// As high as a command, whichever is there.
+/// As high as a command, whichever is there, or two lines.
 QSize NoticeStrip::sizeHint() const {
   const QMargins margins = contentsMargins() + layout()->contentsMargins();
-  return {WidthOfAll(), dismiss_->sizeHint().height() + margins.top() + margins.bottom()};
+  const int height =
+      std::max(dismiss_->sizeHint().height(), 2 * notice_->fontMetrics().lineSpacing());
+  return {WidthOfAll(), height + margins.top() + margins.bottom()};
 }
 
 QSize NoticeStrip::minimumSizeHint() const {

@@ -1,6 +1,7 @@
 // The line above the list: a notice and its commands on a quiet tint of the desktop's colours. As
 // high as its commands; while there is nothing to say its place stays empty, so that nothing jumps.
-// Where the notice has no room beside its commands, these make room and stand in a menu.
+// Where the notice has no room beside its commands, these make room and stand in a menu; where it
+// has none even then, it stands in two lines of the same place.
 #pragma once
 
 #include <QFrame>

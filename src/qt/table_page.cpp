@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -94,7 +95,16 @@ void TablePage::TakeFilter() {
 
 void TablePage::ShowTotals() {
   totals_.setText(TotalsText());
+  KeepRoomForTotals();
   ShowHint();
+}
+
+/// Nothing moves while a filter is typed: the totals of all words are the widest.
+void TablePage::KeepRoomForTotals() {
+  if (!table_.Fault().empty()) return;
+  const int width = totals_.fontMetrics().horizontalAdvance(totals_.text()) + 1;
+  totals_.setMinimumWidth(words_.text().isEmpty() ? width
+                                                  : std::max(width, totals_.minimumWidth()));
 }
 
 void TablePage::ShowHint() {

@@ -40,6 +40,7 @@ class TablePage final : public QWidget {
   void PlaceParts();
   void TakeFilter();
   void ShowTotals();
+  void KeepRoomForTotals();
   void ShowHint();
   [[nodiscard]] QString TotalsText();
 

@@ -277,6 +277,21 @@ TEST_F(NoticeBarTest, NothingIsSaidOfAListThatIsGone) {
   EXPECT_EQ(saidMeanwhile, "");
 }
 
+TEST_F(NoticeBarTest, TableKeepsItsNoticeWhenNoFolderIsChosen) {
+  TypeWords(WordListKind::kIgnore, "the");
+  CountFile(folder.Write("a.txt", "the cat"));
+  program.Notices().SetTextShown(false);
+  ASSERT_EQ(Said(), "One word is left out.");
+  desktop.AnswerFolder(std::nullopt);
+  Main().cmdFolder.PerformClick();
+  EXPECT_EQ(Said(), "One word is left out.");
+  Main().optOnClipboard.PerformClick();
+  EXPECT_EQ(Said(), "This list is of a.txt.");
+  program.Notices().SetTextShown(true);
+  program.Notices().SetTextShown(false);
+  EXPECT_EQ(Said(), "This list is of a.txt.");
+}
+
 TEST_F(NoticeBarTest, SpeaksTheLanguageOfTheProgram) {
   TypeWords(WordListKind::kIgnore, "the and");
   CountFile(folder.Write("a.txt", "the cat"));

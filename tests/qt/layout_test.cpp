@@ -2,15 +2,22 @@
 // nothing is cut, and all can be reached.
 #include <QFontInfo>
 #include <QGroupBox>
+#include <QImage>
+#include <QKeySequence>
 #include <QLabel>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QStyleOptionButton>
+#include <algorithm>
+#include <cmath>
 #include <gmock/gmock.h>
 
+#include "qt/clear_boxes.h"
 #include "qt/figure_label.h"
 #include "qt/fixed_font.h"
 #include "qt/window_memory.h"
@@ -412,6 +419,68 @@ TEST_F(WindowLayout, CountIsRunAndSeenWhileTheSettingsAreFolded) {
   main.resize(1024, 700);
   user->Settle();
   EXPECT_EQ(count.mapTo(&main, QPoint(0, 0)).x(), place.x());
+}
+
+TEST_F(WindowLayout, EveryViewHasALetterInEveryLanguage) {
+  ASSERT_TRUE(user->Start());
+  ResultTabs& views = user->windows.Main().Views();
+  for (int language = 0; language < 2; ++language) {
+    for (int i = 0; i < views.count(); ++i) {
+      views.setCurrentIndex((i + 1) % views.count());
+      const QKeySequence letter = QKeySequence::mnemonic(views.tabText(i));
+      ASSERT_FALSE(letter.isEmpty()) << FromQt(views.tabText(i));
+      QTest::keySequence(&user->windows.Main(), letter);
+      EXPECT_EQ(views.currentIndex(), i);
+    }
+    auto& other = user->WidgetOf<QPushButton>(user->program.frmMain.cmdLanguage);
+    EXPECT_TRUE(other.text().contains(QLatin1Char('&')));
+    user->Click(user->program.frmMain.cmdLanguage);
+  }
+}
+
+TEST_F(WindowLayout, ControlTabGoesRoundTheViews) {
+  ASSERT_TRUE(user->Start());
+  ResultTabs& views = user->windows.Main().Views();
+  user->windows.Main().List().setFocus();
+  for (int i = 1; i <= views.count(); ++i) {
+    QTest::keyClick(&user->windows.Main(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(views.currentIndex(), i % views.count());
+  }
+  QTest::keySequence(&user->windows.Main(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab));
+  EXPECT_EQ(views.currentIndex(), views.count() - 1);
+}
+
+TEST_F(WindowLayout, BoxesCanBeSeenOnLightAndDarkGround) {
+  const auto contrast = [](const QColor& one, const QColor& other) {
+    const auto lightness = [](const QColor& color) {
+      const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+      };
+      return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+             0.0722 * linear(color.blueF());
+    };
+    const auto [low, high] = std::minmax(lightness(one), lightness(other));
+    return (high + 0.05) / (low + 0.05);
+  };
+  const ClearBoxes style("fusion");
+  for (const QPalette& palette :
+       {QPalette(QColor(239, 239, 239)), QPalette(QColor(53, 53, 53), QColor(35, 35, 35))}) {
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
+      const QColor ground = palette.color(QPalette::Window);
+      QImage image(13, 13, QImage::Format_RGB32);
+      image.fill(ground);
+      QStyleOptionButton option;
+      option.palette = palette;
+      option.rect = image.rect();
+      option.state = QStyle::State_Enabled | QStyle::State_Off;
+      QPainter painter(&image);
+      style.drawPrimitive(element, &option, &painter, nullptr);
+      painter.end();
+      double best = 0;
+      for (int x = 0; x < 3; ++x) best = std::max(best, contrast(image.pixelColor(x, 6), ground));
+      EXPECT_GE(best, 3) << element << " " << ground.lightness();
+    }
+  }
 }
 
 TEST_F(WindowLayout, QuitKeysWorkInEveryLayout) {

@@ -75,6 +75,24 @@ TEST_F(NoticeStripTest, CommandsMakeRoomForTheNotice) {
   EXPECT_TRUE(change.isVisible());
 }
 
+TEST_F(NoticeStripTest, NoticeCanBeReadInASmallWindow) {
+  auto& label = dynamic_cast<ElidedLabel&>(user->WidgetOf<QLabel>(frmMain.lblNotice));
+  user->windows.Main().resize(760, 560);
+  for (int language = 0; language < 2; ++language) {
+    Count("the cat");
+    for (const char* text :
+         {"The text shows 1,770 of 12,586 words.", "Der Text zeigt 1.770 von 12.586 Wörtern."}) {
+      frmMain.lblNotice.SetCaption(text);
+      user->Settle();
+      EXPECT_FALSE(label.IsCut()) << text << label.width();
+    }
+    frmMain.lblNotice.SetCaption(std::string(2000, 'x'));
+    user->Settle();
+    EXPECT_TRUE(label.IsCut());
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
 TEST_F(NoticeStripTest, CommandsAreReachedByTheKeyboardAndHaveNames) {
   Count("the cat");
   auto& change = user->WidgetOf<QPushButton>(frmMain.cmdNotice[0]);
