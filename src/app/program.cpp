@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "app/captions.h"
-#include "app/count/named_text.h"
 #include "app/count/window_state.h"
 #include "app/list/not_found.h"
 #include "app/list/set_the_focus.h"
@@ -108,12 +107,7 @@ bool Program::Start(const StartOptions& options) {
 
 void Program::WantOrderFigures(bool wanted) {
   parts_.inForce.wantsOrderFigures = wanted;
-  const CurrentWords& words = parts_.words;
-  if (!wanted || !words.CanBeListed() || words.orderFigures || parts_.run.Busy()) return;
-  const CountedText named = TextNamedIn(frmMain);
-  const bool isTheSame = named.source == words.counted.source && named.path == words.counted.path &&
-                         named.withSubfolders == words.counted.withSubfolders;
-  if (isTheSame) frmMain.cmdCountWords.PerformClick();
+  parts_.notices.UpdateWhenIdle();
 }
 
 void Program::BeginControls() {

@@ -101,8 +101,8 @@ class Program {
   void UseSettingsFolder();
   /// How many threads may scan a large text at the same time.
   void UseThreads(std::size_t threads) { parts_.inForce.scanThreads = threads; }
-  /// Whether counts work out the figures that need the order of words, too. If the words at hand
-  /// have none, their text is counted again, unless another one has been named since.
+  /// Whether counts work out the figures that need the order of words, too. Words at hand that were
+  /// counted without stay as they are, and a notice says so.
   void WantOrderFigures(bool wanted);
   /// Whether counts keep what became of each file (CurrentWords::files).
   void WantFileReports(bool wanted) { parts_.inForce.wantsFileReports = wanted; }

@@ -100,15 +100,20 @@ FilesPage::FilesPage(Program& program, QWidget* parent)
       rows_(program.Words(), program.Text()),
       model_(rows_, {.group = program.DigitGroupSeparator(),
                      .decimal = FromQt(QLocale::system().decimalPoint())}),
+      stopped_(new QLabel(this)),
       table_(new QTableView(this)),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
+  lines->addWidget(stopped_);
   lines->addWidget(table_);
+  stopped_->setWordWrap(true);
+  stopped_->hide();
   SetUpTable();
   setFocusProxy(table_);
   program.WantFileReports(true);
   rows_.Changed.Connect([this] {
+    ShowStopped();
     isOld_ = true;
     if (isVisible()) FitColumns();
   });
@@ -138,10 +143,17 @@ void FilesPage::SetUpTable() {
 
 void FilesPage::SetTexts(const ProgramText& text) {
   model_.SetTexts(text);
+  ShowStopped();
   table_->setAccessibleName(ToQt(text.GetText(kFilesNameText)));
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
   isOld_ = true;
   if (isVisible()) FitColumns();
+}
+
+/// The files behind the stop have no rows.
+void FilesPage::ShowStopped() {
+  stopped_->setText(ToQt(rows_.StoppedText(model_.Signs())));
+  stopped_->setVisible(!stopped_->text().isEmpty());
 }
 
 /// Titles and what is in sight fit; a long path leaves room for the rest.

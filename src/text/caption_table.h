@@ -355,4 +355,13 @@ inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
 
+// A count that was stopped: how far it came ("%1" of "%2"), and what that means.
+inline constexpr int kStoppedAfterFilesText = 860;
+inline constexpr int kStoppedAfterBytesText = 861;
+inline constexpr int kStoppedBeforeTheEndText = 862;
+/// "%1" stands for one of the three.
+inline constexpr int kListNotCompleteText = 863;
+inline constexpr int kPartOfTextText = 864;
+inline constexpr int kOrderFiguresMissingText = 865;
+
 }  // namespace quillomat

@@ -273,7 +273,7 @@ void ExportWindow::Write(const ExportWish& wish) {
     const PhaseGuard guard(run_, RunPhase::kExporting);
     ShowRunning(true);
     try {
-      const ResultExport result(words_, frmMain_, frmParams_, wish);
+      const ResultExport result(words_, wish);
       words = messages_.Grouped(static_cast<std::int64_t>(result.Table().places.size()));
       const ExportWork write = [&, format = Format()](const ExportProgress& progress) {
         return ExportToFile(result.Table(), format, path, progress);
