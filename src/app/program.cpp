@@ -7,7 +7,7 @@
 
 #include "app/captions.h"
 #include "app/count/window_state.h"
-#include "app/list/not_found.h"
+#include "app/list/found_below.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "app/setting_values.h"
@@ -123,7 +123,7 @@ void Program::FillLists() {
   parts_.wordLists.SetPathToCWDs_Eng();
   parts_.mainWindow.FillListCombos();
   frmParams.FillCombos();
-  SetItems(parts_.text, frmParams);
+  SetItems(parts_.text, frmParams, frmExport);
   parts_.controls.SetClipboardViewer(FindClipboardViewer());
 }
 
@@ -158,9 +158,9 @@ void Program::ForgetWords() {
   ConcealNumWords(frmMain, true);
 }
 
-std::string Program::NotFoundText(std::string_view wanted) const {
+std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
-  return quillomat::NotFoundText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
+  return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
                                  parts_.text, DigitGroupSeparator());
 }
 

@@ -93,9 +93,9 @@ class Program {
     parts_.mainWindow.SetViewCopier(std::move(copyView));
   }
 
-  /// What is said when a word is not found in the output text box, which may hold but a part of the
-  /// list: where in the list it stands.
-  [[nodiscard]] std::string NotFoundText(std::string_view wanted) const;
+  /// What is said of a word that the list holds below the output text box: where it stands; "" if
+  /// it does not.
+  [[nodiscard]] std::string FoundBelowText(std::string_view wanted) const;
 
   /// From now on the empty path of a state file means the one in the user's settings folder.
   void UseSettingsFolder();

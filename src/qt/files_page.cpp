@@ -179,6 +179,7 @@ void FilesPage::ShowSkipped() {
 void FilesPage::Copy() const {
   const QItemSelectionModel& selection = *table_->selectionModel();
   CopiedRows copied(model_.rowCount());
+  copied.AddTitles(model_.Titles());
   for (int row = 0; row < model_.rowCount(); ++row) {
     if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
     copied.Add(model_.CopyOf(row));

@@ -22,6 +22,7 @@ class FilesModel final : public QAbstractTableModel {
   FilesModel(FileRows& rows, NumberSigns signs);
 
   void SetTexts(const ProgramText& text);
+  [[nodiscard]] const QStringList& Titles() const { return titles_; }
   [[nodiscard]] const NumberSigns& Signs() const { return signs_; }
   /// As another program is to read it: numbers without groups.
   [[nodiscard]] QStringList CopyOf(int row) const;

@@ -56,7 +56,7 @@ MainWindowView::MainWindowView(Program& program)
       ui_(std::make_unique<Ui::frmMain>()),
       findBar_(
           (ui_->setupUi(this), *ui_->txbOutput),
-          [&program](const QString& wanted) { return ToQt(program.NotFoundText(FromQt(wanted))); }),
+          [&program](const QString& wanted) { return ToQt(program.FoundBelowText(FromQt(wanted))); }),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),

@@ -42,12 +42,13 @@ ResultStatistics::ResultStatistics(const CurrentWords& words, const ProgramText&
 void ResultStatistics::AddIncompleteness(std::vector<Row>& rows, const NumberSigns& signs) const {
   const std::string name = text_.GetText(kPartOfTextText);
   if (words_.stoppedAfter) {
-    rows.push_back({name, ReachText(*words_.stoppedAfter, text_, signs.group)});
+    rows.push_back({name, ReachText(*words_.stoppedAfter, text_, signs.group), false});
   }
   const std::int64_t skipped = words_.folder.skipped;
   if (skipped == 0) return;
   rows.push_back({name, Filled(text_.GetText(skipped == 1 ? kFileSkippedText : kFilesSkippedText),
-                               {GroupDigits(skipped, signs.group)})});
+                               {GroupDigits(skipped, signs.group)}),
+                  false});
 }
 
 std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& signs) {
@@ -59,7 +60,8 @@ std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& sig
     const std::string name = text_.GetText(kFirstStatisticText + static_cast<int>(statistic.name));
     const auto* points = std::get_if<std::vector<GrowthPoint>>(&statistic.value);
     if (points == nullptr) {
-      rows.push_back({name, ValueOf(statistic.value, signs)});
+      const bool isNumber = !std::holds_alternative<std::string>(statistic.value);
+      rows.push_back({name, ValueOf(statistic.value, signs), isNumber});
       continue;
     }
     for (const GrowthPoint& point : *points) {

@@ -25,6 +25,7 @@ class ResultStatistics {
   struct Row {
     std::string name;
     std::string value;
+    bool isNumber = true;
 
     bool operator==(const Row&) const = default;
   };
