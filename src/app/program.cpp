@@ -161,7 +161,7 @@ void Program::ForgetWords() {
 std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
   return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
-                                 parts_.text, DigitGroupSeparator());
+                                   parts_.text, DigitGroupSeparator());
 }
 
 void Program::UseSettingsFolder() {

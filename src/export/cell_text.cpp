@@ -53,8 +53,8 @@ bool TakeRowsOfFiles(const ExportTable& table, std::int32_t place, ExportRow& ro
 std::vector<ExportFact> FactsOf(const Statistics& statistics) {
   std::vector<ExportFact> facts;
   for (Statistic& statistic : ListStatistics(statistics)) {
-    FactValue value = std::visit([](auto& each) { return FactValue(std::move(each)); },
-                                 statistic.value);
+    FactValue value =
+        std::visit([](auto& each) { return FactValue(std::move(each)); }, statistic.value);
     facts.push_back({std::string(NameOf(statistic.name)), std::move(value)});
   }
   return facts;

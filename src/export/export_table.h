@@ -15,8 +15,7 @@
 namespace quillomat {
 
 /// What a statistic may be, or yes and no.
-using FactValue =
-    std::variant<bool, std::int64_t, double, std::string, std::vector<GrowthPoint>>;
+using FactValue = std::variant<bool, std::int64_t, double, std::string, std::vector<GrowthPoint>>;
 
 /// One fact of a count: a total, a statistic, a setting.
 struct ExportFact {

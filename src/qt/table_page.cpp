@@ -95,7 +95,9 @@ QString TablePage::TotalsText() {
     return ToQt(program_.Text().GetText(kExpressionFaultText)).arg(ToQt(table_.Fault()));
   }
   const WordRows* rows = table_.Rows();
-  return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.Words().stoppedAfter, program_.Text(), signs_));
+  return rows == nullptr
+             ? QString()
+             : ToQt(TotalsOf(*rows, program_.Words().stoppedAfter, program_.Text(), signs_));
 }
 
 /// While no count runs the keys of the filter are its own.

@@ -63,7 +63,8 @@ void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
          .stops = [this] { return state_.stop.Yield(); }});
   TakeRest();
   const CountProgress& progress = state_.progress;
-  state_.EndScan({filesBeforeStop_, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
+  state_.EndScan(
+      {filesBeforeStop_, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
 }
 
 /// False when the count has ended with it.

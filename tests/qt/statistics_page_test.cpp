@@ -89,8 +89,8 @@ TEST_F(StatisticsPageTest, NumbersStandOnTheRightAndLongWordsAreNotCut) {
   EXPECT_EQ(longest[0]->toolTip(), longest[0]->text());
   const QModelIndex cell = Table().model()->index(longest[0]->row(), 1);
   const QRect place = Table().visualRect(cell);
-  const QRect needed = Table().fontMetrics().boundingRect(
-      QRect(0, 0, place.width(), 10'000), Qt::TextWordWrap, longest[0]->text());
+  const QRect needed = Table().fontMetrics().boundingRect(QRect(0, 0, place.width(), 10'000),
+                                                          Qt::TextWordWrap, longest[0]->text());
   EXPECT_GE(place.height(), needed.height());
 }
 

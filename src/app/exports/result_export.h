@@ -27,8 +27,8 @@ struct ExportWish {
   std::optional<std::vector<std::int32_t>> among = {};
 };
 
-/// Whether the words are those of the whole text ("complete"), and if not, what is missing: how much
-/// was skipped, how far a count came that was stopped.
+/// Whether the words are those of the whole text ("complete"), and if not, what is missing: how
+/// much was skipped, how far a count came that was stopped.
 [[nodiscard]] std::vector<ExportFact> CompletenessOf(const CurrentWords& words);
 
 /// Whether a column is known only where it was counted which files a word occurs in.

@@ -11,7 +11,7 @@
 namespace quillomat {
 
 std::string FoundBelowText(std::string_view wanted, const ListPart& part, const CountedWords& words,
-                         WordOrder order, const ProgramText& text, std::string_view separator) {
+                           WordOrder order, const ProgramText& text, std::string_view separator) {
   std::optional<FoundBelow> found;
   if (part.IsCut())
     found = FindBelow(words, order, part.shown, KeyOfTyped(wanted, words.store.Rule()));

@@ -12,11 +12,11 @@
 
 namespace quillomat {
 
-/// "rank 2,412, frequency 19, below the end of this text", of the word itself, else of the first one
-/// that holds what is wanted; "" where the list has neither below. `part`: what the box holds of the
-/// list of `words`, which stands in that order. `separator` stands between groups of digits.
+/// "rank 2,412, frequency 19, below the end of this text", of the word itself, else of the first
+/// one that holds what is wanted; "" where the list has neither below. `part`: what the box holds
+/// of the list of `words`, which stands in that order. `separator` stands between groups of digits.
 [[nodiscard]] std::string FoundBelowText(std::string_view wanted, const ListPart& part,
-                                       const CountedWords& words, WordOrder order,
-                                       const ProgramText& text, std::string_view separator);
+                                         const CountedWords& words, WordOrder order,
+                                         const ProgramText& text, std::string_view separator);
 
 }  // namespace quillomat

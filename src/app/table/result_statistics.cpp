@@ -46,8 +46,9 @@ void ResultStatistics::AddIncompleteness(std::vector<Row>& rows, const NumberSig
   }
   const std::int64_t skipped = words_.folder.skipped;
   if (skipped == 0) return;
-  rows.push_back({name, Filled(text_.GetText(skipped == 1 ? kFileSkippedText : kFilesSkippedText),
-                               {GroupDigits(skipped, signs.group)}),
+  rows.push_back({name,
+                  Filled(text_.GetText(skipped == 1 ? kFileSkippedText : kFilesSkippedText),
+                         {GroupDigits(skipped, signs.group)}),
                   false});
 }
 

@@ -67,8 +67,7 @@ class StoppedCount : public CountFixture {
 
 TEST_F(StoppedCount, SaysSoAboveTheListAndOffersANewCount) {
   StopInTheSecondFile();
-  EXPECT_EQ(Main().lblNotice.Caption(),
-            "Stopped after 1 of 4 files: this list is not complete.");
+  EXPECT_EQ(Main().lblNotice.Caption(), "Stopped after 1 of 4 files: this list is not complete.");
   EXPECT_THAT(Commands(), testing::ElementsAre("Count again"));
   Main().txbFolder.SetText(folder.Path());
   EXPECT_THAT(Main().lblNotice.Caption(), StartsWith("Stopped after 1 of 4 files"));
@@ -91,7 +90,7 @@ TEST_F(StoppedCount, HasFiguresAndFilesThatSaySo) {
   StopInTheSecondFile();
   using Row = ResultStatistics::Row;
   EXPECT_EQ(statistics.Rows({}).front(),
-            (Row{"Of a part of the text", "Stopped after 1 of 4 files"}));
+            (Row{"Of a part of the text", "Stopped after 1 of 4 files", false}));
   EXPECT_EQ(files.StoppedText({}), "Stopped after 1 of 4 files");
   CountFile(folder / "texts/a.txt");
   EXPECT_EQ(statistics.Rows({}).front().name, "Instances of words");
