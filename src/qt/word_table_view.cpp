@@ -95,7 +95,9 @@ void WordTableView::KeepTheChosenWord() {
   connect(&model_, &QAbstractItemModel::modelReset, this, [this, chosen] {
     const WordRows* rows = *chosen && model_.rowCount() > 0 ? table_.Rows() : nullptr;
     const auto row = rows == nullptr ? std::nullopt : rows->RowOfPlace(**chosen);
-    if (row) setCurrentIndex(model_.index(static_cast<int>(*row), kWordSection));
+    if (!row) return;
+    executeDelayedItemsLayout();  // else there are still too few rows to go to this one
+    setCurrentIndex(model_.index(static_cast<int>(*row), kWordSection));
   });
 }
 

@@ -108,12 +108,11 @@ TEST_F(ExportWindowTest, OrdersAreInTheLanguageOfTheProgram) {
 }
 
 TEST_F(ExportWindowTest, SettingsAreThoseOfTheCountUnderTheTerminalsNames) {
-  OpenFor("the cat the");
   Panel().chkIgnoreShortWords.SetChecked(true);
   Panel().cboShortWordSize.SetListIndex(2);
   Panel().chkAllowCommentMarkers.SetChecked(true);
   TypeWords(WordListKind::kIgnore, "the");
-  Count();
+  OpenFor("the feline the");
   Panel().chkIgnoreShortWords.SetChecked(false);  // not of this list any more
   ExportTo(Target("list.json"));
   const std::string json = ContentsOf(Target("list.json"));
@@ -159,10 +158,11 @@ TEST_F(ExportWindowTest, ExistingFileIsAskedAbout) {
 }
 
 TEST_F(ExportWindowTest, CountedTextIsNeverWritten) {
-  OpenFor("cat");
-  ExportTo(folder / "text.txt");
-  EXPECT_THAT(OnlyMessage().text, HasSubstr((folder / "text.txt") + " is the text"));
-  EXPECT_EQ(ContentsOf(folder / "text.txt"), "cat");
+  CountFile(folder.Write("text.csv", "cat"));
+  Main().cmdExport.PerformClick();
+  ExportTo(folder / "text.csv");
+  EXPECT_THAT(OnlyMessage().text, HasSubstr((folder / "text.csv") + " is the text"));
+  EXPECT_EQ(ContentsOf(folder / "text.csv"), "cat");
 }
 
 TEST_F(ExportWindowTest, FaultsNameWhatIsWrong) {

@@ -280,7 +280,7 @@ TEST_F(TablePageTest, WordsAreNotCutWhileNumbersHaveRoom) {
   const std::string longest = "incomprehensibilities";
   Count("the the the " + longest + " cat\n");
   OpenTable();
-  Window().resize(900, 700);
+  Window().resize(1100, 700);
   user->Settle();
   const int wanted = View().fontMetrics().horizontalAdvance(ToQt(longest));
   int numbers = 0;
