@@ -62,7 +62,7 @@ std::vector<ControlCaption> ToolTipsOf(SettingWindow window) {
                       &Setting::toolTip);
 }
 
-void SetItems(const ProgramText& text, ParamsForm& frmParams) {
+void SetItems(const ProgramText& text, ParamsForm& frmParams, ExportForm& frmExport) {
   const auto setFirst = [&text](ComboBox& combo, std::span<const int> texts) {
     for (std::size_t i = 0; i < std::min(texts.size(), combo.Items().size()); ++i) {
       combo.SetItem(static_cast<int>(i), text.GetText(texts[i]));
@@ -70,6 +70,7 @@ void SetItems(const ProgramText& text, ParamsForm& frmParams) {
   };
   setFirst(frmParams.cboLetters, kLetterTexts);
   setFirst(frmParams.cboEncoding, kEncodingTexts);
+  setFirst(frmExport.cboOrder, kExportOrderTexts);
 }
 
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
@@ -80,7 +81,7 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
   SetCaptionsOf(frmParams, CaptionsOf(SettingWindow::kPanel), text);
   SetToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel), text);
-  SetItems(text, frmParams);
+  SetItems(text, frmParams, frmExport);
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
   SetToolTipsOf(frmHelp, kHelpFormToolTips, text);

@@ -31,6 +31,7 @@ class Messages {
 
   /// The numbered text in the language of the program.
   [[nodiscard]] std::string Text(int number) const { return text_.GetText(number); }
+  [[nodiscard]] const ProgramText& Texts() const { return text_; }
   /// The program's, for a message that has no title of its own.
   [[nodiscard]] std::string ProgramTitle() const;
 

@@ -6,9 +6,8 @@
 #include <utility>
 
 #include "app/captions.h"
-#include "app/count/named_text.h"
 #include "app/count/window_state.h"
-#include "app/list/not_found.h"
+#include "app/list/found_below.h"
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "app/setting_values.h"
@@ -108,12 +107,7 @@ bool Program::Start(const StartOptions& options) {
 
 void Program::WantOrderFigures(bool wanted) {
   parts_.inForce.wantsOrderFigures = wanted;
-  const CurrentWords& words = parts_.words;
-  if (!wanted || !words.CanBeListed() || words.orderFigures || parts_.run.Busy()) return;
-  const CountedText named = TextNamedIn(frmMain);
-  const bool isTheSame = named.source == words.counted.source && named.path == words.counted.path &&
-                         named.withSubfolders == words.counted.withSubfolders;
-  if (isTheSame) frmMain.cmdCountWords.PerformClick();
+  parts_.notices.UpdateWhenIdle();
 }
 
 void Program::BeginControls() {
@@ -129,7 +123,7 @@ void Program::FillLists() {
   parts_.wordLists.SetPathToCWDs_Eng();
   parts_.mainWindow.FillListCombos();
   frmParams.FillCombos();
-  SetItems(parts_.text, frmParams);
+  SetItems(parts_.text, frmParams, frmExport);
   parts_.controls.SetClipboardViewer(FindClipboardViewer());
 }
 
@@ -164,10 +158,10 @@ void Program::ForgetWords() {
   ConcealNumWords(frmMain, true);
 }
 
-std::string Program::NotFoundText(std::string_view wanted) const {
+std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
-  return quillomat::NotFoundText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
-                                 parts_.text, DigitGroupSeparator());
+  return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
+                                   parts_.text, DigitGroupSeparator());
 }
 
 void Program::UseSettingsFolder() {

@@ -93,16 +93,16 @@ class Program {
     parts_.mainWindow.SetViewCopier(std::move(copyView));
   }
 
-  /// What is said when a word is not found in the output text box, which may hold but a part of the
-  /// list: where in the list it stands.
-  [[nodiscard]] std::string NotFoundText(std::string_view wanted) const;
+  /// What is said of a word that the list holds below the output text box: where it stands; "" if
+  /// it does not.
+  [[nodiscard]] std::string FoundBelowText(std::string_view wanted) const;
 
   /// From now on the empty path of a state file means the one in the user's settings folder.
   void UseSettingsFolder();
   /// How many threads may scan a large text at the same time.
   void UseThreads(std::size_t threads) { parts_.inForce.scanThreads = threads; }
-  /// Whether counts work out the figures that need the order of words, too. If the words at hand
-  /// have none, their text is counted again, unless another one has been named since.
+  /// Whether counts work out the figures that need the order of words, too. Words at hand that were
+  /// counted without stay as they are, and a notice says so.
   void WantOrderFigures(bool wanted);
   /// Whether counts keep what became of each file (CurrentWords::files).
   void WantFileReports(bool wanted) { parts_.inForce.wantsFileReports = wanted; }

@@ -43,8 +43,7 @@ Fault FindUnservedExport(const CommandLine& options, const TerminalStreams& stre
 Fault ExportList(const Program& program, const CommandLine& options,
                  const TerminalStreams& streams) {
   if (options.exports.empty()) return std::nullopt;
-  const ResultExport result(program.Words(), program.frmMain, program.frmParams,
-                            WishOf(program, options));
+  const ResultExport result(program.Words(), WishOf(program, options));
   for (const std::string& path : options.exports) {
     const ExportFormat format = FormatOfExport(options, path);
     if (IsStandardOutput(path)) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/count/panel_choices.h"
+#include "app/exports/result_export.h"
 #include "app/list/output_refusal.h"
 #include "app/messages.h"
 #include "app/program.h"
@@ -29,6 +30,7 @@
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
+#include "export/cell_text.h"
 #include "listing/statistics.h"
 #include "sources/converted_source.h"
 #include "sources/count_observer.h"
@@ -389,6 +391,11 @@ class TerminalRun {
 
   void PrintStatistics() {
     const CurrentWords& words = program_.Words();
+    if (!words.AreOfWholeText()) {
+      for (const ExportFact& fact : CompletenessOf(words)) {
+        err_ << fact.name << '\t' << TextOf(fact) << '\n';
+      }
+    }
     err_ << StatisticsText(StatisticsOf(words.store, words.orderFigures));
   }
 

@@ -41,6 +41,7 @@ class FileTracker {
   void Reset(bool on);
   /// `path` is the file whose words come next.
   void SetFileBeingScanned(std::string_view path) { fileBeingScanned_ = path; }
+  [[nodiscard]] const std::string& FileBeingScanned() const { return fileBeingScanned_; }
   /// Numbers the file being scanned if it has no number yet.
   void NoteCurrentFile();
 

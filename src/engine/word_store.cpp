@@ -75,7 +75,15 @@ void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
   occurrences_ += times;
   if (!files_.IsOn()) return;
   files_.NoteCurrentFile();
-  tallies_[place].CountWordInFile(files_.CurrentFileNumber(), times);
+  try {
+    tallies_[place].CountWordInFile(files_.CurrentFileNumber(), times);
+  } catch (const RunTimeError&) {
+    throw RunTimeError(RunTimeErrorNumber::kOverflow,
+                       "Overflow: the word \"" + std::string(WordAtPlace(place)) +
+                           "\" occurs more than 32,767 times in " + files_.FileBeingScanned() +
+                           ", the most that is counted for one file of several.  Count that file "
+                           "by itself.");
+  }
 }
 
 void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {

@@ -53,7 +53,9 @@ bool TakeRowsOfFiles(const ExportTable& table, std::int32_t place, ExportRow& ro
 std::vector<ExportFact> FactsOf(const Statistics& statistics) {
   std::vector<ExportFact> facts;
   for (Statistic& statistic : ListStatistics(statistics)) {
-    facts.push_back({std::string(NameOf(statistic.name)), std::move(statistic.value)});
+    FactValue value =
+        std::visit([](auto& each) { return FactValue(std::move(each)); }, statistic.value);
+    facts.push_back({std::string(NameOf(statistic.name)), std::move(value)});
   }
   return facts;
 }
@@ -143,6 +145,7 @@ void AppendHtml(std::string& out, std::string_view text) {
 
 std::string TextOf(const ExportFact& fact) {
   if (const auto* text = std::get_if<std::string>(&fact.value)) return *text;
+  if (const auto* yes = std::get_if<bool>(&fact.value)) return *yes ? "true" : "false";
   std::string number;
   if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
     for (const GrowthPoint& point : *points) {

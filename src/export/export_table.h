@@ -6,6 +6,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "listing/statistics.h"
@@ -13,10 +14,15 @@
 
 namespace quillomat {
 
+/// What a statistic may be, or yes and no.
+using FactValue = std::variant<bool, std::int64_t, double, std::string, std::vector<GrowthPoint>>;
+
 /// One fact of a count: a total, a statistic, a setting.
 struct ExportFact {
   std::string name;
-  StatisticValue value;
+  FactValue value;
+
+  bool operator==(const ExportFact&) const = default;
 };
 
 struct ExportTable {

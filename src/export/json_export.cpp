@@ -25,7 +25,8 @@ void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row)
   out.push_back('}');
 }
 
-Json ValueOf(const StatisticValue& value) {
+Json ValueOf(const FactValue& value) {
+  if (const auto* yes = std::get_if<bool>(&value)) return *yes;
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* text = std::get_if<std::string>(&value)) return *text;

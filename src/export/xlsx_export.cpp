@@ -206,6 +206,8 @@ class FactSheet {
       WriteNumber(1, static_cast<double>(*whole));
     } else if (const auto* number = std::get_if<double>(&fact.value)) {
       WriteNumber(1, *number);
+    } else if (const auto* yes = std::get_if<bool>(&fact.value)) {
+      Check(worksheet_write_boolean(sheet_, row_, 1, static_cast<int>(*yes), nullptr));
     } else {
       WriteText(1, std::get<std::string>(fact.value));
     }

@@ -100,15 +100,20 @@ FilesPage::FilesPage(Program& program, QWidget* parent)
       rows_(program.Words(), program.Text()),
       model_(rows_, {.group = program.DigitGroupSeparator(),
                      .decimal = FromQt(QLocale::system().decimalPoint())}),
+      stopped_(new QLabel(this)),
       table_(new QTableView(this)),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
+  lines->addWidget(stopped_);
   lines->addWidget(table_);
+  stopped_->setWordWrap(true);
+  stopped_->hide();
   SetUpTable();
   setFocusProxy(table_);
   program.WantFileReports(true);
   rows_.Changed.Connect([this] {
+    ShowStopped();
     isOld_ = true;
     if (isVisible()) FitColumns();
   });
@@ -138,10 +143,17 @@ void FilesPage::SetUpTable() {
 
 void FilesPage::SetTexts(const ProgramText& text) {
   model_.SetTexts(text);
+  ShowStopped();
   table_->setAccessibleName(ToQt(text.GetText(kFilesNameText)));
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
   isOld_ = true;
   if (isVisible()) FitColumns();
+}
+
+/// The files behind the stop have no rows.
+void FilesPage::ShowStopped() {
+  stopped_->setText(ToQt(rows_.StoppedText(model_.Signs())));
+  stopped_->setVisible(!stopped_->text().isEmpty());
 }
 
 /// Titles and what is in sight fit; a long path leaves room for the rest.
@@ -167,6 +179,7 @@ void FilesPage::ShowSkipped() {
 void FilesPage::Copy() const {
   const QItemSelectionModel& selection = *table_->selectionModel();
   CopiedRows copied(model_.rowCount());
+  copied.AddTitles(model_.Titles());
   for (int row = 0; row < model_.rowCount(); ++row) {
     if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
     copied.Add(model_.CopyOf(row));

@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QAction>
+#include <QLabel>
 #include <QStringList>
 #include <QTableView>
 #include <QWidget>
@@ -21,6 +22,8 @@ class FilesModel final : public QAbstractTableModel {
   FilesModel(FileRows& rows, NumberSigns signs);
 
   void SetTexts(const ProgramText& text);
+  [[nodiscard]] const QStringList& Titles() const { return titles_; }
+  [[nodiscard]] const NumberSigns& Signs() const { return signs_; }
   /// As another program is to read it: numbers without groups.
   [[nodiscard]] QStringList CopyOf(int row) const;
 
@@ -56,11 +59,13 @@ class FilesPage final : public QWidget {
 
  private:
   void SetUpTable();
+  void ShowStopped();
   void FitColumns();
 
   FileRows rows_;
   FilesModel model_;
   // Children of the page.
+  QLabel* stopped_;
   QTableView* table_;
   QAction* copy_;
   /// Columns were not made as wide as what they hold.

@@ -12,8 +12,8 @@
 
 namespace quillomat {
 
-FindBar::FindBar(QPlainTextEdit& list, NotFound notFound)
-    : list_(list), notFound_(std::move(notFound)) {
+FindBar::FindBar(QPlainTextEdit& list, TellBelow tellBelow)
+    : list_(list), tellBelow_(std::move(tellBelow)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
   auto* row = new FlowLayout;
@@ -31,6 +31,7 @@ FindBar::FindBar(QPlainTextEdit& list, NotFound notFound)
   word_.setMinimumWidth(120);
   label_.setBuddy(&word_);
   connect(&word_, &QLineEdit::textEdited, this, [this] { Find(false, true); });
+  connect(&list_, &QPlainTextEdit::textChanged, this, [this] { Forget(); });
   connect(&previous_, &QPushButton::clicked, this, [this] { Find(true, false); });
   connect(&next_, &QPushButton::clicked, this, [this] { Find(false, false); });
   hide();
@@ -43,9 +44,9 @@ void FindBar::SetTexts(const ProgramText& text) {
   next_.setToolTip(QStringLiteral("F3"));
   previous_.setToolTip(QKeySequence(Qt::SHIFT | Qt::Key_F3).toString(QKeySequence::NativeText));
   placeOfPlaces_ = ToQt(text.GetText(kPlaceOfPlacesText));
-  place_.clear();
+  notFoundText_ = ToQt(text.GetText(kNotFoundText));
   word_.setAccessibleName(label_.text());
-  ShowOutcome({});
+  Forget();
 }
 
 void FindBar::Open() {
@@ -53,6 +54,7 @@ void FindBar::Open() {
   const QString selected = list_.textCursor().selectedText();
   if (!selected.isEmpty() && !selected.contains(QChar(QChar::ParagraphSeparator))) {
     word_.setText(selected);
+    Find(false, true);
   }
   word_.selectAll();
   word_.setFocus(Qt::ShortcutFocusReason);
@@ -64,27 +66,32 @@ void FindBar::FindAgain(bool backward) {
   Find(backward, false);
 }
 
-/// Goes round at the end of the list. `fromHere`: what is selected may stay found, as the user goes
+/// Goes round at the end of the text. `fromHere`: what is selected may stay found, as the user goes
 /// on typing.
 void FindBar::Find(bool backward, bool fromHere) {
-  ShowOutcome({});
-  place_.clear();
-  if (word_.text().isEmpty()) return;
-  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  Forget();
+  if (word_.text().isEmpty()) return ShowNoPlace();
   QTextCursor start = list_.textCursor();
   if (fromHere) start.setPosition(start.selectionStart());
-  QTextCursor found = list_.document()->find(word_.text(), start, flags);
+  const QTextCursor found = FoundFrom(start, backward);
+  const QString below = tellBelow_(word_.text());
   if (found.isNull()) {
-    start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
-    found = list_.document()->find(word_.text(), start, flags);
-  }
-  if (found.isNull()) {
-    ShowOutcome(notFound_(word_.text()));
+    ShowNoPlace();
+    ShowOutcome(below.isEmpty() ? notFoundText_ : below);
     return Announce(outcome_);
   }
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
   ShowPlace(found);
+  ShowOutcome(below);
+}
+
+QTextCursor FindBar::FoundFrom(QTextCursor start, bool backward) const {
+  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  const QTextCursor found = list_.document()->find(word_.text(), start, flags);
+  if (!found.isNull()) return found;
+  start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
+  return list_.document()->find(word_.text(), start, flags);
 }
 
 /// The places do not overlap, as the search goes on behind the one that it has found.
@@ -99,6 +106,19 @@ void FindBar::ShowPlace(const QTextCursor& found) {
     if (at <= found.selectionStart()) place = places;
   }
   place_.setText(placeOfPlaces_.arg(place).arg(places));
+}
+
+/// Nothing in the text bears the mark of a hit that is none any more.
+void FindBar::ShowNoPlace() {
+  QTextCursor cursor = list_.textCursor();
+  cursor.setPosition(cursor.selectionStart());
+  list_.setTextCursor(cursor);
+}
+
+/// What was said is of another text, or of something else that was looked for.
+void FindBar::Forget() {
+  place_.clear();
+  ShowOutcome({});
 }
 
 void FindBar::ShowOutcome(const QString& outcome) {

@@ -15,11 +15,11 @@ namespace quillomat {
 
 class FindBar : public QWidget {
  public:
-  /// Says what is shown when a word is not there.
-  using NotFound = std::function<QString(const QString& wanted)>;
+  /// Says where the list that goes on below its text holds what is looked for; "" for nowhere.
+  using TellBelow = std::function<QString(const QString& wanted)>;
 
   /// `list` must outlive the bar.
-  FindBar(QPlainTextEdit& list, NotFound notFound);
+  FindBar(QPlainTextEdit& list, TellBelow tellBelow);
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);
@@ -37,7 +37,10 @@ class FindBar : public QWidget {
  private:
   void FindAgain(bool backward);
   void Find(bool backward, bool fromHere);
+  [[nodiscard]] QTextCursor FoundFrom(QTextCursor start, bool backward) const;
   void ShowPlace(const QTextCursor& found);
+  void ShowNoPlace();
+  void Forget();
   /// What has come of a search; "" for nothing to say.
   void ShowOutcome(const QString& outcome);
   void Close();
@@ -51,7 +54,8 @@ class FindBar : public QWidget {
   QLabel place_;
   QLabel outcome_;
   QString placeOfPlaces_;
-  NotFound notFound_;
+  QString notFoundText_;
+  TellBelow tellBelow_;
 };
 
 }  // namespace quillomat

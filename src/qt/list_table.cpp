@@ -32,11 +32,11 @@ QStringList CellsOf(const CopiedLine& copied, const CellSource& cells) {
 
 }  // namespace
 
-void HtmlTable::AddRow(const QStringList& cells) {
+void HtmlTable::AddCells(const QStringList& cells, const QString& element) {
+  const QString begin = QLatin1Char('<') + element + QLatin1Char('>');
+  const QString end = QStringLiteral("</") + element + QLatin1Char('>');
   rows_ += QStringLiteral("<tr>");
-  for (const QString& cell : cells) {
-    rows_ += QStringLiteral("<td>") + cell.toHtmlEscaped() + QStringLiteral("</td>");
-  }
+  for (const QString& cell : cells) rows_ += begin + cell.toHtmlEscaped() + end;
   rows_ += QStringLiteral("</tr>\n");
 }
 
@@ -44,13 +44,19 @@ QString HtmlTable::Whole() const {
   return QStringLiteral("<table>\n") + rows_ + QStringLiteral("</table>\n");
 }
 
+void CopiedRows::AddTitles(const QStringList& titles) {
+  text_ += titles.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  if (withTable_) table_.AddTitles(titles);
+}
+
 void CopiedRows::Add(const QStringList& cells) {
+  hasRows_ = true;
   text_ += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
   if (withTable_) table_.AddRow(cells);
 }
 
 void CopiedRows::PutOnClipboard() {
-  if (text_.isEmpty()) return;
+  if (!hasRows_) return;
   // The clipboard takes the data over.
   QApplication::clipboard()->setMimeData(
       ClipboardDataOf(text_, withTable_ ? table_.Whole() : QString()).release());

@@ -25,10 +25,13 @@ struct CopiedLine {
 class HtmlTable {
  public:
   /// `cells` as plain text.
-  void AddRow(const QStringList& cells);
+  void AddRow(const QStringList& cells) { AddCells(cells, QStringLiteral("td")); }
+  void AddTitles(const QStringList& titles) { AddCells(titles, QStringLiteral("th")); }
   [[nodiscard]] QString Whole() const;
 
  private:
+  void AddCells(const QStringList& cells, const QString& element);
+
   QString rows_;
 };
 
@@ -38,6 +41,8 @@ class CopiedRows {
   /// Of very many rows the text is enough: it is what programs take over faster.
   explicit CopiedRows(qsizetype rows) : withTable_(rows <= kMostRowsOfATable) {}
 
+  /// Before the rows.
+  void AddTitles(const QStringList& titles);
   void Add(const QStringList& cells);
   /// Once, at the end. No row at all leaves the clipboard as it is.
   void PutOnClipboard();
@@ -46,6 +51,7 @@ class CopiedRows {
   static constexpr qsizetype kMostRowsOfATable = 100'000;
 
   QString text_;
+  bool hasRows_ = false;
   HtmlTable table_;
   bool withTable_;
 };

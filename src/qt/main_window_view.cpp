@@ -54,9 +54,10 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_(
-          (ui_->setupUi(this), *ui_->txbOutput),
-          [&program](const QString& wanted) { return ToQt(program.NotFoundText(FromQt(wanted))); }),
+      findBar_((ui_->setupUi(this), *ui_->txbOutput),
+               [&program](const QString& wanted) {
+                 return ToQt(program.FoundBelowText(FromQt(wanted)));
+               }),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),

@@ -4,12 +4,21 @@
 #include <QItemSelectionModel>
 #include <QLocale>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "qt/list_table.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
 namespace quillomat {
+namespace {
+
+// Numbers stand beside their names; what is left is for values that are words.
+constexpr int kValue = 1;
+constexpr int kRest = 2;
+constexpr int kColumns = 3;
+
+}  // namespace
 
 StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
     : QWidget(parent),
@@ -17,7 +26,7 @@ StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
              .decimal = FromQt(QLocale::system().decimalPoint())},
       statistics_(program.Words(), program.Text()),
       orderBox_(new QCheckBox(this)),
-      table_(new QTableWidget(0, 2, this)),
+      table_(new QTableWidget(0, kColumns, this)),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -54,7 +63,7 @@ void StatisticsPage::SetTexts(const ProgramText& text) {
   orderBox_->setToolTip(ToQt(text.GetText(kOrderFiguresTipText)));
   table_->setAccessibleName(ToQt(text.GetText(kStatisticsNameText)));
   table_->setHorizontalHeaderLabels(
-      {ToQt(text.GetText(kFigureColumnText)), ToQt(text.GetText(kValueColumnText))});
+      {ToQt(text.GetText(kFigureColumnText)), ToQt(text.GetText(kValueColumnText)), QString()});
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
   isOld_ = true;
   if (isVisible()) ShowRows();
@@ -64,13 +73,38 @@ void StatisticsPage::ShowRows() {
   if (!isOld_) return;
   isOld_ = false;
   const std::vector<ResultStatistics::Row> rows = statistics_.Rows(signs_);
+  table_->clearSpans();
   table_->setRowCount(static_cast<int>(rows.size()));
   for (int row = 0; row < table_->rowCount(); ++row) {
-    const ResultStatistics::Row& shown = rows[static_cast<std::size_t>(row)];
-    table_->setItem(row, 0, new QTableWidgetItem(ToQt(shown.name)));
-    table_->setItem(row, 1, new QTableWidgetItem(ToQt(shown.value)));
+    ShowRow(row, rows[static_cast<std::size_t>(row)]);
   }
   table_->resizeColumnToContents(0);
+  FitValues();
+}
+
+/// What is no number is read from the left, in as many lines as it needs.
+void StatisticsPage::ShowRow(int row, const ResultStatistics::Row& shown) {
+  auto* value = new QTableWidgetItem(ToQt(shown.value));
+  if (shown.isNumber) {
+    value->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  } else {
+    table_->setSpan(row, kValue, 1, kColumns - kValue);
+    value->setToolTip(value->text());
+  }
+  table_->setItem(row, 0, new QTableWidgetItem(ToQt(shown.name)));
+  table_->setItem(row, kValue, value);
+  table_->setItem(row, kRest, nullptr);
+}
+
+/// As wide as the widest number, which a value in words is not.
+void StatisticsPage::FitValues() {
+  int widest = table_->horizontalHeader()->sectionSizeHint(kValue);
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    if (table_->columnSpan(row, kValue) > 1) continue;
+    const QModelIndex cell = table_->model()->index(row, kValue);
+    widest = std::max(widest, table_->sizeHintForIndex(cell).width());
+  }
+  table_->setColumnWidth(kValue, widest + table_->fontMetrics().averageCharWidth());
   table_->resizeRowsToContents();
 }
 
@@ -79,9 +113,16 @@ void StatisticsPage::Copy() const {
   CopiedRows copied(table_->rowCount());
   for (int row = 0; row < table_->rowCount(); ++row) {
     if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
-    copied.Add({table_->item(row, 0)->text(), table_->item(row, 1)->text()});
+    copied.Add({table_->item(row, 0)->text(), table_->item(row, kValue)->text()});
   }
   copied.PutOnClipboard();
+}
+
+void StatisticsPage::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  // Later, when the columns have their widths.
+  QMetaObject::invokeMethod(
+      this, [this] { table_->resizeRowsToContents(); }, Qt::QueuedConnection);
 }
 
 void StatisticsPage::showEvent(QShowEvent* event) {

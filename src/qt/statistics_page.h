@@ -28,11 +28,14 @@ class StatisticsPage final : public QWidget {
   [[nodiscard]] QTableWidget& Table() { return *table_; }
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void SetUpTable();
   void ShowRows();
+  void ShowRow(int row, const ResultStatistics::Row& shown);
+  void FitValues();
 
   NumberSigns signs_;
   ResultStatistics statistics_;

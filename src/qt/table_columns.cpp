@@ -11,10 +11,9 @@ namespace {
 
 constexpr int kWordSection = static_cast<int>(WordColumn::kWord);
 constexpr int kFilesSection = static_cast<int>(WordColumn::kFiles);
-// What fills a column.
-const char* const kUsualNumber = "1,000,000";
-const char* const kUsualWord = "incomprehensibility";
+// What fills the column of words: where there is little room, and where there is much.
 const char* const kShortestWord = "character";
+const char* const kUsualWord = "incomprehensibility";
 
 std::size_t IndexOf(int section) {
   return static_cast<std::size_t>(section);
@@ -45,37 +44,48 @@ void TableColumns::Arrange() {
   if (!drawnByUser_) Fit();
 }
 
-void TableColumns::SetFilesKnown(bool known) {
-  if (known == filesKnown_) return;
-  filesKnown_ = known;
+void TableColumns::FollowContents(bool filesKnown) {
+  filesKnown_ = filesKnown;
   Arrange();
 }
 
-int TableColumns::UsualWidth(int section) const {
+int TableColumns::LeastWidth(int section) const {
   const QFontMetrics letters = view_.fontMetrics();
-  const QString usual = QLatin1String(section == kWordSection ? kShortestWord : kUsualNumber);
-  const int contents = letters.horizontalAdvance(usual) + letters.averageCharWidth();
-  return std::max(contents, view_.horizontalHeader()->sectionSizeHint(section));
+  const QString widest =
+      section == kWordSection ? QString::fromLatin1(kShortestWord) : model_.WidestOf(section);
+  const int margins = letters.averageCharWidth() +
+                      2 * view_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view_);
+  return std::max(letters.horizontalAdvance(widest) + margins,
+                  view_.horizontalHeader()->sectionSizeHint(section));
+}
+
+/// Wider the column would have nothing to show, and part the words from their numbers.
+int TableColumns::MostWidthOfWords() const {
+  const QFontMetrics letters = view_.fontMetrics();
+  return std::max(2 * letters.horizontalAdvance(QLatin1String(kUsualWord)),
+                  model_.LongestWord() * letters.averageCharWidth());
 }
 
 void TableColumns::Fit() {
   int others = 0;
   for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    widths_[IndexOf(section)] = UsualWidth(section);
+    widths_[IndexOf(section)] = LeastWidth(section);
     if (section == kWordSection || view_.isColumnHidden(section)) continue;
     others += widths_[IndexOf(section)];
     view_.setColumnWidth(section, widths_[IndexOf(section)]);
   }
-  const int largest = view_.fontMetrics().horizontalAdvance(QLatin1String(kUsualWord)) * 2;
   int& word = widths_[IndexOf(kWordSection)];
-  word = std::clamp(view_.viewport()->width() - others, word, std::max(word, largest));
+  word = std::clamp(view_.viewport()->width() - others, word, std::max(word, MostWidthOfWords()));
   view_.setColumnWidth(kWordSection, word);
+}
+
+bool TableColumns::IsKnown(int section) const {
+  return section != kFilesSection || filesKnown_;
 }
 
 void TableColumns::ShowWanted() {
   for (int section = 0; section < WordTableModel::kColumns; ++section) {
-    const bool known = section != kFilesSection || filesKnown_;
-    view_.setColumnHidden(section, !known || !actions_[IndexOf(section)].isChecked());
+    view_.setColumnHidden(section, !IsKnown(section) || !actions_[IndexOf(section)].isChecked());
   }
 }
 
@@ -125,6 +135,7 @@ QList<int> TableColumns::Shown() const {
 
 void TableColumns::AddTo(QMenu& menu) {
   for (int section = 0; section < WordTableModel::kColumns; ++section) {
+    if (!IsKnown(section)) continue;
     QAction& action = actions_[IndexOf(section)];
     action.setText(model_.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
     menu.addAction(&action);

@@ -1,6 +1,6 @@
 // The columns of the table of words: which of them are shown, and how wide they are. Until the user
-// has drawn a column to another width, titles and usual contents fit, and the words take the room
-// that is left.
+// has drawn a column to another width, titles and numbers fit, and the words take the room that is
+// left.
 #pragma once
 
 #include <QAction>
@@ -24,8 +24,9 @@ class TableColumns final : public QObject {
   /// the table have changed.
   void Arrange();
 
-  /// In how many files a word occurs is shown where it is known.
-  void SetFilesKnown(bool known);
+  /// To be called when there are other words. In how many files each occurs is shown, and offered,
+  /// where it is known.
+  void FollowContents(bool filesKnown);
 
   /// The names of the columns that the user wants to see.
   [[nodiscard]] QStringList Wanted() const;
@@ -44,7 +45,9 @@ class TableColumns final : public QObject {
  private:
   void ShowWanted();
   void Fit();
-  [[nodiscard]] int UsualWidth(int section) const;
+  [[nodiscard]] bool IsKnown(int section) const;
+  [[nodiscard]] int LeastWidth(int section) const;
+  [[nodiscard]] int MostWidthOfWords() const;
 
   QTableView& view_;
   const WordTableModel& model_;

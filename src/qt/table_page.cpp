@@ -90,7 +90,9 @@ void TablePage::Find() {
 void TablePage::TakeFilter() {
   table_.SetFilter({static_cast<FilterKind>(kind_.currentIndex()), FromQt(words_.text())});
   ShowTotals();
-  if (!table_.Fault().empty()) Announce(totals_);
+  if (!table_.Fault().empty()) return Announce(totals_);
+  // Who sees all words again keeps the one that was chosen among some in view.
+  if (!words_.text().isEmpty()) view_.GoToFirst();
 }
 
 void TablePage::ShowTotals() {
@@ -116,7 +118,9 @@ QString TablePage::TotalsText() {
     return ToQt(program_.Text().GetText(kExpressionFaultText)).arg(ToQt(table_.Fault()));
   }
   const WordRows* rows = table_.Rows();
-  return rows == nullptr ? QString() : ToQt(TotalsOf(*rows, program_.Text(), signs_));
+  return rows == nullptr
+             ? QString()
+             : ToQt(TotalsOf(*rows, program_.Words().stoppedAfter, program_.Text(), signs_));
 }
 
 /// While no count runs the keys of the filter are its own.
@@ -125,12 +129,12 @@ void TablePage::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Escape:
       if (program_.State().Busy()) return QWidget::keyPressEvent(event);  // it stops the count
-      if (words_.text().isEmpty()) return view_.setFocus(Qt::OtherFocusReason);
+      if (words_.text().isEmpty()) return view_.Enter();
       return words_.clear();
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Down:
-      return view_.setFocus(Qt::OtherFocusReason);
+      return view_.Enter();
     default:
       return QWidget::keyPressEvent(event);
   }

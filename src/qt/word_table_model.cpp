@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -10,6 +11,8 @@
 
 namespace quillomat {
 namespace {
+
+constexpr double kWholePercent = 100;
 
 /// What is most wanted of a column comes first when it is clicked on.
 bool StartsWithTheLargest(WordColumn column) {
@@ -41,6 +44,27 @@ void WordTableModel::SetTexts(const ProgramText& text) {
     titles_.append(ToQt(text.GetText(kFirstColumnText + section)));
   }
   emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
+}
+
+/// The first word has the largest figures but for what grows along the ranks.
+QString WordTableModel::WidestOf(int section) const {
+  const WordRows* rows = Rows();
+  if (rows == nullptr || rows->Words().ByFrequency().empty()) return {};
+  const WordTable& words = rows->Words();
+  WordRow widest = words.RowOf(words.ByFrequency().front());
+  widest.rank = words.Words().totals.NumIncludedWords;
+  widest.cumulativePercent = kWholePercent;
+  widest.length = static_cast<std::size_t>(words.Words().totals.MaxWordLength);
+  if (widest.files) {
+    const std::size_t files = words.Words().store.Files().FileList().size();
+    widest.files = static_cast<std::int32_t>(files);
+  }
+  return ToQt(CellOf(widest, ColumnOf(section), signs_));
+}
+
+int WordTableModel::LongestWord() const {
+  const WordRows* rows = Rows();
+  return rows == nullptr ? 0 : rows->Words().Words().totals.MaxWordLength;
 }
 
 QStringList WordTableModel::TitlesOf(const QList<int>& sections) const {

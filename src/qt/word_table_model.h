@@ -28,6 +28,11 @@ class WordTableModel final : public QAbstractTableModel {
   /// The columns' titles in the current language.
   void SetTexts(const ProgramText& text);
 
+  /// As wide as the widest cell of a column of numbers, in letters whose digits have one width.
+  [[nodiscard]] QString WidestOf(int section) const;
+  /// In characters; 0 while there is none.
+  [[nodiscard]] int LongestWord() const;
+
   [[nodiscard]] QStringList TitlesOf(const QList<int>& sections) const;
   /// Cells of a row as another program is to read them: numbers without groups.
   [[nodiscard]] QStringList CopyOf(int row, const QList<int>& sections) const;

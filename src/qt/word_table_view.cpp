@@ -2,8 +2,10 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QToolTip>
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -71,7 +73,7 @@ void WordTableView::SetZoom(int points) {
 /// Nothing is asked of the table while nobody looks.
 void WordTableView::FollowTheTable() {
   const WordRows* rows = isVisible() ? table_.Rows() : nullptr;
-  columns_.SetFilesKnown(rows != nullptr && rows->Words().KnowsFiles());
+  if (rows != nullptr) columns_.FollowContents(rows->Words().KnowsFiles());
 }
 
 void WordTableView::FitToLetters() {
@@ -93,8 +95,23 @@ void WordTableView::KeepTheChosenWord() {
   connect(&model_, &QAbstractItemModel::modelReset, this, [this, chosen] {
     const WordRows* rows = *chosen && model_.rowCount() > 0 ? table_.Rows() : nullptr;
     const auto row = rows == nullptr ? std::nullopt : rows->RowOfPlace(**chosen);
-    if (row) setCurrentIndex(model_.index(static_cast<int>(*row), kWordSection));
+    if (!row) return;
+    executeDelayedItemsLayout();  // else there are still too few rows to go to this one
+    setCurrentIndex(model_.index(static_cast<int>(*row), kWordSection));
   });
+}
+
+/// Nothing is selected by that: what is copied without a selection is all that the filter shows.
+void WordTableView::GoToFirst() {
+  clearSelection();
+  const QModelIndex first = model_.index(0, kWordSection);
+  selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  scrollToTop();
+}
+
+void WordTableView::Enter() {
+  setFocus(Qt::OtherFocusReason);
+  if (!selectionModel()->hasSelection()) selectRow(std::max(currentIndex().row(), 0));
 }
 
 QList<int> WordTableView::SelectedRows() const {
@@ -111,6 +128,7 @@ void WordTableView::CopySelected() const {
   const QList<int> rows = SelectedRows();
   const QList<int> sections = columns_.Shown();
   CopiedRows copied(rows.size());
+  copied.AddTitles(model_.TitlesOf(sections));
   for (const int row : rows) copied.Add(model_.CopyOf(row, sections));
   copied.PutOnClipboard();
 }
@@ -118,10 +136,9 @@ void WordTableView::CopySelected() const {
 void WordTableView::Copy() const {
   if (selectionModel()->hasSelection()) return CopySelected();
   const int rows = model_.rowCount();
-  if (rows == 0) return;
   const QList<int> sections = columns_.Shown();
   CopiedRows copied(rows);
-  copied.Add(model_.TitlesOf(sections));
+  copied.AddTitles(model_.TitlesOf(sections));
   for (int row = 0; row < rows; ++row) copied.Add(model_.CopyOf(row, sections));
   copied.PutOnClipboard();
 }
@@ -171,6 +188,17 @@ void WordTableView::contextMenuEvent(QContextMenuEvent* event) {
   const QPoint place =
       byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(index).bottomLeft());
   ShowMenu(place, index.isValid() ? index.column() : kWordSection, true);
+}
+
+/// A word that its column cuts is told whole.
+bool WordTableView::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
+  const auto& help = *static_cast<QHelpEvent*>(event);
+  const QModelIndex cell = indexAt(help.pos());
+  const QString text = cell.data().toString();
+  const bool isCut = sizeHintForIndex(cell).width() > visualRect(cell).width();
+  QToolTip::showText(help.globalPos(), isCut ? text : QString(), viewport());
+  return true;
 }
 
 void WordTableView::showEvent(QShowEvent* event) {

@@ -24,15 +24,21 @@ class WordTableView final : public QTableView {
   /// The letters are so many points larger than the window's; smaller, below 0.
   void SetZoom(int points);
 
-  /// Puts the selected rows on the clipboard, with the columns that are shown.
+  /// Goes to the first row, as another filter shows others.
+  void GoToFirst();
+  /// Puts the keyboard on the row that it was in last.
+  void Enter();
+
+  /// Puts the selected rows on the clipboard, with the columns that are shown, below their titles.
   void CopySelected() const;
-  /// The same; if none is selected, all rows that the filter shows, below their titles.
+  /// The same; if none is selected, all rows that the filter shows.
   void Copy() const;
 
  protected:
   QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;

@@ -54,8 +54,10 @@ struct CountAtWork {
     result.store.SetListener(&observer);
     observer.OnScanBegins();
   }
-  void EndScan() {
-    if (stop.Stopped()) result.end = CountEnd::kStopped;
+  void EndScan(const CountReach& reach) {
+    if (!stop.Stopped()) return;
+    result.end = CountEnd::kStopped;
+    result.stoppedAfter = reach;
   }
   void Refuse(Refusal refusal) {
     result.end = CountEnd::kRefused;

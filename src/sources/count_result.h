@@ -100,11 +100,26 @@ enum class CountEnd {
   kFailed,
 };
 
+/// How far a count came that was stopped while text was read. What is not known is 0: how many
+/// files there are without a counting pass, the size of a pipe, anything of the clipboard.
+struct CountReach {
+  /// Files that were done with when the stop came, read or left out, of so many in all.
+  std::int32_t files = 0;
+  std::int32_t filesInAll = 0;
+  /// That were read; the last of them may not be counted.
+  std::int64_t bytes = 0;
+  std::int64_t bytesInAll = 0;
+
+  bool operator==(const CountReach&) const = default;
+};
+
 struct CountResult {
   /// So many skipped files are kept.
   static constexpr std::size_t kMaxSkipped = 1000;
 
   CountEnd end = CountEnd::kComplete;
+  /// Of one that ended with kStopped.
+  std::optional<CountReach> stoppedAfter;
   Refusal refusal = Refusal::kNone;
   std::optional<RunTimeError> error;
 

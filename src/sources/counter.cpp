@@ -70,7 +70,7 @@ class Count {
       state_.Refuse(report.refusal);
       result.error = report.error;
     } else {
-      state_.EndScan();
+      state_.EndScan({.bytes = report.bytesRead, .bytesInAll = report.bytes.value_or(0)});
     }
     result.reports.push_back(std::move(report));
   }

@@ -100,7 +100,7 @@ void TextPass::ReadClipboard(std::string_view text) {
   LoadMarkersFor({}, state_.request.scan, state_.settings);
   state_.BeginScan(false);
   reader_.ReadPiece(text);
-  state_.EndScan();
+  state_.EndScan({});
 }
 
 void TextPass::ReadFile(FileReport& report) {

@@ -134,6 +134,9 @@ inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 /// The first items of cboEncoding; the others are names.
 inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 
+/// The items of the export window's cboOrder, in the order of WordOrder.
+inline constexpr std::array<int, 2> kExportOrderTexts = {870, 871};
+
 /// Tool tips of frmParams.
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({
     {"cmdSelectWordsFile(0)", 476},
@@ -362,5 +365,14 @@ inline constexpr int kFileNotOpenedText = 846;
 inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
+
+// A count that was stopped: how far it came ("%1" of "%2"), and what that means.
+inline constexpr int kStoppedAfterFilesText = 860;
+inline constexpr int kStoppedAfterBytesText = 861;
+inline constexpr int kStoppedBeforeTheEndText = 862;
+/// "%1" stands for one of the three.
+inline constexpr int kListNotCompleteText = 863;
+inline constexpr int kPartOfTextText = 864;
+inline constexpr int kOrderFiguresMissingText = 865;
 
 }  // namespace quillomat

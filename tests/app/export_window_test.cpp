@@ -86,8 +86,47 @@ TEST_F(ExportWindowTest, EndingChoosesTheFormatAndANameWithoutOneGetsIt) {
   ExportTo(Target("plain"));
   EXPECT_EQ(Window().txbFile.Text(), Target("plain.tsv"));
   EXPECT_EQ(ContentsOf(Target("plain.tsv")), ContentsOf(Target("list.tsv")));
-  ExportTo(Target("list.dat"));
-  EXPECT_EQ(ContentsOf(Target("list.dat")), ContentsOf(Target("list.tsv"))) << "as chosen";
+}
+
+TEST_F(ExportWindowTest, NameWithAnotherEndingGetsThatOfTheChosenFormat) {
+  OpenFor("cat");
+  ChooseThreeColumns();
+  Window().cboFormat.PerformChoice(3);
+  ExportTo(Target("vol.2"));
+  EXPECT_EQ(Window().txbFile.Text(), Target("vol.2.html"));
+  EXPECT_THAT(ContentsOf(Target("vol.2.html")), HasSubstr("<!DOCTYPE html>"));
+  EXPECT_FALSE(FileExists(Target("vol.2")));
+  EXPECT_THAT(Window().lblState.Caption(), HasSubstr("vol.2.html is written"));
+}
+
+TEST_F(ExportWindowTest, OrdersAreInTheLanguageOfTheProgram) {
+  OpenFor("cat");
+  EXPECT_EQ(Window().cboOrder.Items()[1], "alphabetical");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Window().cboOrder.Items()[0], "nach H\u00E4ufigkeit");
+  EXPECT_EQ(Window().cboOrder.Items()[1], "alphabetisch");
+}
+
+TEST_F(ExportWindowTest, SettingsAreThoseOfTheCountUnderTheTerminalsNames) {
+  Panel().chkIgnoreShortWords.SetChecked(true);
+  Panel().cboShortWordSize.SetListIndex(2);
+  Panel().chkAllowCommentMarkers.SetChecked(true);
+  TypeWords(WordListKind::kIgnore, "the");
+  OpenFor("the feline the");
+  Panel().chkIgnoreShortWords.SetChecked(false);  // not of this list any more
+  ExportTo(Target("list.json"));
+  const std::string json = ContentsOf(Target("list.json"));
+  EXPECT_THAT(json, HasSubstr(R"("settings": {"file":)"));
+  EXPECT_THAT(json, HasSubstr(R"("case-sensitive":false)"));
+  EXPECT_THAT(json, HasSubstr(R"("hyphens":true)"));
+  EXPECT_THAT(json, HasSubstr(R"("min-length":4)"));
+  EXPECT_THAT(json, HasSubstr(R"("min-count":1)"));
+  EXPECT_THAT(json, HasSubstr(R"("letters":"western")"));
+  EXPECT_THAT(json, HasSubstr(R"("encoding":"as-found")"));
+  EXPECT_THAT(json, HasSubstr(R"("comments":"/*,*/ //")"));
+  EXPECT_THAT(json, HasSubstr(R"("ignore-words":"the")"));
+  EXPECT_THAT(json, testing::Not(HasSubstr("chk")));
+  EXPECT_THAT(json, HasSubstr(R"("complete":true)"));
 }
 
 TEST_F(ExportWindowTest, ExistingFileIsAskedAbout) {
@@ -120,10 +159,11 @@ TEST_F(ExportWindowTest, ExistingFileIsAskedAbout) {
 }
 
 TEST_F(ExportWindowTest, CountedTextIsNeverWritten) {
-  OpenFor("cat");
-  ExportTo(folder / "text.txt");
-  EXPECT_THAT(OnlyMessage().text, HasSubstr((folder / "text.txt") + " is the text"));
-  EXPECT_EQ(ContentsOf(folder / "text.txt"), "cat");
+  CountFile(folder.Write("text.csv", "cat"));
+  Main().cmdExport.PerformClick();
+  ExportTo(folder / "text.csv");
+  EXPECT_THAT(OnlyMessage().text, HasSubstr((folder / "text.csv") + " is the text"));
+  EXPECT_EQ(ContentsOf(folder / "text.csv"), "cat");
 }
 
 TEST_F(ExportWindowTest, FaultsNameWhatIsWrong) {

@@ -70,7 +70,9 @@ TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
   Table().selectRow(1);
   Window().FilesView().Copy();
   EXPECT_EQ(FromQt(QApplication::clipboard()->text()),
-            folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
+            "File\tBytes\tEncoding\tLine ends\tLines\tWords\tLetters not counted\tLines not "
+            "UTF-8\tBytes not decoded\tNot read\n" +
+                folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
 }
 
 TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {

@@ -222,6 +222,65 @@ TEST_F(MainWindowViewTest, FoundPlacesAreCountedAndKeysGoThroughThem) {
   EXPECT_FALSE(says("3 of 3"));
 }
 
+TEST_F(MainWindowViewTest, OldHitLeavesNeitherMarkNorMessage) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "dog dog cat cats\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  auto* word = bar.findChild<QLineEdit*>();
+  const auto& list = user->windows.Main().List();
+  const auto said = [&bar] {
+    QString all;
+    for (const QLabel* label : bar.findChildren<QLabel*>()) {
+      if (label != bar.findChild<QLabel*>()) all += label->text();
+    }
+    return FromQt(all);
+  };
+  QTest::keyClicks(word, "cat");
+  EXPECT_EQ(said(), "1 of 2");
+  EXPECT_EQ(list.textCursor().selectedText(), "cat");
+  QTest::keyClicks(word, "x");
+  EXPECT_EQ(said(), "Not found");
+  EXPECT_EQ(list.textCursor().selectedText(), "");
+  word->selectAll();
+  QTest::keyClicks(word, "cat");
+  QTest::keyClick(word, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(word, Qt::Key_Delete);
+  EXPECT_EQ(said(), "");
+  EXPECT_EQ(list.textCursor().selectedText(), "");
+  QTest::keyClicks(word, "cat");
+  frmMain.cboWordOrder.SetListIndex(1);
+  user->Settle();
+  EXPECT_EQ(said(), "") << "it is another text";
+}
+
+TEST_F(MainWindowViewTest, WordBelowTheTextIsToldOfBesideHitsInTheText) {
+  std::string text;
+  for (int i = 0; i < 12'000; ++i) {
+    text += "wo";
+    for (int rest = i, k = 0; k < 4; ++k, rest /= 26) text += static_cast<char>('a' + rest % 26);
+    text += "\n";
+  }
+  user->program.Sources().ChooseText(folder.Write("a.txt", text + "azoo zoo\n"));
+  boxes.Answer(QMessageBox::Ok);  // the box is full
+  user->Click(frmMain.cmdCountWords);
+  ASSERT_TRUE(user->program.Output().Part().IsCut());
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  const auto says = [&bar](const QString& wanted) {
+    const auto labels = bar.findChildren<QLabel*>();
+    return std::ranges::any_of(
+        labels, [&](const QLabel* label) { return label->isVisible() && label->text() == wanted; });
+  };
+  auto* word = bar.findChild<QLineEdit*>();
+  QTest::keyClicks(word, "zoo");
+  EXPECT_EQ(user->windows.Main().List().textCursor().selectedText(), "zoo") << "of azoo";
+  EXPECT_TRUE(says("rank 12,002, frequency 1, below the end of this text"));
+  word->selectAll();
+  QTest::keyClicks(word, "azoo");
+  EXPECT_FALSE(says("rank 12,002, frequency 1, below the end of this text"));
+}
+
 TEST_F(MainWindowViewTest, NumbersOfTheSummaryStandApart) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu cat\n"));
   user->Click(frmMain.cmdCountWords);

@@ -50,12 +50,22 @@ TEST_F(StatisticsPageTest, IsThereWhenItIsOpenedAfterTheCountInTheLanguageOfThen
   EXPECT_EQ(Cell(1, 0), "Different words");
 }
 
-TEST_F(StatisticsPageTest, CountsAgainForFiguresOfTheOrderAndRemembersThat) {
+TEST_F(StatisticsPageTest, FiguresOfTheOrderComeWithANewCountAndTheChoiceIsRemembered) {
   Count("to be or not to be\n");
   OpenPage();
   const int rows = Table().rowCount();
   Window().StatisticsView().OrderBox().click();
   user->Settle();
+  EXPECT_EQ(Table().rowCount(), rows) << "nobody has asked for a count";
+  EXPECT_EQ(user->program.frmMain.lblNotice.Caption(),
+            "Figures of the order of words need a new count.");
+  Window().StatisticsView().OrderBox().click();
+  user->Settle();
+  EXPECT_FALSE(user->program.frmMain.lblNotice.Visible());
+  Window().StatisticsView().OrderBox().click();
+  user->Settle();
+  user->Click(user->program.frmMain.cmdNotice[0]);
+  EXPECT_FALSE(user->program.frmMain.lblNotice.Visible());
   EXPECT_EQ(Table().rowCount(), rows + 6);
   EXPECT_EQ(Cell(rows + 5, 0), "Different words after 6 instances");
   user->Click(user->program.frmMain.cmdQuit);
@@ -63,6 +73,25 @@ TEST_F(StatisticsPageTest, CountsAgainForFiguresOfTheOrderAndRemembersThat) {
   ASSERT_TRUE(user->Start());
   EXPECT_TRUE(Window().StatisticsView().OrderBox().isChecked());
   EXPECT_TRUE(user->program.Settings().wantsOrderFigures);
+}
+
+TEST_F(StatisticsPageTest, NumbersStandOnTheRightAndLongWordsAreNotCut) {
+  std::string text;
+  for (char letter = 'a'; letter <= 'j'; ++letter) text += std::string(40, letter) + "e ";
+  Count(text + "\n");
+  OpenPage();
+  Window().resize(700, 600);
+  user->Settle();
+  EXPECT_EQ(Table().item(0, 1)->textAlignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+  const auto longest = Table().findItems("aaaaaae", Qt::MatchContains);
+  ASSERT_EQ(longest.size(), 1);
+  EXPECT_EQ(longest[0]->textAlignment() & Qt::AlignHorizontal_Mask, 0);
+  EXPECT_EQ(longest[0]->toolTip(), longest[0]->text());
+  const QModelIndex cell = Table().model()->index(longest[0]->row(), 1);
+  const QRect place = Table().visualRect(cell);
+  const QRect needed = Table().fontMetrics().boundingRect(QRect(0, 0, place.width(), 10'000),
+                                                          Qt::TextWordWrap, longest[0]->text());
+  EXPECT_GE(place.height(), needed.height());
 }
 
 TEST_F(StatisticsPageTest, RowsAreCopiedWithTheirColumns) {

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QTabBar>
 #include <gmock/gmock.h>
@@ -146,7 +147,8 @@ TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
   QTest::keyClick(&View(), Qt::Key_Down, Qt::ShiftModifier);
   QTest::keySequence(&View(), QKeySequence::Copy);
   const QMimeData* copied = QApplication::clipboard()->mimeData();
-  EXPECT_EQ(FromQt(copied->text()), "1\tdog\t2\n2\tcat\t1\n");
+  EXPECT_EQ(FromQt(copied->text()), "Rank\tWord\tFrequency\n1\tdog\t2\n2\tcat\t1\n");
+  EXPECT_TRUE(copied->html().contains("<tr><th>Rank</th><th>Word</th><th>Frequency</th></tr>"));
   EXPECT_TRUE(copied->html().contains("<tr><td>1</td><td>dog</td><td>2</td></tr>"));
 }
 
@@ -166,10 +168,10 @@ TEST_F(TablePageTest, CommandThatCopiesTakesWhatIsInFront) {
   Box().clear();
   View().selectRow(2);
   user->Click(copy);
-  EXPECT_EQ(copied(), "emu\t1\n");
+  EXPECT_EQ(copied(), "Word\tFrequency\nemu\t1\n");
   TypeFilter("nothing");
   user->Click(copy);
-  EXPECT_EQ(copied(), "emu\t1\n") << "there is nothing to copy";
+  EXPECT_EQ(copied(), "Word\tFrequency\nemu\t1\n") << "there is nothing to copy";
 }
 
 TEST_F(TablePageTest, ColumnsAndTheirWidthsAreRemembered) {
@@ -233,6 +235,75 @@ TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
   EXPECT_EQ(Cell(0, WordColumn::kWord), "zzo");
   QTest::keyClick(&View(), Qt::Key_Home);
   EXPECT_EQ(View().currentIndex().row(), 0);
+}
+
+TEST_F(TablePageTest, AnotherFilterGoesToItsFirstWord) {
+  std::string text;
+  for (char first = 'a'; first <= 'z'; ++first) {
+    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
+  }
+  Count(text);
+  OpenTable();
+  View().setFocus();
+  QTest::keyClick(&View(), Qt::Key_End);
+  Box().setFocus();
+  TypeFilter("o");
+  EXPECT_EQ(View().currentIndex().row(), 0);
+  EXPECT_EQ(View().rowAt(0), 0) << "and it is in view";
+  EXPECT_FALSE(View().selectionModel()->hasSelection()) << "what is copied is all that is shown";
+  QTest::keyClick(&Box(), Qt::Key_Down);
+  EXPECT_TRUE(View().hasFocus());
+  EXPECT_TRUE(View().selectionModel()->isRowSelected(0));
+  View().selectRow(300);
+  Box().setFocus();
+  TypeFilter("m");
+  EXPECT_EQ(View().currentIndex().row(), 0);
+}
+
+TEST_F(TablePageTest, WordChosenAmongSomeStaysInViewAmongAll) {
+  std::string text;
+  for (char first = 'a'; first <= 'z'; ++first) {
+    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
+  }
+  Count(text);
+  OpenTable();
+  Box().setFocus();
+  TypeFilter("zz");
+  QTest::keyClick(&Box(), Qt::Key_Return);
+  Box().setFocus();
+  QTest::keyClick(&Box(), Qt::Key_Escape);
+  EXPECT_EQ(Cell(View().currentIndex().row(), WordColumn::kWord), "zzo");
+  EXPECT_TRUE(View().viewport()->rect().intersects(View().visualRect(View().currentIndex())));
+}
+
+TEST_F(TablePageTest, WordsAreNotCutWhileNumbersHaveRoom) {
+  const std::string longest = "incomprehensibilities";
+  Count("the the the " + longest + " cat\n");
+  OpenTable();
+  Window().resize(1100, 700);
+  user->Settle();
+  const int wanted = View().fontMetrics().horizontalAdvance(ToQt(longest));
+  int numbers = 0;
+  int wantedByNumbers = 0;
+  for (const int section : View().Columns().Shown()) {
+    if (section == static_cast<int>(WordColumn::kWord)) continue;
+    numbers += View().columnWidth(section);
+    wantedByNumbers += View().horizontalHeader()->sectionSizeHint(section);
+  }
+  const int words = View().columnWidth(static_cast<int>(WordColumn::kWord));
+  EXPECT_GE(words, std::min(wanted, View().viewport()->width() - wantedByNumbers));
+  EXPECT_LE(words + numbers, View().viewport()->width());
+  EXPECT_LE(numbers, wantedByNumbers * 5 / 4) << "titles are wider than these numbers";
+}
+
+TEST_F(TablePageTest, MenuOffersFilesOnlyWhereTheyAreKnown) {
+  Count("cat\n");
+  OpenTable();
+  QMenu menu;
+  View().Columns().AddTo(menu);
+  EXPECT_EQ(menu.actions().size(), 7);
+  EXPECT_FALSE(std::ranges::any_of(
+      menu.actions(), [](const QAction* action) { return action->text() == "Files"; }));
 }
 
 TEST_F(TablePageTest, PlaceInTheTableIsKeptWhileTheTextIsLookedAt) {

@@ -173,6 +173,19 @@ TEST_F(ManyFiles, AreStoppedInTheMiddle) {
   EXPECT_EQ(result.end, CountEnd::kStopped);
   EXPECT_EQ(WordsOf(result), "cat dog");
   EXPECT_EQ(result.files, 1);
+  EXPECT_EQ(result.stoppedAfter.value().files, 0) << "the first was not read to its end";
+}
+
+TEST_F(ManyFiles, SayAfterHowManyTheyWereStopped) {
+  Put("e.txt", "");
+  request.countingPass = CountingPass::kFilesAndBytes;
+  observer.onFileBegins = [this](const FileBegins& file) {
+    observer.stopped = file.path.ends_with("c.txt");
+  };
+  const CountReach reach = Run(Whole()).stoppedAfter.value();
+  EXPECT_EQ(reach.files, 3) << "what is left out is done with, too";
+  EXPECT_EQ(reach.filesInAll, 4);
+  EXPECT_EQ(reach.bytesInAll, 13);
 }
 
 // What is left out.

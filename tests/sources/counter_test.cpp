@@ -82,6 +82,23 @@ TEST_F(OneText, StopsAtTheWordThatItIsStoppedAt) {
   EXPECT_EQ(result.end, CountEnd::kStopped);
   EXPECT_EQ(WordsOf(result), "cat dog");
   EXPECT_EQ(result.files, 1);
+  EXPECT_EQ(result.stoppedAfter, (CountReach{.bytes = 15, .bytesInAll = 15}))
+      << "a short text is read at once";
+}
+
+TEST_F(OneText, ThatIsStoppedSaysHowFarItWasRead) {
+  std::string text;
+  while (text.size() < 4'000'000) text += "the cat sat on the mat\n";
+  request.threads = 1;
+  observer.stopAtWord = 2;
+  const CountResult result = Run(TextOfFile{folder.Write("a.txt", text)});
+  ASSERT_TRUE(result.stoppedAfter);
+  EXPECT_GT(result.stoppedAfter->bytes, 0);
+  EXPECT_LT(result.stoppedAfter->bytes, result.stoppedAfter->bytesInAll);
+  EXPECT_EQ(result.stoppedAfter->bytesInAll, static_cast<std::int64_t>(text.size()));
+  observer.stopAtWord = 0;
+  observer.stopped = false;
+  EXPECT_FALSE(Run(TextOfFile{folder / "a.txt"}).stoppedAfter);
 }
 
 TEST_F(OneText, IsRanked) {

@@ -164,7 +164,10 @@ TEST_F(FilesOnThreads, FailAtTheFileThatOverflows) {
   request.threads = 2;
   const CountResult result = Run(TextOfFolder{folder.Path(), false, {}});
   EXPECT_EQ(result.end, CountEnd::kFailed);
-  EXPECT_EQ(result.error.value().Description(), "Overflow");
+  EXPECT_EQ(result.error.value().Description(),
+            "Overflow: the word \"cat\" occurs more than 32,767 times in " +
+                (folder / Numbered(20)) +
+                ", the most that is counted for one file of several.  Count that file by itself.");
   EXPECT_EQ(observer.events.back(), "begins " + Numbered(20));
 }
 

@@ -30,6 +30,7 @@ void WindowObserver::OnScanBegins() {
   count_.words.Discard();
   count_.words.counted = text_;
   count_.words.basis = basis_;
+  count_.words.settings = settings_;
   count_.inForce.settings.CountOnlyMode = countOnlyMode_;
 }
 
@@ -61,7 +62,8 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
-    count.words.folder = {result.files, result.folders, {}};
+    count.words.folder = {result.files, result.folders, result.skippedInAll, {}};
+    count.words.stoppedAfter = result.stoppedAfter;
     count.words.FilesKnown.Fire();
     count.inForce.settings.OpenComment = result.openComment;
   }

@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "app/count/count_basis.h"
 #include "app/count/progress_bar.h"
 #include "app/count/word_echo.h"
+#include "app/exports/setting_facts.h"
 #include "app/what_parts_share.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
@@ -44,6 +46,7 @@ class WindowObserver : public CountObserver {
       : count_(count),
         text_(std::move(text)),
         basis_(CountBasisOf(count.frmMain, count.frmParams, count.inForce)),
+        settings_(SettingFactsOf(text_, count.frmMain, count.frmParams)),
         countOnlyMode_(count.inForce.lists.HasCountOnlyWords()),
         echo_(count.frmMain, count.output, count.messages, count.inForce.settings),
         fileProgress_(count.frmMain.lblTotalNumOccurrences) {}
@@ -72,6 +75,7 @@ class WindowObserver : public CountObserver {
   const WindowCount& count_;
   CountedText text_;
   CountBasis basis_;
+  std::vector<ExportFact> settings_;
   bool countOnlyMode_;
   WordEcho echo_;
   ProgressBar fileProgress_;

@@ -225,7 +225,7 @@ bool ExportWindow::TakeFirst(ExportWish& wish) {
   return false;
 }
 
-/// A name without an ending gets that of the format.
+/// A name without an ending that is one of ours gets that of the format: "vol.2" is no format.
 bool ExportWindow::TakePath() {
   TextBox& txbFile = frmExport_.txbFile;
   paths_.CompletePathIn(txbFile);
@@ -234,7 +234,7 @@ bool ExportWindow::TakePath() {
     Complain(Text(kNoExportFileText), txbFile);
     return false;
   }
-  if (ExtensionOf(path).empty()) path.append(".").append(EndingOf(Format()));
+  if (!ExportFormatOfPath(path)) path.append(".").append(EndingOf(Format()));
   if (path != txbFile.Text()) txbFile.SetText(path);
   FollowEnding();
   const std::string folder = FolderPartOf(path);
@@ -275,7 +275,7 @@ void ExportWindow::Write(const ExportWish& wish) {
     const PhaseGuard guard(run_, RunPhase::kExporting);
     ShowRunning(true);
     try {
-      const ResultExport result(words_, frmMain_, frmParams_, wish);
+      const ResultExport result(words_, wish);
       words = messages_.Grouped(static_cast<std::int64_t>(result.Table().places.size()));
       const ExportWork write = [&, format = Format()](const ExportProgress& progress) {
         return ExportToFile(result.Table(), format, path, progress);

@@ -3,27 +3,17 @@
 #include <algorithm>
 #include <iterator>
 
-#include "app/setting_values.h"
-#include "app/settings_table.h"
 #include "listing/statistics.h"
 
 namespace quillomat {
 namespace {
 
-std::vector<ExportFact> SettingsOf(const MainForm& frmMain, const ParamsForm& frmParams) {
-  std::vector<ExportFact> facts;
-  for (const Setting& setting : AllSettings()) {
-    facts.push_back(
-        {std::string(setting.control), ValueTextOf(ControlOf(setting, frmMain, frmParams))});
-  }
-  return facts;
-}
-
 std::vector<ExportFact> TotalsOf(const CurrentWords& words) {
-  std::vector<ExportFact> facts = {{"words", std::int64_t{words.totals.NumIncludedWords}},
-                                   {"words-excluded", std::int64_t{words.totals.NumExcludedWords}},
-                                   {"instances", std::int64_t{words.totals.TotalIncludedCount}},
-                                   {"instances-of-all-words", std::int64_t{words.WordsRead}}};
+  std::vector<ExportFact> facts = CompletenessOf(words);
+  facts.push_back({"words", std::int64_t{words.totals.NumIncludedWords}});
+  facts.push_back({"words-excluded", std::int64_t{words.totals.NumExcludedWords}});
+  facts.push_back({"instances", std::int64_t{words.totals.TotalIncludedCount}});
+  facts.push_back({"instances-of-all-words", std::int64_t{words.WordsRead}});
   if (words.folder.filesScanned > 0) {
     facts.push_back({"files", std::int64_t{words.folder.filesScanned}});
     facts.push_back({"folders", std::int64_t{words.folder.foldersScanned}});
@@ -53,6 +43,21 @@ std::vector<std::int32_t> PlacesOf(const WordTable& words, const ExportWish& wis
 
 }  // namespace
 
+std::vector<ExportFact> CompletenessOf(const CurrentWords& words) {
+  std::vector<ExportFact> facts = {{"complete", words.AreOfWholeText()}};
+  const auto add = [&facts](const char* name, std::int64_t number) {
+    if (number > 0) facts.push_back({name, number});
+  };
+  add("skipped", words.folder.skipped);
+  if (!words.stoppedAfter) return facts;
+  const CountReach& reach = *words.stoppedAfter;
+  if (reach.filesInAll > 0) facts.push_back({"files-done", std::int64_t{reach.files}});
+  add("files-in-all", reach.filesInAll);
+  add("bytes-read", reach.bytes);
+  add("bytes-in-all", reach.bytesInAll);
+  return facts;
+}
+
 bool NeedsFiles(WordColumn column) {
   return column == WordColumn::kFile || column == WordColumn::kFiles;
 }
@@ -62,8 +67,7 @@ std::optional<NeededAs> WhyNotToExport(const std::string& path, const CurrentWor
   return WhyNotToWrite(path, words.counted, inForce.filesRead);
 }
 
-ResultExport::ResultExport(const CurrentWords& words, const MainForm& frmMain,
-                           const ParamsForm& frmParams, const ExportWish& wish)
+ResultExport::ResultExport(const CurrentWords& words, const ExportWish& wish)
     : words_(words.Counted(), words.WordsRead),
       places_(PlacesOf(words_, wish)),
       table_{words_,
@@ -71,6 +75,6 @@ ResultExport::ResultExport(const CurrentWords& words, const MainForm& frmMain,
              wish.columns,
              TotalsOf(words),
              FactsOf(StatisticsOf(words.store, words.orderFigures)),
-             SettingsOf(frmMain, frmParams)} {}
+             words.settings} {}
 
 }  // namespace quillomat

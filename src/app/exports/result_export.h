@@ -14,8 +14,6 @@
 #include "listing/display_format.h"
 #include "listing/word_table.h"
 #include "sources/output_rules.h"
-#include "ui/main_form.h"
-#include "ui/params_form.h"
 
 namespace quillomat {
 
@@ -29,6 +27,10 @@ struct ExportWish {
   std::optional<std::vector<std::int32_t>> among = {};
 };
 
+/// Whether the words are those of the whole text ("complete"), and if not, what is missing: how
+/// much was skipped, how far a count came that was stopped.
+[[nodiscard]] std::vector<ExportFact> CompletenessOf(const CurrentWords& words);
+
 /// Whether a column is known only where it was counted which files a word occurs in.
 [[nodiscard]] bool NeedsFiles(WordColumn column);
 
@@ -39,9 +41,8 @@ struct ExportWish {
 
 class ResultExport {
  public:
-  /// The words and the forms outlive it, and do not change meanwhile.
-  ResultExport(const CurrentWords& words, const MainForm& frmMain, const ParamsForm& frmParams,
-               const ExportWish& wish);
+  /// The words outlive it, and do not change meanwhile.
+  ResultExport(const CurrentWords& words, const ExportWish& wish);
   ResultExport(const ResultExport&) = delete;
   ResultExport& operator=(const ResultExport&) = delete;
   ResultExport(ResultExport&&) = delete;

@@ -10,6 +10,7 @@
 #include "app/count/count_basis.h"
 #include "engine/uncounted.h"
 #include "engine/word_store.h"
+#include "export/export_table.h"
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
 #include "listing/order_figures.h"
@@ -25,6 +26,8 @@ struct FolderFigures {
   std::int32_t filesScanned = 0;
   /// The chosen one included; 0 where no folder was scanned.
   std::int32_t foldersScanned = 0;
+  /// Files and folders that should have been read and were not.
+  std::int64_t skipped = 0;
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
 };
@@ -55,8 +58,12 @@ struct CurrentWords {
   /// What became of each file of the count, in their order; if that was wanted, or of a single one.
   std::vector<FileReport> files;
   FolderFigures folder;
+  /// How far their count came, if it was stopped.
+  std::optional<CountReach> stoppedAfter;
   /// What their count went by.
   CountBasis basis;
+  /// The same for people, as exports tell it.
+  std::vector<ExportFact> settings;
 
   /// The last count went to its end, and its words can be listed again.
   bool completeRun = false;
@@ -70,6 +77,9 @@ struct CurrentWords {
   /// Whether a list of words stands that can be made anew.
   [[nodiscard]] bool CanBeListed() const { return completeRun || listAfterStop; }
 
+  /// Whether the words are those of the whole text: nothing was skipped, and nobody stopped it.
+  [[nodiscard]] bool AreOfWholeText() const { return !stoppedAfter && folder.skipped == 0; }
+
   /// Empties the store: the words of the last count are gone, and with them what was known of them.
   void Discard() {
     WordsGo.Fire();
@@ -82,7 +92,9 @@ struct CurrentWords {
     counted = {};
     files.clear();
     folder = {};
+    stoppedAfter.reset();
     basis = {};
+    settings.clear();
     completeRun = false;
     listAfterStop = false;
     blnWordsGot = false;

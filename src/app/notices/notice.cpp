@@ -30,10 +30,25 @@ Values NameOf(const std::string& name) {
   return name.empty() ? std::nullopt : Values(std::vector<NoticeValue>{name});
 }
 
+/// A new count would be of another text than the list is of.
+bool NamesOtherText(const NoticeFacts& facts) {
+  return !facts.file.empty() || !facts.folder.empty() || facts.clipboard;
+}
+
+Values StoppedIf(bool holds, const NoticeFacts& facts) {
+  return holds ? NameOf(facts.stopped) : std::nullopt;
+}
+
 using enum NoticeAction;
 
 // First what makes the list other than it looks, then what is missing in it by the user's own will.
 constexpr auto kRows = std::to_array<NoticeRow>({
+    {kListNotCompleteText,
+     0,
+     [](const NoticeFacts& facts) { return StoppedIf(!NamesOtherText(facts), facts); },
+     {kCountAgain}},
+    {kListNotCompleteText, 0,
+     [](const NoticeFacts& facts) { return StoppedIf(NamesOtherText(facts), facts); }},
     {kFilesSkippedText,
      kFileSkippedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.skipped); },
@@ -44,6 +59,10 @@ constexpr auto kRows = std::to_array<NoticeRow>({
     {kSettingsChangedText,
      0,
      [](const NoticeFacts& facts) { return If(facts.settingsChanged); },
+     {kCountAgain}},
+    {kOrderFiguresMissingText,
+     0,
+     [](const NoticeFacts& facts) { return If(facts.orderFiguresMissing); },
      {kCountAgain}},
     {kBytesNotDecodedText,
      kByteNotDecodedText,

@@ -26,6 +26,8 @@ enum class NoticeAction : std::uint8_t {
 struct NoticeFacts {
   /// Words were counted, and what came of it is on display. Nothing else counts without.
   bool listStands = false;
+  /// How far the count came, in words, if it was stopped.
+  std::string stopped = {};
   /// Files and folders that should have been read.
   std::int64_t skipped = 0;
   /// The text that the list is of, where the window names another one by now; one of the three.
@@ -34,6 +36,8 @@ struct NoticeFacts {
   bool clipboard = false;
   /// The list would be another one if it were made now.
   bool settingsChanged = false;
+  /// Figures of the order of words are wanted, and were not when the words were counted.
+  bool orderFiguresMissing = false;
   /// Letters of other alphabets than the count went by.
   std::int64_t foreignLetters = 0;
   /// Scripts without blanks were not cut into words.

@@ -6,6 +6,7 @@
 
 #include "app/count/count_basis.h"
 #include "app/count/named_text.h"
+#include "app/count/reach_text.h"
 #include "app/setting_values.h"
 #include "base/text_helpers.h"
 #include "system/paths.h"
@@ -69,6 +70,10 @@ NoticeFacts NoticeBar::Facts() const {
   NoticeFacts facts;
   facts.listStands = words_.CanBeListed() && (!textShown_ || TextHoldsList());
   if (!facts.listStands) return facts;
+  if (words_.stoppedAfter) {
+    facts.stopped =
+        ReachText(*words_.stoppedAfter, messages_.Texts(), messages_.DigitGroupSeparator());
+  }
   if (words_.counted.source == CountedText::Source::kFolder) {
     facts.skipped = countRun_.SkippedInAll();
   }
@@ -76,6 +81,7 @@ NoticeFacts NoticeBar::Facts() const {
   const CountBasis& basis = countRun_.Basis();
   facts.settingsChanged =
       !CountAlike(basis, CountBasisOf(frmMain_, frmParams_, inForce_), words_.counted.source);
+  facts.orderFiguresMissing = inForce_.wantsOrderFigures && !words_.orderFigures;
   facts.foreignLetters = words_.uncounted.foreignLetters;
   facts.runsLeftWhole = words_.uncounted.runsLeftWhole;
   facts.bytesNotDecoded = words_.uncounted.bytesNotDecoded;

@@ -35,6 +35,8 @@ class NoticeBar {
   /// Shows what holds now. To be called when something has changed that the bar does not see by
   /// itself: the language.
   void Update();
+  /// The same, unless a count or a list is at work, behind which it is updated anyway.
+  void UpdateWhenIdle();
 
   // What shows the list as a table, what exports it, and what counts again with the letters of all
   // languages; without one there is no command for it.
@@ -50,7 +52,6 @@ class NoticeBar {
   [[nodiscard]] NoticeFacts Facts() const;
   [[nodiscard]] bool TextHoldsList() const;
   void AddTextCounted(NoticeFacts& facts) const;
-  void UpdateWhenIdle();
   void OnOutputChange();
   void Show(const Notice& notice);
   void Hide();

@@ -4,6 +4,7 @@
 #include <numeric>
 #include <variant>
 
+#include "app/count/reach_text.h"
 #include "base/text_helpers.h"
 #include "text/caption_table.h"
 
@@ -76,6 +77,11 @@ std::string FileRows::ReasonText(const FileReport& file) const {
     reason.append(": ").append(file.error->Description());
   }
   return reason;
+}
+
+std::string FileRows::StoppedText(const NumberSigns& signs) const {
+  if (places_.empty() || !words_.stoppedAfter) return {};
+  return ReachText(*words_.stoppedAfter, text_, signs.group);
 }
 
 std::string FileRows::TextAt(std::size_t row, FileColumn column, const NumberSigns& signs) const {

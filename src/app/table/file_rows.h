@@ -30,6 +30,9 @@ class FileRows {
   [[nodiscard]] std::string TextAt(std::size_t row, FileColumn column,
                                    const NumberSigns& signs) const;
 
+  /// How far the count came, in words, if it was stopped; else "".
+  [[nodiscard]] std::string StoppedText(const NumberSigns& signs) const;
+
   struct Order {
     FileColumn column = FileColumn::kPath;
     bool descending = false;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <variant>
 
+#include "app/count/reach_text.h"
 #include "base/text_helpers.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -38,15 +39,30 @@ ResultStatistics::ResultStatistics(const CurrentWords& words, const ProgramText&
   });
 }
 
+void ResultStatistics::AddIncompleteness(std::vector<Row>& rows, const NumberSigns& signs) const {
+  const std::string name = text_.GetText(kPartOfTextText);
+  if (words_.stoppedAfter) {
+    rows.push_back({name, ReachText(*words_.stoppedAfter, text_, signs.group), false});
+  }
+  const std::int64_t skipped = words_.folder.skipped;
+  if (skipped == 0) return;
+  rows.push_back({name,
+                  Filled(text_.GetText(skipped == 1 ? kFileSkippedText : kFilesSkippedText),
+                         {GroupDigits(skipped, signs.group)}),
+                  false});
+}
+
 std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& signs) {
   std::vector<Row> rows;
   if (!hasWords_) return rows;
+  AddIncompleteness(rows, signs);
   if (!statistics_) statistics_ = StatisticsOf(words_.store, words_.orderFigures);
   for (const Statistic& statistic : ListStatistics(*statistics_)) {
     const std::string name = text_.GetText(kFirstStatisticText + static_cast<int>(statistic.name));
     const auto* points = std::get_if<std::vector<GrowthPoint>>(&statistic.value);
     if (points == nullptr) {
-      rows.push_back({name, ValueOf(statistic.value, signs)});
+      const bool isNumber = !std::holds_alternative<std::string>(statistic.value);
+      rows.push_back({name, ValueOf(statistic.value, signs), isNumber});
       continue;
     }
     for (const GrowthPoint& point : *points) {

@@ -25,13 +25,17 @@ class ResultStatistics {
   struct Row {
     std::string name;
     std::string value;
+    bool isNumber = true;
 
     bool operator==(const Row&) const = default;
   };
-  /// None while there is no count. Worked out when first asked for, which takes a moment.
+  /// None while there is no count; first, what they are missing if they are not of the whole text.
+  /// Worked out when first asked for, which takes a moment.
   [[nodiscard]] std::vector<Row> Rows(const NumberSigns& signs);
 
  private:
+  void AddIncompleteness(std::vector<Row>& rows, const NumberSigns& signs) const;
+
   const CurrentWords& words_;
   const ProgramText& text_;
   bool hasWords_ = false;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "app/count/reach_text.h"
 #include "base/text_helpers.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -59,10 +60,13 @@ std::string CellOf(const WordRow& row, WordColumn column, const NumberSigns& sig
   return {};
 }
 
-std::string TotalsOf(const WordRows& rows, const ProgramText& text, const NumberSigns& signs) {
+std::string TotalsOf(const WordRows& rows, const std::optional<CountReach>& stopped,
+                     const ProgramText& text, const NumberSigns& signs) {
   const auto words = static_cast<std::int64_t>(rows.Size());
-  return Counted(words, kOneWordText, kWordsText, text, signs) + ", " +
-         Counted(rows.Instances(), kOneInstanceText, kInstancesText, text, signs);
+  const std::string totals =
+      Counted(words, kOneWordText, kWordsText, text, signs) + ", " +
+      Counted(rows.Instances(), kOneInstanceText, kInstancesText, text, signs);
+  return stopped ? totals + " \u2013 " + ReachText(*stopped, text, signs.group) : totals;
 }
 
 }  // namespace quillomat

@@ -227,7 +227,12 @@ class OverflowInAFile : public PerFileTally {
 
 TEST_F(OverflowInAFile, EndsTheRunWithAReport) {
   CountTooMany();
-  ExpectMessage(OnlyMessage(), "Error 6: Overflow", "Problem", MessageIcon::kExclamation);
+  ExpectMessage(OnlyMessage(),
+                "Error 6: Overflow: the word \"cat\" occurs more than 32,767 times in " +
+                    (folder / "texts/b.txt") +
+                    ", the most that is counted for one file of several.  Count that file by "
+                    "itself.",
+                "Problem", MessageIcon::kExclamation);
   EXPECT_EQ(ListFile(), "");
 }
 

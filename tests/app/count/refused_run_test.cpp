@@ -5,6 +5,7 @@
 
 #include "app/count/count_fixture.h"
 #include "app/exports/result_export.h"
+#include "export/cell_text.h"
 
 namespace quillomat {
 namespace {
@@ -21,10 +22,10 @@ class RefusedRun : public CountFixture {
 
   [[nodiscard]] std::string TotalsOfExport() {
     const ExportWish wish{.columns = {WordColumn::kWord}};
-    const ResultExport result(Words(), Main(), Panel(), wish);
+    const ResultExport result(Words(), wish);
     std::string totals;
     for (const ExportFact& fact : result.Table().totals) {
-      totals += fact.name + "=" + std::to_string(std::get<std::int64_t>(fact.value)) + " ";
+      totals += fact.name + "=" + quillomat::TextOf(fact) + " ";
     }
     return totals;
   }

@@ -39,11 +39,18 @@ TEST_F(RowCellsTest, NumberOfFilesIsShownWhereItIsKnown) {
 
 TEST_F(RowCellsTest, TotalsAreSaidInTheLanguageOfTheProgram) {
   Add("cat", 1204);
-  EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "1 word, 1.204 instances");
+  EXPECT_EQ(TotalsOf(Rows(), {}, text_, signs_), "1 word, 1.204 instances");
   Rows().SetFilter({FilterKind::kEquals, "dog"});
-  EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "0 words, 0 instances");
+  EXPECT_EQ(TotalsOf(Rows(), {}, text_, signs_), "0 words, 0 instances");
   text_.SetLanguage(Language::kGerman);
-  EXPECT_EQ(TotalsOf(Rows(), text_, signs_), "0 Wörter, 0 Vorkommen");
+  EXPECT_EQ(TotalsOf(Rows(), {}, text_, signs_), "0 Wörter, 0 Vorkommen");
+}
+
+TEST_F(RowCellsTest, TotalsOfAPartOfTheTextSayHowMuchOfIt) {
+  Add("cat", 2);
+  const CountReach reach{.files = 1050, .filesInAll = 3000};
+  EXPECT_EQ(TotalsOf(Rows(), reach, text_, signs_),
+            "1 word, 2 instances \u2013 Stopped after 1.050 of 3.000 files");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "app/list/not_found.h"
+#include "app/list/found_below.h"
 
 #include <optional>
 
@@ -10,12 +10,12 @@
 
 namespace quillomat {
 
-std::string NotFoundText(std::string_view wanted, const ListPart& part, const CountedWords& words,
-                         WordOrder order, const ProgramText& text, std::string_view separator) {
+std::string FoundBelowText(std::string_view wanted, const ListPart& part, const CountedWords& words,
+                           WordOrder order, const ProgramText& text, std::string_view separator) {
   std::optional<FoundBelow> found;
   if (part.IsCut())
     found = FindBelow(words, order, part.shown, KeyOfTyped(wanted, words.store.Rule()));
-  if (!found) return text.GetText(kNotFoundText);
+  if (!found) return {};
   const std::int32_t rank = words.ranking.rankOf[static_cast<std::size_t>(found->place)];
   return Filled(
       text.GetText(found->isTheWord ? kFoundBelowText : kSimilarFoundBelowText),

@@ -1,0 +1,17 @@
+// How far a count came that was stopped, for people.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "sources/count_result.h"
+#include "text/program_text.h"
+
+namespace quillomat {
+
+/// "Stopped after 50 of 300 files", or what is known, in the current language; without a full stop.
+/// `separator` stands between groups of digits.
+[[nodiscard]] std::string ReachText(const CountReach& reach, const ProgramText& text,
+                                    std::string_view separator);
+
+}  // namespace quillomat
