@@ -27,6 +27,7 @@ using quillomat::fuzzing::InputReader;
 using quillomat::fuzzing::Require;
 using quillomat::properties::CountCase;
 using quillomat::properties::Reading;
+using quillomat::properties::Segmenter;
 using quillomat::properties::Told;
 
 std::vector<std::string> LinesOf(std::string_view bytes) {
@@ -62,6 +63,9 @@ CountCase CaseOf(std::string_view& rest) {
   choices.txbFolder = "/home/reader/books";
   result.format = read.Below(14);
   result.order = read.Below(2);
+  choices.cboLetters = read.Below(2);
+  choices.chkFoldAccents = read.Below(2);
+  result.segmenter = static_cast<Segmenter>(read.Below(3));
   return result;
 }
 

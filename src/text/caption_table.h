@@ -347,6 +347,11 @@ inline constexpr int kMoreSkippedText = 722;
 /// Behind the message that words were loaded: letters of the file that the western rule leaves out.
 inline constexpr int kListLettersNotReadText = 800;
 inline constexpr int kListLetterNotReadText = 801;
+/// Of a words file, "%2" stands for its path: bytes that are none of its encoding.
+inline constexpr int kListBytesNotDecodedText = 805;
+inline constexpr int kListByteNotDecodedText = 806;
+/// "%1" stands for the kind of list.
+inline constexpr int kTypedNotUtf8Text = 804;
 /// The languages of the lists of common words, from this number on (app/count/common_words.h).
 inline constexpr int kFirstLanguageText = 810;
 

@@ -414,7 +414,8 @@ class CaseMaker {
   std::string LongWord() {
     const std::size_t length = OneIn(60) ? 64'998 + Below(5) : 98 + Below(5);
     std::string word;
-    const std::string_view unit = OneIn(3) ? "\xC3\xA9" : "a";
+    std::string_view unit = OneIn(3) ? "\xC3\xA9" : "a";
+    if (unspaced_ && OneIn(2)) unit = "\u4E2D\u56FD";
     for (std::size_t i = 0; i < length; ++i) word += OneIn(9) ? std::string_view("-") : unit;
     return word;
   }

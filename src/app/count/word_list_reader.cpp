@@ -17,6 +17,7 @@
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
+#include "base/utf8.h"
 #include "engine/uncounted.h"
 #include "engine/word_scanner.h"
 #include "sources/converted_source.h"
@@ -36,6 +37,7 @@ constexpr std::size_t kListTestBytes = 16'384;
 /// Of a line of a words file, and of one that has no length of its own and may have no end: a pipe,
 /// a device.
 constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
+constexpr const char* kLoadedTitle = "Words loaded";
 constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
 
 std::size_t IndexOf(WordListKind kind) {
@@ -127,6 +129,14 @@ bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   if (path != FileInForce(kind)) return false;
   return path.empty() || (rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_) &&
                           encodingsInForce_[IndexOf(kind)] == ReadEncoding(frmParams_));
+}
+
+/// What is typed in a terminal may be any bytes: they are taken as those of a file are.
+void WordListReader::DecodeTypedWords(WordListKind kind) {
+  TextBox& box = ExtraBox(kind);
+  if (IsWellFormedUtf8(box.Text())) return;
+  box.SetText(DecodeLine(box.Text()));
+  messages_.Warn(Filled(messages_.Text(kTypedNotUtf8Text), {KindName(kind)}), "Invalid input");
 }
 
 std::string WordListReader::GetExtraWords(WordListKind kind) {
@@ -228,9 +238,9 @@ void WordListReader::ScanWordsFile(ByteSource& text, const WordsFileForm& form) 
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (form.mayBeEndless) limits.bytes = kMostWordsBytes;
   LimitedSource limited(text, limits);
-  std::int64_t bytesNotDecoded = 0;
+  bytesNotDecoded_ = 0;
   std::optional<ConvertedSource> converted;
-  if (form.from != CharacterSet::kAsFound) converted.emplace(limited, form.from, bytesNotDecoded);
+  if (form.from != CharacterSet::kAsFound) converted.emplace(limited, form.from, bytesNotDecoded_);
   LineDecoder lines(converted ? static_cast<ByteSource&>(*converted) : limited);
   std::string buffer;
   lettersNotRead_ = 0;
@@ -282,12 +292,20 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
 void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
   std::string text =
       messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path;
-  if (lettersNotRead_ == 0) {
-    return messages_.Tell(std::move(text), "Words loaded", MessageIcon::kInformation);
+  if (lettersNotRead_ == 0 && bytesNotDecoded_ == 0) {
+    return messages_.Tell(std::move(text), kLoadedTitle, MessageIcon::kInformation);
   }
-  const int reason = lettersNotRead_ == 1 ? kListLetterNotReadText : kListLettersNotReadText;
-  text.append(kCrLf).append(Filled(messages_.Text(reason), {messages_.Grouped(lettersNotRead_)}));
-  messages_.Warn(std::move(text), "Words loaded");
+  if (lettersNotRead_ > 0) {
+    const int reason = lettersNotRead_ == 1 ? kListLetterNotReadText : kListLettersNotReadText;
+    text.append(kCrLf).append(Filled(messages_.Text(reason), {messages_.Grouped(lettersNotRead_)}));
+  }
+  if (bytesNotDecoded_ > 0) text.append(kCrLf).append(NotDecodedText(path));
+  messages_.Warn(std::move(text), kLoadedTitle);
+}
+
+std::string WordListReader::NotDecodedText(const std::string& path) const {
+  const int text = bytesNotDecoded_ == 1 ? kListByteNotDecodedText : kListBytesNotDecodedText;
+  return Filled(messages_.Text(text), {messages_.Grouped(bytesNotDecoded_), path});
 }
 
 /// False. While a state is restored the panel says that it could not be loaded as a whole. The box
@@ -329,6 +347,7 @@ bool WordListReader::TakeBoxes() {
 }
 
 bool WordListReader::TakeTypedWords(WordListKind kind) {
+  DecodeTypedWords(kind);
   const std::string result = GetExtraWords(kind);
   if (!result.ends_with('.')) return true;
   messages_.Refuse(result, "Invalid input");
@@ -343,6 +362,7 @@ bool WordListReader::TakeWordsFile(WordListKind kind) {
   const bool ok = ReadWords(kind);
   if (run_.Quitting()) return false;
   if (!ok) TellNotLoaded(kind, path);
+  if (ok && bytesNotDecoded_ > 0) messages_.Warn(NotDecodedText(path), kLoadedTitle);
   return ok;
 }
 

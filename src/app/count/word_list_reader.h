@@ -67,10 +67,12 @@ class WordListReader {
  private:
   [[nodiscard]] bool WantsWordsToIgnore();
   void TellLoaded(WordListKind kind, const std::string& path);
+  [[nodiscard]] std::string NotDecodedText(const std::string& path) const;
   [[nodiscard]] bool TellNotFound(WordListKind kind);
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
+  void DecodeTypedWords(WordListKind kind);
   struct WordsFileForm {
     CharacterSet from = CharacterSet::kAsFound;
     bool mayBeEndless = false;
@@ -107,6 +109,7 @@ class WordListReader {
   std::string tooLong_;
   /// Of the last words file, by the rule of letters that it was read with.
   std::int64_t lettersNotRead_ = 0;
+  std::int64_t bytesNotDecoded_ = 0;
 };
 
 }  // namespace quillomat

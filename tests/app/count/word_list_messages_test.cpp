@@ -7,6 +7,7 @@
 
 #include "app/count/sources_fixture.h"
 #include "app/count/word_list_reader.h"
+#include "base/character_set.h"
 #include "system/desktop_test.h"
 
 namespace quillomat {
@@ -67,6 +68,37 @@ TEST_F(WordListMessages, TooManyTypedWordsAreRefusedAndTheListStands) {
   ExpectMessage(OnlyMessage(), "Too many count-only words.", "Invalid input",
                 MessageIcon::kExclamation);
   EXPECT_THAT(program.Settings().lists.ExtraCountOnlyList.Words(), ElementsAre("cat"));
+}
+
+TEST_F(WordListMessages, TypedBytesThatAreNoUtf8AreToldOfWhenACountBegins) {
+  Panel().txbWordsToIgnoreOrCount[0].SetText("caf\xE9 dog");
+  CountClipboard("caf\u00E9 dog cat");
+  ExpectMessage(OnlyMessage(),
+                "The typed words-to-ignore were not UTF-8 and were read as Windows-1252.",
+                "Invalid input", MessageIcon::kExclamation);
+  EXPECT_EQ(StoredWords(), "cat");
+  EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[0].Text(), "caf\u00E9 dog");
+}
+
+TEST_F(WordListMessages, BytesOfAWordsFileThatCannotBeDecodedAreToldOf) {
+  Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kShiftJis));
+  const std::string path = folder.Write("words.txt", "dog \xFF\xFF cat\r\n");
+  Choose(kIgnore, path);
+  ExpectMessage(OnlyMessage(),
+                "2 words-to-ignore loaded from " + path + "\r\n2 bytes of " + path +
+                    " could not be decoded. Another encoding may read them.",
+                "Words loaded", MessageIcon::kExclamation);
+}
+
+TEST_F(WordListMessages, BytesOfAWordsFileThatACountReadsAreToldOfAsWell) {
+  Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kShiftJis));
+  const std::string path = folder.Write("words.txt", "dog \xFF cat\r\n");
+  PathBox(kIgnore).SetText(path);
+  CountClipboard("dog bird");
+  ExpectMessage(OnlyMessage(),
+                "One byte of " + path + " could not be decoded. Another encoding may read it.",
+                "Words loaded", MessageIcon::kExclamation);
+  EXPECT_EQ(StoredWords(), "bird");
 }
 
 TEST_F(WordListMessages, OnlyTheMessageEndsWithAFullStop) {
