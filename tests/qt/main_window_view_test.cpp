@@ -265,8 +265,8 @@ TEST_F(MainWindowViewTest, WordBelowTheTextIsToldOfBesideHitsInTheText) {
   boxes.Answer(QMessageBox::Ok);  // the box is full
   user->Click(frmMain.cmdCountWords);
   ASSERT_TRUE(user->program.Output().Part().IsCut());
-  Press(QKeySequence::Find);
   FindBar& bar = user->windows.Main().Finder();
+  bar.Open();
   const auto says = [&bar](const QString& wanted) {
     const auto labels = bar.findChildren<QLabel*>();
     return std::ranges::any_of(

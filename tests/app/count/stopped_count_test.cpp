@@ -27,7 +27,7 @@ class StoppedCount : public CountFixture {
 
   void PutFiles() {
     for (const char* name : {"a", "b", "c", "d"}) {
-      static_cast<void>(folder.Write(std::string("texts/") + name + ".txt", "cat dog emu fox\n"));
+      static_cast<void>(folder.Write(std::string("texts/") + name + ".txt", "cat dog emu fox\r\n"));
     }
   }
   /// Of four files of four words in the second one.
