@@ -252,7 +252,7 @@ class TerminalRun {
     return result == RestoreResult::kRestored && !desktop_.ProblemShown();
   }
 
-  /// The text stands on the clipboard, as that of --text.
+  /// The text stands on the clipboard, as that of --text; but standard input is one of lines.
   int Explain() {
     program_.frmMain.optOnClipboard.SetValue(true);
     if (!FillWithExplained() || !CheckWordsFiles() || !TakeEffect() || !SaveState()) {
@@ -264,8 +264,11 @@ class TerminalRun {
     }
     CountRun& count = program_.Count();
     if (!count.PrepareScan()) return kRunFailed;
+    const auto as =
+        IsStandardInput(*options_.explain) ? ExplainedAs::kLines : ExplainedAs::kOnePiece;
     const std::string lines =
-        ExplanationLines(desktop_.ClipboardText(), count.Request({}), program_.Text());
+        ExplanationLines(desktop_.ClipboardText(), as, count.Request({}), program_.Text());
+    TellUncounted(clipboardUncounted_, Messages(desktop_, program_.Text()), err_);
     return streams_.print([&lines](ByteSink& out) { out.Write(lines); }) ? kListMade : kRunFailed;
   }
 
@@ -332,13 +335,10 @@ class TerminalRun {
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
-    const bool made = program_.Count().ListWasMade();
-    if (made) {
-      Uncounted uncounted = program_.Words().uncounted;
-      uncounted += clipboardUncounted_;
-      TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
-    }
-    return made;
+    Uncounted uncounted = program_.Words().uncounted;
+    if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
+    TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    return program_.Count().ListWasMade();
   }
 
   bool CountDirectly() {
@@ -359,7 +359,9 @@ class TerminalRun {
     for (const SkippedItem& item : program_.Count().Skipped()) {
       items.push_back(item.path + ": " + item.reason);
     }
-    PrintSkipped(err_, items, program_.Count().SkippedInAll(), Messages(desktop_, program_.Text()));
+    const Messages messages(desktop_, program_.Text());
+    PrintSkipped(err_, items, program_.Count().SkippedInAll(), messages);
+    PrintLeftOut(err_, program_.Words().folder.filesLeftOut, messages);
   }
 
   /// What the window would show in place of a list; else a message has told why, but not of what.

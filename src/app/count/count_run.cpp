@@ -107,7 +107,7 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.WordsRead = result.wordsRead;
   count_.words.orderFigures = std::move(result.orderFigures);
   count_.words.uncounted = result.uncounted;
-  count_.words.folder = {result.files, result.folders, {}};
+  count_.words.folder = {result.files, result.folders, {}, result.leftOut};
   count_.words.completeRun = result.end == CountEnd::kComplete;
   count_.words.listAfterStop = !count_.words.completeRun;
   count_.inForce.settings.CountOnlyMode = result.countOnlyMode;

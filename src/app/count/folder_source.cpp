@@ -48,7 +48,7 @@ bool FolderSource::ScanFolder(CountRequest request) {
   }
   TakeSkipped(result);
   if (result.end == CountEnd::kFailed) throw RunTimeError(*result.error);
-  count_.words.folder = {result.files, result.folders, SkippedNotice(result)};
+  count_.words.folder = {result.files, result.folders, SkippedNotice(result), result.leftOut};
   OutputLine(result.files == 0 ? "No files were scanned."
                                : FilesIn(result.files, result.folders) +
                                      (result.files == 1 ? " was scanned." : " were scanned."));

@@ -61,7 +61,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
-    count.words.folder = {result.files, result.folders, {}};
+    count.words.folder = {result.files, result.folders, {}, result.leftOut};
     count.words.FilesKnown.Fire();
     count.inForce.settings.OpenComment = result.openComment;
   }

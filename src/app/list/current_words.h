@@ -27,6 +27,8 @@ struct FolderFigures {
   std::int32_t foldersScanned = 0;
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
+  /// Files that are no text, or empty.
+  std::int64_t filesLeftOut = 0;
 };
 
 struct CurrentWords {
