@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstring>
 #include <span>
@@ -21,6 +22,10 @@ class ByteSource {
   /// Fills the front of `buffer` and returns how many bytes it holds now; 0 only at the end (or for
   /// an empty buffer). Throws RunTimeError when the bytes cannot be had.
   virtual std::size_t Read(std::span<char> buffer) = 0;
+
+  /// Whether a Read would not wait: there are bytes, or there will be none. Waits for that, but no
+  /// longer than it is told. What never waits is always ready.
+  [[nodiscard]] virtual bool IsReady(std::chrono::milliseconds /*longest*/) const { return true; }
 };
 
 /// The bytes of a text that outlives the source.

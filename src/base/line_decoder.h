@@ -7,6 +7,7 @@
 // where long lines are taken part by part.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -41,6 +42,9 @@ class UnmarkedSource final : public ByteSource {
   explicit UnmarkedSource(ByteSource& source) : source_(source) {}
 
   std::size_t Read(std::span<char> buffer) override;
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return pendingStart_ < pending_.size() || ended_ || source_.IsReady(longest);
+  }
 
  private:
   void Detect();

@@ -36,7 +36,10 @@ void CountWatch::OnFileEnds(const FileReport& /*report*/, const CountProgress& p
 }
 
 void CountWatch::OnSkipped(const SkippedFile& skipped) {
-  if (!IsFault(skipped.reason) && !input_.IsNamed(skipped.path)) return;
+  if (!IsFault(skipped.reason) && !input_.IsNamed(skipped.path)) {
+    ++leftOut_;
+    return;
+  }
   ++skippedInAll_;
   if (skipped_.size() < CountResult::kMaxSkipped) skipped_.push_back(skipped);
 }

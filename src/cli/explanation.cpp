@@ -18,11 +18,11 @@ std::string AsField(std::string text) {
 
 }  // namespace
 
-std::string ExplanationLines(std::string_view text, const CountRequest& request,
+std::string ExplanationLines(std::string_view text, ExplainedAs as, const CountRequest& request,
                              const ProgramText& texts) {
+  const auto explain = as == ExplainedAs::kLines ? ExplainLines : ExplainText;
   std::string lines;
-  for (const Candidate& candidate :
-       ExplainText(text, request.scan, request.filters, request.lists)) {
+  for (const Candidate& candidate : explain(text, request.scan, request.filters, request.lists)) {
     const bool counted = candidate.fate == CandidateFate::kCounted;
     const std::string change = ChangeText(candidate, texts);
     lines.append(AsField(candidate.text)).append("\t").append(FateText(candidate.fate, texts));

@@ -14,4 +14,11 @@ void PrintSkipped(std::ostream& err, const std::vector<std::string>& items, std:
   if (more > 0) err << kSkipped << messages.Grouped(more) << " more\n";
 }
 
+void PrintLeftOut(std::ostream& err, std::int64_t files, const Messages& messages) {
+  if (files == 0) return;
+  err << Headed{MessageTone::kWarning, "Note: "} << messages.Grouped(files)
+      << (files == 1 ? " file was" : " files were")
+      << " left out: no text or empty; --report names " << (files == 1 ? "it" : "them") << ".\n";
+}
+
 }  // namespace quillomat

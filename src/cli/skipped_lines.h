@@ -1,5 +1,4 @@
-// What the terminal tells of files and folders that were skipped although they should have been
-// read.
+// What the terminal tells of files and folders that were not read.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +10,12 @@
 
 namespace quillomat {
 
-/// A line for each of `items`, which say what was skipped and why, and one for how many more there
-/// are `inAll`.
+/// Of what should have been read: a line for each of `items`, which say what was skipped and why,
+/// and one for how many more there are `inAll`.
 void PrintSkipped(std::ostream& err, const std::vector<std::string>& items, std::int64_t inAll,
                   const Messages& messages);
+
+/// One line for all files that were left out by design, if there are any.
+void PrintLeftOut(std::ostream& err, std::int64_t files, const Messages& messages);
 
 }  // namespace quillomat

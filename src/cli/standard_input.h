@@ -1,6 +1,7 @@
 // The program's standard input, as bytes: from where it stands, as they come.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <span>
 
@@ -18,6 +19,9 @@ class StandardInput final : public ByteSource {
       : file_(InputFile::StandardInput()), source_(file_, yield) {}
 
   std::size_t Read(std::span<char> buffer) override { return source_.Read(buffer); }
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return source_.IsReady(longest);
+  }
 
  private:
   InputFile file_;

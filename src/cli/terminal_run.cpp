@@ -254,7 +254,7 @@ class TerminalRun {
     return result == RestoreResult::kRestored && !desktop_.ProblemShown();
   }
 
-  /// The text stands on the clipboard, as that of --text.
+  /// The text stands on the clipboard, as that of --text; but standard input is one of lines.
   int Explain() {
     program_.frmMain.optOnClipboard.SetValue(true);
     if (!FillWithExplained() || !CheckWordsFiles() || !TakeEffect() || !SaveState()) {
@@ -267,8 +267,10 @@ class TerminalRun {
     CountRun& count = program_.Count();
     if (!count.PrepareScan()) return kRunFailed;
     TellUncounted(clipboardUncounted_, Messages(desktop_, program_.Text()), err_);
+    const auto as =
+        IsStandardInput(*options_.explain) ? ExplainedAs::kLines : ExplainedAs::kOnePiece;
     const std::string lines =
-        ExplanationLines(desktop_.ClipboardText(), count.Request({}), program_.Text());
+        ExplanationLines(desktop_.ClipboardText(), as, count.Request({}), program_.Text());
     if (lines.empty()) {
       err_ << Headed{MessageTone::kWarning, "Note: "}
            << "nothing in the text could be a word or a comment\n";
@@ -352,13 +354,10 @@ class TerminalRun {
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
-    const bool made = program_.Count().ListWasMade();
-    if (made) {
-      Uncounted uncounted = program_.Words().uncounted;
-      uncounted += clipboardUncounted_;
-      TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
-    }
-    return made;
+    Uncounted uncounted = program_.Words().uncounted;
+    if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
+    TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    return program_.Count().ListWasMade();
   }
 
   bool CountDirectly() {
@@ -379,7 +378,9 @@ class TerminalRun {
     for (const SkippedItem& item : program_.Count().Skipped()) {
       items.push_back(item.path + ": " + item.reason);
     }
-    PrintSkipped(err_, items, program_.Count().SkippedInAll(), Messages(desktop_, program_.Text()));
+    const Messages messages(desktop_, program_.Text());
+    PrintSkipped(err_, items, program_.Count().SkippedInAll(), messages);
+    PrintLeftOut(err_, program_.Words().folder.filesLeftOut, messages);
   }
 
   /// What the window would show in place of a list; else a message has told why, but not of what.

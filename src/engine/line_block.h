@@ -21,6 +21,8 @@ struct LinePartState {
   bool hidden = false;
   /// A comment up to the end of the line: nothing of the rest counts.
   bool inLineComment = false;
+  /// A letter, which marks belong to.
+  bool behindLetter = false;
 };
 
 class LineBlock {

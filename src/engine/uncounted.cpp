@@ -15,17 +15,51 @@ namespace {
 
 constexpr char32_t kCapitalOfLatin1 = 0x178;
 
-bool IsForeignLetterAt(std::string_view text, std::size_t position, bool caseSignificant) {
-  const char32_t codePoint = CharacterAt(text, position).codePoint;
-  if (codePoint == kCapitalOfLatin1) return caseSignificant;
-  return UnicodeTraits::Get().Is(codePoint, CodePointTraits::kLetter);
+bool Is(char32_t codePoint, std::uint8_t kinds) {
+  return UnicodeTraits::Get().Is(codePoint, kinds);
 }
+
+/// Looks at characters in their order.
+class ForeignLetters {
+ public:
+  ForeignLetters(std::string_view text, bool caseSignificant, bool behindLetter)
+      : text_(text), caseSignificant_(caseSignificant), markCounts_(behindLetter) {}
+
+  bool IsAt(std::size_t position) {
+    const Utf8Character character = CharacterAt(text_, position);
+    if (character.codePoint == kCapitalOfLatin1) return caseSignificant_;
+    if (Is(character.codePoint, CodePointTraits::kLetter)) return true;
+    if (!Is(character.codePoint, CodePointTraits::kMark)) return false;
+    // A mark behind another stands where that stands: no pile of them is climbed twice.
+    if (position != behindMark_) markCounts_ = EndsInLetter(text_.substr(0, position));
+    behindMark_ = position + character.bytes;
+    return markCounts_;
+  }
+
+ private:
+  std::string_view text_;
+  bool caseSignificant_;
+  /// The place behind the last mark, and whether that counted; the start of the text is like one.
+  std::size_t behindMark_ = 0;
+  bool markCounts_;
+};
 
 }  // namespace
 
-std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant) {
+bool EndsInLetter(std::string_view text, bool behindLetter) {
+  while (!text.empty()) {
+    const std::size_t last = LastCharacterStart(text);
+    const char32_t codePoint = CharacterAt(text, last).codePoint;
+    if (!Is(codePoint, CodePointTraits::kMark)) return Is(codePoint, CodePointTraits::kLetter);
+    text = text.substr(0, last);
+  }
+  return behindLetter;
+}
+
+std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant, bool behindLetter) {
   constexpr std::size_t kBlocksAtOnce = 64;
   std::array<std::uint64_t, kBlocksAtOnce> memory{};
+  ForeignLetters foreign(text, caseSignificant, behindLetter);
   std::int64_t letters = 0;
   for (std::size_t first = 0; first < Utf8Blocks(text); first += kBlocksAtOnce) {
     const auto others = std::span(memory).first(std::min(kBlocksAtOnce, Utf8Blocks(text) - first));
@@ -34,7 +68,7 @@ std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant) {
       for (std::uint64_t bits = others[block]; bits != 0; bits &= bits - 1) {
         const auto bit = static_cast<std::size_t>(std::countr_zero(bits));
         const std::size_t start = (first + block) * kUtf8Block + bit - 1;
-        letters += static_cast<std::int64_t>(IsForeignLetterAt(text, start, caseSignificant));
+        letters += static_cast<std::int64_t>(foreign.IsAt(start));
       }
     }
   }

@@ -7,7 +7,8 @@
 namespace quillomat {
 
 struct Uncounted {
-  /// Letters that are none by the western rule: those beyond Latin-1, in comments as well.
+  /// Letters that are none by the western rule, in comments as well: those beyond Latin-1, U+00AA,
+  /// U+00B5 and U+00BA, and the marks that stand on or behind a letter as characters of their own.
   std::int64_t foreignLetters = 0;
   /// Lines that are not well-formed UTF-8 and were read as Windows-1252.
   std::int64_t linesNotUtf8 = 0;
@@ -33,8 +34,13 @@ struct Uncounted {
   bool operator==(const Uncounted&) const = default;
 };
 
-/// How many letters of `text`, well-formed UTF-8, the western rule does not count. It counts the
-/// capital of U+00FF where the text will be lower-cased.
-[[nodiscard]] std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant);
+/// How many letters of `text`, well-formed UTF-8, the western rule does not count
+/// (Uncounted::foreignLetters). It counts the capital of U+00FF where the text will be lower-cased.
+/// `behindLetter`: of what stands before the text, as EndsInLetter says.
+[[nodiscard]] std::int64_t CountForeignLetters(std::string_view text, bool caseSignificant,
+                                               bool behindLetter = false);
+
+/// Whether `text` ends in a letter, or in one and its marks; an empty one as that before it.
+[[nodiscard]] bool EndsInLetter(std::string_view text, bool behindLetter = false);
 
 }  // namespace quillomat

@@ -43,6 +43,9 @@ inline constexpr BytePairs kSuspects[] = {
 
 /// Letters, all of them.
 inline constexpr BytePairs kCommonForeign[] = {
+    {0xC2, 0xC2, 0xAA, 0xAA},  // the letters of Latin-1 that the western rule leaves out
+    {0xC2, 0xC2, 0xB5, 0xB5},  //
+    {0xC2, 0xC2, 0xBA, 0xBA},  //
     {0xC4, 0xC4},              // U+0100 to U+013F, Latin
     {0xC5, 0xC5, 0x80, 0xB7},  // U+0140 to U+0177
     {0xC5, 0xC5, 0xB9, 0xBF},  // U+0179 to U+017F
@@ -67,7 +70,9 @@ inline constexpr BytePairs kNoCharacters[] = {{0xE0, 0xE0, 0x80, 0x9F},
                                               {0xF0, 0xF0, 0x80, 0x8F},
                                               {0xF4, 0xF4, 0x90, 0xBF}};
 
+/// Leads what is beyond U+00FF, as all above it; the other lead has no letters but those above.
 inline constexpr std::uint8_t kFirstForeignLead = 0xC4;
+inline constexpr std::uint8_t kLeadOfLatin1Signs = 0xC2;
 /// The most bytes in front of a byte that bear on it.
 inline constexpr std::size_t kBytesBefore = 3;
 
@@ -190,7 +195,8 @@ std::size_t CountCommonForeign(std::string_view text, std::size_t firstBlock,
     for (std::size_t i = 0; i < kUtf8Block; i += hn::Lanes(d)) {
       const auto before = hn::LoadU(d, bytes + i - 1);
       const Mask foreign = AtLeast(before, kFirstForeignLead);
-      if (hn::AllFalse(d, foreign)) continue;
+      const Mask latin1 = Within(before, kLeadOfLatin1Signs, kLeadOfLatin1Signs);
+      if (hn::AllFalse(d, hn::Or(foreign, latin1))) continue;
       const auto behind = hn::LoadU(d, bytes + i);
       const Mask common = HoldAny<kCommonForeign>(before, behind);
       const Mask settled = hn::Or(common, Holds(kCommonSigns, before, behind));
@@ -241,10 +247,10 @@ std::size_t CountCommonForeignPortably(std::string_view text, std::size_t firstB
     others[block] = 0;
     for (std::size_t i = 0; i < kUtf8Block; ++i) {
       const std::uint8_t lead = bytes[i - 1];
-      if (lead < kFirstForeignLead || Holds(kCommonSigns, lead, bytes[i])) continue;
+      if (lead < kLeadOfLatin1Signs || Holds(kCommonSigns, lead, bytes[i])) continue;
       const bool common = HoldAny(kCommonForeign, lead, bytes[i]);
       letters += static_cast<std::size_t>(common);
-      others[block] |= std::uint64_t{!common} << i;
+      others[block] |= std::uint64_t{!common && lead >= kFirstForeignLead} << i;
     }
   };
   HWY_STATIC_DISPATCH(ForBlocks)(text, firstBlock, others.size(), count);

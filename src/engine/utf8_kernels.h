@@ -28,9 +28,9 @@ inline constexpr std::size_t kUtf8Block = 64;
 /// many as masks.
 void MarkSuspects(std::string_view text, std::size_t firstBlock, std::span<std::uint64_t> masks);
 
-/// Counts letters beyond U+00FF of the most frequent alphabets in those blocks of a well-formed
-/// text, and marks the second byte of every other character beyond U+00FF that may be a letter, and
-/// of U+0178.
+/// Counts letters of the most frequent alphabets that the western rule leaves out in those blocks
+/// of a well-formed text, and marks the second byte of every other character beyond U+00FF that may
+/// be a letter or a mark, and of U+0178.
 [[nodiscard]] std::size_t CountCommonForeign(std::string_view text, std::size_t firstBlock,
                                              std::span<std::uint64_t> others);
 

@@ -33,9 +33,10 @@ WordScanner::WordScanner(ScanSettings& settings, const ScanChoices& choices, con
 }
 
 /// For the user, of a text that is counted.
-void WordScanner::NoteForeignLetters(std::string_view text) {
+void WordScanner::NoteForeignLetters(std::string_view text, bool behindLetter) {
   if (settings_.Letters == LetterRule::kAll || settings_.ReadingWordList) return;
-  settings_.Uncounted.foreignLetters += CountForeignLetters(text, IsSet(choices_.caseSignificant));
+  settings_.Uncounted.foreignLetters +=
+      CountForeignLetters(text, IsSet(choices_.caseSignificant), behindLetter);
 }
 
 void WordScanner::GetWords(std::string_view lineBuffer) {
@@ -175,7 +176,8 @@ bool WordScanner::CanTakeParts() {
 
 void WordScanner::GetWordsOfPart(std::string_view part, LinePartState& state) {
   PrepareMarkers();
-  NoteForeignLetters(part);
+  NoteForeignLetters(part, state.behindLetter);
+  state.behindLetter = EndsInLetter(part, state.behindLetter);
   block_.TakePart(part, markers_, settings_, IsSet(choices_.caseSignificant), state);
   TakeTokens();
 }

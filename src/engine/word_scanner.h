@@ -109,7 +109,7 @@ class WordScanner {
   /// What stays to be done after comments were skipped.
   enum class AfterComments { kScan, kStop };
 
-  void NoteForeignLetters(std::string_view text);
+  void NoteForeignLetters(std::string_view text, bool behindLetter = false);
   template <typename Take>
   void ScanText(std::string_view lineBuffer, Take take);
   std::string_view Rewritten(std::string_view text);

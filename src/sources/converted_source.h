@@ -2,6 +2,7 @@
 // encodings.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -25,6 +26,9 @@ class ConvertedSource final : public ByteSource {
   ConvertedSource(ByteSource& source, CharacterSet from, std::int64_t& bytesNotDecoded);
 
   std::size_t Read(std::span<char> buffer) override;
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return convertedStart_ < converted_.size() || ended_ || source_.IsReady(longest);
+  }
 
  private:
   void ConvertBlock();

@@ -9,33 +9,9 @@
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
+#include "sources/stop_question.h"
 
 namespace quillomat {
-
-/// Asks the observer whether to stop, and remembers that it said so.
-class StopQuestion final : public ScanYield {
- public:
-  explicit StopQuestion(CountObserver& observer) : observer_(observer) {}
-
-  bool Yield() override {
-    stopped_ = observer_.Yield() || stopped_;
-    return stopped_;
-  }
-  [[nodiscard]] std::uint32_t CallsLeft() const override { return observer_.CallsLeft(); }
-  bool YieldFor(std::uint32_t calls) override {
-    stopped_ = observer_.YieldFor(calls) || stopped_;
-    return stopped_;
-  }
-  /// For many words together, however many they were.
-  bool YieldForMany() { return YieldFor(CallsLeft()); }
-
-  /// Without asking anew.
-  [[nodiscard]] bool Stopped() const { return stopped_; }
-
- private:
-  CountObserver& observer_;
-  bool stopped_ = false;
-};
 
 struct CountAtWork {
   CountAtWork(const CountRequest& itsRequest, CountObserver& itsObserver)

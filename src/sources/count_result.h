@@ -67,6 +67,8 @@ struct FileReport {
   std::optional<std::int64_t> bytes;
   /// So many were read.
   std::int64_t bytesRead = 0;
+  /// Of a stream: the count was stopped before its end was seen.
+  bool wasStopped = false;
   TextEncoding encoding = TextEncoding::kUtf8OrWindows1252;
   /// What it was converted from, as chosen, guessed or told by a mark; kAsFound where it was not.
   CharacterSet convertedFrom = CharacterSet::kAsFound;

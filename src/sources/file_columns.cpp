@@ -107,7 +107,8 @@ LineEndKind LineEndKindOf(const LineEndFigures& lines) {
 }
 
 bool IsReadInPart(const FileReport& report) {
-  return report.refusal == Refusal::kNone && report.bytes && report.bytesRead < *report.bytes;
+  if (report.refusal != Refusal::kNone) return false;
+  return report.wasStopped || (report.bytes && report.bytesRead < *report.bytes);
 }
 
 FileCell CellOf(const FileReport& report, FileColumn column) {

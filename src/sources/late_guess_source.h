@@ -2,6 +2,7 @@
 // is made where its first byte beyond ASCII is met.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -24,6 +25,9 @@ class LateGuessSource final : public ByteSource {
       : behindAscii_(source), guessed_(guessed), bytesNotDecoded_(bytesNotDecoded) {}
 
   std::size_t Read(std::span<char> buffer) override;
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return converted_ ? converted_->IsReady(longest) : behindAscii_.IsReady(longest);
+  }
 
  private:
   void Guess();

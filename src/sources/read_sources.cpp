@@ -1,11 +1,19 @@
 #include "sources/read_sources.h"
 
 namespace quillomat {
+namespace {
 
-std::string_view HeadedSource::Ahead(std::size_t bytes) {
+constexpr std::string_view kBetweenWords = " \t\r\n";
+/// Who writes longer ones may have one torn.
+constexpr std::size_t kLongestWord = 1024;
+constexpr std::chrono::milliseconds kNoWait{0};
+
+}  // namespace
+
+std::string_view HeadedSource::Ahead(std::size_t bytes, const std::function<bool()>& goesOn) {
   ahead_.erase(0, aheadStart_);
   aheadStart_ = 0;
-  while (ahead_.size() < bytes && !ended_) {
+  while (ahead_.size() < bytes && !ended_ && goesOn()) {
     const std::size_t before = ahead_.size();
     ahead_.resize(bytes);
     std::size_t bytesRead = 0;
@@ -39,6 +47,40 @@ std::size_t HeadedSource::Read(std::span<char> buffer) {
 void HeadedSource::PutBack(std::string_view bytes) {
   ahead_.replace(0, aheadStart_, bytes);
   aheadStart_ = 0;
+}
+
+bool PatientSource::IsReady(std::chrono::milliseconds longest) const {
+  for (auto left = longest; !file_.IsReady(std::min(left, kLongestWait)); left -= kLongestWait) {
+    if (left <= kLongestWait) return false;
+    if (yield_.YieldFor(yield_.CallsLeft())) return true;
+  }
+  return true;
+}
+
+std::size_t UntilStop::Read(std::span<char> buffer) {
+  if (ended_ || buffer.empty()) return 0;
+  if (stop_.Stopped()) return ReadRestOfWord(buffer);
+  const std::size_t bytes = source_.Read(buffer);
+  ended_ = bytes == 0;
+  // The source may have ended since it was told to stop.
+  if (ended_) wasStopped_ = stop_.YieldForMany();
+  const std::string_view read(buffer.data(), bytes);
+  const std::size_t behind = read.find_last_of(kBetweenWords) + 1;
+  bytesOfWord_ = (behind == 0 ? bytesOfWord_ : 0) + bytes - behind;
+  return bytes;
+}
+
+/// Behind a stop.
+std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
+  wasStopped_ = true;
+  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
+  if (ended_) return 0;
+  const std::size_t bytes = source_.Read(buffer.first(std::min(buffer.size(), kLongestWord)));
+  const std::string_view read(buffer.data(), bytes);
+  const std::size_t rest = read.find_first_of(kBetweenWords);
+  ended_ = bytes == 0 || rest != std::string_view::npos;
+  bytesOfWord_ += bytes;
+  return std::min(rest, bytes);
 }
 
 }  // namespace quillomat

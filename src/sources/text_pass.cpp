@@ -1,5 +1,6 @@
 #include "sources/text_pass.h"
 
+#include <chrono>
 #include <memory>
 #include <new>
 #include <optional>
@@ -14,6 +15,10 @@
 
 namespace quillomat {
 namespace {
+
+/// A stream that is silent for so long is judged by what has come.
+constexpr std::chrono::milliseconds kWaitForHead{500};
+constexpr std::chrono::milliseconds kMoment{8};
 
 TextEncoding EncodingOf(std::string_view head) {
   if (head.starts_with("\xEF\xBB\xBF")) return TextEncoding::kUtf8WithMark;
@@ -35,6 +40,9 @@ class TallyingSource final : public ByteSource {
     const std::size_t bytes = source_.Read(buffer);
     tally_.Take({buffer.data(), bytes});
     return bytes;
+  }
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return source_.IsReady(longest);
   }
   [[nodiscard]] LineEndFigures Figures() const { return tally_.Figures(); }
 
@@ -99,6 +107,7 @@ void TextPass::Try(FileReport& report, const ReadReported& read) {
 void TextPass::ReadClipboard(std::string_view text) {
   LoadMarkersFor({}, state_.request.scan, state_.settings);
   state_.BeginScan(false);
+  question_.SetStream(false);
   reader_.ReadPiece(text);
   state_.EndScan({});
 }
@@ -125,23 +134,32 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
   const CharacterSet encoding = state_.request.encoding;
   if (!JudgeText(file.Ahead(HeadBytesFor(encoding)), encoding, report)) return;
   Begin(report, file.Length());
+  question_.SetStream(false);
   report.identity = file.Identity();
   ReadText(file, file.Length() >= TextReader::kBytesWorthThreads, report);
 }
 
 void TextPass::ReadStream(ByteSource& source, FileReport& report) {
-  HeadedSource text(source);
+  UntilStop bytes(source, state_.stop);
+  HeadedSource text(bytes);
   const CharacterSet encoding = state_.request.encoding;
-  const std::string_view head = text.Ahead(HeadBytesFor(encoding));
+  // Who speaks slowly is heard as he speaks; but a guess is not to depend on that.
+  const std::string_view head = encoding == CharacterSet::kGuess
+                                    ? text.Ahead(HeadBytesFor(encoding))
+                                    : text.Ahead(HeadBytesFor(encoding), kWaitForHead);
   if (head.empty() && !state_.stop.Stopped()) {
     report.refusal = Refusal::kEmpty;
     return;
   }
   if (!JudgeText(head, encoding, report)) return;
   Begin(report, 0);
+  question_.SetStream(true);
   constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);
-  ReadText(text, reader_.UsesThreads() && text.Ahead(kWorthThreads).size() == kWorthThreads,
-           report);
+  const bool isLong =
+      reader_.UsesThreads() &&
+      (text.Ahead(kWorthThreads, kMoment).size() == kWorthThreads || !text.HasEnded());
+  ReadText(text, isLong, report);
+  report.wasStopped = bytes.WasStopped();
 }
 
 void TextPass::Begin(const FileReport& report, std::int64_t bytes) {

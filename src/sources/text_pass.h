@@ -15,6 +15,7 @@
 #include "sources/encoding_guess.h"
 #include "sources/line_endings.h"
 #include "sources/line_tally.h"
+#include "sources/stop_question.h"
 #include "sources/text_reader.h"
 #include "system/input_file.h"
 
@@ -40,8 +41,9 @@ class TextPass {
   /// The state outlives the pass.
   explicit TextPass(CountAtWork& state)
       : state_(state),
+        question_(state.stop),
         reader_({state.settings, state.result.store, state.result.wordsRead}, state.request.scan,
-                state.request.lists, state.request.threads, state.stop) {}
+                state.request.lists, state.request.threads, question_) {}
 
   [[nodiscard]] bool UsesThreads() const { return reader_.UsesThreads(); }
 
@@ -76,6 +78,7 @@ class TextPass {
   void ReadBytes(ByteSource& source, bool worthThreads, FileReport& report);
 
   CountAtWork& state_;
+  ScanQuestion question_;
   TextReader reader_;
   /// In the texts before this one.
   std::int64_t runBytesBefore_ = 0;

@@ -30,8 +30,8 @@ class InputFile final : public ByteSource {
   /// Nothing where the system does not tell.
   [[nodiscard]] std::optional<FileIdentity> Identity() const { return file_.Identity(); }
 
-  /// Whether bytes are at hand, or there will be none; see NativeFile::IsReady.
-  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {
+  /// See NativeFile::IsReady.
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
     return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);
   }
 

@@ -32,6 +32,7 @@ TEST(Notices, MostImportantComesFirst) {
                         .runsLeftWhole = true,
                         .bytesNotDecoded = 7,
                         .linesNotUtf8 = 12,
+                        .filesLeftOut = 4,
                         .countOnlyWords = 5,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
@@ -39,19 +40,21 @@ TEST(Notices, MostImportantComesFirst) {
   EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
                                         kBytesNotDecodedText, kLettersNotCountedText,
                                         kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                                        kLinesNotUtf8Text, kWordsLeftOutText));
+                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsLeftOutText));
 }
 
 TEST(Notices, OneIsNotMany) {
-  EXPECT_THAT(TextsOf({.listStands = true,
-                       .skipped = 1,
-                       .foreignLetters = 1,
-                       .bytesNotDecoded = 1,
-                       .linesNotUtf8 = 1,
-                       .countOnlyWords = 1,
-                       .wordsToIgnore = 1}),
-              ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
-                          kOnlyWordCountedText, kLineNotUtf8Text, kWordLeftOutText));
+  EXPECT_THAT(
+      TextsOf({.listStands = true,
+               .skipped = 1,
+               .foreignLetters = 1,
+               .bytesNotDecoded = 1,
+               .linesNotUtf8 = 1,
+               .filesLeftOut = 1,
+               .countOnlyWords = 1,
+               .wordsToIgnore = 1}),
+      ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
+                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordLeftOutText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -59,8 +62,9 @@ TEST(Notices, OneIsNotMany) {
 
 TEST(Notices, EveryCommandHasACaption) {
   for (const auto action :
-       {NoticeAction::kShowSkipped, NoticeAction::kCountAgain, NoticeAction::kCountAllLetters,
-        NoticeAction::kOpenPanel, NoticeAction::kShowTable, NoticeAction::kExport}) {
+       {NoticeAction::kShowSkipped, NoticeAction::kShowLeftOut, NoticeAction::kCountAgain,
+        NoticeAction::kCountAllLetters, NoticeAction::kOpenPanel, NoticeAction::kShowTable,
+        NoticeAction::kExport}) {
     EXPECT_GT(CaptionOf(action), 0);
   }
   EXPECT_EQ(CaptionOf(NoticeAction::kNone), 0);
@@ -197,6 +201,30 @@ TEST_F(NoticeBarTest, TellsOfSkippedFilesAndWhichTheyAre) {
               return HasFailure() ? 1 : 0;
             }),
             0);
+}
+
+TEST_F(NoticeBarTest, TellsOfFilesThatWereLeftOut) {
+  static_cast<void>(folder.Write("many/a.txt", "cat"));
+  static_cast<void>(folder.Write("many/b.txt", "a\1b"));
+  static_cast<void>(folder.Write("many/c.txt", ""));
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  CountFolder(folder / "many");
+  EXPECT_EQ(Said(), "2 files were left out: no text or empty.");
+  EXPECT_THAT(Commands(), testing::IsEmpty()) << "nothing here shows files";
+  int shown = 0;
+  program.Notices().SetSkippedShower([&] { ++shown; });
+  program.Notices().Update();
+  ASSERT_THAT(Commands(), ElementsAre("Which"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(shown, 1);
+  CountFile(folder / "many/a.txt");
+  EXPECT_EQ(Said(), "") << "of another text";
+}
+
+TEST_F(NoticeBarTest, MarksOfLettersAreLettersThatAreNotCounted) {
+  CountFile(folder.Write("a.txt", "Mu\u0308ller, cafe\u0301 and maison n\u00BA"));
+  EXPECT_EQ(Said(), "3 letters of other alphabets were not counted.");
 }
 
 TEST_F(NoticeBarTest, LettersOfOtherAlphabetsAreCountedOnDemand) {

@@ -40,8 +40,7 @@ TEST_F(ExplainRun, ReadsStandardInput) {
 }
 
 TEST_F(ExplainRun, EveryPieceHasOneLineWhateverStandsInIt) {
-  input = "a /* b\tc\r\nd */ e";
-  EXPECT_EQ(Run({"--explain", "-", "--skip-comments"}), kListMade);
+  EXPECT_EQ(Run({"--explain", "a /* b\tc\r\nd */ e", "--skip-comments"}), kListMade);
   EXPECT_EQ(out, "a\tcounted\ta\n/* b c  d */\tleft out\tcomment\ne\tcounted\te\n");
 }
 
@@ -59,6 +58,34 @@ TEST_F(ExplainRun, TellsOfBytesThatWereReadOtherwise) {
   EXPECT_THAT(err, HasSubstr("Note: 1 line was not UTF-8 and was read as Windows-1252"));
   EXPECT_EQ(Run({"--explain", "-", "--encoding", "utf-8"}), kListMade);
   EXPECT_THAT(err, HasSubstr("Note: 1 byte could not be decoded"));
+}
+
+TEST_F(ExplainRun, GoesThroughStandardInputLineByLineAsACountDoes) {
+  input = "line one\nline // two\nthree /* four\r\n  \r\nfive */ six";
+  EXPECT_EQ(Run({"--explain", "-", "--skip-comments"}), kListMade);
+  EXPECT_EQ(out,
+            "line\tcounted\tline\none\tcounted\tone\n"
+            "line\tcounted\tline\n// two\tleft out\tcomment\n"
+            "three\tcounted\tthree\n/* four\tleft out\tcomment\n"
+            "five */\tleft out\tcomment\nsix\tcounted\tsix\n");
+}
+
+TEST_F(ExplainRun, TellsOfLinesThatWereNotUtf8) {
+  input = "\xEF\xF0\xE8\nword\n";
+  EXPECT_EQ(Run({"--explain", "-"}), kListMade);
+  EXPECT_THAT(err, HasSubstr("1 line was not UTF-8"));
+  EXPECT_EQ(Run({"--explain", "-", "--encoding", "windows-1251", "--letters", "all"}), kListMade);
+  EXPECT_EQ(err, "");
+}
+
+TEST_F(ExplainRun, CallsAForeignLetterWhatACountCallsOne) {
+  EXPECT_EQ(Run({"--explain", "Mu\u0308ller ma\u00BA 1\uFE0F"}), kListMade);
+  EXPECT_EQ(out,
+            "Mu\u0308ller\tcut\tat U+0308: letters of other alphabets are not counted\n"
+            "Mu\tcounted\tmu\nller\tcounted\tller\n"
+            "ma\u00BA\tcut\tat \u00BA: letters of other alphabets are not counted\n"
+            "ma\tcounted\tma\n"
+            "1\uFE0F\tleft out\tnumerals are not allowed in words\n");
 }
 
 TEST_F(ExplainRun, PrintsNothingForATextWithoutPieces) {

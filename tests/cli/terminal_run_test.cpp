@@ -50,6 +50,17 @@ TEST_F(TerminalRunTest, LettersThatAreNotCountedAreTold) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(TerminalRunTest, LettersThatAreNotCountedAreToldWhereNoWordIsListed) {
+  const std::string path = folder.Write("a.txt", "слово");
+  for (const char* how : {"--file", "--text", "--window-text"}) {
+    EXPECT_EQ(Run({how, path}), 1);
+    EXPECT_THAT(err, HasSubstr("Note: 5 letters of other alphabets were not counted")) << how;
+  }
+  input = "\xF1\xEB\xEE\xE2\xEE";
+  EXPECT_EQ(Run({"--text", "-", "--encoding", "windows-1251"}), 1);
+  EXPECT_THAT(err, HasSubstr("Note: 5 letters of other alphabets"));
+}
+
 TEST_F(TerminalRunTest, LinesThatWereNotUtf8AreTold) {
   const std::string path = folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n");
   const std::string note =
@@ -181,7 +192,21 @@ TEST_F(TerminalRunTest, WhatIsNamedAndHoldsNoTextIsTold) {
   static_cast<void>(folder.Write("many/too.txt", "a\1b"));
   EXPECT_EQ(Run({path, empty, binary, folder / "many"}), 0);
   EXPECT_EQ(err, "Skipped: " + empty + " is empty; there is nothing to count\nSkipped: " + binary +
-                     " does not consist solely of text; convert it to text first\n");
+                     " does not consist solely of text; convert it to text first\n"
+                     "Note: 1 file was left out: no text or empty; --report names it.\n");
+}
+
+TEST_F(TerminalRunTest, WhatAFolderHoldsBesidesTextIsToldInOneLine) {
+  static_cast<void>(folder.Write("many/a.txt", "bird"));
+  static_cast<void>(folder.Write("many/b.txt", "a\1b"));
+  static_cast<void>(folder.Write("many/c.txt", ""));
+  const std::string note = "Note: 2 files were left out: no text or empty; --report names them.\n";
+  EXPECT_EQ(Run({folder / "many"}), 0);
+  EXPECT_EQ(err, note);
+  EXPECT_EQ(
+      Run({"--folder", folder / "many", "--window-text", "--answer", "Multiple files/folders=OK"}),
+      0);
+  EXPECT_THAT(err, HasSubstr(note));
 }
 
 TEST_F(TerminalRunTest, ASingleTextThatCannotBeCountedIsNamed) {

@@ -44,11 +44,41 @@ class UncountedTest : public EngineFixture {
 
 TEST_F(UncountedTest, LettersBeyondLatin1AreForeignAndNothingElse) {
   EXPECT_EQ(CountForeignLetters("Łódź слово 漢字", true), 9);
-  EXPECT_EQ(
-      CountForeignLetters("naïve “don’t” — £5 ½ ªº µ 123 × 🙂 e\u0301", true), 0);
+  EXPECT_EQ(CountForeignLetters("naïve “don’t” — £5 ½ 123 × 🙂", true), 0);
   EXPECT_EQ(CountForeignLetters("Œuvre Ÿ", true), 2);
   EXPECT_EQ(CountForeignLetters("Ÿ", false), 0) << "its small letter is counted";
   EXPECT_EQ(CountForeignLetters(Repeated("a", 200) + "ж" + Repeated("é", 200) + "ж", true), 2);
+}
+
+TEST_F(UncountedTest, LettersOfLatin1ThatAreNoneByTheWesternRuleAreForeign) {
+  EXPECT_EQ(CountForeignLetters("fº xªb µm", true), 3);
+  EXPECT_EQ(CountForeignLetters("10\u00B2 \u00ABa\u00BB 5\u00B0", true), 0);
+}
+
+TEST_F(UncountedTest, AMarkBehindALetterIsALetter) {
+  EXPECT_EQ(CountForeignLetters("Mu\u0308ller cafe\u0301", false), 2);
+  EXPECT_EQ(CountForeignLetters("e\u0301\u0323 и\u0306 é\u0323", true), 5);
+  EXPECT_EQ(CountForeignLetters("\u0301 a \u0301b ❤\uFE0F 1\uFE0F\u20E3 .\u0301", true), 0);
+  EXPECT_EQ(CountForeignLetters(Repeated("a", 200) + Repeated("\u0301", 300), true), 300);
+  EXPECT_EQ(CountForeignLetters(Repeated(" ", 200) + Repeated("\u0301", 300), true), 0);
+  EXPECT_EQ(CountForeignLetters("\u0301\u0301 \u0301", true, true), 2);
+}
+
+TEST_F(UncountedTest, WhatATextEndsInIsALetterBelowItsMarks) {
+  EXPECT_TRUE(EndsInLetter("a"));
+  EXPECT_TRUE(EndsInLetter("é\u0323\u0301"));
+  EXPECT_TRUE(EndsInLetter("\u0301", true));
+  EXPECT_FALSE(EndsInLetter("a \u0301", true));
+  EXPECT_FALSE(EndsInLetter(""));
+}
+
+TEST_F(UncountedTest, MarksKnowTheirLetterWhereALongLineIsCut) {
+  for (std::size_t before = 0; before < 40; ++before) {
+    const std::string text = Repeated("x", before) + " " + Repeated("नी\u0301", 40);
+    const std::int64_t letters = CountForeignLetters(text, true);
+    EXPECT_EQ(letters, 120);
+    EXPECT_EQ(ScanLongLine(text), (Uncounted{letters, 0})) << before;
+  }
 }
 
 TEST_F(UncountedTest, LettersAreCountedWhileTheirTextIs) {

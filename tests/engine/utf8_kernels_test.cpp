@@ -100,28 +100,33 @@ TEST(Utf8Kernels, MarksStandWhereTheCharacterStands) {
   }
 }
 
-TEST(Utf8Kernels, ForeignLettersAreTheLettersBeyondLatin1) {
+TEST(Utf8Kernels, ForeignLettersAreTheLettersBeyondLatin1AndThreeOfIt) {
   const UnicodeTraits& traits = UnicodeTraits::Get();
   ForEveryScalarValue([&](char32_t codePoint) {
-    const bool foreign = codePoint > 0xFF && traits.Is(codePoint, CodePointTraits::kLetter);
+    const bool oneOfThree = codePoint == 0xAA || codePoint == 0xB5 || codePoint == 0xBA;
+    const bool foreign =
+        (codePoint > 0xFF && traits.Is(codePoint, CodePointTraits::kLetter)) || oneOfThree;
     const std::string text = TextOf(codePoint);
     EXPECT_EQ(CountForeignLetters(text, true), foreign ? 1 : 0) << Number(codePoint);
     const bool lowered = codePoint == 0x178;
     EXPECT_EQ(CountForeignLetters(text, false), foreign && !lowered ? 1 : 0) << Number(codePoint);
+    const bool mark = traits.Is(codePoint, CodePointTraits::kMark);
+    EXPECT_EQ(CountForeignLetters("a" + text, true), foreign || mark ? 1 : 0) << Number(codePoint);
   });
 }
 
 TEST(Utf8Kernels, ForeignLettersAreCountedWhereverTheyStand) {
   std::mt19937_64 random(std::uint64_t{22});
-  static constexpr char32_t kCharacters[] = {'a',   ' ',    0xE9,   0x142,  0x178,  0x387,  0x3C2,
+  static constexpr char32_t kCharacters[] = {'a',   ' ',    0xAA,   0xAB,   0xB5,   0xBA,
+                                             0xE9,  0x142,  0x178,  0x387,  0x3C2,  0x301,
                                              0x44F, 0x2019, 0x2071, 0x4E00, 0xFF21, 0x10400};
   for (int i = 0; i < 300; ++i) {
     std::string text;
     std::int64_t letters = 0;
     for (std::size_t length = random() % 6'000; length > 0; --length) {
       const char32_t character = kCharacters[random() % std::size(kCharacters)];
+      letters += CountForeignLetters(TextOf(character), true, EndsInLetter(text));
       AppendCharacter(text, character);
-      letters += CountForeignLetters(TextOf(character), true);
     }
     ASSERT_EQ(CountForeignLetters(text, true), letters);
   }

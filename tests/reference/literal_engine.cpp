@@ -130,11 +130,24 @@ void LiteralEngine::ScanPrepared(const Characters& text) {
   if (choices.chkCaseSignificant != 1) {
     LineBuffer = AllLetters() ? LowerCaseOfAll(LineBuffer) : LowerCase(LineBuffer);
   }
-  for (const char32_t character : LineBuffer) {
-    if (!AllLetters() && character > 255 && IsAnyLetter(character)) ForeignLetters += 1;
-  }
+  if (!AllLetters()) CountForeignLetters();
   LineBuffer += U" ";
   GetWords();
+}
+
+/// A mark belongs to the letter before it.
+void LiteralEngine::CountForeignLetters() {
+  bool behindLetter = false;
+  for (const char32_t character : LineBuffer) {
+    if (IsAnyMark(character)) {
+      if (behindLetter) ForeignLetters += 1;
+      continue;
+    }
+    behindLetter = IsAnyLetter(character);
+    const bool western = character <= 255 && character != U'\u00AA' && character != U'\u00B5' &&
+                         character != U'\u00BA';
+    if (behindLetter && !western) ForeignLetters += 1;
+  }
 }
 
 Characters LiteralEngine::Lower(const Characters& text) const {

@@ -206,6 +206,7 @@ class LiteralEngine {
   void PrepareLineBuffer();
   void TakeWord(const Characters& word);
   void ScanPrepared(const Characters& text);
+  void CountForeignLetters();
   void Yield() const;
 
   [[nodiscard]] std::vector<Characters> CutItems(const std::vector<Characters>& items) const;

@@ -88,6 +88,10 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      kLineNotUtf8Text,
      [](const NoticeFacts& facts) { return NumberOf(facts.linesNotUtf8); },
      {kOpenPanel}},
+    {kFilesLeftOutText,
+     kFileLeftOutText,
+     [](const NoticeFacts& facts) { return NumberOf(facts.filesLeftOut); },
+     {kShowLeftOut}},
     {kWordsLeftOutText,
      kWordLeftOutText,
      [](const NoticeFacts& facts) { return NumberOf(facts.wordsToIgnore); },
@@ -118,6 +122,7 @@ int CaptionOf(NoticeAction action) {
     case kNone:
       return 0;
     case kShowSkipped:
+    case kShowLeftOut:
       return kWhichText;
     case kCountAgain:
       return kCountAgainText;

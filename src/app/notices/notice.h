@@ -15,6 +15,7 @@ namespace quillomat {
 enum class NoticeAction : std::uint8_t {
   kNone,
   kShowSkipped,
+  kShowLeftOut,
   kCountAgain,
   kCountAllLetters,
   kOpenPanel,
@@ -45,6 +46,8 @@ struct NoticeFacts {
   /// What of the text's bytes was not as its encoding wants it (Uncounted).
   std::int64_t bytesNotDecoded = 0;
   std::int64_t linesNotUtf8 = 0;
+  /// Files of a folder that are no text, or empty.
+  std::int64_t filesLeftOut = 0;
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   std::int64_t wordsToIgnore = 0;

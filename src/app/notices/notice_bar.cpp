@@ -76,6 +76,7 @@ NoticeFacts NoticeBar::Facts() const {
   }
   if (words_.counted.source == CountedText::Source::kFolder) {
     facts.skipped = countRun_.SkippedInAll();
+    facts.filesLeftOut = words_.folder.filesLeftOut;
   }
   AddTextCounted(facts);
   const CountBasis& basis = countRun_.Basis();
@@ -143,6 +144,7 @@ void NoticeBar::Hide() {
 
 bool NoticeBar::CanDo(NoticeAction action) const {
   if (action == NoticeAction::kShowTable) return static_cast<bool>(showTable_);
+  if (action == NoticeAction::kShowLeftOut) return static_cast<bool>(showSkipped_);
   if (action == NoticeAction::kExport) return static_cast<bool>(export_);
   if (action == NoticeAction::kCountAllLetters) return static_cast<bool>(countAllLetters_);
   return action != NoticeAction::kNone;
@@ -155,6 +157,8 @@ void NoticeBar::Do(NoticeAction action) {
       return;
     case NoticeAction::kShowSkipped:
       return ShowSkipped();
+    case NoticeAction::kShowLeftOut:
+      return showSkipped_();
     case NoticeAction::kCountAgain:
       return frmMain_.cmdCountWords.PerformClick();
     case NoticeAction::kCountAllLetters:

@@ -41,7 +41,8 @@ class NoticeBar {
   // What shows the list as a table, what exports it, and what counts again with the letters of all
   // languages; without one there is no command for it.
   void SetTableShower(std::function<void()> show) { showTable_ = std::move(show); }
-  /// What shows the files that were skipped; without one a text names them.
+  /// What shows the files that were skipped; without one a text names those that should have been
+  /// read.
   void SetSkippedShower(std::function<void()> show) { showSkipped_ = std::move(show); }
   void SetExporter(std::function<void()> exportList) { export_ = std::move(exportList); }
   void SetLetterCounter(std::function<void()> countAll) { countAllLetters_ = std::move(countAll); }

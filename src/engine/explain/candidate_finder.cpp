@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/utf8.h"
+#include "engine/uncounted.h"
 #include "engine/unicode_traits.h"
 
 namespace quillomat {
@@ -112,7 +113,10 @@ void CandidateFinder::TakeCharacter(char32_t codePoint, std::size_t start, std::
       return EndStretch();
     case CharacterKind::kMark:
       if (stretch_.IsEmpty()) return;
-      [[fallthrough]];
+      // A mark behind another stands where that stands.
+      if (start != behindMark_ && EndsInLetter(text_.substr(0, start))) stretch_.hasLetters = true;
+      behindMark_ = end;
+      break;
     case CharacterKind::kLetter:
       stretch_.hasLetters = true;
       break;

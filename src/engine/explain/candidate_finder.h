@@ -61,6 +61,8 @@ class CandidateFinder final : public ScanWitness {
   std::string_view text_;
   /// Up to there the text was looked at.
   std::size_t position_ = 0;
+  /// The place behind the last mark.
+  std::size_t behindMark_ = 0;
   Stretch stretch_;
   std::vector<FoundPiece> pieces_;
 };

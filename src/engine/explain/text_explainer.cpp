@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "base/line_decoder.h"
+#include "base/text_helpers.h"
 #include "engine/explain/candidate_finder.h"
 #include "engine/explain/text_origins.h"
 #include "engine/final_form.h"
@@ -57,30 +59,41 @@ CandidateReason ReasonOf(WordFilter filter) {
 class TextExplainer {
  public:
   TextExplainer(const ScanChoices& choices, const FilterChoices& filters, const WordLists& lists)
-      : choices_(choices), filters_(filters), lists_(lists) {
-    settings_.CountOnlyMode = lists.HasCountOnlyWords();
-    settings_.SetAllowWordsFlags(choices);
-    settings_.BuildExtraWordChars();
-    settings_.SetCommentMarkers(IsSet(choices.allowCommentMarkers) ? kUserPreset : kNoPreset,
-                                choices);
-  }
+      : choices_(choices),
+        filters_(filters),
+        lists_(lists),
+        settings_(SettingsOf(choices, lists)),
+        scanner_(settings_, choices, lists, store_, yield_) {}
 
-  std::vector<Candidate> Explain(std::string_view text) {
+  /// A piece of the text, behind those before it.
+  void Take(std::string_view text) {
     std::string buffer;
-    NeverAsked yield;
-    WordScanner scanner(settings_, choices_, lists_, store_, yield);
     CandidateFinder finder;
-    scanner.ShowTokens(PrepareLine(text, IsSet(choices_.caseSignificant), buffer, choices_.letters),
-                       finder);
+    scanner_.ShowTokens(
+        PrepareLine(text, IsSet(choices_.caseSignificant), buffer, choices_.letters), finder);
     const TextOrigins origins(text, finder.Text(), choices_);
     for (const FoundPiece& piece : finder.TakePieces()) {
       Add(piece, finder.Text(), origins);
     }
+  }
+
+  /// Behind the last piece.
+  std::vector<Candidate> Finish() {
     if (!settings_.CountOnlyMode) ApplyFilters();
     return std::move(candidates_);
   }
 
  private:
+  static ScanSettings SettingsOf(const ScanChoices& choices, const WordLists& lists) {
+    ScanSettings settings;
+    settings.CountOnlyMode = lists.HasCountOnlyWords();
+    settings.SetAllowWordsFlags(choices);
+    settings.BuildExtraWordChars();
+    settings.SetCommentMarkers(IsSet(choices.allowCommentMarkers) ? kUserPreset : kNoPreset,
+                               choices);
+    return settings;
+  }
+
   void Add(const FoundPiece& piece, std::string_view scanned, const TextOrigins& origins) {
     Candidate& candidate = candidates_.emplace_back();
     candidate.text = origins.At(piece.start, piece.end);
@@ -138,6 +151,8 @@ class TextExplainer {
   const WordLists& lists_;
   ScanSettings settings_;
   WordStore store_;
+  NeverAsked yield_;
+  WordScanner scanner_;
   std::vector<Candidate> candidates_;
 };
 
@@ -145,7 +160,20 @@ class TextExplainer {
 
 std::vector<Candidate> ExplainText(std::string_view text, const ScanChoices& choices,
                                    const FilterChoices& filters, const WordLists& lists) {
-  return TextExplainer(choices, filters, lists).Explain(text);
+  TextExplainer explainer(choices, filters, lists);
+  explainer.Take(text);
+  return explainer.Finish();
+}
+
+std::vector<Candidate> ExplainLines(std::string_view text, const ScanChoices& choices,
+                                    const FilterChoices& filters, const WordLists& lists) {
+  TextExplainer explainer(choices, filters, lists);
+  LineDecoder lines(text);
+  while (const auto line = lines.NextLine()) {
+    const std::string_view trimmed = TrimBlanks(*line);
+    if (!trimmed.empty()) explainer.Take(trimmed);
+  }
+  return explainer.Finish();
 }
 
 }  // namespace quillomat

@@ -23,4 +23,10 @@ namespace quillomat {
                                                  const FilterChoices& filters,
                                                  const WordLists& lists);
 
+/// The same of a text that is scanned as that of a file is: line by line, with a comment carried on
+/// from one to the next.
+[[nodiscard]] std::vector<Candidate> ExplainLines(std::string_view text, const ScanChoices& choices,
+                                                  const FilterChoices& filters,
+                                                  const WordLists& lists);
+
 }  // namespace quillomat

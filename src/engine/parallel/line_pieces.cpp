@@ -9,6 +9,9 @@
 namespace quillomat {
 namespace {
 
+/// Whoever is silent for longer makes others wait.
+constexpr std::chrono::milliseconds kMoment{8};
+
 /// The place behind the last line end of `text`; 0 when there is none. A carriage return at the
 /// very end is none yet: its line feed may follow.
 std::size_t BehindLastLineEnd(std::string_view text) {
@@ -73,8 +76,8 @@ void LinePieces::EndLongLine(TextPiece& piece) {
   piece.bytes = lineBytes + 1;
 }
 
-/// Fills the piece up, and lets one that is full grow by half of its size, so that a long line
-/// costs no more than its bytes. False at the end.
+/// Fills the piece up, as long as the source has something, and lets one that is full grow by half
+/// of its size, so that a long line costs no more than its bytes. False at the end.
 bool LinePieces::ReadMore(TextPiece& piece) {
   const std::size_t grown = piece.bytes + std::max(pieceBytes_, piece.bytes) / 2 + 1;
   const std::size_t wanted = std::max(pieceBytes_, grown);
@@ -84,6 +87,7 @@ bool LinePieces::ReadMore(TextPiece& piece) {
         Read(std::span(piece.memory).subspan(piece.bytes, wanted - piece.bytes));
     piece.bytes += bytes;
     ended_ = bytes == 0;
+    if (!ended_ && piece.bytes < wanted && !source_.IsReady(kMoment)) break;
   }
   return !ended_;
 }

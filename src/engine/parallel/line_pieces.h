@@ -1,6 +1,7 @@
 // Cuts a text into pieces of whole lines, so that they can be scanned by themselves.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -35,14 +36,20 @@ class LinePieces {
       : source_(source), pieceBytes_(pieceBytes) {}
 
   /// Puts the next piece into `piece`; false when there is none. A piece has about as many bytes as
-  /// were asked for, more only when one line has more. It ends behind a line end, the last one with
-  /// the text. Passes on what the source throws, when the lines before have been given.
+  /// were asked for, more only when one line has more, fewer when no more come for now. It ends
+  /// behind a line end, the last one with the text. Passes on what the source throws, when the
+  /// lines before have been given.
   ///
   /// With `cutLongLines`, a line with more than twice as many bytes comes in pieces of its own,
   /// from one that begins with it to one that ends with it: see IsInLongLine.
   [[nodiscard]] bool Next(TextPiece& piece, bool cutLongLines = false);
   /// Whether the line with which the last piece ended goes on in the next.
   [[nodiscard]] bool IsInLongLine() const { return inLongLine_; }
+
+  /// Whether there is more to read, or the end; waits no longer than `longest`.
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const {
+    return ended_ || source_.IsReady(longest);
+  }
 
  private:
   void EndLongLine(TextPiece& piece);

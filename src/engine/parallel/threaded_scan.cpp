@@ -38,7 +38,8 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   if (readError_) std::rethrow_exception(readError_);
 }
 
-/// So many pieces that no thread waits for work while one is joined. What was read before an error
+/// So many pieces that no thread waits for work while one is joined; but nobody waits for more of a
+/// text as long as there is something to be joined. What was read before an error
 /// is counted first.
 void ThreadedScan::ReadAhead(LinePieces& pieces) {
   if (hasGuessedWrong_) {
@@ -47,6 +48,7 @@ void ThreadedScan::ReadAhead(LinePieces& pieces) {
     nextOpen_ = target_.settings.OpenComment;
   }
   while (!sourceEnded_ && !longLine_ && pool_.Pieces() < 2 * pool_.Threads()) {
+    if (pool_.Pieces() > 0 && !pieces.IsReady(kLongestWait)) return;
     TextPiece text;
     if (!spareTexts_.empty()) {
       text = std::move(spareTexts_.back());

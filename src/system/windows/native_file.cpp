@@ -127,8 +127,14 @@ std::optional<FileIdentity> NativeFile::Identity() const {
   return IdentityOfHandle(AsHandle(handle_));
 }
 
-bool NativeFile::IsReady(std::chrono::milliseconds /*longest*/) const {
-  return true;
+/// A wait would be one of whole ticks, in which a pipe is filled many times over. So there is only
+/// a look, for those who would not wait at all.
+bool NativeFile::IsReady(std::chrono::milliseconds longest) const {
+  const HANDLE file = AsHandle(handle_);
+  if (longest.count() > 0 || GetFileType(file) != FILE_TYPE_PIPE) return true;
+  DWORD bytes = 0;
+  const bool hasWriter = PeekNamedPipe(file, nullptr, 0, nullptr, &bytes, nullptr) != 0;
+  return !hasWriter || bytes > 0;
 }
 
 std::size_t NativeFile::Read(std::span<char> buffer) const {
@@ -142,6 +148,7 @@ std::size_t NativeFile::Read(std::span<char> buffer) const {
 }
 
 std::optional<std::size_t> NativeFile::ReadAtHand(std::span<char> buffer) const {
+  if (!IsReady(std::chrono::milliseconds::zero())) return std::nullopt;
   return Read(buffer);
 }
 

@@ -1,0 +1,122 @@
+// Streams that come slowly, and streams whose count is stopped: what has come is counted.
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sources/counter_fixture.h"
+#include "sources/file_columns.h"
+
+namespace quillomat {
+namespace {
+
+/// A pipe into which somebody writes one portion after the other, with a pause behind each. When
+/// there is none left, the count is stopped.
+class PortionedPipe final : public ByteSource {
+ public:
+  PortionedPipe(std::vector<std::string> portions, RecordingObserver& observer)
+      : portions_(std::move(portions)), observer_(observer) {}
+
+  std::size_t Read(std::span<char> buffer) override {
+    if (rest_.empty() && next_ < portions_.size()) {
+      wordsBefore.push_back(observer_.newWords);
+      rest_ = portions_[next_++];
+    }
+    if (rest_.empty()) observer_.stopped = true;
+    const std::size_t bytes = std::min(buffer.size(), rest_.size());
+    std::memcpy(buffer.data(), rest_.data(), bytes);
+    rest_.remove_prefix(bytes);
+    return bytes;
+  }
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds /*longest*/) const override {
+    return !rest_.empty();
+  }
+
+  /// The words that had been counted before each portion.
+  std::vector<std::string> wordsBefore;
+
+ private:
+  std::vector<std::string> portions_;
+  RecordingObserver& observer_;
+  std::size_t next_ = 0;
+  std::string_view rest_;
+};
+
+std::string Repeated(std::string_view text, int times) {
+  std::string repeated;
+  for (int i = 0; i < times; ++i) repeated += text;
+  return repeated;
+}
+
+class StoppedStream : public CounterFixture, public testing::WithParamInterface<std::size_t> {
+ protected:
+  StoppedStream() { request.threads = GetParam(); }
+
+  CountResult CountOf(std::vector<std::string> portions) {
+    PortionedPipe pipe(std::move(portions), observer);
+    CountResult result = Run(TextOfStream{&pipe, "pipe"});
+    wordsBefore_ = pipe.wordsBefore;
+    return result;
+  }
+
+  std::vector<std::string> wordsBefore_;
+};
+
+TEST_P(StoppedStream, GivesAllThatHadCome) {
+  for (const int lines : {1, 1'000, 40'000, 120'000}) {
+    const std::string portion = Repeated("hello world hello\n", lines / 2 + 1);
+    observer.stopped = false;
+    const CountResult result = CountOf({portion, portion});
+    EXPECT_EQ(result.end, CountEnd::kStopped);
+    EXPECT_EQ(result.wordsRead, 6 * (lines / 2 + 1));
+    EXPECT_EQ(result.reports.at(0).wordsRead, result.wordsRead);
+  }
+}
+
+TEST_P(StoppedStream, CountsALineThatHasNotEnded) {
+  EXPECT_EQ(WordsOf(CountOf({"cat dog\ncat", " bird"})), "bird cat*2 dog");
+}
+
+TEST_P(StoppedStream, IsReadInPartAsItsReportSays) {
+  const CountResult result = CountOf({"cat dog\n", "cat\n"});
+  const FileReport& report = result.reports.at(0);
+  EXPECT_TRUE(IsReadInPart(report));
+  EXPECT_EQ(CellOf(report, FileColumn::kSkipped), FileCell("stopped behind byte 12"));
+}
+
+TEST_P(StoppedStream, IsCountedAsItComes) {
+  (void)CountOf({"cat\n", "dog\n", "bird\n"});
+  EXPECT_EQ(wordsBefore_, (std::vector<std::string>{"", "cat", "cat dog"}));
+}
+
+TEST_P(StoppedStream, IsGuessedByAllOfItsStart) {
+  request.encoding = CharacterSet::kGuess;
+  const CountResult result = CountOf({"cat\n", "dog\n"});
+  EXPECT_EQ(wordsBefore_, (std::vector<std::string>{"", ""}));
+  EXPECT_EQ(WordsOf(result), "cat dog");
+}
+
+TEST_P(StoppedStream, MakesNoWordsOfItsOwn) {
+  // Ten bytes a word, so that no block of a pipe ends behind one.
+  observer.stopAtWord = 1;
+  const CountResult result = CountOf({Repeated("catalogue ", 300'000)});
+  EXPECT_EQ(result.end, CountEnd::kStopped);
+  EXPECT_EQ(result.store.NumDifferentWords(), 1) << WordsOf(result);
+  EXPECT_LT(result.wordsRead, 300'000);
+  EXPECT_EQ((result.reports.at(0).bytesRead + 1) / 10, result.wordsRead);
+}
+
+TEST_P(StoppedStream, ThatEndsByItselfWasReadToItsEnd) {
+  TextSource text("cat dog\n");
+  const CountResult result = Run(TextOfStream{&text, "pipe"});
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  EXPECT_FALSE(IsReadInPart(result.reports.at(0)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Threads, StoppedStream, testing::Values(1, 3));
+
+}  // namespace
+}  // namespace quillomat
