@@ -65,7 +65,8 @@ bool DirectCount::Run() {
   TellUncounted(result.uncounted, messages_, streams_.err);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
-                 << "the list is of what was counted until then\n";
+                 << (options_.exports.empty() ? "the list is" : "list and exports are")
+                 << " of what was counted until then\n";
   }
   result.Rank(request.filters);
   program_.Count().Take(std::move(result), text);

@@ -264,8 +264,13 @@ class TerminalRun {
     }
     CountRun& count = program_.Count();
     if (!count.PrepareScan()) return kRunFailed;
+    TellUncounted(clipboardUncounted_, Messages(desktop_, program_.Text()), err_);
     const std::string lines =
         ExplanationLines(desktop_.ClipboardText(), count.Request({}), program_.Text());
+    if (lines.empty()) {
+      err_ << Headed{MessageTone::kWarning, "Note: "}
+           << "nothing in the text could be a word or a comment\n";
+    }
     return streams_.print([&lines](ByteSink& out) { out.Write(lines); }) ? kListMade : kRunFailed;
   }
 
@@ -290,20 +295,28 @@ class TerminalRun {
     const bool toFile = program_.Lister().HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
     const bool reported = Report();
-    if (options_.summary) PrintSummary();
-    if (options_.statistics && made) PrintStatistics();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
       const bool failed = desktop_.ProblemShown() && !program_.Output().IsFull();
-      return PrintWindowText() && made && reported && !failed ? kListMade : kRunFailed;
+      const bool printed = PrintWindowText();
+      PrintFigures(made);
+      return printed && made && reported && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
+      PrintFigures(false);
       TellWhyThereIsNoList();
       return kRunFailed;
     }
     const bool printed =
         toFile ? program_.Lister().FileWritten() : ExportIsPrinted() || PrintList();
+    PrintFigures(true);
     return Export() && printed && reported && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+  }
+
+  /// Behind the list, where a person at a terminal sees them.
+  void PrintFigures(bool ofList) {
+    if (options_.summary) PrintSummary();
+    if (options_.statistics && ofList) PrintStatistics();
   }
 
   bool Export() {

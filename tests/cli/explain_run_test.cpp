@@ -45,9 +45,26 @@ TEST_F(ExplainRun, EveryPieceHasOneLineWhateverStandsInIt) {
   EXPECT_EQ(out, "a\tcounted\ta\n/* b c  d */\tleft out\tcomment\ne\tcounted\te\n");
 }
 
+TEST_F(ExplainRun, DecodesItsBytesByTheEncodingThatIsNamed) {
+  input = "\xC4\xC5\xCC\xCF";
+  EXPECT_EQ(Run({"--explain", "-", "--encoding", "koi8-r", "--letters", "all"}), kListMade);
+  EXPECT_EQ(out, "дело\tcounted\tдело\n");
+  EXPECT_EQ(err, "");
+}
+
+TEST_F(ExplainRun, TellsOfBytesThatWereReadOtherwise) {
+  input = "caf\xE9";
+  EXPECT_EQ(Run({"--explain", "-"}), kListMade);
+  EXPECT_EQ(out, "café\tcounted\tcafé\n");
+  EXPECT_THAT(err, HasSubstr("Note: 1 line was not UTF-8 and was read as Windows-1252"));
+  EXPECT_EQ(Run({"--explain", "-", "--encoding", "utf-8"}), kListMade);
+  EXPECT_THAT(err, HasSubstr("Note: 1 byte could not be decoded"));
+}
+
 TEST_F(ExplainRun, PrintsNothingForATextWithoutPieces) {
   EXPECT_EQ(Run({"--explain", "..."}), kListMade);
   EXPECT_EQ(out, "");
+  EXPECT_EQ(err, "Note: nothing in the text could be a word or a comment\n");
 }
 
 TEST_F(ExplainRun, TakesNoMoreThanAClipboardDoes) {

@@ -225,6 +225,14 @@ TEST_F(TerminalRunTest, ATextThatIsTooLongForTheClipboardIsAPath) {
                              "quillomat-cli -\n"));
 }
 
+TEST_F(TerminalRunTest, AnInterruptionSaysThatExportsAreOfAPart) {
+  input = LongText();
+  int looks = 0;
+  interruption = [&looks] { return ++looks > 3 ? 130 : 0; };
+  EXPECT_EQ(Run({"-", "--list-on-interrupt", "--export", folder / "part.csv"}), 130);
+  EXPECT_THAT(err, HasSubstr("Interrupted: list and exports are of what was counted until then"));
+}
+
 TEST_F(TerminalRunTest, AnInterruptionListsWhatWasCounted) {
   input = LongText();
   int looks = 0;

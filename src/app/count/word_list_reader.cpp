@@ -1,11 +1,13 @@
 #include "app/count/word_list_reader.h"
 
+#include <algorithm>
 #include <array>
 #include <new>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "app/count/common_words.h"
 #include "app/count/line_ending_warning.h"
 #include "app/count/panel_choices.h"
 #include "app/count/path_boxes.h"
@@ -45,6 +47,13 @@ bool IsIgnore(WordListKind kind) {
 
 std::string KindName(WordListKind kind) {
   return IsIgnore(kind) ? "words-to-ignore" : "count-only words";
+}
+
+/// Whether it came with the program: its line ends are nobody's concern.
+bool IsOwnList(const std::string& path) {
+  return std::ranges::any_of(FindCommonWords(), [&path](const CommonWordsList& list) {
+    return IsSameFile(path, list.path);
+  });
 }
 
 /// `text` is what stands in the file.
@@ -166,7 +175,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
       messages_.Refuse("This is not a text file.", "Invalid input");
       return false;
     }
-    if (IsWorthAWarning(type)) ShowLineEndingWarning(messages_, type);
+    if (IsWorthAWarning(type) && !IsOwnList(path)) ShowLineEndingWarning(messages_, type);
     ScanSettings& settings = inForce_.settings;
     const ScanChoices choices = ReadScanChoices(frmParams_);
     settings.ReadingWordList = true;

@@ -159,10 +159,7 @@ TEST_F(BoxesInForce, TheDefaultWordsThatStandInForALostFileAreReadByTheNextCount
   desktop.ForgetQuestions();
   ASSERT_TRUE(Has(WordsFileBox(WordListKind::kIgnore).Text(), "cwds_en.txt"));
   CountClipboard("the zebra");
-  // The file of the source tree has Unix line ends, of which Windows is warned.
-  if (kPlatformLineBreak == "\n") {
-    EXPECT_THAT(desktop.Titles(), IsEmpty());
-  }
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
   EXPECT_FALSE(Has(Output(), "the"));
 }
 
