@@ -4,6 +4,7 @@
 #include <new>
 
 #include "base/run_time_error.h"
+#include "export/export_format.h"
 #include "system/file_system.h"
 #include "system/links.h"
 #include "system/output_file.h"
@@ -28,6 +29,11 @@ std::string WhatToDo(const RunTimeError& error, const std::string& path) {
       return " (its folder does not exist)";
     case RunTimeErrorNumber::kPermissionDenied:
       return " (check the permissions of the file and its folder)";
+    case RunTimeErrorNumber::kPathFileAccess:
+      return " (its disk may be read-only)";
+    case RunTimeErrorNumber::kDiskFull:
+      if (ExportFormatOfPath(path) != ExportFormat::kXlsx) return "";
+      return " (a workbook needs room among the temporary files, too)";
     default:
       return "";
   }

@@ -307,10 +307,15 @@ class TerminalRun {
       TellWhyThereIsNoList();
       return kRunFailed;
     }
-    const bool printed =
-        toFile ? program_.Lister().FileWritten() : ExportIsPrinted() || PrintList();
+    const bool printed = toFile ? ListIsInFile() : ExportIsPrinted() || PrintList();
     PrintFigures(true);
     return Export() && printed && reported && !desktop_.ProblemShown() ? kListMade : kRunFailed;
+  }
+
+  /// A message has told why not.
+  bool ListIsInFile() {
+    const std::string& path = program_.frmMain.txbFile[1].Text();
+    return program_.Lister().FileWritten() || Fail("--output " + path + " is not written");
   }
 
   /// Behind the list, where a person at a terminal sees them.

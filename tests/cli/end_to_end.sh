@@ -225,6 +225,11 @@ holds cat.txt "well-known"
 printf 'dog\rcat\r' >mac.txt
 check "a warning stops nothing" 0 --file cat.txt --set 'txbWordsFile(0)=mac.txt' --format 8
 holds err "This file has Macintosh line endings."
+if [ -e /dev/full ]; then
+  check "a list that finds no room" 1 --file cat.txt --output /dev/full
+  holds err "Error 61: Disk full"
+  holds err "--output /dev/full is not written"
+fi
 check "the names of formats are known in capitals" 0 --file cat.txt --format "Word Frequency"
 check "a refused overwrite is told of" 1 --file cat.txt --output list.txt \
   --answer "The output file exists.=Cancel"
