@@ -239,6 +239,8 @@ void CheckWindowText(const CommandLine& options) {
   forbid(options.report && (options.text || options.listFiles), "--report",
          "--text or --list-files");
   forbid(options.statistics && options.listFiles, "--statistics", "--list-files");
+  forbid(options.summary && options.listFiles, "--summary", "--list-files");
+  forbid(IsGiven(options, "--output") && options.listFiles, "--output", "--list-files");
   if (options.windowText || options.listFiles || options.text) {
     forbid(options.progress, "--progress", "--text, --window-text or --list-files");
     forbid(options.listOnInterrupt, "--list-on-interrupt", "--text, --window-text or --list-files");
@@ -295,6 +297,9 @@ void CheckCombinations(const CommandLine& options) {
   needsFolder(options.listFiles, "--list-files");
   if (options.null && (options.windowText || options.listFiles)) {
     throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
+  }
+  if (IsGiven(options, "--output") && IsGiven(options, "--disable-output")) {
+    throw CLI::ValidationError("--disable-output", "contradicts --output");
   }
   CheckWindowText(options);
   for (const auto& fault : {FindExportFault(options), FindReportFault(options)}) {

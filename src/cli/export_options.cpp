@@ -1,6 +1,7 @@
 #include "cli/export_options.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 
 #include "cli/targets.h"
@@ -52,7 +53,9 @@ Fault FindColumnsFault(const CommandLine& options) {
   if (!options.columns) return std::nullopt;
   if (options.exports.empty()) return "--columns goes with --export";
   if (ColumnNames(options).empty()) return "--columns: no column is named";
+  std::set<std::string> named;
   for (const std::string& name : ColumnNames(options)) {
+    if (!named.insert(name).second) return "--columns: '" + name + "' is named twice";
     if (WordColumnOfName(name)) continue;
     std::string names;
     for (const std::string_view known : kWordColumnNames) {

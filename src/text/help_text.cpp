@@ -24,7 +24,8 @@ constexpr std::string_view kSizes =
     "There is no limit on the size of an input file, but there is a limit on the text which the "
     "output textbox can hold, normally something beyond 30,000 characters, so (in the case of a "
     "large file) only about 1000 to 2000 words can appear in the list. For a large file specify an "
-    "output file: the results are written to it before they are displayed.";
+    "output file: the results are written to it before they are displayed. The table beside the "
+    "text shows all words.";
 
 constexpr std::string_view kOwnText =
     "You can also write text in the textbox yourself. Copy it to the clipboard to have its words "
@@ -38,7 +39,8 @@ constexpr std::string_view kParameters =
 constexpr std::string_view kWordsToIgnore =
     "Words to ignore (common words such as 'the') can be read from a file of your choice. Files of "
     "common words come with the program for English, German, French, Italian, Spanish and "
-    "Portuguese. The words of such a file need not be sorted, nor stand on separate lines, but the "
+    "Portuguese, and for Czech, Dutch, Greek, Polish, Russian, Swedish, Turkish and Ukrainian. The "
+    "words of such a file need not be sorted, nor stand on separate lines, but the "
     "file must consist of text only.";
 
 constexpr std::string_view kOtherLanguages =
@@ -67,7 +69,8 @@ constexpr std::string_view kCountOnlyWords =
     "which they occur and (ii) the words found plus a list of the files in which they occur.";
 
 constexpr std::string_view kSpreadsheets =
-    "To use a list in a spreadsheet copy it, save it as text and read it in. An output file can be "
+    "To use a list in a spreadsheet copy it, save it as text and read it in, or export it as a "
+    "workbook with 'Export...'. An output file can be "
     "written as comma-delimited so that it can be read by other software.";
 
 constexpr std::string_view kClosing =

@@ -102,6 +102,12 @@ TEST(CommandLine, WhatACountInTheWindowCannotDoIsRefused) {
   EXPECT_TRUE(parsed.result.options.listOnInterrupt);
 }
 
+TEST(CommandLine, WhatWouldHaveNoEffectIsRefused) {
+  ExpectWrong({"--folder", "a", "--list-files", "--output", "b"}, "--output: does not go with");
+  ExpectWrong({"--folder", "a", "--list-files", "--summary"}, "--summary: does not go with");
+  ExpectWrong({"a", "--output", "b", "--disable-output"}, "--disable-output: contradicts --output");
+}
+
 TEST(CommandLine, DashIsStandardInput) {
   const Parsed parsed = Parse({"--text", "-"});
   ASSERT_FALSE(parsed.result.exitStatus) << parsed.err;

@@ -53,6 +53,8 @@ TEST(ExportOptions, AnUnknownColumnNamesThosePossible) {
             "--columns: 'percents' is none of: rank, word, frequency, percent, per-million, "
             "cumulative, length, files, file");
   EXPECT_EQ(FindExportFault(Exporting({"a.csv"}, " , ")), "--columns: no column is named");
+  EXPECT_EQ(FindExportFault(Exporting({"a.csv"}, "word,rank,word")),
+            "--columns: 'word' is named twice");
 }
 
 TEST(ExportOptions, ColumnsWithoutAnExportAreAFault) {

@@ -15,5 +15,6 @@ done
 grep -qF 'fIPATH\fR...' "$2/man/quillomat-cli.1" || { echo "no PATH... in the manual"; failed=1; }
 "$1" --help | grep -qF 'quillomat-cli [OPTIONS] [PATH...]' || { echo "no PATH... in the help"; failed=1; }
 grep -qF '*:file:_files' "$2/zsh/_quillomat-cli" || { echo "zsh: no paths"; failed=1; }
+grep -qE '[ |]--export[|)]' "$2/bash/quillomat-cli" || { echo "bash: no paths for --export"; failed=1; }
 bash -n "$2/bash/quillomat-cli" || failed=1
 exit "$failed"

@@ -14,7 +14,7 @@ namespace quillomat {
 namespace {
 
 bool TakesPath(const OptionDescription& option) {
-  return option.value.find("PATH") != std::string::npos || option.value == "FILE";
+  return option.value.find("PATH") != std::string::npos || option.value.starts_with("FILE");
 }
 
 /// For the manual's formatter: hyphens that are hyphens, no line that looks like a request.
