@@ -1,30 +1,14 @@
 #include "engine/word_hash.h"
 
-#include <chrono>
-#include <exception>
 #include <random>
 
+#include "base/random_bits.h"
+
 namespace quillomat {
-namespace {
-
-/// 64 bits of chance.
-std::uint64_t Draw() {
-  static_assert(sizeof(std::random_device::result_type) == sizeof(std::uint32_t));
-  try {
-    std::random_device device;
-    return std::uint64_t{device()} << 32U | device();
-  } catch (const std::exception&) {
-    // A system without chance is no reason not to count: the clock is hard to foresee, too.
-    return static_cast<std::uint64_t>(
-        std::chrono::high_resolution_clock::now().time_since_epoch().count());
-  }
-}
-
-}  // namespace
 
 const HashSeed& DrawnHashSeed() {
   // Once, as drawing takes longer than counting a small file.
-  static const HashSeed kSeed = HashSeedAfter({Draw(), 0});
+  static const HashSeed kSeed = HashSeedAfter({RandomBits(), 0});
   return kSeed;
 }
 
