@@ -156,6 +156,9 @@ class WordStore {
     return static_cast<std::int32_t>(letters_.Size());
   }
 
+  // By alphabetical places. The first call after a word was added sorts the words, even in a store
+  // that is constant: several threads may read only once one of them has asked.
+
   /// The record at alphabetical place `index`, 1 to NumDifferentWords().
   [[nodiscard]] WordRec At(std::int32_t index) const {
     if (!sorted_) SortRecords();
@@ -171,7 +174,7 @@ class WordStore {
     if (!sorted_) SortRecords();
     return counts_[static_cast<std::size_t>(index - 1)];
   }
-  /// Begins to fetch them.
+  /// Begins to fetch them; sorts nothing, and so fetches others while the words are not sorted.
   void PrefetchAt(std::int32_t index) const {
     const auto place = static_cast<std::size_t>(index - 1);
     __builtin_prefetch(&letters_[place]);
