@@ -65,12 +65,14 @@ class TokenMemo {
   /// The key of no token.
   [[nodiscard]] static Key NoKey() { return {0, UINT32_MAX, 0}; }
 
+  struct Places;
+  [[nodiscard]] Places AllPlaces() const;
   /// Begins to fetch what Find will look at.
-  void Prefetch(const Key& key) const { __builtin_prefetch(&entries_[key.hash >> shift_]); }
+  void Prefetch(const Key& key) const { __builtin_prefetch(&entries_[key.hash]); }
 
   [[nodiscard]] TokenOutcome Find(const Key& key) const {
     const std::size_t mask = entries_.size() - 1;
-    for (std::size_t i = key.hash >> shift_;; i = (i + 1) & mask) {
+    for (std::size_t i = key.hash;; i = (i + 1) & mask) {
       const Entry& entry = entries_[i];
       if (entry.low == key.low && entry.high == key.high) return entry.outcome;
       if (entry.low == 0) return kUnknownToken;
@@ -118,19 +120,35 @@ class TokenMemo {
   std::size_t tokens_ = 0;
 };
 
-inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size,
+struct TokenMemo::Places {
+  const Entry* entries;
+  std::size_t mask;
+  unsigned shift;
+  HashSeed seed;
+  Key KeyOf(const char* text, std::size_t size,
                                        std::size_t readable) const {
   Key key{};
   char last[kMostBytes] = {};
   const char* bytes = text;
-  if (readable < kMostBytes) {
+  if (readable < kMostBytes) [[unlikely]] {
     std::memcpy(last, text, size);
     bytes = last;
   }
   key.low = LoadNumber<std::uint64_t>(bytes) & kOwnBytes[size].low;
   key.high = LoadNumber<std::uint32_t>(bytes + sizeof key.low) & kOwnBytes[size].high;
-  key.hash = MixedHash(key.low, key.high, seed_);
+  key.hash = static_cast<std::uint32_t>(FoldedProduct(key.low ^ seed.first, key.high ^ seed.second) >> shift);
   return key;
-}
+  }
+  TokenOutcome Find(const Key& key) const {
+    for (std::size_t i = key.hash;; i = (i + 1) & mask) {
+      const Entry& entry = entries[i];
+      if (entry.low == key.low && entry.high == key.high) return entry.outcome;
+      if (entry.low == 0) return kUnknownToken;
+    }
+  }
+};
+inline TokenMemo::Places TokenMemo::AllPlaces() const { return {entries_.data(), entries_.size() - 1, shift_ + 32, seed_}; }
+inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size,
+                                       std::size_t readable) const { return AllPlaces().KeyOf(text, size, readable); }
 
 }  // namespace quillomat

@@ -105,13 +105,15 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
 
 void TokenTaker::FindKeys(const LineBlock& block, std::size_t first, std::size_t count,
                           Batch& batch) const {
+  const TokenMemo::Places places = memo_.AllPlaces();
+  std::size_t keyCount = 0;
   for (std::size_t i = 0; i < count; ++i) {
     const LineBlock::Token token = block.TokenAt(first + i);
     if (token.bytes <= TokenMemo::kMostBytes) {
-      const TokenMemo::Key key = memo_.KeyOf(token.text, token.bytes, token.readable);
-      memo_.Prefetch(key);
-      batch.keys[batch.keyCount] = key;
-      batch.numbers[batch.keyCount++] = static_cast<std::uint8_t>(i);
+      const TokenMemo::Key key = places.KeyOf(token.text, token.bytes, token.readable);
+      __builtin_prefetch(places.entries + key.hash);
+      batch.keys[keyCount] = key;
+      batch.numbers[keyCount++] = static_cast<std::uint8_t>(i);
     } else {
       const LongTokenMemo::Key key = longMemo_.KeyOf(token.text, token.bytes);
       longMemo_.Prefetch(key);
@@ -119,21 +121,28 @@ void TokenTaker::FindKeys(const LineBlock& block, std::size_t first, std::size_t
       batch.longNumbers[batch.longKeyCount++] = static_cast<std::uint8_t>(i);
     }
   }
+  batch.keyCount = keyCount;
 }
 
 void TokenTaker::FindShort(std::size_t first, Batch& batch) {
-  for (std::size_t i = 0; i < batch.keyCount; ++i) {
-    const TokenOutcome outcome = memo_.Find(batch.keys[i]);
-    batch.places[batch.placeCount] = outcome;
-    batch.placeCount += static_cast<std::size_t>(IsPlace(outcome));
-    batch.words += static_cast<std::int32_t>(outcome <= kWordNotStored);
-    if (outcome < kUnknownToken) continue;
+  const TokenMemo::Places places = memo_.AllPlaces();
+  const std::size_t keyCount = batch.keyCount;
+  std::size_t placeCount = 0;
+  std::int32_t words = 0;
+  for (std::size_t i = 0; i < keyCount; ++i) {
+    const TokenOutcome outcome = places.Find(batch.keys[i]);
+    batch.places[placeCount] = outcome;
+    placeCount += static_cast<std::size_t>(IsPlace(outcome));
+    words += static_cast<std::int32_t>(outcome <= kWordNotStored);
+    if (outcome < kUnknownToken) [[likely]] continue;
     if (IsSeveral(outcome)) {
       TakeSeveral(outcome);
     } else {
       newTokens_.push_back({first + batch.numbers[i], batch.keys[i], kNoLongKey, 0});
     }
   }
+  batch.placeCount = placeCount;
+  batch.words = words;
 }
 
 void TokenTaker::FindLong(std::size_t first, Batch& batch) {
