@@ -11,7 +11,6 @@
 
 // As in token_classes.cpp, which says why.
 #define HWY_IS_DEBUG_BUILD 0
-#define HWY_WANT_AVX3_DL
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/utf8_kernels.cpp"
 #include <hwy/foreach_target.h>
@@ -274,9 +273,7 @@ constexpr Kernel kKernels[] = {
 #endif
 #if (HWY_TARGETS & HWY_AVX3) != 0
     {"avx3", N_AVX3::IsWellFormed, N_AVX3::MarkSuspects, N_AVX3::CountCommonForeign},
-#endif
-#if (HWY_TARGETS & HWY_AVX3_DL) != 0
-    {"avx3_dl", N_AVX3_DL::IsWellFormed, N_AVX3_DL::MarkSuspects, N_AVX3_DL::CountCommonForeign},
+    {"vbmi2", N_AVX3::IsWellFormed, N_AVX3::MarkSuspects, N_AVX3::CountCommonForeign},
 #endif
 #endif
 };
