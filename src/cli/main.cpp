@@ -2,6 +2,7 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <memory_resource>
 #include <new>
 #include <optional>
 #include <ostream>
@@ -19,6 +20,7 @@
 #include "engine/kernel_choice.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
+#include "system/large_pages.h"
 #include "system/terminal.h"
 
 namespace quillomat {
@@ -46,6 +48,7 @@ int main(int argc, char** argv) {
   using namespace quillomat;
   try {
     LetDrivesBeEmpty();
+    std::pmr::set_default_resource(&LargePageMemory());
     std::optional<Interruption> interruption(std::in_place);
     const Terminal terminal;
     const bool errIsTerminal = IsTerminal(StandardStream::kError);

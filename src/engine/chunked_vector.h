@@ -1,13 +1,15 @@
-// A vector that never moves what it holds: it grows by chunks of one size.
+// A vector for millions of items: once it is large it grows by chunks, so that growing copies
+// nothing and needs no room for all items twice. A chunk is as large as the pages of memory that
+// the program may have got for large blocks (system/large_pages.h).
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <memory_resource>
+#include <utility>
 #include <vector>
 
 namespace quillomat {
 
-/// `Item` can be made without arguments.
 template <typename Item>
 class ChunkedVector {
  public:
@@ -17,11 +19,11 @@ class ChunkedVector {
     return chunks_[index / kChunk][index % kChunk];
   }
 
-  void PushBack(const Item& item) {
-    if (size_ == chunks_.size() * kChunk) {
-      chunks_.push_back(std::make_unique_for_overwrite<Item[]>(kChunk));
-    }
-    chunks_[size_ / kChunk][size_ % kChunk] = item;
+  /// Makes the item where it is to stand. Others may move.
+  template <typename... Arguments>
+  void EmplaceBack(Arguments&&... arguments) {
+    if (size_ == chunks_.size() * kChunk) AddChunk();
+    chunks_.back().emplace_back(std::forward<Arguments>(arguments)...);
     ++size_;
   }
 
@@ -31,9 +33,17 @@ class ChunkedVector {
   }
 
  private:
-  static constexpr std::size_t kChunk = 4096;
+  static constexpr std::size_t kChunkBytes = std::size_t{2} * 1024 * 1024;
+  static constexpr std::size_t kChunk = kChunkBytes / sizeof(Item);
 
-  std::vector<std::unique_ptr<Item[]>> chunks_;
+  /// The first grows as vectors do, as most are small.
+  void AddChunk() {
+    std::pmr::vector<Item> chunk;
+    if (size_ > 0) chunk.reserve(kChunk);
+    chunks_.push_back(std::move(chunk));
+  }
+
+  std::vector<std::pmr::vector<Item>> chunks_;
   std::size_t size_ = 0;
 };
 

@@ -5,13 +5,12 @@
 namespace quillomat {
 
 FinalForm FinalFormOf(std::string_view token, const ScanChoices& choices) {
-  FinalForm form;
-  form.trimmed = TrimTrailingChars(token, kTrimmedFromWords);
-  form.word = form.trimmed;
-  if (IsSet(choices.dropFinalS)) form.word = DropFinalS(form.word, choices.letters);
+  const std::string_view trimmed = TrimTrailingChars(token, kTrimmedFromWords);
+  std::string_view word = trimmed;
+  if (IsSet(choices.dropFinalS)) word = DropFinalS(word, choices.letters);
   const bool dropFragments = choices.AllowWith(AllowFlag::kApostrophe) == CheckState::kUnchecked;
-  if (dropFragments && IsApostropheFragment(form.word)) form.word = {};
-  return form;
+  if (dropFragments && IsApostropheFragment(word)) word = {};
+  return {trimmed, word};
 }
 
 }  // namespace quillomat

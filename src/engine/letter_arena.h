@@ -31,6 +31,13 @@ class LetterArena {
     left_ = 0;
   }
 
+  /// Forgets all texts, and keeps a block for others.
+  void Reuse() {
+    if (blocks_.size() != 1) return Clear();
+    left_ += static_cast<std::size_t>(next_ - blocks_.front().get());
+    next_ = blocks_.front().get();
+  }
+
  private:
   static constexpr std::size_t kFirstBlock = std::size_t{4} * 1024;
   static constexpr std::size_t kLargestBlock = std::size_t{1024} * 1024;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <limits>
 #include <span>
 
@@ -20,8 +21,33 @@ namespace {
 /// The most that is remembered of tokens that are several words.
 constexpr std::size_t kMostOfSeveral = 65'536;
 
-bool IsLetter(char ch) {
-  return (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
+// Eight characters of ASCII at once, or fewer with zeros behind them.
+
+constexpr std::uint64_t EightTimes(std::uint64_t byte) {
+  return byte * 0x0101010101010101U;
+}
+constexpr std::uint64_t kUpperBits = EightTimes(0x80);
+
+/// The upper bit of every byte that is not 0.
+std::uint64_t NotZero(std::uint64_t characters) {
+  return (characters + EightTimes(0x7F)) & kUpperBits;
+}
+
+bool AreAscii(std::uint64_t characters) {
+  return (characters & kUpperBits) == 0;
+}
+
+bool AreSmallLetters(std::uint64_t characters) {
+  // Each sum tells in the upper bits which characters are at least so large.
+  const std::uint64_t fromA = characters + EightTimes(0x80 - 'a');
+  const std::uint64_t beyondZ = characters + EightTimes(0x80 - ('z' + 1));
+  return (fromA & ~beyondZ & kUpperBits) == NotZero(characters);
+}
+
+/// Letters made small; no other character becomes a small letter.
+std::uint64_t LettersMadeSmall(std::uint64_t characters) {
+  constexpr unsigned kToSmallBit = 2;  // from the upper bit to that between "A" and "a"
+  return characters | NotZero(characters) >> kToSmallBit;
 }
 
 }  // namespace
@@ -70,7 +96,7 @@ void TokenTaker::ForgetNewTokens() {
   store_.SettleHashes();
   newTokens_.clear();
   newWords_.clear();
-  newLetters_.clear();
+  newLetters_.Reuse();
 }
 
 void TokenTaker::ForgetTokensOfOldStore() {
@@ -251,7 +277,6 @@ void TokenTaker::TellOrder(std::size_t first) {
 
 /// Notes the words of a token as it stands in a file: seldom more than one ("well--known").
 void TokenTaker::WorkOutToken(std::string_view token) {
-  if (WorkOutPlainToken(token)) return;
   std::string_view text =
       PrepareLine(token, IsSet(choices_.caseSignificant), tokenText_, keyRule_.letters);
   if (text.find("--") != std::string_view::npos) {
@@ -279,46 +304,49 @@ void TokenTaker::WorkOutRun(std::string_view run) {
 }
 
 /// The same for a short token of letters without accents, which most are; false for any other.
-bool TokenTaker::WorkOutPlainToken(std::string_view token) {
-  constexpr char kToLower = 'a' - 'A';
-  std::array<char, TokenMemo::kMostBytes> letters{};
-  if (token.size() > letters.size()) return false;
-  const bool keepCase = IsSet(choices_.caseSignificant);
-  for (std::size_t i = 0; i < token.size(); ++i) {
-    if (!IsLetter(token[i])) return false;
-    letters[i] = keepCase ? token[i] : static_cast<char>(token[i] | kToLower);
+bool TokenTaker::WorkOutPlainToken(std::string_view token, const TokenMemo::Key& key) {
+  if (!AreAscii(key.low | key.high)) return false;
+  const bool isSmall = AreSmallLetters(key.low) && AreSmallLetters(key.high);
+  std::string_view text = token;
+  if (!isSmall) {
+    const std::array<std::uint64_t, 2> letters = {LettersMadeSmall(key.low),
+                                                  LettersMadeSmall(key.high)};
+    if (IsSet(choices_.caseSignificant)) return false;
+    if (!AreSmallLetters(letters[0]) || !AreSmallLetters(letters[1])) return false;
+    std::array<char, sizeof letters> small{};
+    std::memcpy(small.data(), letters.data(), sizeof letters);
+    text = {newLetters_.Keep({small.data(), token.size()}), token.size()};
   }
-  NoteNewWord(FinalForm({letters.data(), token.size()}));
+  const std::string_view word = FinalForm(text);
+  if (word.empty()) return true;
+  if (lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters)) {
+    NoteStoredWord(word, word);
+  } else {
+    newWords_.emplace_back();
+  }
   return true;
 }
 
 /// Nothing for a token of which nothing is left.
 void TokenTaker::NoteNewWord(std::string_view word) {
   if (word.empty()) return;
-  NewWord noted;
-  noted.isStored =
-      lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters) && !IsLongWord(word);
-  if (noted.isStored) {
-    const std::string_view key = SortKeyOf(word, keyRule_, keyText_);
-    noted.wordStart = newLetters_.size();
-    noted.wordBytes = word.size();
-    newLetters_.append(word);
-    noted.keyStart = noted.wordStart;
-    noted.keyBytes = key.size();
-    if (key.data() != word.data()) {
-      noted.keyStart = newLetters_.size();
-      newLetters_.append(key);
-    }
-    noted.hash = store_.HashOf(key);
-    store_.PrefetchSlot(noted.hash);
+  const auto kept = [this](std::string_view text) {
+    return std::string_view(newLetters_.Keep(text), text.size());
+  };
+  if (!lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters) || IsLongWord(word)) {
+    newWords_.emplace_back();
+    return;
   }
-  newWords_.push_back(noted);
+  const std::string_view lasting = kept(word);
+  const std::string_view key = SortKeyOf(word, keyRule_, keyText_);
+  NoteStoredWord(lasting, key.data() == word.data() ? lasting : kept(key));
 }
 
-KeyedWord TokenTaker::Keyed(const NewWord& word) const {
-  const std::string_view letters = newLetters_;
-  return {letters.substr(word.wordStart, word.wordBytes),
-          letters.substr(word.keyStart, word.keyBytes), word.hash};
+/// Both stay until the words are added.
+void TokenTaker::NoteStoredWord(std::string_view word, std::string_view key) {
+  const std::uint32_t hash = store_.HashOf(key);
+  store_.PrefetchSlot(hash);
+  newWords_.push_back({{word, key, hash}, true, kWordNotStored});
 }
 
 /// Of a block. New words are new in the order of the text.
@@ -327,7 +355,10 @@ void TokenTaker::TakeNewTokens() {
     std::ranges::sort(newTokens_, {}, &NewToken::number);
   }
   for (NewToken& token : newTokens_) {
-    WorkOutToken({token.token.text, token.token.bytes});
+    const auto& [text, bytes, readable] = token.token;
+    const bool isPlain = bytes <= TokenMemo::kMostBytes &&
+                         WorkOutPlainToken({text, bytes}, memo_.KeyOf(text, bytes, readable));
+    if (!isPlain) WorkOutToken({text, bytes});
     token.wordsEnd = newWords_.size();
   }
   AddNewWords();
@@ -336,14 +367,14 @@ void TokenTaker::TakeNewTokens() {
 void TokenTaker::AddNewWords() {
   AddChecked(wordsRead_, static_cast<std::int32_t>(newWords_.size()));
   for (const NewWord& word : newWords_) {
-    if (word.isStored) store_.PrefetchLetters(word.hash);
+    if (word.isStored) store_.PrefetchLetters(word.letters.hash);
   }
   std::size_t next = 0;
   for (const NewToken& token : newTokens_) {
     const auto words = std::span(newWords_).subspan(next, token.wordsEnd - next);
     next = token.wordsEnd;
     for (NewWord& word : words) {
-      if (word.isStored) word.outcome = store_.AddKeyedWord(Keyed(word));
+      if (word.isStored) word.outcome = store_.AddKeyedWord(word.letters);
     }
     RememberToken(token, words);
   }

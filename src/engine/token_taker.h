@@ -16,6 +16,7 @@
 
 #include "engine/char_class.h"
 #include "engine/count_keeper.h"
+#include "engine/letter_arena.h"
 #include "engine/line_block.h"
 #include "engine/long_token_memo.h"
 #include "engine/run_cutter.h"
@@ -65,13 +66,9 @@ class TokenTaker final : private CountKeeper {
 
  private:
   /// A word of a token that is met for the first time. Its letters, and those of its key, are in
-  /// newLetters_.
+  /// the text or in newLetters_.
   struct NewWord {
-    std::size_t wordStart = 0;
-    std::size_t wordBytes = 0;
-    std::size_t keyStart = 0;
-    std::size_t keyBytes = 0;
-    std::uint32_t hash = 0;
+    KeyedWord letters;
     bool isStored = false;
     /// Once it was added.
     TokenOutcome outcome = kWordNotStored;
@@ -114,10 +111,10 @@ class TokenTaker final : private CountKeeper {
   void WorkOutToken(std::string_view token);
   void WorkOutRun(std::string_view run);
   void TakeListWords(std::string_view run);
-  [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
+  [[nodiscard]] bool WorkOutPlainToken(std::string_view token, const TokenMemo::Key& key);
   void NoteNewWord(std::string_view word);
-  [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
   void TakeNewTokens();
+  void NoteStoredWord(std::string_view word, std::string_view key);
   void AddNewWords();
   void RememberToken(const NewToken& token, std::span<const NewWord> words);
   template <typename Memo, typename Key>
@@ -142,7 +139,7 @@ class TokenTaker final : private CountKeeper {
 
   std::vector<NewToken> newTokens_;
   std::vector<NewWord> newWords_;
-  std::string newLetters_;
+  LetterArena newLetters_;
   std::string tokenText_;
   std::string normalText_;
   std::string keyText_;

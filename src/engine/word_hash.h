@@ -31,7 +31,7 @@ inline constexpr unsigned kHashBits = 32;
 /// The number of the bytes at `text`.
 template <typename Number>
 [[nodiscard]] inline Number LoadNumber(const char* text) {
-  Number number = 0;
+  Number number{};
   std::memcpy(&number, text, sizeof number);
   return number;
 }

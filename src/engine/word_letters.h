@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "engine/letter_arena.h"
+#include "engine/short_bytes.h"
 
 namespace quillomat {
 
@@ -24,8 +25,8 @@ class WordLetters {
     if (word.size() + ownKey.size() <= letters_.size()) {
       wordBytes_ = static_cast<std::uint8_t>(word.size());
       keyBytes_ = static_cast<std::uint8_t>(ownKey.size());
-      if (!word.empty()) std::memcpy(letters_.data(), word.data(), word.size());
-      if (!ownKey.empty()) std::memcpy(letters_.data() + word.size(), ownKey.data(), ownKey.size());
+      CopyShortBytes(letters_.data(), word.data(), word.size());
+      CopyShortBytes(letters_.data() + word.size(), ownKey.data(), ownKey.size());
       return;
     }
     wordBytes_ = kElsewhere;
@@ -38,6 +39,11 @@ class WordLetters {
     if (wordBytes_ != kElsewhere) return {letters_.data(), wordBytes_};
     const Elsewhere elsewhere = LettersElsewhere();
     return {elsewhere.text, elsewhere.wordBytes};
+  }
+  /// Whether `key` is the sort key.
+  [[nodiscard]] bool HasKey(std::string_view key) const {
+    const std::string_view own = Key();
+    return own.size() == key.size() && EqualBytes(own.data(), key.data(), key.size());
   }
   [[nodiscard]] std::string_view Key() const {
     if (wordBytes_ != kElsewhere) {
@@ -65,7 +71,9 @@ class WordLetters {
 
   std::uint8_t wordBytes_ = 0;
   std::uint8_t keyBytes_ = 0;  // 0: the word is its own key
-  std::array<char, 30> letters_{};
+  static constexpr std::size_t kOwnBytes = 30;
+  static_assert(kOwnBytes <= kMostShortBytes);
+  std::array<char, kOwnBytes> letters_{};
 };
 static_assert(sizeof(WordLetters) == 32);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 #include "base/letter_case.h"
 #include "base/utf8.h"
@@ -19,6 +20,14 @@ constexpr std::size_t kLongestStem = 7;
 constexpr std::array<std::string_view, 8> kRomanExceptions = {"dim", "mid",   "vim",   "cid",
                                                               "lid", "livid", "civil", "dill"};
 
+/// A bit for each of the small letters of ASCII.
+constexpr std::uint32_t kVowels = [] {
+  std::uint32_t vowels = 0;
+  for (const char vowel : std::string_view("aeiou"))
+    vowels |= 1U << static_cast<unsigned>(vowel - 'a');
+  return vowels;
+}();
+
 /// The small vowels of U+00E0-U+00FF: all letters but c with cedilla, eth, n with tilde, y and
 /// thorn. Sharp s (U+00DF), the signs and the letters y are none.
 bool IsSmallLatin1Vowel(char32_t codePoint) {
@@ -29,8 +38,8 @@ bool IsSmallLatin1Vowel(char32_t codePoint) {
 bool IsVowelCodePoint(char32_t codePoint, bool lowerOnly) {
   constexpr char32_t kToSmall = 0x20;
   if (codePoint < 0x80) {
-    const std::string_view vowels = lowerOnly ? "aeiou" : "aeiouAEIOU";
-    return vowels.find(static_cast<char>(codePoint)) != std::string_view::npos;
+    const char32_t small = lowerOnly ? codePoint : codePoint | kToSmall;
+    return small >= 'a' && small <= 'z' && (kVowels >> (small - 'a') & 1U) != 0;
   }
   if (IsSmallLatin1Vowel(codePoint)) return true;
   return !lowerOnly && codePoint >= 0xC0 && codePoint <= 0xDC &&

@@ -13,8 +13,8 @@ namespace quillomat {
 namespace {
 
 /// Room for one more item, and for many where there was none, so that adding one cannot fail.
-template <typename Item>
-void ReserveOneMore(std::vector<Item>& items) {
+template <typename Items>
+void ReserveOneMore(Items& items) {
   constexpr std::size_t kFirstItems = 64;
   if (items.size() == items.capacity()) items.reserve(std::max(kFirstItems, 2 * items.size()));
 }
@@ -131,19 +131,19 @@ std::vector<WordStore::CountedWord> WordStore::TakeCountedWords() {
 /// What needs memory comes first: where there is none, the store stays as it was.
 void WordStore::AppendWord(const KeyedWord& word) {
   ReserveOneMore(counts_);
-  ReserveOneMore(included_);
   if (notesCounted_) ReserveOneMore(counted_);
-  FileTally tally;
   if (files_.IsOn()) {
     ReserveOneMore(tallies_);
+    FileTally tally;
     tally.CountWordInFile(files_.CurrentFileNumber());
+    letters_.EmplaceBack(word.word, word.key, arena_);
+    tallies_.push_back(std::move(tally));
+  } else {
+    letters_.EmplaceBack(word.word, word.key, arena_);
   }
-  letters_.PushBack({word.word, word.key, arena_});
   counts_.push_back(1);
-  included_.push_back(1);
   if (notesCounted_) counted_.push_back(static_cast<std::uint32_t>(letters_.Size() - 1));
   ++occurrences_;
-  if (files_.IsOn()) tallies_.push_back(std::move(tally));
 }
 
 /// The slot that holds the word, or the free slot where it belongs.
@@ -152,7 +152,7 @@ std::size_t WordStore::FindSlot(const KeyedWord& word) const {
   for (std::size_t i = word.hash >> slotShift_;; i = (i + 1) & mask) {
     const Slot& slot = slots_[i];
     if (slot.place == 0) return i;
-    if (slot.hash == word.hash && letters_[slot.place - 1].Key() == word.key) return i;
+    if (slot.hash == word.hash && letters_[slot.place - 1].HasKey(word.key)) return i;
   }
 }
 
@@ -180,7 +180,7 @@ void WordStore::SetSlots(std::size_t slots) {
 }
 
 void WordStore::GrowSlots() {
-  std::vector<Slot> grown(slots_.size() * 2);  // where there is no memory for it, all stays
+  std::pmr::vector<Slot> grown(slots_.size() * 2);  // where there is no memory for it, all stays
   grown.swap(slots_);
   --slotShift_;
   const std::size_t mask = slots_.size() - 1;
@@ -216,21 +216,23 @@ const FileTally* WordStore::FilesOf(std::int32_t index) const {
 
 WordTotals WordStore::TallyWords() const {
   WordTotals totals;
+  std::size_t longest = 0;
   for (std::int32_t index = 1; index <= NumDifferentWords(); ++index) {
-    const WordRec record = At(index);
-    if (!record.Included) {
-      IncrementChecked(totals.NumExcludedWords);
+    if (!IsIncluded(index)) {
+      ++totals.NumExcludedWords;
       continue;
     }
-    IncrementChecked(totals.NumIncludedWords);
-    AddChecked(totals.TotalIncludedCount, record.Count);
-    totals.MaxCount = std::max(totals.MaxCount, record.Count);
-    const std::size_t length = CharacterCount(record.Word);
-    if (length > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
-      throw RunTimeError(RunTimeErrorNumber::kOverflow);
-    }
-    totals.MaxWordLength = std::max(totals.MaxWordLength, static_cast<std::int16_t>(length));
+    ++totals.NumIncludedWords;
+    AddChecked(totals.TotalIncludedCount, CountOf(index));
+    totals.MaxCount = std::max(totals.MaxCount, CountOf(index));
+    // Characters are no more than bytes, so most words need no counting.
+    const std::string_view word = WordOf(index);
+    if (word.size() > longest) longest = std::max(longest, CharacterCount(word));
   }
+  if (longest > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
+    throw RunTimeError(RunTimeErrorNumber::kOverflow);
+  }
+  totals.MaxWordLength = static_cast<std::int16_t>(longest);
   return totals;
 }
 

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory_resource>
 #include <optional>
 #include <span>
 #include <string>
@@ -199,7 +200,12 @@ class WordStore {
     if (!sorted_) SortRecords();
     return counts_[static_cast<std::size_t>(index - 1)];
   }
-  /// Begins to fetch them; sorts nothing, and so fetches others while the words are not sorted.
+  [[nodiscard]] bool IsIncluded(std::int32_t index) const {
+    if (!sorted_) SortRecords();
+    return included_[static_cast<std::size_t>(index - 1)] != 0;
+  }
+  /// Begins to fetch the word and its count; sorts nothing, and so fetches others while the words are
+  /// not sorted.
   void PrefetchAt(std::int32_t index) const {
     const auto place = static_cast<std::size_t>(index - 1);
     __builtin_prefetch(&letters_[place]);
@@ -248,7 +254,7 @@ class WordStore {
   void SetSlots(std::size_t slots);
   void ChangeSeed();
   void SortRecords() const;
-  [[nodiscard]] std::vector<SortEntry> SortedEntries() const;
+  [[nodiscard]] std::pmr::vector<SortEntry> SortedEntries() const;
   void ArrangeWords(std::span<const SortEntry> order) const;
 
   /// In front of what it brings counts to.
@@ -263,12 +269,13 @@ class WordStore {
   LetterArena arena_;
   // The words by place, in parallel.
   mutable ChunkedVector<WordLetters> letters_;
-  mutable std::vector<std::int32_t> counts_;
-  mutable std::vector<char> included_;
+  mutable std::pmr::vector<std::int32_t> counts_;
+  /// Words that are not sorted yet have no place in it: they are included.
+  mutable std::pmr::vector<char> included_;
   /// While files are tracked, else empty.
   mutable std::vector<FileTally> tallies_;
   /// Empty while the words are sorted: sorting moves them, and words seldom arrive afterwards.
-  mutable std::vector<Slot> slots_;
+  mutable std::pmr::vector<Slot> slots_;
   mutable unsigned slotShift_ = 0;
   HashSeed seed_;
   bool crowded_ = false;

@@ -33,14 +33,14 @@ unsigned DigitAt(std::uint64_t number, std::size_t digit) {
 /// Orders the entries by their leading bytes, digit by digit from the last; equal ones stay as they
 /// stand. Costs the same for every entry, however many there are.
 template <typename Entry>
-void SortByLeadingBytes(std::vector<Entry>& entries) {
+void SortByLeadingBytes(std::pmr::vector<Entry>& entries) {
   std::array<std::array<std::size_t, kDigits>, kBytesOfNumber> sizes{};
   for (const Entry& entry : entries) {
     for (std::size_t digit = 0; digit < kBytesOfNumber; ++digit) {
       ++sizes[digit][DigitAt(entry.leadingBytes, digit)];
     }
   }
-  std::vector<Entry> scratch(entries.size());
+  std::pmr::vector<Entry> scratch(entries.size());
   for (std::size_t digit = 0; digit < kBytesOfNumber; ++digit) {
     auto& next = sizes[digit];
     const auto isAll = [&](std::size_t size) { return size == entries.size(); };
@@ -61,12 +61,13 @@ void WordStore::SortRecords() const {
   BringCounts();
   ++generation_;
   slots_ = {};
+  included_.resize(letters_.Size(), 1);
   ArrangeWords(SortedEntries());
   sorted_ = true;
 }
 
-std::vector<WordStore::SortEntry> WordStore::SortedEntries() const {
-  std::vector<SortEntry> entries;
+std::pmr::vector<WordStore::SortEntry> WordStore::SortedEntries() const {
+  std::pmr::vector<SortEntry> entries;
   entries.reserve(letters_.Size());
   for (std::uint32_t place = 0; place < letters_.Size(); ++place) {
     entries.push_back({LeadingBytes(letters_[place].Key()), place});
@@ -88,8 +89,8 @@ std::vector<WordStore::SortEntry> WordStore::SortedEntries() const {
 /// memory from end to end.
 void WordStore::ArrangeWords(std::span<const SortEntry> order) const {
   ChunkedVector<WordLetters> letters;
-  std::vector<std::int32_t> counts;
-  std::vector<char> included;
+  std::pmr::vector<std::int32_t> counts;
+  std::pmr::vector<char> included;
   std::vector<FileTally> tallies;
   counts.reserve(order.size());
   included.reserve(order.size());
@@ -102,7 +103,7 @@ void WordStore::ArrangeWords(std::span<const SortEntry> order) const {
       __builtin_prefetch(&included_[ahead]);
     }
     const std::uint32_t place = order[i].place;
-    letters.PushBack(letters_[place]);
+    letters.EmplaceBack(letters_[place]);
     counts.push_back(counts_[place]);
     included.push_back(included_[place]);
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <memory_resource>
 #include <span>
 
 namespace quillomat {
@@ -37,15 +38,15 @@ void SortByDigit(std::span<const Ranked> from, std::span<Ranked> to, unsigned sh
 }  // namespace
 
 FrequencyRanking RankByFrequency(const WordStore& store) {
-  std::vector<Ranked> words;
+  std::pmr::vector<Ranked> words;
+  words.reserve(static_cast<std::size_t>(store.NumDifferentWords()));
   std::int32_t maxCount = 0;
   for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
-    const WordRec& record = store.At(index);
-    if (!record.Included) continue;
-    words.push_back({record.Count, index});
-    maxCount = std::max(maxCount, record.Count);
+    if (!store.IsIncluded(index)) continue;
+    words.push_back({store.CountOf(index), index});
+    maxCount = std::max(maxCount, words.back().count);
   }
-  std::vector<Ranked> scratch(words.size());
+  std::pmr::vector<Ranked> scratch(words.size());
   for (unsigned shift = 0; shift < 31 && (maxCount >> shift) != 0; shift += kDigitBits) {
     SortByDigit(words, scratch, shift);
     words.swap(scratch);

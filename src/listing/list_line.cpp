@@ -26,10 +26,19 @@ void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
   line.append(text);
 }
 
+/// `number` is not negative.
 void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
-  std::array<char, 12> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-  AppendPadded(line, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+  constexpr std::size_t kMostWidth = 32;
+  std::array<char, kMostWidth> cell;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
+  cell.fill(' ');
+  std::size_t first = kMostWidth;
+  for (auto rest = static_cast<std::uint32_t>(number); rest > 0 || first == kMostWidth;
+       rest /= 10) {
+    cell[--first] = static_cast<char>('0' + rest % 10);
+  }
+  if (width > kMostWidth) line.append(width - kMostWidth, ' ');
+  first = std::min(first, kMostWidth - std::min(width, kMostWidth));
+  line.append(cell.data() + first, kMostWidth - first);
 }
 
 /// Four decimals, and no zero before the point.
@@ -45,7 +54,7 @@ void AppendLogarithm(std::string& line, std::int32_t number, bool useLog10, std:
 
 /// How the columns of a format follow each other. In a layout R, F, N, L, M and W stand for the
 /// rank, frequency, files, log-rank, log-frequency and word cells, w for the word without padding;
-/// all else stands for itself. The leads and separators are uneven, and are kept so.
+/// blanks and commas stand for themselves. The leads and separators are uneven, and are kept so.
 struct Layout {
   std::string_view plain;
   std::string_view withCommas;
@@ -64,11 +73,6 @@ constexpr std::array<Layout, 12> kLayouts = {{
     {" R  F  L  M  w", "  R,  F,  L,  M,  w"},
     {"  W F N", "  W F N"},
 }};
-
-/// Whether a sign of a layout stands for a cell.
-bool IsCell(char column) {
-  return column != ' ' && column != ',';
-}
 
 /// The cell that was appended from `begin` on. Numbers and words hold no blank at either end.
 CellSpan WithoutBlanks(std::string_view line, std::size_t begin) {
@@ -95,7 +99,7 @@ double Log10(double x) {
 }
 
 LineFormatter::LineFormatter(const CountedWords& words, LineOptions options)
-    : words_(words), options_(std::move(options)) {
+    : words_(words), options_(std::move(options)), columns_(ChosenColumns()) {
   ComputeColumnWidths(options_.minimumColumnWidth);
 }
 
@@ -164,22 +168,33 @@ void LineFormatter::AppendColumn(std::string& line, std::int32_t index, char col
       return LogFreqCell(line, index, options_.useLog10);
     case 'W':
       return WordCell(line, index);
-    case 'w':
-      line.append(BareWord(index));
-      return;
     default:
-      line.push_back(column);
+      line.append(BareWord(index));
   }
 }
 
 void LineFormatter::AppendColumns(std::string& line, std::int32_t index,
                                   std::vector<CellSpan>* cells) const {
-  const Layout& layout = kLayouts[static_cast<std::size_t>(options_.format)];
-  for (const char column : options_.withCommas ? layout.withCommas : layout.plain) {
+  for (const Column& column : columns_) {
+    line.append(column.lead);
     const std::size_t begin = line.size();
-    AppendColumn(line, index, column);
-    if (cells != nullptr && IsCell(column)) cells->push_back(WithoutBlanks(line, begin));
+    AppendColumn(line, index, column.cell);
+    if (cells != nullptr) cells->push_back(WithoutBlanks(line, begin));
   }
+}
+
+/// Those of the format, none for a list of files.
+std::vector<LineFormatter::Column> LineFormatter::ChosenColumns() const {
+  std::vector<Column> columns;
+  if (IsFileList(options_.format)) return columns;
+  const Layout& layout = kLayouts[static_cast<std::size_t>(options_.format)];
+  std::string_view rest = options_.withCommas ? layout.withCommas : layout.plain;
+  while (!rest.empty()) {
+    const std::size_t cell = rest.find_first_not_of(" ,");
+    columns.push_back({rest.substr(0, cell), rest[cell]});
+    rest.remove_prefix(cell + 1);
+  }
+  return columns;
 }
 
 void LineFormatter::FormatWordLine(std::string& line, std::int32_t index,

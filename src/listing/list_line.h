@@ -86,8 +86,16 @@ class LineFormatter {
   [[nodiscard]] std::int32_t RankOf(std::int32_t index) const;
   [[nodiscard]] bool ShowsPathsInFolder() const;
 
+  /// A column, and what stands between it and the one before it.
+  struct Column {
+    std::string_view lead;
+    char cell;
+  };
+  [[nodiscard]] std::vector<Column> ChosenColumns() const;
+
   CountedWords words_;
   LineOptions options_;
+  std::vector<Column> columns_;
   std::size_t rankWidth_ = 0;
   std::size_t frequencyWidth_ = 0;
   std::size_t wordWidth_ = 0;

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <iostream>
+#include <memory_resource>
 
 #include "base/version.h"
 #include "engine/kernel_choice.h"
@@ -13,6 +14,7 @@
 #include "qt/text_conversion.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
+#include "system/large_pages.h"
 
 namespace quillomat {
 namespace {
@@ -84,6 +86,7 @@ int main(int argc, char** argv) {
   }
   try {
     LetDrivesBeEmpty();
+    std::pmr::set_default_resource(&LargePageMemory());
     const Interruption interruption;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));

@@ -108,6 +108,27 @@ TEST_F(WordStoreTest, KeepsTheCountsOfManyWords) {
   }
 }
 
+TEST_F(WordStoreTest, KeepsMoreWordsThanOneOfItsChunksHolds) {
+  constexpr int kWords = 150'000;
+  for (int i = kWords - 1; i >= 0; --i) store.AddWord(std::to_string(1'000'000 + i));
+  store.AddWord("1000007");
+  ASSERT_EQ(store.NumDifferentWords(), kWords);
+  for (int i = 0; i < kWords; ++i) {
+    ASSERT_EQ(store.WordOf(i + 1), std::to_string(1'000'000 + i));
+    ASSERT_EQ(store.CountOf(i + 1), i == 7 ? 2 : 1);
+  }
+}
+
+TEST_F(WordStoreTest, WordsThatArriveLaterAreIncludedAndLeaveOthersExcluded) {
+  Add({"dog", "bee"});
+  store.SetIncluded(2, false);
+  EXPECT_TRUE(store.IsIncluded(1));
+  Add({"ant", "cat", "dog"});
+  std::string included;
+  for (int i = 1; i <= 4; ++i) included += store.IsIncluded(i) ? '1' : '0';
+  EXPECT_EQ(included, "1110");
+}
+
 TEST_F(WordStoreTest, GoesOnCountingAfterSomebodyLooked) {
   Add({"dog", "ant"});
   EXPECT_EQ(Words(), "ant dog");

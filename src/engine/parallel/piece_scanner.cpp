@@ -1,7 +1,9 @@
 #include "engine/parallel/piece_scanner.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "engine/fold_accents.h"
 #include "engine/parallel/line_pieces.h"
 #include "engine/whole_lines.h"
 
@@ -14,6 +16,9 @@ constexpr std::int32_t kMostWordsKept = 65'536;
 
 /// Scanning so many bytes with notes costs as much more as looking at one word of the store.
 constexpr std::size_t kBytesWorthLook = 8;
+
+/// As many words as are joined together: first what they will need of the store is fetched.
+constexpr std::size_t kWordsAtOnce = 64;
 
 }  // namespace
 
@@ -69,17 +74,11 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   if (piece.numbersAnew) places_.clear();
   knowsNumbers_ = false;  // for one that is not joined to its end
   std::string_view letters = piece.newLetters;
-  auto bytes = piece.newWordBytes.begin();
-  for (const auto& [number, times] : piece.words) {
-    if (number < places_.size()) {
-      store.CountWordAt(places_[number], times);
-      continue;
-    }
-    // Words are numbered as they are met, so this is the first of the new ones that are left.
-    const std::uint32_t place = store.AddWord(letters.substr(0, *bytes)).value();
-    if (times > 1) store.CountWordAt(place, times - 1);
-    places_.push_back(place);
-    letters.remove_prefix(*bytes++);
+  std::span<const std::uint32_t> bytes = piece.newWordBytes;
+  for (std::span<const WordStore::CountedWord> rest = piece.words; !rest.empty();) {
+    const auto some = rest.first(std::min(rest.size(), kWordsAtOnce));
+    JoinSome(some, letters, bytes, store);
+    rest = rest.subspan(some.size());
   }
   if (WordOrderListener* const listener = store.OrderListener()) {
     order_.clear();
@@ -87,6 +86,37 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
     listener->OnWords(order_);
   }
   knowsNumbers_ = true;
+}
+
+void PieceJoiner::JoinSome(std::span<const WordStore::CountedWord> words, std::string_view& letters,
+                           std::span<const std::uint32_t>& bytes, WordStore& store) {
+  store.SettleHashes();
+  newWords_.clear();
+  newKeys_.Reuse();
+  // Words are numbered as they are met, so a number that is not known is that of the first of the
+  // new words that are left.
+  const std::size_t known = places_.size();
+  for (const WordStore::CountedWord& word : words) {
+    if (word.place < known) continue;
+    const std::string_view text = letters.substr(0, bytes.front());
+    std::string_view key = SortKeyOf(text, store.Rule(), keyText_);
+    if (key.data() != text.data()) key = {newKeys_.Keep(key), key.size()};
+    newWords_.push_back({text, key, store.HashOf(key)});
+    store.PrefetchSlot(newWords_.back().hash);
+    letters.remove_prefix(bytes.front());
+    bytes = bytes.subspan(1);
+  }
+  for (const KeyedWord& word : newWords_) store.PrefetchLetters(word.hash);
+  auto newWord = newWords_.begin();
+  for (const auto& [number, times] : words) {
+    if (number < known) {
+      store.CountWordAt(places_[number], times);
+      continue;
+    }
+    const std::uint32_t place = store.AddKeyedWord(*newWord++);
+    if (times > 1) store.CountWordAt(place, times - 1);
+    places_.push_back(place);
+  }
 }
 
 }  // namespace quillomat

@@ -4,10 +4,12 @@
 
 #include <atomic>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "engine/letter_arena.h"
 #include "engine/scan_settings.h"
 #include "engine/uncounted.h"
 #include "engine/word_list.h"
@@ -97,10 +99,19 @@ class PieceJoiner {
   }
 
  private:
+  /// Puts some of the words of a piece into the store. `letters` and `bytes` are what is left of
+  /// its new words.
+  void JoinSome(std::span<const WordStore::CountedWord> words, std::string_view& letters,
+                std::span<const std::uint32_t>& bytes, WordStore& store);
+
   bool knowsNumbers_ = true;
   /// The places in the store, by the number of the word.
   std::vector<std::uint32_t> places_;
   std::vector<std::uint32_t> order_;
+  /// New words on their way into the store, and such of their keys as are not in the piece.
+  std::vector<KeyedWord> newWords_;
+  LetterArena newKeys_;
+  std::string keyText_;
 };
 
 }  // namespace quillomat
