@@ -204,8 +204,8 @@ class WordStore {
     if (!sorted_) SortRecords();
     return included_[static_cast<std::size_t>(index - 1)] != 0;
   }
-  /// Begins to fetch the word and its count; sorts nothing, and so fetches others while the words are
-  /// not sorted.
+  /// Begins to fetch the word and its count; sorts nothing, and so fetches others while the words
+  /// are not sorted.
   void PrefetchAt(std::int32_t index) const {
     const auto place = static_cast<std::size_t>(index - 1);
     __builtin_prefetch(&letters_[place]);
