@@ -1,5 +1,5 @@
-// Finds the words in a run of letters of a script that is written without blanks between words: Han,
-// kana, Thai, Lao, Khmer, Burmese. Where a word ends only a dictionary knows, and that is the
+// Finds the words in a run of letters of a script that is written without blanks between words:
+// Han, kana, Thai, Lao, Khmer, Burmese. Where a word ends only a dictionary knows, and that is the
 // system's (system/system_segmenter.h); what is scanned gets it handed in.
 #pragma once
 

@@ -25,7 +25,8 @@ constexpr Wording kBytesNotDecoded{
     " bytes could not be decoded; --encoding names another encoding."};
 
 constexpr std::string_view kRunsLeftWhole =
-    "Chinese, Japanese, Thai, Lao, Khmer and Burmese were not cut into words: the system has no ICU "
+    "Chinese, Japanese, Thai, Lao, Khmer and Burmese were not cut into words: the system has no "
+    "ICU "
     "library.";
 
 }  // namespace
