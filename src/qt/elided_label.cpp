@@ -43,8 +43,8 @@ QStringList ElidedLabel::ShownLines() const {
 }
 
 bool ElidedLabel::IsCut() const {
-  const QString& last = ShownLines().constLast();
-  return !text().endsWith(last);
+  const QStringList lines = ShownLines();
+  return !text().endsWith(lines.constLast());
 }
 
 bool ElidedLabel::event(QEvent* event) {
