@@ -3,8 +3,9 @@
 # reach for, all in one run on the same texts, and prints tables in Markdown: medians, but for folders the
 # shortest times, since other programs disturb what waits for the system most.
 # Usage: bench/compare.sh [BOOK]   BOOK is a plain text of at least 1 MB; without one a text is generated.
-# ROUNDS (7) says how often each command runs, TMPDIR where the texts are put (900 MB). Needs a release build,
-# python3 (for the texts), findutils and coreutils; mawk and perl are measured where they are there.
+# ROUNDS (7) says how often each command runs, TMPDIR where the texts are put (1.1 GB), PICTURE where the results
+# are drawn (an SVG; nowhere without it). Needs a release build, python3 (for the texts and the picture), findutils and
+# coreutils; mawk and perl are measured where they are there.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 program="$root/build/release/src/cli/quillomat-cli"
@@ -18,10 +19,12 @@ export LC_ALL=C.UTF-8 QUILLOMAT_DATA="$root/data"
 
 now() { date +%s%N; }
 
-# run_once NAME COMMAND...: adds its time in microseconds to the file of that name.
+# run_once NAME COMMAND...: adds its time in microseconds to the file of that name. A list is always written anew:
+# to free the blocks of a large old one takes the system longer than many a count.
 run_once() {
   name=$1
   shift
+  rm -f "$work/list.txt"
   start=$(now)
   "$@" >/dev/null 2>&1
   end=$(now)
@@ -62,7 +65,21 @@ row() { # TEXT MICROSECONDS BASE
   awk -v text="$1" -v t="$2" -v base="$3" 'BEGIN { printf "| %s | %.3f s | %.2f |\n", text, t / 1e6, t / base }'
 }
 
+# bar GROUP LABEL MICROSECONDS: for the picture.
+bar() { awk -v g="$1" -v l="$2" -v t="$3" 'BEGIN { printf "%s\t%s\t%.6f\n", g, l, t / 1e6 }' >>"$work/bars"; }
+
 folders="many2k many50k many800k"
+languages="en fr de pl ru el"
+language_name() {
+  case $1 in
+    en) echo English ;;
+    fr) echo French ;;
+    de) echo German ;;
+    pl) echo Polish ;;
+    ru) echo Russian ;;
+    el) echo Greek ;;
+  esac
+}
 settings="accents html source case ignore only everything"
 measure_setting() {
   case $1 in
@@ -98,6 +115,14 @@ while [ "$i" -lt "$rounds" ]; do
     run_once "two.$folder" count_folder "$work/$folder" 2
   done
   for setting in $settings; do run_once "$setting" measure_setting "$setting"; done
+  run_once line count "$work/line.txt"
+  for language in $languages; do
+    run_once "western.$language" count "$work/language_$language.txt"
+    run_once "all.$language" count "$work/language_$language.txt" --letters all
+  done
+  threads=2
+  run_once words2m2 count "$work/words2m.txt"
+  threads=1
   i=$((i + 1))
 done
 # The slow ones, three times.
@@ -134,11 +159,23 @@ setting_row '400 words to ignore' ignore book10.txt
 setting_row '400 count-only words' only book10.txt
 setting_row 'numerals and all signs allowed' everything book10.txt
 
+printf '\nLanguages, nanoseconds per byte by either rule of letters (texts made of the common words in data/):\n\n'
+printf '| | western | all letters | all letters, per byte of English |\n|---|---|---|---|\n'
+per_byte() { awk -v t="$(median "$1")" -v s="$(wc -c <"$work/language_$2.txt")" 'BEGIN { printf "%.3f", t * 1e3 / s }'; }
+english=$(per_byte all.en en)
+for language in $languages; do
+  awk -v text="$(language_name "$language")" -v w="$(per_byte "western.$language" "$language")" \
+    -v a="$(per_byte "all.$language" "$language")" -v e="$english" \
+    'BEGIN { printf "| %s | %.2f | %.2f | %.2f |\n", text, w, a, a / e }'
+done
+
 printf '\nGrowth:\n\n| | time | times as long |\n|---|---|---|\n'
+row 'one line' "$(median line)" "$(median ours1)"
 row 'the book once' "$(median ours1)" "$(median ours1)"
 row 'the book ten times over' "$base" "$(median ours1)"
 row '4,000,000 words, 20,000 of them different' "$(median words20k)" "$(median words20k)"
 row '4,000,000 words, 2,000,000 of them different' "$(median words2m)" "$(median words20k)"
+row 'the same, two threads' "$(median words2m2)" "$(median words20k)"
 
 printf '\nFolders, the shortest of %s rounds:\n\n' "$rounds"
 printf '| | `find -print0 \\| xargs -0 cat` | one thread | two threads | one / two | two / cat |\n'
@@ -151,3 +188,27 @@ folder_row() { # TEXT FOLDER
 folder_row '20,000 files of 2 KB' many2k
 folder_row '2,000 files of 50 KB' many50k
 folder_row '100 files of 800 KB' many800k
+
+[ -n "${PICTURE:-}" ] || exit 0
+group="A book ten times over, $((bytes / 1000000)) MB"
+bar "$group" 'quillomat-cli, two threads' "$(median threads2)"
+bar "$group" 'quillomat-cli, one thread' "$base"
+bar "$group" 'wc -w (makes no list)' "$(median wc)"
+if have mawk; then bar "$group" mawk "$(median mawk)"; fi
+if have perl; then bar "$group" perl "$(median perl)"; fi
+bar "$group" Python "$(median python)"
+bar "$group" 'tr | sort | uniq -c' "$(median pipeline)"
+for folder in many2k many50k many800k; do
+  case $folder in
+    many2k) group='20,000 files of 2 KB' ;;
+    many50k) group='2,000 files of 50 KB' ;;
+    many800k) group='100 files of 800 KB' ;;
+  esac
+  bar "$group" 'quillomat-cli, two threads' "$(shortest "two.$folder")"
+  bar "$group" 'quillomat-cli, one thread' "$(shortest "one.$folder")"
+  bar "$group" 'find | xargs cat (only reads)' "$(shortest "cat.$folder")"
+done
+group='4,000,000 words, one thread'
+bar "$group" 'quillomat-cli, 20,000 different' "$(median words20k)"
+bar "$group" 'quillomat-cli, 2,000,000 different' "$(median words2m)"
+python3 "$root/bench/picture.py" "$work/bars" >"$PICTURE"

@@ -6,9 +6,12 @@ law. Every run makes the same texts.
 """
 import os
 import random
+import re
 import sys
 
 MEGABYTE = 1 << 20
+LANGUAGES = ("en", "fr", "de", "pl", "ru", "el")
+DATA = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "data")
 
 
 def words_of(seed, count, letters="etaoinshrdlucmfwypvbgk"):
@@ -45,6 +48,16 @@ def different(count, repeats, seed):
     words = words_of(seed, count) * repeats
     chance.shuffle(words)
     return "".join(" ".join(words[i:i + 12]) + "\n" for i in range(0, len(words), 12))
+
+
+def language(path, size):
+    """A text of a language: its common words, and pairs of them as its rarer and longer ones."""
+    with open(path, encoding="utf-8") as file:
+        common = list(dict.fromkeys(re.sub(r"/\*.*?\*/", " ", file.read(), flags=re.S).lower().split()))
+    chance = random.Random(6)
+    chance.shuffle(common)
+    pairs = dict.fromkeys("".join(chance.choices(common, k=2)) for _ in range(14_000))
+    return lines_of(common + list(pairs), 7, size)
 
 
 def accented(text):
@@ -103,6 +116,10 @@ def main():
     write(folder, "source10.c", c_source(book) * 10)
     write(folder, "words20k.txt", different(20_000, 200, 3))
     write(folder, "words2m.txt", different(2_000_000, 2, 4))
+    write(folder, "line.txt", "Counting is all that it does.\n")
+    for name in LANGUAGES:
+        text = language(os.path.join(DATA, f"cwds_{name}.txt"), 2 * MEGABYTE)
+        write(folder, f"language_{name}.txt", text * 8)
     many_files(os.path.join(folder, "many2k"), book, 200, 100, 2048)
     many_files(os.path.join(folder, "many50k"), book, 20, 100, 50_000)
     many_files(os.path.join(folder, "many800k"), book, 1, 100, 800_000)
