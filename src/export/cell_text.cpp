@@ -7,6 +7,8 @@
 #include <utility>
 #include <variant>
 
+#include "base/well_formed_text.h"
+
 namespace quillomat {
 namespace {
 
@@ -35,13 +37,19 @@ void AppendDecimal(std::string& out, double value, int decimals) {
   out.append(fraction.data(), static_cast<std::size_t>(decimals) + 1);
 }
 
-bool TakeRowsOfFiles(const ExportTable& table, std::int32_t place, ExportRow& row,
+/// The files of the count, by their numbers.
+std::vector<std::string> NamesOfFiles(const WordStore& store) {
+  std::vector<std::string> names;
+  names.reserve(store.Files().FileList().size());
+  for (const std::string& path : store.Files().FileList()) names.push_back(WellFormedText(path));
+  return names;
+}
+
+bool TakeRowsOfFiles(const FileTally* files, const std::vector<std::string>& names, ExportRow& row,
                      const std::function<bool(const ExportRow&)>& take) {
-  const WordStore& store = table.words.Words().store;
-  const FileTally* files = store.FilesOf(place);
   if (files == nullptr) return true;
   for (std::size_t i = 0; i < files->FileNumbers.size(); ++i) {
-    row.file = store.Files().FileList()[static_cast<std::size_t>(files->FileNumbers[i])];
+    row.file = names[static_cast<std::size_t>(files->FileNumbers[i])];
     row.word.frequency = files->FileCounts[i];
     if (!take(row)) return false;
   }
@@ -167,12 +175,16 @@ bool ForEachRow(const ExportTable& table, const std::function<bool(const ExportR
   constexpr std::size_t kFetchedAhead = 16;
   const bool perFile = std::ranges::find(table.columns, WordColumn::kFile) != table.columns.end();
   const WordStore& store = table.words.Words().store;
+  const std::vector<std::string> names = perFile ? NamesOfFiles(store) : std::vector<std::string>();
   ExportRow row;
   for (std::size_t i = 0; i < table.places.size(); ++i) {
     // Words that follow each other by frequency lie anywhere in the memory.
     if (i + kFetchedAhead < table.places.size()) store.PrefetchAt(table.places[i + kFetchedAhead]);
-    row.word = table.words.RowOf(table.places[i]);
-    if (perFile ? !TakeRowsOfFiles(table, table.places[i], row, take) : !take(row)) return false;
+    const std::int32_t place = table.places[i];
+    row.word = table.words.RowOf(place);
+    if (perFile ? !TakeRowsOfFiles(store.FilesOf(place), names, row, take) : !take(row)) {
+      return false;
+    }
   }
   return true;
 }

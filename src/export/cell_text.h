@@ -13,7 +13,7 @@ namespace quillomat {
 /// One row of an export: a word, and where rows are made per file, one of its files.
 struct ExportRow {
   WordRow word;
-  /// "" where rows are not made per file.
+  /// Well-formed UTF-8, as all formats need it; "" where rows are not made per file.
   std::string_view file;
 };
 
@@ -34,7 +34,7 @@ void AppendNumber(std::string& out, const ExportRow& row, WordColumn column);
 /// `text` with what HTML reads as markup escaped.
 void AppendHtml(std::string& out, std::string_view text);
 
-/// A fact's value as text.
+/// A fact's value as text; a path may be no UTF-8.
 [[nodiscard]] std::string TextOf(const ExportFact& fact);
 
 /// Calls `take` with every row in order; it returns false to end. Returns whether all were taken.

@@ -7,8 +7,10 @@ namespace {
 
 bool WriteDelimited(const ExportTable& table, const DelimitedForm& form, ExportWriter& writer) {
   std::string& out = writer.Out();
+  bool firstName = true;
   for (const WordColumn column : table.columns) {
-    if (column != table.columns.front()) out.push_back(form.separator);
+    if (!firstName) out.push_back(form.separator);
+    firstName = false;
     out.append(NameOf(column));
   }
   out.append(form.lineEnd);

@@ -1,5 +1,6 @@
 // One page of HTML that needs nothing else: a table whose columns sort when their heads are
 // clicked.
+#include "base/well_formed_text.h"
 #include "export/export_writer.h"
 
 namespace quillomat {
@@ -55,7 +56,7 @@ void AppendFacts(std::string& out, std::string_view title, const std::vector<Exp
     out.append(R"(<tr><th class="text" scope="row">)");
     AppendHtml(out, fact.name);
     out.append("</th><td>");
-    AppendHtml(out, TextOf(fact));
+    AppendHtml(out, WellFormedText(TextOf(fact)));
     out.append("</td></tr>\n");
   }
   out.append("</table></details>\n");

@@ -1,6 +1,9 @@
 // JSON, as one object or as an object a line.
+#include <algorithm>
 #include <nlohmann/json.hpp>
+#include <vector>
 
+#include "base/well_formed_text.h"
 #include "export/export_writer.h"
 #include "export/json_text.h"
 
@@ -9,10 +12,19 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row) {
+/// The columns, each once: no key may stand in an object twice.
+std::vector<WordColumn> KeysOf(const ExportTable& table) {
+  std::vector<WordColumn> keys;
+  for (const WordColumn column : table.columns) {
+    if (std::ranges::find(keys, column) == keys.end()) keys.push_back(column);
+  }
+  return keys;
+}
+
+void AppendRow(std::string& out, const std::vector<WordColumn>& keys, const ExportRow& row) {
   out.push_back('{');
   bool first = true;
-  for (const WordColumn column : table.columns) {
+  for (const WordColumn column : keys) {
     if (!IsText(column) && !HasNumber(row, column)) continue;
     out.append(first ? "\"" : ", \"").append(NameOf(column)).append("\": ");
     first = false;
@@ -28,7 +40,7 @@ void AppendRow(std::string& out, const ExportTable& table, const ExportRow& row)
 Json ValueOf(const StatisticValue& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
   if (const auto* number = std::get_if<double>(&value)) return *number;
-  if (const auto* text = std::get_if<std::string>(&value)) return *text;
+  if (const auto* text = std::get_if<std::string>(&value)) return WellFormedText(*text);
   Json points = Json::array();
   for (const GrowthPoint& point : std::get<std::vector<GrowthPoint>>(value)) {
     points.push_back(Json::array({point.instances, point.differentWords}));
@@ -45,8 +57,7 @@ Json ObjectOf(const std::vector<ExportFact>& facts) {
 void AppendFacts(std::string& out, std::string_view name, const std::vector<ExportFact>& facts) {
   if (facts.empty()) return;
   out.append("  ").append(QuotedJson(name)).append(": ");
-  out.append(ObjectOf(facts).dump(-1, ' ', false, Json::error_handler_t::replace));
-  out.append(",\n");
+  out.append(ObjectOf(facts).dump()).append(",\n");
 }
 
 }  // namespace
@@ -59,9 +70,10 @@ bool WriteJson(const ExportTable& table, ExportWriter& writer) {
   AppendFacts(out, "statistics", table.statistics);
   out.append("  \"rows\": [");
   std::string_view before = "\n    ";
+  const std::vector<WordColumn> keys = KeysOf(table);
   const bool whole = ForEachRow(table, [&](const ExportRow& row) {
     out.append(std::exchange(before, ",\n    "));
-    AppendRow(out, table, row);
+    AppendRow(out, keys, row);
     return writer.EndRow();
   });
   out.append("\n  ]\n}\n");
@@ -71,8 +83,9 @@ bool WriteJson(const ExportTable& table, ExportWriter& writer) {
 
 bool WriteJsonLines(const ExportTable& table, ExportWriter& writer) {
   std::string& out = writer.Out();
+  const std::vector<WordColumn> keys = KeysOf(table);
   const bool whole = ForEachRow(table, [&](const ExportRow& row) {
-    AppendRow(out, table, row);
+    AppendRow(out, keys, row);
     out.push_back('\n');
     return writer.EndRow();
   });

@@ -2,11 +2,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/well_formed_text.h"
+
 namespace quillomat {
 
 std::string QuotedJson(std::string_view text) {
   using Json = nlohmann::json;
-  return Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+  return Json(WellFormedText(text)).dump();
 }
 
 }  // namespace quillomat

@@ -6,8 +6,7 @@
 
 namespace quillomat {
 
-/// `text` in quotes. A path may hold bytes that are no UTF-8, for which JSON has no form: each
-/// becomes U+FFFD.
+/// `text` in quotes, as WellFormedText has it.
 [[nodiscard]] std::string QuotedJson(std::string_view text);
 
 }  // namespace quillomat

@@ -4,27 +4,31 @@
 #include <array>
 #include <utility>
 
+#include "base/well_formed_text.h"
 #include "export/delimited_form.h"
+#include "export/export_writer.h"
 #include "export/json_text.h"
 #include "system/output_file.h"
 
 namespace quillomat {
 namespace {
 
-constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;
 constexpr std::array kPlainFormats = {ExportFormat::kCsv, ExportFormat::kTsv, ExportFormat::kJson,
                                       ExportFormat::kJsonLines};
 
-/// Appends each row to `out`, which is written in large blocks.
+/// `before`, what is appended for each row, and `after`.
 template <typename AppendRow>
-void WriteRows(const PlainTable& table, std::string out, ByteSink& sink, AppendRow appendRow) {
+void WriteRows(const PlainTable& table, std::string_view before, std::string_view after,
+               ByteSink& sink, AppendRow appendRow) {
+  const ExportProgress nobody;
+  ExportWriter writer(sink, nobody);
+  writer.Out().append(before);
   for (std::size_t row = 0; row < table.rows; ++row) {
-    appendRow(out, row);
-    if (out.size() < kBlockBytes) continue;
-    sink.Write(out);
-    out.clear();
+    appendRow(writer.Out(), row);
+    if (!writer.EndRow()) return;
   }
-  sink.Write(out);
+  writer.Out().append(after);
+  writer.Flush();
 }
 
 void WriteDelimitedTable(const PlainTable& table, const DelimitedForm& form, ByteSink& sink) {
@@ -34,11 +38,12 @@ void WriteDelimitedTable(const PlainTable& table, const DelimitedForm& form, Byt
     head.append(name);
   }
   head.append(form.lineEnd);
-  WriteRows(table, std::move(head), sink, [&](std::string& out, std::size_t row) {
+  WriteRows(table, head, {}, sink, [&](std::string& out, std::size_t row) {
     for (std::size_t column = 0; column < table.columns.size(); ++column) {
       if (column > 0) out.push_back(form.separator);
       const PlainTable::Cell cell = table.cellAt(row, column);
-      if (const auto* text = std::get_if<std::string>(&cell)) form.appendText(out, *text);
+      if (const auto* text = std::get_if<std::string>(&cell))
+        form.appendText(out, WellFormedText(*text));
       if (const auto* number = std::get_if<std::int64_t>(&cell)) out += std::to_string(*number);
     }
     out.append(form.lineEnd);
@@ -81,13 +86,12 @@ void ExportPlainText(const PlainTable& table, ExportFormat format, ByteSink& sin
     case ExportFormat::kTsv:
       return WriteDelimitedTable(table, kTsvForm, sink);
     case ExportFormat::kJson:
-      WriteRows(table, "[", sink, [&](std::string& out, std::size_t row) {
+      return WriteRows(table, "[", "\n]\n", sink, [&](std::string& out, std::size_t row) {
         out.append(row == 0 ? "\n  " : ",\n  ");
         AppendObject(out, table, row);
       });
-      return sink.Write("\n]\n");
     case ExportFormat::kJsonLines:
-      return WriteRows(table, {}, sink, [&](std::string& out, std::size_t row) {
+      return WriteRows(table, {}, {}, sink, [&](std::string& out, std::size_t row) {
         AppendObject(out, table, row);
         out.push_back('\n');
       });

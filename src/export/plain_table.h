@@ -22,6 +22,7 @@ struct PlainTable {
 
   std::vector<std::string_view> columns;
   std::size_t rows = 0;
+  /// Texts are written as WellFormedText has them.
   std::function<Cell(std::size_t row, std::size_t column)> cellAt;
 };
 

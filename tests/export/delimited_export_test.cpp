@@ -33,6 +33,21 @@ TEST_F(DelimitedExport, ColumnsComeInTheOrderAskedFor) {
             "length,word\r\n3,the\r\n3,\xC3\xA9t\xC3\xA9\r\n");
 }
 
+TEST_F(DelimitedExport, AColumnMayComeTwice) {
+  Count({{"the", 2}});
+  EXPECT_EQ(
+      Export(ExportFormat::kCsv, {WordColumn::kWord, WordColumn::kFrequency, WordColumn::kWord}),
+      "word,frequency,word\r\nthe,2,the\r\n");
+}
+
+TEST_F(DelimitedExport, PathsThatAreNoUtf8AreShownAsFarAsTheyAre) {
+  CountInFile("/caf\xE9/\xF0\x9F\x98.txt");
+  EXPECT_EQ(Export(ExportFormat::kCsv, {WordColumn::kWord, WordColumn::kFile}),
+            "word,file\r\nwhale,/caf\uFFFD/\uFFFD\uFFFD\uFFFD.txt\r\n");
+  EXPECT_EQ(Export(ExportFormat::kTsv, {WordColumn::kFile}),
+            "file\n/caf\uFFFD/\uFFFD\uFFFD\uFFFD.txt\n");
+}
+
 TEST_F(DelimitedExport, AColumnOfFilesMakesARowForEach) {
   store_.Files().Reset(true);
   store_.Files().SetFileBeingScanned("/texts/a, b.txt");

@@ -32,6 +32,13 @@ class ExportFixture : public testing::Test {
     }
     Rank();
   }
+  /// Counts "whale" once.
+  void CountInFile(const std::string& path) {
+    store_.Files().Reset(true);
+    store_.Files().SetFileBeingScanned(path);
+    store_.AddWord("whale");
+    Rank();
+  }
   void Rank() {
     totals_ = store_.TallyWords();
     ranking_ = RankByFrequency(store_);

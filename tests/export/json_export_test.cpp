@@ -44,6 +44,13 @@ TEST_F(JsonExport, AnEmptyListIsStillAnObject) {
   EXPECT_TRUE(json::parse(Export(ExportFormat::kJson, UsualColumns(false)))["rows"].empty());
 }
 
+TEST_F(JsonExport, AColumnThatIsNamedTwiceIsThereOnce) {
+  Count({{"the", 2}});
+  EXPECT_EQ(
+      Export(ExportFormat::kJsonLines, {WordColumn::kWord, WordColumn::kRank, WordColumn::kWord}),
+      "{\"word\": \"the\", \"rank\": 1}\n");
+}
+
 TEST_F(JsonExport, LinesAreObjectsOfTheirOwn) {
   Count({{"a\\b", 2}, {"c\"d", 1}});
   const std::string lines = Export(ExportFormat::kJsonLines, {WordColumn::kWord});
@@ -53,12 +60,12 @@ TEST_F(JsonExport, LinesAreObjectsOfTheirOwn) {
 }
 
 TEST_F(JsonExport, APathThatIsNoUtf8DoesNotSpoilIt) {
-  store_.Files().Reset(true);
-  store_.Files().SetFileBeingScanned("/texts/\xFF.txt");
-  store_.AddWord("whale");
-  Rank();
-  const std::string text = Export(ExportFormat::kJson, {WordColumn::kWord, WordColumn::kFile});
-  EXPECT_EQ(json::parse(text)["rows"][0]["file"], "/texts/\xEF\xBF\xBD.txt");
+  CountInFile("/texts/\xF0\x9F.txt");
+  settings_ = {{"file", std::string("\xF0\x9F")}};
+  const json whole =
+      json::parse(Export(ExportFormat::kJson, {WordColumn::kWord, WordColumn::kFile}));
+  EXPECT_EQ(whole["rows"][0]["file"], "/texts/\uFFFD\uFFFD.txt");
+  EXPECT_EQ(whole["settings"]["file"], "\uFFFD\uFFFD");
 }
 
 }  // namespace

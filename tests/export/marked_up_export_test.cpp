@@ -24,6 +24,16 @@ TEST_F(MarkedUpExport, HtmlEscapesWordsAndSettings) {
   EXPECT_THAT(page, HasSubstr("txbStartComment(0)</th><td>&lt;</td>"));
 }
 
+TEST_F(MarkedUpExport, WhatIsNoUtf8IsShownAsFarAsItIs) {
+  CountInFile("/caf\xE9.txt");
+  settings_ = {{"file", std::string("caf\xE9")}};
+  EXPECT_THAT(Export(ExportFormat::kMarkdown, {WordColumn::kFile}),
+              HasSubstr("| /caf\uFFFD.txt |"));
+  const std::string page = Export(ExportFormat::kHtml, {WordColumn::kFile});
+  EXPECT_THAT(page, HasSubstr("<td class=\"text\">/caf\uFFFD.txt</td>"));
+  EXPECT_THAT(page, HasSubstr("<td>caf\uFFFD</td>"));
+}
+
 TEST_F(MarkedUpExport, HtmlNeedsNothingFromOutside) {
   Count({{"the", 1}});
   const std::string page = Export(ExportFormat::kHtml, UsualColumns(false));

@@ -47,6 +47,18 @@ TEST(PlainTable, IsAnArrayOfObjectsInJson) {
             "{\"path\": \"a.txt\", \"bytes\": 5, \"why\": \"empty\"}\n");
 }
 
+TEST(PlainTable, HoldsNothingThatIsNoUtf8) {
+  const PlainTable table{.columns = {"path"}, .rows = 1, .cellAt = [](std::size_t, std::size_t) {
+                           return PlainTable::Cell("\xE9\x9F.txt");
+                         }};
+  for (const ExportFormat format :
+       {ExportFormat::kCsv, ExportFormat::kTsv, ExportFormat::kJson, ExportFormat::kJsonLines}) {
+    TextSink sink;
+    ExportPlainText(table, format, sink);
+    EXPECT_NE(sink.text.find("\uFFFD\uFFFD.txt"), std::string::npos) << sink.text;
+  }
+}
+
 TEST(PlainTable, WithoutRowsIsStillATable) {
   EXPECT_EQ(PlainTextOf(ExportFormat::kCsv, 0), "path,bytes,why\r\n");
   EXPECT_EQ(PlainTextOf(ExportFormat::kJson, 0), "[\n]\n");
