@@ -11,6 +11,8 @@
 #include <xlsxwriter.h>
 
 #include "base/run_time_error.h"
+#include "base/utf8.h"
+#include "base/well_formed_text.h"
 #include "export/cell_text.h"
 #include "export/workbook_check.h"
 #include "system/input_file.h"
@@ -23,6 +25,7 @@ constexpr double kWordWidth = 28;
 constexpr double kNumberWidth = 14;
 constexpr double kFactWidth = 48;
 constexpr std::size_t kRowsPerQuestion = 4096;
+constexpr std::size_t kMostUnitsOfCell = 32'767;
 
 [[noreturn]] void Throw(lxw_error error) {
   switch (error) {
@@ -31,9 +34,14 @@ constexpr std::size_t kRowsPerQuestion = 4096;
     case LXW_ERROR_CREATING_TMPFILE:
     case LXW_ERROR_CREATING_XLSX_FILE:
       throw RunTimeError(RunTimeErrorNumber::kPathFileAccess);
-    default:
-      // The library tells a full disk as an error of what writes the archive.
+    case LXW_ERROR_ZIP_FILE_OPERATION:
+    case LXW_ERROR_ZIP_FILE_ADD:
+    case LXW_ERROR_ZIP_CLOSE:
+    case LXW_ERROR_ZIP_INTERNAL_ERROR:
+      // A full disk is an error of what writes the archive.
       throw RunTimeError(RunTimeErrorNumber::kDiskFull);
+    default:
+      throw RunTimeError(RunTimeErrorNumber::kDeviceIo, lxw_strerror(error));
   }
 }
 
@@ -49,6 +57,24 @@ double RoundedNumberOf(const ExportRow& row, WordColumn column) {
 
 bool IsHexDigit(char ch) {
   return (ch >= '0' && ch <= '9') || (ch >= 'a' && ch <= 'f') || (ch >= 'A' && ch <= 'F');
+}
+
+/// As much of `text` as has so many units of UTF-16; behind a blank, if there is one.
+std::string_view StartOf(std::string_view text, std::size_t units) {
+  constexpr char32_t kFirstOfTwoUnits = 0x10000;
+  if (text.size() <= units) return text;
+  std::size_t end = 0;
+  while (end < text.size()) {
+    const auto [character, bytes] = CharacterAt(text, end);
+    const std::size_t needed = character < kFirstOfTwoUnits ? 1 : 2;
+    if (needed > units) {
+      const std::size_t blank = text.substr(0, end).rfind(' ');
+      return text.substr(0, blank == std::string_view::npos ? end : blank + 1);
+    }
+    units -= needed;
+    end += bytes;
+  }
+  return text;
 }
 
 /// A workbook of the library, which is given up unless it was closed.
@@ -207,9 +233,15 @@ class FactSheet {
     } else if (const auto* number = std::get_if<double>(&fact.value)) {
       WriteNumber(1, *number);
     } else {
-      WriteText(1, std::get<std::string>(fact.value));
+      WriteLongText(1, WellFormedText(TextOf(fact)));
     }
     ++row_;
+  }
+  void WriteLongText(lxw_col_t column, std::string_view text) {
+    for (const std::string& cell : XlsxCells(text)) {
+      Check(worksheet_write_string(sheet_, row_, column, cell.c_str(), nullptr));
+      ++column;
+    }
   }
   void WriteText(lxw_col_t column, const std::string& text) {
     Check(worksheet_write_string(sheet_, row_, column, XlsxText(text).c_str(), nullptr));
@@ -239,6 +271,21 @@ std::string XlsxText(std::string_view text) {
     }
   }
   return escaped;
+}
+
+std::vector<std::string> XlsxCells(std::string_view text) {
+  std::vector<std::string> cells;
+  while (!text.empty()) {
+    std::string_view part = StartOf(text, kMostUnitsOfCell);
+    std::string cell = XlsxText(part);
+    if (StartOf(cell, kMostUnitsOfCell).size() < cell.size()) {
+      part = StartOf(part, kMostUnitsOfCell / 2);  // which escapes at most double
+      cell = XlsxText(part);
+    }
+    cells.push_back(std::move(cell));
+    text.remove_prefix(part.size());
+  }
+  return cells;
 }
 
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,

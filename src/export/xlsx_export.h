@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "export/export_table.h"
 
@@ -16,9 +17,14 @@ inline constexpr std::size_t kRowsPerSheet = 1'048'575;
 /// happens to look so has its first underscore written in that form.
 [[nodiscard]] std::string XlsxText(std::string_view text);
 
+/// `text` (UTF-8) as cells, of which each holds as much as a cell may, and the next what follows;
+/// in the form of XlsxText. None for "".
+[[nodiscard]] std::vector<std::string> XlsxCells(std::string_view text);
+
 /// Writes the workbook into `path`, a file of the caller's that is new or may be overwritten.
 /// Sheets are collected in files of the folder `scratchFolder`. False when `progress` ended it;
-/// then there is no file. Throws RunTimeError 61, 57 or 7. `rowsPerSheet` is less in tests only.
+/// then there is no file. Throws RunTimeError 61, 75, 57 or 7. `rowsPerSheet` is less in tests
+/// only.
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
                const ExportProgress& progress, std::size_t rowsPerSheet = kRowsPerSheet);
 

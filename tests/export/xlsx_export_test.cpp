@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <gmock/gmock.h>
 
 #include "base/run_time_error.h"
 #include "export/export_fixture.h"
@@ -45,12 +46,58 @@ TEST_F(XlsxExport, WordsThatLookLikeEscapesAreEscaped) {
   EXPECT_EQ(XlsxText("_x000d"), "_x000d");
 }
 
+TEST_F(XlsxExport, TextThatACellDoesNotHoldGoesOnInTheNext) {
+  using testing::ElementsAre;
+  EXPECT_TRUE(XlsxCells("").empty());
+  EXPECT_THAT(XlsxCells("a b"), ElementsAre("a b"));
+  const std::string most(32'767, 'w');
+  EXPECT_THAT(XlsxCells(most), ElementsAre(most));
+  EXPECT_THAT(XlsxCells(most + "x"), ElementsAre(most, "x"));
+  EXPECT_THAT(XlsxCells("a " + most), ElementsAre("a ", most)) << "cut behind a blank";
+}
+
+TEST_F(XlsxExport, CellsAreMeasuredInUnitsOfUtf16AndAsTheyAreWritten) {
+  std::string pairs;
+  for (int i = 0; i < 16'384; ++i) pairs += "\U0001F600";
+  const std::vector<std::string> cells = XlsxCells(pairs);
+  ASSERT_EQ(cells.size(), 2U);
+  EXPECT_EQ(cells[1], "\U0001F600");
+  EXPECT_EQ(cells[0] + cells[1], pairs);
+  std::string escapes;
+  for (int i = 0; i < 4'000; ++i) escapes += "_x000D_";
+  std::string written;
+  for (const std::string& cell : XlsxCells(escapes)) {
+    EXPECT_LE(cell.size(), 32'767U);
+    written += cell;
+  }
+  EXPECT_GT(written.size(), escapes.size());
+}
+
 TEST_F(XlsxExport, FactsStandOnASheetOfTheirOwn) {
   Count({{"the", 2}});
   totalsFacts_ = {{"words-read", std::int64_t{2}}, {"ratio", 0.5}, {"source", std::string("a")}};
   statistics_ = {{"growth", std::vector<GrowthPoint>{{1, 1}, {2, 2}}}};
   EXPECT_TRUE(Write(kRowsPerSheet));
   EXPECT_TRUE(HasPart("xl/worksheets/sheet2.xml"));
+}
+
+TEST_F(XlsxExport, ASettingThatIsLongerThanACellIsNoError) {
+  Count({{"the", 2}});
+  for (const std::string& text :
+       {std::string(40'999, 'w'), std::string(20'000, ' '), std::string(32'767, 'w')}) {
+    settings_ = {{"words", text}};
+    EXPECT_TRUE(Write(kRowsPerSheet));
+  }
+}
+
+TEST_F(XlsxExport, APathThatIsLongerThanACellIsNoFullDisk) {
+  CountInFile(std::string(32'768, 'p'));
+  try {
+    WriteXlsx(Table({WordColumn::kFile}), Path(), folder_.Path(), {});
+    FAIL() << "no cell holds it";
+  } catch (const RunTimeError& error) {
+    EXPECT_NE(error.Description().find("String exceeds"), std::string::npos) << error.Description();
+  }
 }
 
 TEST_F(XlsxExport, WordsThatASheetDoesNotHoldGoOnInTheNext) {
