@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/direction_marks.h"
 #include "base/utf8.h"
 
 namespace quillomat {
@@ -18,14 +19,9 @@ void AppendHex(std::string& text, char32_t number, int digits) {
   }
 }
 
-bool TurnsDirection(char32_t ch) {
-  return ch == 0x200E || ch == 0x200F || (ch >= 0x202A && ch <= 0x202E) ||
-         (ch >= 0x2066 && ch <= 0x2069);
-}
-
 bool MustBeEscaped(char32_t ch, char32_t next) {
   if (ch == '\n' || ch == '\t' || (ch == '\r' && next == '\n')) return false;
-  return ch < ' ' || (ch >= kDelete && ch < kFirstAfterControls) || TurnsDirection(ch);
+  return ch < ' ' || (ch >= kDelete && ch < kFirstAfterControls) || IsDirectionMark(ch);
 }
 
 bool IsPlain(char ch) {

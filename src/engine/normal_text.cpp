@@ -9,6 +9,7 @@
 #include <span>
 #include <vector>
 
+#include "base/direction_marks.h"
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
 #include "engine/utf8_kernels.h"
@@ -57,14 +58,12 @@ class SuspectSearch {
 bool IsDropped(char32_t codePoint) {
   switch (codePoint) {
     case 0xAD:    // soft hyphen
-    case 0x61C:   // the marks of direction: this and the ranges below
+    case 0x200C:  // non-joiner
+    case 0x200D:  // joiner
     case 0xFEFF:  // byte-order mark
       return true;
     default:
-      // 200C and 200D are the non-joiner and the joiner.
-      return (codePoint >= 0x200C && codePoint <= 0x200F) ||
-             (codePoint >= 0x202A && codePoint <= 0x202E) ||
-             (codePoint >= 0x2066 && codePoint <= 0x2069);
+      return IsDirectionMark(codePoint);
   }
 }
 

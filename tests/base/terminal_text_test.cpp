@@ -27,6 +27,7 @@ TEST(TerminalText, WhatTurnsTheDirectionOfWritingIsEscaped) {
                                "exe"),
             "txt.\\u202Eexe");
   EXPECT_EQ(EscapedForTerminal("\xE2\x81\xA6"), "\\u2066");
+  EXPECT_EQ(EscapedForTerminal("\u061C"), "\\u061C");
 }
 
 TEST(TerminalText, BytesThatAreNoTextAreEscaped) {
