@@ -23,9 +23,11 @@ std::string AmountText(double bytes) {
   constexpr double kStep = 1000;
   constexpr std::array<std::string_view, 5> kUnits = {"B", "kB", "MB", "GB", "TB"};
   std::size_t unit = 0;
-  for (; bytes >= kStep && unit + 1 < kUnits.size(); ++unit) bytes /= kStep;
-  constexpr double kFirstWithoutDecimals = 10;
-  const int decimals = unit > 0 && bytes < kFirstWithoutDecimals ? 1 : 0;
+  // What would be rounded up to a step is one.
+  for (; std::round(bytes) >= kStep && unit + 1 < kUnits.size(); ++unit) bytes /= kStep;
+  constexpr double kTenths = 10;
+  constexpr double kFirstTenthsLeftOut = 100;
+  const int decimals = unit > 0 && std::round(bytes * kTenths) < kFirstTenthsLeftOut ? 1 : 0;
   std::array<char, 32> text{};
   char* const end = std::to_chars(text.data(), text.data() + text.size(), bytes,
                                   std::chars_format::fixed, decimals)

@@ -25,6 +25,11 @@ TEST(WorkPace, AmountsAndTimesAreShort) {
   EXPECT_EQ(AmountText(1234), "1.2 kB");
   EXPECT_EQ(AmountText(310e6), "310 MB");
   EXPECT_EQ(AmountText(5e15), "5000 TB");
+  EXPECT_EQ(AmountText(999.6), "1.0 kB");
+  EXPECT_EQ(AmountText(999.7e3), "1.0 MB");
+  EXPECT_EQ(AmountText(999.4e3), "999 kB");
+  EXPECT_EQ(AmountText(9.97e6), "10 MB");
+  EXPECT_EQ(AmountText(9.94e6), "9.9 MB");
   EXPECT_EQ(ClockText(5), "0:05");
   EXPECT_EQ(ClockText(3723), "1:02:03");
 }
