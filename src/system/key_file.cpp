@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/letter_case.h"
+#include "base/limited_source.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
@@ -91,8 +92,11 @@ std::string Unescaped(std::string_view text) {
   return value;
 }
 
+/// Throws RunTimeError for a file that is none of ours, such as one without an end.
 std::string ReadWhole(const std::string& path) {
-  InputFile file(path);
+  constexpr SourceLimits kLimits{.bytes = 1'000'000};
+  InputFile input(path);
+  LimitedSource file(input, kLimits);
   std::string contents;
   std::array<char, 4096> block{};
   while (const std::size_t bytes = file.Read(block)) contents.append(block.data(), bytes);

@@ -4,7 +4,8 @@
 // that are nothing of the kind do no harm and survive a write. Of several lines with one name the
 // first counts. Names are compared without letter case. In a value, \r, \n and \t stand for a line
 // break and a tab, \s for a blank at an end, \\ for a backslash. Writing replaces the file at once,
-// so that a reader never sees half of it.
+// so that a reader never sees half of it. A file of more than a million bytes is none of ours: it
+// cannot be read, and is left alone.
 #pragma once
 
 #include <optional>

@@ -51,6 +51,14 @@ TEST_F(KeyFileTest, ReadsWhatOthersWrote) {
   EXPECT_FALSE(file_.IsEmpty());
 }
 
+TEST_F(KeyFileTest, IsNotReadForEver) {
+  const std::string contents = "Language=DE\n" + std::string(2'000'000, '#');
+  (void)folder_.Write("quillomat.conf", contents);
+  EXPECT_EQ(file_.Read("Language"), std::nullopt);
+  EXPECT_FALSE(file_.Write("Language", "EN"));
+  EXPECT_EQ(ContentsOf(file_.Path()), contents);
+}
+
 TEST_F(KeyFileTest, WithoutEntriesIsEmpty) {
   (void)folder_.Write("quillomat.conf", "# nothing\n=x\nnonsense\n");
   EXPECT_TRUE(file_.IsEmpty());
