@@ -7,6 +7,7 @@
 #include <functional>
 #include <utility>
 
+#include "base/text_helpers.h"
 #include "base/utf8.h"
 
 namespace quillomat {
@@ -96,12 +97,6 @@ double Rounded(double number) {
   return std::round(number * kSixDecimals) / kSixDecimals;
 }
 
-std::string Joined(const std::vector<std::string>& words) {
-  std::string joined;
-  for (const std::string& word : words) joined.append(joined.empty() ? "" : " ").append(word);
-  return joined;
-}
-
 }  // namespace
 
 Statistics StatisticsOf(const WordStore& store, std::optional<OrderFigures> order) {
@@ -163,7 +158,7 @@ std::vector<Statistic> ListStatistics(const Statistics& statistics) {
     addRounded(StatisticName::kMedianLengthOfWords, length->median);
   }
   if (!statistics.longestWords.empty()) {
-    add(StatisticName::kLongestWords, Joined(statistics.longestWords));
+    add(StatisticName::kLongestWords, JoinWithBlanks(statistics.longestWords));
   }
   if (const auto& line = statistics.rankFrequencyLine) {
     addRounded(StatisticName::kRankFrequencySlope, line->slope);

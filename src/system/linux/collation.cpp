@@ -4,18 +4,13 @@
 #include <cstddef>
 #include <cstring>
 #include <langinfo.h>
-#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is no standard C++
 #include <string_view>
-#include <type_traits>
 #include <utility>
+
+#include "system/linux/locale_handle.h"
 
 namespace quillomat {
 namespace {
-
-struct LocaleCloser {
-  void operator()(locale_t locale) const { freelocale(locale); }
-};
-using Locale = std::unique_ptr<std::remove_pointer_t<locale_t>, LocaleCloser>;
 
 constexpr std::size_t kUsualKeyBytes = 1024;
 constexpr int kCategories = LC_COLLATE_MASK | LC_CTYPE_MASK;

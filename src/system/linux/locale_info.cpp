@@ -2,20 +2,13 @@
 
 #include <clocale>
 #include <langinfo.h>
-#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is no standard C++
-#include <memory>
 #include <string_view>
-#include <type_traits>
 
 #include "base/utf8.h"
+#include "system/linux/locale_handle.h"
 
 namespace quillomat {
 namespace {
-
-struct LocaleCloser {
-  void operator()(locale_t locale) const { freelocale(locale); }
-};
-using Locale = std::unique_ptr<std::remove_pointer_t<locale_t>, LocaleCloser>;
 
 /// A separator that is no UTF-8 comes from a locale with single-byte characters, where the
 /// separators in use (a point, a quote, a hard blank) are those of Latin-1.
