@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <gtest/gtest.h>
+#include <stdexcept>
 #include <thread>
 
 #include "base/run_time_error.h"
@@ -52,6 +53,22 @@ TEST_F(ExportRunTest, ProgressIsTold) {
     return false;
   };
   EXPECT_EQ(RunExport(run, pump, work, onProgress).end, ExportOutcome::End::kStopped);
+}
+
+TEST_F(ExportRunTest, WhatIsThrownMeanwhileEndsItSoon) {
+  using std::chrono::steady_clock;
+  bool wasEnded = false;
+  const ExportWork work = [&wasEnded](const ExportProgress& progress) {
+    const auto patience = steady_clock::now() + std::chrono::seconds(10);
+    while (!wasEnded && steady_clock::now() < patience) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+      wasEnded = !progress(1);
+    }
+    return false;
+  };
+  const auto onProgress = [](std::size_t) { throw std::logic_error("a handler's"); };
+  EXPECT_THROW((void)RunExport(run, pump, work, onProgress), std::logic_error);
+  EXPECT_TRUE(wasEnded);
 }
 
 TEST_F(ExportRunTest, StopBeforeTheFirstWordWritesNothing) {

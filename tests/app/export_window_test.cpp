@@ -1,5 +1,6 @@
 // The window that exports the list, as a person uses it.
 #include <gmock/gmock.h>
+#include <stdexcept>
 
 #include "support/program_fixture.h"
 #include "system/file_system.h"
@@ -116,6 +117,16 @@ TEST_F(ExportWindowTest, ExistingFileIsAskedAbout) {
   ExportTo(Target("other.csv"));
   EXPECT_THAT(desktop.InputBoxes(), testing::IsEmpty());
   EXPECT_THAT(ContentsOf(Target("other.csv")), HasSubstr("1,cat,1"));
+}
+
+TEST_F(ExportWindowTest, WhatIsThrownMeanwhileLeavesItUsable) {
+  OpenFor("the cat");
+  desktop.AtPump(desktop.Pumps() + 1, [] { throw std::logic_error("a handler's"); });
+  EXPECT_THROW(ExportTo(Target("list.csv")), std::logic_error);
+  EXPECT_FALSE(State().Busy());
+  EXPECT_EQ(Window().cmdExport.Caption(), "Export");
+  Window().cmdClose.PerformClick();
+  EXPECT_FALSE(Window().Visible());
 }
 
 TEST_F(ExportWindowTest, CountedTextIsNeverWritten) {

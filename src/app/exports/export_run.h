@@ -1,5 +1,6 @@
 // Writes an export while the program stays awake: in a thread of its own, as one that takes long
-// would stop the windows otherwise, and the library for workbooks cannot be interrupted.
+// would stop the windows otherwise, and the library for workbooks cannot be interrupted. Where
+// there is no thread to be had the caller's writes, and looks at the windows as it gets on.
 #pragma once
 
 #include <cstddef>
@@ -25,7 +26,8 @@ using ExportWork = std::function<bool(const ExportProgress& progress)>;
 
 /// Returns when it is done; handles the user's clicks before it begins and meanwhile. The stop flag
 /// ends it, and the file is as it was. The words must not change meanwhile: the caller is in a
-/// phase that sees to it. `onProgress` is called now and then, with the number of words done.
+/// phase that sees to it. `onProgress` is called now and then, with the number of words done; what
+/// it throws, or a handler of the user's clicks, ends the export and is passed on.
 [[nodiscard]] ExportOutcome RunExport(const RunState& run, EventPump& pump, const ExportWork& work,
                                       const std::function<void(std::size_t words)>& onProgress);
 

@@ -284,6 +284,9 @@ void ExportWindow::Write(const ExportWish& wish) {
       });
     } catch (const std::bad_alloc&) {
       outcome = {ExportOutcome::End::kFailed, DescriptionOf(RunTimeErrorNumber::kOutOfMemory)};
+    } catch (...) {
+      ShowRunning(false);
+      throw;
     }
     ShowRunning(false);
   }
