@@ -1,13 +1,14 @@
 #include "app/saved_state.h"
 
 #include <algorithm>
-#include <array>
 #include <new>
 #include <optional>
 
 #include "app/count/named_text.h"
 #include "app/count/path_boxes.h"
 #include "app/list/set_the_focus.h"
+#include "app/setting_values.h"
+#include "app/settings_table.h"
 #include "app/state_file.h"
 #include "base/run_time_error.h"
 #include "sources/output_rules.h"
@@ -132,11 +133,10 @@ void SavedState::TakeTypedLists() {
 }
 
 bool SavedState::AnyComboWithoutItem() const {
-  const std::array<const ComboBox*, 5> combos = {
-      &frmParams_.cboShortWordSize, &frmParams_.cboLongWordSize, &frmParams_.cboThresholdFrequency,
-      &count_.frmMain.cboWordOrder, &count_.frmMain.cboDisplayFormat};
-  return std::any_of(combos.begin(), combos.end(),
-                     [](const ComboBox* combo) { return combo->ListIndex() == -1; });
+  return std::ranges::any_of(AllSettings(), [this](const Setting& setting) {
+    const auto* combo = ControlOf(setting, count_.frmMain, frmParams_).As<ComboBox>();
+    return combo != nullptr && combo->ListIndex() == -1;
+  });
 }
 
 void SavedState::OnSaveToSettingsFile() {

@@ -5,6 +5,8 @@
 #include <random>
 #include <vector>
 
+#include "app/setting_values.h"
+#include "app/settings_table.h"
 #include "app/state_file.h"
 #include "support/program_fixture.h"
 #include "support/user_home.h"
@@ -229,6 +231,21 @@ TEST_F(StateRestore, RandomStatesComeBack) {
       desktop.ForgetQuestions();
     }
   }
+}
+
+TEST_F(StateRestore, AnyListWithoutAnItemIsSaidAndReset) {
+  int lists = 0;
+  for (const Setting& setting : AllSettings()) {
+    if (ControlOf(setting, Main(), Panel()).As<ComboBox>() == nullptr) continue;
+    ++lists;
+    SCOPED_TRACE(setting.control);
+    LoadOnPanel(FileOf(initial_) + std::string(setting.control) + "=-1\r\n");
+    ASSERT_EQ(desktop.Messages().size(), 1U);
+    EXPECT_EQ(desktop.Messages()[0].text, "Invalid combo box index.");
+    EXPECT_EQ(Now(), initial_);
+    desktop.ForgetQuestions();
+  }
+  EXPECT_GE(lists, 7);
 }
 
 TEST_F(StateRestore, BadSettingsFileIsReportedOnceAtStartAndLeavesTheInitialState) {
