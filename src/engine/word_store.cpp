@@ -155,7 +155,7 @@ void WordStore::PrefetchLetters(std::uint32_t hash) const {
 
 /// For one more word in the hash table.
 void WordStore::MakeRoom() {
-  if (sorted_) {
+  if (slots_.empty()) {  // sorted; or there was no memory to do so
     FillSlots(std::max(kFirstSlots, std::bit_ceil(letters_.Size() * 2)));
     sorted_ = false;
   } else if (slots_.size() * 3 <= letters_.Size() * 4) {
@@ -195,7 +195,7 @@ void WordStore::ChangeSeed() {
   seed_ = HashSeedAfter(seed_);
   ++seedChanges_;
   crowded_ = false;
-  if (!sorted_) FillSlots(slots_.size());
+  if (!slots_.empty()) FillSlots(slots_.size());
 }
 
 const FileTally* WordStore::FilesOf(std::int32_t index) const {

@@ -104,7 +104,10 @@ void WordStore::ArrangeWords(std::span<const SortEntry> order) const {
     letters.PushBack(letters_[place]);
     counts.push_back(counts_[place]);
     included.push_back(included_[place]);
-    if (!tallies_.empty()) tallies.push_back(std::move(tallies_[place]));
+  }
+  // Nothing can fail any more: what is moved from the store is moved back into it.
+  if (!tallies_.empty()) {
+    for (const SortEntry& entry : order) tallies.push_back(std::move(tallies_[entry.place]));
   }
   letters_ = std::move(letters);
   counts_ = std::move(counts);

@@ -1,6 +1,7 @@
 // What a user is told when there is not enough memory: every allocation of this program goes
 // through the operators below, which a test can make refuse the large ones.
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -13,9 +14,12 @@
 namespace {
 
 std::atomic<std::size_t> largestAllocation{std::numeric_limits<std::size_t>::max()};
+/// How many there may be still.
+std::atomic<std::int64_t> allocationsLeft{std::numeric_limits<std::int64_t>::max()};
 
 void* Allocate(std::size_t bytes) {
-  void* const memory = bytes > largestAllocation ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
+  const bool refused = bytes > largestAllocation || allocationsLeft-- <= 0;
+  void* const memory = refused ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
   if (memory == nullptr) throw std::bad_alloc();
   return memory;
 }
@@ -188,6 +192,34 @@ TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeTheWord) {
   EXPECT_EQ(store.At(1).Count, 2);
   EXPECT_EQ(store.At(added + 1).Word, "zebra");
   EXPECT_EQ(store.At(added + 1).Count, 2);
+}
+
+TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeItWasSorted) {
+  constexpr std::int32_t kWords = 10'000;
+  bool sorted = false;
+  for (int enoughFor = 0; !sorted; ++enoughFor) {
+    SCOPED_TRACE(enoughFor);
+    WordStore store;
+    store.Files().Reset(true);
+    store.Files().SetFileBeingScanned("a.txt");
+    for (std::int32_t i = 0; i < kWords; ++i) store.AddWord("w" + std::to_string(i));
+    allocationsLeft = enoughFor;
+    try {
+      (void)store.CountOf(1);
+      sorted = true;
+    } catch (const std::bad_alloc&) {
+      sorted = false;
+    }
+    allocationsLeft = std::numeric_limits<std::int64_t>::max();
+    store.AddWord("w7");
+    store.AddWord("zebra");
+    ASSERT_EQ(store.NumDifferentWords(), kWords + 1);
+    for (std::int32_t place = 1; place <= kWords + 1; ++place) {
+      const std::int16_t times = store.WordOf(place) == "w7" ? 2 : 1;
+      ASSERT_EQ(store.CountOf(place), times);
+      ASSERT_EQ(store.FilesOf(place)->FileCounts, std::vector<std::int16_t>{times});
+    }
+  }
 }
 
 }  // namespace
