@@ -96,8 +96,8 @@ std::string_view FileScanner::Lines(FileReport& report) {
   if (request_.encoding == CharacterSet::kGuess) GuessBehindHead(report);
   if (report.convertedFrom != CharacterSet::kAsFound) {
     const std::string_view bytes(memory_.data(), bytesRead_);
-    converted_ =
-        ConvertedText(bytes, report.convertedFrom, report.uncounted.bytesNotDecoded) + '\n';
+    converted_ = ConvertedText(bytes, report.convertedFrom, report.uncounted.bytesNotDecoded);
+    if (!converted_.ends_with('\n')) converted_.push_back('\n');
     return converted_;
   }
   const std::size_t start = report.encoding == TextEncoding::kUtf8WithMark ? kMarkBytes : 0;

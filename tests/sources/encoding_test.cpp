@@ -182,6 +182,25 @@ TEST_F(Encodings, FilesOfAFolderAreConvertedOnThreads) {
   EXPECT_EQ(together.reports[200].uncounted.bytesNotDecoded, 2);
 }
 
+TEST_F(Encodings, LinesOfConvertedFilesAreToldTheSameOnThreads) {
+  static_cast<void>(folder.Write("a.txt", "caf\xE1\n\xE1\n"));
+  static_cast<void>(folder.Write("b.txt", "caf\xE1\n\xE1"));
+  request.encoding = CharacterSet::kWindows1253;
+  const auto linesTold = [this](std::size_t threads) {
+    request.threads = threads;
+    observer.progress.clear();
+    static_cast<void>(Run(TextOfFolder{folder.Path(), false, {}}));
+    std::vector<std::int64_t> told;
+    for (const CountProgress& progress : observer.progress) {
+      if (told.empty() || told.back() != progress.bytesWithLongLineEnds) {
+        told.push_back(progress.bytesWithLongLineEnds);
+      }
+    }
+    return told;
+  };
+  EXPECT_EQ(linesTold(3), linesTold(1));
+}
+
 TEST_F(Encodings, LargeFilesAreConvertedOnThreads) {
   const std::string bytes = TimesOver(kRussianKoi8, 40'000);
   const CountResult alone = CountFile(bytes, CharacterSet::kKoi8R);
