@@ -1,5 +1,6 @@
 #include "app/parameters_panel.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -30,20 +31,24 @@ void ParametersPanel::ConnectParameters() {
     if (!IsParameter(setting) || setting.entails == Entails::kNothing) continue;
     Control& control = ControlOf(setting, frmMain_, frmParams_);
     if (setting.entails == Entails::kRescan) {
-      ConnectScanningChoice(control);
+      ConnectScanningChoice(setting, control);
     } else {
       ConnectListingChoice(control);
     }
   }
 }
 
-void ParametersPanel::ConnectScanningChoice(Control& control) {
+void ParametersPanel::ConnectScanningChoice(const Setting& setting, Control& control) {
   if (auto* box = control.As<CheckBox>()) {
     box->Click.Connect([this, box] { OnScanningBoxClick(*box); });
   }
   if (auto* combo = control.As<ComboBox>()) {
-    combo->Click.Connect([this, combo, before = combo->ListIndex()]() mutable {
-      OnScanningComboClick(*combo, before);
+    combo->Click.Connect([this, &setting, combo, before = combo->ListIndex()]() mutable {
+      if (setting.ofFilesAlone && !FilesWereRead()) {
+        before = combo->ListIndex();
+      } else {
+        OnScanningComboClick(*combo, before);
+      }
     });
   }
   if (auto* box = control.As<TextBox>()) {
@@ -78,6 +83,13 @@ void ParametersPanel::OnScanningComboClick(ComboBox& combo, int& before) {
   flags_.blnInhibitPrompt = true;
   combo.SetListIndex(before);
   flags_.blnInhibitPrompt = false;
+}
+
+/// For the words on display: text, or lists of words.
+bool ParametersPanel::FilesWereRead() const {
+  return words_.counted.source != CountedText::Source::kClipboard ||
+         std::ranges::any_of(frmParams_.txbWordsFile,
+                             [](const TextBox& box) { return !box.Text().empty(); });
 }
 
 /// Whether there is nothing to be read anew, or the user lets it be.

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/count/word_list_reader.h"
+#include "app/settings_table.h"
 #include "app/what_parts_share.h"
 
 namespace quillomat {
@@ -33,13 +34,14 @@ class ParametersPanel {
 
  private:
   void ConnectParameters();
-  void ConnectScanningChoice(Control& control);
+  void ConnectScanningChoice(const Setting& setting, Control& control);
   void ConnectListingChoice(Control& control);
   void ConnectWordLists();
   void AfterClickThatLeaves(const std::function<void()>& action);
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
   void OnScanningComboClick(ComboBox& combo, int& before);
+  [[nodiscard]] bool FilesWereRead() const;
   [[nodiscard]] bool MayReadAnew();
   [[nodiscard]] bool ConfirmReRead();
   void SetAllCheckBoxes(CheckState state) const;

@@ -73,6 +73,11 @@ constexpr Setting EntailsRescan(Setting setting) {
   return setting;
 }
 
+constexpr Setting OfFilesAlone(Setting setting) {
+  setting.ofFilesAlone = true;
+  return setting;
+}
+
 constexpr Setting EntailsNothing(Setting setting) {
   setting.entails = Entails::kNothing;
   return setting;
@@ -128,7 +133,7 @@ using enum Entails;
 constexpr auto kTable = std::to_array<Setting>({
     Box("chkCaseSignificant", {214, 461}, 0, kRescan,
         Switch(kWhatAWordIs, "--case-sensitive", "--case-insensitive",
-               "Words that differ in letter case are different words")),
+               "Words keep the letter case in which they were first met")),
     Box("chkIgnoreShortWords", {217, 463}, 0, kRelist),
     Box("chkIgnoreInfrequentWords", {221, 466}, 0, kRelist),
     Box("chkIgnoreRepetitions", {223, 468}, 1, kRelist,
@@ -205,14 +210,14 @@ constexpr auto kTable = std::to_array<Setting>({
                        Choice(kWhatAWordIs, "--letters", "WHICH", kLetterChoices,
                               "western: the letters of Western Europe (the default); all: those "
                               "of all languages"))),
-    EntailsRescan(
+    OfFilesAlone(EntailsRescan(
         List("cboEncoding", 505, 0,
              WithOtherNames(Choice(kTheText, "--encoding", "NAME|guess", kCharacterSetNames,
                                    "What the bytes of files are in, like UTF-16, "
                                    "Windows-1251 or Shift_JIS; guess: for each file; "
                                    "as-found (the default): UTF-8, and lines that are "
                                    "none are Windows-1252"),
-                            FindEncoding))),
+                            FindEncoding)))),
     KeptByRestoreDefaults(
         Path("txbWordsFile(0)", 478,
              Value(kText, kWordLists, "--ignore", "FILE", "Leave out the words in a file"))),

@@ -93,6 +93,8 @@ struct Setting {
   std::variant<int, std::string_view> initial = 0;
   ResetBy resetBy = ResetBy::kRestoreDefaults;
   Entails entails = Entails::kNothing;
+  /// It is about files, of text or of words, and means nothing for text of the clipboard.
+  bool ofFilesAlone = false;
   /// The text is a path: a state file keeps it whatever characters it is made of.
   bool isPath = false;
   /// The check box without which the setting has no effect.

@@ -328,6 +328,7 @@ inline constexpr int kWordLeftOutText = 710;
 inline constexpr int kLettersNotCountedText = 711;
 inline constexpr int kLetterNotCountedText = 712;
 inline constexpr int kRunsLeftWholeText = 713;
+inline constexpr int kWordsGoneText = 714;
 inline constexpr int kFilesLeftOutText = 740;
 inline constexpr int kFileLeftOutText = 741;
 inline constexpr int kBytesNotDecodedText = 726;

@@ -51,6 +51,16 @@ TEST_F(EncodingSetting, ChangeEntailsReadingAnewAndNoTakesItBack) {
   EXPECT_EQ(Panel().cboEncoding.ListIndex(), 0);
 }
 
+TEST_F(EncodingSetting, ChangeMeansNothingForTextOfTheClipboard) {
+  CountClipboard("cat");
+  ChooseEncoding(CharacterSet::kUtf16);
+  EXPECT_TRUE(desktop.Messages().empty());
+  EXPECT_EQ(Panel().cboEncoding.ListIndex(), static_cast<int>(CharacterSet::kUtf16));
+  EXPECT_EQ(Main().lblNotice.Caption(), "");
+  Main().cmdCount.PerformClick();
+  EXPECT_EQ(StoredWords(), "cat");
+}
+
 TEST_F(EncodingSetting, WordsFilesFollowUnlessTheyLookLikeUtf8) {
   ChooseAllLetters();
   ChooseEncoding(CharacterSet::kKoi8R);

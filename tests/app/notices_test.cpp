@@ -254,6 +254,18 @@ TEST_F(NoticeBarTest, LettersThatWereNotCountedAreToldInTheUsersWay) {
   EXPECT_EQ(Said(), "");
 }
 
+TEST_F(NoticeBarTest, ListIsSaidToBeGoneWhenAFileOfWordsIsRead) {
+  CountClipboard("cat dog cat");
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Output(), HasSubstr("cat"));
+  EXPECT_EQ(Said(), "A file of words was read since: the words of this list are gone.");
+  EXPECT_THAT(Commands(), ElementsAre("Count again"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(StoredWords(), "cat*2");
+  EXPECT_EQ(Said(), "One word is left out.");
+}
+
 TEST_F(NoticeBarTest, LinesThatWereNotUtf8AreTold) {
   CountFile(folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n"));
   EXPECT_EQ(Said(), "2 lines were not UTF-8 and were read as Windows-1252.");

@@ -1,5 +1,7 @@
 #include "app/count/count_basis.h"
 
+#include <algorithm>
+
 #include "app/setting_values.h"
 
 namespace quillomat {
@@ -30,10 +32,15 @@ CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
                         const InForce& inForce) {
   CountBasis basis;
   for (const Setting& setting : AllSettings()) {
-    if (TellsWords(setting)) basis.panel.push_back(ValueInForce(setting, frmMain, frmParams));
+    if (TellsWords(setting)) {
+      std::vector<std::string>& values = setting.ofFilesAlone ? basis.ofFiles : basis.panel;
+      values.push_back(ValueInForce(setting, frmMain, frmParams));
+    }
     if (TellsFilesOfFolder(setting))
       basis.ofFolder.push_back(ValueInForce(setting, frmMain, frmParams));
   }
+  basis.wordsFromFiles = std::ranges::any_of(inForce.filesRead.wordsFiles,
+                                             [](const std::string& path) { return !path.empty(); });
   const WordLists& lists = inForce.lists;
   basis.countOnlyWords = lists.CountOnlyList.Count() + lists.ExtraCountOnlyList.Count();
   if (basis.countOnlyWords == 0) {
@@ -44,7 +51,10 @@ CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
 
 bool CountAlike(const CountBasis& one, const CountBasis& other, CountedText::Source source) {
   const bool ofFolder = source == CountedText::Source::kFolder;
-  return one.panel == other.panel && (!ofFolder || one.ofFolder == other.ofFolder);
+  const bool ofFiles =
+      source != CountedText::Source::kClipboard || one.wordsFromFiles || other.wordsFromFiles;
+  return one.panel == other.panel && (!ofFiles || one.ofFiles == other.ofFiles) &&
+         (!ofFolder || one.ofFolder == other.ofFolder);
 }
 
 }  // namespace quillomat

@@ -17,6 +17,10 @@ struct CountBasis {
   /// The values of the settings that bear on the words, in the order of the settings' table. One
   /// without effect, as long as another setting does not switch it on, is "".
   std::vector<std::string> panel;
+  /// The same, of those that mean something for files alone.
+  std::vector<std::string> ofFiles;
+  /// A file of words is in force.
+  bool wordsFromFiles = false;
   /// The same, of which files of a folder are read.
   std::vector<std::string> ofFolder;
   std::int32_t countOnlyWords = 0;

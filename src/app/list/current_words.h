@@ -71,6 +71,8 @@ struct CurrentWords {
   bool completeRun = false;
   /// The last count was stopped, and the user wants its words listed.
   bool listAfterStop = false;
+  /// The words of the last count made room for a file of words.
+  bool gaveWay = false;
   /// The counts on display were obtained under the current parameters.
   bool blnWordsGot = false;
 
@@ -100,6 +102,7 @@ struct CurrentWords {
     completeRun = false;
     listAfterStop = false;
     blnWordsGot = false;
+    gaveWay = false;
   }
 };
 

@@ -43,6 +43,10 @@ using enum NoticeAction;
 
 // First what makes the list other than it looks, then what is missing in it by the user's own will.
 constexpr auto kRows = std::to_array<NoticeRow>({
+    {kWordsGoneText,
+     0,
+     [](const NoticeFacts& facts) { return If(facts.wordsGone); },
+     {kCountAgain}},
     {kListNotCompleteText,
      0,
      [](const NoticeFacts& facts) { return StoppedIf(!NamesOtherText(facts), facts); },
@@ -106,7 +110,7 @@ bool StartsWithOne(const std::vector<NoticeValue>& values) {
 
 std::vector<Notice> NoticesOf(const NoticeFacts& facts) {
   std::vector<Notice> notices;
-  if (!facts.listStands) return notices;
+  if (!facts.listStands && !facts.wordsGone) return notices;
   for (std::size_t i = 0; i < kRows.size(); ++i) {
     const NoticeRow& row = kRows.at(i);
     Values values = row.values(facts);

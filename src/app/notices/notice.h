@@ -27,6 +27,8 @@ enum class NoticeAction : std::uint8_t {
 struct NoticeFacts {
   /// Words were counted, and what came of it is on display. Nothing else counts without.
   bool listStands = false;
+  /// A list is on display whose words gave way to a file of words; nothing else is known then.
+  bool wordsGone = false;
   /// How far the count came, in words, if it was stopped.
   std::string stopped = {};
   /// Files and folders that should have been read.

@@ -69,6 +69,7 @@ void NoticeBar::Update() {
 NoticeFacts NoticeBar::Facts() const {
   NoticeFacts facts;
   facts.listStands = words_.CanBeListed() && (!textShown_ || TextHoldsList());
+  facts.wordsGone = words_.gaveWay && output_.Part().all > 0;
   if (!facts.listStands) return facts;
   if (words_.stoppedAfter) {
     facts.stopped =
