@@ -2,8 +2,7 @@
 // letters have two bytes or three, and a few of English.
 //
 // Holds tokens of at most kMostBytes bytes, at most kMostTokens of them, and at most some 2 MiB:
-// when it is full it starts anew. It takes no memory before the first is remembered. As in a
-// TokenMemo, tokens that meet in one place make it crowded.
+// when it is full it starts anew.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "engine/token_memo.h"
+#include "engine/memo_table.h"
+#include "engine/token_outcome.h"
 #include "engine/word_hash.h"
 
 namespace quillomat {
@@ -21,12 +21,24 @@ namespace quillomat {
 class LongTokenMemo {
  public:
   static constexpr std::size_t kMostBytes = 63;
-  static constexpr std::size_t kMostTokens = 32'768;
 
-  explicit LongTokenMemo(const HashSeed& seed = DrawnHashSeed()) : seed_(seed) {}
+  struct Entry : MemoEntry {
+    std::uint32_t letters = 0;
+    std::uint64_t hash = 0;  // 0 marks a free entry
 
+    [[nodiscard]] bool IsFree() const { return hash == 0; }
+  };
+  static constexpr std::size_t kMostTokens = MemoTable<Entry>::kMostTokens;
+
+  explicit LongTokenMemo(const HashSeed& seed = DrawnHashSeed()) : table_(seed) {}
+
+  void Forget();
   void Clear();
-  [[nodiscard]] bool IsCrowded() const { return crowded_; }
+  [[nodiscard]] bool IsCrowded() const { return table_.IsCrowded(); }
+  /// Whether it must forget before it can take a token of so many bytes.
+  [[nodiscard]] bool IsFullFor(std::size_t bytes) const {
+    return table_.IsFull() || letters_.size() + bytes > kMostLetters;
+  }
 
   /// A token as the memo looks it up; its bytes stay where they are.
   struct Key {
@@ -36,35 +48,60 @@ class LongTokenMemo {
     std::uint64_t hash;
   };
 
-  /// Of a token of more than TokenMemo::kMostBytes bytes.
-  [[nodiscard]] Key KeyOf(const char* text, std::size_t size) const;
+  /// Makes keys and finds entries, for many tokens: good until the memo changes.
+  class Finder {
+   public:
+    explicit Finder(LongTokenMemo& memo)
+        : places_(memo.table_.AllPlaces()),
+          seed_(memo.table_.Seed()),
+          letters_(memo.letters_.data()) {}
 
-  /// Begins to fetch what Find will look at first, and then its letters.
-  void Prefetch(const Key& key) const {
-    if (!entries_.empty()) __builtin_prefetch(&entries_[key.hash >> shift_]);
+    /// Of a token of more than TokenMemo::kMostBytes bytes.
+    [[nodiscard]] Key KeyOf(const char* text, std::size_t size) const;
+    /// Begins to fetch what Find will look at first.
+    void Prefetch(const Key& key) const { places_.Prefetch(places_.HomeOf(key.hash)); }
+    /// Null for a token that is not remembered.
+    [[nodiscard]] Entry* Find(const Key& key) const {
+      if (key.hash == 0) return nullptr;
+      return places_.Find(places_.HomeOf(key.hash), [&](const Entry& entry) {
+        return entry.hash == key.hash && AreEqual(letters_ + entry.letters, key.text, key.size);
+      });
+    }
+
+   private:
+    MemoTable<Entry>::Places places_;
+    HashSeed seed_;
+    const char* letters_;
+  };
+
+  // For a single token.
+  [[nodiscard]] Key KeyOf(const char* text, std::size_t size) {
+    return Finder(*this).KeyOf(text, size);
+  }
+  /// kUnknownToken for one that is not remembered.
+  [[nodiscard]] TokenOutcome Find(const Key& key) {
+    const Entry* const entry = Finder(*this).Find(key);
+    return entry != nullptr ? OutcomeOf(*entry) : kUnknownToken;
   }
 
-  [[nodiscard]] TokenOutcome Find(const Key& key) const;
+  [[nodiscard]] TokenOutcome OutcomeOf(const Entry& entry) const { return table_.OutcomeOf(entry); }
 
-  /// `key` is that of a token that is not remembered; one that is too long is not remembered
-  /// either.
+  /// `key` is that of a token that is not remembered, in a memo that is not full; one that is too
+  /// long is not remembered either.
   void Remember(const Key& key, TokenOutcome outcome);
 
+  /// As MemoTable does.
+  template <typename Take>
+  void TakeKept(Take take) {
+    table_.TakeKept(take);
+  }
+
  private:
-  static constexpr unsigned kAllHashBits = 64;
   static constexpr std::uint64_t kSizeBits = 63;
-  static constexpr std::size_t kFirstEntries = 1024;  // a power of two, as every number of entries
-  static constexpr std::size_t kMostEntries = 65'536;
   static constexpr std::size_t kMostLetters = std::size_t{1} << 20U;
-  static constexpr std::size_t kFarthest = 256;  // as in a TokenMemo
   /// Tokens of up to so many bytes are read in four parts, which overlap.
   static constexpr std::size_t kFourParts = 32;
 
-  struct Entry {
-    std::uint64_t hash = 0;  // 0 marks a free entry
-    std::uint32_t letters = 0;
-    TokenOutcome outcome = kUnknownToken;
-  };
   /// Of a token: every byte of it stands in one of them.
   struct Parts {
     std::uint64_t first;
@@ -83,20 +120,13 @@ class LongTokenMemo {
             LoadNumber<std::uint64_t>(text + last)};
   }
   [[nodiscard]] static bool AreEqual(const char* left, const char* right, std::size_t size);
-  void ForgetAll();
-  void Place(const Entry& entry);
-  void Resize(std::size_t entries);
 
-  HashSeed seed_;
-  bool crowded_ = false;
-  std::vector<Entry> entries_;
-  unsigned shift_ = 0;
-  std::size_t tokens_ = 0;
+  MemoTable<Entry> table_;
   /// Those of all tokens, one behind the other.
   std::vector<char> letters_;
 };
 
-inline LongTokenMemo::Key LongTokenMemo::KeyOf(const char* text, std::size_t size) const {
+inline LongTokenMemo::Key LongTokenMemo::Finder::KeyOf(const char* text, std::size_t size) const {
   if (size > kMostBytes) return {text, size, 0};
   std::uint64_t hash = 0;
   if (size <= kFourParts) {
@@ -116,18 +146,6 @@ inline bool LongTokenMemo::AreEqual(const char* left, const char* right, std::si
   const Parts other = PartsOf(right, size);
   return ((one.first ^ other.first) | (one.second ^ other.second) | (one.third ^ other.third) |
           (one.last ^ other.last)) == 0;
-}
-
-inline TokenOutcome LongTokenMemo::Find(const Key& key) const {
-  if (entries_.empty() || key.hash == 0) return kUnknownToken;
-  const std::size_t mask = entries_.size() - 1;
-  for (std::size_t i = key.hash >> shift_;; i = (i + 1) & mask) {
-    const Entry& entry = entries_[i];
-    if (entry.hash == key.hash && AreEqual(letters_.data() + entry.letters, key.text, key.size)) {
-      return entry.outcome;
-    }
-    if (entry.hash == 0) return kUnknownToken;
-  }
 }
 
 }  // namespace quillomat

@@ -17,6 +17,9 @@
 #define HWY_TARGET_INCLUDE "engine/token_classes.cpp"
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
+#if HWY_ARCH_X86
+#include <immintrin.h>
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace quillomat::HWY_NAMESPACE {
@@ -69,9 +72,11 @@ std::size_t FindEdges(std::span<const std::uint64_t> masks, std::uint32_t* const
   for (const std::uint64_t mask : masks) {
     std::uint64_t edges = mask ^ (mask << 1U | before);
     before = mask >> (kBytesPerMask - 1);
+    constexpr std::size_t kAtOnce = 8;
+    static_assert(kAtOnce <= kEdgesAtOnce);
     const auto found = static_cast<std::size_t>(std::popcount(edges));
-    for (std::size_t written = 0; written < found; written += kEdgesAtOnce) {
-      for (std::size_t i = 0; i < kEdgesAtOnce; ++i) {
+    for (std::size_t written = 0; written < found; written += kAtOnce) {
+      for (std::size_t i = 0; i < kAtOnce; ++i) {
         next[written + i] = base + static_cast<std::uint32_t>(std::countr_zero(edges));
         edges &= edges - 1;
       }
@@ -89,6 +94,50 @@ HWY_AFTER_NAMESPACE();
 namespace quillomat {
 
 namespace {
+
+#if HWY_ARCH_X86
+constexpr std::size_t kPlaces = 16;  // in a vector
+static_assert(kEdgesAtOnce == 2 * kPlaces);
+
+/// `base` and the bytes of that quarter of `bits`. With masks, as the compiler takes what others
+/// leave undefined for a fault.
+template <int quarter>
+[[gnu::target("avx512f")]] void WriteSixteen(__m512i bits, __m512i base, std::uint32_t* places) {
+  const __m128i bytes = _mm512_maskz_extracti32x4_epi32(0xF, bits, quarter);
+  const __m512i numbers = _mm512_maskz_cvtepu8_epi32(0xFFFF, bytes);
+  _mm512_storeu_si512(places + quarter * kPlaces, _mm512_add_epi32(base, numbers));
+}
+
+/// As FindEdges, for processors that can press the chosen bytes of 64 together at once: without a
+/// loop over the edges, and with no branch that would often be foreseen wrong.
+[[gnu::target("avx512f,avx512bw,avx512vbmi,avx512vbmi2,popcnt")]] std::size_t FindEdgesByPressing(
+    std::span<const std::uint64_t> masks, std::uint32_t* const places) {
+  alignas(kBytesPerMask) static constexpr auto kNumbers = [] {
+    std::array<std::uint8_t, kBytesPerMask> numbers{};
+    for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = static_cast<std::uint8_t>(i);
+    return numbers;
+  }();
+  const __m512i numbers = _mm512_load_si512(kNumbers.data());
+  __m512i base = _mm512_setzero_si512();
+  std::uint32_t* next = places;
+  std::uint64_t before = 0;
+  for (const std::uint64_t mask : masks) {
+    const std::uint64_t edges = mask ^ (mask << 1U | before);
+    before = mask >> (kBytesPerMask - 1);
+    const __m512i bits = _mm512_maskz_compress_epi8(edges, numbers);
+    const auto found = static_cast<std::size_t>(std::popcount(edges));
+    WriteSixteen<0>(bits, base, next);
+    WriteSixteen<1>(bits, base, next);
+    if (found > 2 * kPlaces) [[unlikely]] {  // words and gaps of less than two bytes
+      WriteSixteen<2>(bits, base, next);
+      WriteSixteen<3>(bits, base, next);
+    }
+    next += found;
+    base = _mm512_add_epi32(base, _mm512_set1_epi32(kBytesPerMask));
+  }
+  return static_cast<std::size_t>(next - places);
+}
+#endif
 
 struct Kernel {
   std::string_view name;
@@ -122,6 +171,9 @@ std::vector<Kernel> UsableKernels() {
   if (avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
       __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw")) {
     kernels.push_back({"avx3", N_AVX3::FindTokenBytes, N_AVX3::FindEdges});
+    if (__builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vbmi2")) {
+      kernels.push_back({"vbmi2", N_AVX3::FindTokenBytes, FindEdgesByPressing});
+    }
   }
 #endif
 #endif

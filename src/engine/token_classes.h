@@ -36,9 +36,9 @@ class TokenClasses {
 };
 
 inline constexpr std::size_t kBytesPerMask = 64;
-/// How many edges are written at once: some more than there are, so that how often the loop runs is
-/// easy to foresee.
-inline constexpr std::size_t kEdgesAtOnce = 8;
+/// How many edges may be written at once: some more than there are, so that how often a loop runs
+/// is easy to foresee.
+inline constexpr std::size_t kEdgesAtOnce = 32;
 
 /// Sets bit i of masks[k] when byte 64 k + i of `text` belongs to a token. `masks` has one element
 /// for every 64 bytes that have begun; bits behind the end of the text are 0.

@@ -1,97 +1,92 @@
 // What became of the tokens that a scan has met, so that the next one like it costs one look-up.
 //
 // Holds the tokens of at most kMostBytes bytes, and at most kMostTokens of them: a text with more
-// different tokens makes it start anew from time to time. At most 1 MiB: it is to stay in the
-// caches nearest to the processor, and four tokens share a line of them.
-//
-// Tokens that meet in one place of it make it crowded; once cleared, it goes by another seed.
+// different tokens makes it start anew from time to time. Its entries have at most 1 MiB: they are
+// to stay in the caches nearest to the processor, and four tokens share a line of them.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
-#include <vector>
 
+#include "engine/memo_table.h"
+#include "engine/token_outcome.h"
 #include "engine/word_hash.h"
 
 namespace quillomat {
 
-/// What a token is worth: the place in the store of the word to be counted (less than 2^31), or one
-/// of the constants below.
-using TokenOutcome = std::uint32_t;
-
-/// A word was read that is not stored.
-inline constexpr TokenOutcome kWordNotStored = std::uint32_t{1} << 31U;
-/// The token is no word.
-inline constexpr TokenOutcome kNoWord = kWordNotStored + 1;
-/// The token was not remembered.
-inline constexpr TokenOutcome kUnknownToken = kWordNotStored + 2;
-/// The token is several words: this, and above it a number that tells which.
-inline constexpr TokenOutcome kFirstOfSeveral = kWordNotStored + 3;
-
-[[nodiscard]] inline bool IsPlace(TokenOutcome outcome) {
-  return outcome < kWordNotStored;
-}
-[[nodiscard]] inline bool IsSeveral(TokenOutcome outcome) {
-  return outcome >= kFirstOfSeveral;
-}
-
 class TokenMemo {
  public:
   static constexpr std::size_t kMostBytes = 12;
-  static constexpr std::size_t kMostTokens =
-      32'768;  // half of the entries, so that few share their place
 
-  explicit TokenMemo(const HashSeed& seed = DrawnHashSeed())
-      : seed_(seed), entries_(kFirstEntries) {}
+  struct Entry : MemoEntry {
+    std::uint32_t high = 0;
+    std::uint64_t low = 0;  // 0 marks a free entry
 
-  void Clear();
+    [[nodiscard]] bool IsFree() const { return low == 0; }
+  };
+  static constexpr std::size_t kMostTokens = MemoTable<Entry>::kMostTokens;
 
-  /// Whether a token lies so far from its place that the memo should be cleared, for which it is
-  /// ready as soon as no key is in use that was made before.
-  [[nodiscard]] bool IsCrowded() const { return crowded_; }
+  explicit TokenMemo(const HashSeed& seed = DrawnHashSeed()) : table_(seed) {}
+
+  void Forget() { table_.Forget(); }
+  void Clear() { table_.Clear(); }
+  [[nodiscard]] bool IsCrowded() const { return table_.IsCrowded(); }
+  [[nodiscard]] bool IsFullFor(std::size_t /*bytes*/) const { return table_.IsFull(); }
 
   /// A token as the memo looks it up: its bytes, of which none is 0, with zeros behind them.
   struct Key {
     std::uint64_t low;
     std::uint32_t high;
-    std::uint32_t hash;
+    /// Where the look-up starts, until the memo changes.
+    std::uint32_t home;
   };
 
-  /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
-  [[nodiscard]] Key KeyOf(const char* text, std::size_t size, std::size_t readable) const;
-  /// The key of no token.
-  [[nodiscard]] static Key NoKey() { return {0, UINT32_MAX, 0}; }
+  /// Makes keys and finds entries, for many tokens: good until the memo changes.
+  class Finder {
+   public:
+    explicit Finder(TokenMemo& memo)
+        : places_(memo.table_.AllPlaces()), seed_(memo.table_.Seed()) {}
 
-  /// Begins to fetch what Find will look at.
-  void Prefetch(const Key& key) const { __builtin_prefetch(&entries_[key.hash >> shift_]); }
-
-  [[nodiscard]] TokenOutcome Find(const Key& key) const {
-    const std::size_t mask = entries_.size() - 1;
-    for (std::size_t i = key.hash >> shift_;; i = (i + 1) & mask) {
-      const Entry& entry = entries_[i];
-      if (entry.low == key.low && entry.high == key.high) return entry.outcome;
-      if (entry.low == 0) return kUnknownToken;
+    /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
+    [[nodiscard]] Key KeyOf(const char* text, std::size_t size, std::size_t readable) const;
+    /// Begins to fetch what Find will look at.
+    void Prefetch(const Key& key) const { places_.Prefetch(key.home); }
+    /// Null for a token that is not remembered.
+    [[nodiscard]] Entry* Find(const Key& key) const {
+      return places_.Find(key.home, [&](const Entry& entry) {
+        return entry.low == key.low && entry.high == key.high;
+      });
     }
+
+   private:
+    MemoTable<Entry>::Places places_;
+    HashSeed seed_;
+  };
+
+  // For a single token.
+  [[nodiscard]] Key KeyOf(const char* text, std::size_t size, std::size_t readable) {
+    return Finder(*this).KeyOf(text, size, readable);
+  }
+  /// kUnknownToken for one that is not remembered.
+  [[nodiscard]] TokenOutcome Find(const Key& key) {
+    const Entry* const entry = Finder(*this).Find(key);
+    return entry != nullptr ? OutcomeOf(*entry) : kUnknownToken;
   }
 
-  /// `key` is that of a token that is not remembered.
+  [[nodiscard]] TokenOutcome OutcomeOf(const Entry& entry) const { return table_.OutcomeOf(entry); }
+
+  /// `key` is that of a token that is not remembered, in a memo that is not full.
   void Remember(const Key& key, TokenOutcome outcome);
 
+  /// As MemoTable does.
+  template <typename Take>
+  void TakeKept(Take take) {
+    table_.TakeKept(take);
+  }
+
  private:
-  static constexpr std::size_t kFirstEntries = 1024;  // a power of two, as every number of entries
-  static constexpr std::size_t kMostEntries = 65'536;
-  /// No half-filled table of chance comes near it.
-  static constexpr std::size_t kFarthest = 256;
-
-  struct Entry {
-    std::uint64_t low = 0;  // 0 marks a free entry
-    std::uint32_t high = 0;
-    TokenOutcome outcome = kUnknownToken;
-  };
-
   /// By the size of a token, masks of the bytes that belong to it: in the lower part of its key and
   /// in the upper. The first byte is the lowest of a number.
   struct OwnBytes {
@@ -107,29 +102,23 @@ class TokenMemo {
     return masks;
   }();
 
-  void ForgetAll();
-  void Place(const Entry& entry);
-  void Resize(std::size_t entries);
+  /// The key without its home, of a token behind which too little can be read.
+  [[nodiscard]] static Key BytesAtEnd(std::string_view token);
 
-  HashSeed seed_;
-  bool crowded_ = false;
-  std::vector<Entry> entries_;
-  unsigned shift_ = kHashBits - 10;  // of kFirstEntries
-  std::size_t tokens_ = 0;
+  MemoTable<Entry> table_;
 };
 
-inline TokenMemo::Key TokenMemo::KeyOf(const char* text, std::size_t size,
-                                       std::size_t readable) const {
+inline TokenMemo::Key TokenMemo::Finder::KeyOf(const char* text, std::size_t size,
+                                               std::size_t readable) const {
   Key key{};
-  char last[kMostBytes] = {};
-  const char* bytes = text;
-  if (readable < kMostBytes) {
-    std::memcpy(last, text, size);
-    bytes = last;
+  if (readable >= kMostBytes) [[likely]] {
+    key.low = LoadNumber<std::uint64_t>(text) & kOwnBytes[size].low;
+    key.high = LoadNumber<std::uint32_t>(text + sizeof key.low) & kOwnBytes[size].high;
+  } else {
+    key = BytesAtEnd({text, size});
   }
-  key.low = LoadNumber<std::uint64_t>(bytes) & kOwnBytes[size].low;
-  key.high = LoadNumber<std::uint32_t>(bytes + sizeof key.low) & kOwnBytes[size].high;
-  key.hash = MixedHash(key.low, key.high, seed_);
+  const std::uint64_t hash = FoldedProduct(key.low ^ seed_.first, key.high ^ seed_.second);
+  key.home = static_cast<std::uint32_t>(places_.HomeOf(hash));
   return key;
 }
 

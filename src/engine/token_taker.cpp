@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <span>
 
 #include "base/checked_count.h"
@@ -16,7 +17,6 @@
 namespace quillomat {
 namespace {
 
-constexpr LongTokenMemo::Key kNoLongKey = {nullptr, 0, 0};
 /// The most that is remembered of tokens that are several words.
 constexpr std::size_t kMostOfSeveral = 65'536;
 
@@ -39,11 +39,11 @@ void TokenTaker::TakeCut(std::string_view token) {
     return TakeListWords(token);
   }
   ForgetTokensOfOldStore();
-  const TokenMemo::Key key = KeyOf(token, token.size());
-  const TokenOutcome known = memo_.Find(key);
+  const LineBlock::Token found{token.data(), token.size(), token.size()};
+  const TokenOutcome known = OutcomeOf(found);
   if (known == kUnknownToken) {
     ForgetNewTokens();
-    newTokens_.push_back({0, key, kNoLongKey, 0});
+    newTokens_.push_back({0, found, 0});
     WorkOutRun(token);
     newTokens_.back().wordsEnd = newWords_.size();
     AddNewWords();
@@ -66,11 +66,6 @@ void TokenTaker::TakeListWords(std::string_view run) {
   });
 }
 
-TokenMemo::Key TokenTaker::KeyOf(std::string_view token, std::size_t readable) const {
-  return token.size() > TokenMemo::kMostBytes ? TokenMemo::NoKey()
-                                              : memo_.KeyOf(token.data(), token.size(), readable);
-}
-
 void TokenTaker::ForgetNewTokens() {
   store_.SettleHashes();
   newTokens_.clear();
@@ -81,6 +76,7 @@ void TokenTaker::ForgetNewTokens() {
 void TokenTaker::ForgetTokensOfOldStore() {
   const bool full = memo_.IsCrowded() || longMemo_.IsCrowded() || several_.size() > kMostOfSeveral;
   if (memoGeneration_ == store_.Generation() && !full) return;
+  store_.BringCounts();
   memo_.Clear();
   longMemo_.Clear();
   several_.clear();
@@ -93,78 +89,108 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
   // In steps, so that the memory has time to bring what the next step needs.
   Batch batch;  // NOLINT(cppcoreguidelines-pro-type-member-init): see there
   FindKeys(block, first, count, batch);
-  FindShort(first, batch);
-  if (batch.longKeyCount > 0) FindLong(first, batch);
-  AddChecked(wordsRead_, batch.words);
-  store_.CountWordsAt(std::span(batch.places).first(batch.placeCount));
   const bool orderMatters = store_.OrderListener() != nullptr;
-  if (orderMatters) NoteOutcomes(block, first, count);
-  for (NewToken& token : newTokens_) {
-    const LineBlock::Token found = block.TokenAt(token.number);
-    WorkOutToken({found.text, found.bytes});
-    token.wordsEnd = newWords_.size();
+  if (!orderMatters && MayKeep(count)) {
+    store_.KeepCounts(*this, count);
+    KeepKnown(block, first, memo_, batch.shortOnes);
+    KeepKnown(block, first, longMemo_, batch.longOnes);
+  } else {
+    CountKnown(block, first, memo_, batch.shortOnes);
+    CountKnown(block, first, longMemo_, batch.longOnes);
   }
-  if (!newTokens_.empty()) AddNewWords();
+  if (orderMatters) NoteOutcomes(block, first, count);
+  if (!newTokens_.empty()) TakeNewTokens();
   if (orderMatters) TellOrder(first);
 }
 
+/// Whether nothing can overflow within so many words.
+bool TokenTaker::MayKeep(std::size_t words) const {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  return wordsRead_ <= kMost - static_cast<std::int32_t>(words) && store_.MayBeKept(words);
+}
+
 void TokenTaker::FindKeys(const LineBlock& block, std::size_t first, std::size_t count,
-                          Batch& batch) const {
+                          Batch& batch) {
+  const TokenMemo::Finder finder(memo_);
+  std::size_t shortCount = 0;
+  std::size_t longCount = 0;
   for (std::size_t i = 0; i < count; ++i) {
     const LineBlock::Token token = block.TokenAt(first + i);
     if (token.bytes <= TokenMemo::kMostBytes) {
-      const TokenMemo::Key key = memo_.KeyOf(token.text, token.bytes, token.readable);
-      memo_.Prefetch(key);
-      batch.keys[batch.keyCount] = key;
-      batch.numbers[batch.keyCount++] = static_cast<std::uint8_t>(i);
+      const TokenMemo::Key key = finder.KeyOf(token.text, token.bytes, token.readable);
+      finder.Prefetch(key);
+      batch.shortOnes.keys[shortCount] = key;
+      batch.shortOnes.numbers[shortCount++] = static_cast<std::uint16_t>(i);
     } else {
-      const LongTokenMemo::Key key = longMemo_.KeyOf(token.text, token.bytes);
-      longMemo_.Prefetch(key);
-      batch.longKeys[batch.longKeyCount] = key;
-      batch.longNumbers[batch.longKeyCount++] = static_cast<std::uint8_t>(i);
+      batch.longOnes.numbers[longCount++] = static_cast<std::uint16_t>(i);
     }
+  }
+  batch.shortOnes.count = shortCount;
+  batch.longOnes.count = longCount;
+  const LongTokenMemo::Finder longFinder(longMemo_);
+  for (std::size_t i = 0; i < longCount; ++i) {
+    const LineBlock::Token token = block.TokenAt(first + batch.longOnes.numbers[i]);
+    batch.longOnes.keys[i] = longFinder.KeyOf(token.text, token.bytes);
+    longFinder.Prefetch(batch.longOnes.keys[i]);
   }
 }
 
-void TokenTaker::FindShort(std::size_t first, Batch& batch) {
-  for (std::size_t i = 0; i < batch.keyCount; ++i) {
-    const TokenOutcome outcome = memo_.Find(batch.keys[i]);
-    batch.places[batch.placeCount] = outcome;
-    batch.placeCount += static_cast<std::size_t>(IsPlace(outcome));
-    batch.words += static_cast<std::int32_t>(outcome <= kWordNotStored);
+/// Counts the tokens that the memo knows in the memo, and notes those that are new.
+template <typename Memo>
+void TokenTaker::KeepKnown(const LineBlock& block, std::size_t first, Memo& memo,
+                           const Keys<Memo>& keys) {
+  const typename Memo::Finder finder(memo);
+  auto words = static_cast<std::int32_t>(keys.count);
+  for (std::size_t i = 0; i < keys.count; ++i) {
+    typename Memo::Entry* const entry = finder.Find(keys.keys[i]);
+    if (entry != nullptr && ++entry->kept > 0) [[likely]]
+      continue;
+    --words;
+    if (entry == nullptr) {
+      const std::size_t number = first + keys.numbers[i];
+      newTokens_.push_back({number, block.TokenAt(number), 0});
+      continue;
+    }
+    entry->kept = MemoEntry::kNeverKept;
+    const TokenOutcome outcome = memo.OutcomeOf(*entry);
+    if (IsSeveral(outcome)) TakeSeveral(outcome);
+  }
+  AddChecked(wordsRead_, words);
+}
+
+/// Counts the tokens that the memo knows in the store, and notes those that are new.
+template <typename Memo>
+void TokenTaker::CountKnown(const LineBlock& block, std::size_t first, Memo& memo,
+                            const Keys<Memo>& keys) {
+  std::array<std::uint32_t, kTokensAtOnce> places;  // NOLINT(*-member-init): written first
+  std::size_t placeCount = 0;
+  std::int32_t words = 0;
+  for (std::size_t i = 0; i < keys.count; ++i) {
+    const TokenOutcome outcome = memo.Find(keys.keys[i]);
+    places[placeCount] = outcome;
+    placeCount += static_cast<std::size_t>(IsPlace(outcome));
+    words += static_cast<std::int32_t>(IsOneWord(outcome));
     if (outcome < kUnknownToken) continue;
     if (IsSeveral(outcome)) {
       TakeSeveral(outcome);
     } else {
-      newTokens_.push_back({first + batch.numbers[i], batch.keys[i], kNoLongKey, 0});
+      const std::size_t number = first + keys.numbers[i];
+      newTokens_.push_back({number, block.TokenAt(number), 0});
     }
   }
+  AddChecked(wordsRead_, words);
+  store_.CountWordsAt(std::span(places).first(placeCount));
 }
 
-void TokenTaker::FindLong(std::size_t first, Batch& batch) {
-  const std::size_t shortOnes = newTokens_.size();
-  for (std::size_t i = 0; i < batch.longKeyCount; ++i) {
-    const TokenOutcome outcome = longMemo_.Find(batch.longKeys[i]);
-    batch.places[batch.placeCount] = outcome;
-    batch.placeCount += static_cast<std::size_t>(IsPlace(outcome));
-    batch.words += static_cast<std::int32_t>(outcome <= kWordNotStored);
-    if (outcome < kUnknownToken) continue;
-    if (IsSeveral(outcome)) {
-      TakeSeveral(outcome);
-    } else {
-      const std::size_t number = first + batch.longNumbers[i];
-      newTokens_.push_back({number, TokenMemo::NoKey(), batch.longKeys[i], 0});
-    }
-  }
-  // New words are new in the order of the text.
-  const auto middle = newTokens_.begin() + static_cast<std::ptrdiff_t>(shortOnes);
-  const auto isBefore = [](const NewToken& left, const NewToken& right) {
-    return left.number < right.number;
+void TokenTaker::BringCounts() noexcept {
+  const auto bring = [this](TokenOutcome outcome, std::int32_t times) {
+    if (IsPlace(outcome)) store_.AddKept(outcome, times);
   };
-  std::inplace_merge(newTokens_.begin(), middle, newTokens_.end(), isBefore);
+  memo_.TakeKept(bring);
+  longMemo_.TakeKept(bring);
 }
 
-TokenOutcome TokenTaker::OutcomeOf(const LineBlock::Token& token) const {
+TokenOutcome TokenTaker::OutcomeOf(const LineBlock::Token& token) {
   if (token.bytes > TokenMemo::kMostBytes) {
     return longMemo_.Find(longMemo_.KeyOf(token.text, token.bytes));
   }
@@ -295,6 +321,18 @@ KeyedWord TokenTaker::Keyed(const NewWord& word) const {
           letters.substr(word.keyStart, word.keyBytes), word.hash};
 }
 
+/// Of a block. New words are new in the order of the text.
+void TokenTaker::TakeNewTokens() {
+  if (!std::ranges::is_sorted(newTokens_, {}, &NewToken::number)) {
+    std::ranges::sort(newTokens_, {}, &NewToken::number);
+  }
+  for (NewToken& token : newTokens_) {
+    WorkOutToken({token.token.text, token.token.bytes});
+    token.wordsEnd = newWords_.size();
+  }
+  AddNewWords();
+}
+
 void TokenTaker::AddNewWords() {
   AddChecked(wordsRead_, static_cast<std::int32_t>(newWords_.size()));
   for (const NewWord& word : newWords_) {
@@ -313,19 +351,26 @@ void TokenTaker::AddNewWords() {
 
 /// What a token is worth that consists of these words, which have been added.
 void TokenTaker::RememberToken(const NewToken& token, std::span<const NewWord> words) {
-  const bool isShort = token.key.low != 0;
-  if (!isShort && token.longKey.hash == 0) return;
-  // It may stand in the block twice.
-  const TokenOutcome known = isShort ? memo_.Find(token.key) : longMemo_.Find(token.longKey);
-  if (known != kUnknownToken) return;
+  const auto& [text, bytes, readable] = token.token;
+  if (bytes > TokenMemo::kMostBytes) {
+    RememberIn(longMemo_, longMemo_.KeyOf(text, bytes), bytes, words);
+  } else {
+    RememberIn(memo_, memo_.KeyOf(text, bytes, readable), bytes, words);
+  }
+}
+
+template <typename Memo, typename Key>
+void TokenTaker::RememberIn(Memo& memo, Key key, std::size_t bytes,
+                            std::span<const NewWord> words) {
+  if (memo.Find(key) != kUnknownToken) return;  // it may stand in the block twice
   TokenOutcome outcome = kNoWord;
   if (words.size() == 1) outcome = words[0].outcome;
   if (words.size() > 1) outcome = KeepSeveral(words);
-  if (isShort) {
-    memo_.Remember(token.key, outcome);
-  } else {
-    longMemo_.Remember(token.longKey, outcome);
+  if (memo.IsFullFor(bytes)) {
+    store_.BringCounts();
+    memo.Forget();
   }
+  memo.Remember(key, outcome);
 }
 
 std::string_view PrepareLine(std::string_view line, bool caseSignificant, std::string& buffer,

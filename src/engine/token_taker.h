@@ -2,7 +2,8 @@
 // is to be counted, and counts it in the store.
 //
 // What becomes of a token depends on the token and the settings alone, so it is worked out once and
-// remembered; the next token like it costs one look-up.
+// remembered; the next token like it costs one look-up. How often it is met is kept there, too,
+// until somebody looks at the store.
 #pragma once
 
 #include <array>
@@ -14,17 +15,19 @@
 #include <vector>
 
 #include "engine/char_class.h"
+#include "engine/count_keeper.h"
 #include "engine/line_block.h"
 #include "engine/long_token_memo.h"
 #include "engine/run_cutter.h"
 #include "engine/scan_settings.h"
 #include "engine/token_memo.h"
+#include "engine/token_outcome.h"
 #include "engine/word_list.h"
 #include "engine/word_store.h"
 
 namespace quillomat {
 
-class TokenTaker {
+class TokenTaker final : private CountKeeper {
  public:
   /// As many tokens as are looked up together.
   static constexpr std::size_t kTokensAtOnce = 64;
@@ -40,6 +43,11 @@ class TokenTaker {
         cutter_(charClass, choices.letters, choices.makeSegmenter),
         keyRule_(choices.Keys()),
         memoGeneration_(store.Generation()) {}
+  TokenTaker(const TokenTaker&) = delete;
+  TokenTaker& operator=(const TokenTaker&) = delete;
+  TokenTaker(TokenTaker&&) = delete;
+  TokenTaker& operator=(TokenTaker&&) = delete;
+  ~TokenTaker() override { store_.ReleaseKeeper(*this); }
 
   /// Takes a run of word characters that starts as words may start, out of a text that was
   /// lower-cased and rewritten as the settings want it.
@@ -71,35 +79,33 @@ class TokenTaker {
   /// A token that is met for the first time, and where its words end in newWords_.
   struct NewToken {
     std::size_t number = 0;
-    /// One of them is a key; the other is that of no token.
-    TokenMemo::Key key{};
-    LongTokenMemo::Key longKey{};
+    LineBlock::Token token{};
     std::size_t wordsEnd = 0;
   };
-  /// Tokens of a block as they are looked up: the short ones together, and the long ones. The keys
-  /// are written before they are read, and are not worth a kilobyte of zeros.
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+  /// Tokens of a block that one memo may know, and which of a batch they are. They are written
+  /// before they are read, and are not worth a kilobyte of zeros.
+  template <typename Memo>
+  struct Keys {  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::array<typename Memo::Key, kTokensAtOnce> keys;
+    /// No bytes, which could be a part of anything that the loops have at hand.
+    std::array<std::uint16_t, kTokensAtOnce> numbers;
+    std::size_t count = 0;
+  };
+  /// Tokens of a block as they are looked up: the short ones together, and the long ones.
   struct Batch {
-    std::array<TokenMemo::Key, kTokensAtOnce> keys;
-    std::array<LongTokenMemo::Key, kTokensAtOnce> longKeys;
-    /// Which tokens they are.
-    std::array<std::uint8_t, kTokensAtOnce> numbers;
-    std::array<std::uint8_t, kTokensAtOnce> longNumbers;
-    std::size_t keyCount = 0;
-    std::size_t longKeyCount = 0;
-    /// What is to be counted.
-    std::array<std::uint32_t, kTokensAtOnce> places;
-    std::size_t placeCount = 0;
-    std::int32_t words = 0;
+    Keys<TokenMemo> shortOnes;
+    Keys<LongTokenMemo> longOnes;
   };
 
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
-  /// `readable` bytes can be read at the token.
-  [[nodiscard]] TokenMemo::Key KeyOf(std::string_view token, std::size_t readable) const;
-  [[nodiscard]] TokenOutcome OutcomeOf(const LineBlock::Token& token) const;
-  void FindKeys(const LineBlock& block, std::size_t first, std::size_t count, Batch& batch) const;
-  void FindShort(std::size_t first, Batch& batch);
-  void FindLong(std::size_t first, Batch& batch);
+  [[nodiscard]] TokenOutcome OutcomeOf(const LineBlock::Token& token);
+  void FindKeys(const LineBlock& block, std::size_t first, std::size_t count, Batch& batch);
+  [[nodiscard]] bool MayKeep(std::size_t words) const;
+  template <typename Memo>
+  void KeepKnown(const LineBlock& block, std::size_t first, Memo& memo, const Keys<Memo>& keys);
+  template <typename Memo>
+  void CountKnown(const LineBlock& block, std::size_t first, Memo& memo, const Keys<Memo>& keys);
+  void BringCounts() noexcept override;
   void TakeSeveral(TokenOutcome several);
   [[nodiscard]] std::span<const TokenOutcome> OutcomesOfSeveral(TokenOutcome several) const;
   [[nodiscard]] TokenOutcome KeepSeveral(std::span<const NewWord> words);
@@ -110,8 +116,11 @@ class TokenTaker {
   [[nodiscard]] bool WorkOutPlainToken(std::string_view token);
   void NoteNewWord(std::string_view word);
   [[nodiscard]] KeyedWord Keyed(const NewWord& word) const;
+  void TakeNewTokens();
   void AddNewWords();
   void RememberToken(const NewToken& token, std::span<const NewWord> words);
+  template <typename Memo, typename Key>
+  void RememberIn(Memo& memo, Key key, std::size_t bytes, std::span<const NewWord> words);
   void ForgetTokensOfOldStore();
   void NoteOutcomes(const LineBlock& block, std::size_t first, std::size_t count);
   void TellOrder(std::size_t first);

@@ -279,6 +279,7 @@ constexpr Kernel kKernels[] = {
 #endif
 #if (HWY_TARGETS & HWY_AVX3) != 0
     {"avx3", N_AVX3::IsWellFormed, N_AVX3::MarkSuspects, N_AVX3::CountCommonForeign},
+    {"vbmi2", N_AVX3::IsWellFormed, N_AVX3::MarkSuspects, N_AVX3::CountCommonForeign},
 #endif
 #endif
 };

@@ -29,6 +29,7 @@ bool IsLongWord(std::string_view word) {
 }
 
 void WordStore::Clear() {
+  keeper_.Drop();
   ++generation_;
   letters_.Clear();
   counts_.clear();
@@ -70,6 +71,7 @@ std::uint32_t WordStore::AddKeyedWord(const KeyedWord& word) {
 }
 
 void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
+  BringCounts();  // the counts may overflow now
   if (notesCounted_ && counts_[place] == 0) counted_.push_back(place);
   AddChecked(counts_[place], times);
   occurrences_ += times;
@@ -87,7 +89,7 @@ void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
 }
 
 void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {
-  if (files_.IsOn() || !HasRoomFor(places.size())) {
+  if (files_.IsOn() || !HasRoomFor(static_cast<std::int64_t>(places.size()))) {
     for (const std::uint32_t place : places) CountWordAt(place);
     return;
   }
@@ -104,6 +106,7 @@ void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {
 }
 
 std::vector<WordStore::CountedWord> WordStore::TakeCountedWords() {
+  BringCounts();
   std::vector<CountedWord> taken;
   if (notesCounted_) {
     taken.reserve(counted_.size());

@@ -20,6 +20,7 @@
 
 #include "base/checked_count.h"
 #include "engine/chunked_vector.h"
+#include "engine/count_keeper.h"
 #include "engine/file_tally.h"
 #include "engine/letter_arena.h"
 #include "engine/letter_rule.h"
@@ -125,15 +126,39 @@ class WordStore {
   /// Counts occurrences of the word that AddWord has put at `place`; throws as AddWord does. Places
   /// change when the words are sorted or cleared, and then Generation() changes.
   void CountWordAt(std::uint32_t place, std::int32_t times = 1) {
-    if (files_.IsOn() || notesCounted_) return CountWordWithNotes(place, times);
-    AddChecked(counts_[place], times);
+    if (files_.IsOn() || notesCounted_ || !HasRoomFor(times)) {
+      return CountWordWithNotes(place, times);
+    }
+    counts_[place] += times;
     occurrences_ += times;
   }
   /// One occurrence of each.
   void CountWordsAt(std::span<const std::uint32_t> places) {
-    if (files_.IsOn() || notesCounted_ || !HasRoomFor(places.size())) return CountWithNotes(places);
+    const auto times = static_cast<std::int64_t>(places.size());
+    if (files_.IsOn() || notesCounted_ || !HasRoomFor(times)) return CountWithNotes(places);
     for (const std::uint32_t place : places) ++counts_[place];
-    occurrences_ += static_cast<std::int64_t>(places.size());
+    occurrences_ += times;
+  }
+
+  // Who scans a text may keep counts for a while: the store asks for them before they matter.
+
+  /// Whether `times` more occurrences may be kept: nobody wants to know them one by one.
+  [[nodiscard]] bool MayBeKept(std::size_t times) const {
+    return !files_.IsOn() && !notesCounted_ && !sorted_ &&
+           HasRoomFor(static_cast<std::int64_t>(times));
+  }
+  /// Notes that `keeper` keeps so many more, of which some may turn out to be of no word of the
+  /// store. It outlives them, or calls ReleaseKeeper before it ends.
+  void KeepCounts(CountKeeper& keeper, std::size_t times) {
+    keeper_.Set(keeper);
+    occurrences_ += static_cast<std::int64_t>(times);
+  }
+  /// For the keeper that brings what it has kept of the word at `place`.
+  void AddKept(std::uint32_t place, std::int32_t times) { counts_[place] += times; }
+  /// Has what is kept brought, if anything is.
+  void BringCounts() const { keeper_.BringCounts(); }
+  void ReleaseKeeper(const CountKeeper& keeper) {
+    if (keeper_.Is(keeper)) BringCounts();
   }
   [[nodiscard]] std::uint64_t Generation() const { return generation_; }
 
@@ -207,9 +232,8 @@ class WordStore {
   };
 
   /// Whether no count can overflow within the next `times` occurrences.
-  [[nodiscard]] bool HasRoomFor(std::size_t times) const {
-    return occurrences_ + static_cast<std::int64_t>(times) <=
-           std::numeric_limits<std::int32_t>::max();
+  [[nodiscard]] bool HasRoomFor(std::int64_t times) const {
+    return occurrences_ + times <= std::numeric_limits<std::int32_t>::max();
   }
   void CountWordWithNotes(std::uint32_t place, std::int32_t times);
   void CountWithNotes(std::span<const std::uint32_t> places);
@@ -224,6 +248,8 @@ class WordStore {
   [[nodiscard]] std::vector<SortEntry> SortedEntries() const;
   void ArrangeWords(std::span<const SortEntry> order) const;
 
+  /// In front of what it brings counts to.
+  mutable CountKeeperLink keeper_;
   FileTracker files_;
   NewWordListener* listener_ = nullptr;
   KeyRule keyRule_;
@@ -246,7 +272,7 @@ class WordStore {
   std::size_t seedChanges_ = 0;
   mutable bool sorted_ = true;
   mutable std::uint64_t generation_ = 0;
-  /// Of all words together: no count is higher.
+  /// Of all words together, with those that are kept: no count is higher.
   std::int64_t occurrences_ = 0;
   bool notesCounted_ = false;
   /// The places of words whose count is not 0, if it notes them.

@@ -58,6 +58,7 @@ constexpr std::size_t kFetchedAhead = 16;
 }  // namespace
 
 void WordStore::SortRecords() const {
+  BringCounts();
   ++generation_;
   slots_ = {};
   ArrangeWords(SortedEntries());

@@ -4,13 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "engine/token_memo.h"
 #include "support/colliding_words.h"
 #include "support/engine_fixture.h"
 
 namespace quillomat {
 namespace {
 
-LongTokenMemo::Key LongKeyOf(const LongTokenMemo& memo, std::string_view token) {
+LongTokenMemo::Key LongKeyOf(LongTokenMemo& memo, std::string_view token) {
   return memo.KeyOf(token.data(), token.size());
 }
 
@@ -40,18 +41,20 @@ TEST(LongTokenMemo, TokenThatIsTooLongIsNotRemembered) {
   EXPECT_EQ(memo.Find(LongKeyOf(memo, token)), kUnknownToken);
 }
 
-TEST(LongTokenMemo, GrowsAndStartsAnewWhenItIsFull) {
+TEST(LongTokenMemo, GrowsUntilItIsFullAndStartsAnewOnceItHasForgotten) {
   for (const std::size_t bytes : {std::size_t{13}, LongTokenMemo::kMostBytes}) {
     LongTokenMemo memo;
     TokenOutcome next = 0;
-    while (next == 0 || memo.Find(LongKeyOf(memo, LongToken(0, bytes))) == 0) {
-      ASSERT_LE(next, LongTokenMemo::kMostTokens);
+    while (!memo.IsFullFor(bytes)) {
+      ASSERT_LT(next, LongTokenMemo::kMostTokens);
       memo.Remember(LongKeyOf(memo, LongToken(next, bytes)), next);
       ASSERT_EQ(memo.Find(LongKeyOf(memo, LongToken(next, bytes))), next);
       ++next;
     }
+    EXPECT_EQ(memo.Find(LongKeyOf(memo, LongToken(0, bytes))), 0U);
     EXPECT_GT(next, 16'000U);
-    memo.Clear();
+    memo.Forget();
+    EXPECT_FALSE(memo.IsFullFor(bytes));
     EXPECT_EQ(memo.Find(LongKeyOf(memo, LongToken(next - 1, bytes))), kUnknownToken);
   }
 }

@@ -1,18 +1,19 @@
 #include "engine/token_memo.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <string>
 
 namespace quillomat {
 namespace {
 
 /// As a token stands in a text, with other bytes behind it.
-TokenMemo::Key InText(const TokenMemo& memo, const std::string& token, char behind) {
+TokenMemo::Key InText(TokenMemo& memo, const std::string& token, char behind) {
   const std::string text = token + std::string(TokenMemo::kMostBytes, behind);
   return memo.KeyOf(text.data(), token.size(), text.size());
 }
 
-TokenMemo::Key AtTheEnd(const TokenMemo& memo, const std::string& token) {
+TokenMemo::Key AtTheEnd(TokenMemo& memo, const std::string& token) {
   return memo.KeyOf(token.data(), token.size(), token.size());
 }
 
@@ -26,14 +27,6 @@ TEST(TokenMemo, RemembersTokensOfEverySize) {
     EXPECT_EQ(memo.Find(InText(memo, token, 'q')), size);
     EXPECT_EQ(memo.Find(AtTheEnd(memo, token)), size);
   }
-}
-
-TEST(TokenMemo, NoKeyIsNeverFound) {
-  TokenMemo memo;
-  EXPECT_EQ(memo.Find(TokenMemo::NoKey()), kUnknownToken);
-  for (std::uint32_t i = 0; i < 2'000; ++i)
-    memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i);
-  EXPECT_EQ(memo.Find(TokenMemo::NoKey()), kUnknownToken);
 }
 
 TEST(TokenMemo, KeepsEveryKindOfOutcome) {
@@ -56,14 +49,55 @@ TEST(TokenMemo, GrowsAndKeepsWhatItHas) {
   }
 }
 
-TEST(TokenMemo, StartsAnewWhenItIsFull) {
+TEST(TokenMemo, IsFullAtSoManyTokensAndStartsAnewOnceItHasForgotten) {
   TokenMemo memo;
-  for (std::uint32_t i = 0; i <= TokenMemo::kMostTokens; ++i) {
+  for (std::uint32_t i = 0; i < TokenMemo::kMostTokens; ++i) {
+    ASSERT_FALSE(memo.IsFullFor(1));
     memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i);
   }
+  EXPECT_TRUE(memo.IsFullFor(1));
+  memo.Forget();
+  EXPECT_FALSE(memo.IsFullFor(1));
   EXPECT_EQ(memo.Find(AtTheEnd(memo, "t0")), kUnknownToken);
-  EXPECT_EQ(memo.Find(AtTheEnd(memo, "t" + std::to_string(TokenMemo::kMostTokens))),
-            TokenMemo::kMostTokens);
+  memo.Remember(AtTheEnd(memo, "t0"), 7);
+  EXPECT_EQ(memo.Find(AtTheEnd(memo, "t0")), 7U);
+}
+
+/// Meets a token that the memo knows.
+std::int32_t Meet(TokenMemo& memo, const std::string& token) {
+  return ++TokenMemo::Finder(memo).Find(AtTheEnd(memo, token))->kept;
+}
+
+std::map<TokenOutcome, std::int32_t> TakeKeptOf(TokenMemo& memo) {
+  std::map<TokenOutcome, std::int32_t> kept;
+  memo.TakeKept([&](TokenOutcome outcome, std::int32_t times) { kept[outcome] += times; });
+  return kept;
+}
+
+TEST(TokenMemo, KeepsCountsUntilTheyAreTakenAlsoWhileItGrows) {
+  TokenMemo memo;
+  memo.Remember(AtTheEnd(memo, "a"), 1);
+  memo.Remember(AtTheEnd(memo, "b"), 2);
+  EXPECT_EQ(Meet(memo, "a"), 1);
+  EXPECT_EQ(Meet(memo, "a"), 2);
+  for (std::uint32_t i = 10; i < 5'000; ++i) {
+    memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i);
+  }
+  EXPECT_EQ(Meet(memo, "b"), 1);
+  EXPECT_EQ(TakeKeptOf(memo), (std::map<TokenOutcome, std::int32_t>{{1, 2}, {2, 1}}));
+  EXPECT_TRUE(TakeKeptOf(memo).empty());
+  EXPECT_EQ(Meet(memo, "a"), 1);
+}
+
+TEST(TokenMemo, KeepsNoCountsOfWhatIsNotOneWord) {
+  TokenMemo memo;
+  memo.Remember(AtTheEnd(memo, "-"), kNoWord);
+  memo.Remember(AtTheEnd(memo, "a--b"), kFirstOfSeveral);
+  memo.Remember(AtTheEnd(memo, "the"), kWordNotStored);
+  EXPECT_LT(Meet(memo, "-"), 0);
+  EXPECT_LT(Meet(memo, "a--b"), 0);
+  EXPECT_EQ(Meet(memo, "the"), 1);
+  EXPECT_EQ(TakeKeptOf(memo), (std::map<TokenOutcome, std::int32_t>{{kWordNotStored, 1}}));
 }
 
 TEST(TokenMemo, ForgetsWhenItIsCleared) {

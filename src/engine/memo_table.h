@@ -1,0 +1,140 @@
+// The table of a memo of tokens (token_memo.h, long_token_memo.h): what each token is worth, and
+// how often it was met since its count was last brought to the store.
+//
+// To count where a token is looked up costs half of what it costs to find out which word it is and
+// to count that: the entry is at hand, and a text has few different tokens.
+//
+// Tokens that meet in one place make the table crowded; once cleared, it goes by another seed.
+#pragma once
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "engine/token_outcome.h"
+#include "engine/word_hash.h"
+
+namespace quillomat {
+
+/// An Entry has the members of MemoEntry, and IsFree() says whether no token has it.
+struct MemoEntry {
+  /// Occurrences that the store does not know of; for a token that is not one word always
+  /// kNeverKept, so that one comparison tells.
+  std::int32_t kept = 0;
+
+  static constexpr std::int32_t kNeverKept = std::numeric_limits<std::int32_t>::min();
+};
+
+template <typename Entry>
+class MemoTable {
+ public:
+  static constexpr std::size_t kMostTokens =
+      32'768;  // half of the entries, so that few share their place
+
+  explicit MemoTable(const HashSeed& seed)
+      : seed_(seed), entries_(kFirstEntries), outcomes_(kFirstEntries, kUnknownToken) {}
+
+  /// Forgets all tokens and their counts.
+  void Forget() {
+    std::ranges::fill(entries_, Entry());
+    tokens_ = 0;
+  }
+  /// The same, and takes another seed if the table is crowded.
+  void Clear() {
+    Forget();
+    if (crowded_) seed_ = HashSeedAfter(seed_);
+    crowded_ = false;
+  }
+
+  /// Whether a token lies so far from its place that the table should be cleared, for which it is
+  /// ready as soon as no key is in use that was made before.
+  [[nodiscard]] bool IsCrowded() const { return crowded_; }
+  /// Whether it must forget before it can take a token.
+  [[nodiscard]] bool IsFull() const { return tokens_ == kMostTokens; }
+
+  [[nodiscard]] const HashSeed& Seed() const { return seed_; }
+
+  /// Where to look for a token, for many look-ups: good until the table changes.
+  struct Places {
+    Entry* entries;
+    std::size_t mask;
+    unsigned shift;
+
+    [[nodiscard]] std::size_t HomeOf(std::uint64_t hash) const { return hash >> shift; }
+    void Prefetch(std::size_t home) const { __builtin_prefetch(entries + home, 1); }
+    /// The entry of a token for which `isWanted` is true; null when there is none.
+    template <typename IsWanted>
+    [[nodiscard]] Entry* Find(std::size_t home, IsWanted isWanted) const {
+      for (std::size_t i = home;; i = (i + 1) & mask) {
+        if (isWanted(entries[i])) return entries + i;
+        if (entries[i].IsFree()) return nullptr;
+      }
+    }
+  };
+  [[nodiscard]] Places AllPlaces() { return {entries_.data(), entries_.size() - 1, shift_}; }
+
+  [[nodiscard]] TokenOutcome OutcomeOf(const Entry& entry) const {
+    return outcomes_[static_cast<std::size_t>(&entry - entries_.data())];
+  }
+
+  /// Of a token that is not in the table, which is not full. `hashOf` gives the hash of an entry.
+  template <typename HashOf>
+  void Remember(Entry entry, TokenOutcome outcome, HashOf hashOf) {
+    if (tokens_ * 2 >= entries_.size() && entries_.size() < kMostEntries) Grow(hashOf);
+    entry.kept = IsOneWord(outcome) ? 0 : MemoEntry::kNeverKept;
+    Put(entry, outcome, hashOf(entry));
+    ++tokens_;
+  }
+
+  /// Gives `take` what the tokens with counts are worth, and the counts, which begin anew.
+  template <typename Take>
+  void TakeKept(Take take) {
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+      if (entries_[i].kept > 0) take(outcomes_[i], std::exchange(entries_[i].kept, 0));
+    }
+  }
+
+ private:
+  static constexpr std::size_t kFirstEntries = 64;  // a power of two, as every number of entries
+  static constexpr std::size_t kMostEntries = 2 * kMostTokens;
+  static constexpr unsigned kAllHashBits = 64;
+  /// No half-filled table of chance comes near it.
+  static constexpr std::size_t kFarthest = 256;
+
+  template <typename HashOf>
+  void Grow(HashOf hashOf) {
+    // Where there is no memory for it, all stays.
+    std::vector<Entry> entries(2 * entries_.size());
+    std::vector<TokenOutcome> outcomes(entries.size(), kUnknownToken);
+    entries.swap(entries_);
+    outcomes.swap(outcomes_);
+    --shift_;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (!entries[i].IsFree()) Put(entries[i], outcomes[i], hashOf(entries[i]));
+    }
+  }
+
+  void Put(const Entry& entry, TokenOutcome outcome, std::uint64_t hash) {
+    const std::size_t mask = entries_.size() - 1;
+    const std::size_t home = hash >> shift_;
+    std::size_t i = home;
+    while (!entries_[i].IsFree()) i = (i + 1) & mask;
+    entries_[i] = entry;
+    outcomes_[i] = outcome;
+    if (((i - home) & mask) > kFarthest) crowded_ = true;
+  }
+
+  HashSeed seed_;
+  bool crowded_ = false;
+  std::vector<Entry> entries_;
+  /// By entry, apart from it since they are seldom asked for.
+  std::vector<TokenOutcome> outcomes_;
+  unsigned shift_ = kAllHashBits - static_cast<unsigned>(std::countr_zero(kFirstEntries));
+  std::size_t tokens_ = 0;
+};
+
+}  // namespace quillomat
