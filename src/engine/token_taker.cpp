@@ -188,7 +188,7 @@ void TokenTaker::KeepKnown(const LineBlock& block, std::size_t first, Memo& memo
 template <typename Memo>
 void TokenTaker::CountKnown(const LineBlock& block, std::size_t first, Memo& memo,
                             const Keys<Memo>& keys) {
-  std::array<std::uint32_t, kTokensAtOnce> places;
+  std::array<std::uint32_t, kTokensAtOnce> places;  // NOLINT(*-member-init): written first
   std::size_t placeCount = 0;
   std::int32_t words = 0;
   for (std::size_t i = 0; i < keys.count; ++i) {

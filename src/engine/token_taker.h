@@ -81,9 +81,8 @@ class TokenTaker final : private CountKeeper {
   };
   /// Tokens of a block that one memo may know, and which of a batch they are. They are written
   /// before they are read, and are not worth a kilobyte of zeros.
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
   template <typename Memo>
-  struct Keys {
+  struct Keys {  // NOLINT(cppcoreguidelines-pro-type-member-init)
     std::array<typename Memo::Key, kTokensAtOnce> keys;
     /// No bytes, which could be a part of anything that the loops have at hand.
     std::array<std::uint16_t, kTokensAtOnce> numbers;
