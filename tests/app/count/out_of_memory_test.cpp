@@ -1,12 +1,15 @@
 // What a user is told when there is not enough memory: every allocation of this program goes
 // through the operators below, which a test can make refuse the large ones.
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <new>
 
 #include "support/program_fixture.h"
@@ -24,10 +27,37 @@ void* Allocate(std::size_t bytes) {
   return memory;
 }
 
+/// In front of it stands where its memory starts.
+void* AllocateAligned(std::size_t bytes, std::align_val_t alignment) {
+  const auto align = static_cast<std::size_t>(alignment);
+  std::size_t room = bytes + align;
+  void* const memory = Allocate(sizeof(void*) + room);
+  void* block = static_cast<std::byte*>(memory) + sizeof(void*);
+  block = std::align(align, bytes, block, room);
+  std::memcpy(static_cast<std::byte*>(block) - sizeof(void*), &memory, sizeof(void*));
+  return block;
+}
+
+void FreeAligned(void* block) {
+  if (block == nullptr) return;
+  void* memory = nullptr;
+  std::memcpy(&memory, static_cast<std::byte*>(block) - sizeof(void*), sizeof(void*));
+  std::free(memory);
+}
+
 }  // namespace
 
 void* operator new(std::size_t bytes) {
   return Allocate(bytes);
+}
+void* operator new(std::size_t bytes, std::align_val_t alignment) {
+  return AllocateAligned(bytes, alignment);
+}
+void operator delete(void* block, std::align_val_t /*alignment*/) noexcept {
+  FreeAligned(block);
+}
+void operator delete(void* block, std::size_t /*bytes*/, std::align_val_t /*alignment*/) noexcept {
+  FreeAligned(block);
 }
 void* operator new[](std::size_t bytes) {
   return Allocate(bytes);
