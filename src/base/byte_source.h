@@ -20,7 +20,8 @@ class ByteSource {
   virtual ~ByteSource() = default;
 
   /// Fills the front of `buffer` and returns how many bytes it holds now; 0 only at the end (or for
-  /// an empty buffer). Throws RunTimeError when the bytes cannot be had.
+  /// an empty buffer), which stays the end, however often it is asked for. Throws RunTimeError when
+  /// the bytes cannot be had.
   virtual std::size_t Read(std::span<char> buffer) = 0;
 
   /// Whether a Read would not wait: there are bytes, or there will be none. Waits for that, but no

@@ -6,7 +6,8 @@
 // a byte that cannot be UTF-8, or the end of the line, decides which of the two is counted.
 //
 // Memory grows with the bytes only while there is no place for a cut (see LineCutter): where 64 KB
-// hold no separator at all and are not one plain run of letters either. If the store has a listener
+// hold no separator at all and are not one plain run of letters either; what is held must stay
+// below 2^32 bytes (see token_classes.h). If the store has a listener
 // to the order of words, every word from the first byte above 127 on takes eight bytes more, until
 // it is decided which way is counted.
 #pragma once

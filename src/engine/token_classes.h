@@ -49,7 +49,7 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
                             std::span<std::uint64_t> masks);
 
-/// The tokens of a text.
+/// The tokens of a text, which has less than 2^32 bytes.
 class TokenEdges {
  public:
   /// Looks at the bytes of a text and forgets the text before.

@@ -156,6 +156,10 @@ class WordStore {
     return static_cast<std::int32_t>(letters_.Size());
   }
 
+  // By alphabetical places. The first question after a word was added sorts the words, even in a
+  // store that is constant: several threads may ask only once one of them has. PrefetchAt alone
+  // sorts nothing, and fetches others while the words are not sorted.
+
   /// The record at alphabetical place `index`, 1 to NumDifferentWords().
   [[nodiscard]] WordRec At(std::int32_t index) const {
     if (!sorted_) SortRecords();

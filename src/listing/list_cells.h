@@ -20,6 +20,7 @@ namespace quillomat {
 using CellSource = std::function<std::span<const CellSpan>(std::string_view line)>;
 
 /// The cells of lines, by the lines' text. Lines of one list that read the same have the same ones.
+/// Each line takes a copy of its text and some hundred bytes: for what is shown, not for all words.
 class ListCells {
  public:
   /// `entry` is a line or several, parted by LF or CR LF; `cells` are theirs, in their order.

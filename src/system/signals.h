@@ -3,7 +3,8 @@
 
 namespace quillomat {
 
-/// Signals that end the program wait, as far as this thread is concerned. Not to be nested.
+/// Signals that end the program wait, as far as this thread is concerned. Not to be nested, and not
+/// for a thread that holds them back of its own: afterwards they come, whatever was before.
 void HoldSignalsBack() noexcept;
 void LetSignalsCome() noexcept;
 
