@@ -57,7 +57,7 @@ TEST_F(EncodingSetting, ChangeMeansNothingForTextOfTheClipboard) {
   EXPECT_TRUE(desktop.Messages().empty());
   EXPECT_EQ(Panel().cboEncoding.ListIndex(), static_cast<int>(CharacterSet::kUtf16));
   EXPECT_EQ(Main().lblNotice.Caption(), "");
-  Main().cmdCount.PerformClick();
+  Count();
   EXPECT_EQ(StoredWords(), "cat");
 }
 
