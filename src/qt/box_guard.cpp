@@ -46,7 +46,7 @@ bool BoxGuard::eventFilter(QObject* watched, QEvent* event) {
       return BoxInFront() != nullptr && (!shortcutMayAnswer_ || Clock::now() < open_);
     case QEvent::KeyRelease:
       if (const auto& key = static_cast<QKeyEvent&>(*event); !key.isAutoRepeat())
-        down_.remove(key.key());
+        presses_.remove(key.key());
       return false;
     default:
       return false;
@@ -55,12 +55,21 @@ bool BoxGuard::eventFilter(QObject* watched, QEvent* event) {
 
 /// A press is told several times on its way from the window to the widget, and is still the first.
 void BoxGuard::NotePress(const QKeyEvent& key) {
-  if (!key.isAutoRepeat() && !down_.contains(key.key())) down_.insert(key.key(), Clock::now());
+  const Clock::time_point now = Clock::now();
+  const auto known = presses_.find(key.key());
+  const bool isKnown = known != presses_.end();
+  const bool isHeld = isKnown && (key.isAutoRepeat() || now - known->told <= kLongestSilence);
+  if (isHeld) {
+    known->told = now;
+  } else if (!key.isAutoRepeat()) {
+    presses_.insert(key.key(), {now, now});
+  }
 }
 
 bool BoxGuard::MayAnswer(const QKeyEvent& key) const {
   if (key.isAutoRepeat()) return false;
-  return down_.value(key.key(), Clock::now()) >= open_;
+  const auto press = presses_.find(key.key());
+  return press == presses_.end() || press->down >= open_;
 }
 
 bool BoxGuard::KeepsAway(const QKeyEvent& key) const {

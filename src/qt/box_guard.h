@@ -20,6 +20,9 @@ class BoxGuard final : public QObject {
 
   /// A box is answered by no key before it has stood, and had the keyboard, for so long.
   static constexpr std::chrono::milliseconds kPause{250};
+  /// A key that is held down repeats itself within that time. One that was silent for longer was
+  /// let go unseen, as the system does not tell a window of that when a box has come over it.
+  static constexpr std::chrono::milliseconds kLongestSilence{1000};
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -33,8 +36,13 @@ class BoxGuard final : public QObject {
 
   /// Keys that went down from then on may answer the box in front.
   Clock::time_point open_;
-  /// The keys that are down, by when they went down.
-  QHash<int, Clock::time_point> down_;
+  struct Press {
+    Clock::time_point down;
+    /// When it was told last that it is down.
+    Clock::time_point told;
+  };
+  /// The keys that are down.
+  QHash<int, Press> presses_;
   /// Of the key whose letter a command of the box may take.
   bool shortcutMayAnswer_ = true;
 };

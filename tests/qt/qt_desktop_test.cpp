@@ -78,10 +78,23 @@ TEST_F(QtDesktopTest, KeyOfTheMomentBeforeABoxDoesNotAnswerIt) {
     QTest::keyClick(&box, Qt::Key_Escape);
     QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
     EXPECT_TRUE(box.isVisible()) << "so soon";
-    WaitForKeys();
+    QTest::qWait(static_cast<int>(BoxGuard::kPause.count()) + 20);
     QTest::keyPress(&box, Qt::Key_Return);
     EXPECT_TRUE(box.isVisible()) << "it went down before the box came";
     QTest::keyRelease(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_FALSE(box.isVisible());
+  });
+  EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
+            MessageAnswer::kYes);
+}
+
+TEST_F(QtDesktopTest, KeyWhoseReleaseTheBoxCameBeforeAnswersAfterAWhile) {
+  QWidget window;
+  window.show();
+  QTest::keyPress(&window, Qt::Key_Return);
+  WithDialog<QMessageBox>([](QMessageBox& box) {
+    QTest::qWait(static_cast<int>(BoxGuard::kLongestSilence.count()) + 100);
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_FALSE(box.isVisible());
   });
