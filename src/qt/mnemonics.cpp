@@ -1,6 +1,7 @@
 #include "qt/mnemonics.h"
 
 #include <bitset>
+#include <utility>
 
 namespace quillomat {
 namespace {
@@ -58,17 +59,38 @@ QString Readable(const QString& shownCaption) {
   return text;
 }
 
-/// Of the one caption that has changed, if it has found no letter.
-void Mnemonics::ShareLetter(const QList<QString>& captions, QList<QString>& shown) const {
+void Mnemonics::GiveBack(const QList<QString>& captions) {
+  if (!loan_) return;
+  const bool ownerStays = captions[loan_->owner] == captions_[loan_->owner];
+  const bool borrowerStays = captions[loan_->borrower] == captions_[loan_->borrower];
+  if (ownerStays && borrowerStays) return;
+  if (ownerStays) shown_[loan_->owner] = loan_->shown;
+  loan_.reset();
+}
+
+/// For the one caption that has changed, if it has found no letter.
+void Mnemonics::BorrowLetter(const QList<QString>& captions, QList<QString>& shown) {
   for (qsizetype i = 0; i < captions.size(); ++i) {
     if (captions[i] == captions_[i] || shown[i] != WithoutMnemonic(captions[i])) continue;
-    Letters nothingTaken;
-    shown[i] = WithFreeLetter(captions[i], nothingTaken);
+    Letters borrowed;
+    shown[i] = WithFreeLetter(captions[i], borrowed);
+    for (qsizetype owner = 0; owner < captions.size(); ++owner) {
+      Letters taken;
+      Take(shown[owner], taken);
+      if (owner == i || (taken & borrowed).none()) continue;
+      loan_ = {i, owner, std::exchange(shown[owner], WithoutMnemonic(captions[owner]))};
+      return;
+    }
   }
 }
 
 QList<QString> Mnemonics::Assign(const QList<QString>& captions) {
   const bool sameWindow = captions.size() == captions_.size();
+  if (sameWindow) {
+    GiveBack(captions);
+  } else {
+    loan_.reset();
+  }
   const auto stays = [&](qsizetype i) { return sameWindow && captions[i] == captions_[i]; };
   Letters taken;
   for (qsizetype i = 0; i < captions.size(); ++i) {
@@ -80,7 +102,7 @@ QList<QString> Mnemonics::Assign(const QList<QString>& captions) {
     if (!stays(i)) ++changed;
     result.append(stays(i) ? shown_[i] : WithFreeLetter(captions[i], taken));
   }
-  if (sameWindow && changed == 1) ShareLetter(captions, result);
+  if (sameWindow && changed == 1) BorrowLetter(captions, result);
   captions_ = captions;
   shown_ = result;
   return result;

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <optional>
 
 namespace quillomat {
 
@@ -15,8 +16,7 @@ namespace quillomat {
 
 /// The letters of one window. A caption that stays keeps its letter while others change: the hand
 /// has learnt it. A caption that changes alone, as that of a command that has begun its work,
-/// shares a letter when none is free: what else bears it rests meanwhile, and the toolkit passes it
-/// over.
+/// borrows a letter when none is free, and gives it back when it changes again.
 class Mnemonics {
  public:
   /// The captions as the toolkit takes them, with "&" before the letter chosen. Earlier captions
@@ -26,10 +26,19 @@ class Mnemonics {
   [[nodiscard]] QList<QString> Assign(const QList<QString>& captions);
 
  private:
-  void ShareLetter(const QList<QString>& captions, QList<QString>& shown) const;
+  struct Loan {
+    qsizetype borrower = 0;
+    qsizetype owner = 0;
+    /// The owner's caption with its letter.
+    QString shown;
+  };
+
+  void GiveBack(const QList<QString>& captions);
+  void BorrowLetter(const QList<QString>& captions, QList<QString>& shown);
 
   QList<QString> captions_;
   QList<QString> shown_;
+  std::optional<Loan> loan_;
 };
 
 }  // namespace quillomat

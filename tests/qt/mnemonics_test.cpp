@@ -24,10 +24,22 @@ TEST(Mnemonics, CaptionsThatStayKeepTheirLetters) {
   EXPECT_EQ(letters.Assign({"Count", "Save", "Clear"}), before);
 }
 
-TEST(Mnemonics, CaptionThatChangesAloneSharesALetterRatherThanHaveNone) {
+TEST(Mnemonics, CaptionThatChangesAloneBorrowsALetterRatherThanHaveNone) {
   Mnemonics letters;
   EXPECT_EQ(letters.Assign({"Go", "s", "t"}), (QList<QString>{"&Go", "&s", "&t"}));
-  EXPECT_EQ(letters.Assign({"St", "s", "t"}), (QList<QString>{"&St", "&s", "&t"}));
+  const QList<QString> lent = {"&St", "s", "&t"};
+  EXPECT_EQ(letters.Assign({"St", "s", "t"}), lent);
+  EXPECT_EQ(letters.Assign({"St", "s", "t"}), lent);
+  EXPECT_EQ(letters.Assign({"St", "s", "x"}), (QList<QString>{"&St", "s", "&x"}));
+  EXPECT_EQ(letters.Assign({"Go", "s", "x"}), (QList<QString>{"&Go", "&s", "&x"}));
+}
+
+TEST(Mnemonics, LetterThatWasLentIsNotGivenBackToAnotherCaption) {
+  Mnemonics letters;
+  (void)letters.Assign({"Go", "s", "t"});
+  (void)letters.Assign({"St", "s", "t"});
+  EXPECT_EQ(letters.Assign({"St", "new", "t"}), (QList<QString>{"&St", "&new", "&t"}));
+  EXPECT_EQ(letters.Assign({"Go", "new", "t"}), (QList<QString>{"&Go", "&new", "&t"}));
 }
 
 TEST(Mnemonics, ReadableCaptionHasNoMarks) {
