@@ -179,7 +179,9 @@ void TokenTaker::KeepKnown(const LineBlock& block, std::size_t first, Memo& memo
     }
     entry->kept = MemoEntry::kNeverKept;
     const TokenOutcome outcome = memo.OutcomeOf(*entry);
-    if (IsSeveral(outcome)) TakeSeveral(outcome);
+    if (!IsSeveral(outcome)) continue;
+    TakeSeveral(outcome);
+    store_.KeepCounts(*this, 0);  // near the limit it has asked for them all
   }
   AddChecked(wordsRead_, words);
 }

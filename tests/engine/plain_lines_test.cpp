@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "engine/count_keeper.h"
 #include "support/engine_fixture.h"
 
 namespace quillomat {
@@ -55,6 +56,28 @@ TEST_F(PlainLines, AreCountedLikeOneAfterTheOther) {
   EXPECT_EQ(together,
             Count({"The cat, the well-known Cat", "(and)  the well--known", "", "\tdon't"}));
   EXPECT_EQ(read, wordsRead);
+}
+
+/// Has kept what is nobody's: as if so many tokens that are no words had been met.
+class KeeperOfNothing final : public CountKeeper {
+ public:
+  void BringCounts() noexcept override {}
+};
+
+TEST_F(PlainLines, NoCountIsLostWhereHardlyMoreMayBeKept) {
+  generous.callsLeft = std::numeric_limits<std::uint32_t>::max();
+  std::string line;
+  for (int i = 0; i < 63; ++i) line += i == 2 || i == 40 ? "well--known " : "cats ";
+  line += "dog\n";
+  for (int room = 50; room < 90; ++room) {
+    WordScanner scanner = Scanner();
+    for (int i = 0; i < 2; ++i) scanner.GetWordsOfLines("cats well--known dog\n");
+    KeeperOfNothing others;
+    store.KeepCounts(others, std::numeric_limits<std::int32_t>::max() - room - 8);
+    scanner.GetWordsOfLines(line);
+    EXPECT_EQ(store.TallyWords().TotalIncludedCount, scanner.WordsRead()) << room;
+    store.Clear();
+  }
 }
 
 TEST_F(PlainLines, LettersOfLatinAreTokensAndOtherSignsAreNot) {
