@@ -95,7 +95,7 @@ namespace quillomat {
 
 namespace {
 
-#if HWY_ARCH_X86
+#if HWY_ARCH_X86 && (HWY_TARGETS & HWY_AVX3) != 0
 constexpr std::size_t kPlaces = 16;  // in a vector
 static_assert(kEdgesAtOnce == 2 * kPlaces);
 

@@ -58,7 +58,9 @@ std::optional<std::string> PathOfAddress(std::string_view text) {
   const bool isHere = host.empty() || LowerCase(host) == "localhost";
   if (!path || !IsOnWindows()) return isHere ? path : std::nullopt;
   std::ranges::replace(*path, '/', PathSeparator());
-  return isHere ? path->substr(1) : "\\\\" + std::string(host) + *path;
+  if (!isHere) return "\\\\" + std::string(host) + *path;
+  const bool hasDrive = path->size() > 2 && (*path)[2] == ':';
+  return hasDrive ? path->substr(1) : *path;
 }
 
 std::string HomeFolder() {

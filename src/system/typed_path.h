@@ -10,7 +10,8 @@ namespace quillomat {
 /// `folder`. Blanks round it are dropped, and quotes round it (programs copy a path with them); "~"
 /// and what begins with "~/" is in the user's home, and "file:" begins the address of a file, as
 /// browsers and file managers copy it. A file or a folder that is really called so comes first. An
-/// address of another machine, or without a path, stays what it is. "" stays "".
+/// address without a path stays what it is, and so does one of another machine, but on Windows,
+/// which has paths for those. "" stays "".
 [[nodiscard]] std::string PathFromTyped(const std::string& folder, std::string_view typed);
 
 }  // namespace quillomat

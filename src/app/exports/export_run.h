@@ -27,7 +27,8 @@ using ExportWork = std::function<bool(const ExportProgress& progress)>;
 /// Returns when it is done; handles the user's clicks before it begins and meanwhile. The stop flag
 /// ends it, and the file is as it was. The words must not change meanwhile: the caller is in a
 /// phase that sees to it. `onProgress` is called now and then, with the number of words done; what
-/// it throws, or a handler of the user's clicks, ends the export and is passed on.
+/// it throws, or a handler of the user's clicks, ends the export; a RunTimeError or a want of
+/// memory becomes its outcome, anything else is passed on.
 [[nodiscard]] ExportOutcome RunExport(const RunState& run, EventPump& pump, const ExportWork& work,
                                       const std::function<void(std::size_t words)>& onProgress);
 

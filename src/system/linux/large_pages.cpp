@@ -5,6 +5,7 @@
 #include <memory_resource>
 #include <new>
 #include <sys/mman.h>
+#include <unistd.h>
 
 namespace quillomat {
 namespace {
@@ -26,8 +27,8 @@ class LargePages final : public std::pmr::memory_resource {
   void* do_allocate(std::size_t bytes, std::size_t alignment) override {
     if (!IsLarge(bytes, alignment)) return heap_.allocate(bytes, alignment);
     const std::size_t withSpare = bytes + kLargePage;
-    void* const mapped = mmap(nullptr, withSpare, PROT_READ | PROT_WRITE,
-                              MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    void* const mapped =
+        mmap(nullptr, withSpare, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (mapped == MAP_FAILED) throw std::bad_alloc();
     auto* const start = static_cast<std::byte*>(mapped);
     const std::size_t before = BytesToLargePage(start);
@@ -50,7 +51,7 @@ class LargePages final : public std::pmr::memory_resource {
 
   /// Of the `bytes` from `from` on, the whole pages.
   static void Release(std::byte* from, std::size_t bytes) {
-    constexpr std::size_t kPage = 4096;
+    static const auto kPage = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     const std::size_t rest = (kPage - reinterpret_cast<std::uintptr_t>(from) % kPage) % kPage;
     if (bytes > rest) munmap(from + rest, bytes - rest);
   }
