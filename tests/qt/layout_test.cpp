@@ -459,7 +459,7 @@ TEST_F(WindowLayout, BoxesCanBeSeenOnLightAndDarkGround) {
       return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
              0.0722 * linear(color.blueF());
     };
-    const auto [low, high] = std::minmax(lightness(one), lightness(other));
+    const auto [low, high] = std::minmax({lightness(one), lightness(other)});
     return (high + 0.05) / (low + 0.05);
   };
   const ClearBoxes style("fusion");
