@@ -68,7 +68,8 @@ std::vector<CharacterSet> EncodingsToTry() {
   std::vector<CharacterSet> sets;
   for (std::size_t i = 0; i < kCharacterSetNames.size(); ++i) {
     const auto set = static_cast<CharacterSet>(i);
-    if (set != CharacterSet::kAsFound && set != CharacterSet::kGuess) sets.push_back(set);
+    const bool isSet = set != CharacterSet::kAsFound && set != CharacterSet::kGuess;
+    if (isSet && CanDecode(set)) sets.push_back(set);
   }
   return sets;
 }

@@ -71,6 +71,7 @@ class Encodings : public CounterFixture {
 
 TEST_F(Encodings, WordsAreThoseOfTheTextInUtf8) {
   for (const EncodedText& encoded : kEncodedTexts) {
+    if (IsMissingHere(encoded.set)) continue;
     const CountResult expected = CountFile(encoded.text, CharacterSet::kAsFound);
     const CountResult result = CountFile(encoded.bytes, encoded.set);
     EXPECT_EQ(WordsOf(result), WordsOf(expected)) << NameOf(encoded.set);
@@ -82,6 +83,7 @@ TEST_F(Encodings, WordsAreThoseOfTheTextInUtf8) {
 
 TEST_F(Encodings, SourceGivesTheSameHoweverItIsRead) {
   for (const EncodedText& encoded : kEncodedTexts) {
+    if (IsMissingHere(encoded.set)) continue;
     for (std::size_t chunk = 1; chunk <= 7; ++chunk) {
       ChunkedSource bytes(std::string(encoded.bytes), chunk);
       std::int64_t bytesNotDecoded = 0;
