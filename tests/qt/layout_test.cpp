@@ -2,22 +2,16 @@
 // nothing is cut, and all can be reached.
 #include <QFontInfo>
 #include <QGroupBox>
-#include <QImage>
-#include <QKeySequence>
 #include <QLabel>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
-#include <QStyleOptionButton>
 #include <algorithm>
-#include <cmath>
 #include <gmock/gmock.h>
 
-#include "qt/clear_boxes.h"
 #include "qt/figure_label.h"
 #include "qt/fixed_font.h"
 #include "qt/window_memory.h"
@@ -319,76 +313,6 @@ TEST_F(WindowLayout, SettingsScrollOnlyWhereTheyMust) {
   }
 }
 
-TEST_F(WindowLayout, SplitterIsRemembered) {
-  ASSERT_TRUE(user->Start());
-  user->windows.Main().resize(780, 600);
-  user->Settle();
-  auto* splitter = user->windows.Main().findChild<QSplitter*>();
-  QWidget* handle = splitter->handle(1);
-  QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(4, 100));
-  QTest::mouseMove(handle, QPoint(34, 100));
-  QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(34, 100));
-  user->Settle();
-  const QList<int> sizes = splitter->sizes();
-  user->Click(user->program.frmMain.cmdQuit);
-  user = std::make_unique<ProgramOnDesktop>();
-  ASSERT_TRUE(user->Start());
-  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
-  // Also by way of a fold.
-  user->windows.Main().Fold().SetFolded(true);
-  user->Settle();
-  user->windows.Main().Fold().SetFolded(false);
-  user->Settle();
-  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
-  user->windows.Main().Fold().SetFolded(true);
-  user->program.Quit();
-  user = std::make_unique<ProgramOnDesktop>();
-  ASSERT_TRUE(user->Start());
-  user->windows.Main().Fold().SetFolded(false);
-  user->Settle();
-  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
-}
-
-TEST_F(WindowLayout, SettingsAreFoldedByAKeyAndThatIsRemembered) {
-  ASSERT_TRUE(user->Start());
-  QWidget& main = user->windows.Main();
-  main.resize(780, 580);
-  user->Settle();
-  user->WidgetOf<QWidget>(user->program.frmMain.cmdCountWords).setFocus();
-  const int width = user->windows.Main().List().width();
-  QTest::keyClick(&main, Qt::Key_F9);
-  user->Settle();
-  EXPECT_FALSE(main.findChild<QWidget*>("paneSettings")->isVisible());
-  EXPECT_GT(user->windows.Main().List().width(), width);
-  EXPECT_TRUE(user->windows.Main().List().hasFocus());
-  EXPECT_EQ(user->windows.Main().Fold().accessibleName(), "Show the settings");
-  user->program.Quit();
-  user = std::make_unique<ProgramOnDesktop>();
-  ASSERT_TRUE(user->Start());
-  auto& again = user->windows.Main();
-  EXPECT_FALSE(again.findChild<QWidget*>("paneSettings")->isVisible());
-  QTest::mouseClick(&again.Fold(), Qt::LeftButton);
-  user->Settle();
-  EXPECT_TRUE(again.findChild<QWidget*>("paneSettings")->isVisible());
-  EXPECT_NEAR(again.List().width(), width, 10);
-}
-
-TEST_F(WindowLayout, SettingsGetTheirWidthBackWithTheLanguage) {
-  ASSERT_TRUE(user->Start());
-  user->windows.Main().resize(1024, 700);
-  user->Settle();
-  user->Click(user->program.frmMain.cmdLanguage);
-  user->Click(user->program.frmMain.cmdLanguage);
-  user->Settle();
-  const QList<int> english = user->windows.Main().findChild<QSplitter*>()->sizes();
-  user->Click(user->program.frmMain.cmdLanguage);
-  user->Settle();
-  EXPECT_GT(user->windows.Main().findChild<QSplitter*>()->sizes()[0], english[0]);
-  user->Click(user->program.frmMain.cmdLanguage);
-  user->Settle();
-  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), english);
-}
-
 TEST_F(WindowLayout, CountIsRunAndSeenWhileTheSettingsAreFolded) {
   ASSERT_TRUE(user->Start());
   QWidget& main = user->windows.Main();
@@ -419,84 +343,6 @@ TEST_F(WindowLayout, CountIsRunAndSeenWhileTheSettingsAreFolded) {
   main.resize(1024, 700);
   user->Settle();
   EXPECT_EQ(count.mapTo(&main, QPoint(0, 0)).x(), place.x());
-}
-
-TEST_F(WindowLayout, EveryViewHasALetterInEveryLanguage) {
-  ASSERT_TRUE(user->Start());
-  ResultTabs& views = user->windows.Main().Views();
-  for (int language = 0; language < 2; ++language) {
-    for (int i = 0; i < views.count(); ++i) {
-      views.setCurrentIndex((i + 1) % views.count());
-      const QKeySequence letter = QKeySequence::mnemonic(views.tabText(i));
-      ASSERT_FALSE(letter.isEmpty()) << FromQt(views.tabText(i));
-      QTest::keySequence(&user->windows.Main(), letter);
-      EXPECT_EQ(views.currentIndex(), i);
-    }
-    auto& other = user->WidgetOf<QPushButton>(user->program.frmMain.cmdLanguage);
-    EXPECT_TRUE(other.text().contains(QLatin1Char('&')));
-    user->Click(user->program.frmMain.cmdLanguage);
-  }
-}
-
-TEST_F(WindowLayout, ControlTabGoesRoundTheViews) {
-  ASSERT_TRUE(user->Start());
-  ResultTabs& views = user->windows.Main().Views();
-  user->windows.Main().List().setFocus();
-  for (int i = 1; i <= views.count(); ++i) {
-    QTest::keyClick(&user->windows.Main(), Qt::Key_Tab, Qt::ControlModifier);
-    EXPECT_EQ(views.currentIndex(), i % views.count());
-  }
-  QTest::keySequence(&user->windows.Main(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab));
-  EXPECT_EQ(views.currentIndex(), views.count() - 1);
-}
-
-TEST_F(WindowLayout, BoxesCanBeSeenOnLightAndDarkGround) {
-  const auto contrast = [](const QColor& one, const QColor& other) {
-    const auto lightness = [](const QColor& color) {
-      const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-      };
-      return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-             0.0722 * linear(color.blueF());
-    };
-    const auto [low, high] = std::minmax({lightness(one), lightness(other)});
-    return (high + 0.05) / (low + 0.05);
-  };
-  const ClearBoxes style("fusion");
-  for (const QPalette& palette :
-       {QPalette(QColor(239, 239, 239)), QPalette(QColor(53, 53, 53), QColor(35, 35, 35))}) {
-    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
-      const QColor ground = palette.color(QPalette::Window);
-      QImage image(13, 13, QImage::Format_RGB32);
-      image.fill(ground);
-      QStyleOptionButton option;
-      option.palette = palette;
-      option.rect = image.rect();
-      option.state = QStyle::State_Enabled | QStyle::State_Off;
-      QPainter painter(&image);
-      style.drawPrimitive(element, &option, &painter, nullptr);
-      painter.end();
-      double best = 0;
-      for (int x = 0; x < 3; ++x) best = std::max(best, contrast(image.pixelColor(x, 6), ground));
-      EXPECT_GE(best, 3) << element << " " << ground.lightness();
-    }
-  }
-}
-
-TEST_F(WindowLayout, QuitKeysWorkInEveryLayout) {
-  for (const bool folded : {false, true}) {
-    for (const bool control : {false, true}) {
-      user = std::make_unique<ProgramOnDesktop>();
-      ASSERT_TRUE(user->Start());
-      user->windows.Main().Fold().SetFolded(folded);
-      user->Settle();
-      QTest::keyClick(&user->windows.Main(), Qt::Key_Q,
-                      control ? Qt::ControlModifier : Qt::AltModifier);
-      // A letter shows its command pressed for a moment.
-      EXPECT_TRUE(QTest::qWaitFor([this] { return user->program.HasEnded(); }))
-          << folded << control;
-    }
-  }
 }
 
 TEST_F(WindowLayout, NothingJumpsWhenANoticeComesOrGoes) {
@@ -556,18 +402,6 @@ TEST_F(WindowLayout, PanelAndHelpOpenOverTheMainWindowAndWholeOnTheScreen) {
   const QWidget& help = user->windows.Help();
   EXPECT_EQ(help.pos(),
             PlaceOver(main.frameGeometry(), help.size(), help.screen()->availableGeometry()));
-}
-
-TEST_F(WindowLayout, PlaceOfAWindowThatWasNeverOpenIsNotKept) {
-  ASSERT_TRUE(user->Start());
-  user->Click(user->program.frmMain.cmdHelp);
-  user->windows.Help().move(11, 12);
-  user->Click(user->program.frmHelp.cmdClose);
-  user->Click(user->program.frmMain.cmdQuit);
-  user = std::make_unique<ProgramOnDesktop>();
-  ASSERT_TRUE(user->Start());
-  EXPECT_TRUE(user->windows.Help().testAttribute(Qt::WA_Moved));
-  EXPECT_FALSE(user->windows.Panel().testAttribute(Qt::WA_Moved));
 }
 
 TEST_F(WindowLayout, BoxesOfTheListStandOneBelowTheOther) {

@@ -27,6 +27,15 @@ class TablePageTest : public WindowFixture {
     user->program.Sources().ChooseText(folder.Write("a.txt", text));
     user->Click(user->program.frmMain.cmdCountWords);
   }
+  /// From "aao" to "zzo": more than the table has room for.
+  void CountManyWords() {
+    std::string text;
+    for (char first = 'a'; first <= 'z'; ++first) {
+      for (char second = 'a'; second <= 'z'; ++second)
+        text += std::string({first, second, 'o', ' '});
+    }
+    Count(text);
+  }
   void OpenTable() {
     QTabBar& tabs = *Window().Views().tabBar();
     QTest::mouseClick(&tabs, Qt::LeftButton, Qt::NoModifier, tabs.tabRect(1).center());
@@ -220,11 +229,7 @@ TEST_F(TablePageTest, WordsTakeTheRoomThatIsLeft) {
 }
 
 TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
-  std::string text;
-  for (char first = 'a'; first <= 'z'; ++first) {
-    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
-  }
-  Count(text);
+  CountManyWords();
   OpenTable();
   View().setFocus();
   QTest::keyClick(&View(), Qt::Key_End);
@@ -238,11 +243,7 @@ TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
 }
 
 TEST_F(TablePageTest, AnotherFilterGoesToItsFirstWord) {
-  std::string text;
-  for (char first = 'a'; first <= 'z'; ++first) {
-    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
-  }
-  Count(text);
+  CountManyWords();
   OpenTable();
   View().setFocus();
   QTest::keyClick(&View(), Qt::Key_End);
@@ -261,11 +262,7 @@ TEST_F(TablePageTest, AnotherFilterGoesToItsFirstWord) {
 }
 
 TEST_F(TablePageTest, WordChosenAmongSomeStaysInViewAmongAll) {
-  std::string text;
-  for (char first = 'a'; first <= 'z'; ++first) {
-    for (char second = 'a'; second <= 'z'; ++second) text += std::string({first, second, 'o', ' '});
-  }
-  Count(text);
+  CountManyWords();
   OpenTable();
   Box().setFocus();
   TypeFilter("zz");

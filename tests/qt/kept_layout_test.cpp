@@ -1,0 +1,96 @@
+// What a user has made of the layout: kept from start to start, and through a change of language.
+#include <QSplitter>
+#include <gmock/gmock.h>
+#include <memory>
+
+#include "window_fixture.h"
+
+namespace quillomat {
+namespace {
+
+using KeptLayout = WindowFixture;
+
+TEST_F(KeptLayout, SplitterIsRemembered) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().resize(780, 600);
+  user->Settle();
+  auto* splitter = user->windows.Main().findChild<QSplitter*>();
+  QWidget* handle = splitter->handle(1);
+  QTest::mousePress(handle, Qt::LeftButton, {}, QPoint(4, 100));
+  QTest::mouseMove(handle, QPoint(34, 100));
+  QTest::mouseRelease(handle, Qt::LeftButton, {}, QPoint(34, 100));
+  user->Settle();
+  const QList<int> sizes = splitter->sizes();
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+  // Also by way of a fold.
+  user->windows.Main().Fold().SetFolded(true);
+  user->Settle();
+  user->windows.Main().Fold().SetFolded(false);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+  user->windows.Main().Fold().SetFolded(true);
+  user->program.Quit();
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().Fold().SetFolded(false);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), sizes);
+}
+
+TEST_F(KeptLayout, SettingsAreFoldedByAKeyAndThatIsRemembered) {
+  ASSERT_TRUE(user->Start());
+  QWidget& main = user->windows.Main();
+  main.resize(780, 580);
+  user->Settle();
+  user->WidgetOf<QWidget>(user->program.frmMain.cmdCountWords).setFocus();
+  const int width = user->windows.Main().List().width();
+  QTest::keyClick(&main, Qt::Key_F9);
+  user->Settle();
+  EXPECT_FALSE(main.findChild<QWidget*>("paneSettings")->isVisible());
+  EXPECT_GT(user->windows.Main().List().width(), width);
+  EXPECT_TRUE(user->windows.Main().List().hasFocus());
+  EXPECT_EQ(user->windows.Main().Fold().accessibleName(), "Show the settings");
+  user->program.Quit();
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  auto& again = user->windows.Main();
+  EXPECT_FALSE(again.findChild<QWidget*>("paneSettings")->isVisible());
+  QTest::mouseClick(&again.Fold(), Qt::LeftButton);
+  user->Settle();
+  EXPECT_TRUE(again.findChild<QWidget*>("paneSettings")->isVisible());
+  EXPECT_NEAR(again.List().width(), width, 10);
+}
+
+TEST_F(KeptLayout, SettingsGetTheirWidthBackWithTheLanguage) {
+  ASSERT_TRUE(user->Start());
+  user->windows.Main().resize(1024, 700);
+  user->Settle();
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  const QList<int> english = user->windows.Main().findChild<QSplitter*>()->sizes();
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  EXPECT_GT(user->windows.Main().findChild<QSplitter*>()->sizes()[0], english[0]);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Settle();
+  EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), english);
+}
+
+TEST_F(KeptLayout, PlaceOfAWindowThatWasNeverOpenIsNotKept) {
+  ASSERT_TRUE(user->Start());
+  user->Click(user->program.frmMain.cmdHelp);
+  user->windows.Help().move(11, 12);
+  user->Click(user->program.frmHelp.cmdClose);
+  user->Click(user->program.frmMain.cmdQuit);
+  user = std::make_unique<ProgramOnDesktop>();
+  ASSERT_TRUE(user->Start());
+  EXPECT_TRUE(user->windows.Help().testAttribute(Qt::WA_Moved));
+  EXPECT_FALSE(user->windows.Panel().testAttribute(Qt::WA_Moved));
+}
+
+}  // namespace
+}  // namespace quillomat
