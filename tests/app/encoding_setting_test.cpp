@@ -72,6 +72,21 @@ TEST_F(EncodingSetting, WordsFilesFollowUnlessTheyLookLikeUtf8) {
   EXPECT_EQ(StoredWords(), "слово");
 }
 
+TEST_F(EncodingSetting, GuessOfAWordsFileIsPutOffBehindAHeadOfAscii) {
+  ChooseAllLetters();
+  ChooseEncoding(CharacterSet::kGuess);
+  std::string words;
+  while (words.size() <= std::size_t{64} * 1024) words += "plain words\r\n";
+  for (int i = 0; i < 50; ++i) {
+    words +=
+        "\xEB\xC1\xD6\xC4\xCF\xC5 \xD5\xD4\xD2\xCF \xD2\xC5\xCB\xC1 \xD4\xC9\xC8\xCF "
+        "\xCE\xC5\xD3\xA3\xD4 \xD7\xCF\xC4\xD5 \xCD\xC9\xCD\xCF \xC4\xCF\xCD\xC1.\r\n";
+  }
+  Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", words));
+  CountClipboard("утро дома plain гора");
+  EXPECT_EQ(StoredWords(), "гора");
+}
+
 TEST_F(EncodingSetting, WordsFileIsReadAnewInAnotherEncoding) {
   ChooseAllLetters();
   Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", "\xD3\xCC\xCF\xD7\xCF\n"));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <new>
 #include <optional>
 #include <utility>
@@ -22,6 +23,7 @@
 #include "engine/word_scanner.h"
 #include "sources/converted_source.h"
 #include "sources/encoding_guess.h"
+#include "sources/late_guess_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
@@ -241,9 +243,14 @@ void WordListReader::ScanWordsFile(ByteSource& text, const WordsFileForm& form) 
   if (form.mayBeEndless) limits.bytes = kMostWordsBytes;
   LimitedSource limited(text, limits);
   bytesNotDecoded_ = 0;
-  std::optional<ConvertedSource> converted;
-  if (form.from != CharacterSet::kAsFound) converted.emplace(limited, form.from, bytesNotDecoded_);
-  LineDecoder lines(converted ? static_cast<ByteSource&>(*converted) : limited);
+  CharacterSet guessed = form.from;
+  std::unique_ptr<ByteSource> converted;
+  if (form.from != CharacterSet::kAsFound) {
+    converted = std::make_unique<ConvertedSource>(limited, form.from, bytesNotDecoded_);
+  } else if (ReadEncoding(frmParams_) == CharacterSet::kGuess) {
+    converted = std::make_unique<LateGuessSource>(limited, guessed, bytesNotDecoded_);
+  }
+  LineDecoder lines(converted ? *converted : limited);
   std::string buffer;
   lettersNotRead_ = 0;
   while (const auto line = lines.NextLine()) {
