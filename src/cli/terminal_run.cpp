@@ -14,6 +14,7 @@
 #include "app/program.h"
 #include "app/state_check.h"
 #include "base/byte_source.h"
+#include "base/character_set.h"
 #include "base/limited_source.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
@@ -216,11 +217,11 @@ class TerminalRun {
     try {
       if (IsStandardInput(path)) {
         CountObserver nobody;
-        TakeAsClipboard(*streams_.openInput(nobody));
+        TakeAsClipboard(*streams_.openInput(nobody), ReadEncoding(program_.frmParams));
         program_.SetClipboardFile(kStandardInputPath);
       } else {
         InputFile input(path);
-        TakeAsClipboard(input);
+        TakeAsClipboard(input, ReadEncoding(program_.frmParams));
         program_.SetClipboardFile(AbsolutePath(path));
       }
       return true;
@@ -232,11 +233,11 @@ class TerminalRun {
   }
 
   /// No more is read than makes certain that the clipboard would not take it: input may be endless.
-  void TakeAsClipboard(ByteSource& input) {
+  void TakeAsClipboard(ByteSource& input, CharacterSet encoding) {
     constexpr std::size_t kMostBytesPerCharacter = 4;
     constexpr std::size_t kMarkBytes = 3;
     StartOfSource start(input, kMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
-    std::string text = WholeText(start, ReadEncoding(program_.frmParams), clipboardUncounted_);
+    std::string text = WholeText(start, encoding, clipboardUncounted_);
     clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
@@ -278,10 +279,16 @@ class TerminalRun {
     return streams_.print([&lines](ByteSink& out) { out.Write(lines); }) ? kListMade : kRunFailed;
   }
 
+  /// What is typed is text of the terminal, whatever the encoding of files is.
   bool FillWithExplained() {
     if (IsStandardInput(*options_.explain)) return FillClipboard(*options_.explain);
     TextSource text(*options_.explain);
-    TakeAsClipboard(text);
+    TakeAsClipboard(text, CharacterSet::kAsFound);
+    if (!IsWellFormedUtf8(*options_.explain)) {
+      err_ << Headed{MessageTone::kWarning, "Note: "}
+           << "the text of --explain is not UTF-8 and was read as Windows-1252\n";
+    }
+    clipboardUncounted_ = {};  // what else there is to tell is of files
     return true;
   }
 

@@ -51,6 +51,20 @@ TEST_F(ExplainRun, DecodesItsBytesByTheEncodingThatIsNamed) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(ExplainRun, TakesAnArgumentAsItWasTypedWhateverTheEncodingOfFilesIs) {
+  for (const std::string encoding : {"koi8-r", "utf-16", "guess"}) {
+    EXPECT_EQ(Run({"--explain", "дело", "--encoding", encoding, "--letters", "all"}), kListMade);
+    EXPECT_EQ(out, "дело\tcounted\tдело\n") << encoding;
+    EXPECT_EQ(err, "") << encoding;
+  }
+}
+
+TEST_F(ExplainRun, NamesNoEncodingOfFilesWhereAnArgumentIsNotUtf8) {
+  EXPECT_EQ(Run({"--explain", "caf\xE9"}), kListMade);
+  EXPECT_EQ(out, "café\tcounted\tcafé\n");
+  EXPECT_EQ(err, "Note: the text of --explain is not UTF-8 and was read as Windows-1252\n");
+}
+
 TEST_F(ExplainRun, TellsOfBytesThatWereReadOtherwise) {
   input = "caf\xE9";
   EXPECT_EQ(Run({"--explain", "-"}), kListMade);
