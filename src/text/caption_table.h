@@ -347,12 +347,15 @@ inline constexpr int kNoticeCommandsText = 724;
 inline constexpr int kSkippedTitleText = 721;
 inline constexpr int kMoreSkippedText = 722;
 
-/// Behind the message that words were loaded: letters of the file that the western rule leaves out.
+// Of a words file, "%2" stands for its path.
+/// Letters that the western rule leaves out.
 inline constexpr int kListLettersNotReadText = 800;
 inline constexpr int kListLetterNotReadText = 801;
-/// Of a words file, "%2" stands for its path: bytes that are none of its encoding.
+/// Bytes that are none of its encoding.
 inline constexpr int kListBytesNotDecodedText = 805;
 inline constexpr int kListByteNotDecodedText = 806;
+inline constexpr int kListLinesNotUtf8Text = 807;
+inline constexpr int kListLineNotUtf8Text = 808;
 /// "%1" stands for the kind of list.
 inline constexpr int kTypedNotUtf8Text = 804;
 /// The languages of the lists of common words, from this number on (app/count/common_words.h).

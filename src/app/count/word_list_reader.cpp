@@ -10,6 +10,7 @@
 
 #include "app/count/common_words.h"
 #include "app/count/line_ending_warning.h"
+#include "app/count/list_losses.h"
 #include "app/count/panel_choices.h"
 #include "app/count/path_boxes.h"
 #include "app/count/word_echo.h"
@@ -242,20 +243,21 @@ void WordListReader::ScanWordsFile(ByteSource& text, const WordsFileForm& form) 
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (form.mayBeEndless) limits.bytes = kMostWordsBytes;
   LimitedSource limited(text, limits);
-  bytesNotDecoded_ = 0;
+  notRead_ = {};
   CharacterSet guessed = form.from;
   std::unique_ptr<ByteSource> converted;
   if (form.from != CharacterSet::kAsFound) {
-    converted = std::make_unique<ConvertedSource>(limited, form.from, bytesNotDecoded_);
+    converted = std::make_unique<ConvertedSource>(limited, form.from, notRead_.bytesNotDecoded);
   } else if (ReadEncoding(frmParams_) == CharacterSet::kGuess) {
-    converted = std::make_unique<LateGuessSource>(limited, guessed, bytesNotDecoded_);
+    converted = std::make_unique<LateGuessSource>(limited, guessed, notRead_.bytesNotDecoded);
   }
   LineDecoder lines(converted ? *converted : limited);
+  lines.CountLinesNotUtf8In(notRead_.linesNotUtf8);
   std::string buffer;
-  lettersNotRead_ = 0;
   while (const auto line = lines.NextLine()) {
-    if (choices.letters == LetterRule::kWestern)
-      lettersNotRead_ += CountForeignLetters(*line, false);
+    if (choices.letters == LetterRule::kWestern) {
+      notRead_.foreignLetters += CountForeignLetters(*line, false);
+    }
     const std::string_view trimmed = TrimBlanks(*line);
     if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer, choices.letters));
     if (run_.Yield()) return;
@@ -301,20 +303,12 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
 void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
   std::string text =
       messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path;
-  if (lettersNotRead_ == 0 && bytesNotDecoded_ == 0) {
-    return messages_.Tell(std::move(text), kLoadedTitle, MessageIcon::kInformation);
+  const std::string losses = ListLossText(notRead_, path, messages_);
+  if (losses.empty()) {
+    messages_.Tell(std::move(text), kLoadedTitle, MessageIcon::kInformation);
+  } else {
+    messages_.Warn(text.append(kCrLf).append(losses), kLoadedTitle);
   }
-  if (lettersNotRead_ > 0) {
-    const int reason = lettersNotRead_ == 1 ? kListLetterNotReadText : kListLettersNotReadText;
-    text.append(kCrLf).append(Filled(messages_.Text(reason), {messages_.Grouped(lettersNotRead_)}));
-  }
-  if (bytesNotDecoded_ > 0) text.append(kCrLf).append(NotDecodedText(path));
-  messages_.Warn(std::move(text), kLoadedTitle);
-}
-
-std::string WordListReader::NotDecodedText(const std::string& path) const {
-  const int text = bytesNotDecoded_ == 1 ? kListByteNotDecodedText : kListBytesNotDecodedText;
-  return Filled(messages_.Text(text), {messages_.Grouped(bytesNotDecoded_), path});
 }
 
 /// False. While a state is restored the panel says that it could not be loaded as a whole. The box
@@ -371,7 +365,8 @@ bool WordListReader::TakeWordsFile(WordListKind kind) {
   const bool ok = ReadWords(kind);
   if (run_.Quitting()) return false;
   if (!ok) TellNotLoaded(kind, path);
-  if (ok && bytesNotDecoded_ > 0) messages_.Warn(NotDecodedText(path), kLoadedTitle);
+  std::string losses = ok ? ListLossText(notRead_, path, messages_) : std::string();
+  if (!losses.empty()) messages_.Warn(std::move(losses), kLoadedTitle);
   return ok;
 }
 

@@ -13,6 +13,7 @@
 #include "base/byte_source.h"
 #include "base/character_set.h"
 #include "engine/letter_rule.h"
+#include "engine/uncounted.h"
 #include "engine/word_list.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
@@ -67,7 +68,6 @@ class WordListReader {
  private:
   [[nodiscard]] bool WantsWordsToIgnore();
   void TellLoaded(WordListKind kind, const std::string& path);
-  [[nodiscard]] std::string NotDecodedText(const std::string& path) const;
   [[nodiscard]] bool TellNotFound(WordListKind kind);
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
@@ -107,9 +107,8 @@ class WordListReader {
   std::array<CharacterSet, 2> encodingsInForce_{};
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
-  /// Of the last words file, by the rule of letters that it was read with.
-  std::int64_t lettersNotRead_ = 0;
-  std::int64_t bytesNotDecoded_ = 0;
+  /// Of the last words file, by the settings that it was read with.
+  Uncounted notRead_;
 };
 
 }  // namespace quillomat

@@ -135,7 +135,8 @@ TEST_F(CommonWords, AreAskedAboutWhereTheyWouldHaveNoEffect) {
 TEST_F(CommonWords, OfOtherAlphabetsAreToldOfWhileOnlyWesternLettersCount) {
   ChooseList("ru");
   EXPECT_THAT(ToldOfList().text, HasSubstr("0 words-to-ignore loaded from " + Path("ru") + "\r\n"));
-  EXPECT_THAT(ToldOfList().text, HasSubstr("letters of the file belong to other alphabets"));
+  EXPECT_THAT(ToldOfList().text,
+              HasSubstr("letters of " + Path("ru") + " belong to other alphabets"));
   EXPECT_THAT(ToldOfList().text, HasSubstr("choose letters \"of all languages\""));
   EXPECT_EQ(ToldOfList().icon, MessageIcon::kExclamation);
   EXPECT_EQ(Panel().txbWordsFile[0].Text(), Path("ru")) << "it stays named, for all letters";
@@ -145,9 +146,10 @@ TEST_F(CommonWords, OfOtherAlphabetsAreToldOfWhileOnlyWesternLettersCount) {
 }
 
 TEST_F(CommonWords, ALetterOfAnotherAlphabetIsToldOf) {
-  desktop.AnswerFile(folder.Write("words.txt", "cat ω"));
+  const std::string path = folder.Write("words.txt", "cat ω");
+  desktop.AnswerFile(path);
   Panel().cmdSelectWordsFile[0].PerformClick();
-  EXPECT_THAT(OnlyMessage().text, HasSubstr("\r\nOne letter of the file belongs to another"));
+  EXPECT_THAT(OnlyMessage().text, HasSubstr("\r\nOne letter of " + path + " belongs to another"));
   EXPECT_THAT(InForce(), ElementsAre("cat"));
 }
 

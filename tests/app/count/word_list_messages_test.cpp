@@ -101,6 +101,49 @@ TEST_F(WordListMessages, BytesOfAWordsFileThatACountReadsAreToldOfAsWell) {
   EXPECT_EQ(StoredWords(), "bird");
 }
 
+TEST_F(WordListMessages, LinesOfAWordsFileThatAreNoUtf8AreToldOf) {
+  const std::string path = folder.Write("words.txt", "dog\r\ncaf\xE9\r\n\xFCs\r\n");
+  Choose(kIgnore, path);
+  ExpectMessage(OnlyMessage(),
+                "3 words-to-ignore loaded from " + path + "\r\n2 lines of " + path +
+                    " were not UTF-8 and were read as Windows-1252. If their words look wrong, "
+                    "choose the encoding of the file.",
+                "Words loaded", MessageIcon::kExclamation);
+}
+
+TEST_F(WordListMessages, LinesOfAWordsFileThatACountReadsAreToldOfOnce) {
+  const std::string path = folder.Write("words.txt", "caf\xE9");
+  PathBox(kCountOnly).SetText(path);
+  CountClipboard("caf\u00E9 dog");
+  ExpectMessage(OnlyMessage(),
+                "One line of " + path +
+                    " was not UTF-8 and was read as Windows-1252. If its words look wrong, choose "
+                    "the encoding of the file.",
+                "Words loaded", MessageIcon::kExclamation);
+  EXPECT_EQ(StoredWords(), "caf\u00E9");
+  desktop.ForgetQuestions();
+  CountClipboard("caf\u00E9 dog");
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
+}
+
+TEST_F(WordListMessages, NothingIsToldOfAWordsFileInTheEncodingThatIsChosen) {
+  Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kWindows1252));
+  const std::string path = folder.Write("words.txt", "caf\xE9\r\n");
+  Choose(kIgnore, path);
+  EXPECT_EQ(OnlyMessage().text, "1 words-to-ignore loaded from " + path);
+}
+
+TEST_F(WordListMessages, LettersOfAWordsFileThatACountCannotUseAreToldOf) {
+  const std::string path = folder.Write("words.txt", "dog \u03B1\u03B2\r\n");
+  PathBox(kIgnore).SetText(path);
+  CountClipboard("dog cat");
+  ExpectMessage(OnlyMessage(),
+                "2 letters of " + path +
+                    " belong to other alphabets and were not read. To use its words, choose "
+                    "letters \"of all languages\".",
+                "Words loaded", MessageIcon::kExclamation);
+}
+
 TEST_F(WordListMessages, OnlyTheMessageEndsWithAFullStop) {
   Panel().txbWordsToIgnoreOrCount[0].SetText(" End. Stop... ");
   ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
