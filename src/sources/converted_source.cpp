@@ -60,7 +60,10 @@ std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncoun
   std::string bytes;
   std::vector<char> block(kBlockBytes);
   while (const std::size_t size = source.Read(block)) bytes.append(block.data(), size);
-  const CharacterSet from = CharacterSetOf(bytes, choice);
+  CharacterSet from = CharacterSetOf(bytes, choice);
+  if (from == CharacterSet::kAsFound && choice == CharacterSet::kGuess) {
+    from = LateGuessOfWhole(bytes);
+  }
   if (from != CharacterSet::kAsFound) return ConvertedText(bytes, from, uncounted.bytesNotDecoded);
   TextSource found(bytes);
   return DecodeText(found, &uncounted.linesNotUtf8);

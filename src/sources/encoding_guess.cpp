@@ -140,9 +140,19 @@ std::size_t FirstBeyondAscii(std::string_view bytes) {
                                : static_cast<std::size_t>(beyond - bytes.begin());
 }
 
+bool IsGuessedLate(std::size_t place) {
+  return place != std::string_view::npos && place >= kGuessBytes;
+}
+
 CharacterSet LateGuess(std::string_view bytes) {
   bytes = bytes.substr(0, kGuessBytes);
   return LooksLikeUtf8(bytes) ? CharacterSet::kAsFound : Detected(bytes);
+}
+
+CharacterSet LateGuessOfWhole(std::string_view text) {
+  if (text.size() <= kGuessBytes) return CharacterSet::kAsFound;
+  const std::size_t place = FirstBeyondAscii(text);
+  return IsGuessedLate(place) ? LateGuess(text.substr(place)) : CharacterSet::kAsFound;
 }
 
 }  // namespace quillomat

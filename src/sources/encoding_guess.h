@@ -27,9 +27,14 @@ inline constexpr std::size_t kGuessBytes = std::size_t{64} * 1024;
 /// Where the first byte beyond ASCII stands; npos if there is none.
 [[nodiscard]] std::size_t FirstBeyondAscii(std::string_view bytes);
 
-/// A guess for a text whose first kGuessBytes are ASCII, which is alike in all sets but UTF-16:
-/// `bytes` are those from its first byte beyond ASCII on, kGuessBytes of them or all that there
-/// are.
+/// Whether a text whose first byte beyond ASCII stands at `place` (npos: nowhere) is to be guessed
+/// from there on. CharacterSetOf has seen ASCII alone then, which is alike in all sets but UTF-16.
+[[nodiscard]] bool IsGuessedLate(std::size_t place);
+
+/// That guess: `bytes` are those from that place on, kGuessBytes of them or all that there are.
 [[nodiscard]] CharacterSet LateGuess(std::string_view bytes);
+
+/// The same for `text`, which is whole: kAsFound where it is not guessed late.
+[[nodiscard]] CharacterSet LateGuessOfWhole(std::string_view text);
 
 }  // namespace quillomat

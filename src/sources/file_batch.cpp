@@ -8,6 +8,7 @@
 
 #include "base/byte_source.h"
 #include "sources/converted_source.h"
+#include "sources/encoding_guess.h"
 #include "sources/line_endings.h"
 #include "sources/text_pass.h"
 #include "sources/text_reader.h"
@@ -81,21 +82,15 @@ void FileScanner::Read(InputFile& file, std::size_t atLeast, std::size_t atMost)
   }
 }
 
-/// As LateGuessSource does it.
-void FileScanner::GuessBehindHead(FileReport& report) const {
-  const std::string_view bytes(memory_.data(), bytesRead_);
-  if (report.convertedFrom != CharacterSet::kAsFound || bytes.size() <= kGuessBytes) return;
-  const std::size_t first = FirstBeyondAscii(bytes);
-  if (first == std::string_view::npos || first < kGuessBytes) return;
-  report.convertedFrom = LateGuess(bytes.substr(first));
-}
-
 /// What was read as text, whose last line has an end.
 std::string_view FileScanner::Lines(FileReport& report) {
   constexpr std::size_t kMarkBytes = 3;
-  if (request_.encoding == CharacterSet::kGuess) GuessBehindHead(report);
+  const std::string_view bytes(memory_.data(), bytesRead_);
+  const bool guesses = request_.encoding == CharacterSet::kGuess;
+  if (guesses && report.convertedFrom == CharacterSet::kAsFound) {
+    report.convertedFrom = LateGuessOfWhole(bytes);
+  }
   if (report.convertedFrom != CharacterSet::kAsFound) {
-    const std::string_view bytes(memory_.data(), bytesRead_);
     converted_ = ConvertedText(bytes, report.convertedFrom, report.uncounted.bytesNotDecoded);
     if (!converted_.ends_with('\n')) converted_.push_back('\n');
     return converted_;

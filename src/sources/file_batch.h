@@ -84,7 +84,6 @@ class FileScanner {
   void TakeOpened(WalkItem& item);
   void Scan(WalkItem& item, int& openComment);
   void Read(InputFile& file, std::size_t atLeast, std::size_t atMost);
-  void GuessBehindHead(FileReport& report) const;
   [[nodiscard]] std::string_view Lines(FileReport& report);
   void TallyLines(FileReport& report) const;
 

@@ -16,7 +16,7 @@ std::size_t LateGuessSource::Read(std::span<char> buffer) {
     return bytes;
   }
   decided_ = true;
-  if (asciiBytes_ + ascii < kGuessBytes) return bytes;
+  if (!IsGuessedLate(asciiBytes_ + ascii)) return bytes;
   behindAscii_.PutBack({buffer.data() + ascii, bytes - ascii});
   Guess();
   return ascii > 0 ? ascii : Read(buffer);

@@ -298,6 +298,20 @@ TEST_F(Encodings, GuessIsPutOffInFoldersOnThreadsAsWell) {
   }
 }
 
+TEST_F(Encodings, GuessIsPutOffInAWholeTextAsInFiles) {
+  const std::string ascii = TimesOver("plain words ", 7000);
+  const auto guessed = [](const std::string& text) {
+    TextSource source(text);
+    Uncounted uncounted;
+    std::string whole = WholeText(source, CharacterSet::kGuess, uncounted);
+    EXPECT_EQ(uncounted, Uncounted());
+    return whole;
+  };
+  EXPECT_TRUE(guessed(ascii + TimesOver(kRussianKoi8, 5)).starts_with(ascii + "Каждое утро"));
+  EXPECT_EQ(guessed(ascii + "река"), ascii + "река");
+  EXPECT_EQ(guessed(ascii), ascii);
+}
+
 TEST_F(Encodings, HeadThatIsCutWithinACharacterIsUtf8) {
   const std::string cut = TimesOver("川", 30'000).substr(0, kGuessBytes);
   ASSERT_NE(kGuessBytes % 3, 0U);
