@@ -22,7 +22,7 @@ ProgramParts::ProgramParts(const ProgramForms& forms, Desktop& desktop, EventPum
       sources(user, run, flags, named, countRun.Extensions()),
       mainWindow(user, run, flags, lister, countRun),
       panel(user, facts, wordLists),
-      tryIt(forms.frmParams, inForce, text),
+      tryIt(forms.frmParams, wordLists, inForce, text),
       help(forms.frmMain, forms.frmHelp),
       notices(user, facts, countRun),
       exports(forms.frmExport, user, facts, pump, paths) {}

@@ -63,6 +63,29 @@ TEST_F(TryItOnPanel, FollowsTheListsInForce) {
   EXPECT_EQ(Outcome(), "Counted: cat\r\nLeft out: dog (not one of the count-only words)");
 }
 
+TEST_F(TryItOnPanel, FollowsListsThatAreCleared) {
+  Try("cat dog");
+  Panel().txbWordsFile[0].SetText(folder.Write("ignore.txt", "cat\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: cat (in the words-to-ignore file)"));
+  Panel().cmdClearWordsFile[0].PerformClick();
+  EXPECT_EQ(Outcome(), "Counted: cat, dog");
+  TypeWords(WordListKind::kIgnore, "cat");
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: cat"));
+  TypeWords(WordListKind::kIgnore, "");
+  EXPECT_EQ(Outcome(), "Counted: cat, dog");
+}
+
+TEST_F(TryItOnPanel, FollowsListsThatAMenuOrACountHasTaken) {
+  Try("the cat");
+  Panel().txbWordsFile[0].SetText(folder.Write("ignore.txt", "cat\r\n"));
+  EXPECT_EQ(Outcome(), "Counted: the, cat") << "the box was not left";
+  CountClipboard("cat");
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: cat (in the words-to-ignore file)"));
+  program.WordLists().ChooseCommonWords(folder.Write("chosen.txt", "the"));
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: the (in the words-to-ignore file)"));
+}
+
 TEST_F(TryItOnPanel, FrequencyInTheLineIsNoMatter) {
   Panel().chkIgnoreInfrequentWords.PerformClick();
   EXPECT_EQ(Try("once"), "Counted: once");

@@ -150,6 +150,7 @@ std::string WordListReader::GetExtraWords(WordListKind kind) {
   }
   std::string cleaned = JoinWithBlanks(typed.items);
   ExtraList(kind) = WordList(std::move(typed.items));
+  ListTaken.Fire();
   return cleaned;
 }
 
@@ -158,7 +159,7 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
   box.SetText(std::string(TrimBlanks(box.Text())));
   if (box.Text().empty()) {
     ExtraList(kind) = WordList();
-    return;
+    return ListTaken.Fire();
   }
   const std::string result = GetExtraWords(kind);
   if (result.ends_with('.')) {
@@ -209,6 +210,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     FileInForce(kind) = path;
     rulesInForce_[IndexOf(kind)] = choices.Keys();
     encodingsInForce_[IndexOf(kind)] = ReadEncoding(frmParams_);
+    ListTaken.Fire();
     return true;
   } catch (const InputTooLong& error) {
     tooLong_ = ":" + std::string(kCrLf) + error.Description();
@@ -408,13 +410,14 @@ void WordListReader::SelectWordsFile(WordListKind kind) {
 }
 
 void WordListReader::ClearWordsFile(WordListKind kind) {
-  PathBox(kind).SetText("");
   ForgetWordsOfFile(kind);
+  PathBox(kind).SetText("");
 }
 
 void WordListReader::ForgetWordsOfFile(WordListKind kind) {
   FileList(kind) = WordList();
   FileInForce(kind).clear();
+  ListTaken.Fire();
 }
 
 void WordListReader::SetPathToCWDs_Eng() {

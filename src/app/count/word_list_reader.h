@@ -17,6 +17,7 @@
 #include "engine/word_list.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
+#include "ui/event.h"
 
 namespace quillomat {
 
@@ -64,6 +65,9 @@ class WordListReader {
 
   /// Names the English common words as the words-to-ignore file.
   void SetPathToCWDs_Eng();
+
+  /// A list was read, parsed or emptied.
+  Event<> ListTaken;
 
  private:
   [[nodiscard]] bool WantsWordsToIgnore();

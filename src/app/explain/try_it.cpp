@@ -65,14 +65,7 @@ void TryIt::Connect() {
     if (setting.window != SettingWindow::kPanel || setting.entails == Entails::kNothing) continue;
     frmParams_.Find(setting.control)->Changed.Connect(update);
   }
-  // What they name is read when they are left, or a command has named it.
-  const auto updateAfterClick = [this] { frmParams_.AfterClick([this] { Update(); }); };
-  for (std::size_t kind = 0; kind < 2; ++kind) {
-    frmParams_.txbWordsFile[kind].LostFocus.Connect(updateAfterClick);
-    frmParams_.txbWordsToIgnoreOrCount[kind].LostFocus.Connect(updateAfterClick);
-    frmParams_.cmdSelectWordsFile[kind].Click.Connect(updateAfterClick);
-  }
-  frmParams_.lblState.Changed.Connect(update);  // a state was loaded
+  wordLists_.ListTaken.Connect(update);
 }
 
 void TryIt::Reset() {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/count/in_force.h"
+#include "app/count/word_list_reader.h"
 #include "text/program_text.h"
 #include "ui/params_form.h"
 
@@ -14,8 +15,9 @@ namespace quillomat {
 class TryIt {
  public:
   /// All must outlive it.
-  TryIt(ParamsForm& frmParams, const InForce& inForce, const ProgramText& text)
-      : frmParams_(frmParams), inForce_(inForce), text_(text) {}
+  TryIt(ParamsForm& frmParams, WordListReader& wordLists, const InForce& inForce,
+        const ProgramText& text)
+      : frmParams_(frmParams), wordLists_(wordLists), inForce_(inForce), text_(text) {}
 
   /// Connects the panel's settings with the box. Called once, when everything else that handles
   /// them is connected.
@@ -34,6 +36,7 @@ class TryIt {
   [[nodiscard]] std::string Outcome() const;
 
   ParamsForm& frmParams_;
+  WordListReader& wordLists_;
   const InForce& inForce_;
   const ProgramText& text_;
 };
