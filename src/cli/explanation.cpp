@@ -4,7 +4,6 @@
 
 #include "app/explain/candidate_text.h"
 #include "base/text_helpers.h"
-#include "engine/explain/text_explainer.h"
 
 namespace quillomat {
 namespace {
@@ -18,16 +17,14 @@ std::string AsField(std::string text) {
 
 }  // namespace
 
-std::string ExplanationLines(std::string_view text, ExplainedAs as, const CountRequest& request,
+std::string ExplanationLines(std::span<const Candidate> candidates, const FilterChoices& filters,
                              const ProgramText& texts) {
-  const auto explain = as == ExplainedAs::kLines ? ExplainLines : ExplainText;
   std::string lines;
-  for (const Candidate& candidate : explain(text, request.scan, request.filters, request.lists)) {
+  for (const Candidate& candidate : candidates) {
     const bool counted = candidate.fate == CandidateFate::kCounted;
     const std::string change = ChangeText(candidate, texts);
     lines.append(AsField(candidate.text)).append("\t").append(FateText(candidate.fate, texts));
-    lines.append("\t").append(counted ? candidate.word
-                                      : ReasonText(candidate, request.filters, texts));
+    lines.append("\t").append(counted ? candidate.word : ReasonText(candidate, filters, texts));
     if (!change.empty()) lines.append("\t").append(change);
     lines.append(kPlatformLineBreak);
   }

@@ -31,6 +31,7 @@
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
+#include "engine/explain/text_explainer.h"
 #include "export/cell_text.h"
 #include "listing/statistics.h"
 #include "sources/converted_source.h"
@@ -267,11 +268,15 @@ class TerminalRun {
     }
     CountRun& count = program_.Count();
     if (!count.PrepareScan()) return kRunFailed;
-    TellUncounted(clipboardUncounted_, Messages(desktop_, program_.Text()), err_);
-    const auto as =
-        IsStandardInput(*options_.explain) ? ExplainedAs::kLines : ExplainedAs::kOnePiece;
+    const CountRequest request = count.Request({});
+    const auto explain = IsStandardInput(*options_.explain) ? ExplainLines : ExplainText;
+    const Explanation explanation =
+        explain(desktop_.ClipboardText(), request.scan, request.filters, request.lists);
+    Uncounted uncounted = clipboardUncounted_;
+    uncounted.runsLeftWhole = explanation.runsLeftWhole;
+    TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
     const std::string lines =
-        ExplanationLines(desktop_.ClipboardText(), as, count.Request({}), program_.Text());
+        ExplanationLines(explanation.candidates, request.filters, program_.Text());
     if (lines.empty()) {
       err_ << Headed{MessageTone::kWarning, "Note: "}
            << "nothing in the text could be a word or a comment\n";

@@ -50,6 +50,7 @@ void WordScanner::ShowTokens(std::string_view lineBuffer, ScanWitness& witness) 
   ScanText(lineBuffer,
            [this, &show](std::string_view run) { taker_.Cutter().ForEachPart(run, show); });
   witness_ = nullptr;
+  if (taker_.Cutter().HasLeftWhole()) settings_.Uncounted.runsLeftWhole = true;
 }
 
 void WordScanner::PassOver(std::string_view lineBuffer) {

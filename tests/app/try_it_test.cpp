@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "support/program_fixture.h"
+#include "text/caption_table.h"
 
 namespace quillomat {
 namespace {
@@ -96,6 +97,14 @@ TEST_F(TryItOnPanel, TellsOfMarkersThatACountRefuses) {
   Panel().chkAllowCommentMarkers.PerformClick();
   Panel().txbStartComment[0].EnterText("rem");
   EXPECT_EQ(Outcome(), "A count would refuse these comment markers.");
+}
+
+TEST_F(TryItOnPanel, TellsThatRunsWereLeftWhole) {
+  Explanation explanation{{Candidate{.text = "手机", .word = "手机"}}, true};
+  EXPECT_EQ(OutcomeText(explanation, FilterChoices(), program.Text()),
+            "Counted: 手机\r\n" + program.Text().GetText(kRunsLeftWholeText));
+  explanation.runsLeftWhole = false;
+  EXPECT_EQ(OutcomeText(explanation, FilterChoices(), program.Text()), "Counted: 手机");
 }
 
 TEST_F(TryItOnPanel, FollowsTheLanguage) {

@@ -17,7 +17,7 @@ class TextExplainer : public EngineFixture {
   TextExplainer() { filters = FilterChoices(); }
 
   std::vector<Candidate> Explain(std::string_view text) {
-    return ExplainText(text, choices, filters, lists);
+    return ExplainText(text, choices, filters, lists).candidates;
   }
 
   /// A piece each: "The=the" counted, "s!" left out, "don't|'" cut, with blanks between them.
@@ -149,6 +149,20 @@ TEST_F(TextExplainer, TellsWhatHasBecomeOfAWord) {
   EXPECT_EQ(candidates[2].word, "well");
   EXPECT_TRUE(candidates[3].lostFinalS);
   EXPECT_EQ(candidates[3].word, "cat");
+}
+
+TEST_F(TextExplainer, TellsThatRunsWereLeftWhole) {
+  const auto leftWhole = [this](std::string_view text) {
+    return ExplainText(text, choices, filters, lists).runsLeftWhole ||
+           ExplainLines(text, choices, filters, lists).runsLeftWhole;
+  };
+  UseAllLetters();
+  choices.makeSegmenter = MakeNoSegmenter;
+  EXPECT_EQ(Outline("iPhone手机 手"), "iPhone手机=iphone手机  手=手");
+  EXPECT_TRUE(leftWhole("iPhone手机 手"));
+  EXPECT_FALSE(leftWhole("iPhone 手")) << "a single letter has no words to find";
+  choices.makeSegmenter = MakeMadeUpSegmenter;
+  EXPECT_FALSE(leftWhole("iPhone手机"));
 }
 
 TEST_F(TextExplainer, HasNothingToTellOfATextWithoutWords) {

@@ -147,7 +147,8 @@ void ExpectReasons(const std::vector<Candidate>& candidates) {
 void CheckExplanation(const CountCase& countCase) {
   const ExplainedCase explainedCase(countCase);
   const std::vector<Candidate> candidates = ExplainText(explainedCase.text, explainedCase.scan,
-                                                        explainedCase.filters, explainedCase.lists);
+                                                        explainedCase.filters, explainedCase.lists)
+                                                .candidates;
   const WordsInOrder counted = Count(explainedCase);
   const WordsInOrder explained = Explained(candidates);
   EXPECT_EQ(explained.words, counted.words);

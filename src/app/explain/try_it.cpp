@@ -9,7 +9,6 @@
 #include "app/setting_values.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
-#include "engine/explain/text_explainer.h"
 #include "sources/marker_fault.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -85,17 +84,24 @@ std::string TryIt::Outcome() const {
   // How often a word of the line occurs in a text that is counted nobody knows.
   filters.ignoreInfrequentWords = CheckState::kUnchecked;
   const std::string& line = frmParams_.txbTryIt.Text();
-  const std::vector<Candidate> candidates =
-      ExplainText(line.substr(0, BytesOfFirst(line, kMostTried)), choices, filters, inForce_.lists);
+  return OutcomeText(
+      ExplainText(line.substr(0, BytesOfFirst(line, kMostTried)), choices, filters, inForce_.lists),
+      filters, text_);
+}
+
+std::string OutcomeText(const Explanation& explanation, const FilterChoices& filters,
+                        const ProgramText& text) {
   std::string outcome;
   for (const CandidateFate fate :
        {CandidateFate::kCounted, CandidateFate::kLeftOut, CandidateFate::kCut}) {
-    const std::string words = ListOf(GroupsOf(fate, candidates, filters, text_));
+    const std::string words = ListOf(GroupsOf(fate, explanation.candidates, filters, text));
     if (words.empty()) continue;
     if (!outcome.empty()) outcome += kCrLf;
-    outcome += Filled(text_.GetText(kFirstTriedText + static_cast<int>(fate)), {words});
+    outcome += Filled(text.GetText(kFirstTriedText + static_cast<int>(fate)), {words});
   }
-  return outcome.empty() ? text_.GetText(kNothingTriedText) : outcome;
+  if (outcome.empty()) return text.GetText(kNothingTriedText);
+  if (explanation.runsLeftWhole) outcome.append(kCrLf).append(text.GetText(kRunsLeftWholeText));
+  return outcome;
 }
 
 }  // namespace quillomat

@@ -7,6 +7,8 @@
 
 #include "app/count/in_force.h"
 #include "app/count/word_list_reader.h"
+#include "engine/explain/text_explainer.h"
+#include "engine/word_filters.h"
 #include "text/program_text.h"
 #include "ui/params_form.h"
 
@@ -40,5 +42,9 @@ class TryIt {
   const InForce& inForce_;
   const ProgramText& text_;
 };
+
+/// What became of a line that was explained with `filters`, in lines for the user.
+[[nodiscard]] std::string OutcomeText(const Explanation& explanation, const FilterChoices& filters,
+                                      const ProgramText& text);
 
 }  // namespace quillomat

@@ -78,9 +78,9 @@ class TextExplainer {
   }
 
   /// Behind the last piece.
-  std::vector<Candidate> Finish() {
+  Explanation Finish() {
     if (!settings_.CountOnlyMode) ApplyFilters();
-    return std::move(candidates_);
+    return {std::move(candidates_), settings_.Uncounted.runsLeftWhole};
   }
 
  private:
@@ -158,15 +158,15 @@ class TextExplainer {
 
 }  // namespace
 
-std::vector<Candidate> ExplainText(std::string_view text, const ScanChoices& choices,
-                                   const FilterChoices& filters, const WordLists& lists) {
+Explanation ExplainText(std::string_view text, const ScanChoices& choices,
+                        const FilterChoices& filters, const WordLists& lists) {
   TextExplainer explainer(choices, filters, lists);
   explainer.Take(text);
   return explainer.Finish();
 }
 
-std::vector<Candidate> ExplainLines(std::string_view text, const ScanChoices& choices,
-                                    const FilterChoices& filters, const WordLists& lists) {
+Explanation ExplainLines(std::string_view text, const ScanChoices& choices,
+                         const FilterChoices& filters, const WordLists& lists) {
   TextExplainer explainer(choices, filters, lists);
   LineDecoder lines(text);
   while (const auto line = lines.NextLine()) {

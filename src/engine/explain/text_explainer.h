@@ -16,17 +16,21 @@
 
 namespace quillomat {
 
+struct Explanation {
+  std::vector<Candidate> candidates;
+  /// As Uncounted has it.
+  bool runsLeftWhole = false;
+};
+
 /// `text` is well-formed UTF-8, and scanned as a text of the clipboard is: in one piece, with the
 /// user's own markers if comments are to be skipped, and outside a comment at its start.
 /// Frequencies are those within it. Memory and time grow with the text alone.
-[[nodiscard]] std::vector<Candidate> ExplainText(std::string_view text, const ScanChoices& choices,
-                                                 const FilterChoices& filters,
-                                                 const WordLists& lists);
+[[nodiscard]] Explanation ExplainText(std::string_view text, const ScanChoices& choices,
+                                      const FilterChoices& filters, const WordLists& lists);
 
 /// The same of a text that is scanned as that of a file is: line by line, with a comment carried on
 /// from one to the next.
-[[nodiscard]] std::vector<Candidate> ExplainLines(std::string_view text, const ScanChoices& choices,
-                                                  const FilterChoices& filters,
-                                                  const WordLists& lists);
+[[nodiscard]] Explanation ExplainLines(std::string_view text, const ScanChoices& choices,
+                                       const FilterChoices& filters, const WordLists& lists);
 
 }  // namespace quillomat
