@@ -21,9 +21,9 @@ class RunSegmenter {
   virtual ~RunSegmenter() = default;
 
   /// Appends the places (in bytes) within `run`, well-formed UTF-8, at which a word begins behind
-  /// another, in their order: each between two characters, neither at the start nor at the end. It
-  /// depends on the run alone.
-  virtual void FindCuts(std::string_view run, std::vector<std::size_t>& cuts) = 0;
+  /// another, in their order: each between two characters, neither at the start nor at the end.
+  /// False where it cannot find words in it, and nothing is appended. It depends on the run alone.
+  [[nodiscard]] virtual bool FindCuts(std::string_view run, std::vector<std::size_t>& cuts) = 0;
 };
 
 /// Makes one, for any thread; null where there is none.

@@ -26,8 +26,7 @@ constexpr Wording kBytesNotDecoded{
 
 constexpr std::string_view kRunsLeftWhole =
     "Chinese, Japanese, Thai, Lao, Khmer and Burmese were not cut into words: the system has no "
-    "ICU "
-    "library.";
+    "working ICU library.";
 
 }  // namespace
 

@@ -65,8 +65,7 @@ bool RunCutter::FindParts(std::string_view run) {
   const std::size_t others = StretchBytes(run, false);
   if (others == run.size()) return false;
   if (!HasSegmenter()) {
-    const bool isOneLetter = CharacterAt(run, 0).bytes == run.size();
-    hasLeftWhole_ = hasLeftWhole_ || (wantsSegmenter_ && !isOneLetter);
+    NoteLeftWhole(run);
     return false;
   }
   parts_.clear();
@@ -90,10 +89,16 @@ bool RunCutter::HasSegmenter() {
   return segmenter_ != nullptr;
 }
 
+/// In a single letter there are no words to find.
+void RunCutter::NoteLeftWhole(std::string_view run) {
+  const bool isOneLetter = CharacterAt(run, 0).bytes == run.size();
+  hasLeftWhole_ = hasLeftWhole_ || (wantsSegmenter_ && !isOneLetter);
+}
+
 /// A mark stays with its letter, whatever the segmenter thinks of it.
 void RunCutter::AddUnspaced(std::string_view stretch) {
   cuts_.clear();
-  segmenter_->FindCuts(stretch, cuts_);
+  if (!segmenter_->FindCuts(stretch, cuts_)) NoteLeftWhole(stretch);
   std::size_t start = 0;
   for (const std::size_t cut : cuts_) {
     if (IsMarkAt(stretch, cut)) continue;

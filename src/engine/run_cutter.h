@@ -42,7 +42,8 @@ class RunCutter {
     for (const std::string_view part : parts_) take(part);
   }
 
-  /// Whether a run was left whole since there is no segmenter, although one is named.
+  /// Whether a run was left whole since there is no segmenter, although one is named, or since it
+  /// failed.
   [[nodiscard]] bool HasLeftWhole() const { return hasLeftWhole_; }
 
  private:
@@ -55,6 +56,7 @@ class RunCutter {
 
   [[nodiscard]] bool FindParts(std::string_view run);
   [[nodiscard]] bool HasSegmenter();
+  void NoteLeftWhole(std::string_view run);
   void AddUnspaced(std::string_view stretch);
   void AddOthers(std::string_view stretch);
 

@@ -27,16 +27,17 @@ class IcuSegmenter final : public RunSegmenter {
   IcuSegmenter(const IcuFunctions& functions, Iterator iterator)
       : functions_(functions), iterator_(std::move(iterator)) {}
 
-  void FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
+  bool FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
     TakeText(run);
     int error = 0;
     const auto units = static_cast<std::int32_t>(text_.size());
     functions_.setText(iterator_.get(), text_.data(), units, &error);
-    if (error > 0) return;
+    if (error > 0) return false;
     for (std::int32_t place = functions_.next(iterator_.get()); place > 0 && place < units;
          place = functions_.next(iterator_.get())) {
       cuts.push_back(places_[static_cast<std::size_t>(place)]);
     }
+    return true;
   }
 
  private:

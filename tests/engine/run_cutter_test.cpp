@@ -15,12 +15,13 @@ namespace {
 /// Every second letter begins a word.
 class Pairs final : public RunSegmenter {
  public:
-  void FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
+  bool FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
     std::size_t letters = 0;
     for (std::size_t position = 0; position < run.size(); ++letters) {
       if (letters > 0 && letters % 2 == 0) cuts.push_back(position);
       position += CharacterAt(run, position).bytes;
     }
+    return true;
   }
 };
 
@@ -31,13 +32,25 @@ std::unique_ptr<RunSegmenter> MakePairs() {
 /// A run of two letters is two words; of more, two halves.
 class Halves final : public RunSegmenter {
  public:
-  void FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
+  bool FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
     cuts.push_back(BytesOfFirst(run, CharacterCount(run) / 2));
+    return true;
   }
 };
 
 std::unique_ptr<RunSegmenter> MakeHalves() {
   return std::make_unique<Halves>();
+}
+
+class Failing final : public RunSegmenter {
+ public:
+  bool FindCuts(std::string_view /*run*/, std::vector<std::size_t>& /*cuts*/) override {
+    return false;
+  }
+};
+
+std::unique_ptr<RunSegmenter> MakeFailing() {
+  return std::make_unique<Failing>();
 }
 
 class RunCutterTest : public EngineFixture {
@@ -86,6 +99,14 @@ TEST_F(RunCutterTest, WithoutASegmenterRunsStayWholeAndItIsNoted) {
   EXPECT_EQ(Count("слово 手"), "слово 手");
   EXPECT_FALSE(settings.Uncounted.runsLeftWhole) << "a single letter has no words to find";
   EXPECT_EQ(Count("iPhone手机"), "iphone手机");
+  EXPECT_TRUE(settings.Uncounted.runsLeftWhole);
+}
+
+TEST_F(RunCutterTest, RunThatTheSegmenterFailsAtIsNotedAsLeftWhole) {
+  choices.makeSegmenter = MakeFailing;
+  EXPECT_EQ(Count("用C语"), "c 用 语");
+  EXPECT_FALSE(settings.Uncounted.runsLeftWhole) << "single letters";
+  EXPECT_EQ(Count("iPhone手机"), "iphone 手机");
   EXPECT_TRUE(settings.Uncounted.runsLeftWhole);
 }
 

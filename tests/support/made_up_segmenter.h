@@ -11,7 +11,7 @@ namespace quillomat {
 
 class MadeUpSegmenter final : public RunSegmenter {
  public:
-  void FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
+  bool FindCuts(std::string_view run, std::vector<std::size_t>& cuts) override {
     constexpr std::size_t kNeighbours = 7;
     constexpr std::size_t kOneIn = 3;
     std::size_t before = 0;
@@ -23,6 +23,7 @@ class MadeUpSegmenter final : public RunSegmenter {
       before = character.codePoint;
       position += character.bytes;
     }
+    return true;
   }
 };
 

@@ -6,13 +6,15 @@
 #include <thread>
 #include <vector>
 
+#include "system/icu_segmenter.h"
+
 namespace quillomat {
 namespace {
 
 /// With bars where a word begins.
 std::string Cut(std::string_view run) {
   std::vector<std::size_t> cuts;
-  MakeSystemSegmenter()->FindCuts(run, cuts);
+  EXPECT_TRUE(MakeSystemSegmenter()->FindCuts(run, cuts));
   std::string cut(run);
   for (std::size_t i = cuts.size(); i > 0; --i) cut.insert(cuts[i - 1], 1, '|');
   return cut;
@@ -46,6 +48,20 @@ TEST_F(SystemSegmenter, PlacesAreThoseOfBytesAlsoBehindTheFirstPlane) {
 TEST_F(SystemSegmenter, OneOrNoLetterHasNoCut) {
   EXPECT_EQ(Cut(""), "");
   EXPECT_EQ(Cut("手"), "手");
+}
+
+TEST(IcuSegmenter, SaysWhereItFails) {
+  const IcuFunctions functions{
+      .open = [](int, const char*, const char16_t*, std::int32_t, int*) -> void* {
+        static int iterator = 0;
+        return &iterator;
+      },
+      .setText = [](void*, const char16_t*, std::int32_t, int* error) { *error = 1; },
+      .next = [](void*) -> std::int32_t { return 1; },
+      .close = [](void*) {}};
+  std::vector<std::size_t> cuts;
+  EXPECT_FALSE(MakeIcuSegmenter(functions)->FindCuts("手机", cuts));
+  EXPECT_TRUE(cuts.empty());
 }
 
 TEST_F(SystemSegmenter, FindsTheSameAgainAndInAnyThread) {
