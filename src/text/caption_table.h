@@ -358,6 +358,9 @@ inline constexpr int kListLinesNotUtf8Text = 807;
 inline constexpr int kListLineNotUtf8Text = 808;
 /// "%1" stands for the kind of list.
 inline constexpr int kTypedNotUtf8Text = 804;
+/// Letters that the western rule leaves out; "%2" stands for the kind of list.
+inline constexpr int kTypedLettersNotUsedText = 798;
+inline constexpr int kTypedLetterNotUsedText = 799;
 /// The languages of the lists of common words, from this number on (app/count/common_words.h).
 inline constexpr int kFirstLanguageText = 810;
 

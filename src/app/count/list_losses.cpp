@@ -21,18 +21,31 @@ constexpr Loss kLosses[] = {
     {&Uncounted::bytesNotDecoded, kListBytesNotDecodedText, kListByteNotDecodedText},
 };
 
+std::string LossText(const Loss& loss, const Uncounted& lost, const std::string& name,
+                     const Messages& messages) {
+  const std::int64_t number = lost.*loss.number;
+  const int pattern = number == 1 ? loss.oneText : loss.manyText;
+  return Filled(messages.Text(pattern), {messages.Grouped(number), name});
+}
+
 }  // namespace
 
 std::string ListLossText(const Uncounted& lost, const std::string& path, const Messages& messages) {
   std::string text;
   for (const Loss& loss : kLosses) {
-    const std::int64_t number = lost.*loss.number;
-    if (number == 0) continue;
+    if (lost.*loss.number == 0) continue;
     if (!text.empty()) text.append(kCrLf);
-    const int pattern = number == 1 ? loss.oneText : loss.manyText;
-    text.append(Filled(messages.Text(pattern), {messages.Grouped(number), path}));
+    text.append(LossText(loss, lost, path, messages));
   }
   return text;
+}
+
+std::string TypedLossText(std::string_view cleaned, LetterRule letters, const std::string& list,
+                          const Messages& messages) {
+  const Loss loss{&Uncounted::foreignLetters, kTypedLettersNotUsedText, kTypedLetterNotUsedText};
+  const Uncounted lost{.foreignLetters = CountForeignLetters(cleaned, false)};
+  if (letters == LetterRule::kAll || lost.foreignLetters == 0) return {};
+  return LossText(loss, lost, list, messages);
 }
 
 }  // namespace quillomat

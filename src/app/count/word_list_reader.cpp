@@ -41,6 +41,7 @@ constexpr std::size_t kListTestBytes = 16'384;
 /// a device.
 constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
 constexpr const char* kLoadedTitle = "Words loaded";
+constexpr const char* kTypedTitle = "Extra words";
 constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
 
 std::size_t IndexOf(WordListKind kind) {
@@ -159,6 +160,7 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
   box.SetText(std::string(TrimBlanks(box.Text())));
   if (box.Text().empty()) {
     ExtraList(kind) = WordList();
+    lossyTyped_[IndexOf(kind)].clear();
     return ListTaken.Fire();
   }
   const std::string result = GetExtraWords(kind);
@@ -166,7 +168,17 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
     messages_.Refuse(result, "Invalid input");
   } else {
     box.SetText(result);
+    TellTypedLosses(kind, result);
   }
+}
+
+/// Once, though the same list is taken with every count.
+void WordListReader::TellTypedLosses(WordListKind kind, const std::string& cleaned) {
+  std::string losses =
+      TypedLossText(cleaned, ReadKeyRule(frmParams_).letters, KindName(kind), messages_);
+  const std::string& lossy = losses.empty() ? losses : cleaned;
+  if (std::exchange(lossyTyped_[IndexOf(kind)], lossy) == lossy) return;
+  if (!losses.empty()) messages_.Warn(std::move(losses), kTypedTitle);
 }
 
 bool WordListReader::ReadWords(WordListKind kind) {
@@ -354,9 +366,12 @@ bool WordListReader::TakeBoxes() {
 bool WordListReader::TakeTypedWords(WordListKind kind) {
   DecodeTypedWords(kind);
   const std::string result = GetExtraWords(kind);
-  if (!result.ends_with('.')) return true;
-  messages_.Refuse(result, "Invalid input");
-  return false;
+  if (result.ends_with('.')) {
+    messages_.Refuse(result, "Invalid input");
+    return false;
+  }
+  TellTypedLosses(kind, result);
+  return true;
 }
 
 bool WordListReader::TakeWordsFile(WordListKind kind) {

@@ -77,6 +77,7 @@ class WordListReader {
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
   void DecodeTypedWords(WordListKind kind);
+  void TellTypedLosses(WordListKind kind, const std::string& cleaned);
   struct WordsFileForm {
     CharacterSet from = CharacterSet::kAsFound;
     bool mayBeEndless = false;
@@ -111,6 +112,8 @@ class WordListReader {
   std::array<CharacterSet, 2> encodingsInForce_{};
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
+  /// The typed lists of which the user has been told that they cannot be used as a whole.
+  std::array<std::string, 2> lossyTyped_;
   /// Of the last words file, by the settings that it was read with.
   Uncounted notRead_;
 };

@@ -80,6 +80,42 @@ TEST_F(WordListMessages, TypedBytesThatAreNoUtf8AreToldOfWhenACountBegins) {
   EXPECT_EQ(Panel().txbWordsToIgnoreOrCount[0].Text(), "caf\u00E9 dog");
 }
 
+TEST_F(WordListMessages, TypedLettersThatACountCannotUseAreToldOfOnce) {
+  TypeWords(kIgnore, "dog \u03B1\u03B2");
+  ExpectMessage(OnlyMessage(),
+                "2 letters of the typed words-to-ignore belong to other alphabets: no word of a "
+                "text has them. To use these words, choose letters \"of all languages\".",
+                "Extra words", MessageIcon::kExclamation);
+  desktop.ForgetQuestions();
+  CountClipboard("dog cat");
+  CountClipboard("dog cat");
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
+  TypeWords(kIgnore, "dog");
+  TypeWords(kIgnore, "dog \u03B1\u03B2");
+  EXPECT_EQ(OnlyMessage().title, "Extra words") << "they were taken anew";
+}
+
+TEST_F(WordListMessages, TypedLettersAreToldOfWhenACountTakesThem) {
+  Panel().txbWordsToIgnoreOrCount[1].SetText("dog \u03B1");
+  CountClipboard("dog cat");
+  ExpectMessage(
+      OnlyMessage(),
+      "One letter of the typed count-only words belongs to another alphabet: no word of a "
+      "text has it. To use its word, choose letters \"of all languages\".",
+      "Extra words", MessageIcon::kExclamation);
+  desktop.ForgetQuestions();
+  desktop.Answer(MessageAnswer::kYes);
+  Panel().cboLetters.PerformChoice(1);
+  desktop.ForgetQuestions();
+  CountClipboard("dog cat");
+  EXPECT_THAT(desktop.Messages(), IsEmpty());
+  desktop.Answer(MessageAnswer::kYes);
+  Panel().cboLetters.PerformChoice(0);
+  desktop.ForgetQuestions();
+  CountClipboard("dog cat");
+  EXPECT_EQ(OnlyMessage().title, "Extra words");
+}
+
 TEST_F(WordListMessages, BytesOfAWordsFileThatCannotBeDecodedAreToldOf) {
   Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kShiftJis));
   const std::string path = folder.Write("words.txt", "dog \xFF\xFF cat\r\n");
