@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "base/character_set.h"
 #include "support/program_fixture.h"
 #include "text/caption_table.h"
 
@@ -85,6 +86,46 @@ TEST_F(TryItOnPanel, FollowsListsThatAMenuOrACountHasTaken) {
   EXPECT_THAT(Outcome(), HasSubstr("Left out: cat (in the words-to-ignore file)"));
   program.WordLists().ChooseCommonWords(folder.Write("chosen.txt", "the"));
   EXPECT_THAT(Outcome(), HasSubstr("Left out: the (in the words-to-ignore file)"));
+}
+
+TEST_F(TryItOnPanel, ReadsListsAnewForOtherLettersAccentsAndEncodings) {
+  Try("дело слово été ete");
+  Panel().txbWordsFile[0].SetText(folder.Write("ignore.txt", "слово\r\nété\r\nete\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Outcome(), HasSubstr("Counted: ete\r\n"));
+  EXPECT_THAT(Outcome(), HasSubstr("; été (in the words-to-ignore file)"));
+  Panel().chkFoldAccents.PerformClick();
+  EXPECT_THAT(Outcome(), HasSubstr("; été, ete (in the words-to-ignore file)"));
+  Panel().cboLetters.PerformChoice(1);
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: слово, été, ete (in the words-to-ignore file)"));
+  EXPECT_EQ(program.Settings().lists.IgnoreList.Count(), 1) << "until the next count";
+  Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", "\xD3\xCC\xCF\xD7\xCF\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Outcome(), HasSubstr("Counted: дело, слово"));
+  Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kKoi8R));
+  EXPECT_THAT(Outcome(), HasSubstr("Left out: слово (in the words-to-ignore file)"));
+}
+
+TEST_F(TryItOnPanel, TakesTypedWordsAsACountWould) {
+  Try("дело слово");
+  Panel().cboLetters.PerformChoice(1);
+  Panel().txbWordsToIgnoreOrCount[0].EnterText("слово,");
+  EXPECT_EQ(Outcome(), "Counted: дело\r\nLeft out: слово (one of the extra words to ignore)");
+  Panel().txbWordsToIgnoreOrCount[0].EnterText("");
+  EXPECT_EQ(Outcome(), "Counted: дело, слово");
+}
+
+TEST_F(TryItOnPanel, LeavesTheWordsCountedAloneWhileItReadsLists) {
+  Panel().txbWordsFile[0].SetText(folder.Write("ignore.txt", "слово cat\r\n"));
+  CountClipboard("dog cat");
+  Main().cmdSetParameters.PerformClick();
+  Try("слово");
+  desktop.ForgetQuestions();
+  desktop.Answer(MessageAnswer::kYes);
+  Panel().cboLetters.PerformChoice(1);
+  EXPECT_EQ(Outcome(), "Left out: слово (in the words-to-ignore file)");
+  EXPECT_EQ(StoredWords(), "dog");
+  EXPECT_EQ(desktop.Messages().size(), 1U) << "the question alone";
 }
 
 TEST_F(TryItOnPanel, FrequencyInTheLineIsNoMatter) {

@@ -2,8 +2,10 @@
 // files, and what was worked out of the parameters. One object for the program's whole life.
 #pragma once
 
+#include <array>
 #include <cstddef>
 
+#include "app/count/list_form.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 #include "sources/output_rules.h"
@@ -13,6 +15,8 @@ namespace quillomat {
 struct InForce {
   ScanSettings settings;
   WordLists lists;
+  /// What the words of the files in `lists` were read by: those to ignore, the count-only words.
+  std::array<ListForm, 2> listForms;
   /// Where the lists, the state and the clipboard's text come from.
   FilesRead filesRead;
   /// How many threads may scan a large text at the same time; with 1 it is scanned by the caller's.

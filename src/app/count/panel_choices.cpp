@@ -44,6 +44,10 @@ CharacterSet ReadEncoding(const ParamsForm& frmParams) {
   return static_cast<CharacterSet>(std::max(frmParams.cboEncoding.ListIndex(), 0));
 }
 
+ListForm ReadListForm(const ParamsForm& frmParams) {
+  return {ReadKeyRule(frmParams), ReadEncoding(frmParams)};
+}
+
 FilterChoices ReadFilterChoices(const ParamsForm& frmParams) {
   FilterChoices choices;
   choices.ignoreInfrequentWords = frmParams.chkIgnoreInfrequentWords.Value();

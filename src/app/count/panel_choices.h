@@ -1,6 +1,7 @@
 // The parameters panel as the engine sees it: a snapshot of its controls.
 #pragma once
 
+#include "app/count/list_form.h"
 #include "base/character_set.h"
 #include "engine/scan_settings.h"
 #include "engine/word_filters.h"
@@ -12,6 +13,8 @@ namespace quillomat {
 /// What makes words the same, as in the choices of a scan.
 [[nodiscard]] KeyRule ReadKeyRule(const ParamsForm& frmParams);
 [[nodiscard]] CharacterSet ReadEncoding(const ParamsForm& frmParams);
+/// What words files are read by.
+[[nodiscard]] ListForm ReadListForm(const ParamsForm& frmParams);
 [[nodiscard]] FilterChoices ReadFilterChoices(const ParamsForm& frmParams);
 
 }  // namespace quillomat

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <new>
 #include <optional>
 #include <utility>
@@ -14,17 +13,13 @@
 #include "app/count/panel_choices.h"
 #include "app/count/path_boxes.h"
 #include "app/count/word_echo.h"
+#include "app/count/words_file.h"
 #include "app/list/summary.h"
 #include "base/limited_source.h"
 #include "base/line_decoder.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
-#include "engine/uncounted.h"
-#include "engine/word_scanner.h"
-#include "sources/converted_source.h"
-#include "sources/encoding_guess.h"
-#include "sources/late_guess_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
@@ -35,11 +30,6 @@
 namespace quillomat {
 namespace {
 
-/// So many bytes at the start of a words file say whether it is a text.
-constexpr std::size_t kListTestBytes = 16'384;
-/// Of a line of a words file, and of one that has no length of its own and may have no end: a pipe,
-/// a device.
-constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
 constexpr const char* kLoadedTitle = "Words loaded";
 constexpr const char* kTypedTitle = "Extra words";
 constexpr std::string_view kDefaultIgnoreFile = "cwds_en.txt";
@@ -60,12 +50,6 @@ bool IsOwnList(const std::string& path) {
   return std::ranges::any_of(FindCommonWords(), [&path](const CommonWordsList& list) {
     return IsSameFile(path, list.path);
   });
-}
-
-/// `text` is what stands in the file.
-LineEndingType TypeOf(HeadedSource& text, const std::string& path) {
-  if (FileLength(path) == 0) return LineEndingType::kZeroLength;
-  return LineEndingTypeOf(text.Ahead(HeadBytes(kListTestBytes)), kListTestBytes);
 }
 
 /// While it lives, the boxes that a words file is read with stand as it needs them.
@@ -131,8 +115,7 @@ std::string& WordListReader::FileInForce(WordListKind kind) {
 
 bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   if (path != FileInForce(kind)) return false;
-  return path.empty() || (rulesInForce_[IndexOf(kind)] == ReadKeyRule(frmParams_) &&
-                          encodingsInForce_[IndexOf(kind)] == ReadEncoding(frmParams_));
+  return path.empty() || inForce_.listForms[IndexOf(kind)] == ReadListForm(frmParams_);
 }
 
 /// What is typed in a terminal may be any bytes: they are taken as those of a file are.
@@ -193,22 +176,16 @@ bool WordListReader::ReadWords(WordListKind kind) {
       return false;
     }
     PatientSource patient(file, run_);
-    HeadedSource text(patient);
-    LineEndingType type = TypeOf(text, path);
-    const CharacterSet from = FindEncoding(text, type);
+    WordsFile words(patient, ReadEncoding(frmParams_), file.Length() == 0);
+    const LineEndingType type = FileLength(path) == 0 ? LineEndingType::kZeroLength : words.Type();
     if (run_.StopRequested()) return false;
     if (type == LineEndingType::kNotText) {
       messages_.Refuse("This is not a text file.", "Invalid input");
       return false;
     }
     if (IsWorthAWarning(type) && !IsOwnList(path)) ShowLineEndingWarning(messages_, type);
-    ScanSettings& settings = inForce_.settings;
     const ScanChoices choices = ReadScanChoices(frmParams_);
-    settings.ReadingWordList = true;
-    settings.SetAllowWordsFlags(choices);
-    settings.BuildExtraWordChars();
-    settings.ClearListCharFlags();
-    settings.SetCommentMarkers(kCPreset, choices);
+    SetUpForWordsFile(inForce_.settings, choices);
     const bool stood = words_.CanBeListed() || words_.gaveWay;
     words_.Discard();  // first, so that the boxes' handlers find no count to ask about
     words_.gaveWay = stood;
@@ -217,11 +194,10 @@ bool WordListReader::ReadWords(WordListKind kind) {
     ConcealNumWords(frmMain_, false);
     output_.ShowText(IsIgnore(kind) ? "Now reading words to ignore . . . "
                                     : "Now reading count-only words . . . ");
-    ScanWordsFile(text, {from, file.Length() == 0});
+    ScanWordsFile(words, choices);
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
-    rulesInForce_[IndexOf(kind)] = choices.Keys();
-    encodingsInForce_[IndexOf(kind)] = ReadEncoding(frmParams_);
+    inForce_.listForms[IndexOf(kind)] = ReadListForm(frmParams_);
     ListTaken.Fire();
     return true;
   } catch (const InputTooLong& error) {
@@ -234,58 +210,14 @@ bool WordListReader::ReadWords(WordListKind kind) {
   }
 }
 
-/// What the words file is converted from. `type` is what it is as its bytes stand, and becomes what
-/// it is then.
-CharacterSet WordListReader::FindEncoding(HeadedSource& text, LineEndingType& type) const {
-  const CharacterSet choice = ReadEncoding(frmParams_);
-  constexpr std::size_t kHeadBytes = HeadBytes(kListTestBytes);
-  const bool asFound = choice == CharacterSet::kAsFound;
-  const std::string_view head = text.Ahead(asFound ? kHeadBytes : kGuessBytes);
-  const CharacterSet from = CharacterSetOfWords(head, choice);
-  if (from != CharacterSet::kAsFound) {
-    type = LineEndingTypeOf(ConvertedHead(head.substr(0, kHeadBytes), from), kListTestBytes);
-  }
-  return from;
-}
-
-void WordListReader::ScanWordsFile(ByteSource& text, const WordsFileForm& form) {
-  const ScanChoices choices = ReadScanChoices(frmParams_);
-  const WordLists lists = inForce_.lists;
+void WordListReader::ScanWordsFile(WordsFile& file, const ScanChoices& choices) {
   WordEcho echo(frmMain_, output_, messages_, inForce_.settings);
   const ListenerGuard listening(words_.store, echo);
-  WordScanner scanner(inForce_.settings, choices, lists, words_.store, run_);
-  SourceLimits limits{.lineBytes = kMostWordsBytes};
-  if (form.mayBeEndless) limits.bytes = kMostWordsBytes;
-  LimitedSource limited(text, limits);
-  notRead_ = {};
-  CharacterSet guessed = form.from;
-  std::unique_ptr<ByteSource> converted;
-  if (form.from != CharacterSet::kAsFound) {
-    converted = std::make_unique<ConvertedSource>(limited, form.from, notRead_.bytesNotDecoded);
-  } else if (ReadEncoding(frmParams_) == CharacterSet::kGuess) {
-    converted = std::make_unique<LateGuessSource>(limited, guessed, notRead_.bytesNotDecoded);
-  }
-  LineDecoder lines(converted ? *converted : limited);
-  lines.CountLinesNotUtf8In(notRead_.linesNotUtf8);
-  std::string buffer;
-  while (const auto line = lines.NextLine()) {
-    if (choices.letters == LetterRule::kWestern) {
-      notRead_.foreignLetters += CountForeignLetters(*line, false);
-    }
-    const std::string_view trimmed = TrimBlanks(*line);
-    if (!trimmed.empty()) scanner.GetWords(PrepareLine(trimmed, false, buffer, choices.letters));
-    if (run_.Yield()) return;
-  }
+  notRead_ = file.Scan(inForce_.settings, choices, words_.store, run_);
 }
 
 void WordListReader::TakeWordsFromStore(WordListKind kind) {
-  const WordStore& store = words_.store;
-  std::vector<std::string> words;
-  words.reserve(static_cast<std::size_t>(store.NumDifferentWords()));
-  for (std::int32_t index = 1; index <= store.NumDifferentWords(); ++index) {
-    words.emplace_back(store.At(index).Word);
-  }
-  FileList(kind) = WordList(std::move(words));
+  FileList(kind) = WordList(WordsIn(words_.store));
   if (!IsIgnore(kind)) TickAllowBoxesForListWords();
 }
 

@@ -1,22 +1,17 @@
 // The lists of words to ignore and of count-only words: typed by hand on the panel, or read from
-// words files. A words file is scanned as a text is, with every sign allowed in words and /* */ and
-// // comments skipped, in the encoding that the user has chosen unless it looks like UTF-8; it uses
-// the word store, so the words of the last count are gone afterwards.
+// words files (words_file.h). Reading one uses the word store, so the words of the last count are
+// gone afterwards.
 #pragma once
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
 
+#include "app/count/words_file.h"
 #include "app/what_parts_share.h"
-#include "base/byte_source.h"
-#include "base/character_set.h"
-#include "engine/letter_rule.h"
+#include "engine/scan_settings.h"
 #include "engine/uncounted.h"
 #include "engine/word_list.h"
-#include "sources/line_endings.h"
-#include "sources/read_sources.h"
 #include "ui/event.h"
 
 namespace quillomat {
@@ -78,13 +73,7 @@ class WordListReader {
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
   void DecodeTypedWords(WordListKind kind);
   void TellTypedLosses(WordListKind kind, const std::string& cleaned);
-  struct WordsFileForm {
-    CharacterSet from = CharacterSet::kAsFound;
-    bool mayBeEndless = false;
-  };
-
-  [[nodiscard]] CharacterSet FindEncoding(HeadedSource& text, LineEndingType& type) const;
-  void ScanWordsFile(ByteSource& text, const WordsFileForm& form);
+  void ScanWordsFile(WordsFile& file, const ScanChoices& choices);
   void TakeWordsFromStore(WordListKind kind);
   void TickAllowBoxesForListWords();
   [[nodiscard]] WordList& FileList(WordListKind kind);
@@ -107,9 +96,6 @@ class WordListReader {
   InForce& inForce_;
   PathBoxes& paths_;
   const WindowFlags& flags_;
-  /// By which the files in force were read.
-  std::array<KeyRule, 2> rulesInForce_;
-  std::array<CharacterSet, 2> encodingsInForce_{};
   /// A line for the message about the last words file: what of it was too long, if that was it.
   std::string tooLong_;
   /// The typed lists of which the user has been told that they cannot be used as a whole.

@@ -64,7 +64,10 @@ void TryIt::Connect() {
     if (setting.window != SettingWindow::kPanel || setting.entails == Entails::kNothing) continue;
     frmParams_.Find(setting.control)->Changed.Connect(update);
   }
-  wordLists_.ListTaken.Connect(update);
+  wordLists_.ListTaken.Connect([this] {
+    lists_.Forget();
+    Update();
+  });
 }
 
 void TryIt::Reset() {
@@ -75,7 +78,7 @@ void TryIt::Update() {
   if (frmParams_.Visible()) frmParams_.txbTried.SetText(Outcome());
 }
 
-std::string TryIt::Outcome() const {
+std::string TryIt::Outcome() {
   const ScanChoices choices = ReadScanChoices(frmParams_);
   if (IsSet(choices.allowCommentMarkers) && FindMarkerFault(choices)) {
     return text_.GetText(kMarkersRefusedText);
@@ -85,7 +88,7 @@ std::string TryIt::Outcome() const {
   filters.ignoreInfrequentWords = CheckState::kUnchecked;
   const std::string& line = frmParams_.txbTryIt.Text();
   return OutcomeText(
-      ExplainText(line.substr(0, BytesOfFirst(line, kMostTried)), choices, filters, inForce_.lists),
+      ExplainText(line.substr(0, BytesOfFirst(line, kMostTried)), choices, filters, lists_.Lists()),
       filters, text_);
 }
 

@@ -7,6 +7,7 @@
 
 #include "app/count/in_force.h"
 #include "app/count/word_list_reader.h"
+#include "app/explain/lists_to_try.h"
 #include "engine/explain/text_explainer.h"
 #include "engine/word_filters.h"
 #include "text/program_text.h"
@@ -19,7 +20,7 @@ class TryIt {
   /// All must outlive it.
   TryIt(ParamsForm& frmParams, WordListReader& wordLists, const InForce& inForce,
         const ProgramText& text)
-      : frmParams_(frmParams), wordLists_(wordLists), inForce_(inForce), text_(text) {}
+      : frmParams_(frmParams), wordLists_(wordLists), lists_(frmParams, inForce), text_(text) {}
 
   /// Connects the panel's settings with the box. Called once, when everything else that handles
   /// them is connected.
@@ -35,11 +36,11 @@ class TryIt {
   static constexpr std::size_t kMostTried = 1000;
 
  private:
-  [[nodiscard]] std::string Outcome() const;
+  [[nodiscard]] std::string Outcome();
 
   ParamsForm& frmParams_;
   WordListReader& wordLists_;
-  const InForce& inForce_;
+  ListsToTry lists_;
   const ProgramText& text_;
 };
 
