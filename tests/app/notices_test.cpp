@@ -40,7 +40,7 @@ TEST(Notices, MostImportantComesFirst) {
   EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
                                         kBytesNotDecodedText, kLettersNotCountedText,
                                         kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsLeftOutText));
+                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
 }
 
 TEST(Notices, OneIsNotMany) {
@@ -54,7 +54,7 @@ TEST(Notices, OneIsNotMany) {
                .countOnlyWords = 1,
                .wordsToIgnore = 1}),
       ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
-                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordLeftOutText));
+                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordToIgnoreText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -172,7 +172,7 @@ TEST_F(NoticeBarTest, NamesTheTextOfTheListWhenAnotherIsChosen) {
 TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   TypeWords(WordListKind::kIgnore, "the and of");
   CountFile(folder.Write("a.txt", "the cat"));
-  EXPECT_EQ(Said(), "3 words are left out.");
+  EXPECT_EQ(Said(), "A list of 3 words to ignore is in use.");
   ASSERT_THAT(Commands(), ElementsAre("Change"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_TRUE(Panel().Visible());
@@ -180,6 +180,12 @@ TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   EXPECT_EQ(Said(), "Settings have changed since this list.");
   Count();
   EXPECT_EQ(Said(), "Only one word is counted.");
+}
+
+TEST_F(NoticeBarTest, ListOfWordsToIgnoreIsNotWhatWasLeftOut) {
+  TypeWords(WordListKind::kIgnore, "of and");
+  CountClipboard("cat dog");
+  EXPECT_EQ(Said(), "A list of 2 words to ignore is in use.") << "nothing was left out";
 }
 
 TEST_F(NoticeBarTest, TellsOfSkippedFilesAndWhichTheyAre) {
@@ -263,7 +269,7 @@ TEST_F(NoticeBarTest, ListIsSaidToBeGoneWhenAFileOfWordsIsRead) {
   EXPECT_THAT(Commands(), ElementsAre("Count again"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_EQ(StoredWords(), "cat*2");
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
 }
 
 TEST_F(NoticeBarTest, LinesThatWereNotUtf8AreTold) {
@@ -292,7 +298,7 @@ TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {
   CountManyWords();
   EXPECT_THAT(Said(), HasSubstr("The text shows"));
   Main().cmdDismissNotice.PerformClick();
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
   Main().cmdDismissNotice.PerformClick();
   EXPECT_EQ(Said(), "");
   Main().cboWordOrder.SetListIndex(1);
@@ -321,10 +327,10 @@ TEST_F(NoticeBarTest, TableKeepsItsNoticeWhenNoFolderIsChosen) {
   TypeWords(WordListKind::kIgnore, "the");
   CountFile(folder.Write("a.txt", "the cat"));
   program.Notices().SetTextShown(false);
-  ASSERT_EQ(Said(), "One word is left out.");
+  ASSERT_EQ(Said(), "A list of one word to ignore is in use.");
   desktop.AnswerFolder(std::nullopt);
   Main().cmdFolder.PerformClick();
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
   Main().optOnClipboard.PerformClick();
   EXPECT_EQ(Said(), "This list is of a.txt.");
   program.Notices().SetTextShown(true);
@@ -336,7 +342,7 @@ TEST_F(NoticeBarTest, SpeaksTheLanguageOfTheProgram) {
   TypeWords(WordListKind::kIgnore, "the and");
   CountFile(folder.Write("a.txt", "the cat"));
   Main().cmdLanguage.PerformClick();
-  EXPECT_EQ(Said(), "2 Wörter werden ausgelassen.");
+  EXPECT_EQ(Said(), "Eine Liste von 2 auszulassenden Wörtern gilt.");
   EXPECT_THAT(Commands(), ElementsAre("Ändern"));
 }
 

@@ -34,7 +34,7 @@ TEST_F(NoticeStripTest, IsThereOnlyWhileThereIsSomethingToSay) {
   EXPECT_TRUE(strip.isVisible());
   auto& label = user->WidgetOf<QLabel>(frmMain.lblNotice);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
-            "2 words are left out.");
+            "A list of 2 words to ignore is in use.");
   user->Click(frmMain.cmdDismissNotice);
   EXPECT_FALSE(strip.isVisible());
 }

@@ -285,6 +285,7 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   if (!FileExists(path)) return TellNotFound(kind);
   output_.SaveOutputText();
   const bool ok = ReadWords(kind);
+  ConcealNumWords(frmMain_, false);  // how many words were read is no result
   if (run_.Quitting()) {
     // The rest of the file was not read, and nobody wants to know any more.
   } else if (ok) {

@@ -96,8 +96,8 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      kFileLeftOutText,
      [](const NoticeFacts& facts) { return NumberOf(facts.filesLeftOut); },
      {kShowLeftOut}},
-    {kWordsLeftOutText,
-     kWordLeftOutText,
+    {kWordsToIgnoreText,
+     kWordToIgnoreText,
      [](const NoticeFacts& facts) { return NumberOf(facts.wordsToIgnore); },
      {kOpenPanel}},
 });
