@@ -285,6 +285,7 @@ inline constexpr int kFirstColumnText = 630;
 inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
 inline constexpr int kNoTableYetText = 643;
+inline constexpr int kTableGaveWayText = 644;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 

@@ -265,7 +265,7 @@ TEST_F(NoticeBarTest, ListIsSaidToBeGoneWhenAFileOfWordsIsRead) {
   Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\r\n"));
   Panel().txbWordsFile[0].LostFocus.Fire();
   EXPECT_THAT(Output(), HasSubstr("cat"));
-  EXPECT_EQ(Said(), "A file of words was read since: the words of this list are gone.");
+  EXPECT_EQ(Said(), "A file of words was read since: of this list only the text is left.");
   EXPECT_THAT(Commands(), ElementsAre("Count again"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_EQ(StoredWords(), "cat*2");

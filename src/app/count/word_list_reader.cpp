@@ -195,9 +195,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     settings.BuildExtraWordChars();
     settings.ClearListCharFlags();
     settings.SetCommentMarkers(kCPreset, choices);
-    const bool stood = words_.CanBeListed() || words_.gaveWay;
-    words_.Discard();  // first, so that the boxes' handlers find no count to ask about
-    words_.gaveWay = stood;
+    words_.GiveWay();  // first, so that the boxes' handlers find no count to ask about
     const ListReadingBoxes boxes(frmMain_, frmParams_);
     words_.store.Files().Reset(false);
     ConcealNumWords(frmMain_, false);

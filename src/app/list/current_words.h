@@ -52,8 +52,9 @@ struct CurrentWords {
   mutable Event<> WordsRanked;
   /// What became of the files of a count is known, whether there are words or not.
   mutable Event<> FilesKnown;
-  /// The words and the files are about to go: nobody may look at them any more.
+  // The words, or the files, are about to go: nobody may look at them any more.
   mutable Event<> WordsGo;
+  mutable Event<> FilesGo;
 
   /// Where they come from.
   CountedText counted;
@@ -86,6 +87,21 @@ struct CurrentWords {
 
   /// Empties the store: the words of the last count are gone, and with them what was known of them.
   void Discard() {
+    FilesGo.Fire();
+    files.clear();
+    stoppedAfter.reset();
+    DiscardWords();
+  }
+
+  /// Makes room for a file of words. What became of the files of the last count stays known.
+  void GiveWay() {
+    const bool stood = CanBeListed() || gaveWay;
+    DiscardWords();
+    gaveWay = stood;
+  }
+
+ private:
+  void DiscardWords() {
     WordsGo.Fire();
     store.Clear();
     totals = {};
@@ -94,9 +110,7 @@ struct CurrentWords {
     orderFigures.reset();
     uncounted = {};
     counted = {};
-    files.clear();
     folder = {};
-    stoppedAfter.reset();
     basis = {};
     settings.clear();
     completeRun = false;

@@ -33,7 +33,7 @@ int ReasonTextOf(Refusal refusal) {
 FileRows::FileRows(const CurrentWords& words, const ProgramText& text)
     : words_(words), text_(text) {
   words_.FilesKnown.Connect([this] { TakeFiles(); });
-  words_.WordsGo.Connect([this] {
+  words_.FilesGo.Connect([this] {
     if (places_.empty()) return;
     Changing.Fire();
     places_.clear();

@@ -1,5 +1,6 @@
 // The files of the last count as rows of a table, for people: how each was read, or why not, in the
-// current language. They come when a count has read its files, and go before the next begins.
+// current language. They come when a count has read its files, and go before the next begins;
+// a file of words that is read meanwhile leaves them.
 #pragma once
 
 #include <cstddef>

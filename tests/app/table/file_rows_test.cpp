@@ -72,6 +72,18 @@ TEST_F(FileRowsTest, AreThoseOfTheTextThatWasCountedLast) {
   EXPECT_THAT(Names(), IsEmpty());
 }
 
+TEST_F(FileRowsTest, StayWhenAFileOfWordsIsRead) {
+  CountThree();
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "cat\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
+  EXPECT_THAT(Column(FileColumn::kLines), ElementsAre("1.200", "2", ""));
+  Main().txbFile[0].SetText(folder.Write("one.txt", "one two"));
+  Main().optInFile.SetValue(true);
+  Count();
+  EXPECT_THAT(Names(), ElementsAre("one.txt"));
+}
+
 TEST_F(FileRowsTest, StandInTheOrderOfAColumnAlsoAfterTheNextCount) {
   CountThree();
   rows_.SetOrder(FileRows::Order{FileColumn::kBytes, false});
