@@ -4,7 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/character_set.h"
@@ -41,6 +43,8 @@ enum class Refusal {
   kCannotBeOpened,
   kNotText,
   kEmpty,
+  /// Its extension says that it is no text (ExtensionFilter::NeverText); nobody has tried.
+  kNeverText,
   kIsOutput,
   /// Reading began and failed; the error goes with it. Words read before it count.
   kReadFailed,
@@ -48,7 +52,7 @@ enum class Refusal {
 };
 
 /// Whether a file or folder that is left out for that reason should have been read: a list without
-/// it is not complete. What is no text, or empty, is left out by design.
+/// it is not complete. What is no text, be it by its extension, or empty, is left out by design.
 [[nodiscard]] bool IsFault(Refusal reason);
 
 /// What the bytes of a text look like. Without a mark each line is judged on its own, unless the
@@ -88,6 +92,20 @@ struct SkippedFile {
   std::string path;
   Refusal reason = Refusal::kNone;
   std::optional<RunTimeError> error;
+};
+
+/// Files of folders or of a list of paths that were left out by design.
+struct LeftOut {
+  /// By what is in them: no text, or empty.
+  std::int64_t byContents = 0;
+  /// By their extensions, of which there are these, in lower case.
+  std::int64_t byExtension = 0;
+  std::set<std::string> extensions;
+
+  void Add(const SkippedFile& file);
+  [[nodiscard]] std::int64_t InAll() const { return byContents + byExtension; }
+  /// Why, for people: "no text or empty, .jpg, .pdf". The first is in their language.
+  [[nodiscard]] std::string Reasons(std::string_view noTextOrEmpty) const;
 };
 
 enum class CountEnd {
@@ -147,8 +165,7 @@ struct CountResult {
   /// the first kMaxSkipped, and how many in all.
   std::vector<SkippedFile> skipped;
   std::int64_t skippedInAll = 0;
-  /// Files that were left out by design: no text, or empty.
-  std::int64_t leftOut = 0;
+  LeftOut leftOut;
 
   /// What was met and not counted.
   Uncounted uncounted;

@@ -57,6 +57,7 @@ void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
   }
   state_.BeginScan(state_.settings.CountOnlyMode && state_.request.tallyFiles);
   visit({.onFile = [this](const std::string& path) { Meet(WalkItem::Kind::kFile, path); },
+         .onNeverText = [this](const std::string& path) { Meet(WalkItem::Kind::kNeverText, path); },
          .onSubfolder = [this] { Meet(WalkItem::Kind::kSubfolder, {}); },
          .onUnreadableFolder =
              [this](const std::string& path) { Meet(WalkItem::Kind::kUnreadableFolder, path); },
@@ -194,11 +195,19 @@ void FolderPass::Take(WalkItem& item, std::size_t scanner) {
     case WalkItem::Kind::kSubfolder:
       ++state_.result.folders;
       return;
+    case WalkItem::Kind::kNeverText:
+      if (state_.request.keepReports) item.report.bytes = FileLength(item.report.path);
+      return LeaveOut(item, Refusal::kNeverText);
     case WalkItem::Kind::kUnreadableFolder:
-      item.report.refusal = Refusal::kFolderUnreadable;
-      Skip({item.report.path, item.report.refusal, {}});
-      return Keep(item.report);
+      return LeaveOut(item, Refusal::kFolderUnreadable);
   }
+}
+
+/// Of what nobody tries to read.
+void FolderPass::LeaveOut(WalkItem& item, Refusal reason) {
+  item.report.refusal = reason;
+  Skip({item.report.path, reason, {}});
+  Keep(item.report);
 }
 
 void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
@@ -287,7 +296,7 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
 void FolderPass::Skip(const SkippedFile& skipped) {
   CountResult& result = state_.result;
   if (!IsFault(skipped.reason)) {
-    ++result.leftOut;
+    result.leftOut.Add(skipped);
   } else if (++result.skippedInAll; result.skipped.size() < CountResult::kMaxSkipped) {
     result.skipped.push_back(skipped);
   }

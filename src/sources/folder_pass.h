@@ -46,6 +46,7 @@ class FolderPass {
   void TakeRest();
 
   void Take(WalkItem& item, std::size_t scanner);
+  void LeaveOut(WalkItem& item, Refusal reason);
   void TakeFile(WalkItem& item, std::size_t scanner);
   void ReadFile(WalkItem& item, std::size_t scanner);
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);

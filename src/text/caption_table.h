@@ -332,6 +332,7 @@ inline constexpr int kRunsLeftWholeText = 713;
 inline constexpr int kWordsGoneText = 714;
 inline constexpr int kFilesLeftOutText = 740;
 inline constexpr int kFileLeftOutText = 741;
+inline constexpr int kNoTextOrEmptyText = 742;
 inline constexpr int kBytesNotDecodedText = 726;
 inline constexpr int kByteNotDecodedText = 727;
 inline constexpr int kLinesNotUtf8Text = 728;
@@ -374,6 +375,7 @@ inline constexpr int kFileNotOpenedText = 846;
 inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
+inline constexpr int kFileIsNeverTextText = 851;
 
 // A count that was stopped: how far it came ("%1" of "%2"), and what that means.
 inline constexpr int kStoppedAfterFilesText = 860;

@@ -228,6 +228,27 @@ TEST_F(NoticeBarTest, TellsOfFilesThatWereLeftOut) {
   EXPECT_EQ(Said(), "") << "of another text";
 }
 
+TEST_F(NoticeBarTest, TellsOfFilesWhoseExtensionsAreNeverText) {
+  for (const char* name : {"a.txt", "b.pdf", "c.JPG", "d.jpg"}) {
+    static_cast<void>(folder.Write(std::string("many/") + name, "cat"));
+  }
+  CountFolder(folder / "many");
+  EXPECT_EQ(Said(), "3 files were left out: .jpg, .pdf.");
+  static_cast<void>(folder.Write("many/e.txt", ""));
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  Count();
+  EXPECT_EQ(Said(), "4 files were left out: no text or empty, .jpg, .pdf.");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Said(), "4 Dateien wurden ausgelassen: kein Text oder leer, .jpg, .pdf.");
+  Main().cmdLanguage.PerformClick();
+  Main().txbFileExtensions[1].SetText("jpg pdf");
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  Count();
+  EXPECT_EQ(Said(), "One file was left out: no text or empty.") << "the user's own wish";
+}
+
 TEST_F(NoticeBarTest, MarksOfLettersAreLettersThatAreNotCounted) {
   CountFile(folder.Write("a.txt", "Mu\u0308ller, cafe\u0301 and maison n\u00BA"));
   EXPECT_EQ(Said(), "3 letters of other alphabets were not counted.");

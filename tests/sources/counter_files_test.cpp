@@ -196,7 +196,8 @@ TEST_F(ManyFiles, ThatAreNoTextAreLeftOut) {
   const CountResult result = Run(Whole());
   EXPECT_EQ(result.end, CountEnd::kComplete);
   EXPECT_EQ(result.files, 3);
-  EXPECT_EQ(result.leftOut, 2);
+  EXPECT_EQ(result.leftOut.InAll(), 2);
+  EXPECT_EQ(result.leftOut.byContents, 2);
   EXPECT_TRUE(result.skipped.empty());
 }
 

@@ -30,8 +30,7 @@ struct FolderFigures {
   std::int64_t skipped = 0;
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
-  /// Files that are no text, or empty.
-  std::int64_t filesLeftOut = 0;
+  LeftOut leftOut;
 };
 
 struct CurrentWords {

@@ -94,7 +94,10 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      {kOpenPanel}},
     {kFilesLeftOutText,
      kFileLeftOutText,
-     [](const NoticeFacts& facts) { return NumberOf(facts.filesLeftOut); },
+     [](const NoticeFacts& facts) {
+       if (facts.filesLeftOut == 0) return Values();
+       return Values(std::vector<NoticeValue>{facts.filesLeftOut, facts.leftOutBecause});
+     },
      {kShowLeftOut}},
     {kWordsToIgnoreText,
      kWordToIgnoreText,

@@ -48,8 +48,9 @@ struct NoticeFacts {
   /// What of the text's bytes was not as its encoding wants it (Uncounted).
   std::int64_t bytesNotDecoded = 0;
   std::int64_t linesNotUtf8 = 0;
-  /// Files of a folder that are no text, or empty.
+  /// Files of a folder that were left out by design, and why, in words.
   std::int64_t filesLeftOut = 0;
+  std::string leftOutBecause = {};
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   std::int64_t wordsToIgnore = 0;

@@ -77,7 +77,9 @@ NoticeFacts NoticeBar::Facts() const {
   }
   if (words_.counted.source == CountedText::Source::kFolder) {
     facts.skipped = countRun_.SkippedInAll();
-    facts.filesLeftOut = words_.folder.filesLeftOut;
+    const LeftOut& leftOut = words_.folder.leftOut;
+    facts.filesLeftOut = leftOut.InAll();
+    facts.leftOutBecause = leftOut.Reasons(messages_.Text(kNoTextOrEmptyText));
   }
   AddTextCounted(facts);
   const CountBasis& basis = countRun_.Basis();

@@ -17,6 +17,8 @@ int ReasonTextOf(Refusal refusal) {
       return kFileIsNoTextText;
     case Refusal::kEmpty:
       return kFileIsEmptyText;
+    case Refusal::kNeverText:
+      return kFileIsNeverTextText;
     case Refusal::kNotFound:
       return kFileNotFoundText;
     case Refusal::kFolderUnreadable:
