@@ -161,7 +161,7 @@ void NoticeBar::Do(NoticeAction action) {
     case NoticeAction::kShowSkipped:
       return ShowSkipped();
     case NoticeAction::kShowLeftOut:
-      return showSkipped_();
+      return showSkipped_(true);
     case NoticeAction::kCountAgain:
       return frmMain_.cmdCountWords.PerformClick();
     case NoticeAction::kCountAllLetters:
@@ -181,7 +181,7 @@ void NoticeBar::Dismiss() {
 }
 
 void NoticeBar::ShowSkipped() {
-  if (showSkipped_) return showSkipped_();
+  if (showSkipped_) return showSkipped_(false);
   std::string lines;
   for (const SkippedItem& item : countRun_.Skipped()) {
     lines.append(item.path).append(" (").append(item.reason).append(")").append(kCrLf);

@@ -96,6 +96,16 @@ TEST_F(FileRowsTest, StandInTheOrderOfAColumnAlsoAfterTheNextCount) {
   EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
 }
 
+TEST_F(FileRowsTest, TellWhetherAndWhereOneWasNotRead) {
+  CountFile(folder.Write("one.txt", "one two"));
+  EXPECT_FALSE(rows_.AnyNotRead());
+  EXPECT_EQ(rows_.FirstNotRead(true), std::nullopt);
+  CountThree();
+  EXPECT_TRUE(rows_.AnyNotRead());
+  EXPECT_EQ(rows_.FirstNotRead(true), 2U);
+  EXPECT_EQ(rows_.FirstNotRead(false), std::nullopt) << "what is no text is no fault";
+}
+
 TEST_F(FileRowsTest, SpeakTheLanguageOfTheProgram) {
   CountThree();
   Main().cmdLanguage.PerformClick();
