@@ -63,8 +63,9 @@ TEST(Notices, OneIsNotMany) {
 TEST(Notices, EveryCommandHasACaption) {
   for (const auto action :
        {NoticeAction::kShowSkipped, NoticeAction::kShowLeftOut, NoticeAction::kCountAgain,
-        NoticeAction::kCountAllLetters, NoticeAction::kOpenPanel, NoticeAction::kShowTable,
-        NoticeAction::kExport}) {
+        NoticeAction::kCountAllLetters, NoticeAction::kChangeEncoding,
+        NoticeAction::kChangeCountOnlyWords, NoticeAction::kChangeWordsToIgnore,
+        NoticeAction::kShowTable, NoticeAction::kExport}) {
     EXPECT_GT(CaptionOf(action), 0);
   }
   EXPECT_EQ(CaptionOf(NoticeAction::kNone), 0);
@@ -176,10 +177,19 @@ TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   ASSERT_THAT(Commands(), ElementsAre("Change"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_TRUE(Panel().Visible());
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsToIgnoreOrCount[0]);
   TypeWords(WordListKind::kCountOnly, "cat");
   EXPECT_EQ(Said(), "Settings have changed since this list.");
   Count();
   EXPECT_EQ(Said(), "Only one word is counted.");
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsToIgnoreOrCount[1]);
+  TypeWords(WordListKind::kCountOnly, "");
+  Panel().txbWordsFile[1].SetText(folder.Write("words.txt", "cat\r\n"));
+  Count();
+  EXPECT_EQ(Said(), "Only one word is counted.");
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
 }
 
 TEST_F(NoticeBarTest, ListOfWordsToIgnoreIsNotWhatWasLeftOut) {
@@ -297,6 +307,9 @@ TEST_F(NoticeBarTest, LinesThatWereNotUtf8AreTold) {
   CountFile(folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n"));
   EXPECT_EQ(Said(), "2 lines were not UTF-8 and were read as Windows-1252.");
   EXPECT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_TRUE(Panel().Visible());
+  EXPECT_EQ(Panel().Focused(), &Panel().cboEncoding);
   Main().cmdLanguage.PerformClick();
   EXPECT_EQ(Said(), "2 Zeilen waren kein UTF-8 und wurden als Windows-1252 gelesen.");
   CountFile(folder.Write("a.txt", "th\xE9\n"));

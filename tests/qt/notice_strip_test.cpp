@@ -39,6 +39,26 @@ TEST_F(NoticeStripTest, IsThereOnlyWhileThereIsSomethingToSay) {
   EXPECT_FALSE(strip.isVisible());
 }
 
+TEST_F(NoticeStripTest, ChangeLeadsToWhatIsToBeChanged) {
+  Count("caf\xE9");
+  user->windows.Panel().resize(860, 300);
+  user->Click(frmMain.cmdNotice[0]);
+  auto& encoding = user->WidgetOf<QComboBox>(user->program.frmParams.cboEncoding);
+  EXPECT_EQ(user->windows.Panel().focusWidget(), &encoding);
+  EXPECT_EQ(encoding.visibleRegion().boundingRect(), encoding.rect()) << "it is scrolled to";
+}
+
+TEST_F(NoticeStripTest, LettersOfThePanelLeadToLettersAndEncoding) {
+  for (int language = 0; language < 2; ++language) {
+    user->Settle();
+    for (const Label* label :
+         {&user->program.frmParams.lblLetters, &user->program.frmParams.lblEncoding}) {
+      EXPECT_TRUE(user->WidgetOf<QLabel>(*label).text().contains('&')) << label->Name();
+    }
+    user->Click(frmMain.cmdLanguage);
+  }
+}
+
 TEST_F(NoticeStripTest, IsNeverHigherThanALineOfCommands) {
   Count("the cat");
   const int height = strip.height();

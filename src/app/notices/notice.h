@@ -18,7 +18,10 @@ enum class NoticeAction : std::uint8_t {
   kShowLeftOut,
   kCountAgain,
   kCountAllLetters,
-  kOpenPanel,
+  // To open the panel where that is chosen.
+  kChangeEncoding,
+  kChangeCountOnlyWords,
+  kChangeWordsToIgnore,
   kShowTable,
   kExport,
 };

@@ -166,13 +166,30 @@ void NoticeBar::Do(NoticeAction action) {
       return frmMain_.cmdCountWords.PerformClick();
     case NoticeAction::kCountAllLetters:
       return countAllLetters_();
-    case NoticeAction::kOpenPanel:
-      return frmMain_.cmdSetParameters.PerformClick();
+    case NoticeAction::kChangeEncoding:
+      return OpenPanelAt(frmParams_.cboEncoding);
+    case NoticeAction::kChangeCountOnlyWords:
+      return OpenPanelAt(WordsBox(WordListKind::kCountOnly));
+    case NoticeAction::kChangeWordsToIgnore:
+      return OpenPanelAt(WordsBox(WordListKind::kIgnore));
     case NoticeAction::kShowTable:
       return showTable_();
     case NoticeAction::kExport:
       return export_();
   }
+}
+
+void NoticeBar::OpenPanelAt(Control& control) {
+  frmMain_.cmdSetParameters.PerformClick();
+  if (frmParams_.Visible()) frmParams_.SetFocus(control);
+}
+
+/// Where the words come from that the count went by: typed, or of a file.
+Control& NoticeBar::WordsBox(WordListKind kind) {
+  const auto index = static_cast<std::size_t>(kind);
+  TextBox& typed = frmParams_.txbWordsToIgnoreOrCount[index];
+  TextBox& file = frmParams_.txbWordsFile[index];
+  return typed.Text().empty() && !file.Text().empty() ? file : typed;
 }
 
 void NoticeBar::Dismiss() {

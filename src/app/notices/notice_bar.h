@@ -58,6 +58,8 @@ class NoticeBar {
   void Hide();
   [[nodiscard]] bool CanDo(NoticeAction action) const;
   void Do(NoticeAction action);
+  void OpenPanelAt(Control& control);
+  [[nodiscard]] Control& WordsBox(WordListKind kind);
   void Dismiss();
   void ShowSkipped();
 
