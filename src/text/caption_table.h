@@ -193,6 +193,7 @@ inline constexpr auto kExportFormCaptions = std::to_array<ControlCaption>({
     {"chkColumn(6)", 636},
     {"chkColumn(7)", 747},
     {"chkColumn(8)", 748},
+    {"lblFilesUnknown", 749},
 });
 
 /// Tool tips of frmExport.
@@ -221,6 +222,7 @@ inline constexpr int kExportCommandText = 738;
 inline constexpr int kNothingToExportText = 750;
 inline constexpr int kNoExportFileText = 751;
 inline constexpr int kNoExportFolderText = 752;
+inline constexpr int kExportIsFolderText = 766;
 inline constexpr int kExportIsTextText = 753;
 inline constexpr int kExportIsWordsFileText = 754;
 inline constexpr int kExportIsStateText = 755;

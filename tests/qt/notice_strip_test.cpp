@@ -143,6 +143,18 @@ TEST_F(NoticeStripTest, ManyLinesAreShownToBeScrolledThrough) {
   EXPECT_EQ(shown.count('\n'), 500);
 }
 
+TEST_F(NoticeStripTest, NameOfTheExportIsSelectedWhenItsWindowOpens) {
+  Count("the cat the dog cat");
+  for (int times = 0; times < 2; ++times) {
+    user->Click(frmMain.cmdExport);
+    auto& box = user->WidgetOf<QLineEdit>(user->program.frmExport.txbFile);
+    EXPECT_EQ(box.selectedText(), "a");
+    EXPECT_TRUE(box.text().left(box.cursorPosition()).endsWith("/a")) << "it is in view";
+    box.deselect();
+    user->Click(user->program.frmExport.cmdClose);
+  }
+}
+
 TEST_F(NoticeStripTest, ListIsExportedByTheKeyboardAlone) {
   Count("the cat the dog cat");
   user->Click(frmMain.cmdExport);
