@@ -123,7 +123,8 @@ enum class CountEnd {
 /// How far a count came that was stopped while text was read. What is not known is 0: how many
 /// files there are without a counting pass, the size of a pipe, anything of the clipboard.
 struct CountReach {
-  /// Files that were done with when the stop came, read or left out, of so many in all.
+  /// Files that were begun when the stop came, read, if only in part, or left out; of so many in
+  /// all.
   std::int32_t files = 0;
   std::int32_t filesInAll = 0;
   /// That were read; the last of them may not be counted.

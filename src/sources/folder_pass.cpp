@@ -65,7 +65,7 @@ void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
   TakeRest();
   const CountProgress& progress = state_.progress;
   state_.EndScan(
-      {filesBeforeStop_, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
+      {progress.filesDone, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
 }
 
 /// False when the count has ended with it.
@@ -218,7 +218,6 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   state_.result.store.Files().SetFileBeingScanned(report.path);
   texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
   ++progress.filesDone;
-  if (!state_.stop.Stopped()) filesBeforeStop_ = progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;
   progress.bytesWithLongLineEnds = 0;

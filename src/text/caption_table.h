@@ -380,7 +380,7 @@ inline constexpr int kFileReadInPartText = 849;
 inline constexpr int kFileIsNeverTextText = 851;
 
 // A count that was stopped: how far it came ("%1" of "%2"), and what that means.
-inline constexpr int kStoppedAfterFilesText = 860;
+inline constexpr int kStoppedAtFileText = 860;
 inline constexpr int kStoppedAfterBytesText = 861;
 inline constexpr int kStoppedBeforeTheEndText = 862;
 /// "%1" stands for one of the three.
