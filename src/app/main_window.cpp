@@ -84,6 +84,7 @@ void MainWindow::ConnectNotices() {
 
 void MainWindow::OnSuppressWordsClick() {
   CheckBox& box = frmMain_.chkSuppressWords;
+  output_.SetSuppressedByItself(false);
   if (box.IsChecked()) {
     box.SetToolTip("");
     if (!output_.IsEmpty() && output_.DisplayingWords()) {

@@ -204,6 +204,8 @@ void Program::End() {
   if (ended_) return;
   ended_ = true;
   if (frmParams.chkSaveStateOnQuit.IsChecked()) {
+    // What a large text has switched off is no choice to be kept.
+    if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
     const std::string error = parts_.savedState.SaveState("");
     if (!error.empty()) parts_.messages.Refuse(error, "Error");
   }

@@ -37,7 +37,7 @@ void CountWatch::OnFileEnds(const FileReport& /*report*/, const CountProgress& p
 
 void CountWatch::OnSkipped(const SkippedFile& skipped) {
   if (!IsFault(skipped.reason) && !input_.IsNamed(skipped.path)) {
-    ++leftOut_;
+    leftOut_.Add(skipped);
     return;
   }
   ++skippedInAll_;

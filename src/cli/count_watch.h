@@ -58,8 +58,8 @@ class CountWatch final : public CountObserver {
   /// everything. The first of it, and how many in all.
   [[nodiscard]] const std::vector<SkippedFile>& Skipped() const { return skipped_; }
   [[nodiscard]] std::int64_t SkippedInAll() const { return skippedInAll_; }
-  /// Files that were not named and are no text, or empty.
-  [[nodiscard]] std::int64_t LeftOut() const { return leftOut_; }
+  /// Of the files that were not named.
+  [[nodiscard]] const LeftOut& FilesLeftOut() const { return leftOut_; }
 
  private:
   /// Words between two looks: some hundred microseconds.
@@ -74,7 +74,7 @@ class CountWatch final : public CountObserver {
   std::optional<ProgressLine> line_;
   std::vector<SkippedFile> skipped_;
   std::int64_t skippedInAll_ = 0;
-  std::int64_t leftOut_ = 0;
+  LeftOut leftOut_;
   std::uint32_t callsLeft_ = kCallsPerLook;
   bool stopped_ = false;
 };

@@ -129,7 +129,7 @@ void DirectCount::TellSkipped(const CountWatch& watch) const {
                         : skipped.path + ": " + ReasonText(skipped));
   }
   PrintSkipped(streams_.err, items, watch.SkippedInAll(), messages_);
-  PrintLeftOut(streams_.err, watch.LeftOut(), messages_);
+  PrintLeftOut(streams_.err, watch.FilesLeftOut(), messages_);
 }
 
 bool DirectCount::HasWords(const CountResult& result, const CountWatch& watch) {

@@ -14,11 +14,13 @@ void PrintSkipped(std::ostream& err, const std::vector<std::string>& items, std:
   if (more > 0) err << kSkipped << messages.Grouped(more) << " more\n";
 }
 
-void PrintLeftOut(std::ostream& err, std::int64_t files, const Messages& messages) {
+void PrintLeftOut(std::ostream& err, const LeftOut& leftOut, const Messages& messages) {
+  const std::int64_t files = leftOut.InAll();
   if (files == 0) return;
   err << Headed{MessageTone::kWarning, "Note: "} << messages.Grouped(files)
       << (files == 1 ? " file was" : " files were")
-      << " left out: no text or empty; --report names " << (files == 1 ? "it" : "them") << ".\n";
+      << " left out: " << leftOut.Reasons("no text or empty") << "; --report names "
+      << (files == 1 ? "it" : "them") << ".\n";
 }
 
 }  // namespace quillomat

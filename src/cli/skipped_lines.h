@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/messages.h"
+#include "sources/count_result.h"
 
 namespace quillomat {
 
@@ -16,6 +17,6 @@ void PrintSkipped(std::ostream& err, const std::vector<std::string>& items, std:
                   const Messages& messages);
 
 /// One line for all files that were left out by design, if there are any.
-void PrintLeftOut(std::ostream& err, std::int64_t files, const Messages& messages);
+void PrintLeftOut(std::ostream& err, const LeftOut& leftOut, const Messages& messages);
 
 }  // namespace quillomat

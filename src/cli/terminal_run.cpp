@@ -392,7 +392,7 @@ class TerminalRun {
     }
     const Messages messages(desktop_, program_.Text());
     PrintSkipped(err_, items, program_.Count().SkippedInAll(), messages);
-    PrintLeftOut(err_, program_.Words().folder.filesLeftOut, messages);
+    PrintLeftOut(err_, program_.Words().folder.leftOut, messages);
   }
 
   /// What the window would show in place of a list; else a message has told why, but not of what.

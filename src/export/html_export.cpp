@@ -1,5 +1,7 @@
 // One page of HTML that needs nothing else: a table whose columns sort when their heads are
 // clicked.
+#include <algorithm>
+
 #include "export/export_writer.h"
 
 namespace quillomat {
@@ -27,6 +29,10 @@ tbody tr:nth-child(even) { background: color-mix(in srgb, CanvasText 5%, Canvas)
 <h1>Word frequencies</h1>
 )";
 
+/// The totals, which stand open then, say what is missing.
+constexpr std::string_view kPartNotice =
+    "<p role=\"note\"><strong>This list is of a part of the text.</strong></p>\n";
+
 /// Sorts the rows by the column whose head was clicked, the other way at a second click.
 constexpr std::string_view kTail = R"(</tbody>
 </table>
@@ -48,9 +54,19 @@ heads.forEach((head, column) => head.firstElementChild.addEventListener("click",
 </html>
 )";
 
-void AppendFacts(std::string& out, std::string_view title, const std::vector<ExportFact>& facts) {
+/// Whether the totals say that something of the text is missing.
+bool IsOfPart(const ExportTable& table) {
+  const ExportFact incomplete{"complete", false};
+  return std::ranges::find(table.totals, incomplete) != table.totals.end();
+}
+
+void AppendFacts(std::string& out, std::string_view title, const std::vector<ExportFact>& facts,
+                 bool open = false) {
   if (facts.empty()) return;
-  out.append("<details><summary>").append(title).append("</summary>\n<table>\n");
+  out.append(open ? "<details open>" : "<details>")
+      .append("<summary>")
+      .append(title)
+      .append("</summary>\n<table>\n");
   for (const ExportFact& fact : facts) {
     out.append(R"(<tr><th class="text" scope="row">)");
     AppendHtml(out, fact.name);
@@ -75,7 +91,9 @@ void AppendHeads(std::string& out, const ExportTable& table) {
 bool WriteHtml(const ExportTable& table, ExportWriter& writer) {
   std::string& out = writer.Out();
   out.append(kHead);
-  AppendFacts(out, "Totals", table.totals);
+  const bool isOfPart = IsOfPart(table);
+  if (isOfPart) out.append(kPartNotice);
+  AppendFacts(out, "Totals", table.totals, isOfPart);
   AppendFacts(out, "Statistics", table.statistics);
   AppendFacts(out, "Settings", table.settings);
   AppendHeads(out, table);

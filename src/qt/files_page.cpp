@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLocale>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
@@ -134,6 +135,7 @@ void FilesPage::SetUpTable() {
   titles.setSortIndicator(-1, Qt::AscendingOrder);  // as they were counted
   titles.setSortIndicatorClearable(true);
   table_->setSortingEnabled(true);
+  titles.moveSection(kSkippedSection, kPathSection + 1);  // else it would stand out of sight
   copy_->setShortcut(QKeySequence::Copy);
   copy_->setShortcutContext(Qt::WidgetShortcut);
   connect(copy_, &QAction::triggered, this, [this] { Copy(); });
@@ -163,16 +165,19 @@ void FilesPage::FitColumns() {
   constexpr int kMostRowsMeasured = 200;
   table_->horizontalHeader()->setResizeContentsPrecision(kMostRowsMeasured);
   table_->resizeColumnsToContents();
+  table_->setColumnHidden(kSkippedSection, !rows_.AnyNotRead());
   const int half = std::max(table_->viewport()->width() / 2, 120);
   if (table_->columnWidth(kPathSection) > half) table_->setColumnWidth(kPathSection, half);
   const int letters = fontMetrics().height();
   table_->verticalHeader()->setDefaultSectionSize(letters + letters / 4);
 }
 
-void FilesPage::ShowSkipped() {
+void FilesPage::ShowNotRead(bool byDesign) {
   table_->sortByColumn(kSkippedSection, Qt::DescendingOrder);
   table_->scrollToTop();
-  table_->setCurrentIndex(model_.index(0, kPathSection));
+  table_->horizontalScrollBar()->setValue(0);
+  const std::size_t row = rows_.FirstNotRead(byDesign).value_or(0);
+  table_->setCurrentIndex(model_.index(static_cast<int>(row), kPathSection));
   table_->setFocus(Qt::OtherFocusReason);
 }
 

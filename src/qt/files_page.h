@@ -49,8 +49,9 @@ class FilesPage final : public QWidget {
   void SetTexts(const ProgramText& text);
   [[nodiscard]] QTableView& Table() { return *table_; }
 
-  /// Puts what was not read first, and the keyboard there.
-  void ShowSkipped();
+  /// Puts what was not read first, and the keyboard there: on what should have been read or, of
+  /// what is left out by design, on that.
+  void ShowNotRead(bool byDesign);
   /// Puts the selected rows on the clipboard; all, if none is.
   void Copy() const;
 

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVariant>
 #include <algorithm>
 #include <stdexcept>
@@ -44,6 +45,13 @@ int AccessRank(const WidgetBinding* binding) {
   const QVariant rank = binding->Widget().property("accessRank");
   if (rank.isValid()) return rank.toInt();
   return binding->Source().Kind() == ControlKind::kCommandButton ? 1 : 2;
+}
+
+/// Where it stands on an area that scrolls, into view.
+void ScrollTo(QWidget& widget) {
+  for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(above)) area->ensureWidgetVisible(&widget);
+  }
 }
 
 }  // namespace
@@ -237,9 +245,13 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   Control* control = ControlOf(watched);
   if (control == nullptr) return QWidget::eventFilter(watched, event);
-  if (event->type() == QEvent::FocusIn && !showing_) {
-    arriving_ = control;
-    AwaitFocus();
+  if (event->type() == QEvent::FocusIn) {
+    const bool byMouse = static_cast<QFocusEvent&>(*event).reason() == Qt::MouseFocusReason;
+    if (!byMouse) ScrollTo(WidgetOf(*control));
+    if (!showing_) {
+      arriving_ = control;
+      AwaitFocus();
+    }
   }
   if (event->type() == QEvent::Wheel && control->Kind() == ControlKind::kComboBox &&
       !WidgetOf(*control).hasFocus()) {

@@ -155,17 +155,24 @@ void MainWindowView::ConnectViews() {
   NoticeBar& notices = program_.Notices();
   notices.SetTableShower([this] {
     views_->Show(kTableView);
+    LeaveControls();
     table_->setFocus(Qt::OtherFocusReason);
   });
-  notices.SetSkippedShower([this] {
+  notices.SetSkippedShower([this](bool byDesign) {
     views_->Show(kFilesView);
-    files_->ShowSkipped();
+    LeaveControls();
+    files_->ShowNotRead(byDesign);
   });
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
   program_.SetViewCopier([this] { return views_->Copy(); });
   program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
+}
+
+/// The keyboard goes to what shows no control: the one that was clicked must not take it back.
+void MainWindowView::LeaveControls() {
+  program_.frmMain.LoseFocus();
 }
 
 /// The notices stand over the empty list.

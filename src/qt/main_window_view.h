@@ -61,6 +61,7 @@ class MainWindowView final : public FormWindow {
  private:
   void PlaceViews();
   void ConnectViews();
+  void LeaveControls();
   void PlaceNotices();
   void PlaceNoticeStrip();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;

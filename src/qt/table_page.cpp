@@ -78,7 +78,6 @@ void TablePage::SetTexts(const ProgramText& text) {
     kind_.setItemText(kind, ToQt(text.GetText(kFirstFilterKindText + kind)));
   }
   view_.SetTexts(text);
-  hint_.setText(ToQt(text.GetText(kNoTableYetText)));
   ShowTotals();
 }
 
@@ -110,6 +109,8 @@ void TablePage::KeepRoomForTotals() {
 }
 
 void TablePage::ShowHint() {
+  const bool gaveWay = program_.Words().gaveWay;
+  hint_.setText(ToQt(program_.Text().GetText(gaveWay ? kTableGaveWayText : kNoTableYetText)));
   hint_.setVisible(table_.Rows() == nullptr && !program_.State().Busy());
 }
 

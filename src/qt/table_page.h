@@ -53,7 +53,7 @@ class TablePage final : public QWidget {
   QComboBox kind_;
   /// "37 words, 1,204 instances", or what is wrong with the filter.
   QLabel totals_;
-  /// In the middle of the table while no words have been counted.
+  /// In the middle of the table while there are no words to show: why not.
   QLabel hint_;
 };
 

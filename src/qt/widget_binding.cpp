@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "base/utf8.h"
 #include "qt/figure_label.h"
@@ -31,6 +32,7 @@ class LineBinding final : public WidgetBinding {
   LineBinding(TextBox& box, QLineEdit& line) : WidgetBinding(box, line), box_(box), line_(line) {
     QObject::connect(&line, &QLineEdit::textChanged,
                      [this](const QString& text) { box_.EnterText(FromQt(OnOneLine(text))); });
+    box.Selected.Connect([this] { selects_ = true; });
   }
 
  private:
@@ -43,14 +45,27 @@ class LineBinding final : public WidgetBinding {
 
   void ShowValue() override {
     const QString text = ToQt(box_.Text());
-    if (line_.text() == text) return;
-    const QSignalBlocker blocker(line_);
-    line_.setText(text);
-    line_.setCursorPosition(0);
+    if (line_.text() != text) {
+      const QSignalBlocker blocker(line_);
+      line_.setText(text);
+      line_.setCursorPosition(0);
+    }
+    if (std::exchange(selects_, false)) ShowSelection();
+  }
+
+  void ShowSelection() {
+    const std::string& text = box_.Text();
+    const auto before = [&text](std::size_t characters) {
+      return static_cast<int>(ToQt(text.substr(0, BytesOfFirst(text, characters))).size());
+    };
+    const int begin = before(box_.SelStart());
+    line_.setSelection(begin, before(box_.SelStart() + box_.SelLength()) - begin);
   }
 
   TextBox& box_;
   QLineEdit& line_;
+  /// The program has selected a part of the text since it was shown.
+  bool selects_ = false;
 };
 
 /// A text that grows at its end is appended to, so that showing it costs what was added.

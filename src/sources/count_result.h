@@ -4,7 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/character_set.h"
@@ -41,6 +43,8 @@ enum class Refusal {
   kCannotBeOpened,
   kNotText,
   kEmpty,
+  /// Its extension says that it is no text (ExtensionFilter::NeverText); nobody has tried.
+  kNeverText,
   kIsOutput,
   /// Reading began and failed; the error goes with it. Words read before it count.
   kReadFailed,
@@ -48,7 +52,7 @@ enum class Refusal {
 };
 
 /// Whether a file or folder that is left out for that reason should have been read: a list without
-/// it is not complete. What is no text, or empty, is left out by design.
+/// it is not complete. What is no text, be it by its extension, or empty, is left out by design.
 [[nodiscard]] bool IsFault(Refusal reason);
 
 /// What the bytes of a text look like. Without a mark each line is judged on its own, unless the
@@ -90,6 +94,20 @@ struct SkippedFile {
   std::optional<RunTimeError> error;
 };
 
+/// Files of folders or of a list of paths that were left out by design.
+struct LeftOut {
+  /// By what is in them: no text, or empty.
+  std::int64_t byContents = 0;
+  /// By their extensions, of which there are these, in lower case.
+  std::int64_t byExtension = 0;
+  std::set<std::string> extensions;
+
+  void Add(const SkippedFile& file);
+  [[nodiscard]] std::int64_t InAll() const { return byContents + byExtension; }
+  /// Why, for people: "no text or empty, .jpg, .pdf". The first is in their language.
+  [[nodiscard]] std::string Reasons(std::string_view noTextOrEmpty) const;
+};
+
 enum class CountEnd {
   kComplete,
   /// The observer asked for it while text was read; the words found until then are there.
@@ -105,7 +123,8 @@ enum class CountEnd {
 /// How far a count came that was stopped while text was read. What is not known is 0: how many
 /// files there are without a counting pass, the size of a pipe, anything of the clipboard.
 struct CountReach {
-  /// Files that were done with when the stop came, read or left out, of so many in all.
+  /// Files that were begun when the stop came, read, if only in part, or left out; of so many in
+  /// all.
   std::int32_t files = 0;
   std::int32_t filesInAll = 0;
   /// That were read; the last of them may not be counted.
@@ -147,8 +166,7 @@ struct CountResult {
   /// the first kMaxSkipped, and how many in all.
   std::vector<SkippedFile> skipped;
   std::int64_t skippedInAll = 0;
-  /// Files that were left out by design: no text, or empty.
-  std::int64_t leftOut = 0;
+  LeftOut leftOut;
 
   /// What was met and not counted.
   Uncounted uncounted;

@@ -22,9 +22,21 @@ bool Contains(const List& list, std::string_view item) {
 
 }  // namespace
 
+std::span<const std::string_view> ExtensionFilter::NeverText() {
+  return kNeverText;
+}
+
 bool ExtensionFilter::Admits(std::string_view fileName) const {
   const std::string extension = LowerCase(ExtensionOf(fileName));
-  if (Contains(kNeverText, extension)) return false;
+  return !Contains(kNeverText, extension) && IsAskedFor(extension);
+}
+
+bool ExtensionFilter::LeavesOutUnasked(std::string_view fileName) const {
+  const std::string extension = LowerCase(ExtensionOf(fileName));
+  return Contains(kNeverText, extension) && IsAskedFor(extension);
+}
+
+bool ExtensionFilter::IsAskedFor(const std::string& extension) const {
   return only.empty() ? !Contains(except, extension) : Contains(only, extension);
 }
 

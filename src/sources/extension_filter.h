@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,11 +21,19 @@ struct ExtensionFilter {
   std::vector<std::string> only;
   std::vector<std::string> except;
 
+  /// Those that are never text, in lower case.
+  [[nodiscard]] static std::span<const std::string_view> NeverText();
+
   /// Whether a file of that name is scanned.
   [[nodiscard]] bool Admits(std::string_view fileName) const;
+  /// Whether it would be scanned but for NeverText: the user has not left it out.
+  [[nodiscard]] bool LeavesOutUnasked(std::string_view fileName) const;
 
   /// Whether the user restricts the files at all.
   [[nodiscard]] bool AnyGiven() const { return !only.empty() || !except.empty(); }
+
+ private:
+  [[nodiscard]] bool IsAskedFor(const std::string& extension) const;
 };
 
 struct ParsedExtensions {

@@ -19,7 +19,7 @@
 namespace quillomat {
 
 struct WalkItem {
-  enum class Kind { kFile, kStandardInput, kSubfolder, kUnreadableFolder };
+  enum class Kind { kFile, kStandardInput, kNeverText, kSubfolder, kUnreadableFolder };
   /// What a thread has made of a file. What it cannot read as it should is left alone, so that it
   /// is read, and fails, in its turn.
   enum class State {

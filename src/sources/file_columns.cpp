@@ -49,6 +49,8 @@ std::string WhySkipped(const FileReport& report) {
       return "not text";
     case Refusal::kEmpty:
       return "empty";
+    case Refusal::kNeverText:
+      return "never text by its extension";
     case Refusal::kIsOutput:
       return "the output file";
     case Refusal::kIsFolder:

@@ -57,6 +57,7 @@ void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
   }
   state_.BeginScan(state_.settings.CountOnlyMode && state_.request.tallyFiles);
   visit({.onFile = [this](const std::string& path) { Meet(WalkItem::Kind::kFile, path); },
+         .onNeverText = [this](const std::string& path) { Meet(WalkItem::Kind::kNeverText, path); },
          .onSubfolder = [this] { Meet(WalkItem::Kind::kSubfolder, {}); },
          .onUnreadableFolder =
              [this](const std::string& path) { Meet(WalkItem::Kind::kUnreadableFolder, path); },
@@ -64,7 +65,7 @@ void FolderPass::ReadMany(std::int32_t folders, const Visit& visit) {
   TakeRest();
   const CountProgress& progress = state_.progress;
   state_.EndScan(
-      {filesBeforeStop_, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
+      {progress.filesDone, progress.filesInRun, progress.runBytesRead, progress.bytesInRun});
 }
 
 /// False when the count has ended with it.
@@ -194,11 +195,19 @@ void FolderPass::Take(WalkItem& item, std::size_t scanner) {
     case WalkItem::Kind::kSubfolder:
       ++state_.result.folders;
       return;
+    case WalkItem::Kind::kNeverText:
+      if (state_.request.keepReports) item.report.bytes = FileLength(item.report.path);
+      return LeaveOut(item, Refusal::kNeverText);
     case WalkItem::Kind::kUnreadableFolder:
-      item.report.refusal = Refusal::kFolderUnreadable;
-      Skip({item.report.path, item.report.refusal, {}});
-      return Keep(item.report);
+      return LeaveOut(item, Refusal::kFolderUnreadable);
   }
+}
+
+/// Of what nobody tries to read.
+void FolderPass::LeaveOut(WalkItem& item, Refusal reason) {
+  item.report.refusal = reason;
+  Skip({item.report.path, reason, {}});
+  Keep(item.report);
 }
 
 void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
@@ -209,7 +218,6 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   state_.result.store.Files().SetFileBeingScanned(report.path);
   texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
   ++progress.filesDone;
-  if (!state_.stop.Stopped()) filesBeforeStop_ = progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;
   progress.bytesWithLongLineEnds = 0;
@@ -287,7 +295,7 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
 void FolderPass::Skip(const SkippedFile& skipped) {
   CountResult& result = state_.result;
   if (!IsFault(skipped.reason)) {
-    ++result.leftOut;
+    result.leftOut.Add(skipped);
   } else if (++result.skippedInAll; result.skipped.size() < CountResult::kMaxSkipped) {
     result.skipped.push_back(skipped);
   }

@@ -46,6 +46,7 @@ class FolderPass {
   void TakeRest();
 
   void Take(WalkItem& item, std::size_t scanner);
+  void LeaveOut(WalkItem& item, Refusal reason);
   void TakeFile(WalkItem& item, std::size_t scanner);
   void ReadFile(WalkItem& item, std::size_t scanner);
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);
@@ -60,8 +61,6 @@ class FolderPass {
   ByteSource* standardInput_ = nullptr;
   /// Of those that were read.
   std::int64_t bytesOfFiles_ = 0;
-  /// Done with before anybody wanted the count to stop.
-  std::int32_t filesBeforeStop_ = 0;
 
   // On several threads.
   /// What was met and not handed over yet.

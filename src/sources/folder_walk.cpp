@@ -27,8 +27,13 @@ bool Walk(const std::string& path, const TextOfFolder& folder, const FolderVisit
     return true;
   }
   for (const std::string& name : listing->files) {
-    if (!folder.extensions.Admits(name)) continue;
-    visitor.onFile(PathForWalk(JoinPath(path, name)));
+    if (folder.extensions.Admits(name)) {
+      visitor.onFile(PathForWalk(JoinPath(path, name)));
+    } else if (visitor.onNeverText && folder.extensions.LeavesOutUnasked(name)) {
+      visitor.onNeverText(PathForWalk(JoinPath(path, name)));
+    } else {
+      continue;
+    }
     if (visitor.stops()) return false;
   }
   if (!folder.subfolders) return true;

@@ -13,6 +13,8 @@ namespace quillomat {
 /// What a walk does with what it meets.
 struct FolderVisitor {
   std::function<void(const std::string& path)> onFile;
+  /// A file that the filter leaves out unasked; may be empty.
+  std::function<void(const std::string& path)> onNeverText = {};
   /// A folder below the one that the walk started in.
   std::function<void()> onSubfolder;
   std::function<void(const std::string& path)> onUnreadableFolder;

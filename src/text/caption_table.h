@@ -193,6 +193,7 @@ inline constexpr auto kExportFormCaptions = std::to_array<ControlCaption>({
     {"chkColumn(6)", 636},
     {"chkColumn(7)", 747},
     {"chkColumn(8)", 748},
+    {"lblFilesUnknown", 749},
 });
 
 /// Tool tips of frmExport.
@@ -221,6 +222,7 @@ inline constexpr int kExportCommandText = 738;
 inline constexpr int kNothingToExportText = 750;
 inline constexpr int kNoExportFileText = 751;
 inline constexpr int kNoExportFolderText = 752;
+inline constexpr int kExportIsFolderText = 766;
 inline constexpr int kExportIsTextText = 753;
 inline constexpr int kExportIsWordsFileText = 754;
 inline constexpr int kExportIsStateText = 755;
@@ -285,6 +287,7 @@ inline constexpr int kFirstColumnText = 630;
 inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
 inline constexpr int kNoTableYetText = 643;
+inline constexpr int kTableGaveWayText = 644;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 
@@ -323,14 +326,15 @@ inline constexpr int kSettingsChangedText = 705;
 inline constexpr int kOnlyWordsCountedText = 706;
 inline constexpr int kOnlyWordCountedText = 707;
 inline constexpr int kPartShownText = 708;
-inline constexpr int kWordsLeftOutText = 709;
-inline constexpr int kWordLeftOutText = 710;
+inline constexpr int kWordsToIgnoreText = 709;
+inline constexpr int kWordToIgnoreText = 710;
 inline constexpr int kLettersNotCountedText = 711;
 inline constexpr int kLetterNotCountedText = 712;
 inline constexpr int kRunsLeftWholeText = 713;
 inline constexpr int kWordsGoneText = 714;
 inline constexpr int kFilesLeftOutText = 740;
 inline constexpr int kFileLeftOutText = 741;
+inline constexpr int kNoTextOrEmptyText = 742;
 inline constexpr int kBytesNotDecodedText = 726;
 inline constexpr int kByteNotDecodedText = 727;
 inline constexpr int kLinesNotUtf8Text = 728;
@@ -379,9 +383,10 @@ inline constexpr int kFileNotOpenedText = 846;
 inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
+inline constexpr int kFileIsNeverTextText = 851;
 
 // A count that was stopped: how far it came ("%1" of "%2"), and what that means.
-inline constexpr int kStoppedAfterFilesText = 860;
+inline constexpr int kStoppedAtFileText = 860;
 inline constexpr int kStoppedAfterBytesText = 861;
 inline constexpr int kStoppedBeforeTheEndText = 862;
 /// "%1" stands for one of the three.

@@ -28,6 +28,7 @@ void TakeClick(Control& control, const std::function<void()>& action) {
 
 void TextBox::SetText(std::string text) {
   SetSelStart(0);
+  selLength_ = 0;
   if (text_ == text) return;
   text_ = std::move(text);
   length_ = CharacterCount(text_);
@@ -51,6 +52,13 @@ void TextBox::AppendText(std::string_view text) {
 
 void TextBox::SetSelStart(std::size_t selStart) {
   Assign(selStart_, std::min(selStart, length_));
+}
+
+void TextBox::Select(std::size_t selStart, std::size_t length) {
+  SetSelStart(selStart);
+  selLength_ = std::min(length, length_ - selStart_);
+  Selected.Fire();
+  Changed.Fire();
 }
 
 void CheckBox::SetValue(CheckState value) {

@@ -40,16 +40,23 @@ class TextBox final : public Control {
   [[nodiscard]] std::size_t SelStart() const { return selStart_; }
   /// A place behind the end is the end.
   void SetSelStart(std::size_t selStart);
+  /// So many characters behind the caret are selected: what is typed takes their place. None of a
+  /// new text.
+  [[nodiscard]] std::size_t SelLength() const { return selLength_; }
+  void Select(std::size_t selStart, std::size_t length);
 
   /// The text has changed, whoever changed it.
   Event<> Change;
   /// The user has changed the text.
   Event<> Entered;
+  /// A part of it was selected, perhaps once more.
+  Event<> Selected;
 
  private:
   std::string text_;
   std::size_t length_ = 0;
   std::size_t selStart_ = 0;
+  std::size_t selLength_ = 0;
 };
 
 /// A control that shows a caption.

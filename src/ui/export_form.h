@@ -36,6 +36,9 @@ class ExportForm final : public Form {
                                     CheckBox{*this, {"chkColumn", 7}, "Number of files"},
                                     CheckBox{*this, {"chkColumn", 8}, "A row for each file"}};
 
+  /// Why those about files cannot be chosen.
+  Label lblFilesUnknown{*this, "lblFilesUnknown", "Files: known of folders with count-only words."};
+
   /// What came of it, or how far it is.
   Label lblState{*this, "lblState"};
   CommandButton cmdExport{*this, "cmdExport", "Export"};

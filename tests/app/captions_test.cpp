@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "app/settings_table.h"
 #include "base/utf8.h"
+#include "sources/extension_filter.h"
 #include "system/input_file.h"
 #include "text/program_text.h"
 #include "ui/export_form.h"
@@ -132,6 +134,17 @@ TEST_F(DeliveredTextsTest, ToolTips) {
   ExpectToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel));
   ExpectToolTipsOf(frmHelp, kHelpFormToolTips);
   ExpectToolTipsOf(ExportForm(), kExportFormToolTips);
+}
+
+TEST_F(DeliveredTextsTest, BoxOfExtensionsNamesThoseThatAreNeverText) {
+  const Setting* setting = FindSetting(AllSettings(), "txbFileExtensions(1)");
+  ASSERT_NE(setting, nullptr);
+  for (const Language language : kLanguages) {
+    const std::string tip = In(language, setting->toolTip) + " ";
+    for (const std::string_view extension : ExtensionFilter::NeverText()) {
+      EXPECT_THAT(tip, testing::HasSubstr(" " + std::string(extension) + " "));
+    }
+  }
 }
 
 TEST_F(DeliveredTextsTest, TextsOfTheFindBar) {

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <stdexcept>
 
+#include "base/utf8.h"
 #include "support/program_fixture.h"
 #include "system/file_system.h"
 
@@ -87,6 +88,44 @@ TEST_F(ExportWindowTest, EndingChoosesTheFormatAndANameWithoutOneGetsIt) {
   ExportTo(Target("plain"));
   EXPECT_EQ(Window().txbFile.Text(), Target("plain.tsv"));
   EXPECT_EQ(ContentsOf(Target("plain.tsv")), ContentsOf(Target("list.tsv")));
+}
+
+TEST_F(ExportWindowTest, FormatFollowsTheEndingWhileItIsTyped) {
+  OpenFor("cat");
+  Window().txbFile.EnterText(Target("list.json"));
+  EXPECT_EQ(Window().cboFormat.Text(), "JSON (.json)");
+  Window().txbFile.EnterText(Target("list.jsonl"));
+  EXPECT_EQ(Window().cboFormat.Text(), "JSON Lines (.jsonl)");
+  Window().txbFile.EnterText(Target("list.jsonly"));
+  EXPECT_EQ(Window().cboFormat.Text(), "JSON Lines (.jsonl)") << "none of ours";
+  EXPECT_EQ(Window().txbFile.Text(), Target("list.jsonly")) << "nobody writes into what is typed";
+}
+
+TEST_F(ExportWindowTest, SelectsTheNameWithoutItsEndingSoThatTypingReplacesIt) {
+  CountFile(folder.Write("caf\u00E9.txt", "cat"));
+  Main().cmdExport.PerformClick();
+  const std::size_t inFront =
+      CharacterCount(folder / "caf\u00E9.csv") - CharacterCount("caf\u00E9.csv");
+  EXPECT_EQ(Window().txbFile.SelStart(), inFront);
+  EXPECT_EQ(Window().txbFile.SelLength(), 4U);
+}
+
+TEST_F(ExportWindowTest, FolderIsToldToBeOne) {
+  OpenFor("cat");
+  ExportTo(folder / "out");
+  EXPECT_EQ(OnlyMessage().text, (folder / "out") +
+                                    " is a folder. Type the name of a file behind it, or click on "
+                                    "\"Choose...\".");
+}
+
+TEST_F(ExportWindowTest, SaysWhyColumnsOfFilesCannotBeChosen) {
+  OpenFor("cat");
+  EXPECT_TRUE(Window().lblFilesUnknown.Visible());
+  TypeWords(WordListKind::kCountOnly, "cat");
+  static_cast<void>(folder.Write("many/a.txt", "cat"));
+  CountFolder(folder / "many");
+  EXPECT_FALSE(Window().lblFilesUnknown.Visible());
+  EXPECT_TRUE(Window().chkColumn[7].Enabled());
 }
 
 TEST_F(ExportWindowTest, NameWithAnotherEndingGetsThatOfTheChosenFormat) {
@@ -187,7 +226,7 @@ TEST_F(ExportWindowTest, FaultsNameWhatIsWrong) {
   ExportTo("");
   EXPECT_THAT(complaint(), HasSubstr("No file is named"));
   ExportTo(folder.Path());
-  EXPECT_THAT(complaint(), HasSubstr("No file is named"));
+  EXPECT_THAT(complaint(), HasSubstr("is a folder"));
   ExportTo(folder / "nowhere/list.csv");
   EXPECT_THAT(complaint(), HasSubstr("There is no folder " + (folder / "nowhere")));
   for (const char* number : {"0", "-1", "ten", "1.5"}) {

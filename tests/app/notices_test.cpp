@@ -40,7 +40,7 @@ TEST(Notices, MostImportantComesFirst) {
   EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
                                         kBytesNotDecodedText, kLettersNotCountedText,
                                         kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsLeftOutText));
+                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
 }
 
 TEST(Notices, OneIsNotMany) {
@@ -54,7 +54,7 @@ TEST(Notices, OneIsNotMany) {
                .countOnlyWords = 1,
                .wordsToIgnore = 1}),
       ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
-                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordLeftOutText));
+                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordToIgnoreText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -63,8 +63,9 @@ TEST(Notices, OneIsNotMany) {
 TEST(Notices, EveryCommandHasACaption) {
   for (const auto action :
        {NoticeAction::kShowSkipped, NoticeAction::kShowLeftOut, NoticeAction::kCountAgain,
-        NoticeAction::kCountAllLetters, NoticeAction::kOpenPanel, NoticeAction::kShowTable,
-        NoticeAction::kExport}) {
+        NoticeAction::kCountAllLetters, NoticeAction::kChangeEncoding,
+        NoticeAction::kChangeCountOnlyWords, NoticeAction::kChangeWordsToIgnore,
+        NoticeAction::kShowTable, NoticeAction::kExport}) {
     EXPECT_GT(CaptionOf(action), 0);
   }
   EXPECT_EQ(CaptionOf(NoticeAction::kNone), 0);
@@ -172,14 +173,29 @@ TEST_F(NoticeBarTest, NamesTheTextOfTheListWhenAnotherIsChosen) {
 TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   TypeWords(WordListKind::kIgnore, "the and of");
   CountFile(folder.Write("a.txt", "the cat"));
-  EXPECT_EQ(Said(), "3 words are left out.");
+  EXPECT_EQ(Said(), "A list of 3 words to ignore is in use.");
   ASSERT_THAT(Commands(), ElementsAre("Change"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_TRUE(Panel().Visible());
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsToIgnoreOrCount[0]);
   TypeWords(WordListKind::kCountOnly, "cat");
   EXPECT_EQ(Said(), "Settings have changed since this list.");
   Count();
   EXPECT_EQ(Said(), "Only one word is counted.");
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsToIgnoreOrCount[1]);
+  TypeWords(WordListKind::kCountOnly, "");
+  Panel().txbWordsFile[1].SetText(folder.Write("words.txt", "cat\r\n"));
+  Count();
+  EXPECT_EQ(Said(), "Only one word is counted.");
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
+}
+
+TEST_F(NoticeBarTest, ListOfWordsToIgnoreIsNotWhatWasLeftOut) {
+  TypeWords(WordListKind::kIgnore, "of and");
+  CountClipboard("cat dog");
+  EXPECT_EQ(Said(), "A list of 2 words to ignore is in use.") << "nothing was left out";
 }
 
 TEST_F(NoticeBarTest, TellsOfSkippedFilesAndWhichTheyAre) {
@@ -213,13 +229,34 @@ TEST_F(NoticeBarTest, TellsOfFilesThatWereLeftOut) {
   EXPECT_EQ(Said(), "2 files were left out: no text or empty.");
   EXPECT_THAT(Commands(), testing::IsEmpty()) << "nothing here shows files";
   int shown = 0;
-  program.Notices().SetSkippedShower([&] { ++shown; });
+  program.Notices().SetSkippedShower([&](bool byDesign) { shown += byDesign ? 1 : 100; });
   program.Notices().Update();
   ASSERT_THAT(Commands(), ElementsAre("Which"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_EQ(shown, 1);
   CountFile(folder / "many/a.txt");
   EXPECT_EQ(Said(), "") << "of another text";
+}
+
+TEST_F(NoticeBarTest, TellsOfFilesWhoseExtensionsAreNeverText) {
+  for (const char* name : {"a.txt", "b.pdf", "c.JPG", "d.jpg"}) {
+    static_cast<void>(folder.Write(std::string("many/") + name, "cat"));
+  }
+  CountFolder(folder / "many");
+  EXPECT_EQ(Said(), "3 files were left out: .jpg, .pdf.");
+  static_cast<void>(folder.Write("many/e.txt", ""));
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  Count();
+  EXPECT_EQ(Said(), "4 files were left out: no text or empty, .jpg, .pdf.");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Said(), "4 Dateien wurden ausgelassen: kein Text oder leer, .jpg, .pdf.");
+  Main().cmdLanguage.PerformClick();
+  Main().txbFileExtensions[1].SetText("jpg pdf");
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  Count();
+  EXPECT_EQ(Said(), "One file was left out: no text or empty.") << "the user's own wish";
 }
 
 TEST_F(NoticeBarTest, MarksOfLettersAreLettersThatAreNotCounted) {
@@ -259,17 +296,20 @@ TEST_F(NoticeBarTest, ListIsSaidToBeGoneWhenAFileOfWordsIsRead) {
   Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "dog\r\n"));
   Panel().txbWordsFile[0].LostFocus.Fire();
   EXPECT_THAT(Output(), HasSubstr("cat"));
-  EXPECT_EQ(Said(), "A file of words was read since: the words of this list are gone.");
+  EXPECT_EQ(Said(), "A file of words was read since: of this list only the text is left.");
   EXPECT_THAT(Commands(), ElementsAre("Count again"));
   Main().cmdNotice[0].PerformClick();
   EXPECT_EQ(StoredWords(), "cat*2");
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
 }
 
 TEST_F(NoticeBarTest, LinesThatWereNotUtf8AreTold) {
   CountFile(folder.Write("a.txt", "caf\xE9\nth\xE9\ncat\n"));
   EXPECT_EQ(Said(), "2 lines were not UTF-8 and were read as Windows-1252.");
   EXPECT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_TRUE(Panel().Visible());
+  EXPECT_EQ(Panel().Focused(), &Panel().cboEncoding);
   Main().cmdLanguage.PerformClick();
   EXPECT_EQ(Said(), "2 Zeilen waren kein UTF-8 und wurden als Windows-1252 gelesen.");
   CountFile(folder.Write("a.txt", "th\xE9\n"));
@@ -292,7 +332,7 @@ TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {
   CountManyWords();
   EXPECT_THAT(Said(), HasSubstr("The text shows"));
   Main().cmdDismissNotice.PerformClick();
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
   Main().cmdDismissNotice.PerformClick();
   EXPECT_EQ(Said(), "");
   Main().cboWordOrder.SetListIndex(1);
@@ -321,10 +361,10 @@ TEST_F(NoticeBarTest, TableKeepsItsNoticeWhenNoFolderIsChosen) {
   TypeWords(WordListKind::kIgnore, "the");
   CountFile(folder.Write("a.txt", "the cat"));
   program.Notices().SetTextShown(false);
-  ASSERT_EQ(Said(), "One word is left out.");
+  ASSERT_EQ(Said(), "A list of one word to ignore is in use.");
   desktop.AnswerFolder(std::nullopt);
   Main().cmdFolder.PerformClick();
-  EXPECT_EQ(Said(), "One word is left out.");
+  EXPECT_EQ(Said(), "A list of one word to ignore is in use.");
   Main().optOnClipboard.PerformClick();
   EXPECT_EQ(Said(), "This list is of a.txt.");
   program.Notices().SetTextShown(true);
@@ -336,7 +376,7 @@ TEST_F(NoticeBarTest, SpeaksTheLanguageOfTheProgram) {
   TypeWords(WordListKind::kIgnore, "the and");
   CountFile(folder.Write("a.txt", "the cat"));
   Main().cmdLanguage.PerformClick();
-  EXPECT_EQ(Said(), "2 Wörter werden ausgelassen.");
+  EXPECT_EQ(Said(), "Eine Liste von 2 auszulassenden Wörtern gilt.");
   EXPECT_THAT(Commands(), ElementsAre("Ändern"));
 }
 

@@ -17,6 +17,12 @@ class Quitting : public ProgramFixture {
     program.Ended.Connect([this] { ++ends; });
   }
 
+  [[nodiscard]] bool SuppressedNextTime() {
+    Program next(desktop);
+    EXPECT_TRUE(next.Start({.userSettings = true, .window = false}));
+    return next.frmMain.chkSuppressWords.IsChecked();
+  }
+
   UserHome home;
   int ends = 0;
 };
@@ -27,6 +33,25 @@ TEST_F(Quitting, SavesTheStateEvenThoughNothingWasCounted) {
   EXPECT_THAT(desktop.Titles(), testing::IsEmpty());
   EXPECT_TRUE(program.HasEnded());
   EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Quitting, ForgetsThatALargeTextHasSuppressedTheDisplayOfWords) {
+  std::string text;
+  for (int i = 0; i < 8'000; ++i) {
+    for (int rest = i + 1; rest > 0; rest /= 26) text += static_cast<char>('a' + rest % 26);
+    text += "ab ";
+  }
+  CountFile(folder.Write("many.txt", text));
+  ASSERT_TRUE(Main().chkSuppressWords.IsChecked()) << "the box would not hold them";
+  Main().cmdQuit.PerformClick();
+  EXPECT_FALSE(SuppressedNextTime());
+}
+
+TEST_F(Quitting, KeepsTheUsersOwnWishToSuppressWords) {
+  Main().chkSuppressWords.PerformClick();
+  CountFile(folder.Write("a.txt", "cat"));
+  Main().cmdQuit.PerformClick();
+  EXPECT_TRUE(SuppressedNextTime());
 }
 
 TEST_F(Quitting, SavesNothingWhenTheUserDoesNotWishIt) {

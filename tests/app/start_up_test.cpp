@@ -245,6 +245,7 @@ TEST_F(Initialize, GoesThroughItsStepsInOrder) {
   note(Panel().chkCaseSignificant);
   note(Panel().cboThresholdFrequency);
   Panel().txbStateFile.SetText("x");
+  Main().lblNumberOfWords.SetVisible(true);
   steps.clear();
   program.Initialize();
   EXPECT_THAT(steps,

@@ -200,7 +200,9 @@ TEST_F(TerminalRunTest, WhatAFolderHoldsBesidesTextIsToldInOneLine) {
   static_cast<void>(folder.Write("many/a.txt", "bird"));
   static_cast<void>(folder.Write("many/b.txt", "a\1b"));
   static_cast<void>(folder.Write("many/c.txt", ""));
-  const std::string note = "Note: 2 files were left out: no text or empty; --report names them.\n";
+  static_cast<void>(folder.Write("many/d.pdf", "bee"));
+  const std::string note =
+      "Note: 3 files were left out: no text or empty, .pdf; --report names them.\n";
   EXPECT_EQ(Run({folder / "many"}), 0);
   EXPECT_EQ(err, note);
   EXPECT_EQ(

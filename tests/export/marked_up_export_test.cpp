@@ -24,6 +24,18 @@ TEST_F(MarkedUpExport, HtmlEscapesWordsAndSettings) {
   EXPECT_THAT(page, HasSubstr("txbStartComment(0)</th><td>&lt;</td>"));
 }
 
+TEST_F(MarkedUpExport, HtmlSaysAtItsTopThatSomethingOfTheTextIsMissing) {
+  Count({{"the", 1}});
+  totalsFacts_ = {{"complete", true}};
+  const std::string whole = Export(ExportFormat::kHtml, {WordColumn::kWord});
+  EXPECT_THAT(whole, HasSubstr("<details><summary>Totals"));
+  EXPECT_THAT(whole, Not(HasSubstr("part of the text")));
+  totalsFacts_ = {{"complete", false}, {"files-begun", std::int64_t{40}}};
+  const std::string part = Export(ExportFormat::kHtml, {WordColumn::kWord});
+  EXPECT_THAT(part, HasSubstr("<details open><summary>Totals"));
+  EXPECT_LT(part.find("part of the text"), part.find("<details"));
+}
+
 TEST_F(MarkedUpExport, WhatIsNoUtf8IsShownAsFarAsItIs) {
   CountInFile("/caf\xE9.txt");
   settings_ = {{"file", std::string("caf\xE9")}};

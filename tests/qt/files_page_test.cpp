@@ -54,13 +54,27 @@ TEST_F(FilesPageTest, ShowsTheFilesOfTheCountAndSortsThem) {
   user->Click(user->program.frmMain.cmdLanguage);
 }
 
-TEST_F(FilesPageTest, SkippedOnesComeFirstWhenTheyAreAskedFor) {
+TEST_F(FilesPageTest, OnesThatWereNotReadComeFirstWhenTheyAreAskedFor) {
   CountThree();
-  Window().Views().Show("files");
-  Window().FilesView().ShowSkipped();
-  user->Settle();
+  user->Click(user->program.frmMain.cmdNotice[0]);
+  EXPECT_EQ(Window().Views().Current(), "files");
   EXPECT_EQ(Names(), "cab");
   EXPECT_EQ(Table().currentIndex().row(), 0);
+  EXPECT_EQ(Window().focusWidget(), &Table());
+  EXPECT_EQ(Table().selectionModel()->selectedRows().size(), 1);
+}
+
+TEST_F(FilesPageTest, WhyAFileWasNotReadStandsInSightBesideIt) {
+  CountThree();
+  user->Click(user->program.frmMain.cmdNotice[0]);
+  const int reason = static_cast<int>(FileColumn::kSkipped);
+  EXPECT_EQ(Table().horizontalHeader()->visualIndex(reason), 1);
+  const int end = Table().columnViewportPosition(reason) + Table().columnWidth(reason);
+  EXPECT_LE(end, Table().viewport()->width());
+  user->program.frmMain.txbFile[1].SetText("");
+  user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_TRUE(Table().isColumnHidden(reason)) << "there is nothing to be told";
 }
 
 TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {

@@ -34,9 +34,29 @@ TEST_F(NoticeStripTest, IsThereOnlyWhileThereIsSomethingToSay) {
   EXPECT_TRUE(strip.isVisible());
   auto& label = user->WidgetOf<QLabel>(frmMain.lblNotice);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name),
-            "2 words are left out.");
+            "A list of 2 words to ignore is in use.");
   user->Click(frmMain.cmdDismissNotice);
   EXPECT_FALSE(strip.isVisible());
+}
+
+TEST_F(NoticeStripTest, ChangeLeadsToWhatIsToBeChanged) {
+  Count("caf\xE9");
+  user->windows.Panel().resize(860, 300);
+  user->Click(frmMain.cmdNotice[0]);
+  auto& encoding = user->WidgetOf<QComboBox>(user->program.frmParams.cboEncoding);
+  EXPECT_EQ(user->windows.Panel().focusWidget(), &encoding);
+  EXPECT_EQ(encoding.visibleRegion().boundingRect(), encoding.rect()) << "it is scrolled to";
+}
+
+TEST_F(NoticeStripTest, LettersOfThePanelLeadToLettersAndEncoding) {
+  for (int language = 0; language < 2; ++language) {
+    user->Settle();
+    for (const Label* label :
+         {&user->program.frmParams.lblLetters, &user->program.frmParams.lblEncoding}) {
+      EXPECT_TRUE(user->WidgetOf<QLabel>(*label).text().contains('&')) << label->Name();
+    }
+    user->Click(frmMain.cmdLanguage);
+  }
 }
 
 TEST_F(NoticeStripTest, IsNeverHigherThanALineOfCommands) {
@@ -121,6 +141,18 @@ TEST_F(NoticeStripTest, ManyLinesAreShownToBeScrolledThrough) {
   });
   user->desktop.ShowText(lines, "Skipped files");
   EXPECT_EQ(shown.count('\n'), 500);
+}
+
+TEST_F(NoticeStripTest, NameOfTheExportIsSelectedWhenItsWindowOpens) {
+  Count("the cat the dog cat");
+  for (int times = 0; times < 2; ++times) {
+    user->Click(frmMain.cmdExport);
+    auto& box = user->WidgetOf<QLineEdit>(user->program.frmExport.txbFile);
+    EXPECT_EQ(box.selectedText(), "a");
+    EXPECT_TRUE(box.text().left(box.cursorPosition()).endsWith("/a")) << "it is in view";
+    box.deselect();
+    user->Click(user->program.frmExport.cmdClose);
+  }
 }
 
 TEST_F(NoticeStripTest, ListIsExportedByTheKeyboardAlone) {

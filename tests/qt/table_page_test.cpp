@@ -70,6 +70,22 @@ class TablePageTest : public WindowFixture {
   }
 };
 
+TEST_F(TablePageTest, SaysThatAFileOfWordsHasTakenThePlaceOfTheWords) {
+  OpenTable();
+  EXPECT_TRUE(Says("No words have been counted yet. Choose a text and count its words."));
+  Count("cat dog");
+  EXPECT_EQ(Words().size(), 2U);
+  boxes.Answer(QMessageBox::Ok);
+  user->program.frmParams.txbWordsFile[0].SetText(folder.Write("words.txt", "cat\r\n"));
+  user->program.frmParams.txbWordsFile[0].LostFocus.Fire();
+  user->Settle();
+  EXPECT_TRUE(Says(
+      "A file of words was read since the last count. Count again to see the words of the text "
+      "here."));
+  Count("cat dog");
+  EXPECT_EQ(Words().size(), 1U);
+}
+
 TEST_F(TablePageTest, ListComesFirstAndTheChoiceIsRemembered) {
   EXPECT_EQ(Window().Views().Current(), "text");
   EXPECT_TRUE(Window().List().isVisible());

@@ -173,7 +173,7 @@ TEST_F(ManyFiles, AreStoppedInTheMiddle) {
   EXPECT_EQ(result.end, CountEnd::kStopped);
   EXPECT_EQ(WordsOf(result), "cat dog");
   EXPECT_EQ(result.files, 1);
-  EXPECT_EQ(result.stoppedAfter.value().files, 0) << "the first was not read to its end";
+  EXPECT_EQ(result.stoppedAfter.value().files, 1) << "the first was begun";
 }
 
 TEST_F(ManyFiles, SayAfterHowManyTheyWereStopped) {
@@ -183,7 +183,7 @@ TEST_F(ManyFiles, SayAfterHowManyTheyWereStopped) {
     observer.stopped = file.path.ends_with("c.txt");
   };
   const CountReach reach = Run(Whole()).stoppedAfter.value();
-  EXPECT_EQ(reach.files, 3) << "what is left out is done with, too";
+  EXPECT_EQ(reach.files, 4) << "what is left out was come to, too";
   EXPECT_EQ(reach.filesInAll, 4);
   EXPECT_EQ(reach.bytesInAll, 13);
 }
@@ -196,7 +196,8 @@ TEST_F(ManyFiles, ThatAreNoTextAreLeftOut) {
   const CountResult result = Run(Whole());
   EXPECT_EQ(result.end, CountEnd::kComplete);
   EXPECT_EQ(result.files, 3);
-  EXPECT_EQ(result.leftOut, 2);
+  EXPECT_EQ(result.leftOut.InAll(), 2);
+  EXPECT_EQ(result.leftOut.byContents, 2);
   EXPECT_TRUE(result.skipped.empty());
 }
 

@@ -42,6 +42,26 @@ class FileReports : public CounterFixture {
   }
 };
 
+TEST_F(FileReports, NameFilesWhoseExtensionsAreNeverText) {
+  Put("a.txt", "cat");
+  Put("b.PDF", "cat");
+  Put("sub/c.exe", "cat");
+  Put("sub/d.log", "cat");
+  for (const std::size_t threads : {1U, 3U}) {
+    request.threads = threads;
+    EXPECT_THAT(RowsOf(TextOfFolder{folder.Path(), true, {{}, {"log"}}}),
+                ElementsAre("a.txt 3 ASCII none 1 1 0 0 0 -",
+                            "b.PDF 3 - - - - - - - never text by its extension",
+                            "c.exe 3 - - - - - - - never text by its extension"));
+    EXPECT_THAT(RowsOf(TextOfFolder{folder.Path(), true, {{"txt"}, {}}}),
+                ElementsAre("a.txt 3 ASCII none 1 1 0 0 0 -"))
+        << "the others are not asked for";
+  }
+  EXPECT_THAT(RowsOf(TextOfPaths{{folder / "b.PDF"}, false, {}, nullptr}),
+              ElementsAre("b.PDF 3 ASCII none 1 1 0 0 0 -"))
+      << "it was named";
+}
+
 TEST_F(FileReports, TellOfEachFileHowItWasRead) {
   Put("a.txt", "The cat\nsat\n");
   Put("b.txt", "café\r\nłódź\r\n");

@@ -70,6 +70,19 @@ TEST_F(Controls, TextLengthCountsCharacters) {
   EXPECT_EQ(window_.txbText.Length(), 0U);
 }
 
+TEST_F(Controls, SelectionStaysInsideTheTextAndIsGoneWithIt) {
+  window_.txbText.SetText("na\u00EFve");
+  const Counter selected(window_.txbText.Selected);
+  window_.txbText.Select(2, 2);
+  EXPECT_EQ(window_.txbText.SelStart(), 2U);
+  EXPECT_EQ(window_.txbText.SelLength(), 2U);
+  window_.txbText.Select(3, 9);
+  EXPECT_EQ(window_.txbText.SelLength(), 2U);
+  EXPECT_EQ(selected.Count(), 2);
+  window_.txbText.SetText("other");
+  EXPECT_EQ(window_.txbText.SelLength(), 0U);
+}
+
 TEST_F(Controls, TextChangeFiresForNewTextsOnly) {
   const Counter change(window_.txbText.Change);
   window_.txbText.SetText("");

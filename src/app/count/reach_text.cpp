@@ -12,8 +12,7 @@ std::string ReachText(const CountReach& reach, const ProgramText& text,
   const auto files = [&](std::int32_t number) { return GroupDigits(number, separator); };
   const auto bytes = [](std::int64_t number) { return AmountText(static_cast<double>(number)); };
   if (reach.filesInAll > 1) {
-    return Filled(text.GetText(kStoppedAfterFilesText),
-                  {files(reach.files), files(reach.filesInAll)});
+    return Filled(text.GetText(kStoppedAtFileText), {files(reach.files), files(reach.filesInAll)});
   }
   if (reach.bytes > 0 && reach.bytes < reach.bytesInAll) {
     return Filled(text.GetText(kStoppedAfterBytesText),

@@ -9,7 +9,7 @@
 
 namespace quillomat {
 
-/// "Stopped after 50 of 300 files", or what is known, in the current language; without a full stop.
+/// "Stopped at file 50 of 300", or what is known, in the current language; without a full stop.
 /// `separator` stands between groups of digits.
 [[nodiscard]] std::string ReachText(const CountReach& reach, const ProgramText& text,
                                     std::string_view separator);

@@ -43,6 +43,7 @@ void WordEcho::Echo(std::string_view word, bool first) {
   output_.OutputToTxb(std::string(kCrLf).append(kCrLf).append(
       "[Suppressing display of words to avoid buffer overflow.]"));
   frmMain_.chkSuppressWords.SetChecked(true);
+  output_.SetSuppressedByItself(true);
 }
 
 }  // namespace quillomat

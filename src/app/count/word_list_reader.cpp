@@ -186,9 +186,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     if (IsWorthAWarning(type) && !IsOwnList(path)) ShowLineEndingWarning(messages_, type);
     const ScanChoices choices = ReadScanChoices(frmParams_);
     SetUpForWordsFile(inForce_.settings, choices);
-    const bool stood = words_.CanBeListed() || words_.gaveWay;
-    words_.Discard();  // first, so that the boxes' handlers find no count to ask about
-    words_.gaveWay = stood;
+    words_.GiveWay();  // first, so that the boxes' handlers find no count to ask about
     const ListReadingBoxes boxes(frmMain_, frmParams_);
     words_.store.Files().Reset(false);
     ConcealNumWords(frmMain_, false);
@@ -233,6 +231,7 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   if (!FileExists(path)) return TellNotFound(kind);
   output_.SaveOutputText();
   const bool ok = ReadWords(kind);
+  ConcealNumWords(frmMain_, false);  // how many words were read is no result
   if (run_.Quitting()) {
     // The rest of the file was not read, and nobody wants to know any more.
   } else if (ok) {

@@ -12,6 +12,7 @@
 #include "app/list/set_the_focus.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
+#include "base/utf8.h"
 #include "export/word_export.h"
 #include "system/file_system.h"
 #include "system/paths.h"
@@ -73,6 +74,7 @@ void ExportWindow::Connect() {
   frmExport_.cboFormat.SetListIndex(0);
   frmExport_.cboOrder.SetListIndex(0);
   frmExport_.cboFormat.Click.Connect([this] { ShowEnding(); });
+  frmExport_.txbFile.Entered.Connect([this] { FollowEnding(); });
   frmExport_.txbFile.LostFocus.Connect([this] {
     paths_.CompletePathIn(frmExport_.txbFile);
     FollowEnding();
@@ -97,6 +99,15 @@ void ExportWindow::Open() {
   frmExport_.SetState(WindowState::kNormal);  // it may be minimized
   frmExport_.Show();
   frmExport_.SetFocus(frmExport_.txbFile);
+  SelectName();
+}
+
+/// What is typed first takes the name's place; folder and ending stay.
+void ExportWindow::SelectName() const {
+  const std::string& path = frmExport_.txbFile.Text();
+  const std::string name = FileNamePartOf(path);
+  const std::size_t length = CharacterCount(WithoutEnding(name));
+  frmExport_.txbFile.Select(CharacterCount(path) - CharacterCount(name), length);
 }
 
 void ExportWindow::Prepare() {
@@ -133,6 +144,7 @@ void ExportWindow::OfferColumns() {
     if (isNew) box.SetChecked(std::ranges::find(usual, column) != usual.end());
     if (NeedsFiles(column)) box.SetEnabled(filesKnown);
   }
+  frmExport_.lblFilesUnknown.SetVisible(!filesKnown);
   filesKnown_ = filesKnown;
 }
 
@@ -230,8 +242,9 @@ bool ExportWindow::TakePath() {
   TextBox& txbFile = frmExport_.txbFile;
   paths_.CompletePathIn(txbFile);
   std::string path(TrimBlanks(txbFile.Text()));
-  if (FileNamePartOf(path).empty() || FolderExists(path)) {
-    Complain(Text(kNoExportFileText), txbFile);
+  const bool isFolder = FolderExists(path);
+  if (FileNamePartOf(path).empty() || isFolder) {
+    Complain(isFolder ? Text(kExportIsFolderText, {path}) : Text(kNoExportFileText), txbFile);
     return false;
   }
   if (!ExportFormatOfPath(path)) path.append(".").append(EndingOf(Format()));

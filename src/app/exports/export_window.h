@@ -54,6 +54,7 @@ class ExportWindow {
  private:
   void Prepare();
   void SuggestFile();
+  void SelectName() const;
   void OfferColumns();
   [[nodiscard]] ExportFormat Format() const;
   void FollowEnding();

@@ -51,7 +51,7 @@ std::vector<ExportFact> CompletenessOf(const CurrentWords& words) {
   add("skipped", words.folder.skipped);
   if (!words.stoppedAfter) return facts;
   const CountReach& reach = *words.stoppedAfter;
-  if (reach.filesInAll > 0) facts.push_back({"files-done", std::int64_t{reach.files}});
+  if (reach.filesInAll > 0) facts.push_back({"files-begun", std::int64_t{reach.files}});
   add("files-in-all", reach.filesInAll);
   add("bytes-read", reach.bytes);
   add("bytes-in-all", reach.bytesInAll);

@@ -30,8 +30,7 @@ struct FolderFigures {
   std::int64_t skipped = 0;
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
-  /// Files that are no text, or empty.
-  std::int64_t filesLeftOut = 0;
+  LeftOut leftOut;
 };
 
 struct CurrentWords {
@@ -52,8 +51,9 @@ struct CurrentWords {
   mutable Event<> WordsRanked;
   /// What became of the files of a count is known, whether there are words or not.
   mutable Event<> FilesKnown;
-  /// The words and the files are about to go: nobody may look at them any more.
+  // The words, or the files, are about to go: nobody may look at them any more.
   mutable Event<> WordsGo;
+  mutable Event<> FilesGo;
 
   /// Where they come from.
   CountedText counted;
@@ -86,6 +86,21 @@ struct CurrentWords {
 
   /// Empties the store: the words of the last count are gone, and with them what was known of them.
   void Discard() {
+    FilesGo.Fire();
+    files.clear();
+    stoppedAfter.reset();
+    DiscardWords();
+  }
+
+  /// Makes room for a file of words. What became of the files of the last count stays known.
+  void GiveWay() {
+    const bool stood = CanBeListed() || gaveWay;
+    DiscardWords();
+    gaveWay = stood;
+  }
+
+ private:
+  void DiscardWords() {
     WordsGo.Fire();
     store.Clear();
     totals = {};
@@ -94,9 +109,7 @@ struct CurrentWords {
     orderFigures.reset();
     uncounted = {};
     counted = {};
-    files.clear();
     folder = {};
-    stoppedAfter.reset();
     basis = {};
     settings.clear();
     completeRun = false;

@@ -42,6 +42,10 @@ class OutputBox {
   /// New words of a running count are being shown.
   [[nodiscard]] bool DisplayingWords() const { return displayingWords_; }
   void SetDisplayingWords(bool displaying) { displayingWords_ = displaying; }
+  /// A count has switched the display of words off since the box would not hold them; the user has
+  /// not chosen that.
+  [[nodiscard]] bool SuppressedByItself() const { return suppressedByItself_; }
+  void SetSuppressedByItself(bool byItself) { suppressedByItself_ = byItself; }
 
   [[nodiscard]] bool IsEmpty() const { return frmMain_.txbOutput.Text().empty(); }
 
@@ -80,6 +84,7 @@ class OutputBox {
   Desktop& desktop_;
   bool full_ = false;
   bool displayingWords_ = false;
+  bool suppressedByItself_ = false;
   ShownList list_;
   std::string saved_;
   ShownList savedList_;

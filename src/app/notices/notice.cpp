@@ -71,7 +71,7 @@ constexpr auto kRows = std::to_array<NoticeRow>({
     {kBytesNotDecodedText,
      kByteNotDecodedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.bytesNotDecoded); },
-     {kOpenPanel}},
+     {kChangeEncoding}},
     {kLettersNotCountedText,
      kLetterNotCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.foreignLetters); },
@@ -80,7 +80,7 @@ constexpr auto kRows = std::to_array<NoticeRow>({
     {kOnlyWordsCountedText,
      kOnlyWordCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.countOnlyWords); },
-     {kOpenPanel}},
+     {kChangeCountOnlyWords}},
     {kPartShownText,
      0,
      [](const NoticeFacts& facts) {
@@ -91,15 +91,18 @@ constexpr auto kRows = std::to_array<NoticeRow>({
     {kLinesNotUtf8Text,
      kLineNotUtf8Text,
      [](const NoticeFacts& facts) { return NumberOf(facts.linesNotUtf8); },
-     {kOpenPanel}},
+     {kChangeEncoding}},
     {kFilesLeftOutText,
      kFileLeftOutText,
-     [](const NoticeFacts& facts) { return NumberOf(facts.filesLeftOut); },
+     [](const NoticeFacts& facts) {
+       if (facts.filesLeftOut == 0) return Values();
+       return Values(std::vector<NoticeValue>{facts.filesLeftOut, facts.leftOutBecause});
+     },
      {kShowLeftOut}},
-    {kWordsLeftOutText,
-     kWordLeftOutText,
+    {kWordsToIgnoreText,
+     kWordToIgnoreText,
      [](const NoticeFacts& facts) { return NumberOf(facts.wordsToIgnore); },
-     {kOpenPanel}},
+     {kChangeWordsToIgnore}},
 });
 
 bool StartsWithOne(const std::vector<NoticeValue>& values) {
@@ -132,7 +135,9 @@ int CaptionOf(NoticeAction action) {
       return kCountAgainText;
     case kCountAllLetters:
       return kCountThemText;
-    case kOpenPanel:
+    case kChangeEncoding:
+    case kChangeCountOnlyWords:
+    case kChangeWordsToIgnore:
       return kChangeText;
     case kShowTable:
       return kTableViewText;

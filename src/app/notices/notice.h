@@ -18,7 +18,10 @@ enum class NoticeAction : std::uint8_t {
   kShowLeftOut,
   kCountAgain,
   kCountAllLetters,
-  kOpenPanel,
+  // To open the panel where that is chosen.
+  kChangeEncoding,
+  kChangeCountOnlyWords,
+  kChangeWordsToIgnore,
   kShowTable,
   kExport,
 };
@@ -48,8 +51,9 @@ struct NoticeFacts {
   /// What of the text's bytes was not as its encoding wants it (Uncounted).
   std::int64_t bytesNotDecoded = 0;
   std::int64_t linesNotUtf8 = 0;
-  /// Files of a folder that are no text, or empty.
+  /// Files of a folder that were left out by design, and why, in words.
   std::int64_t filesLeftOut = 0;
+  std::string leftOutBecause = {};
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   std::int64_t wordsToIgnore = 0;

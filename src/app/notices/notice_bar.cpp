@@ -77,7 +77,9 @@ NoticeFacts NoticeBar::Facts() const {
   }
   if (words_.counted.source == CountedText::Source::kFolder) {
     facts.skipped = countRun_.SkippedInAll();
-    facts.filesLeftOut = words_.folder.filesLeftOut;
+    const LeftOut& leftOut = words_.folder.leftOut;
+    facts.filesLeftOut = leftOut.InAll();
+    facts.leftOutBecause = leftOut.Reasons(messages_.Text(kNoTextOrEmptyText));
   }
   AddTextCounted(facts);
   const CountBasis& basis = countRun_.Basis();
@@ -159,18 +161,35 @@ void NoticeBar::Do(NoticeAction action) {
     case NoticeAction::kShowSkipped:
       return ShowSkipped();
     case NoticeAction::kShowLeftOut:
-      return showSkipped_();
+      return showSkipped_(true);
     case NoticeAction::kCountAgain:
       return frmMain_.cmdCountWords.PerformClick();
     case NoticeAction::kCountAllLetters:
       return countAllLetters_();
-    case NoticeAction::kOpenPanel:
-      return frmMain_.cmdSetParameters.PerformClick();
+    case NoticeAction::kChangeEncoding:
+      return OpenPanelAt(frmParams_.cboEncoding);
+    case NoticeAction::kChangeCountOnlyWords:
+      return OpenPanelAt(WordsBox(WordListKind::kCountOnly));
+    case NoticeAction::kChangeWordsToIgnore:
+      return OpenPanelAt(WordsBox(WordListKind::kIgnore));
     case NoticeAction::kShowTable:
       return showTable_();
     case NoticeAction::kExport:
       return export_();
   }
+}
+
+void NoticeBar::OpenPanelAt(Control& control) {
+  frmMain_.cmdSetParameters.PerformClick();
+  if (frmParams_.Visible()) frmParams_.SetFocus(control);
+}
+
+/// Where the words come from that the count went by: typed, or of a file.
+Control& NoticeBar::WordsBox(WordListKind kind) {
+  const auto index = static_cast<std::size_t>(kind);
+  TextBox& typed = frmParams_.txbWordsToIgnoreOrCount[index];
+  TextBox& file = frmParams_.txbWordsFile[index];
+  return typed.Text().empty() && !file.Text().empty() ? file : typed;
 }
 
 void NoticeBar::Dismiss() {
@@ -179,7 +198,7 @@ void NoticeBar::Dismiss() {
 }
 
 void NoticeBar::ShowSkipped() {
-  if (showSkipped_) return showSkipped_();
+  if (showSkipped_) return showSkipped_(false);
   std::string lines;
   for (const SkippedItem& item : countRun_.Skipped()) {
     lines.append(item.path).append(" (").append(item.reason).append(")").append(kCrLf);

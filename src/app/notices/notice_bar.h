@@ -41,9 +41,9 @@ class NoticeBar {
   // What shows the list as a table, what exports it, and what counts again with the letters of all
   // languages; without one there is no command for it.
   void SetTableShower(std::function<void()> show) { showTable_ = std::move(show); }
-  /// What shows the files that were skipped; without one a text names those that should have been
-  /// read.
-  void SetSkippedShower(std::function<void()> show) { showSkipped_ = std::move(show); }
+  /// What shows the files that were skipped or, of them, those that were left out by design;
+  /// without one a text names those that should have been read.
+  void SetSkippedShower(std::function<void(bool byDesign)> show) { showSkipped_ = std::move(show); }
   void SetExporter(std::function<void()> exportList) { export_ = std::move(exportList); }
   void SetLetterCounter(std::function<void()> countAll) { countAllLetters_ = std::move(countAll); }
   /// The user looks at the text, or at something else that shows all words.
@@ -58,6 +58,8 @@ class NoticeBar {
   void Hide();
   [[nodiscard]] bool CanDo(NoticeAction action) const;
   void Do(NoticeAction action);
+  void OpenPanelAt(Control& control);
+  [[nodiscard]] Control& WordsBox(WordListKind kind);
   void Dismiss();
   void ShowSkipped();
 
@@ -71,7 +73,7 @@ class NoticeBar {
   const CountRun& countRun_;
   Desktop& desktop_;
   std::function<void()> showTable_;
-  std::function<void()> showSkipped_;
+  std::function<void(bool byDesign)> showSkipped_;
   std::function<void()> export_;
   std::function<void()> countAllLetters_;
   bool textShown_ = true;

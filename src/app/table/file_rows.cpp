@@ -17,6 +17,8 @@ int ReasonTextOf(Refusal refusal) {
       return kFileIsNoTextText;
     case Refusal::kEmpty:
       return kFileIsEmptyText;
+    case Refusal::kNeverText:
+      return kFileIsNeverTextText;
     case Refusal::kNotFound:
       return kFileNotFoundText;
     case Refusal::kFolderUnreadable:
@@ -28,15 +30,26 @@ int ReasonTextOf(Refusal refusal) {
   }
 }
 
+bool IsNotRead(const FileReport& file) {
+  return file.refusal != Refusal::kNone || IsReadInPart(file);
+}
+
+FileCell SortKeyOf(const FileReport& file, FileColumn column) {
+  if (column != FileColumn::kSkipped || !IsNotRead(file)) return CellOf(file, column);
+  const bool byDesign = file.refusal != Refusal::kNone && !IsFault(file.refusal);
+  return (byDesign ? "1" : "2") + std::get<std::string>(CellOf(file, column));
+}
+
 }  // namespace
 
 FileRows::FileRows(const CurrentWords& words, const ProgramText& text)
     : words_(words), text_(text) {
   words_.FilesKnown.Connect([this] { TakeFiles(); });
-  words_.WordsGo.Connect([this] {
+  words_.FilesGo.Connect([this] {
     if (places_.empty()) return;
     Changing.Fire();
     places_.clear();
+    anyNotRead_ = false;
     Changed.Fire();
   });
 }
@@ -44,8 +57,18 @@ FileRows::FileRows(const CurrentWords& words, const ProgramText& text)
 void FileRows::TakeFiles() {
   Changing.Fire();
   places_.resize(words_.files.size());
+  anyNotRead_ = std::ranges::any_of(words_.files, IsNotRead);
   Arrange();
   Changed.Fire();
+}
+
+std::optional<std::size_t> FileRows::FirstNotRead(bool byDesign) const {
+  const auto found = std::ranges::find_if(places_, [&](std::uint32_t place) {
+    const FileReport& file = words_.files[place];
+    return file.refusal != Refusal::kNone && IsFault(file.refusal) != byDesign;
+  });
+  if (found == places_.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - places_.begin());
 }
 
 void FileRows::SetOrder(std::optional<Order> order) {
@@ -62,7 +85,7 @@ void FileRows::Arrange() {
   std::vector<FileCell> keys;
   keys.reserve(places_.size());
   for (const std::uint32_t place : places_) {
-    keys.push_back(CellOf(words_.files[place], order_->column));
+    keys.push_back(SortKeyOf(words_.files[place], order_->column));
   }
   std::ranges::stable_sort(places_, [&](std::uint32_t left, std::uint32_t right) {
     return order_->descending ? keys[right] < keys[left] : keys[left] < keys[right];

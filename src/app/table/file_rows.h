@@ -1,5 +1,6 @@
 // The files of the last count as rows of a table, for people: how each was read, or why not, in the
-// current language. They come when a count has read its files, and go before the next begins.
+// current language. They come when a count has read its files, and go before the next begins;
+// a file of words that is read meanwhile leaves them.
 #pragma once
 
 #include <cstddef>
@@ -37,7 +38,15 @@ class FileRows {
     FileColumn column = FileColumn::kPath;
     bool descending = false;
   };
-  /// Without an order they stand in that of the count. It holds for later counts, too.
+  /// Whether any was not read, or not to its end.
+  [[nodiscard]] bool AnyNotRead() const { return anyNotRead_; }
+  /// The first that should have been read and was not or, of those that are left out by design
+  /// (IsFault), the first of these.
+  [[nodiscard]] std::optional<std::size_t> FirstNotRead(bool byDesign) const;
+
+  /// By kSkipped what should have been read comes behind what is left out by design, which comes
+  /// behind what was read. Without an order they stand in that of the count. It holds for later
+  /// counts, too.
   void SetOrder(std::optional<Order> order);
 
  private:
@@ -50,6 +59,7 @@ class FileRows {
   std::optional<Order> order_;
   /// Of the files, in the order of the rows.
   std::vector<std::uint32_t> places_;
+  bool anyNotRead_ = false;
 };
 
 }  // namespace quillomat

@@ -67,10 +67,10 @@ class StoppedCount : public CountFixture {
 
 TEST_F(StoppedCount, SaysSoAboveTheListAndOffersANewCount) {
   StopInTheSecondFile();
-  EXPECT_EQ(Main().lblNotice.Caption(), "Stopped after 1 of 4 files: this list is not complete.");
+  EXPECT_EQ(Main().lblNotice.Caption(), "Stopped at file 2 of 4: this list is not complete.");
   EXPECT_THAT(Commands(), testing::ElementsAre("Count again"));
   Main().txbFolder.SetText(folder.Path());
-  EXPECT_THAT(Main().lblNotice.Caption(), StartsWith("Stopped after 1 of 4 files"));
+  EXPECT_THAT(Main().lblNotice.Caption(), StartsWith("Stopped at file 2 of 4"));
   EXPECT_THAT(Commands(), testing::IsEmpty()) << "it would be of another text";
   Main().txbFolder.SetText(folder / "texts");
   Main().cmdNotice[0].PerformClick();
@@ -80,8 +80,9 @@ TEST_F(StoppedCount, SaysSoAboveTheListAndOffersANewCount) {
 
 TEST_F(StoppedCount, IsNotExportedAsAWholeOne) {
   StopInTheSecondFile();
-  EXPECT_THAT(Facts(), AllOf(StartsWith("complete=false "), HasSubstr("files-done=1 "),
-                             HasSubstr("files-in-all=4 ")));
+  EXPECT_THAT(Facts(), AllOf(StartsWith("complete=false "), HasSubstr("files-begun=2 "),
+                             HasSubstr("files-in-all=4 "), HasSubstr("files=2 ")))
+      << "as many files as the list says";
   CountFile(folder / "texts/a.txt");
   EXPECT_THAT(Facts(), AllOf(StartsWith("complete=true "), Not(HasSubstr("files-in-all"))));
 }
@@ -90,8 +91,8 @@ TEST_F(StoppedCount, HasFiguresAndFilesThatSaySo) {
   StopInTheSecondFile();
   using Row = ResultStatistics::Row;
   EXPECT_EQ(statistics.Rows({}).front(),
-            (Row{"Of a part of the text", "Stopped after 1 of 4 files", false}));
-  EXPECT_EQ(files.StoppedText({}), "Stopped after 1 of 4 files");
+            (Row{"Of a part of the text", "Stopped at file 2 of 4", false}));
+  EXPECT_EQ(files.StoppedText({}), "Stopped at file 2 of 4");
   CountFile(folder / "texts/a.txt");
   EXPECT_EQ(statistics.Rows({}).front().name, "Instances of words");
   EXPECT_EQ(files.StoppedText({}), "");
@@ -110,7 +111,7 @@ TEST_F(StoppedCount, TellsItInTheLanguageOfTheProgram) {
   StopInTheSecondFile();
   Main().cmdLanguage.PerformClick();
   EXPECT_EQ(Main().lblNotice.Caption(),
-            "Nach 1 von 4 Dateien angehalten: Diese Liste ist nicht vollst\u00E4ndig.");
+            "Bei Datei 2 von 4 angehalten: Diese Liste ist nicht vollst\u00E4ndig.");
 }
 
 TEST_F(StoppedCount, LessThanTheWholeIsAlsoWhatSkipsAFile) {

@@ -172,8 +172,8 @@ TEST_F(WordListReaderTest, TheOutputTextIsThereAgainAfterwards) {
 TEST_F(WordListReaderTest, TheSummaryOfTheLastCountIsHidden) {
   CountClipboard("mouse");
   ReadFrom("dog");
-  for (const Label* label :
-       {&Main().lblNumWordsExcluded, &Main().lblNumOccurrences, &Main().lblTotalNumOccurrences}) {
+  for (const Label* label : {&Main().lblNumberOfWords, &Main().lblNumWordsExcluded,
+                             &Main().lblNumOccurrences, &Main().lblTotalNumOccurrences}) {
     EXPECT_FALSE(label->Visible()) << label->Name();
   }
 }
@@ -189,6 +189,13 @@ TEST_F(WordListReaderTest, EveryTenthWordReadIsShown) {
   ReadFrom(words);
   EXPECT_THAT(captions, ElementsAre("", "Number of words read so far: 10",
                                     "Number of words read so far: 20"));
+}
+
+TEST_F(WordListReaderTest, HowManyWordsWereReadIsNoResultThatStays) {
+  std::string words;
+  for (int i = 10; i < 35; ++i) words += "w" + std::to_string(i) + "\r\n";
+  ReadFrom(words);
+  EXPECT_FALSE(Main().lblNumberOfWords.Visible());
 }
 
 TEST_F(WordListReaderTest, TheBoxesThatReadingNeedsStandAsBefore) {

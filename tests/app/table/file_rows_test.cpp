@@ -72,6 +72,18 @@ TEST_F(FileRowsTest, AreThoseOfTheTextThatWasCountedLast) {
   EXPECT_THAT(Names(), IsEmpty());
 }
 
+TEST_F(FileRowsTest, StayWhenAFileOfWordsIsRead) {
+  CountThree();
+  Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "cat\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
+  EXPECT_THAT(Column(FileColumn::kLines), ElementsAre("1.200", "2", ""));
+  Main().txbFile[0].SetText(folder.Write("one.txt", "one two"));
+  Main().optInFile.SetValue(true);
+  Count();
+  EXPECT_THAT(Names(), ElementsAre("one.txt"));
+}
+
 TEST_F(FileRowsTest, StandInTheOrderOfAColumnAlsoAfterTheNextCount) {
   CountThree();
   rows_.SetOrder(FileRows::Order{FileColumn::kBytes, false});
@@ -82,6 +94,16 @@ TEST_F(FileRowsTest, StandInTheOrderOfAColumnAlsoAfterTheNextCount) {
   EXPECT_THAT(Names(), ElementsAre("c.txt", "a.txt", "b.txt"));
   rows_.SetOrder({});
   EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
+}
+
+TEST_F(FileRowsTest, TellWhetherAndWhereOneWasNotRead) {
+  CountFile(folder.Write("one.txt", "one two"));
+  EXPECT_FALSE(rows_.AnyNotRead());
+  EXPECT_EQ(rows_.FirstNotRead(true), std::nullopt);
+  CountThree();
+  EXPECT_TRUE(rows_.AnyNotRead());
+  EXPECT_EQ(rows_.FirstNotRead(true), 2U);
+  EXPECT_EQ(rows_.FirstNotRead(false), std::nullopt) << "what is no text is no fault";
 }
 
 TEST_F(FileRowsTest, SpeakTheLanguageOfTheProgram) {

@@ -50,7 +50,7 @@ TEST_F(RowCellsTest, TotalsOfAPartOfTheTextSayHowMuchOfIt) {
   Add("cat", 2);
   const CountReach reach{.files = 1050, .filesInAll = 3000};
   EXPECT_EQ(TotalsOf(Rows(), reach, text_, signs_),
-            "1 word, 2 instances \u2013 Stopped after 1.050 of 3.000 files");
+            "1 word, 2 instances \u2013 Stopped at file 1.050 of 3.000");
 }
 
 }  // namespace
