@@ -13,10 +13,10 @@ bool IsFault(Refusal reason) {
   }
 }
 
-void CountResult::Rank(const FilterChoices& filters) {
-  if (!countOnlyMode) ApplyWordFilters(store, filters);
-  totals = store.TallyWords();
-  ranking = RankByFrequency(store);
+void CountResult::Rank(const FilterChoices& filters, std::size_t threads) {
+  if (!countOnlyMode) ApplyWordFilters(store, filters, threads);
+  totals = store.TallyWords(threads);
+  ranking = RankByFrequency(store, threads);
 }
 
 }  // namespace quillomat
