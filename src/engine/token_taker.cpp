@@ -411,7 +411,6 @@ void TokenTaker::RememberIn(Memo& memo, Key key, std::size_t bytes,
   if (memoRest_.Rests()) return;
   if (memo.Find(key) != kUnknownToken) return;  // it may stand in the block twice
   if (memo.IsFullFor(bytes)) {
-    if (memoRest_.Begins()) return;
     store_.BringCounts();
     memo.Forget();
   }

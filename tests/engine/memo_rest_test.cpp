@@ -13,44 +13,47 @@
 namespace quillomat {
 namespace {
 
+constexpr std::size_t kLook = MemoRest::kUnknownPerLook;
+
 TEST(MemoRest, BeginsWhereHardlyATokenIsKnown) {
   MemoRest rest;
-  rest.Note(100, 95);
+  rest.Note(kLook - 1, kLook - 1);
   EXPECT_FALSE(rest.Rests());
-  EXPECT_TRUE(rest.Begins());
+  rest.Note(1, 1);
   EXPECT_TRUE(rest.Rests());
   EXPECT_TRUE(rest.Sleeps());
 }
 
 TEST(MemoRest, DoesNotBeginWhereMostTokensAreKnown) {
   MemoRest rest;
-  rest.Note(100, 40);
-  EXPECT_FALSE(rest.Begins());
+  rest.Note(3 * kLook, kLook);
   EXPECT_FALSE(rest.Rests());
+  EXPECT_FALSE(rest.Sleeps());
 }
 
 TEST(MemoRest, LooksTokensUpWhereSomeAreKnown) {
   MemoRest rest;
-  rest.Note(100, 60);
-  EXPECT_TRUE(rest.Begins());
+  rest.Note(3 * kLook, 2 * kLook);
   EXPECT_TRUE(rest.Rests());
   EXPECT_FALSE(rest.Sleeps());
 }
 
-TEST(MemoRest, EndsAndIsFollowedByATimeOfRemembering) {
+TEST(MemoRest, EndsAndMayBeginAgain) {
   MemoRest rest;
-  rest.Note(100, 100);
-  EXPECT_TRUE(rest.Begins());
-  rest.Note(10'000'000, 10'000'000);
+  rest.Note(kLook, kLook);
+  rest.Note(MemoRest::kTokensOfRest - 1, MemoRest::kTokensOfRest - 1);
+  EXPECT_TRUE(rest.Rests());
+  rest.Note(64, 64);
   EXPECT_FALSE(rest.Rests());
-  EXPECT_FALSE(rest.Begins());
-  rest.Note(100, 100);
-  EXPECT_TRUE(rest.Begins());
+  rest.Note(kLook - 1, kLook - 1);
+  EXPECT_FALSE(rest.Rests());
+  rest.Note(1, 1);
+  EXPECT_TRUE(rest.Rests());
 }
 
 class ManyDifferentWords : public EngineFixture {
  protected:
-  static constexpr std::uint32_t kWords = 150'000;
+  static constexpr std::uint32_t kWords = 400'000;
 
   static std::string WordOf(std::uint32_t number) {
     std::string word = "w";
