@@ -72,7 +72,7 @@ void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
 
 /// A line of numbers and a word, put together without a call for each of its columns: a list may
 /// have millions.
-class QuickLine {
+class QuickLine {  // NOLINT(cppcoreguidelines-pro-type-member-init): see text_
  public:
   static constexpr std::size_t kMostColumns = 3;
   static constexpr std::size_t kMostLead = 4;
@@ -93,7 +93,7 @@ class QuickLine {
   static constexpr std::size_t kMostBytes = kMostColumns * (kMostLead + kMostShortBytes);
   static_assert(kMostShortBytes >= kMostQuickDigits);
 
-  std::array<char, kMostBytes> text_;  // NOLINT(*-member-init): written before it is read
+  std::array<char, kMostBytes> text_;  // written before it is read
   std::size_t size_ = 0;
 };
 
