@@ -68,7 +68,7 @@ bool DirectCount::Run() {
                  << (options_.exports.empty() ? "the list is" : "list and exports are")
                  << " of what was counted until then\n";
   }
-  result.Rank(request.filters);
+  result.Rank(request.filters, request.threads);
   program_.Count().Take(std::move(result), text);
   return true;
 }

@@ -3,6 +3,7 @@
 // the program may have got for large blocks (system/large_pages.h).
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <memory_resource>
 #include <utility>
@@ -25,6 +26,26 @@ class ChunkedVector {
     if (size_ == chunks_.size() * kChunk) AddChunk();
     chunks_.back().emplace_back(std::forward<Arguments>(arguments)...);
     ++size_;
+  }
+
+  /// Takes the place of all items: room for `size` others, which are not there before MakeItems was
+  /// called for every one of ChunksOf(size) chunks.
+  void MakeRoom(std::size_t size) {
+    chunks_.clear();
+    chunks_.resize(ChunksOf(size));
+    size_ = size;
+  }
+  [[nodiscard]] static std::size_t ChunksOf(std::size_t size) {
+    return (size + kChunk - 1) / kChunk;
+  }
+  /// Has `make` make every item of a chunk, by its index, in order. Several threads may do so for
+  /// different chunks.
+  template <typename Make>
+  void MakeItems(std::size_t chunk, Make make) {
+    const std::size_t first = chunk * kChunk;
+    const std::size_t end = std::min(first + kChunk, size_);
+    chunks_[chunk].reserve(size_ > kChunk ? kChunk : size_);
+    for (std::size_t index = first; index < end; ++index) chunks_[chunk].push_back(make(index));
   }
 
   void Clear() {

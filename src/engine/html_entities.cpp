@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <optional>
 
-#include "base/letter_case.h"
 #include "base/utf8.h"
 #include "engine/char_class.h"
 
@@ -32,27 +33,44 @@ constexpr std::array<Entity, 62> kEntities = {{
     {"&yacute;", "ý"}, {"&yuml;", "ÿ"},
 }};
 
-constexpr bool NameLess(const Entity& left, const Entity& right) {
-  return left.name < right.name;
-}
-static_assert(std::is_sorted(kEntities.begin(), kEntities.end(), NameLess));
-
 constexpr std::size_t kLongestName = 8;
 static_assert(std::ranges::all_of(kEntities, [](const Entity& entity) {
   return entity.name.size() <= kLongestName;
 }));
 
-/// The letter of an entity ("&eacute;"), or an empty text when it is none that is decoded.
-std::string_view LetterOf(std::string_view entity) {
-  if (entity.size() > kLongestName) return {};
-  const auto* const found =
-      std::lower_bound(kEntities.begin(), kEntities.end(), Entity{entity, {}}, NameLess);
-  return found != kEntities.end() && found->name == entity ? found->letter : std::string_view();
+/// A name as a number, so that names are in the same order as numbers.
+constexpr std::uint64_t NumberOf(std::string_view name) {
+  std::uint64_t number = 0;
+  for (std::size_t i = 0; i < kLongestName; ++i) {
+    number = number << 8U | (i < name.size() ? static_cast<unsigned char>(name[i]) : 0U);
+  }
+  return number;
 }
 
-/// The same for an entity in any letter case; the letter is a small one.
-std::string_view LetterOfAnyCase(std::string_view entity) {
-  return entity.size() > kLongestName ? std::string_view() : LetterOf(LowerCase(entity));
+constexpr std::array<std::uint64_t, kEntities.size()> kNumbers = [] {
+  std::array<std::uint64_t, kEntities.size()> numbers{};
+  for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = NumberOf(kEntities[i].name);
+  return numbers;
+}();
+static_assert(std::ranges::is_sorted(kNumbers));
+
+/// The number of a name in small letters.
+std::uint64_t SmallNumberOf(std::string_view name) {
+  std::array<char, kLongestName> small{};
+  std::ranges::transform(name, small.begin(), [](char ch) {
+    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + ('a' - 'A')) : ch;
+  });
+  return NumberOf({small.data(), name.size()});
+}
+
+/// The letter of an entity ("&eacute;"), or an empty text when it is none that is decoded. With
+/// `anyCase` its letter case makes no difference, and the letter is a small one.
+std::string_view LetterOf(std::string_view entity, bool anyCase) {
+  if (entity.size() > kLongestName) return {};
+  const std::uint64_t number = anyCase ? SmallNumberOf(entity) : NumberOf(entity);
+  const auto* const found = std::ranges::lower_bound(kNumbers, number);
+  if (found == kNumbers.end() || *found != number) return {};
+  return kEntities[static_cast<std::size_t>(found - kNumbers.begin())].letter;
 }
 
 struct Decoding {
@@ -90,7 +108,7 @@ bool Decode(std::string_view source, Decoding& how, std::string& decoded) {
     position = end + 1;
     if (source[end] != ';') continue;
     const std::string_view entity = source.substr(ampersand, position - ampersand);
-    const std::string_view letter = how.anyCase ? LetterOfAnyCase(entity) : LetterOf(entity);
+    const std::string_view letter = LetterOf(entity, how.anyCase);
     if (letter.empty()) continue;
     decoded.append(source.substr(copied, ampersand - copied)).append(letter);
     copied = position;
@@ -98,6 +116,23 @@ bool Decode(std::string_view source, Decoding& how, std::string& decoded) {
   if (copied == 0) return false;
   decoded.append(source.substr(copied));
   return true;
+}
+
+bool IsAsciiLetter(char ch) {
+  return (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z');
+}
+
+/// Where an entity ends that consists of ASCII, which nearly all do: behind its ";", or 0 for none.
+/// Nothing where another character is met first. `text` starts with "&".
+std::optional<std::size_t> EndOfPlainEntity(std::string_view text) {
+  const std::string_view head = text.substr(0, kLongestHtmlEntity);
+  for (std::size_t i = 1; i < head.size(); ++i) {
+    const char ch = head[i];
+    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
+    if (ch == ' ' || (i == 1 && ch != '#' && !IsAsciiLetter(ch))) return 0;
+    if (ch == ';') return i + 1;
+  }
+  return 0;
 }
 
 }  // namespace
@@ -126,6 +161,7 @@ bool DecodeHtmlEntitiesOfPart(std::string_view part, bool anyCase, bool& hidden,
 std::size_t HtmlEntityEnd(std::string_view text) {
   constexpr std::size_t kShortest = 4;
   if (!text.starts_with('&')) return 0;
+  if (const auto end = EndOfPlainEntity(text)) return *end >= kShortest ? *end : 0;
   const std::string_view head = text.substr(0, BytesOfFirst(text, kLongestHtmlEntity));
   const std::size_t semicolon = head.find(';');
   if (semicolon == std::string_view::npos) return 0;

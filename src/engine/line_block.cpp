@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "base/letter_case.h"
 #include "base/utf8.h"
@@ -15,6 +16,20 @@ namespace {
 std::size_t LineEnd(std::string_view text, std::size_t position) {
   const std::size_t lineFeed = std::min(text.find('\n', position), text.size());
   return std::min(text.substr(0, lineFeed).find('\r', position), lineFeed);
+}
+
+/// Whether the "&" at the start of `rest` starts an entity in its line, where two hyphens become a
+/// blank; nothing where a character beyond ASCII is met before that is known.
+std::optional<bool> IsPlainEntityOfLines(std::string_view rest) {
+  const std::string_view head = rest.substr(0, kLongestHtmlEntity);
+  for (std::size_t i = 1; i < head.size(); ++i) {
+    const char ch = head[i];
+    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
+    if (ch == ';') return HtmlEntityEnd(head.substr(0, i + 1)) > 0;
+    if (ch == ' ' || ch == '\n' || ch == '\r') return false;
+    if (ch == '-' && head.substr(i).starts_with("--")) return false;
+  }
+  return false;
 }
 
 /// Finds the places where a comment may start, in order.
@@ -133,6 +148,7 @@ void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settin
 /// Whether an entity stands there once the line is rewritten.
 bool LineBlock::IsEntityAt(std::size_t position) const {
   const std::string_view rest = text_.substr(position);
+  if (const auto plain = IsPlainEntityOfLines(rest)) return *plain;
   // Letters and their marks may become fewer characters.
   const std::size_t most = kLongestHtmlEntity * (letters_ == LetterRule::kAll ? 4 : 1);
   std::string_view entity = rest.substr(0, BytesOfFirst(rest, most));

@@ -28,7 +28,7 @@ class LongTokenMemo {
 
     [[nodiscard]] bool IsFree() const { return hash == 0; }
   };
-  static constexpr std::size_t kMostTokens = MemoTable<Entry>::kMostTokens;
+  static constexpr std::size_t kMostTokens = 32'768;
 
   explicit LongTokenMemo(const HashSeed& seed = DrawnHashSeed()) : table_(seed) {}
 
@@ -69,7 +69,7 @@ class LongTokenMemo {
     }
 
    private:
-    MemoTable<Entry>::Places places_;
+    MemoTable<Entry, kMostTokens>::Places places_;
     HashSeed seed_;
     const char* letters_;
   };
@@ -121,7 +121,7 @@ class LongTokenMemo {
   }
   [[nodiscard]] static bool AreEqual(const char* left, const char* right, std::size_t size);
 
-  MemoTable<Entry> table_;
+  MemoTable<Entry, kMostTokens> table_;
   /// Those of all tokens, one behind the other.
   std::vector<char> letters_;
 };

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory_resource>
 #include <utility>
 #include <vector>
 
@@ -29,12 +30,10 @@ struct MemoEntry {
   static constexpr std::int32_t kNeverKept = std::numeric_limits<std::int32_t>::min();
 };
 
-template <typename Entry>
+/// Of at most `mostTokens` tokens, a power of two.
+template <typename Entry, std::size_t mostTokens>
 class MemoTable {
  public:
-  static constexpr std::size_t kMostTokens =
-      32'768;  // half of the entries, so that few share their place
-
   explicit MemoTable(const HashSeed& seed)
       : seed_(seed), entries_(kFirstEntries), outcomes_(kFirstEntries, kUnknownToken) {}
 
@@ -54,7 +53,7 @@ class MemoTable {
   /// ready as soon as no key is in use that was made before.
   [[nodiscard]] bool IsCrowded() const { return crowded_; }
   /// Whether it must forget before it can take a token.
-  [[nodiscard]] bool IsFull() const { return tokens_ == kMostTokens; }
+  [[nodiscard]] bool IsFull() const { return tokens_ == mostTokens; }
 
   [[nodiscard]] const HashSeed& Seed() const { return seed_; }
 
@@ -100,7 +99,8 @@ class MemoTable {
 
  private:
   static constexpr std::size_t kFirstEntries = 64;  // a power of two, as every number of entries
-  static constexpr std::size_t kMostEntries = 2 * kMostTokens;
+  /// Half of them are used, so that few tokens share their place.
+  static constexpr std::size_t kMostEntries = 2 * mostTokens;
   static constexpr unsigned kAllHashBits = 64;
   /// No half-filled table of chance comes near it.
   static constexpr std::size_t kFarthest = 256;
@@ -108,7 +108,7 @@ class MemoTable {
   template <typename HashOf>
   void Grow(HashOf hashOf) {
     // Where there is no memory for it, all stays.
-    std::vector<Entry> entries(2 * entries_.size());
+    std::pmr::vector<Entry> entries(2 * entries_.size());
     std::vector<TokenOutcome> outcomes(entries.size(), kUnknownToken);
     entries.swap(entries_);
     outcomes.swap(outcomes_);
@@ -130,7 +130,7 @@ class MemoTable {
 
   HashSeed seed_;
   bool crowded_ = false;
-  std::vector<Entry> entries_;
+  std::pmr::vector<Entry> entries_;
   /// By entry, apart from it since they are seldom asked for.
   std::vector<TokenOutcome> outcomes_;
   unsigned shift_ = kAllHashBits - static_cast<unsigned>(std::countr_zero(kFirstEntries));

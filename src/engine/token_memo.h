@@ -1,8 +1,9 @@
 // What became of the tokens that a scan has met, so that the next one like it costs one look-up.
 //
 // Holds the tokens of at most kMostBytes bytes, and at most kMostTokens of them: a text with more
-// different tokens makes it start anew from time to time. Its entries have at most 1 MiB: they are
-// to stay in the caches nearest to the processor, and four tokens share a line of them.
+// different tokens makes it start anew from time to time. Its entries have 1 MiB where up to 32,768
+// tokens are remembered, as in nearly all texts: they are to stay in the caches nearest to the
+// processor, and four tokens share a line of them. The most they have is 4 MiB.
 #pragma once
 
 #include <array>
@@ -26,7 +27,7 @@ class TokenMemo {
 
     [[nodiscard]] bool IsFree() const { return low == 0; }
   };
-  static constexpr std::size_t kMostTokens = MemoTable<Entry>::kMostTokens;
+  static constexpr std::size_t kMostTokens = 131'072;
 
   explicit TokenMemo(const HashSeed& seed = DrawnHashSeed()) : table_(seed) {}
 
@@ -61,7 +62,7 @@ class TokenMemo {
     }
 
    private:
-    MemoTable<Entry>::Places places_;
+    MemoTable<Entry, kMostTokens>::Places places_;
     HashSeed seed_;
   };
 
@@ -105,7 +106,7 @@ class TokenMemo {
   /// The key without its home, of a token behind which too little can be read.
   [[nodiscard]] static Key BytesAtEnd(std::string_view token);
 
-  MemoTable<Entry> table_;
+  MemoTable<Entry, kMostTokens> table_;
 };
 
 inline TokenMemo::Key TokenMemo::Finder::KeyOf(const char* text, std::size_t size,

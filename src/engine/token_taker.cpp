@@ -112,10 +112,24 @@ void TokenTaker::ForgetTokensOfOldStore() {
 void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t count) {
   ForgetTokensOfOldStore();
   ForgetNewTokens();
-  // In steps, so that the memory has time to bring what the next step needs.
+  const bool orderMatters = store_.OrderListener() != nullptr;
+  if (memoRest_.Sleeps()) {
+    for (std::size_t i = first; i < first + count; ++i) NoteNewToken(block, i);
+  } else {
+    TakeKnown(block, first, count, orderMatters);
+  }
+  if (orderMatters) NoteOutcomes(block, first, count);
+  memoRest_.Note(count, newTokens_.size());
+  if (!newTokens_.empty()) TakeNewTokens();
+  if (orderMatters) TellOrder(first);
+}
+
+/// Counts the tokens that are remembered and notes the others, in steps, so that the memory has
+/// time to bring what the next step needs.
+void TokenTaker::TakeKnown(const LineBlock& block, std::size_t first, std::size_t count,
+                           bool orderMatters) {
   Batch batch;  // NOLINT(cppcoreguidelines-pro-type-member-init): see there
   FindKeys(block, first, count, batch);
-  const bool orderMatters = store_.OrderListener() != nullptr;
   if (!orderMatters && MayKeep(count)) {
     store_.KeepCounts(*this, count);
     KeepKnown(block, first, memo_, batch.shortOnes);
@@ -124,9 +138,10 @@ void TokenTaker::TakeMany(const LineBlock& block, std::size_t first, std::size_t
     CountKnown(block, first, memo_, batch.shortOnes);
     CountKnown(block, first, longMemo_, batch.longOnes);
   }
-  if (orderMatters) NoteOutcomes(block, first, count);
-  if (!newTokens_.empty()) TakeNewTokens();
-  if (orderMatters) TellOrder(first);
+}
+
+void TokenTaker::NoteNewToken(const LineBlock& block, std::size_t number) {
+  newTokens_.push_back({number, block.TokenAt(number), 0});
 }
 
 /// Whether nothing can overflow within so many words.
@@ -173,8 +188,7 @@ void TokenTaker::KeepKnown(const LineBlock& block, std::size_t first, Memo& memo
       continue;
     --words;
     if (entry == nullptr) {
-      const std::size_t number = first + keys.numbers[i];
-      newTokens_.push_back({number, block.TokenAt(number), 0});
+      NoteNewToken(block, first + keys.numbers[i]);
       continue;
     }
     entry->kept = MemoEntry::kNeverKept;
@@ -202,8 +216,7 @@ void TokenTaker::CountKnown(const LineBlock& block, std::size_t first, Memo& mem
     if (IsSeveral(outcome)) {
       TakeSeveral(outcome);
     } else {
-      const std::size_t number = first + keys.numbers[i];
-      newTokens_.push_back({number, block.TokenAt(number), 0});
+      NoteNewToken(block, first + keys.numbers[i]);
     }
   }
   AddChecked(wordsRead_, words);
@@ -395,14 +408,15 @@ void TokenTaker::RememberToken(const NewToken& token, std::span<const NewWord> w
 template <typename Memo, typename Key>
 void TokenTaker::RememberIn(Memo& memo, Key key, std::size_t bytes,
                             std::span<const NewWord> words) {
+  if (memoRest_.Rests()) return;
   if (memo.Find(key) != kUnknownToken) return;  // it may stand in the block twice
-  TokenOutcome outcome = kNoWord;
-  if (words.size() == 1) outcome = words[0].outcome;
-  if (words.size() > 1) outcome = KeepSeveral(words);
   if (memo.IsFullFor(bytes)) {
     store_.BringCounts();
     memo.Forget();
   }
+  TokenOutcome outcome = kNoWord;
+  if (words.size() == 1) outcome = words[0].outcome;
+  if (words.size() > 1) outcome = KeepSeveral(words);
   memo.Remember(key, outcome);
 }
 

@@ -19,6 +19,7 @@
 #include "engine/letter_arena.h"
 #include "engine/line_block.h"
 #include "engine/long_token_memo.h"
+#include "engine/memo_rest.h"
 #include "engine/run_cutter.h"
 #include "engine/scan_settings.h"
 #include "engine/token_memo.h"
@@ -96,6 +97,8 @@ class TokenTaker final : private CountKeeper {
 
   [[nodiscard]] std::string_view FinalForm(std::string_view token);
   [[nodiscard]] TokenOutcome OutcomeOf(const LineBlock::Token& token);
+  void TakeKnown(const LineBlock& block, std::size_t first, std::size_t count, bool orderMatters);
+  void NoteNewToken(const LineBlock& block, std::size_t number);
   void FindKeys(const LineBlock& block, std::size_t first, std::size_t count, Batch& batch);
   [[nodiscard]] bool MayKeep(std::size_t words) const;
   template <typename Memo>
@@ -131,6 +134,7 @@ class TokenTaker final : private CountKeeper {
   KeyRule keyRule_;
   TokenMemo memo_;
   LongTokenMemo longMemo_;
+  MemoRest memoRest_;
   /// Of tokens that are several words: how many, and what each of them is worth.
   std::vector<TokenOutcome> several_;
   std::uint64_t memoGeneration_;

@@ -2,6 +2,7 @@
 // the spelling that was first met; an excluded word keeps its count.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "base/check_state.h"
@@ -44,7 +45,7 @@ enum class WordFilter : std::uint8_t {
 /// The first filter by which the word of a record is not listed.
 [[nodiscard]] WordFilter FilterThatExcludes(const WordRec& record, const FilterChoices& choices);
 
-/// Sets `Included` of every record.
-void ApplyWordFilters(WordStore& store, const FilterChoices& choices);
+/// Sets `Included` of every record; on so many threads, if there are many words.
+void ApplyWordFilters(WordStore& store, const FilterChoices& choices, std::size_t threads = 1);
 
 }  // namespace quillomat

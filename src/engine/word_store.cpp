@@ -214,10 +214,11 @@ const FileTally* WordStore::FilesOf(std::int32_t index) const {
   return tallies_.empty() ? nullptr : &tallies_[static_cast<std::size_t>(index - 1)];
 }
 
-WordTotals WordStore::TallyWords() const {
+WordTotals WordStore::TallyPart(const Part& part) const {
   WordTotals totals;
   std::size_t longest = 0;
-  for (std::int32_t index = 1; index <= NumDifferentWords(); ++index) {
+  for (std::size_t place = part.begin; place < part.end; ++place) {
+    const auto index = static_cast<std::int32_t>(place + 1);
     if (!IsIncluded(index)) {
       ++totals.NumExcludedWords;
       continue;
@@ -233,6 +234,23 @@ WordTotals WordStore::TallyWords() const {
     throw RunTimeError(RunTimeErrorNumber::kOverflow);
   }
   totals.MaxWordLength = static_cast<std::int16_t>(longest);
+  return totals;
+}
+
+WordTotals WordStore::TallyWords(std::size_t threads) const {
+  Sort(threads);
+  const std::vector<Part> parts = PartsOf(letters_.Size(), threads);
+  std::vector<WordTotals> ofParts(parts.size());
+  ForEachPart(parts,
+              [&](const Part& part, std::size_t number) { ofParts[number] = TallyPart(part); });
+  WordTotals totals;
+  for (const WordTotals& part : ofParts) {
+    totals.NumIncludedWords += part.NumIncludedWords;
+    totals.NumExcludedWords += part.NumExcludedWords;
+    AddChecked(totals.TotalIncludedCount, part.TotalIncludedCount);
+    totals.MaxCount = std::max(totals.MaxCount, part.MaxCount);
+    totals.MaxWordLength = std::max(totals.MaxWordLength, part.MaxWordLength);
+  }
   return totals;
 }
 

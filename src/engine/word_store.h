@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "base/checked_count.h"
+#include "base/in_parts.h"
 #include "engine/chunked_vector.h"
 #include "engine/count_keeper.h"
 #include "engine/file_tally.h"
@@ -53,6 +54,13 @@ struct KeyedWord {
   std::string_view key;
   /// WordStore::HashOf the key.
   std::uint32_t hash = 0;
+};
+
+/// A word while the store is sorted.
+struct SortEntry {
+  /// The first of its key.
+  std::uint64_t leadingBytes;
+  std::uint32_t place;
 };
 
 /// Sums over the store.
@@ -183,9 +191,13 @@ class WordStore {
   }
 
   // By alphabetical places. The first question after a word was added sorts the words, even in a
-  // store that is constant: several threads may ask only once one of them has. PrefetchAt alone
-  // sorts nothing, and fetches others while the words are not sorted.
+  // store that is constant: several threads may ask only once one of them has, or after Sort.
+  // PrefetchAt alone sorts nothing, and fetches others while the words are not sorted.
 
+  /// Sorts the words if they are not sorted, on so many threads if there are many words.
+  void Sort(std::size_t threads) const {
+    if (!sorted_) SortRecords(threads);
+  }
   /// The record at alphabetical place `index`, 1 to NumDifferentWords().
   [[nodiscard]] WordRec At(std::int32_t index) const {
     if (!sorted_) SortRecords();
@@ -219,7 +231,8 @@ class WordStore {
   /// The files of the word at alphabetical place `index`; null when files were not tracked.
   [[nodiscard]] const FileTally* FilesOf(std::int32_t index) const;
 
-  [[nodiscard]] WordTotals TallyWords() const;
+  /// On so many threads, if there are many words.
+  [[nodiscard]] WordTotals TallyWords(std::size_t threads = 1) const;
 
   [[nodiscard]] FileTracker& Files() { return files_; }
   [[nodiscard]] const FileTracker& Files() const { return files_; }
@@ -236,11 +249,6 @@ class WordStore {
   /// million times, smaller ones never.
   static constexpr std::size_t kFarthest = 1024;
 
-  struct SortEntry {
-    std::uint64_t leadingBytes;
-    std::uint32_t place;
-  };
-
   /// Whether no count can overflow within the next `times` occurrences.
   [[nodiscard]] bool HasRoomFor(std::int64_t times) const {
     return occurrences_ + times <= std::numeric_limits<std::int32_t>::max();
@@ -254,9 +262,12 @@ class WordStore {
   void FillSlots(std::size_t slots);
   void SetSlots(std::size_t slots);
   void ChangeSeed();
-  void SortRecords() const;
-  [[nodiscard]] std::pmr::vector<SortEntry> SortedEntries() const;
-  void ArrangeWords(std::span<const SortEntry> order) const;
+  void SortRecords(std::size_t threads = 1) const;
+  void FillEntries(std::span<SortEntry> entries, std::size_t threads) const;
+  void SortEntries(std::span<SortEntry> entries, std::size_t threads) const;
+  void SortByKeys(std::span<SortEntry> entries) const;
+  void ArrangeWords(std::span<const SortEntry> order, std::size_t threads) const;
+  [[nodiscard]] WordTotals TallyPart(const Part& part) const;
 
   /// In front of what it brings counts to.
   mutable CountKeeperLink keeper_;

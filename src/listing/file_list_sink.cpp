@@ -6,7 +6,7 @@
 namespace quillomat {
 namespace {
 
-constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+constexpr std::size_t kBlockBytes = std::size_t{256} * 1024;
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 // order. Ranks are positions and never shared.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -17,7 +18,8 @@ struct FrequencyRanking {
   std::vector<std::int32_t> rankOf;
 };
 
-/// Costs time in proportion to the number of words, whatever their frequencies.
-[[nodiscard]] FrequencyRanking RankByFrequency(const WordStore& store);
+/// Costs time in proportion to the number of words, whatever their frequencies. On so many threads,
+/// if there are many words.
+[[nodiscard]] FrequencyRanking RankByFrequency(const WordStore& store, std::size_t threads = 1);
 
 }  // namespace quillomat

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <utility>
 
 #include "base/text_helpers.h"
 #include "base/utf8.h"
+#include "engine/short_bytes.h"
 
 namespace quillomat {
 namespace {
@@ -26,20 +28,74 @@ void AppendPadded(std::string& line, std::string_view text, std::size_t width) {
   line.append(text);
 }
 
+/// The decimal digits of a number below 100,000,000, the first of 8 in the lowest byte. All 8 are
+/// worked out together: two numbers of four digits, four of two, eight of one.
+std::uint64_t EightDigits(std::uint32_t number) {
+  const std::uint64_t fours = number / 10'000 | std::uint64_t{number % 10'000} << 32U;
+  const std::uint64_t hundreds = (fours * 10'486 >> 20U) & 0x7F0000007F;  // divided by 100
+  const std::uint64_t twos = hundreds | (fours - 100 * hundreds) << 16U;
+  const std::uint64_t tens = (twos * 103 >> 10U) & 0x000F000F000F000F;  // divided by 10
+  return tens | (twos - 10 * tens) << 8U;
+}
+
+constexpr std::int32_t kEightDigits = 100'000'000;
+constexpr std::size_t kMostQuickDigits = 8;
+
+/// A number in its column, which has at most kMostQuickDigits characters: the first is the lowest
+/// byte.
+struct NumberCell {
+  std::uint64_t text;
+  std::size_t size;
+};
+
+/// `number` is not negative, and less than kEightDigits.
+NumberCell CellOf(std::int32_t number, std::size_t width) {
+  const std::uint64_t digits = EightDigits(static_cast<std::uint32_t>(number));
+  // The last digit is shown even if it is 0.
+  const auto zeroBits = static_cast<unsigned>(std::countr_zero(digits | std::uint64_t{1} << 56U));
+  const std::size_t zeros = zeroBits / 8;
+  const std::uint64_t blanks = (std::uint64_t{1} << 8 * zeros) - 1;
+  const std::uint64_t text =
+      digits | (0x2020202020202020 & blanks) | (0x3030303030303030 & ~blanks);
+  const std::size_t size = std::max(width, kMostQuickDigits - zeros);
+  return {text >> 8 * (kMostQuickDigits - size), size};
+}
+
 /// `number` is not negative.
 void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
-  constexpr std::size_t kMostWidth = 32;
-  std::array<char, kMostWidth> cell;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled next
-  cell.fill(' ');
-  std::size_t first = kMostWidth;
-  for (auto rest = static_cast<std::uint32_t>(number); rest > 0 || first == kMostWidth;
-       rest /= 10) {
-    cell[--first] = static_cast<char>('0' + rest % 10);
+  if (number >= kEightDigits || width > kMostQuickDigits) {
+    return AppendPadded(line, std::to_string(number), width);
   }
-  if (width > kMostWidth) line.append(width - kMostWidth, ' ');
-  first = std::min(first, kMostWidth - std::min(width, kMostWidth));
-  line.append(cell.data() + first, kMostWidth - first);
+  const NumberCell cell = CellOf(number, width);
+  for (std::size_t i = 0; i < cell.size; ++i) line.push_back(static_cast<char>(cell.text >> 8 * i));
 }
+
+/// A line of numbers and a word, put together without a call for each of its columns: a list may
+/// have millions.
+class QuickLine {  // NOLINT(cppcoreguidelines-pro-type-member-init): see text_
+ public:
+  static constexpr std::size_t kMostColumns = 3;
+  static constexpr std::size_t kMostLead = 4;
+
+  void Add(std::string_view text) {
+    CopyShortBytes(text_.data() + size_, text.data(), text.size());
+    size_ += text.size();
+  }
+  void Add(const NumberCell& cell) {
+    for (std::size_t i = 0; i < kMostQuickDigits; ++i) {  // becomes one store
+      text_[size_ + i] = static_cast<char>(cell.text >> 8 * i);
+    }
+    size_ += cell.size;
+  }
+  [[nodiscard]] std::string_view Text() const { return {text_.data(), size_}; }
+
+ private:
+  static constexpr std::size_t kMostBytes = kMostColumns * (kMostLead + kMostShortBytes);
+  static_assert(kMostShortBytes >= kMostQuickDigits);
+
+  std::array<char, kMostBytes> text_;  // written before it is read
+  std::size_t size_ = 0;
+};
 
 /// Four decimals, and no zero before the point.
 void AppendLogarithm(std::string& line, std::int32_t number, bool useLog10, std::size_t width) {
@@ -101,6 +157,7 @@ double Log10(double x) {
 LineFormatter::LineFormatter(const CountedWords& words, LineOptions options)
     : words_(words), options_(std::move(options)), columns_(ChosenColumns()) {
   ComputeColumnWidths(options_.minimumColumnWidth);
+  isQuick_ = IsQuick();
 }
 
 void LineFormatter::ComputeColumnWidths(std::int16_t minimumColumnWidth) {
@@ -175,12 +232,42 @@ void LineFormatter::AppendColumn(std::string& line, std::int32_t index, char col
 
 void LineFormatter::AppendColumns(std::string& line, std::int32_t index,
                                   std::vector<CellSpan>* cells) const {
+  if (isQuick_ && index > 0 && cells == nullptr && AppendQuickly(line, index)) return;
   for (const Column& column : columns_) {
     line.append(column.lead);
     const std::size_t begin = line.size();
     AppendColumn(line, index, column.cell);
     if (cells != nullptr) cells->push_back(WithoutBlanks(line, begin));
   }
+}
+
+/// Whether lines can be put together by AppendQuickly.
+bool LineFormatter::IsQuick() const {
+  const auto isQuick = [](const Column& column) {
+    const bool known = column.cell == 'R' || column.cell == 'F' || column.cell == 'w';
+    return known && column.lead.size() <= QuickLine::kMostLead;
+  };
+  return rankWidth_ <= kMostQuickDigits && frequencyWidth_ <= kMostQuickDigits &&
+         columns_.size() <= QuickLine::kMostColumns && std::ranges::all_of(columns_, isQuick);
+}
+
+/// False for a line that has to be put together column by column.
+bool LineFormatter::AppendQuickly(std::string& line, std::int32_t index) const {
+  const std::string_view word = words_.store.WordOf(index);
+  const std::int32_t count = words_.store.CountOf(index);
+  if (word.size() > kMostShortBytes || count >= kEightDigits) return false;
+  QuickLine quick;
+  for (const Column& column : columns_) {
+    quick.Add(column.lead);
+    if (column.cell == 'w') {
+      quick.Add(word);
+    } else {
+      quick.Add(column.cell == 'R' ? CellOf(RankOf(index), rankWidth_)
+                                   : CellOf(count, frequencyWidth_));
+    }
+  }
+  line.append(quick.Text());
+  return true;
 }
 
 /// Those of the format, none for a list of files.

@@ -92,6 +92,8 @@ class LineFormatter {
     char cell;
   };
   [[nodiscard]] std::vector<Column> ChosenColumns() const;
+  [[nodiscard]] bool IsQuick() const;
+  [[nodiscard]] bool AppendQuickly(std::string& line, std::int32_t index) const;
 
   CountedWords words_;
   LineOptions options_;
@@ -99,6 +101,7 @@ class LineFormatter {
   std::size_t rankWidth_ = 0;
   std::size_t frequencyWidth_ = 0;
   std::size_t wordWidth_ = 0;
+  bool isQuick_ = false;
 };
 
 }  // namespace quillomat

@@ -34,10 +34,10 @@ std::string LeftOut::Reasons(std::string_view noTextOrEmpty) const {
   return reasons;
 }
 
-void CountResult::Rank(const FilterChoices& filters) {
-  if (!countOnlyMode) ApplyWordFilters(store, filters);
-  totals = store.TallyWords();
-  ranking = RankByFrequency(store);
+void CountResult::Rank(const FilterChoices& filters, std::size_t threads) {
+  if (!countOnlyMode) ApplyWordFilters(store, filters, threads);
+  totals = store.TallyWords(threads);
+  ranking = RankByFrequency(store, threads);
 }
 
 }  // namespace quillomat

@@ -174,9 +174,10 @@ struct CountResult {
   /// The open comment that the last text has left behind.
   int openComment = -1;
 
-  /// Works out which words are listed, the totals and the ranking. May be called again with other
-  /// filters. With count-only words every one that was found is listed.
-  void Rank(const FilterChoices& filters);
+  /// Works out which words are listed, the totals and the ranking, on so many threads if there are
+  /// many words. May be called again with other filters. With count-only words every one that was
+  /// found is listed.
+  void Rank(const FilterChoices& filters, std::size_t threads = 1);
 
   /// What the listing wants. Rank comes first.
   [[nodiscard]] CountedWords Counted() const { return {store, ranking, totals}; }

@@ -131,5 +131,14 @@ TEST_F(WordFilters, AnEmptyStoreIsNoTrouble) {
   EXPECT_EQ(Listed(), "");
 }
 
+/// The letters by which a word passes the filters may stand anywhere in it.
+TEST_F(WordFilters, AllLettersOfAWordAreAsked) {
+  filters.ignoreRepetitions = CheckState::kChecked;
+  filters.ignoreRomNum40 = CheckState::kChecked;
+  filters.ignoreNoVowelOrY = CheckState::kChecked;
+  Count("bcdfghjklmnpa bcdfghjklmnpq xxxxxxxxxxxa xxxxxxxxxxxi aaaaaaaaaaaab aaaaaaaaaaaaa iiiiix");
+  EXPECT_EQ(Listed(), "aaaaaaaaaaaab bcdfghjklmnpa xxxxxxxxxxxa");
+}
+
 }  // namespace
 }  // namespace quillomat

@@ -103,9 +103,9 @@ TEST_F(ListInAFile, NothingIsWrittenBeforeTheEndOfAShortList) {
 }
 
 TEST_F(ListInAFile, LongListIsWrittenInLargePieces) {
-  FileListSink sink(Writer(), Never(), options, 10'000);
+  FileListSink sink(Writer(), Never(), options, 40'000);
   std::string expected;
-  for (std::int32_t i = 1; i <= 10'000; ++i) {
+  for (std::int32_t i = 1; i <= 40'000; ++i) {
     const std::string line = "line number " + std::to_string(i);
     EXPECT_TRUE(sink.TakeWord(i, line));
     expected += line + options.lineBreak;

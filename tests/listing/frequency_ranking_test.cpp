@@ -87,5 +87,24 @@ TEST_F(Ranking, ManyWordsOfOneFrequencyKeepTheAlphabet) {
   }
 }
 
+TEST_F(Ranking, OnSeveralThreadsIsThatOfOne) {
+  constexpr std::uint32_t kWords = 100'000;
+  for (std::uint32_t i = 0; i < kWords; ++i) {
+    std::string word = "w";
+    for (std::uint32_t rest = i; rest > 0; rest /= 16) word += static_cast<char>('a' + rest % 16);
+    const auto place = store.AddWord(word);
+    store.CountWordAt(*place, static_cast<std::int32_t>(i * 7'919 % 5'000));
+  }
+  for (std::int32_t index = 1; index <= store.NumDifferentWords(); index += 10) {
+    store.SetIncluded(index, false);
+  }
+  const FrequencyRanking expected = RankByFrequency(store);
+  for (const std::size_t threads : {2U, 3U, 8U}) {
+    const FrequencyRanking onThreads = RankByFrequency(store, threads);
+    EXPECT_TRUE(onThreads.byRank == expected.byRank) << threads;
+    EXPECT_TRUE(onThreads.rankOf == expected.rankOf) << threads;
+  }
+}
+
 }  // namespace
 }  // namespace quillomat

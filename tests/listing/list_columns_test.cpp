@@ -2,6 +2,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "listing/listing_fixture.h"
 
@@ -172,6 +174,52 @@ TEST(Log10, IsTheLogarithmToBaseTen) {
   EXPECT_DOUBLE_EQ(Log10(10), 1.0);
   EXPECT_DOUBLE_EQ(Log10(1000), 3.0);
   EXPECT_DOUBLE_EQ(Log10(2), std::log10(2.0));
+}
+
+TEST_F(ListColumns, NumbersOfAnyLengthAreShown) {
+  const std::vector<std::int32_t> numbers = {1'234'567'890, 100'000'000, 99'999'999, 12'345'678,
+                                             1'000'000,     909'090,     10'001,     9'999,
+                                             1'010,         100,         99,         10};
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const auto place = store.AddWord("w" + std::string(1, static_cast<char>('a' + i)));
+    store.CountWordAt(*place, numbers[i] - 1);
+  }
+  Finish();
+  for (const DisplayFormat format :
+       {DisplayFormat::kFrequencyRank, DisplayFormat::kFrequencyWord}) {
+    options.format = format;
+    const std::string lead = format == DisplayFormat::kFrequencyRank ? " " : "  ";
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+      const std::string number = std::to_string(numbers[i]);
+      EXPECT_TRUE(LineOf(static_cast<std::int32_t>(i + 1))
+                      .starts_with(lead + std::string(10 - number.size(), ' ') + number + "  "))
+          << LineOf(static_cast<std::int32_t>(i + 1));
+    }
+  }
+}
+
+TEST_F(ListColumns, NarrowColumnsHoldNumbersOfTheirWidth) {
+  for (const auto& [word, times] : {std::pair("wa", 10'000'000), std::pair("wb", 1'000'203),
+                                    std::pair("wc", 10), std::pair("wd", 1)}) {
+    const auto place = store.AddWord(word);
+    store.CountWordAt(*place, times - 1);
+  }
+  Finish();
+  options.format = DisplayFormat::kRankFrequencyWord;
+  EXPECT_EQ(LineOf(1), "      1  10000000  wa");
+  EXPECT_EQ(LineOf(2), "      2   1000203  wb");
+  EXPECT_EQ(LineOf(3), "      3        10  wc");
+  EXPECT_EQ(LineOf(4), "      4         1  wd");
+  options.withCommas = true;
+  EXPECT_EQ(LineOf(3), "       3,        10,  wc");
+}
+
+TEST_F(ListColumns, AWordLongerThanMostIsWholeInItsLine) {
+  const std::string longWord(90, 'w');
+  Add(longWord);
+  Finish();
+  options.format = DisplayFormat::kRankFrequencyWord;
+  EXPECT_EQ(LineOf(1), "      1       1  " + longWord);
 }
 
 }  // namespace

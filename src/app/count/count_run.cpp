@@ -197,10 +197,10 @@ bool CountRun::FolderHadFiles() const {
 
 void CountRun::FilterAndRank(const FilterChoices& filters) {
   if (!count_.inForce.settings.CountOnlyMode) {
-    ApplyWordFilters(count_.words.store, filters);
+    ApplyWordFilters(count_.words.store, filters, count_.inForce.scanThreads);
   }
   count_.output.ShowText(count_.frmMain.txbOutput.Text() + ". . . ");
-  count_.words.totals = count_.words.store.TallyWords();
+  count_.words.totals = count_.words.store.TallyWords(count_.inForce.scanThreads);
   RankWords();
 }
 
@@ -240,7 +240,7 @@ void CountRun::DropProcessingNotice() {
 }
 
 void CountRun::RankWords() {
-  count_.words.ranking = RankByFrequency(count_.words.store);
+  count_.words.ranking = RankByFrequency(count_.words.store, count_.inForce.scanThreads);
   const std::int32_t steps = count_.words.totals.MaxCount / kFrequenciesPerStep;
   std::string progress;
   progress.reserve(static_cast<std::size_t>(steps) * 4);

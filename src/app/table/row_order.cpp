@@ -11,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-#include "app/table/in_parts.h"
+#include "base/in_parts.h"
 #include "base/utf8.h"
 
 namespace quillomat {

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "app/table/in_parts.h"
+#include "base/in_parts.h"
 
 namespace quillomat {
 namespace {

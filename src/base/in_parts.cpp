@@ -1,4 +1,4 @@
-#include "app/table/in_parts.h"
+#include "base/in_parts.h"
 
 #include <algorithm>
 #include <future>
@@ -6,18 +6,15 @@
 #include <thread>
 
 namespace quillomat {
-namespace {
 
-/// To start a thread costs as much as to look at some thousand words.
-constexpr std::size_t kSmallestPart = 20'000;
-constexpr std::size_t kMostParts = 8;
+std::size_t UsualParts() {
+  constexpr unsigned kMost = 8;
+  return std::clamp(std::thread::hardware_concurrency(), 1U, kMost);
+}
 
-}  // namespace
-
-std::vector<Part> PartsOf(std::size_t size) {
-  const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+std::vector<Part> PartsOf(std::size_t size, std::size_t most, std::size_t smallest) {
   const std::size_t count =
-      std::clamp<std::size_t>(size / kSmallestPart, 1, std::min(cores, kMostParts));
+      std::clamp<std::size_t>(size / smallest, 1, std::max<std::size_t>(most, 1));
   std::vector<Part> parts;
   for (std::size_t i = 0; i < count; ++i) {
     const Part part{size * i / count, size * (i + 1) / count};
