@@ -70,6 +70,8 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION text)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# What workbooks are written with is loaded when there is one to write, so nobody else sees it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "${QUILLOMAT_XLSXWRITER_PACKAGE}")
 # ICU is loaded when a text needs it; the version is that of the headers (src/system).
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libicu${QUILLOMAT_ICU_VERSION}, qt6-translations-l10n, xdg-utils")
 include(CPack)

@@ -14,6 +14,8 @@ fail() { printf 'FAILED: %s\n' "$1" >&2; exit 1; }
 (cd "$root/build/release" && cpack -G DEB -B "$work" >"$work/cpack.log" 2>&1) || { cat "$work/cpack.log" >&2; exit 1; }
 package=$(find "$work" -maxdepth 1 -name '*.deb')
 lintian --fail-on error "$package"
+# No program says that it will load this one.
+dpkg-deb -f "$package" Depends | grep -q libxlsxwriter || fail "the library for workbooks is not asked for"
 dpkg-deb -x "$package" "$work/unpacked"
 there=$work/unpacked/usr
 desktop-file-validate "$there/share/applications/quillomat.desktop"

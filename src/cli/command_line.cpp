@@ -16,6 +16,7 @@
 #include "cli/export_options.h"
 #include "cli/file_report.h"
 #include "cli/help_formatter.h"
+#include "cli/option_conflicts.h"
 #include "cli/option_errors.h"
 #include "cli/standard_output.h"
 #include "engine/unicode_traits.h"
@@ -203,12 +204,6 @@ std::vector<std::pair<std::string, std::string>> SplitPairs(const std::string& o
   return pairs;
 }
 
-bool IsGiven(const CommandLine& options, std::string_view name) {
-  return std::ranges::any_of(options.settings, [&](const GivenOption& given) {
-    return given.setting->option.name == name && given.values.back() != "false";
-  });
-}
-
 void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& descriptions) {
   for (const CLI::Option* option : app.get_options()) {
     // Every group has the help of its own.
@@ -224,47 +219,6 @@ void DescribeOptionsOf(const CLI::App& app, std::vector<OptionDescription>& desc
   // Groups of options are parts of their own there.
   for (const CLI::App* group : app.get_subcommands([](const CLI::App*) { return true; })) {
     DescribeOptionsOf(*group, descriptions);
-  }
-}
-
-/// What the window shows, and lists of files, are not made by a count in the terminal.
-void CheckWindowText(const CommandLine& options) {
-  const auto forbid = [](bool given, const char* option, const char* others) {
-    if (given) throw CLI::ValidationError(option, std::string("does not go with ") + others);
-  };
-  if (options.windowText || options.listFiles) {
-    forbid(options.top.has_value(), "--top", "--window-text or --list-files");
-    forbid(!options.exports.empty(), "--export", "--window-text or --list-files");
-  }
-  forbid(options.report && (options.text || options.listFiles), "--report",
-         "--text or --list-files");
-  forbid(options.statistics && options.listFiles, "--statistics", "--list-files");
-  forbid(options.summary && options.listFiles, "--summary", "--list-files");
-  forbid(IsGiven(options, "--output") && options.listFiles, "--output", "--list-files");
-  if (options.windowText || options.listFiles || options.text) {
-    forbid(options.progress, "--progress", "--text, --window-text or --list-files");
-    forbid(options.listOnInterrupt, "--list-on-interrupt", "--text, --window-text or --list-files");
-  }
-}
-
-/// An explanation is no list, and of no file.
-void CheckExplain(const CommandLine& options) {
-  if (!options.explain) return;
-  constexpr auto kOfLists = std::to_array<std::string_view>(
-      {"--output", "--subfolders", "--only-extensions", "--not-extensions"});
-  for (const std::string_view name : kOfLists) {
-    if (IsGiven(options, name)) {
-      throw CLI::ValidationError(std::string(name), "does not go with --explain");
-    }
-  }
-  const std::pair<bool, const char*> given[] = {
-      {options.windowText, "--window-text"},    {options.listFiles, "--list-files"},
-      {options.summary, "--summary"},           {options.statistics, "--statistics"},
-      {options.top.has_value(), "--top"},       {!options.exports.empty(), "--export"},
-      {options.report.has_value(), "--report"}, {options.null, "--null"},
-      {options.progress, "--progress"},         {options.listOnInterrupt, "--list-on-interrupt"}};
-  for (const auto& [isGiven, name] : given) {
-    if (isGiven) throw CLI::ValidationError(name, "does not go with --explain");
   }
 }
 
@@ -287,26 +241,11 @@ void CheckSource(const CommandLine& options) {
 
 void CheckCombinations(const CommandLine& options) {
   CheckSource(options);
-  CheckExplain(options);
-  const auto needsFolder = [&](bool given, const char* option) {
-    if (given && (options.file || options.text)) {
-      throw CLI::ValidationError(option, "goes with a folder");
-    }
-  };
-  needsFolder(IsGiven(options, "--subfolders"), "--subfolders");
-  needsFolder(options.listFiles, "--list-files");
-  if (options.null && (options.windowText || options.listFiles)) {
-    throw CLI::ValidationError("--null", "goes with a list, not --window-text or --list-files");
+  if (const auto conflict = FindConflict(options)) {
+    throw CLI::ValidationError(conflict->option, conflict->why);
   }
-  if (IsGiven(options, "--output") && IsGiven(options, "--disable-output")) {
-    throw CLI::ValidationError("--disable-output", "contradicts --output");
-  }
-  CheckWindowText(options);
   for (const auto& fault : {FindExportFault(options), FindReportFault(options)}) {
     if (fault) throw CLI::ValidationError(*fault);
-  }
-  if (options.state && options.userSettings) {
-    throw CLI::ValidationError("--state", "does not go with --user-settings");
   }
 }
 

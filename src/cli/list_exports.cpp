@@ -8,6 +8,7 @@
 #include "cli/export_options.h"
 #include "cli/targets.h"
 #include "export/word_export.h"
+#include "export/xlsx_export.h"
 #include "listing/display_format.h"
 
 namespace quillomat {
@@ -24,6 +25,17 @@ ExportWish WishOf(const Program& program, const CommandLine& options) {
   return wish;
 }
 
+Fault FindUnservedWorkbook(const CommandLine& options, const TerminalStreams& streams) {
+  for (const std::string& path : options.exports) {
+    if (FormatOfExport(options, path) != ExportFormat::kXlsx) continue;
+    if (const Fault fault = FindWorkbookFault()) return "--export " + path + ": " + *fault;
+    if (streams.outIsTerminal && IsStandardOutput(path)) {
+      return "--export -: a workbook is nothing for a terminal; send it to a file";
+    }
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 Fault FindUnservedExport(const CommandLine& options, const TerminalStreams& streams,
@@ -32,12 +44,7 @@ Fault FindUnservedExport(const CommandLine& options, const TerminalStreams& stre
     return "--columns: in which files a word occurs is known of folders and of paths with "
            "count-only words (--only, --only-words)";
   }
-  const bool isShown =
-      streams.outIsTerminal && std::ranges::any_of(options.exports, [&](const std::string& path) {
-        return IsStandardOutput(path) && FormatOfExport(options, path) == ExportFormat::kXlsx;
-      });
-  if (isShown) return "--export -: a workbook is nothing for a terminal; send it to a file";
-  return std::nullopt;
+  return FindUnservedWorkbook(options, streams);
 }
 
 Fault ExportList(const Program& program, const CommandLine& options,

@@ -25,6 +25,7 @@
 #include "cli/file_report.h"
 #include "cli/input_choice.h"
 #include "cli/list_exports.h"
+#include "cli/option_conflicts.h"
 #include "cli/setting_options.h"
 #include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
@@ -143,11 +144,25 @@ class TerminalRun {
   }
 
   bool CheckThatTargetsDiffer() {
-    if (listIsPrinted_ && ExportIsPrinted()) {
-      return Fail("--export - does not go with --output -: standard output takes one of them");
-    }
+    if (!CheckThatListIsMade()) return false;
     const auto fault = FindDoubleTarget(Targets());
     return !fault || Fail(*fault);
+  }
+
+  /// An export on standard output takes the place of the list, unless that has a file.
+  bool CheckThatListIsMade() {
+    if (!ExportIsPrinted()) return true;
+    if (listIsPrinted_) {
+      return Fail("--export - does not go with --output -: standard output takes one of them");
+    }
+    if (program_.Lister().HasOutputFile()) return true;
+    for (const char* ofList : {"--null", "--format"}) {
+      if (!IsGiven(options_, ofList)) continue;
+      return Fail(std::string(ofList) +
+                  " goes with a list, of which --export - takes the place; with --output FILE "
+                  "there is one");
+    }
+    return true;
   }
 
   bool CheckWordsFiles() {

@@ -222,9 +222,10 @@ std::string KernelFault() {
 }
 
 TokenClasses::TokenClasses(bool allowDigits, std::string_view extras) {
+  const CharClass charClass(allowDigits, extras);
   for (unsigned byte = 0; byte < 0x80; ++byte) {
     const char ch = static_cast<char>(byte);
-    if (!IsWordChar({&ch, 1}, allowDigits, extras)) continue;
+    if (charClass.WordCharBytes({&ch, 1}, 0) == 0) continue;
     rows_[byte & 0xFU] = static_cast<std::uint8_t>(rows_[byte & 0xFU] | (1U << (byte >> 4U)));
   }
 }

@@ -5,15 +5,16 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <variant>
 #include <vector>
-#include <xlsxwriter.h>
 
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 #include "export/cell_text.h"
 #include "export/workbook_check.h"
+#include "export/xlsx_library.h"
 #include "system/input_file.h"
 #include "system/write_shield.h"
 
@@ -40,7 +41,7 @@ constexpr std::size_t kMostUnitsOfCell = 32'767;
       // A full disk is an error of what writes the archive.
       throw RunTimeError(RunTimeErrorNumber::kDiskFull);
     default:
-      throw RunTimeError(RunTimeErrorNumber::kDeviceIo, lxw_strerror(error));
+      throw RunTimeError(RunTimeErrorNumber::kDeviceIo, XlsxLibrary::Get().describe(error));
   }
 }
 
@@ -85,10 +86,10 @@ class Workbook {
     options.constant_memory = LXW_TRUE;
     options.tmpdir = scratch_.data();
     options.use_zip64 = LXW_TRUE;
-    book_ = workbook_new_opt(path.c_str(), &options);
+    book_ = xlsx_.newWorkbook(path.c_str(), &options);
     if (book_ == nullptr) Throw(LXW_ERROR_MEMORY_MALLOC_FAILED);
-    head_ = workbook_add_format(book_);
-    format_set_bold(head_);
+    head_ = xlsx_.addFormat(book_);
+    xlsx_.setBold(head_);
     for (std::size_t column = 0; column < kWordColumnNames.size(); ++column) {
       formats_.push_back(NumberFormat(DecimalsOf(static_cast<WordColumn>(column))));
     }
@@ -100,11 +101,11 @@ class Workbook {
   ~Workbook() {
     if (book_ == nullptr) return;
     for (const lxw_worksheet* sheet : sheets_) fclose(sheet->optimize_tmpfile);  // it forgets them
-    lxw_workbook_free(book_);
+    xlsx_.free(book_);
   }
 
   [[nodiscard]] lxw_worksheet* AddSheet(const std::string& name) {
-    lxw_worksheet* sheet = workbook_add_worksheet(book_, name.c_str());
+    lxw_worksheet* sheet = xlsx_.addSheet(book_, name.c_str());
     if (sheet == nullptr) Throw(LXW_ERROR_CREATING_TMPFILE);
     sheets_.push_back(sheet);
     return sheet;
@@ -123,19 +124,20 @@ class Workbook {
   void Close() {
     ExpectGathered();
     lxw_workbook* book = std::exchange(book_, nullptr);
-    Check(workbook_close(book));  // which frees it, too
+    Check(xlsx_.close(book));  // which frees it, too
   }
 
  private:
   lxw_format* NumberFormat(int decimals) {
-    lxw_format* format = workbook_add_format(book_);
+    lxw_format* format = xlsx_.addFormat(book_);
     const std::string pattern =
         "#,##0" + (decimals == 0 ? std::string()
                                  : "." + std::string(static_cast<std::size_t>(decimals), '0'));
-    format_set_num_format(format, pattern.c_str());
+    xlsx_.setNumberFormat(format, pattern.c_str());
     return format;
   }
 
+  const XlsxLibrary& xlsx_ = XlsxLibrary::Get();
   std::string scratch_;
   lxw_workbook* book_ = nullptr;
   std::vector<lxw_worksheet*> sheets_;
@@ -166,13 +168,12 @@ class WordSheets {
     book_.ExpectGathered();
     ++sheets_;
     sheet_ = book_.AddSheet(sheets_ == 1 ? "Words" : "Words " + std::to_string(sheets_));
-    worksheet_freeze_panes(sheet_, 1, 0);
+    xlsx_.freezePanes(sheet_, 1, 0);
     lxw_col_t place = 0;
     for (const WordColumn column : table_.columns) {
-      worksheet_set_column(sheet_, place, place, IsText(column) ? kWordWidth : kNumberWidth,
-                           nullptr);
+      xlsx_.setColumn(sheet_, place, place, IsText(column) ? kWordWidth : kNumberWidth, nullptr);
       const std::string name(NameOf(column));
-      Check(worksheet_write_string(sheet_, 0, place, name.c_str(), book_.Head()));
+      Check(xlsx_.writeString(sheet_, 0, place, name.c_str(), book_.Head()));
       ++place;
     }
     row_ = 1;
@@ -183,13 +184,14 @@ class WordSheets {
     if (IsText(column)) {
       text_ = TextOf(row, column);
       if (text_.find("_x") != std::string::npos) text_ = XlsxText(text_);
-      Check(worksheet_write_string(sheet_, line, place, text_.c_str(), nullptr));
+      Check(xlsx_.writeString(sheet_, line, place, text_.c_str(), nullptr));
     } else if (HasNumber(row, column)) {
-      Check(worksheet_write_number(sheet_, line, place, RoundedNumberOf(row, column),
-                                   book_.FormatOf(column)));
+      Check(xlsx_.writeNumber(sheet_, line, place, RoundedNumberOf(row, column),
+                              book_.FormatOf(column)));
     }
   }
 
+  const XlsxLibrary& xlsx_ = XlsxLibrary::Get();
   Workbook& book_;
   const ExportTable& table_;
   std::size_t rowsPerSheet_;
@@ -208,9 +210,9 @@ class FactSheet {
     if (facts.empty()) return;
     if (sheet_ == nullptr) {
       sheet_ = book_.AddSheet("Count");
-      worksheet_set_column(sheet_, 0, 1, kFactWidth, nullptr);
+      xlsx_.setColumn(sheet_, 0, 1, kFactWidth, nullptr);
     }
-    Check(worksheet_write_string(sheet_, row_++, 0, title, book_.Head()));
+    Check(xlsx_.writeString(sheet_, row_++, 0, title, book_.Head()));
     for (const ExportFact& fact : facts) Write(fact);
     ++row_;
   }
@@ -232,7 +234,7 @@ class FactSheet {
     } else if (const auto* number = std::get_if<double>(&fact.value)) {
       WriteNumber(1, *number);
     } else if (const auto* yes = std::get_if<bool>(&fact.value)) {
-      Check(worksheet_write_boolean(sheet_, row_, 1, static_cast<int>(*yes), nullptr));
+      Check(xlsx_.writeBoolean(sheet_, row_, 1, static_cast<int>(*yes), nullptr));
     } else {
       WriteLongText(1, TextOf(fact));
     }
@@ -240,17 +242,18 @@ class FactSheet {
   }
   void WriteLongText(lxw_col_t column, std::string_view text) {
     for (const std::string& cell : XlsxCells(text)) {
-      Check(worksheet_write_string(sheet_, row_, column, cell.c_str(), nullptr));
+      Check(xlsx_.writeString(sheet_, row_, column, cell.c_str(), nullptr));
       ++column;
     }
   }
   void WriteText(lxw_col_t column, const std::string& text) {
-    Check(worksheet_write_string(sheet_, row_, column, XlsxText(text).c_str(), nullptr));
+    Check(xlsx_.writeString(sheet_, row_, column, XlsxText(text).c_str(), nullptr));
   }
   void WriteNumber(lxw_col_t column, double number) {
-    Check(worksheet_write_number(sheet_, row_, column, number, nullptr));
+    Check(xlsx_.writeNumber(sheet_, row_, column, number, nullptr));
   }
 
+  const XlsxLibrary& xlsx_ = XlsxLibrary::Get();
   Workbook& book_;
   lxw_worksheet* sheet_ = nullptr;
   lxw_row_t row_ = 0;
@@ -287,6 +290,15 @@ std::vector<std::string> XlsxCells(std::string_view text) {
     text.remove_prefix(part.size());
   }
   return cells;
+}
+
+std::optional<std::string> FindWorkbookFault() {
+  try {
+    static_cast<void>(XlsxLibrary::Get());
+    return std::nullopt;
+  } catch (const RunTimeError& error) {
+    return error.Description();
+  }
 }
 
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,

@@ -2,6 +2,7 @@
 // into a sink.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,9 +22,13 @@ inline constexpr std::size_t kRowsPerSheet = 1'048'575;
 /// in the form of XlsxText. None for "".
 [[nodiscard]] std::vector<std::string> XlsxCells(std::string_view text);
 
+/// Why no workbook can be written on this system, and the way out; nothing if one can.
+[[nodiscard]] std::optional<std::string> FindWorkbookFault();
+
 /// Writes the workbook into `path`, a file of the caller's that is new or may be overwritten.
 /// Sheets are collected in files of the folder `scratchFolder`. False when `progress` ended it;
-/// then there is no file. Throws RunTimeError 61, 75, 57 or 7. `rowsPerSheet` is less in tests
+/// then there is no file. Throws RunTimeError 61, 75, 57 or 7, or 53 where FindWorkbookFault
+/// finds one. `rowsPerSheet` is less in tests
 /// only.
 bool WriteXlsx(const ExportTable& table, const std::string& path, const std::string& scratchFolder,
                const ExportProgress& progress, std::size_t rowsPerSheet = kRowsPerSheet);

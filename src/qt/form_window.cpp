@@ -134,6 +134,7 @@ void FormWindow::ShowChanges() {
     entry.changed = false;
     entry.binding->Show();
   }
+  ShowOwn();
   const bool renamed = captionsChanged_ || windowChanged_;
   if (captionsChanged_) ShowCaptions();
   if (windowChanged_) ShowWindowState();

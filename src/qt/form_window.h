@@ -49,6 +49,9 @@ class FormWindow : public QWidget {
   };
   OwnCaptions ownCaptions;
 
+  /// Shows what is not a control's own, but follows from controls; called behind their changes.
+  virtual void ShowOwn() {}
+
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;

@@ -273,8 +273,14 @@ void MainWindowView::FitSettings() {
 /// One bar for the whole run: of a folder, its own, else the file's.
 void MainWindowView::ConnectProgress() {
   MainForm& frmMain = program_.frmMain;
-  frmMain.lblNumOccurrences.Changed.Connect([this] { ShowProgress(); });
-  frmMain.lblTotalNumOccurrences.Changed.Connect([this] { ShowProgress(); });
+  const auto changes = [this] { progressChanged_ = true; };
+  frmMain.lblNumOccurrences.Changed.Connect(changes);
+  frmMain.lblTotalNumOccurrences.Changed.Connect(changes);
+}
+
+/// It may change with every file, which is more often than anybody sees.
+void MainWindowView::ShowOwn() {
+  if (std::exchange(progressChanged_, false)) ShowProgress();
 }
 
 void MainWindowView::ShowProgress() {

@@ -52,6 +52,7 @@ class MainWindowView final : public FormWindow {
   std::function<void(QWidget&)> announce = Announce;
 
  protected:
+  void ShowOwn() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -94,6 +95,8 @@ class MainWindowView final : public FormWindow {
   bool fitsWhenUnfolded_ = false;
   /// Since a count has listed its words, and nobody has been told.
   bool listIsNew_ = false;
+  /// Since the bar was shown.
+  bool progressChanged_ = true;
   /// "File %1 of %2".
   QString fileOfFiles_;
 };

@@ -110,9 +110,14 @@ class LinesBinding final : public WidgetBinding {
 
   void ShowCaret() {
     shownCaret_ = box_.SelStart();
-    const std::string_view before(box_.Text().data(), BytesOfFirst(box_.Text(), box_.SelStart()));
     QTextCursor cursor(edit_.document());
-    cursor.setPosition(static_cast<int>(ToQtLines(before).size()));
+    if (box_.SelStart() == box_.Length()) {
+      cursor.movePosition(QTextCursor::End);  // a text that grows is not gone through each time
+    } else {
+      const std::size_t bytes = BytesOfFirst(box_.Text(), box_.SelStart());
+      const QString before = ToQtLines(std::string_view(box_.Text()).substr(0, bytes));
+      cursor.setPosition(static_cast<int>(before.size()));
+    }
     edit_.setTextCursor(cursor);
     edit_.ensureCursorVisible();
   }

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <new>
 #include <optional>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -46,18 +47,17 @@ std::optional<int> TextNumberOf(std::string_view field) {
 /// \n is a line break, \s a blank and \\ a backslash; before anything else a backslash is itself.
 std::string Unescaped(std::string_view text) {
   std::string plain;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char next = text[i] == '\\' && i + 1 < text.size() ? text[i + 1] : '\0';
-    if (next != 'n' && next != 's' && next != '\\') {
-      plain.push_back(text[i]);
-      continue;
-    }
+  while (true) {
+    const std::size_t backslash = text.find('\\');
+    if (backslash == text.npos || backslash + 1 == text.size()) return plain.append(text);
+    const char next = text[backslash + 1];
+    const bool isSign = next == 'n' || next == 's' || next == '\\';
+    plain.append(text.substr(0, isSign ? backslash : backslash + 1));
     if (next == 'n') plain.append(kCrLf);
     if (next == 's') plain.push_back(' ');
     if (next == '\\') plain.push_back('\\');
-    ++i;
+    text.remove_prefix(backslash + (isSign ? 2 : 1));
   }
-  return plain;
 }
 
 /// All that the source has, or nothing when that is more than a program text may be. Never holds
@@ -85,33 +85,56 @@ class TableBuilder {
     if (!number) return kNotRecovered;
     const std::optional<Language> language = LanguageOfTag(TakeField(rest));
     if (!language) return MissingAt(lineNumber);
-    if (texts_.contains({*number, *language})) return DuplicateAt(lineNumber);
+    const TextKey key = {*number, *language};
+    const auto place = PlaceOf(key);
+    if (place != texts_.end() && place->first == key) return DuplicateAt(lineNumber);
     const std::string text = Unescaped(rest);
     if (text.empty()) return MissingAt(lineNumber);
-    if (CharacterCount(text) > kLongestText) return TooLongAt(lineNumber);
-    firstLines_.try_emplace(*number, lineNumber);
-    return Keep({*number, *language}, text);
+    if (IsTooLong(text)) return TooLongAt(lineNumber);
+    places_.push_back({*number, lineNumber});
+    return Keep(place, key, text);
   }
 
-  /// How many texts there are, or the code for the first number that lacks a language.
+  /// How many texts there are, or the code for the first text whose number lacks a language.
   [[nodiscard]] int Finish() const {
-    std::optional<int> firstFault;
-    for (const auto& [number, line] : firstLines_) {
-      if (!HasAllLanguages(number)) firstFault = std::min(firstFault.value_or(line), line);
-    }
-    return firstFault ? MissingAt(*firstFault) : static_cast<int>(texts_.size());
+    const std::set<int> incomplete = IncompleteNumbers();
+    const auto fault = std::ranges::find_if(
+        places_, [&](const Place& place) { return incomplete.contains(place.number); });
+    return fault == places_.end() ? static_cast<int>(texts_.size()) : MissingAt(fault->line);
   }
 
  private:
-  [[nodiscard]] bool HasAllLanguages(int number) const {
-    return std::ranges::all_of(kLanguages, [&](Language language) {
-      return texts_.contains({number, language});
-    });
+  struct Place {
+    int number;
+    int line;
+  };
+
+  [[nodiscard]] std::set<int> IncompleteNumbers() const {
+    std::set<int> incomplete;
+    std::size_t languages = 0;
+    for (auto text = texts_.begin(); text != texts_.end();) {
+      const int number = text->first.first;
+      ++languages;
+      if (++text != texts_.end() && text->first.first == number) continue;
+      if (languages < kLanguages.size()) incomplete.insert(number);
+      languages = 0;
+    }
+    return incomplete;
   }
 
-  [[nodiscard]] int Keep(TextKey key, std::string_view text) {
+  /// Where a text with this key stands, or would. Files name the texts in their order, mostly.
+  [[nodiscard]] TextTable::iterator PlaceOf(TextKey key) {
+    if (texts_.empty() || texts_.rbegin()->first < key) return texts_.end();
+    return texts_.lower_bound(key);
+  }
+
+  /// Few are as long in bytes as they may be in characters.
+  [[nodiscard]] static bool IsTooLong(std::string_view text) {
+    return text.size() > kLongestText && CharacterCount(text) > kLongestText;
+  }
+  [[nodiscard]] int Keep(TextTable::iterator place, TextKey key, std::string_view text) {
     try {
-      texts_.try_emplace(key, text);
+      texts_.try_emplace(place, key, text);
       return kTaken;
     } catch (const std::bad_alloc&) {
       return kParticularMemory;
@@ -119,17 +142,17 @@ class TableBuilder {
   }
 
   TextTable& texts_;
-  /// Where each number stands first.
-  std::map<int, int> firstLines_;
+  /// Of the texts, in the order of the file.
+  std::vector<Place> places_;
 };
 
 }  // namespace
 
 int ReadTextTable(ByteSource& source, TextTable& texts) {
-  const std::optional<std::string> bytes = ReadLimited(source);
+  UnmarkedSource unmarked(source);
+  const std::optional<std::string> bytes = ReadLimited(unmarked);
   if (!bytes) return kTooMuch;
-  TextSource contents(*bytes);
-  LineDecoder lines(contents);
+  LineDecoder lines(*bytes);
   TableBuilder builder(texts);
   int lineNumber = 0;
   while (const std::optional<std::string_view> line = lines.NextLine()) {

@@ -106,6 +106,11 @@ TEST(CommandLine, WhatWouldHaveNoEffectIsRefused) {
   ExpectWrong({"--folder", "a", "--list-files", "--output", "b"}, "--output: does not go with");
   ExpectWrong({"--folder", "a", "--list-files", "--summary"}, "--summary: does not go with");
   ExpectWrong({"a", "--output", "b", "--disable-output"}, "--disable-output: contradicts --output");
+  ExpectWrong({"a", "--top", "3", "--window-text"}, "--top: does not go with --window-text");
+  ExpectWrong({"--explain", "a", "--null"}, "--null: does not go with --explain");
+  ExpectWrong({"--explain", "a", "--subfolders"}, "--subfolders: does not go with --explain");
+  ExpectWrong({"a", "--state", "b", "--user-settings"}, "--state: does not go with --user");
+  EXPECT_FALSE(Parse({"a", "--no-overwrite", "--output", "b"}).result.exitStatus);
 }
 
 TEST(CommandLine, DashIsStandardInput) {

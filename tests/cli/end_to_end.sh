@@ -126,6 +126,16 @@ printf 'word,frequency\r\nthe,3\r\ncat,3\r\n' >wanted.csv
 head -n 3 words.csv | sort >words.sorted
 sort wanted.csv | cmp -s - words.sorted || { echo "FAILED $name: words.csv"; cat words.csv; failed=1; }
 [ "$(head -c 2 words.xlsx)" = PK ] || { echo "FAILED $name: words.xlsx is no workbook"; failed=1; }
+mkdir broken
+library=$(grep -ao 'libxlsxwriter\.so\.[0-9]*' "$program" | head -n 1)
+echo "no library" >"broken/$library"
+LD_LIBRARY_PATH=$work/broken
+export LD_LIBRARY_PATH
+check "without the library for workbooks all else works" 0 cat.txt --export rest.csv
+check "a workbook that cannot be written is told before the count" 1 cat.txt --export rest.xlsx
+holds err "--export rest.xlsx: $library is missing, which writes workbooks; install it, or choose another format"
+lines out 0
+unset LD_LIBRARY_PATH
 check "an export that exists is left" 1 cat.txt --export words.csv
 holds err "--overwrite"
 check "an export is replaced when asked" 0 cat.txt --export words.csv --overwrite --top 1

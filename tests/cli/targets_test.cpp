@@ -100,6 +100,15 @@ TEST_F(Targets, AnExportOnStandardOutputTakesThePlaceOfTheList) {
   ExpectRefusal({"--export", "-", "--output", "-"}, kWrongCommandLine, "standard output takes one");
 }
 
+TEST_F(Targets, WhatShapesAListIsRefusedWhereAnExportTakesItsPlace) {
+  input = "cat";
+  const std::string why = " goes with a list, of which --export - takes the place";
+  ExpectRefusal({"--export", "-", "--null"}, kWrongCommandLine, "--null" + why);
+  ExpectRefusal({"--export", "-", "--format", "8"}, kWrongCommandLine, "--format" + why);
+  EXPECT_EQ(Run({"-", "--export", "-", "--null", "--output", folder / "list.txt"}), kListMade);
+  EXPECT_EQ(Run({"-", "--export", "-", "--order", "alphabetical"}), kListMade);
+}
+
 TEST_F(Targets, AWorkbookIsNotShownOnATerminal) {
   input = "cat";
   EXPECT_EQ(Run({"-", "--export", "-", "--export-format", "xlsx"}), kListMade);

@@ -192,7 +192,24 @@ TEST_F(MainWindowViewTest, BarTellsThePaceWhereThereIsRoom) {
   EXPECT_EQ(FromQt(bar->text()), "File 3 of 12 \u2013 40 % \u2013 200 MB/s, 0:03 left");
   bar->setFixedWidth(160);
   frmMain.lblNumOccurrences.SetProgress(Progress{500'000'000, 1'000'000'000, 3, 12, elapsed});
+  EXPECT_THAT(FromQt(bar->text()), testing::HasSubstr("40 %")) << "nobody sees every step";
+  user->Settle();
   EXPECT_EQ(FromQt(bar->text()), "File 3 of 12 \u2013 50 %");
+}
+
+TEST_F(MainWindowViewTest, CaretStandsWhereTheTextBoxHasIt) {
+  TextBox& text = frmMain.txbOutput;
+  const ListView& list = user->windows.Main().List();
+  text.SetText("\u00E4\r\nb");
+  for (const char* more : {"\r\nc", " \u00E4", "\r\n"}) {
+    text.AppendText(more);
+    text.SetSelStart(text.Length());
+    user->Settle();
+    EXPECT_TRUE(list.textCursor().atEnd()) << more;
+  }
+  text.SetSelStart(4);  // a line break is two characters there
+  user->Settle();
+  EXPECT_EQ(list.textCursor().position(), 3);
 }
 
 TEST_F(MainWindowViewTest, FoundPlacesAreCountedAndKeysGoThroughThem) {

@@ -1,30 +1,22 @@
 #include "system/system_segmenter.h"
 
 #include <optional>
-#include <windows.h>
 
 #include "system/icu_segmenter.h"
+#include "system/shared_library.h"
 
 namespace quillomat {
 namespace {
 
-template <typename Function>
-bool Find(HMODULE library, const char* name, Function& function) {
-  // By way of a type that may be any function.
-  function =
-      reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)));
-  return function != nullptr;
-}
-
-/// Windows has the library since version 1903 of Windows 10. It is never unloaded.
+/// Windows has the library since version 1903 of Windows 10.
 std::optional<IcuFunctions> LoadFunctions() {
-  const HMODULE library = LoadLibraryExW(L"icu.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (library == nullptr) return std::nullopt;
+  const std::optional<SharedLibrary> library = SharedLibrary::Load("icu.dll");
+  if (!library) return std::nullopt;
   IcuFunctions functions{};
-  const bool found = Find(library, "ubrk_open", functions.open) &&
-                     Find(library, "ubrk_setText", functions.setText) &&
-                     Find(library, "ubrk_next", functions.next) &&
-                     Find(library, "ubrk_close", functions.close);
+  const bool found = library->Find("ubrk_open", functions.open) &&
+                     library->Find("ubrk_setText", functions.setText) &&
+                     library->Find("ubrk_next", functions.next) &&
+                     library->Find("ubrk_close", functions.close);
   if (!found) return std::nullopt;
   return functions;
 }
