@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <chrono>
 #include <exception>
+#include <new>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "base/byte_source.h"
 #include "sources/converted_source.h"
@@ -15,23 +17,55 @@
 
 namespace quillomat {
 
+void WalkItem::LeaveAlone() {
+  FileReport anew;
+  anew.path = std::move(report.path);
+  report = std::move(anew);
+  state = State::kLeftAlone;
+  file.reset();
+}
+
 std::size_t FileScanner::Take(std::vector<WalkItem>& items, int& openComment, std::size_t& bytes) {
   opened_ = 0;
   std::size_t taken = 0;
   for (; taken < items.size() && bytes < batchBytes_ && !stop_; ++taken) {
     WalkItem& item = items[taken];
-    if (!item.forThreads) continue;
-    try {
-      TakeFile(item, openComment);
-    } catch (const std::exception&) {
-      item.state = WalkItem::State::kLeftAlone;
-      item.file.reset();
-      item.report.uncounted = {};
-      scanner_.ForgetWords();  // which may be half a word
-    }
+    if (item.forThreads) Try(item, openComment);
+    if (item.IsReadLater()) EndRun();  // nobody knows yet which comment it will leave open
     bytes += static_cast<std::size_t>(item.report.bytesRead);
   }
+  EndRun();
   return taken;
+}
+
+void FileScanner::Try(WalkItem& item, int& openComment) {
+  try {
+    TakeFile(item, openComment);
+  } catch (const std::exception&) {
+    item.LeaveAlone();
+  }
+}
+
+/// The counts of the files until here go with the last one.
+void FileScanner::EndRun() {
+  if (run_.first == nullptr) return;
+  try {
+    scanner_.TakeCounts(run_.last->count);
+    run_.last->isLastTogether = true;
+    run_ = {};
+  } catch (const std::bad_alloc&) {
+    GiveUpRun();
+  }
+}
+
+/// Where a file was counted in part, its words cannot be told from those of the files before.
+void FileScanner::GiveUpRun() {
+  scanner_.ForgetWords();
+  if (run_.first == nullptr) return;
+  for (WalkItem* item = run_.first; item <= run_.last; ++item) {
+    if (item->state == WalkItem::State::kScanned) item->LeaveAlone();
+  }
+  run_ = {};
 }
 
 void FileScanner::TakeFile(WalkItem& item, int& openComment) {
@@ -110,11 +144,21 @@ void FileScanner::TallyLines(FileReport& report) const {
 void FileScanner::Scan(WalkItem& item, int& openComment) {
   LoadMarkersFor(item.report.path, request_.scan, settings_);
   settings_.OpenComment = openComment;
-  item.count = scanner_.Scan(Lines(item.report), settings_);
-  item.report.bytesRead = static_cast<std::int64_t>(bytesRead_);
+  const std::string_view lines = Lines(item.report);
   if (request_.keepReports) TallyLines(item.report);
+  try {
+    item.count = scanner_.Scan(lines, settings_, counts_);
+  } catch (...) {
+    GiveUpRun();
+    throw;
+  }
+  item.report.bytesRead = static_cast<std::int64_t>(bytesRead_);
   item.state = WalkItem::State::kScanned;
   openComment = item.count.openComment;
+  if (counts_ == PieceScanner::Counts::kByPiece) return;
+  if (run_.first == nullptr) run_.first = &item;
+  run_.last = &item;
+  run_.first->bytesTogether += item.report.bytesRead;
 }
 
 }  // namespace quillomat

@@ -32,6 +32,14 @@ struct WalkItem {
     kScanned,
   };
 
+  /// Forgets what a thread has made of the file.
+  void LeaveAlone();
+  /// Whether it has bytes that no thread has scanned ahead.
+  [[nodiscard]] bool IsReadLater() const {
+    const bool hasBytes = kind == Kind::kFile || kind == Kind::kStandardInput;
+    return hasBytes && (state == State::kLeftAlone || state == State::kOpened);
+  }
+
   Kind kind = Kind::kFile;
   /// Its path is there from the start.
   FileReport report;
@@ -42,6 +50,10 @@ struct WalkItem {
   std::unique_ptr<InputFile> file;
   std::int64_t bytes = 0;
   PieceCount count;
+  /// Of the first of those that are counted together: how many bytes all of them have.
+  std::int64_t bytesTogether = 0;
+  /// Of those that are counted together it is the one with the counts.
+  bool isLastTogether = false;
 };
 
 struct FileBatch {
@@ -53,19 +65,21 @@ struct FileBatch {
 };
 
 /// Handing over so many bytes costs next to nothing beside scanning them.
-inline constexpr std::size_t kBatchBytes = std::size_t{1024} * 1024;
+inline constexpr std::size_t kBatchBytes = std::size_t{2048} * 1024;
 
 /// For one thread.
 class FileScanner {
  public:
   /// Everything outlives the scanner. The settings' flags are ready. A batch is to have about
-  /// `batchBytes`.
+  /// `batchBytes`. The files of a batch that follow each other are counted together, if that is
+  /// wanted.
   FileScanner(const ScanSettings& settings, const CountRequest& request,
-              const std::atomic<bool>& stop, std::size_t batchBytes)
+              const std::atomic<bool>& stop, std::size_t batchBytes, PieceScanner::Counts counts)
       : settings_(settings),
         request_(request),
         stop_(stop),
         batchBytes_(batchBytes),
+        counts_(counts),
         scanner_(settings, request.scan, request.lists, stop, request.orderFigures) {}
 
   /// Takes the items that are for threads, until it has scanned enough. Returns how many items
@@ -80,6 +94,16 @@ class FileScanner {
   /// Files that are kept open in a batch.
   static constexpr int kMostOpened = 8;
 
+  /// Files that are counted together, as far as they are taken: items that were scanned, and such
+  /// between them as have no bytes.
+  struct Run {
+    WalkItem* first = nullptr;
+    WalkItem* last = nullptr;
+  };
+
+  void Try(WalkItem& item, int& openComment);
+  void EndRun();
+  void GiveUpRun();
   void TakeFile(WalkItem& item, int& openComment);
   void TakeOpened(WalkItem& item);
   void Scan(WalkItem& item, int& openComment);
@@ -91,7 +115,9 @@ class FileScanner {
   const CountRequest& request_;
   const std::atomic<bool>& stop_;
   std::size_t batchBytes_;
+  PieceScanner::Counts counts_;
   PieceScanner scanner_;
+  Run run_;
   int opened_ = 0;
   /// The bytes of a file, and room for one more.
   std::vector<char> memory_;

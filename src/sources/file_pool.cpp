@@ -13,10 +13,11 @@ constexpr std::size_t kBatchesAhead = 4;
 std::vector<std::unique_ptr<FileScanner>> MakeScanners(const ScanSettings& settings,
                                                        const CountRequest& request,
                                                        const std::atomic<bool>& stop,
-                                                       std::size_t batchBytes) {
+                                                       std::size_t batchBytes,
+                                                       PieceScanner::Counts counts) {
   std::vector<std::unique_ptr<FileScanner>> scanners;
   for (std::size_t i = 0; i < std::max<std::size_t>(request.threads, 1); ++i) {
-    scanners.push_back(std::make_unique<FileScanner>(settings, request, stop, batchBytes));
+    scanners.push_back(std::make_unique<FileScanner>(settings, request, stop, batchBytes, counts));
   }
   return scanners;
 }
@@ -24,8 +25,8 @@ std::vector<std::unique_ptr<FileScanner>> MakeScanners(const ScanSettings& setti
 }  // namespace
 
 FilePool::FilePool(const ScanSettings& settings, const CountRequest& request,
-                   std::size_t batchBytes)
-    : scanners_(MakeScanners(settings, request, stop_, batchBytes)),
+                   std::size_t batchBytes, PieceScanner::Counts counts)
+    : scanners_(MakeScanners(settings, request, stop_, batchBytes, counts)),
       jobs_(
           request.threads, stop_,
           [this](FileBatch& batch, std::size_t scanner) { return Take(batch, scanner); },

@@ -19,7 +19,8 @@ namespace quillomat {
 class FilePool {
  public:
   /// The arguments are those of FileScanner.
-  FilePool(const ScanSettings& settings, const CountRequest& request, std::size_t batchBytes);
+  FilePool(const ScanSettings& settings, const CountRequest& request, std::size_t batchBytes,
+           PieceScanner::Counts counts);
 
   [[nodiscard]] std::size_t Threads() const { return jobs_.Threads(); }
   [[nodiscard]] std::size_t Batches() const { return jobs_.Size(); }

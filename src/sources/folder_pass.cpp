@@ -1,7 +1,9 @@
 #include "sources/folder_pass.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -154,7 +156,10 @@ void FolderPass::KeepBusy() {
 /// Hands over what was met, once there is room for it.
 void FolderPass::Submit() {
   if (!pool_) {
-    pool_.emplace(state_.settings, state_.request, batchBytes_);
+    const bool tallied = state_.result.store.Files().IsOn();
+    pool_.emplace(state_.settings, state_.request, batchBytes_,
+                  tallied || state_.request.orderFigures ? PieceScanner::Counts::kByPiece
+                                                         : PieceScanner::Counts::kTogether);
     joiners_.resize(state_.request.threads);
   }
   while (pool_->Batches() >= kBatchesPerThread * pool_->Threads() && !state_.stop.Stopped()) {
@@ -172,8 +177,9 @@ void FolderPass::TakeFirstBatch() {
   FileBatch batch = pool_->TakeFirst();
   for (WalkItem& item : batch.items) {
     Take(item, batch.scanner);
-    if (state_.stop.YieldForMany()) return;
+    if (state_.stop.YieldForMany()) break;
   }
+  CountOwed(joiners_[batch.scanner]);
 }
 
 /// Behind the end of the walk. One file is not worth threads.
@@ -252,18 +258,22 @@ void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
     case WalkItem::State::kScanned:
       break;
   }
-  if (CanJoin(item, scanner)) return Join(item, joiners_[scanner]);
+  const bool canJoin = CanJoin(item, scanner);
+  const bool beginsCount = item.bytesTogether > 0;
+  if (!canJoin || beginsCount) CountOwed(joiners_[scanner]);
+  if (canJoin) return Join(item, joiners_[scanner]);
   pool_->ForgetWords(scanner);
   joiners_[scanner].LeaveOut();
-  FileReport anew;
-  anew.path = std::move(item.report.path);
-  item.report = std::move(anew);
+  item.LeaveAlone();
   texts_.ReadFile(item.report);
 }
 
 /// Whether the file was scanned as it should have been.
 bool FolderPass::CanJoin(const WalkItem& item, std::size_t scanner) {
   const PieceCount& count = item.count;
+  // A counter that overflows does so at its place.
+  constexpr std::int64_t kMostWords = std::numeric_limits<std::int32_t>::max();
+  if (item.bytesTogether > kMostWords - state_.result.wordsRead) return false;
   if (count.looksForComments && count.openBefore != state_.settings.OpenComment) {
     surprises_ += kSurprise;
     if (surprises_ > kTooManySurprises) {
@@ -288,8 +298,32 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
   if (texts_.IsTold()) texts_.NoteLines(count.bytesWithLongLineEnds);
   AddChecked(state_.result.wordsRead, count.wordsRead);
   joiner.Join(count, state_.result.store);
+  if (count.countsTogether) owed_.push_back({item.report.path, count.openBefore});
+  if (item.isLastTogether) owed_.clear();
   state_.settings.Uncounted += count.uncounted;
   if (count.looksForComments) state_.settings.OpenComment = count.openComment;
+}
+
+/// Where files that are counted together cannot be joined to the last, those that were are read
+/// once more, for their counts alone.
+void FolderPass::CountOwed(PieceJoiner& joiner) {
+  const auto owed = std::exchange(owed_, {});
+  if (owed.empty()) return;
+  const std::atomic<bool> stop = false;
+  FileScanner scanner(state_.settings, state_.request, stop, 1, PieceScanner::Counts::kByPiece);
+  PieceJoiner again;
+  for (const Owed& file : owed) {
+    std::vector<WalkItem> items(1);
+    items[0].report.path = file.path;
+    items[0].forThreads = true;
+    int openComment = file.openBefore;
+    std::size_t bytes = 0;
+    static_cast<void>(scanner.Take(items, openComment, bytes));
+    // If it has gone meanwhile, each of the words that were new is counted once.
+    if (items[0].state != WalkItem::State::kScanned) return;
+    again.Join(items[0].count, state_.result.store);
+  }
+  joiner.TakeBackOwed(state_.result.store);
 }
 
 void FolderPass::Skip(const SkippedFile& skipped) {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "engine/parallel/piece_scanner.h"
@@ -51,6 +52,7 @@ class FolderPass {
   void ReadFile(WalkItem& item, std::size_t scanner);
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);
   void Join(WalkItem& item, PieceJoiner& joiner);
+  void CountOwed(PieceJoiner& joiner);
   void Skip(const SkippedFile& skipped);
   void Keep(FileReport& report);
 
@@ -68,6 +70,12 @@ class FolderPass {
   std::optional<FilePool> pool_;
   /// By the number of the pool's scanner.
   std::vector<PieceJoiner> joiners_;
+  /// Files that are counted together: those that were joined while the counts are still to come.
+  struct Owed {
+    std::string path;
+    int openBefore = -1;
+  };
+  std::vector<Owed> owed_;
   /// How often it was not foreseen of late which comment is open in front of a batch.
   int surprises_ = 0;
   /// So many files are not scanned ahead, as there were too many surprises.

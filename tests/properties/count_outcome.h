@@ -13,8 +13,8 @@
 namespace quillomat::properties {
 
 /// What the outcome tells of the order of words: the words themselves, or what Counter makes of it,
-/// how many are different until each.
-enum class Told { kOrder, kGrowth };
+/// how many are different until each; or nothing, as other ways of counting are open then.
+enum class Told { kOrder, kGrowth, kNoOrder };
 
 /// How the engine is given its text.
 enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };
@@ -26,6 +26,8 @@ enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };
 struct FilesInTurn {
   CountSource source;
   std::size_t threads = 1;
+  /// kGrowth or kNoOrder.
+  Told told = Told::kGrowth;
   /// Is told what the observer of the count was told, and in which order.
   std::string* events = nullptr;
 };

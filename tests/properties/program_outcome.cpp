@@ -198,7 +198,7 @@ class ProgramCase {
     request.lists = lists_;
     request.openComment = settings_.OpenComment;
     request.threads = files_->threads;
-    request.orderFigures = true;
+    request.orderFigures = files_->told == Told::kGrowth;
     EventNotes notes(files_->events);
     CountResult result = Counter(request, notes).Run();
     result.Rank(request.filters);
@@ -208,11 +208,15 @@ class ProgramCase {
     wordsRead_ = result.wordsRead;
     settings_.OpenComment = result.openComment;
     settings_.Uncounted = result.uncounted;
-    std::string order = "growth";
-    for (const GrowthPoint& point : result.orderFigures.value().growth) {
-      order.append(" ").append(std::to_string(point.differentWords));
+    DescribeCount(request.orderFigures ? DescribedGrowth(result.orderFigures.value()) : "");
+  }
+
+  static std::string DescribedGrowth(const OrderFigures& figures) {
+    std::string growth = "growth";
+    for (const GrowthPoint& point : figures.growth) {
+      growth.append(" ").append(std::to_string(point.differentWords));
     }
-    DescribeCount(order + '\n');
+    return growth + '\n';
   }
 
   void CountTexts() {

@@ -44,6 +44,7 @@ reference::WordFinder FinderOf(Segmenter segmenter) {
 
 /// The growth is thinned as the program does it, which is tested elsewhere.
 void DescribeOrder(const LiteralEngine& engine, Told told, std::ostream& out) {
+  if (told == Told::kNoOrder) return;
   std::map<reference::Characters, std::uint32_t> numbers;
   std::vector<std::uint32_t> order;
   out << (told == Told::kOrder ? "order" : "growth");

@@ -155,6 +155,45 @@ TEST_F(FilesOnThreads, StopBehindTheFileInWhichTheyAreStopped) {
   EXPECT_EQ(observer.events.back(), "ends " + Numbered(30));
 }
 
+TEST_F(FilesOnThreads, CountTheWordsOfTheFilesUntilAStop) {
+  PutManyFiles();
+  std::vector<std::string> paths;
+  for (int i = 0; i < kManyFiles; ++i) {
+    if (i % 4 != 0) paths.push_back(folder / Numbered(i));
+  }
+  request.keepReports = true;
+  for (const std::size_t stopAt : {17U, 30U, 80U}) {
+    request.threads = 1;
+    observer.onFileBegins = nullptr;
+    observer.stopped = false;
+    observer.newWords.clear();
+    const std::vector<std::string> until(paths.begin(),
+                                         paths.begin() + static_cast<std::ptrdiff_t>(stopAt) + 1);
+    const std::string expected = WordsOf(Run(TextOfPaths{until, false, {}, nullptr}));
+    const std::string expectedNew = observer.newWords;
+    request.threads = 2;
+    observer.newWords.clear();
+    observer.stopped = false;
+    observer.onFileBegins = [&](const FileBegins& file) {
+      observer.stopped = file.path == paths[stopAt];
+    };
+    const CountResult result = Run(TextOfPaths{paths, false, {}, nullptr});
+    EXPECT_EQ(result.end, CountEnd::kStopped);
+    EXPECT_EQ(WordsOf(result), expected);
+    EXPECT_EQ(observer.newWords, expectedNew);
+  }
+}
+
+TEST_F(FilesOnThreads, OfWhichOneCannotBeOpenedAreCountedAllTheSame) {
+  PutManyFiles();
+  std::vector<std::string> paths;
+  for (int i = 0; i < kManyFiles; ++i) paths.push_back(folder / Numbered(i));  // some are elsewhere
+  request.threads = 1;
+  const std::string expected = WordsOf(Run(TextOfPaths{paths, false, {}, nullptr}));
+  request.threads = 3;
+  EXPECT_EQ(WordsOf(Run(TextOfPaths{paths, false, {}, nullptr})), expected);
+}
+
 TEST_F(FilesOnThreads, FailAtTheFileThatOverflows) {
   CountOnly({"cat"});
   for (int i = 0; i < 30; ++i) Put(Numbered(i), "cat");

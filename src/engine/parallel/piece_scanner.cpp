@@ -32,11 +32,15 @@ PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
   if (keepOrder) store_.SetOrderListener(&order_);
 }
 
-PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings) {
-  if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
-  // To note the words costs less than to look for them at the end where the text is short.
-  store_.NoteCountedWords(text.size() <
-                          static_cast<std::size_t>(store_.NumDifferentWords()) * kBytesWorthLook);
+PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings, Counts counts) {
+  const bool together = counts == Counts::kTogether;
+  if (!owesCounts_) {
+    if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
+    // To note the words costs less than to look for them at the end where the text is short.
+    const auto words = static_cast<std::size_t>(store_.NumDifferentWords());
+    store_.NoteCountedWords(!together && text.size() < words * kBytesWorthLook);
+  }
+  owesCounts_ = together;
   settings_ = settings;
   settings_.Uncounted = {};
   scanner_.SetWordsRead(0);
@@ -46,13 +50,19 @@ PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& setting
   ScanWholeLines({settings_, choices_, lists_, store_, stopTest_, scanner_}, text);
   count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
   count.numbersAnew = std::exchange(numbersAnew_, false);
-  count.words = store_.TakeCountedWords();
+  count.countsTogether = together;
+  if (!together) count.words = store_.TakeCountedWords();
   count.order = std::exchange(order_.places, {});
   DescribeNewWords(count);
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
   count.uncounted = settings_.Uncounted;
   return count;
+}
+
+void PieceScanner::TakeCounts(PieceCount& last) {
+  last.words = store_.TakeCountedWords();
+  owesCounts_ = false;
 }
 
 void PieceScanner::DescribeNewWords(PieceCount& count) {
@@ -68,18 +78,25 @@ void PieceScanner::ForgetWords() {
   order_.places.clear();
   wordsTold_ = 0;
   numbersAnew_ = true;
+  owesCounts_ = false;
 }
 
 void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
-  if (piece.numbersAnew) places_.clear();
+  if (piece.numbersAnew) {
+    places_.clear();
+    firstOwed_ = 0;
+    owedEnd_ = 0;
+  }
   knowsNumbers_ = false;  // for one that is not joined to its end
-  std::string_view letters = piece.newLetters;
-  std::span<const std::uint32_t> bytes = piece.newWordBytes;
+  NewWords left{piece.newLetters, piece.newWordBytes};
+  while (piece.countsTogether && !left.bytes.empty()) JoinNewWords(left, store);
   for (std::span<const WordStore::CountedWord> rest = piece.words; !rest.empty();) {
     const auto some = rest.first(std::min(rest.size(), kWordsAtOnce));
-    JoinSome(some, letters, bytes, store);
+    JoinSome(some, left, store);
     rest = rest.subspan(some.size());
   }
+  owedEnd_ = places_.size();
+  if (!piece.words.empty()) firstOwed_ = owedEnd_;
   if (WordOrderListener* const listener = store.OrderListener()) {
     order_.clear();
     for (const std::uint32_t number : piece.order) order_.push_back(places_[number]);
@@ -88,8 +105,34 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   knowsNumbers_ = true;
 }
 
-void PieceJoiner::JoinSome(std::span<const WordStore::CountedWord> words, std::string_view& letters,
-                           std::span<const std::uint32_t>& bytes, WordStore& store) {
+void PieceJoiner::TakeBackOwed(WordStore& store) {
+  for (; firstOwed_ < owedEnd_; ++firstOwed_) store.CountWordAt(places_[firstOwed_], -1);
+}
+
+/// Gets the next new word ready for the store.
+void PieceJoiner::FetchNewWord(NewWords& left, WordStore& store) {
+  const std::string_view text = left.letters.substr(0, left.bytes.front());
+  std::string_view key = SortKeyOf(text, store.Rule(), keyText_);
+  if (key.data() != text.data()) key = {newKeys_.Keep(key), key.size()};
+  newWords_.push_back({text, key, store.HashOf(key)});
+  store.PrefetchSlot(newWords_.back().hash);
+  left.letters.remove_prefix(left.bytes.front());
+  left.bytes = left.bytes.subspan(1);
+}
+
+/// Puts some of the new words of a piece into the store, of which the counts are still to come.
+void PieceJoiner::JoinNewWords(NewWords& left, WordStore& store) {
+  store.SettleHashes();
+  newWords_.clear();
+  newKeys_.Reuse();
+  while (newWords_.size() < kWordsAtOnce && !left.bytes.empty()) FetchNewWord(left, store);
+  for (const KeyedWord& word : newWords_) store.PrefetchLetters(word.hash);
+  for (const KeyedWord& word : newWords_) places_.push_back(store.AddKeyedWord(word));
+}
+
+/// Puts some of the words of a piece into the store.
+void PieceJoiner::JoinSome(std::span<const WordStore::CountedWord> words, NewWords& left,
+                           WordStore& store) {
   store.SettleHashes();
   newWords_.clear();
   newKeys_.Reuse();
@@ -97,20 +140,14 @@ void PieceJoiner::JoinSome(std::span<const WordStore::CountedWord> words, std::s
   // new words that are left.
   const std::size_t known = places_.size();
   for (const WordStore::CountedWord& word : words) {
-    if (word.place < known) continue;
-    const std::string_view text = letters.substr(0, bytes.front());
-    std::string_view key = SortKeyOf(text, store.Rule(), keyText_);
-    if (key.data() != text.data()) key = {newKeys_.Keep(key), key.size()};
-    newWords_.push_back({text, key, store.HashOf(key)});
-    store.PrefetchSlot(newWords_.back().hash);
-    letters.remove_prefix(bytes.front());
-    bytes = bytes.subspan(1);
+    if (word.place >= known) FetchNewWord(left, store);
   }
   for (const KeyedWord& word : newWords_) store.PrefetchLetters(word.hash);
   auto newWord = newWords_.begin();
   for (const auto& [number, times] : words) {
     if (number < known) {
-      store.CountWordAt(places_[number], times);
+      const bool wasCounted = number >= firstOwed_;
+      store.CountWordAt(places_[number], times - static_cast<std::int32_t>(wasCounted));
       continue;
     }
     const std::uint32_t place = store.AddKeyedWord(*newWord++);

@@ -23,7 +23,10 @@ namespace quillomat {
 struct PieceCount {
   /// The numbers begin anew with this piece.
   bool numbersAnew = false;
-  /// The words of the piece by their numbers; the new ones in their order.
+  /// The counts of its words are told with those of a later piece, or are those of several pieces.
+  bool countsTogether = false;
+  /// The words of the piece, or of the pieces that are counted together, by their numbers; the new
+  /// ones in their order.
   std::vector<WordStore::CountedWord> words;
   /// The words that got their numbers in this piece, in order.
   std::string newLetters;
@@ -50,12 +53,20 @@ class PieceScanner {
   PieceScanner(ScanSettings settings, const ScanChoices& choices, const WordLists& lists,
                const std::atomic<bool>& stop, bool keepOrder = false);
 
-  /// Scans `text`, whole lines. `settings` has its markers and says which comment is open.
-  [[nodiscard]] PieceCount Scan(std::string_view text, const ScanSettings& settings);
+  enum class Counts { kByPiece, kTogether };
 
-  /// Numbers the words anew: after a result was thrown away.
+  /// Scans `text`, whole lines. `settings` has its markers and says which comment is open. Pieces
+  /// that are counted together are counted faster, but have no counts of their own: those of all of
+  /// them are to be taken for the last one.
+  [[nodiscard]] PieceCount Scan(std::string_view text, const ScanSettings& settings,
+                                Counts counts = Counts::kByPiece);
+  /// Puts the counts of the pieces that were counted together into that of the last of them.
+  void TakeCounts(PieceCount& last);
+
+  /// Numbers the words anew: after a result was thrown away, with those that it is counted together
+  /// with.
   void ForgetWords();
-  /// Numbers the words anew with the next piece. May be called by any thread.
+  /// Numbers the words anew with the next piece that begins a count. May be called by any thread.
   void ForgetWordsSoon() { forget_ = true; }
 
  private:
@@ -80,6 +91,8 @@ class PieceScanner {
   WordScanner scanner_;
   std::atomic<bool> forget_ = false;
   bool numbersAnew_ = true;
+  /// Pieces wait for their counts to be taken.
+  bool owesCounts_ = false;
   std::int32_t wordsTold_ = 0;
 };
 
@@ -89,8 +102,12 @@ class PieceJoiner {
   /// To be called in the order of the pieces. New words come into the store in the order of the
   /// text. Throws RunTimeError 6 as the store does; then pieces cannot be joined any more until the
   /// numbers begin anew. The store is neither sorted nor cleared between two calls. If it has a
-  /// listener to the order of words, the piece has that order.
+  /// listener to the order of words, the piece has that order. Of pieces that are counted together
+  /// the words are there at once, but each was met only once until the last piece is joined.
   void Join(const PieceCount& piece, WordStore& store);
+  /// Of pieces that are counted together the last is not going to be joined: their words are not
+  /// counted by the store any more.
+  void TakeBackOwed(WordStore& store);
   /// A piece is left out: there are numbers now of which nothing is known, until they begin anew.
   void LeaveOut() { knowsNumbers_ = false; }
   /// Whether the piece has no such numbers.
@@ -99,14 +116,23 @@ class PieceJoiner {
   }
 
  private:
-  /// Puts some of the words of a piece into the store. `letters` and `bytes` are what is left of
-  /// its new words.
-  void JoinSome(std::span<const WordStore::CountedWord> words, std::string_view& letters,
-                std::span<const std::uint32_t>& bytes, WordStore& store);
+  /// What is left of the new words of a piece.
+  struct NewWords {
+    std::string_view letters;
+    std::span<const std::uint32_t> bytes;
+  };
+
+  void FetchNewWord(NewWords& left, WordStore& store);
+  void JoinNewWords(NewWords& left, WordStore& store);
+  void JoinSome(std::span<const WordStore::CountedWord> words, NewWords& left, WordStore& store);
 
   bool knowsNumbers_ = true;
   /// The places in the store, by the number of the word.
   std::vector<std::uint32_t> places_;
+  /// Words with numbers from the first to the end have been counted once, as their counts are still
+  /// to come.
+  std::size_t firstOwed_ = 0;
+  std::size_t owedEnd_ = 0;
   std::vector<std::uint32_t> order_;
   /// New words on their way into the store, and such of their keys as are not in the piece.
   std::vector<KeyedWord> newWords_;
