@@ -329,8 +329,8 @@ class TerminalRun {
   }
 
   bool Export() {
-    const std::optional<std::string> fault = ExportList(program_, options_, streams_);
-    return !fault || (!fault->empty() && Fail(*fault));
+    return ExportList(program_, options_, streams_,
+                      [this](const std::string& fault) { Fail(fault); });
   }
 
   /// Also of a count that gave no list: the report may say why.
