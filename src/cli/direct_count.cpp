@@ -78,12 +78,19 @@ CountRequest DirectCount::Request(CountWatch& watch) {
   if (input_.kind == Kind::kFolder) request.countingPass = CountingPass::kFiles;
   const bool progress = ProgressWanted() != CountWatch::Progress::kNever;
   if (progress && SizeCanBeKnown()) request.countingPass = CountingPass::kFilesAndBytes;
-  // Whoever asks for no files shall not meet the limit of what can be counted in one.
+  // Whoever lists no files shall not meet the limit of what such lists take.
   const auto format = static_cast<DisplayFormat>(program_.frmMain.cboDisplayFormat.ListIndex());
-  const std::vector<WordColumn> columns = ExportColumns(options_, false);
-  request.tallyFiles = input_.kind == Kind::kFolder || NeedsFileTallies(format) ||
-                       std::ranges::any_of(columns, NeedsFiles);
+  const bool filesAreListed = NeedsFileTallies(format);
+  request.tallyFiles = filesAreListed || ExportsFiles();
+  request.tallyUse = filesAreListed ? TallyUse::kListed : TallyUse::kUnlisted;
   return request;
+}
+
+/// A single file is the same for all words: it is told only to whoever names the column.
+bool DirectCount::ExportsFiles() const {
+  if (options_.exports.empty()) return false;
+  const bool areSeveral = input_.kind == Kind::kFolder || input_.paths.size() > 1;
+  return std::ranges::any_of(ExportColumns(options_, areSeveral), NeedsFiles);
 }
 
 CountSource DirectCount::Source(CountWatch& watch) {

@@ -37,6 +37,7 @@ class DirectCount {
 
  private:
   [[nodiscard]] CountRequest Request(CountWatch& watch);
+  [[nodiscard]] bool ExportsFiles() const;
   [[nodiscard]] CountSource Source(CountWatch& watch);
   [[nodiscard]] bool SizeCanBeKnown() const;
   [[nodiscard]] CountWatch::Progress ProgressWanted() const;

@@ -47,24 +47,27 @@ Fault FindUnservedExport(const CommandLine& options, const TerminalStreams& stre
   return FindUnservedWorkbook(options, streams);
 }
 
-Fault ExportList(const Program& program, const CommandLine& options,
-                 const TerminalStreams& streams) {
-  if (options.exports.empty()) return std::nullopt;
+bool ExportList(const Program& program, const CommandLine& options, const TerminalStreams& streams,
+                const std::function<void(const std::string& fault)>& tell) {
+  if (options.exports.empty()) return true;
   const ResultExport result(program.Words(), WishOf(program, options));
+  bool allWritten = true;
   for (const std::string& path : options.exports) {
     const ExportFormat format = FormatOfExport(options, path);
     if (IsStandardOutput(path)) {
       const bool printed = streams.print(
           [&](ByteSink& out) { static_cast<void>(ExportTo(out, result.Table(), format, {})); });
-      if (!printed) return "";
+      if (!printed) allWritten = false;
       continue;
     }
-    Fault fault = WriteTarget({"--export", path}, program, [&] {
+    const Fault fault = WriteTarget({"--export", path}, program, [&] {
       static_cast<void>(ExportToFile(result.Table(), format, path, {}));
     });
-    if (fault) return fault;
+    if (!fault) continue;
+    tell(*fault);
+    allWritten = false;
   }
-  return std::nullopt;
+  return allWritten;
 }
 
 }  // namespace quillomat

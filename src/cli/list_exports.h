@@ -3,6 +3,7 @@
 // the list; the totals and the settings go with them where the form has room for that.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -18,10 +19,11 @@ namespace quillomat {
                                                             const TerminalStreams& streams,
                                                             bool filesAreKnown);
 
-/// Exports the words that the program has counted. What went wrong, naming the file; "" where the
-/// user has been told; nothing if all was written.
-[[nodiscard]] std::optional<std::string> ExportList(const Program& program,
-                                                    const CommandLine& options,
-                                                    const TerminalStreams& streams);
+/// Exports the words that the program has counted. One that fails leaves the others alone: `tell`
+/// is told what went wrong, naming the file, where the user does not know yet. True if all were
+/// written.
+[[nodiscard]] bool ExportList(const Program& program, const CommandLine& options,
+                              const TerminalStreams& streams,
+                              const std::function<void(const std::string& fault)>& tell);
 
 }  // namespace quillomat

@@ -330,16 +330,16 @@ class TerminalRun {
       // That the box does not take all of a list is no failure of the run.
       const bool failed = desktop_.ProblemShown() && !program_.Output().IsFull();
       const bool printed = PrintWindowText();
-      PrintFigures(made);
+      PrintFigures();
       return printed && made && reported && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
-      PrintFigures(false);
+      PrintFigures();
       TellWhyThereIsNoList();
       return kRunFailed;
     }
     const bool printed = toFile ? ListIsInFile() : ExportIsPrinted() || PrintList();
-    PrintFigures(true);
+    PrintFigures();
     return Export() && printed && reported && !desktop_.ProblemShown() ? kListMade : kRunFailed;
   }
 
@@ -349,15 +349,18 @@ class TerminalRun {
     return program_.Lister().FileWritten() || Fail("--output " + path + " is not written");
   }
 
-  /// Behind the list, where a person at a terminal sees them.
-  void PrintFigures(bool ofList) {
+  /// Behind the list, where a person at a terminal sees them. The statistics are of all words that
+  /// were counted, be none of them listed.
+  void PrintFigures() {
     if (options_.summary) PrintSummary();
-    if (options_.statistics && ofList) PrintStatistics();
+    const WordTotals& totals = program_.Words().totals;
+    const bool anyCounted = totals.NumIncludedWords > 0 || totals.NumExcludedWords > 0;
+    if (options_.statistics && anyCounted) PrintStatistics();
   }
 
   bool Export() {
-    const std::optional<std::string> fault = ExportList(program_, options_, streams_);
-    return !fault || (!fault->empty() && Fail(*fault));
+    return ExportList(program_, options_, streams_,
+                      [this](const std::string& fault) { Fail(fault); });
   }
 
   /// Also of a count that gave no list: the report may say why.

@@ -1,32 +1,37 @@
 #include "engine/file_tally.h"
 
-#include <limits>
+#include <algorithm>
 
 #include "base/checked_count.h"
-#include "base/run_time_error.h"
 
 namespace quillomat {
 
 void FileTally::CountWordInFile(std::int32_t fileNumber, std::int32_t times) {
-  if (times == 0 || FileNumbers.size() == kMaxFiles || fileNumber > FileTracker::kMaxFileNumber) {
-    return;
-  }
+  if (times == 0) return;
   if (FileNumbers.empty() || FileNumbers.back() != fileNumber) {
     FileNumbers.push_back(fileNumber);
     FileCounts.push_back(0);
   }
-  // A record that is full takes nothing more, not even for its last file.
-  const std::int32_t taken = FileNumbers.size() == kMaxFiles ? 1 : times;
-  std::int32_t count = FileCounts.back();
-  AddChecked(count, taken);
-  if (count > std::numeric_limits<std::int16_t>::max()) {
-    throw RunTimeError(RunTimeErrorNumber::kOverflow);
-  }
-  FileCounts.back() = static_cast<std::int16_t>(count);
+  AddChecked(FileCounts.back(), times);
 }
 
-void FileTracker::Reset(bool on) {
+std::size_t FileTally::ListedFiles() const {
+  const auto beyond = std::ranges::upper_bound(FileNumbers, kMaxListedNumber);  // they ascend
+  return std::min(kMaxListedFiles, static_cast<std::size_t>(beyond - FileNumbers.begin()));
+}
+
+std::int32_t FileTally::ListedCount(std::size_t index) const {
+  return index + 1 == kMaxListedFiles ? 1 : FileCounts[index];
+}
+
+bool FileTally::ExceedsRecord() const {
+  return !FileCounts.empty() && FileCounts.back() > kMostInListedFile &&
+         FileNumbers.size() < kMaxListedFiles && FileNumbers.back() <= kMaxListedNumber;
+}
+
+void FileTracker::Reset(bool on, TallyUse use) {
   on_ = on;
+  use_ = use;
   fileBeingScanned_.clear();
   fileList_.assign(1, std::string());
 }

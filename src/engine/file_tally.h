@@ -10,35 +10,54 @@
 namespace quillomat {
 
 /// The files of one word, in the order in which they were met.
+///
+/// All files are kept. The display formats that tell of files show a record of them that has limits
+/// of its own: see ListedFiles.
 struct FileTally {
-  /// A word's record takes this many files; then its total still grows, but not its files.
-  static constexpr std::size_t kMaxFiles = 8000;
+  /// The record takes this many files; the last of them has one occurrence there, as a record that
+  /// is full takes nothing more.
+  static constexpr std::size_t kMaxListedFiles = 8000;
+  /// A file's number has 5 digits in the record; files beyond take part in the totals only.
+  static constexpr std::int32_t kMaxListedNumber = 99'999;
+  /// Occurrences in one file of the record.
+  static constexpr std::int32_t kMostInListedFile = 32'767;
 
   /// Indexes into FileTracker::FileList.
   std::vector<std::int32_t> FileNumbers;
   /// Occurrences, parallel to FileNumbers.
-  std::vector<std::int16_t> FileCounts;
+  std::vector<std::int32_t> FileCounts;
 
   [[nodiscard]] std::int32_t NumFiles() const {
     return static_cast<std::int32_t>(FileNumbers.size());
   }
+  /// So many of the files, the first ones, are in the record.
+  [[nodiscard]] std::size_t ListedFiles() const;
+  /// The occurrences that the record has of one of them, by its index in FileNumbers.
+  [[nodiscard]] std::int32_t ListedCount(std::size_t index) const;
+  /// Whether the last file is in the record with more occurrences than that takes.
+  [[nodiscard]] bool ExceedsRecord() const;
 
-  /// Counts occurrences in the file. Throws RunTimeError 6 at the 32,768th in one file.
   void CountWordInFile(std::int32_t fileNumber, std::int32_t times = 1);
+};
+
+/// What tallies are kept for.
+enum class TallyUse {
+  /// Display formats, too: more occurrences in one file than the record takes are an overflow.
+  kListed,
+  /// Anything else: there is no such limit.
+  kUnlisted,
 };
 
 /// Which file is being scanned, and the numbered files so far. A file gets its number when the
 /// first word in it is counted, so files without such a word have none.
 class FileTracker {
  public:
-  /// A file number has 5 digits; files beyond take part in the totals only.
-  static constexpr std::int32_t kMaxFileNumber = 99'999;
-
   FileTracker() = default;
 
   [[nodiscard]] bool IsOn() const { return on_; }
+  [[nodiscard]] TallyUse Use() const { return use_; }
   /// Forgets all files. `on` says whether files are tracked from now on.
-  void Reset(bool on);
+  void Reset(bool on, TallyUse use = TallyUse::kListed);
   /// `path` is the file whose words come next.
   void SetFileBeingScanned(std::string_view path) { fileBeingScanned_ = path; }
   [[nodiscard]] const std::string& FileBeingScanned() const { return fileBeingScanned_; }
@@ -53,6 +72,7 @@ class FileTracker {
 
  private:
   bool on_ = false;
+  TallyUse use_ = TallyUse::kListed;
   std::string fileBeingScanned_;
   std::vector<std::string> fileList_{std::string()};
 };

@@ -77,15 +77,14 @@ void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
   occurrences_ += times;
   if (!files_.IsOn()) return;
   files_.NoteCurrentFile();
-  try {
-    tallies_[place].CountWordInFile(files_.CurrentFileNumber(), times);
-  } catch (const RunTimeError&) {
-    throw RunTimeError(RunTimeErrorNumber::kOverflow,
-                       "Overflow: the word \"" + std::string(WordAtPlace(place)) +
-                           "\" occurs more than 32,767 times in " + files_.FileBeingScanned() +
-                           ", the most that is counted for one file of several.  Count that file "
-                           "by itself.");
-  }
+  FileTally& tally = tallies_[place];
+  tally.CountWordInFile(files_.CurrentFileNumber(), times);
+  if (files_.Use() == TallyUse::kUnlisted || !tally.ExceedsRecord()) return;
+  throw RunTimeError(RunTimeErrorNumber::kOverflow,
+                     "Overflow: the word \"" + std::string(WordAtPlace(place)) +
+                         "\" occurs more than 32,767 times in " + files_.FileBeingScanned() +
+                         ", the most that lists of files take.  Count that file by itself, in a "
+                         "display format without files.");
 }
 
 void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {

@@ -191,7 +191,8 @@ void LineFormatter::FilesCell(std::string& line, std::int32_t index) const {
     return;
   }
   const FileTally* files = words_.store.FilesOf(index);
-  AppendNumber(line, files == nullptr ? 0 : files->NumFiles(), kFilesWidth);
+  const std::size_t listed = files == nullptr ? 0 : files->ListedFiles();
+  AppendNumber(line, static_cast<std::int32_t>(listed), kFilesWidth);
 }
 
 void LineFormatter::LogRankCell(std::string& line, std::int32_t index, bool useLog10) const {
@@ -319,11 +320,11 @@ void LineFormatter::FileListText(std::string& line, std::int32_t index, bool wit
   const FileTally* files = words_.store.FilesOf(index);
   if (files == nullptr) return;
   const std::vector<std::string>& paths = words_.store.Files().FileList();
-  for (std::size_t k = 0; k < files->FileNumbers.size(); ++k) {
+  for (std::size_t k = 0, listed = files->ListedFiles(); k < listed; ++k) {
     const std::size_t begin = line.size();
     if (cells != nullptr) cells->push_back({begin, begin});  // below the word
     if (withFreq) {
-      AppendNumber(line, files->FileCounts[k], kFileFrequencyWidth);
+      AppendNumber(line, files->ListedCount(k), kFileFrequencyWidth);
       if (cells != nullptr) cells->push_back(WithoutBlanks(line, begin));
       line.push_back(' ');
     } else {

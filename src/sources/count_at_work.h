@@ -26,7 +26,7 @@ struct CountAtWork {
 
   void BeginScan(bool tallyFiles) {
     scanning = true;
-    result.store.Files().Reset(tallyFiles);
+    result.store.Files().Reset(tallyFiles, request.tallyUse);
     result.store.SetListener(&observer);
     observer.OnScanBegins();
   }

@@ -20,6 +20,7 @@
 
 #include "base/byte_source.h"
 #include "base/character_set.h"
+#include "engine/file_tally.h"
 #include "engine/scan_settings.h"
 #include "engine/word_filters.h"
 #include "engine/word_list.h"
@@ -85,9 +86,11 @@ struct CountRequest {
   /// What the bytes of texts are in; those of the clipboard are characters already.
   CharacterSet encoding = CharacterSet::kAsFound;
   CountingPass countingPass = CountingPass::kNone;
-  /// Of count-only words from a folder or a list of paths: in which files each occurs. A word that
-  /// occurs more than 32,767 times in one file then ends the count with an overflow.
+  /// Of count-only words from a folder or a list of paths: in which files each occurs.
   bool tallyFiles = true;
+  /// Where display formats may show these files (kListed), a word that occurs more than 32,767
+  /// times in one of them ends the count with an overflow.
+  TallyUse tallyUse = TallyUse::kListed;
   /// Work out the figures that hang on the order of words: CountResult::orderFigures. It makes a
   /// count slower.
   bool orderFigures = false;

@@ -54,6 +54,22 @@ TEST_F(StatisticsRun, WordsThatAreNotListedAre) {
   EXPECT_THAT(err, StartsWith("instances\t6\n"));
 }
 
+TEST_F(StatisticsRun, WordsOfWhichNoneIsListedAreToo) {
+  const std::string path = folder.Write("a.txt", kToBe);
+  EXPECT_EQ(Run({path, "--statistics", "--min-count", "9"}), kRunFailed);
+  EXPECT_THAT(err, HasSubstr("instances\t6\n"));
+  EXPECT_THAT(err, HasSubstr(kGrowthOfToBe));
+  EXPECT_THAT(err, HasSubstr("No words with more than"));
+  EXPECT_EQ(Run({"--file", path, "--window-text", "--statistics", "--min-count", "9"}), kRunFailed);
+  EXPECT_THAT(err, HasSubstr("instances\t6\n"));
+}
+
+TEST_F(StatisticsRun, AreNotThoseOfAWordsFile) {
+  const std::string words = folder.Write("words.txt", "cat dog\r\n");
+  EXPECT_EQ(Run({folder.Write("a.txt", kToBe), "--only", words, "--statistics"}), kRunFailed);
+  EXPECT_THAT(err, Not(HasSubstr("instances")));
+}
+
 TEST_F(StatisticsRun, IsPartOfAnExport) {
   const std::string path = folder.Write("a.txt", kToBe);
   const std::string json = folder / "words.json";

@@ -87,6 +87,31 @@ TEST_F(Targets, WordsFilesThatAreNotThereAreToldBeforeTheCount) {
   ExpectRefusal({"--only", folder.Path()}, kRunFailed, "is a folder; name a file of words");
 }
 
+TEST_F(Targets, AnExportThatFailsDoesNotTakeTheOthersAlong) {
+  input.clear();
+  for (int i = 0; i < 20'000; ++i) input += "cat dog bird\n";
+  const std::string other = folder / "other.csv";
+  interruption = [this] {  // while it is counted, long after the targets were looked at
+    static_cast<void>(folder.Make("a.csv"));
+    static_cast<void>(folder.Make("b.json"));
+    return 0;
+  };
+  EXPECT_EQ(Run({"-", "--export", folder / "a.csv", "--export", table, "--export",
+                 folder / "b.json", "--export", other}),
+            kRunFailed);
+  EXPECT_THAT(err, HasSubstr("--export " + folder / "a.csv" + " cannot be written: "));
+  EXPECT_THAT(err, HasSubstr("--export " + folder / "b.json" + " cannot be written: "));
+  EXPECT_THAT(ContentsOf(table), HasSubstr("bird"));
+  EXPECT_EQ(ContentsOf(other), ContentsOf(table));
+}
+
+TEST_F(Targets, AnExportIsWrittenWhenNobodyReadsTheOneThatIsPrinted) {
+  input = "cat";
+  outIsGone = true;
+  EXPECT_EQ(Run({"-", "--export", "-", "--export", table}), kRunFailed);
+  EXPECT_THAT(ContentsOf(table), HasSubstr("cat"));
+}
+
 TEST_F(Targets, AnExportOnStandardOutputTakesThePlaceOfTheList) {
   input = "cat dog cat";
   EXPECT_EQ(Run({"-", "--export", "-", "--columns", "word,frequency"}), kListMade);

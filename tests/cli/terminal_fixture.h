@@ -41,6 +41,8 @@ class TerminalFixture : public testing::Test {
   bool inputWasOpened = false;
   bool errIsTerminal = false;
   bool outIsTerminal = false;
+  /// Nobody reads standard output any more.
+  bool outIsGone = false;
   std::function<int()> interruption = [] { return 0; };
   std::chrono::milliseconds stepPerLook{0};
   std::string out;
@@ -66,6 +68,7 @@ class TerminalFixture : public testing::Test {
                 },
             .print =
                 [this](const auto& write) {
+                  if (outIsGone) return false;
                   StringSink sink(out);
                   write(sink);
                   return true;

@@ -144,6 +144,37 @@ TEST_F(TerminalRunTest, PathsServeTheColumnsThatNameFiles) {
   EXPECT_THAT(err, HasSubstr("known of folders and of paths with count-only words"));
 }
 
+TEST_F(TerminalRunTest, ExportsTellTheNumberOfFilesWhereSeveralAreCounted) {
+  const std::vector<std::string> texts = {folder.Write("texts/a.txt", "cat cat"),
+                                          folder.Write("texts/b.txt", "cat dog")};
+  const auto headOf = [this](std::vector<std::string> arguments) {
+    arguments.insert(arguments.end(), {"--only-words", "cat", "--export", "-"});
+    EXPECT_EQ(Run(arguments), 0) << err;
+    return out.substr(0, out.find('\r'));
+  };
+  const std::string usual = "rank,word,frequency,percent,per-million,cumulative,length";
+  EXPECT_EQ(headOf({folder / "texts"}), usual + ",files");
+  EXPECT_EQ(headOf({texts[0], texts[1]}), usual + ",files");
+  EXPECT_EQ(headOf({texts[0]}), usual);
+}
+
+TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {
+  std::string cats;
+  for (int i = 0; i < 32'768; ++i) cats += "cat\n";
+  const std::string text = folder.Write("texts/a.txt", cats);
+  const std::vector<std::string> only = {folder / "texts", "--only-words", "cat"};
+  const auto run = [&](const std::vector<std::string>& more) {
+    std::vector<std::string> arguments = only;
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return Run(arguments);
+  };
+  EXPECT_EQ(run({"--format", "8"}), 0) << err;
+  EXPECT_EQ(run({"--export", "-", "--columns", "word,file,frequency"}), 0) << err;
+  EXPECT_THAT(out, HasSubstr("cat," + text + ",32768"));
+  EXPECT_EQ(run({"--format", "11"}), 1);
+  EXPECT_THAT(err, HasSubstr("more than 32,767 times in"));
+}
+
 TEST_F(TerminalRunTest, SkippedItemsThatAreNotKeptAreNumbered) {
   std::ostringstream told;
   ScriptedDesktop desktop;

@@ -13,7 +13,6 @@ namespace quillomat {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FilesOfWords : public testing::Test {
  protected:
@@ -102,25 +101,49 @@ TEST_F(FilesOfWords, WordMetTooOftenInOneFileIsAnOverflow) {
   }
 }
 
+TEST_F(FilesOfWords, WithoutAListOfFilesAWordMayOccurAnyNumberOfTimesInOne) {
+  store.Files().Reset(true, TallyUse::kUnlisted);
+  Meet("dog", "a.txt", 32'768);
+  Meet("dog", "b.txt", 70'000);
+  EXPECT_THAT(FilesOf(1).FileCounts, ElementsAre(32'768, 70'000));
+}
+
 TEST_F(FilesOfWords, AnotherFileStartsItsOwnCount) {
   Meet("dog", "a.txt", 32'767);
   Meet("dog", "b.txt", 2);
   EXPECT_THAT(FilesOf(1).FileCounts, ElementsAre(32'767, 2));
 }
 
+TEST_F(FilesOfWords, AllFilesOfAWordAreKept) {
+  for (int file = 1; file <= 8001; ++file) Meet("dog", "file " + std::to_string(file), 2);
+  EXPECT_EQ(FilesOf(1).NumFiles(), 8001);
+  EXPECT_EQ(FilesOf(1).FileNumbers.back(), 8001);
+  EXPECT_EQ(FilesOf(1).FileCounts.back(), 2);
+  EXPECT_EQ(store.At(1).Count, 16'002);
+}
+
+// The record of them that display formats show.
+
 TEST_F(FilesOfWords, RecordIsFullWithEightThousandFiles) {
   for (int file = 1; file <= 8001; ++file) Meet("dog", "file " + std::to_string(file));
-  EXPECT_EQ(FilesOf(1).NumFiles(), 8000);
-  EXPECT_EQ(FilesOf(1).FileNumbers.back(), 8000);
+  EXPECT_EQ(FilesOf(1).ListedFiles(), 8000U);
   EXPECT_EQ(store.At(1).Count, 8001);
 }
 
 TEST_F(FilesOfWords, FullRecordCountsNoMoreInItsLastFileEither) {
-  for (int file = 1; file < 8000; ++file) Meet("dog", "file " + std::to_string(file));
+  for (int file = 1; file < 8000; ++file) Meet("dog", "file " + std::to_string(file), 3);
   Meet("dog", "the last", 5);
-  EXPECT_EQ(FilesOf(1).NumFiles(), 8000);
-  EXPECT_EQ(FilesOf(1).FileCounts.back(), 1);
-  EXPECT_EQ(store.At(1).Count, 8004);
+  EXPECT_EQ(FilesOf(1).ListedFiles(), 8000U);
+  EXPECT_EQ(FilesOf(1).ListedCount(7998), 3);
+  EXPECT_EQ(FilesOf(1).ListedCount(7999), 1);
+  EXPECT_EQ(FilesOf(1).FileCounts.back(), 5);
+}
+
+TEST_F(FilesOfWords, FullRecordIsNoLimit) {
+  for (int file = 1; file < 8000; ++file) Meet("dog", "file " + std::to_string(file));
+  Meet("dog", "the last", 32'768);
+  Meet("dog", "one more", 32'768);
+  EXPECT_EQ(FilesOf(1).FileCounts.back(), 32'768);
 }
 
 TEST_F(FilesOfWords, ManyOccurrencesAtOnceAreLikeOneAfterTheOther) {
@@ -133,23 +156,30 @@ TEST_F(FilesOfWords, ManyOccurrencesAtOnceAreLikeOneAfterTheOther) {
   }
   EXPECT_EQ(together.FileNumbers, oneByOne.FileNumbers);
   EXPECT_EQ(together.FileCounts, oneByOne.FileCounts);
-  FileTally tooMany;
-  tooMany.CountWordInFile(1, 32'767);
-  EXPECT_THROW(tooMany.CountWordInFile(1, 2), RunTimeError);
-  tooMany.CountWordInFile(2, 32'767);
-  EXPECT_THROW(tooMany.CountWordInFile(2), RunTimeError);
 }
 
-TEST_F(FilesOfWords, FileNumberOfFiveDigitsIsTheLastThatIsKept) {
+TEST_F(FilesOfWords, RecordTakesSoManyOccurrencesInOneFile) {
+  FileTally tally;
+  EXPECT_FALSE(tally.ExceedsRecord());
+  tally.CountWordInFile(1, 32'767);
+  EXPECT_FALSE(tally.ExceedsRecord());
+  tally.CountWordInFile(1);
+  EXPECT_TRUE(tally.ExceedsRecord());
+  tally.CountWordInFile(2);
+  EXPECT_FALSE(tally.ExceedsRecord());
+}
+
+TEST_F(FilesOfWords, FileNumberOfFiveDigitsIsTheLastInTheRecord) {
   NumberFilesUpTo(99'998);
   Meet("dog", "the last");
-  Meet("dog", "one more");
+  Meet("dog", "one more", 32'768);
   Meet("cat", "one more", 2);
   EXPECT_EQ(store.Files().CurrentFileNumber(), 100'000);
-  EXPECT_THAT(FilesOf(2).FileNumbers, ElementsAre(99'999));
-  EXPECT_EQ(store.At(2).Count, 2);
-  EXPECT_THAT(FilesOf(1).FileNumbers, IsEmpty());
-  EXPECT_EQ(FilesOf(1).NumFiles(), 0);
+  EXPECT_THAT(FilesOf(2).FileNumbers, ElementsAre(99'999, 100'000));
+  EXPECT_EQ(FilesOf(2).ListedFiles(), 1U);
+  EXPECT_EQ(FilesOf(2).FileCounts.back(), 32'768);
+  EXPECT_THAT(FilesOf(1).FileNumbers, ElementsAre(100'000));
+  EXPECT_EQ(FilesOf(1).ListedFiles(), 0U);
   EXPECT_EQ(store.At(1).Count, 2);
 }
 

@@ -126,6 +126,19 @@ TEST_F(FileLists, FrequencyIsFiveWide) {
   EXPECT_EQ(LineOf(1), "dog\n32767 /t/a.txt\n");
 }
 
+TEST_F(FileLists, EndWithTheEightThousandthFileOfAWord) {
+  for (int file = 1; file <= 8002; ++file) {
+    AddInFile("/t/" + std::to_string(file), "dog", file < 8000 ? 1 : 2);
+  }
+  Finish();
+  options.folder = "/t";
+  options.lineBreak = "\n";
+  const std::string line = LineOf(1);
+  EXPECT_TRUE(line.ends_with("\n    1 /t/7999\n    1 /t/8000\n")) << line.substr(line.size() - 60);
+  options.format = DisplayFormat::kWordFreqNoFiles;
+  EXPECT_EQ(LineOf(1), "  dog      8005 8000");
+}
+
 TEST_F(FileLists, WordWithoutFilesStandsAlone) {
   Add("dog");
   Finish();

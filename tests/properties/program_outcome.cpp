@@ -323,9 +323,9 @@ class ProgramCase {
            << (record.Included ? " listed" : " left out") << " files ";
       const FileTally* files = store_.FilesOf(i);
       std::string counts;
-      for (std::size_t k = 0; files != nullptr && k < files->FileNumbers.size(); ++k) {
+      for (std::size_t k = 0; files != nullptr && k < files->ListedFiles(); ++k) {
         out_ << FiveDigits(files->FileNumbers[k]);
-        counts += FiveDigits(files->FileCounts[k]);
+        counts += FiveDigits(files->ListedCount(k));
       }
       out_ << ' ' << counts << '\n';
     }

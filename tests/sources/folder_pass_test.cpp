@@ -206,8 +206,13 @@ TEST_F(FilesOnThreads, FailAtTheFileThatOverflows) {
   EXPECT_EQ(result.error.value().Description(),
             "Overflow: the word \"cat\" occurs more than 32,767 times in " +
                 (folder / Numbered(20)) +
-                ", the most that is counted for one file of several.  Count that file by itself.");
+                ", the most that lists of files take.  Count that file by itself, in a display "
+                "format without files.");
   EXPECT_EQ(observer.events.back(), "begins " + Numbered(20));
+  request.tallyUse = TallyUse::kUnlisted;
+  const CountResult unlisted = Run(TextOfFolder{folder.Path(), false, {}});
+  ASSERT_EQ(unlisted.end, CountEnd::kComplete);
+  EXPECT_EQ(unlisted.store.FilesOf(1)->FileCounts.at(20), 32'768);
 }
 
 }  // namespace

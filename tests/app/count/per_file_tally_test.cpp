@@ -177,9 +177,8 @@ TEST_F(PerFileTally, FilesAreToldForWordsInOneInTwoAndInMoreThan8000Files) {
   CountTexts();
   EXPECT_TRUE(
       Has(ListFile(), "  all      8003 8000\n  two         4    2\n  one         1    1\n"));
-  EXPECT_EQ(TallyOf("all").FileNumbers.size(), 8'000U);
-  EXPECT_EQ(TallyOf("all").FileNumbers.back(), 8'000);
-  EXPECT_EQ(TallyOf("all").FileCounts.back(), 1);  // the record is full with its first occurrence
+  EXPECT_EQ(TallyOf("all").NumFiles(), 8'001);
+  EXPECT_EQ(TallyOf("all").FileCounts.back(), 2);
   EXPECT_THAT(TallyOf("two").FileNumbers, ElementsAre(1, kFiles));
   EXPECT_THAT(TallyOf("two").FileCounts, ElementsAre(2, 2));
   EXPECT_THAT(TallyOf("one").FileNumbers, ElementsAre(7'000));
@@ -230,8 +229,8 @@ TEST_F(OverflowInAFile, EndsTheRunWithAReport) {
   ExpectMessage(OnlyMessage(),
                 "Error 6: Overflow: the word \"cat\" occurs more than 32,767 times in " +
                     (folder / "texts/b.txt") +
-                    ", the most that is counted for one file of several.  Count that file by "
-                    "itself.",
+                    ", the most that lists of files take.  Count that file by itself, in a "
+                    "display format without files.",
                 "Problem", MessageIcon::kExclamation);
   EXPECT_EQ(ListFile(), "");
 }
