@@ -245,9 +245,9 @@ TEST_F(OutOfMemory, LeavesTheStoreAsItWasBeforeItWasSorted) {
     store.AddWord("zebra");
     ASSERT_EQ(store.NumDifferentWords(), kWords + 1);
     for (std::int32_t place = 1; place <= kWords + 1; ++place) {
-      const std::int16_t times = store.WordOf(place) == "w7" ? 2 : 1;
+      const std::int32_t times = store.WordOf(place) == "w7" ? 2 : 1;
       ASSERT_EQ(store.CountOf(place), times);
-      ASSERT_EQ(store.FilesOf(place)->FileCounts, std::vector<std::int16_t>{times});
+      ASSERT_EQ(store.FilesOf(place)->FileCounts, std::vector<std::int32_t>{times});
     }
   }
 }
