@@ -41,6 +41,9 @@ class UnmarkedSource final : public ByteSource {
  public:
   explicit UnmarkedSource(ByteSource& source) : source_(source) {}
 
+  /// The source is not at its start any more, so what looks like a mark is none.
+  void BeginInside() { detected_ = true; }
+
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
     return pendingStart_ < pending_.size() || ended_ || source_.IsReady(longest);

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <exception>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -67,6 +68,11 @@ class CountingSource final : public ByteSource {
   }
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
     return source_.IsReady(longest);
+  }
+  [[nodiscard]] std::optional<PlacedRest> Rest() const override { return source_.Rest(); }
+  void Skip(std::int64_t bytes) override {
+    source_.Skip(bytes);
+    bytesRead_ += bytes;
   }
   [[nodiscard]] std::int64_t BytesRead() const { return bytesRead_; }
 

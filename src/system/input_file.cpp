@@ -5,7 +5,22 @@
 
 namespace quillomat {
 
-InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForReading(path)) {}
+InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForReading(path)) {
+  isPlaced_ = length_ > 0;
+}
+
+std::optional<PlacedRest> InputFile::Rest() const {
+  if (!isPlaced_) return std::nullopt;
+  const auto ahead = static_cast<std::int64_t>(ahead_.size() - aheadStart_);
+  return PlacedRest{*this, bytesRead_ - ahead, length_};
+}
+
+void InputFile::Skip(std::int64_t bytes) {
+  const auto ahead = static_cast<std::int64_t>(ahead_.size() - aheadStart_);
+  const std::int64_t ofThese = std::min(bytes, ahead);
+  aheadStart_ += static_cast<std::size_t>(ofThese);
+  bytesRead_ += bytes - ofThese;
+}
 
 /// A pipe without a writer is at its end, though it is not ready.
 bool InputFile::AwaitsWriter() {
@@ -49,7 +64,7 @@ std::string_view InputFile::Ahead(std::size_t bytes) {
 /// An end stays one, though a file may grow meanwhile.
 std::size_t InputFile::ReadFile(std::span<char> buffer) {
   if (ended_ || buffer.empty()) return 0;
-  const std::size_t bytes = file_.Read(buffer);
+  const std::size_t bytes = isPlaced_ ? file_.ReadAt(bytesRead_, buffer) : file_.Read(buffer);
   ended_ = bytes == 0;
   bytesRead_ += static_cast<std::int64_t>(bytes);
   return bytes;

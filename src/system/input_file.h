@@ -15,7 +15,7 @@
 
 namespace quillomat {
 
-class InputFile final : public ByteSource {
+class InputFile final : public ByteSource, private PlacedBytes {
  public:
   /// Throws RunTimeError 53 when there is no such file, 76 when there is not even its folder, 70
   /// when it may not be read, 75 when it is a folder, and others as the system has it.
@@ -42,6 +42,10 @@ class InputFile final : public ByteSource {
   /// As ByteSource::Read; throws RunTimeError 57 when the device fails.
   std::size_t Read(std::span<char> buffer) override;
 
+  /// Of a file that was opened by its path and has a length.
+  [[nodiscard]] std::optional<PlacedRest> Rest() const override;
+  void Skip(std::int64_t bytes) override;
+
   /// The next `bytes` bytes, or all that are left if they are fewer, which stay to be read. The
   /// view is good until the next call. Throws as Read does.
   [[nodiscard]] std::string_view Ahead(std::size_t bytes);
@@ -50,10 +54,15 @@ class InputFile final : public ByteSource {
   explicit InputFile(NativeFile file) : file_(std::move(file)), length_(file_.Length()) {}
 
   std::size_t ReadFile(std::span<char> buffer);
+  [[nodiscard]] std::size_t ReadAt(std::int64_t place, std::span<char> buffer) const override {
+    return file_.ReadAt(place, buffer);
+  }
 
   NativeFile file_;
   std::int64_t length_;
-  /// So many bytes have been read from the file.
+  /// Nobody else moves the place in it.
+  bool isPlaced_ = false;
+  /// So many bytes have been read from the file, or skipped.
   std::int64_t bytesRead_ = 0;
   bool ended_ = false;
   /// Read ahead, and not yet given out from aheadStart_ on.

@@ -64,7 +64,10 @@ class NativeFile {
 
   /// At least one byte unless at the end, or `buffer` is empty.
   [[nodiscard]] std::size_t Read(std::span<char> buffer) const;
-  /// The same, but nothing where Read would wait, if the system can tell.
+  /// The same of the bytes from `place` on, of a file with a length; several threads may do so at
+  /// the same time. Where Read goes on behind it is not said.
+  [[nodiscard]] std::size_t ReadAt(std::int64_t place, std::span<char> buffer) const;
+  /// As Read, but nothing where Read would wait, if the system can tell.
   [[nodiscard]] std::optional<std::size_t> ReadAtHand(std::span<char> buffer) const;
 
   /// Writes all of `bytes`. A pipe without a reader is an error (ReaderGone), never the end of the

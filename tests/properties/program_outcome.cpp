@@ -17,6 +17,7 @@
 #include "properties/count_outcome.h"
 #include "sources/counter.h"
 #include "support/made_up_segmenter.h"
+#include "support/placed_text.h"
 #include "support/scripted_desktop.h"
 #include "system/system_segmenter.h"
 
@@ -118,6 +119,9 @@ class ProgramCase {
     for (std::size_t i = 0; i < typed.items.size(); ++i) {
       cleaned += (i > 0 ? " " : "") + typed.items[i];
     }
+    // Runs without blanks may be many words.
+    if (!typed.fits)
+      cleaned = kind == 0 ? "Too many words to ignore." : "Too many count-only words.";
     out_ << "typed: " << cleaned << '\n';
     (kind == 0 ? lists_.ExtraIgnoreList : lists_.ExtraCountOnlyList) =
         WordList(std::move(typed.items));
@@ -233,7 +237,10 @@ class ProgramCase {
       PrepareFor(text);
       if (threaded && !text.whole && CanStandInAFile(text.lines)) {
         const std::string file = AsFile(text.lines);
-        TextSource source(file);
+        TextSource inTurn(file);
+        PlacedText placed(file);
+        const bool isPlaced = file.size() % 2 == 0;
+        ByteSource& source = isPlaced ? static_cast<ByteSource&>(placed) : inTurn;
         threaded->Scan(source, {[] { return false; }, [](std::int64_t) {}});
         continue;
       }

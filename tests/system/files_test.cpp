@@ -40,6 +40,27 @@ TEST_F(InputFileTest, WhatIsSeenAheadStaysToBeRead) {
   }
 }
 
+TEST_F(InputFileTest, TheRestOfAFileCanBeReadAtAnyPlace) {
+  InputFile file(folder_.Write("placed", "one two three"));
+  EXPECT_EQ(file.Ahead(5), "one t");
+  EXPECT_EQ(file.Rest().value().begin, 0);
+  EXPECT_EQ(file.Rest().value().end, 13);
+  std::array<char, 5> three{};
+  EXPECT_EQ(file.Rest().value().bytes.ReadAt(8, three), 5U);
+  EXPECT_EQ(std::string_view(three.data(), three.size()), "three");
+  EXPECT_EQ(file.Rest().value().bytes.ReadAt(12, three), 1U);
+  EXPECT_EQ(file.Rest().value().bytes.ReadAt(13, three), 0U);
+  // Which is no matter to who reads it in turn.
+  file.Skip(4);
+  EXPECT_EQ(file.Rest().value().begin, 4);
+  EXPECT_EQ(file.Ahead(3), "two");
+  file.Skip(7);
+  EXPECT_EQ(file.Rest().value().begin, 11);
+  EXPECT_EQ(file.Ahead(9), "ee");
+  InputFile empty(folder_.Write("nothing placed", ""));
+  EXPECT_FALSE(empty.Rest());
+}
+
 TEST_F(InputFileTest, NoMoreIsSeenAheadThanThereIs) {
   InputFile file(folder_.Write("in", "one"));
   EXPECT_EQ(file.Ahead(100), "one");

@@ -12,16 +12,14 @@ namespace {
 /// Whoever is silent for longer makes others wait.
 constexpr std::chrono::milliseconds kMoment{8};
 
-/// The place behind the last line end of `text`; 0 when there is none. A carriage return at the
-/// very end is none yet: its line feed may follow.
+}  // namespace
+
 std::size_t BehindLastLineEnd(std::string_view text) {
   if (const std::size_t lineFeed = text.rfind('\n'); lineFeed != std::string_view::npos) {
     return lineFeed + 1;
   }
   return text.empty() ? 0 : text.substr(0, text.size() - 1).rfind('\r') + 1;
 }
-
-}  // namespace
 
 std::int64_t BytesWithLongLineEnds(std::string_view lines) {
   std::size_t lineEnds = CountOf('\n', lines);

@@ -24,6 +24,10 @@ struct TextPiece {
   [[nodiscard]] std::string_view Text() const { return {memory.data(), bytes}; }
 };
 
+/// The place behind the last line end of `text`; 0 when there is none. A carriage return at the
+/// very end is none yet: its line feed may follow.
+[[nodiscard]] std::size_t BehindLastLineEnd(std::string_view text);
+
 /// The bytes of `lines`, with two for every line end, whichever it is.
 [[nodiscard]] std::int64_t BytesWithLongLineEnds(std::string_view lines);
 
@@ -34,6 +38,9 @@ class LinePieces {
   /// `source` must outlive the pieces' reader. A byte-order mark is dropped, UTF-16 becomes UTF-8.
   explicit LinePieces(ByteSource& source, std::size_t pieceBytes = kPieceBytes)
       : source_(source), pieceBytes_(pieceBytes) {}
+
+  /// The source is not at its start any more: bytes were skipped.
+  void BeginInside() { source_.BeginInside(); }
 
   /// Puts the next piece into `piece`; false when there is none. A piece has about as many bytes as
   /// were asked for, more only when one line has more, fewer when no more come for now. It ends

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/run_time_error.h"
+
 namespace quillomat {
 namespace {
 
@@ -19,8 +21,10 @@ std::vector<std::unique_ptr<PieceScanner>> MakeScanners(
 }  // namespace
 
 PiecePool::PiecePool(const ScanSettings& settings, const ScanChoices& choices,
-                     const WordLists& lists, std::size_t threads, bool keepOrder)
-    : scanners_(MakeScanners(std::max<std::size_t>(threads, 1), settings, choices, lists, stop_,
+                     const WordLists& lists, std::size_t threads, std::size_t bytesAtOnce,
+                     bool keepOrder)
+    : bytesAtOnce_(bytesAtOnce),
+      scanners_(MakeScanners(std::max<std::size_t>(threads, 1), settings, choices, lists, stop_,
                              keepOrder)),
       jobs_(threads, stop_, [this](Piece& piece, std::size_t scanner) {
         Scan(piece, scanner);
@@ -29,16 +33,26 @@ PiecePool::PiecePool(const ScanSettings& settings, const ScanChoices& choices,
 
 void PiecePool::Scan(Piece& piece, std::size_t scanner) {
   piece.scanner = scanner;
+  PieceScanner& scans = *scanners_[scanner];
   try {
-    piece.count = scanners_[scanner]->Scan(piece.text.Text(), piece.settings);
+    piece.count = piece.placed ? scans.Scan(*piece.placed, bytesAtOnce_, piece.settings)
+                               : scans.Scan(piece.text.Text(), piece.settings);
+  } catch (const RunTimeError&) {
+    scans.ForgetWords();  // which may be half a word
+    if (!piece.placed) throw;
+    piece.failed = true;  // and fails again where it is read in its turn
   } catch (...) {
-    scanners_[scanner]->ForgetWords();  // which may be half a word
+    scans.ForgetWords();
     throw;
   }
 }
 
 void PiecePool::Submit(TextPiece text, const ScanSettings& settings) {
-  jobs_.Submit({.text = std::move(text), .settings = settings, .count = {}});
+  jobs_.Submit({.text = std::move(text), .placed = {}, .settings = settings, .count = {}});
+}
+
+void PiecePool::Submit(const PlacedPiece& placed, const ScanSettings& settings) {
+  jobs_.Submit({.text = {}, .placed = placed, .settings = settings, .count = {}});
 }
 
 void PiecePool::Clear() {

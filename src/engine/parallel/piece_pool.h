@@ -6,11 +6,13 @@
 #include <chrono>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "engine/parallel/line_pieces.h"
 #include "engine/parallel/ordered_jobs.h"
 #include "engine/parallel/piece_scanner.h"
+#include "engine/parallel/placed_pieces.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 
@@ -20,6 +22,10 @@ class PiecePool {
  public:
   struct Piece {
     TextPiece text;
+    /// Instead of it, for one that who scans it reads.
+    std::optional<PlacedPiece> placed;
+    /// It could not be read.
+    bool failed = false;
     /// Its markers, and the comment that is open in front of it.
     ScanSettings settings;
     PieceCount count;
@@ -27,15 +33,17 @@ class PiecePool {
     std::size_t scanner = 0;
   };
 
-  /// The arguments are those of PieceScanner.
+  /// The arguments are those of PieceScanner. Of pieces that are read here about `bytesAtOnce` are
+  /// read at once.
   PiecePool(const ScanSettings& settings, const ScanChoices& choices, const WordLists& lists,
-            std::size_t threads, bool keepOrder = false);
+            std::size_t threads, std::size_t bytesAtOnce, bool keepOrder = false);
 
   [[nodiscard]] std::size_t Threads() const { return jobs_.Threads(); }
   [[nodiscard]] std::size_t Pieces() const { return jobs_.Size(); }
 
   /// Has `text` scanned as the last piece.
   void Submit(TextPiece text, const ScanSettings& settings);
+  void Submit(const PlacedPiece& placed, const ScanSettings& settings);
 
   /// Waits for the first piece; false when it takes longer. There is one.
   [[nodiscard]] bool WaitForFirst(std::chrono::milliseconds longest) {
@@ -55,6 +63,7 @@ class PiecePool {
  private:
   void Scan(Piece& piece, std::size_t scanner);
 
+  std::size_t bytesAtOnce_;
   std::atomic<bool> stop_ = false;
   /// Each belongs to the thread of its number while that is at work.
   std::vector<std::unique_ptr<PieceScanner>> scanners_;

@@ -33,31 +33,57 @@ PieceScanner::PieceScanner(ScanSettings settings, const ScanChoices& choices,
 }
 
 PieceCount PieceScanner::Scan(std::string_view text, const ScanSettings& settings, Counts counts) {
+  PieceCount count = Begin(text.size(), settings, counts);
+  Take(text, count);
+  End(count);
+  return count;
+}
+
+PieceCount PieceScanner::Scan(const PlacedPiece& piece, std::size_t bytesAtOnce,
+                              const ScanSettings& settings) {
+  const auto bytes = static_cast<std::size_t>(piece.end - piece.begin);
+  PieceCount count = Begin(bytes, settings, Counts::kByPiece);
+  PlacedLines lines(piece, memory_, bytesAtOnce);
+  for (std::string_view some = lines.Next(); !some.empty() && !stopTest_.Yield();
+       some = lines.Next()) {
+    Take(some, count);
+  }
+  End(count);
+  return count;
+}
+
+PieceCount PieceScanner::Begin(std::size_t bytes, const ScanSettings& settings, Counts counts) {
   const bool together = counts == Counts::kTogether;
   if (!owesCounts_) {
     if (forget_.exchange(false) || store_.NumDifferentWords() > kMostWordsKept) ForgetWords();
     // To note the words costs less than to look for them at the end where the text is short.
     const auto words = static_cast<std::size_t>(store_.NumDifferentWords());
-    store_.NoteCountedWords(!together && text.size() < words * kBytesWorthLook);
+    store_.NoteCountedWords(!together && bytes < words * kBytesWorthLook);
   }
   owesCounts_ = together;
   settings_ = settings;
   settings_.Uncounted = {};
   scanner_.SetWordsRead(0);
   PieceCount count;
+  count.countsTogether = together;
   count.looksForComments = scanner_.LooksForComments();
   count.openBefore = settings_.OpenComment;
-  ScanWholeLines({settings_, choices_, lists_, store_, stopTest_, scanner_}, text);
-  count.bytesWithLongLineEnds = BytesWithLongLineEnds(text);
+  return count;
+}
+
+void PieceScanner::Take(std::string_view lines, PieceCount& count) {
+  ScanWholeLines({settings_, choices_, lists_, store_, stopTest_, scanner_}, lines);
+  count.bytesWithLongLineEnds += BytesWithLongLineEnds(lines);
+}
+
+void PieceScanner::End(PieceCount& count) {
   count.numbersAnew = std::exchange(numbersAnew_, false);
-  count.countsTogether = together;
-  if (!together) count.words = store_.TakeCountedWords();
+  if (!count.countsTogether) count.words = store_.TakeCountedWords();
   count.order = std::exchange(order_.places, {});
   DescribeNewWords(count);
   count.wordsRead = scanner_.WordsRead();
   count.openComment = settings_.OpenComment;
   count.uncounted = settings_.Uncounted;
-  return count;
 }
 
 void PieceScanner::TakeCounts(PieceCount& last) {

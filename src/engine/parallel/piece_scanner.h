@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "engine/letter_arena.h"
+#include "engine/parallel/placed_pieces.h"
 #include "engine/scan_settings.h"
 #include "engine/uncounted.h"
 #include "engine/word_list.h"
@@ -60,6 +61,10 @@ class PieceScanner {
   /// them are to be taken for the last one.
   [[nodiscard]] PieceCount Scan(std::string_view text, const ScanSettings& settings,
                                 Counts counts = Counts::kByPiece);
+  /// Reads a piece and scans it likewise, by itself; about `bytesAtOnce` are read at once. Throws
+  /// RunTimeError when it cannot be read; then the words are to be numbered anew.
+  [[nodiscard]] PieceCount Scan(const PlacedPiece& piece, std::size_t bytesAtOnce,
+                                const ScanSettings& settings);
   /// Puts the counts of the pieces that were counted together into that of the last of them.
   void TakeCounts(PieceCount& last);
 
@@ -80,6 +85,9 @@ class PieceScanner {
     const std::atomic<bool>& stop_;
   };
 
+  [[nodiscard]] PieceCount Begin(std::size_t bytes, const ScanSettings& settings, Counts counts);
+  void Take(std::string_view lines, PieceCount& count);
+  void End(PieceCount& count);
   void DescribeNewWords(PieceCount& count);
 
   ScanSettings settings_;
@@ -94,6 +102,8 @@ class PieceScanner {
   /// Pieces wait for their counts to be taken.
   bool owesCounts_ = false;
   std::int32_t wordsTold_ = 0;
+  /// For what is read here.
+  std::vector<char> memory_;
 };
 
 /// Puts what one PieceScanner has found into the store of the whole text.

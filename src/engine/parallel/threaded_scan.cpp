@@ -1,23 +1,53 @@
 #include "engine/parallel/threaded_scan.h"
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 #include "base/checked_count.h"
+#include "base/run_time_error.h"
 #include "engine/long_line.h"
 #include "engine/whole_lines.h"
 
 namespace quillomat {
+namespace {
+
+/// How many bytes the mark has with which a text starts that lies still; nothing where the text
+/// does not, or is UTF-16.
+std::optional<std::size_t> MarkBytesOfPlaced(const ByteSource& source) {
+  const std::optional<PlacedRest> rest = source.Rest();
+  if (!rest) return std::nullopt;
+  std::array<char, 3> head{};
+  std::size_t bytes = 0;
+  try {
+    bytes = rest->bytes.ReadAt(rest->begin, head);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+  const std::string_view start(head.data(), bytes);
+  if (bytes < head.size() || start.starts_with("\xFE\xFF") || start.starts_with("\xFF\xFE")) {
+    return std::nullopt;
+  }
+  return start == "\xEF\xBB\xBF" ? head.size() : 0;
+}
+
+/// Whether a text that lies still has been read to its end.
+bool IsAtEnd(const ByteSource& source) {
+  const std::optional<PlacedRest> rest = source.Rest();
+  std::array<char, 1> next{};
+  try {
+    return rest && rest->bytes.ReadAt(rest->begin, next) == 0;
+  } catch (const RunTimeError&) {
+    return false;  // as it will say when it is read
+  }
+}
+
+}  // namespace
 
 void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   LinePieces pieces(source, pieceBytes_);
-  nextOpen_ = target_.settings.OpenComment;
-  guesses_ = true;
-  hasGuessedWrong_ = false;
-  sourceEnded_ = false;
-  readError_ = nullptr;
-  longLine_.reset();
   yield_.yield = &callbacks.yield;
-  yield_.stopped = false;
+  Begin(source, pieces);
   try {
     for (ReadAhead(pieces); pool_.Pieces() > 0 || longLine_; ReadAhead(pieces)) {
       if (pool_.Pieces() == 0) {
@@ -27,7 +57,9 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
       while (!pool_.WaitForFirst(kLongestWait)) {
         if (callbacks.yield()) return pool_.Clear();
       }
-      callbacks.onBytes(pool_.First().count.bytesWithLongLineEnds);
+      const PiecePool::Piece& first = pool_.First();
+      if (first.placed && !TakePlaced(first)) continue;
+      callbacks.onBytes(first.count.bytesWithLongLineEnds);
       JoinFirst();
       if (callbacks.yield()) return pool_.Clear();
     }
@@ -38,6 +70,50 @@ void ThreadedScan::Scan(ByteSource& source, const Callbacks& callbacks) {
   if (readError_) std::rethrow_exception(readError_);
 }
 
+void ThreadedScan::Begin(ByteSource& source, LinePieces& pieces) {
+  nextOpen_ = target_.settings.OpenComment;
+  guesses_ = true;
+  hasGuessedWrong_ = false;
+  sourceEnded_ = false;
+  readError_ = nullptr;
+  longLine_.reset();
+  yield_.stopped = false;
+  source_ = &source;
+  placed_.reset();
+  const std::optional<std::size_t> markBytes = MarkBytesOfPlaced(source);
+  arePlaced_ = markBytes.has_value();
+  if (!arePlaced_) return;
+  source.Skip(static_cast<std::int64_t>(*markBytes));
+  pieces.BeginInside();
+  placed_.emplace(*source.Rest(), pool_.Threads(), pieceBytes_);
+}
+
+/// Hands over pieces of a text that lies still.
+void ThreadedScan::PlaceAhead() {
+  while (placed_ && pool_.Pieces() < 2 * pool_.Threads()) {
+    const std::optional<PlacedPiece> piece = placed_->Next();
+    if (!piece) return placed_.reset();
+    ScanSettings settings = target_.settings;
+    settings.OpenComment = nextOpen_;
+    nextOpen_ = openComments_.LikelyBehind(placed_->LastLines(), settings);
+    pool_.Submit(*piece, settings);
+  }
+}
+
+/// Passes over the first piece in the source, if it can be joined. Otherwise false: then the text
+/// is read on from there as any other.
+bool ThreadedScan::TakePlaced(const PiecePool::Piece& first) {
+  if (!first.failed && CanJoin(first)) {
+    source_->Skip(first.placed->end - first.placed->begin);
+    return true;
+  }
+  guesses_ = first.failed;
+  placed_.reset();
+  pool_.Clear();
+  nextOpen_ = target_.settings.OpenComment;
+  return false;
+}
+
 /// So many pieces that no thread waits for work while one is joined; but nobody waits for more of a
 /// text as long as there is something to be joined. What was read before an error
 /// is counted first.
@@ -46,6 +122,12 @@ void ThreadedScan::ReadAhead(LinePieces& pieces) {
     if (pool_.Pieces() > 0) return;
     hasGuessedWrong_ = false;
     nextOpen_ = target_.settings.OpenComment;
+  }
+  if (arePlaced_) {
+    PlaceAhead();
+    if (pool_.Pieces() > 0) return;  // the source stands in front of the first
+    arePlaced_ = false;
+    sourceEnded_ = IsAtEnd(*source_);  // which costs less than to make room for more
   }
   while (!sourceEnded_ && !longLine_ && pool_.Pieces() < 2 * pool_.Threads()) {
     if (pool_.Pieces() > 0 && !pieces.IsReady(kLongestWait)) return;
@@ -110,7 +192,8 @@ void ThreadedScan::JoinFirst() {
     pool_.ForgetWords(first.scanner);
     ScanHere(first.text.Text());
   }
-  spareTexts_.push_back(pool_.DropFirst());
+  TextPiece text = pool_.DropFirst();
+  if (!text.memory.empty()) spareTexts_.push_back(std::move(text));
 }
 
 bool ThreadedScan::CanJoin(const PiecePool::Piece& piece) const {

@@ -19,6 +19,7 @@
 #include "engine/parallel/open_comment_finder.h"
 #include "engine/parallel/piece_pool.h"
 #include "engine/parallel/piece_scanner.h"
+#include "engine/parallel/placed_pieces.h"
 #include "engine/scan_settings.h"
 #include "engine/word_list.h"
 #include "engine/word_scanner.h"
@@ -43,7 +44,8 @@ class ThreadedScan {
                std::size_t threads, std::size_t pieceBytes = LinePieces::kPieceBytes)
       : target_(target),
         pieceBytes_(pieceBytes),
-        pool_(target.settings, choices, lists, threads, target.store.OrderListener() != nullptr),
+        pool_(target.settings, choices, lists, threads, 1 + pieceBytes / kReadsPerPiece,
+              target.store.OrderListener() != nullptr),
         joiners_(std::max<std::size_t>(threads, 1)),
         openComments_(target.settings, choices, lists,
                       std::min(OpenCommentFinder::kLookedAt, 1 + pieceBytes / 4)),
@@ -63,6 +65,12 @@ class ThreadedScan {
   void Scan(ByteSource& source, const Callbacks& callbacks);
 
  private:
+  /// What is read at once stays in the cache nearest to the processor.
+  static constexpr std::size_t kReadsPerPiece = 4;
+
+  void Begin(ByteSource& source, LinePieces& pieces);
+  void PlaceAhead();
+  [[nodiscard]] bool TakePlaced(const PiecePool::Piece& first);
   void ReadAhead(LinePieces& pieces);
   void JoinFirst();
   [[nodiscard]] bool CanJoin(const PiecePool::Piece& piece) const;
@@ -100,6 +108,12 @@ class ThreadedScan {
   std::vector<PieceJoiner> joiners_;
   /// Memory for pieces.
   std::vector<TextPiece> spareTexts_;
+  /// Of the text that is scanned.
+  ByteSource* source_ = nullptr;
+  /// While it is read by those who scan it.
+  std::optional<PlacedPieces> placed_;
+  /// The pieces in the pool are such.
+  bool arePlaced_ = false;
   OpenCommentFinder openComments_;
   /// Open in front of the next piece that is read.
   int nextOpen_ = -1;

@@ -226,6 +226,15 @@ std::size_t NativeFile::Read(std::span<char> buffer) const {
   return static_cast<std::size_t>(bytesRead);
 }
 
+std::size_t NativeFile::ReadAt(std::int64_t place, std::span<char> buffer) const {
+  ssize_t bytesRead = -1;
+  do {
+    bytesRead = pread(static_cast<int>(handle_), buffer.data(), buffer.size(), place);
+  } while (bytesRead < 0 && errno == EINTR);
+  if (bytesRead < 0) ThrowErrno(errno, FileAction::kTransfer);
+  return static_cast<std::size_t>(bytesRead);
+}
+
 std::optional<std::size_t> NativeFile::ReadAtHand(std::span<char> buffer) const {
   const int descriptor = static_cast<int>(handle_);
   const int flags = fcntl(descriptor, F_GETFL);

@@ -147,6 +147,20 @@ std::size_t NativeFile::Read(std::span<char> buffer) const {
   return bytesRead;
 }
 
+std::size_t NativeFile::ReadAt(std::int64_t place, std::span<char> buffer) const {
+  constexpr unsigned kBitsOfHalf = 32;
+  const auto wanted = static_cast<DWORD>(std::min(buffer.size(), kMostBytesPerCall));
+  OVERLAPPED from{};
+  from.Offset = static_cast<DWORD>(place);
+  from.OffsetHigh = static_cast<DWORD>(place >> kBitsOfHalf);
+  DWORD bytesRead = 0;
+  if (ReadFile(AsHandle(handle_), buffer.data(), wanted, &bytesRead, &from) == 0) {
+    const DWORD error = GetLastError();
+    if (error != ERROR_HANDLE_EOF) ThrowError(error, FileAction::kTransfer);
+  }
+  return bytesRead;
+}
+
 std::optional<std::size_t> NativeFile::ReadAtHand(std::span<char> buffer) const {
   if (!IsReady(std::chrono::milliseconds::zero())) return std::nullopt;
   return Read(buffer);

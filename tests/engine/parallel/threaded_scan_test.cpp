@@ -14,6 +14,7 @@
 #include "base/text_helpers.h"
 #include "support/engine_fixture.h"
 #include "support/failing_source.h"
+#include "support/placed_text.h"
 
 namespace quillomat {
 namespace {
@@ -81,14 +82,19 @@ class ThreadedScanTest : public EngineFixture {
     return Described(told);
   }
 
+  /// The text comes from front to back, or lies still.
+  enum class Source { kInTurn, kPlaced };
+
   Outcome OnThreads(const std::vector<std::string>& files, std::size_t threads,
-                    std::size_t pieceBytes) {
+                    std::size_t pieceBytes, Source kind = Source::kInTurn) {
     ToldWords told;
     Begin(told);
     ThreadedScan scan({settings, store, wordsRead}, choices, lists, threads, pieceBytes);
     for (std::size_t i = 0; i < files.size(); ++i) {
       store.Files().SetFileBeingScanned("file " + std::to_string(i));
-      TextSource source(files[i]);
+      TextSource inTurn(files[i]);
+      PlacedText placed(files[i]);
+      ByteSource& source = kind == Source::kPlaced ? static_cast<ByteSource&>(placed) : inTurn;
       scan.Scan(source, {[] { return false; }, [](std::int64_t) {}});
     }
     return Described(told);
@@ -121,9 +127,11 @@ TEST_F(ThreadedScanTest, RandomTextsAreTheSameWhereverTheyAreCut) {
                                             RandomText(random, random() % 400)};
     const Outcome expected = FromEndToEnd(files);
     const std::size_t threads = std::vector<std::size_t>{0, 1, 2, 3, 8}[random() % 5];
-    const Outcome outcome = OnThreads(files, threads, 1 + random() % 300);
-    ASSERT_EQ(outcome.told, expected.told) << round;
-    ASSERT_EQ(outcome, expected) << round;
+    for (const Source kind : {Source::kInTurn, Source::kPlaced}) {
+      const Outcome outcome = OnThreads(files, threads, 1 + random() % 300, kind);
+      ASSERT_EQ(outcome.told, expected.told) << round;
+      ASSERT_EQ(outcome, expected) << round;
+    }
   }
 }
 
@@ -137,6 +145,7 @@ TEST_F(ThreadedScanTest, CommentsThatAreHardToGuessAreFound) {
   const Outcome expected = FromEndToEnd({text});
   for (const std::size_t pieceBytes : {20U, 64U, 300U}) {
     EXPECT_EQ(OnThreads({text}, 3, pieceBytes), expected) << pieceBytes;
+    EXPECT_EQ(OnThreads({text}, 3, pieceBytes, Source::kPlaced), expected) << pieceBytes;
   }
 }
 
@@ -151,6 +160,7 @@ TEST_F(ThreadedScanTest, ScannersThatHaveMetTooManyWordsBeginAnew) {
   }
   const Outcome expected = FromEndToEnd({text});
   EXPECT_EQ(OnThreads({text}, 2, 50'000), expected);
+  EXPECT_EQ(OnThreads({text}, 2, 50'000, Source::kPlaced), expected);
 }
 
 TEST_F(ThreadedScanTest, StopsAtTheEndOfAPiece) {
@@ -197,10 +207,79 @@ TEST_F(ThreadedScanTest, LinesBeforeAFailureAreCountedAndThenTheScanEnds) {
   EXPECT_EQ(Words(), "one other*100 word*100");
 }
 
+TEST_F(ThreadedScanTest, AMarkIsOneOnlyAtTheStart) {
+  const std::string mark = "\xEF\xBB\xBF";
+  const std::string lines = mark + "one two\n" + mark + "two three\n";
+  std::string text;
+  for (int i = 0; i < 40; ++i) text += lines;
+  text += std::string(300, 'x') + "\n" + lines;  // and where the source is read in turn again
+  const Outcome expected = FromEndToEnd({text});
+  for (std::size_t pieceBytes = 10; pieceBytes < 40; ++pieceBytes) {
+    EXPECT_EQ(OnThreads({text}, 2, pieceBytes, Source::kPlaced), expected) << pieceBytes;
+  }
+}
+
+TEST_F(ThreadedScanTest, PlacedTextMayBeUtf16) {
+  std::string text = "\xFF\xFE";
+  for (int i = 0; i < 100; ++i) {
+    for (const char ch : std::string("word other\n")) text += {ch, '\0'};
+  }
+  EXPECT_EQ(OnThreads({text}, 2, 30, Source::kPlaced), FromEndToEnd({text}));
+}
+
+TEST_F(ThreadedScanTest, PlacedLinesBeforeAFailureAreCounted) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "word other\n";
+  for (const std::size_t pieceBytes : {20U, 64U, 300U}) {
+    ToldWords told;
+    Begin(told);
+    ThreadedScan scan({settings, store, wordsRead}, choices, lists, 2, pieceBytes);
+    PlacedText source(text, 50 * 11 + 3);
+    EXPECT_THROW(scan.Scan(source, {[] { return false; }, [](std::int64_t) {}}), RunTimeError);
+    EXPECT_EQ(Words(), "other*50 word*50");
+    EXPECT_EQ(wordsRead, 100);
+  }
+}
+
+TEST_F(ThreadedScanTest, PlacedTextMayHaveGrownOrShrunkMeanwhile) {
+  std::string text;
+  for (int i = 0; i < 100; ++i) text += "word other\n";
+  const Outcome expected = FromEndToEnd({text});
+  for (const std::size_t told : {500U, 503U, 1099U, 1500U}) {
+    ToldWords words;
+    Begin(words);
+    ThreadedScan scan({settings, store, wordsRead}, choices, lists, 2, 64);
+    PlacedText source(text, text.size() + 1, told);
+    scan.Scan(source, {[] { return false; }, [](std::int64_t) {}});
+    EXPECT_EQ(Described(words), expected) << told;
+  }
+}
+
+TEST_F(ThreadedScanTest, PlacedTextStopsAtTheEndOfAPiece) {
+  std::string text;
+  for (int i = 0; i < 5'000; ++i) text += "word\n";
+  ToldWords told;
+  Begin(told);
+  ThreadedScan scan({settings, store, wordsRead}, choices, lists, 2, 100);
+  std::int64_t bytes = 0;
+  PlacedText source(text);
+  scan.Scan(source, {[&] { return bytes >= 1000; }, [&](std::int64_t more) { bytes += more; }});
+  // Line ends have two.
+  EXPECT_GE(bytes, 1000);
+  EXPECT_LT(bytes, 2000);
+  EXPECT_EQ(wordsRead, bytes / 6);
+  EXPECT_EQ(Words(), "word*" + std::to_string(bytes / 6));
+  EXPECT_EQ(source.Rest()->begin, bytes / 6 * 5);
+  PlacedText next("other\n");
+  scan.Scan(next, {[] { return false; }, [](std::int64_t) {}});
+  EXPECT_EQ(wordsRead, bytes / 6 + 1);
+}
+
 TEST_F(ThreadedScanTest, WithoutThreadsTheOwnerScans) {
   std::string text;
   for (int i = 0; i < 100; ++i) text += "word w" + std::to_string(i) + "\n";
   EXPECT_EQ(OnThreads({text}, 0, 100), FromEndToEnd({text}));
+  EXPECT_EQ(OnThreads({text}, 0, 100, Source::kPlaced), FromEndToEnd({text}));
 }
 
 TEST_F(ThreadedScanTest, WordsReadThatLeaveTheirRangeAreAnOverflow) {
