@@ -1,5 +1,7 @@
-// Scans a large text on several cores: reads it piece by piece, has the pieces scanned, and joins
-// what was found in their order. Words, first spellings, the order in which new words are told of,
+// Scans a large text on several cores: has it scanned piece by piece, and joins what was found in
+// the order of the pieces. Who scans a piece of a text that lies still (ByteSource::Rest) reads it,
+// too; of any other text, and from the first piece on that cannot be joined, the caller's thread
+// reads the pieces. Words, first spellings, the order in which new words are told of,
 // open comments, file tallies and overflows are those of a scan from end to end; a stop comes at
 // the end of a piece. A line that is longer than two pieces is scanned by the caller's thread, part
 // by part (LongLine), so memory does not grow with it.
