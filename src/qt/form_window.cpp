@@ -162,14 +162,15 @@ void FormWindow::ShowCaptions() {
   }
 }
 
-/// The form's word counts when it has moved the focus, and when no widget has it.
+/// The form's word counts when it has moved the focus, and when no widget has it; but keys never go
+/// into what is folded away.
 void FormWindow::ShowFocus() {
   const bool lost = focusWidget() == nullptr && arriving_ == nullptr;
   if (!std::exchange(focusMoved_, false) && !lost) return;
   const Control* focused = form_.Focused();
-  if (focused != nullptr && focused->CanTakeFocus()) {
-    WidgetOf(*focused).setFocus(Qt::OtherFocusReason);
-  }
+  if (focused == nullptr || !focused->CanTakeFocus()) return;
+  QWidget& widget = WidgetOf(*focused);
+  if (widget.isVisibleTo(this)) widget.setFocus(Qt::OtherFocusReason);
 }
 
 /// Otherwise the toolkit would hand the focus of a widget that is disabled to a neighbour, and keys

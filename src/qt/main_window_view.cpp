@@ -63,7 +63,7 @@ MainWindowView::MainWindowView(Program& program)
       table_(new TablePage(program)),
       statistics_(new StatisticsPage(program)),
       files_(new FilesPage(program)),
-      fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)),
+      fold_(new SettingsFold(*ui_->paneSettings, [this] { views_->Enter(); })),
       foldedRun_(new FoldedRun(*ui_)),
       quitLetter_(new QShortcut(this)) {
   setAcceptDrops(true);
@@ -104,6 +104,7 @@ void MainWindowView::PlaceViews() {
   column->addWidget(ui_->txbOutput, 1);
   column->addWidget(&findBar_);
   views_->setCornerWidget(fold_, Qt::TopLeftCorner);
+  text->setFocusProxy(ui_->txbOutput);
   views_->Add(text, kTextView, kTextViewText, {.find = [this] { findBar_.Open(); }});
   views_->Add(table_, kTableView, kTableViewText,
               {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});
