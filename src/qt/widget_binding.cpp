@@ -45,10 +45,14 @@ class LineBinding final : public WidgetBinding {
 
   void ShowValue() override {
     const QString text = ToQt(box_.Text());
-    if (line_.text() != text) {
+    const QString shown = line_.text();
+    if (shown != text) {
+      // Typing goes on where a column was pasted; another text is seen from its start.
+      const bool isPasted = OnOneLine(shown) == text;
+      const auto caret = isPasted ? OnOneLine(shown.left(line_.cursorPosition())).size() : 0;
       const QSignalBlocker blocker(line_);
       line_.setText(text);
-      line_.setCursorPosition(0);
+      line_.setCursorPosition(static_cast<int>(caret));
     }
     if (std::exchange(selects_, false)) ShowSelection();
   }

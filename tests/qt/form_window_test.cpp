@@ -180,6 +180,40 @@ TEST_F(FormWindowTest, ColumnThatIsPastedIsOneLine) {
   EXPECT_EQ(line.text(), "the and of");
 }
 
+TEST_F(FormWindowTest, TypingGoesOnBehindAColumnThatWasPasted) {
+  TextBox& box = frmParams.txbWordsToIgnoreOrCount[0];
+  box.SetText("zebra");
+  user->Settle();
+  auto& line = user->WidgetOf<QLineEdit>(box);
+  line.setFocus();
+  line.setCursorPosition(0);
+  line.insert("alpha\nbeta\r\ngamma\n");
+  user->Settle();
+  QTest::keyClicks(&line, "delta ");
+  user->Settle();
+  EXPECT_EQ(box.Text(), "alpha beta gamma delta zebra");
+}
+
+TEST_F(FormWindowTest, TextThatTheProgramShowsIsSeenFromItsStart) {
+  TextBox& box = frmParams.txbWordsToIgnoreOrCount[0];
+  box.SetText(std::string(2000, 'a'));
+  user->Settle();
+  EXPECT_EQ(user->WidgetOf<QLineEdit>(box).cursorPosition(), 0);
+}
+
+TEST_F(FormWindowTest, NoTextIsTooLongForItsBox) {
+  TextBox& box = frmParams.txbWordsToIgnoreOrCount[0];
+  const std::string words(50'000, 'a');
+  box.SetText(words);
+  user->Settle();
+  auto& line = user->WidgetOf<QLineEdit>(box);
+  line.setFocus();
+  line.setCursorPosition(0);
+  QTest::keyClick(&line, Qt::Key_Delete);
+  user->Settle();
+  EXPECT_EQ(box.Text().size(), words.size() - 1);
+}
+
 TEST_F(FormWindowTest, LabelIsClickedWithTheLeftButtonOverIt) {
   auto& label = user->WidgetOf<QLabel>(frmMain.lblCopyrightNotice);
   int clicks = 0;
