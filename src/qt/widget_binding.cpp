@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -33,6 +34,7 @@ class LineBinding final : public WidgetBinding {
     QObject::connect(&line, &QLineEdit::textChanged,
                      [this](const QString& text) { box_.EnterText(FromQt(OnOneLine(text))); });
     box.Selected.Connect([this] { selects_ = true; });
+    line.setMaxLength(std::numeric_limits<int>::max());  // else the toolkit cuts long lists
   }
 
  private:
