@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVariant>
@@ -124,6 +125,7 @@ void FormWindow::ShowChanges() {
   scheduled_ = false;
   if (showing_) return;
   showing_ = true;
+  const auto shown = qScopeGuard([this] { showing_ = false; });
   for (Entry& entry : entries_) {
     if (entry.changed) entry.binding->ShowAccess();
   }
@@ -139,7 +141,6 @@ void FormWindow::ShowChanges() {
   if (captionsChanged_) ShowCaptions();
   if (windowChanged_) ShowWindowState();
   if (renamed) ShowAccessibleNames(*this);
-  showing_ = false;
 }
 
 /// Commands choose their letters first, since they are what a hand wants to reach at once; a widget

@@ -4,12 +4,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QScopeGuard>
 #include <iostream>
 #include <memory_resource>
 
 #include "base/version.h"
 #include "engine/kernel_choice.h"
 #include "qt/clear_boxes.h"
+#include "qt/guarded_application.h"
 #include "qt/program_windows.h"
 #include "qt/text_conversion.h"
 #include "system/file_system.h"
@@ -50,7 +52,7 @@ bool HasEmptyArgument() {
   return QCoreApplication::arguments().contains(QString());
 }
 
-int RunOnDesktop(QApplication& application) {
+int RunOnDesktop(GuardedApplication& application) {
   if (HasEmptyArgument()) {
     std::cerr << "quillomat: an argument is empty; check what should stand there\n";
     return 2;
@@ -59,6 +61,8 @@ int RunOnDesktop(QApplication& application) {
   QtDesktop desktop;
   Program program(desktop);
   Windows windows(program, desktop);
+  application.tell = [&program](const RunTimeError& error) { program.Lister().ReportError(error); };
+  const auto untold = qScopeGuard([&application] { application.tell = nullptr; });
   windows.RestorePlaces();
   program.Ended.Connect([&windows] {
     windows.KeepPlaces();
@@ -88,7 +92,7 @@ int main(int argc, char** argv) {
     LetDrivesBeEmpty();
     std::pmr::set_default_resource(&LargePageMemory());
     const Interruption interruption;
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));
     QApplication::setApplicationVersion(ToQt(VersionText()));
     QApplication::setDesktopFileName(QStringLiteral("quillomat"));

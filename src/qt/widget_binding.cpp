@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
@@ -93,11 +94,11 @@ class LinesBinding final : public WidgetBinding {
 
   void ShowValue() override {
     showing_ = true;  // the widget's own parts listen to its signals, so they are not blocked
+    const auto shown = qScopeGuard([this] { showing_ = false; });
     const std::string& text = box_.Text();
     const bool changed = text != shown_;
     if (changed) ShowText(text);
     if (changed || box_.SelStart() != shownCaret_) ShowCaret();
-    showing_ = false;
   }
 
   /// What the program shows is not undone; what the user does to it afterwards is.

@@ -19,12 +19,21 @@ ResultTable::ResultTable(const CurrentWords& words, ExpressionReader readExpress
 
 const WordRows* ResultTable::Rows() {
   if (!hasWords_) return nullptr;
-  if (!rows_) {
+  if (!rows_) MakeRows();
+  return &*rows_;
+}
+
+void ResultTable::MakeRows() {
+  try {
     rows_.emplace(WordTable(words_.Counted(), words_.WordsRead), collation_);
     rows_->SetOrder(order_);
     if (!filterInForce_.text.empty()) rows_->SetFilter(filterInForce_, expression_);
+  } catch (...) {
+    // It would fail whenever the table is painted.
+    rows_.reset();
+    hasWords_ = false;
+    throw;
   }
-  return &*rows_;
 }
 
 std::optional<std::vector<std::int32_t>> ResultTable::FilteredPlaces() {

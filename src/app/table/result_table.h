@@ -25,7 +25,8 @@ class ResultTable {
   Event<> Changing;
   Event<> Changed;
 
-  /// The rows; null while there is no list. Made when first asked for.
+  /// The rows; null while there is no list. Made when first asked for. Where the memory does not
+  /// hold them std::bad_alloc is thrown once, and there is no list from then on.
   [[nodiscard]] const WordRows* Rows();
 
   /// The alphabetical places of the words that the filter shows; nothing while there is none.
@@ -41,13 +42,20 @@ class ResultTable {
   [[nodiscard]] const std::string& Fault() const { return fault_; }
 
  private:
-  /// Between Changing and Changed.
+  /// Between Changing and Changed. Rows that a change has failed to make are made anew.
   template <typename Action>
   void Change(Action action) {
     Changing.Fire();
-    action();
+    try {
+      action();
+    } catch (...) {
+      rows_.reset();
+      Changed.Fire();
+      throw;
+    }
     Changed.Fire();
   }
+  void MakeRows();
 
   const CurrentWords& words_;
   ExpressionReader readExpression_;
