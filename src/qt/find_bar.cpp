@@ -12,8 +12,8 @@
 
 namespace quillomat {
 
-FindBar::FindBar(QPlainTextEdit& list, TellBelow tellBelow)
-    : list_(list), tellBelow_(std::move(tellBelow)) {
+FindBar::FindBar(QPlainTextEdit& list, TellBelow tellBelow, IsBusy isBusy)
+    : list_(list), tellBelow_(std::move(tellBelow)), isBusy_(std::move(isBusy)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
   auto* row = new FlowLayout;
@@ -131,9 +131,9 @@ void FindBar::Close() {
   list_.setFocus(Qt::OtherFocusReason);
 }
 
-/// The keys are the bar's own: none of them starts or stops a count.
+/// The keys are the bar's own, and Enter starts no count; but what is at work is stopped.
 void FindBar::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) return Close();
+  if (event->key() == Qt::Key_Escape) return isBusy_() ? QWidget::keyPressEvent(event) : Close();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     return Find(event->modifiers().testFlag(Qt::ShiftModifier), false);
   }

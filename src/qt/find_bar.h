@@ -18,8 +18,11 @@ class FindBar : public QWidget {
   /// Says where the list that goes on below its text holds what is looked for; "" for nowhere.
   using TellBelow = std::function<QString(const QString& wanted)>;
 
+  /// Whether something is at work, which Escape stops.
+  using IsBusy = std::function<bool()>;
+
   /// `list` must outlive the bar.
-  FindBar(QPlainTextEdit& list, TellBelow tellBelow);
+  FindBar(QPlainTextEdit& list, TellBelow tellBelow, IsBusy isBusy);
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);
@@ -56,6 +59,7 @@ class FindBar : public QWidget {
   QString placeOfPlaces_;
   QString notFoundText_;
   TellBelow tellBelow_;
+  IsBusy isBusy_;
 };
 
 }  // namespace quillomat

@@ -57,7 +57,8 @@ MainWindowView::MainWindowView(Program& program)
       findBar_((ui_->setupUi(this), *ui_->txbOutput),
                [&program](const QString& wanted) {
                  return ToQt(program.FoundBelowText(FromQt(wanted)));
-               }),
+               },
+               [&program] { return program.State().Busy(); }),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),

@@ -106,6 +106,21 @@ TEST_F(MainWindowViewTest, EscapeStopsTheCount) {
   EXPECT_FALSE(user->program.Words().completeRun);
 }
 
+TEST_F(MainWindowViewTest, EscapeInTheFindBarStopsTheCountToo) {
+  std::string text;
+  for (int i = 0; i < 3'000'000; ++i) text += "word" + std::to_string(i % 5000) + " ";
+  user->program.Sources().ChooseText(folder.Write("long.txt", text));
+  boxes.Answer(QMessageBox::No);
+  FindBar& bar = user->windows.Main().Finder();
+  QTimer::singleShot(40, [&] {
+    bar.Open();
+    QTest::keyClick(bar.findChild<QLineEdit*>(), Qt::Key_Escape);
+  });
+  user->Click(frmMain.cmdCountWords);
+  EXPECT_THAT(boxes.TitlesSeen(), testing::ElementsAre("Counting interrupted"));
+  EXPECT_FALSE(user->program.Words().completeRun);
+}
+
 TEST_F(MainWindowViewTest, FindBarFindsRoundTheEndAndSaysWhenThereIsNothing) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu\n"));
   user->Click(frmMain.cmdCountWords);
