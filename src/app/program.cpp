@@ -13,6 +13,7 @@
 #include "app/setting_values.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
+#include "system/locale_info.h"
 #include "system/settings_folder.h"
 #include "text/language.h"
 #include "text/shell_helpers.h"
@@ -162,6 +163,10 @@ std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
   return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
                                    parts_.text, DigitGroupSeparator());
+}
+
+NumberSigns Program::Signs() const {
+  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
 }
 
 void Program::UseSettingsFolder() {

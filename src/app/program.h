@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "app/program_parts.h"
+#include "app/table/number_signs.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 #include "ui/event.h"
@@ -83,6 +84,8 @@ class Program {
   [[nodiscard]] std::string DigitGroupSeparator() const {
     return parts_.messages.DigitGroupSeparator();
   }
+  /// How numbers with decimals are written there.
+  [[nodiscard]] NumberSigns Signs() const;
 
   /// The line above the list, and the window that exports it.
   [[nodiscard]] NoticeBar& Notices() { return parts_.notices; }

@@ -1,7 +1,6 @@
 #include "qt/files_page.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -99,8 +98,7 @@ void FilesModel::sort(int section, Qt::SortOrder order) {
 FilesPage::FilesPage(Program& program, QWidget* parent)
     : QWidget(parent),
       rows_(program.Words(), program.Text()),
-      model_(rows_, {.group = program.DigitGroupSeparator(),
-                     .decimal = FromQt(QLocale::system().decimalPoint())}),
+      model_(rows_, program.Signs()),
       stopped_(new QLabel(this)),
       table_(new QTableView(this)),
       copy_(new QAction(table_)) {

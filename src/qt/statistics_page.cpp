@@ -2,7 +2,6 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QLocale>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -22,8 +21,7 @@ constexpr int kColumns = 3;
 
 StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
     : QWidget(parent),
-      signs_{.group = program.DigitGroupSeparator(),
-             .decimal = FromQt(QLocale::system().decimalPoint())},
+      signs_(program.Signs()),
       statistics_(program.Words(), program.Text()),
       orderBox_(new QCheckBox(this)),
       table_(new QTableWidget(0, kColumns, this)),

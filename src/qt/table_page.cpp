@@ -1,7 +1,6 @@
 #include "qt/table_page.h"
 
 #include <QKeyEvent>
-#include <QLocale>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -24,8 +23,7 @@ constexpr int kShortestBox = 120;
 TablePage::TablePage(Program& program, QWidget* parent)
     : QWidget(parent),
       program_(program),
-      signs_{.group = program.DigitGroupSeparator(),
-             .decimal = FromQt(QLocale::system().decimalPoint())},
+      signs_(program.Signs()),
       table_(program.Words(), ReadExpression),
       view_(table_) {
   PlaceParts();
