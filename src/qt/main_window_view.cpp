@@ -104,8 +104,8 @@ void MainWindowView::PlaceViews() {
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(ui_->txbOutput, 1);
   column->addWidget(&findBar_);
-  views_->setCornerWidget(fold_, Qt::TopLeftCorner);
   text->setFocusProxy(ui_->txbOutput);
+  views_->setCornerWidget(fold_, Qt::TopLeftCorner);
   views_->Add(text, kTextView, kTextViewText, {.find = [this] { findBar_.Open(); }});
   views_->Add(table_, kTableView, kTableViewText,
               {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});

@@ -13,6 +13,7 @@ namespace quillomat {
 namespace {
 
 // Numbers stand beside their names; what is left is for values that are words.
+constexpr int kName = 0;
 constexpr int kValue = 1;
 constexpr int kRest = 2;
 constexpr int kColumns = 3;
@@ -76,7 +77,7 @@ void StatisticsPage::ShowRows() {
   for (int row = 0; row < table_->rowCount(); ++row) {
     ShowRow(row, rows[static_cast<std::size_t>(row)]);
   }
-  table_->resizeColumnToContents(0);
+  table_->resizeColumnToContents(kName);
   FitValues();
 }
 
@@ -89,7 +90,7 @@ void StatisticsPage::ShowRow(int row, const ResultStatistics::Row& shown) {
     table_->setSpan(row, kValue, 1, kColumns - kValue);
     value->setToolTip(value->text());
   }
-  table_->setItem(row, 0, new QTableWidgetItem(ToQt(shown.name)));
+  table_->setItem(row, kName, new QTableWidgetItem(ToQt(shown.name)));
   table_->setItem(row, kValue, value);
   table_->setItem(row, kRest, nullptr);
 }
@@ -106,12 +107,18 @@ void StatisticsPage::FitValues() {
   table_->resizeRowsToContents();
 }
 
-void StatisticsPage::Copy() const {
+/// As another program is to read them: numbers without groups.
+void StatisticsPage::Copy() {
   const QItemSelectionModel& selection = *table_->selectionModel();
+  const std::vector<ResultStatistics::Row> rows =
+      statistics_.Rows({.group = "", .decimal = signs_.decimal});
   CopiedRows copied(table_->rowCount());
+  copied.AddTitles(
+      {table_->horizontalHeaderItem(kName)->text(), table_->horizontalHeaderItem(kValue)->text()});
   for (int row = 0; row < table_->rowCount(); ++row) {
     if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
-    copied.Add({table_->item(row, 0)->text(), table_->item(row, kValue)->text()});
+    const ResultStatistics::Row& figure = rows[static_cast<std::size_t>(row)];
+    copied.Add({ToQt(figure.name), ToQt(figure.value)});
   }
   copied.PutOnClipboard();
 }

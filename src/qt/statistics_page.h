@@ -20,7 +20,7 @@ class StatisticsPage final : public QWidget {
   void SetTexts(const ProgramText& text);
 
   /// Puts the selected rows on the clipboard; all, if none is selected.
-  void Copy() const;
+  void Copy();
 
   /// The choice whether figures that need the order of words are worked out, too.
   [[nodiscard]] QCheckBox& OrderBox() { return *orderBox_; }
