@@ -5,9 +5,15 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QTest>
+#include <QThreadPool>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+#include <memory>
+#include <semaphore>
+#include <stop_token>
+#include <utility>
 
+#include "support/environment.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {
@@ -68,6 +74,58 @@ TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
   QTest::keyClick(box_, Qt::Key_Return);
   Pause();
   EXPECT_FALSE(IsOffering());
+}
+
+TEST_F(PathCompletion, OffersWhatIsInTheUsersHome) {
+  const ScopedVariable home(QDir::separator() == '/' ? "HOME" : "USERPROFILE", folder_.Path());
+  PutFile("documents.txt");
+  QTest::keyClicks(box_, "~" + QDir::toNativeSeparators("/doc"));
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~" + QDir::toNativeSeparators("/documents.txt")});
+}
+
+/// A folder that does not answer until it is let go.
+class DeadFolder {
+ public:
+  [[nodiscard]] PathSuggestions::Source Source() {
+    return [gate = gate_](const QString& typed, PathKind, const std::stop_token&) {
+      if (!typed.contains("dead")) return QStringList{typed + "more"};
+      gate->acquire();
+      return QStringList();
+    };
+  }
+  ~DeadFolder() { gate_->release(PathSuggestions::kMostLooks); }
+
+ private:
+  std::shared_ptr<std::counting_semaphore<>> gate_ = std::make_shared<std::counting_semaphore<>>(0);
+};
+
+TEST_F(PathCompletion, FolderThatDoesNotAnswerKeepsNobodyWaiting) {
+  DeadFolder dead;
+  delete suggestions_;
+  suggestions_ = new PathSuggestions(*box_, PathKind::kFile, dead.Source());
+  for (int times = 1; times < PathSuggestions::kMostLooks; ++times) {
+    Type("dead");
+    Pause();
+  }
+  Type("near");
+  EXPECT_TRUE(OffersSoon()) << "of another folder";
+  EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(0)) << "the program's end waits for these";
+  delete std::exchange(box_, nullptr);
+}
+
+TEST_F(PathCompletion, ScreenReaderIsToldWhatIsMarked) {
+  QStringList told;
+  suggestions_->announce = [&told](const QListWidget& list, int row) {
+    told.append(list.item(row)->text());
+  };
+  PutFile("harbour.txt");
+  PutFile("harvest.txt");
+  Type("har");
+  ASSERT_TRUE(OffersSoon());
+  QTest::keyClick(box_, Qt::Key_Up);
+  QTest::keyClick(box_, Qt::Key_Down);
+  EXPECT_EQ(told, (QStringList{Path("harvest.txt"), Path("harbour.txt")}));
 }
 
 TEST_F(PathCompletion, OffersNothingWithoutAKey) {
