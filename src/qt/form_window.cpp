@@ -292,9 +292,6 @@ bool FormWindow::OnKey(Control& control, const QKeyEvent& key) {
     return control.KeyDown.IsHeard();  // else the window's own help
   } else if (IsEnter(key)) {
     control.KeyDown.Fire(kEnterKey);
-    const bool link = control.Kind() == ControlKind::kLabel;
-    if (link) control.As<Label>()->PerformClick();
-    return link;
   }
   return false;
 }

@@ -185,11 +185,6 @@ void MainWindowView::PlaceNotices() {
   column->addStretch();
   for (QLabel* notice : Notices()) column->addWidget(notice, 0, Qt::AlignHCenter);
   column->addStretch();
-  for (QLabel* link : {ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
-    link->setCursor(Qt::PointingHandCursor);
-    link->setForegroundRole(QPalette::Link);
-    link->setFocusPolicy(Qt::TabFocus);
-  }
   ShowNoticesInWindowFont();
 }
 

@@ -22,6 +22,7 @@
 
 #include "base/utf8.h"
 #include "qt/figure_label.h"
+#include "qt/link_label.h"
 #include "qt/mnemonics.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
@@ -238,6 +239,8 @@ class LabelBinding final : public WidgetBinding {
  public:
   LabelBinding(Label& label, QLabel& widget) : WidgetBinding(label, widget), label_(label) {
     widget.setTextFormat(Qt::PlainText);
+    auto* link = dynamic_cast<LinkLabel*>(&widget);
+    if (link != nullptr) link->onPress = [&label] { label.PerformClick(); };
   }
 
  private:
