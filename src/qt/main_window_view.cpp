@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -87,9 +88,7 @@ MainWindowView::MainWindowView(Program& program)
   ConnectAnnouncements();
 }
 
-MainWindowView::~MainWindowView() {
-  findBar_.setParent(nullptr);  // a member, which the window must not delete as its child
-}
+MainWindowView::~MainWindowView() = default;
 
 ListView& MainWindowView::List() const {
   return *ui_->txbOutput;
@@ -106,12 +105,17 @@ void MainWindowView::PlaceViews() {
   column->addWidget(&findBar_);
   text->setFocusProxy(ui_->txbOutput);
   views_->setCornerWidget(fold_, Qt::TopLeftCorner);
+  const auto findInText = [this] {
+    views_->Show(kTextView);
+    findBar_.Open();
+  };
   views_->Add(text, kTextView, kTextViewText, {.find = [this] { findBar_.Open(); }});
   views_->Add(table_, kTableView, kTableViewText,
               {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});
   views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText,
-              {.copy = [this] { statistics_->Copy(); }});
-  views_->Add(files_, kFilesView, kFilesViewText, {.copy = [this] { files_->Copy(); }});
+              {.find = findInText, .copy = [this] { statistics_->Copy(); }});
+  views_->Add(files_, kFilesView, kFilesViewText,
+              {.find = findInText, .copy = [this] { files_->Copy(); }});
   // What stands below the views comes behind them on the keyboard's way, too.
   setTabOrder(&table_->View(), &statistics_->OrderBox());
   setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
@@ -348,7 +352,12 @@ void MainWindowView::ConnectKeys() {
 }
 
 void MainWindowView::ConnectZoom() {
-  List().onZoom = [this](int zoom) { table_->View().SetZoom(zoom); };
+  List().onZoom = [this](int zoom) {
+    table_->View().SetZoom(zoom);
+    statistics_->SetZoom(zoom);
+    files_->SetZoom(zoom);
+  };
+  for (const QAbstractScrollArea* table : Tables()) table->viewport()->installEventFilter(this);
   const auto zoom = [this](const QList<QKeySequence>& keys, auto step) {
     for (const QKeySequence& key : keys) {
       connect(new QShortcut(key, this), &QShortcut::activated, this,
@@ -359,6 +368,21 @@ void MainWindowView::ConnectZoom() {
        [](int size) { return size + 1; });
   zoom({QKeySequence::ZoomOut}, [](int size) { return size - 1; });
   zoom({QKeySequence(Qt::CTRL | Qt::Key_0)}, [](int) { return 0; });
+}
+
+std::array<QAbstractScrollArea*, 3> MainWindowView::Tables() const {
+  return {&table_->View(), &statistics_->Table(), &files_->Table()};
+}
+
+/// Over the tables the wheel changes the size of all letters, as it does over the list.
+bool MainWindowView::OnWheel(const QObject* watched, const QWheelEvent& wheel) {
+  const auto tables = Tables();
+  const bool isTable = std::ranges::any_of(
+      tables, [&](const QAbstractScrollArea* table) { return table->viewport() == watched; });
+  if (!isTable || !wheel.modifiers().testFlag(Qt::ControlModifier)) return false;
+  const int turned = wheel.angleDelta().y();
+  if (turned != 0) List().SetZoom(List().Zoom() + (turned > 0 ? 1 : -1));
+  return true;
 }
 
 /// A file that is dropped on the box of the output file is meant for it.
@@ -372,6 +396,9 @@ bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
       if (event->type() == QEvent::Drop) program_.frmMain.txbFile[1].EnterText(paths.front());
       return true;
     }
+  }
+  if (event->type() == QEvent::Wheel && OnWheel(watched, static_cast<QWheelEvent&>(*event))) {
+    return true;
   }
   return FormWindow::eventFilter(watched, event);
 }

@@ -2,6 +2,7 @@
 // dropped on the window, completed paths, finding in the list, the size of its letters).
 #pragma once
 
+#include <QAbstractScrollArea>
 #include <QLabel>
 #include <QShortcut>
 #include <array>
@@ -71,6 +72,8 @@ class MainWindowView final : public FormWindow {
   void ShowQuitLetter();
   void ConnectKeys();
   void ConnectZoom();
+  [[nodiscard]] std::array<QAbstractScrollArea*, 3> Tables() const;
+  [[nodiscard]] bool OnWheel(const QObject* watched, const QWheelEvent& wheel);
   void AlignLabels();
   void FitSettings();
   void ConnectProgress();

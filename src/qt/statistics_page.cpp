@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "qt/list_table.h"
+#include "qt/row_table.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
@@ -25,7 +26,7 @@ StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
       signs_(program.Signs()),
       statistics_(program.Words(), program.Text()),
       orderBox_(new QCheckBox(this)),
-      table_(new QTableWidget(0, kColumns, this)),
+      table_(new RowTable<QTableWidget>(0, kColumns, this)),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -42,13 +43,8 @@ StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
 }
 
 void StatisticsPage::SetUpTable() {
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  SetUpRows(*table_);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table_->setAlternatingRowColors(true);
-  table_->setShowGrid(false);
-  table_->setTabKeyNavigation(false);
-  table_->verticalHeader()->hide();
-  table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setStretchLastSection(true);
   copy_->setShortcut(QKeySequence::Copy);
   copy_->setShortcutContext(Qt::WidgetShortcut);
@@ -64,6 +60,12 @@ void StatisticsPage::SetTexts(const ProgramText& text) {
   table_->setHorizontalHeaderLabels(
       {ToQt(text.GetText(kFigureColumnText)), ToQt(text.GetText(kValueColumnText)), QString()});
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
+  isOld_ = true;
+  if (isVisible()) ShowRows();
+}
+
+void StatisticsPage::SetZoom(int points) {
+  SetLetterSize(*table_, points);
   isOld_ = true;
   if (isVisible()) ShowRows();
 }

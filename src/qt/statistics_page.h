@@ -18,6 +18,8 @@ class StatisticsPage final : public QWidget {
   explicit StatisticsPage(Program& program, QWidget* parent = nullptr);
 
   void SetTexts(const ProgramText& text);
+  /// The letters of the table are so many points larger than the window's; smaller, below 0.
+  void SetZoom(int points);
 
   /// Puts the selected rows on the clipboard; all, if none is selected.
   void Copy();

@@ -1,5 +1,6 @@
 // The files of a count, and the menu of common words, as a person uses them.
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
 #include <gmock/gmock.h>
@@ -75,6 +76,67 @@ TEST_F(FilesPageTest, WhyAFileWasNotReadStandsInSightBesideIt) {
   user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
   user->Click(user->program.frmMain.cmdCountWords);
   EXPECT_TRUE(Table().isColumnHidden(reason)) << "there is nothing to be told";
+}
+
+TEST_F(FilesPageTest, HomeAndEndGoToTheFirstAndTheLastFile) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().setFocus();
+  Table().selectRow(1);
+  QTest::keyClick(&Table(), Qt::Key_End);
+  EXPECT_EQ(Table().currentIndex().row(), 2);
+  QTest::keyClick(&Table(), Qt::Key_Home);
+  EXPECT_EQ(Table().currentIndex().row(), 0);
+}
+
+TEST_F(FilesPageTest, ChosenFileStaysChosenInAnotherOrderAndLanguage) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().selectRow(0);
+  const auto chosen = [this] {
+    const QModelIndexList rows = Table().selectionModel()->selectedRows();
+    return rows.size() == 1 ? Cell(rows.front().row(), FileColumn::kPath) : std::string();
+  };
+  const std::string path = chosen();
+  Table().sortByColumn(static_cast<int>(FileColumn::kPath), Qt::DescendingOrder);
+  EXPECT_EQ(chosen(), path);
+  EXPECT_EQ(Table().currentIndex().row(), 2);
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_EQ(chosen(), path);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->program.frmMain.txbFile[1].SetText("");
+  user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_FALSE(Table().selectionModel()->hasSelection()) << "of another count";
+}
+
+TEST_F(FilesPageTest, TypingGoesToTheFileOfThatName) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().setFocus();
+  QTest::keyClicks(&Table(), "c.t");
+  EXPECT_EQ(FileNamePartOf(Cell(Table().currentIndex().row(), FileColumn::kPath)), "c.txt");
+}
+
+TEST_F(FilesPageTest, MenuOfTheKeyboardSortsByTheColumnThatItIsIn) {
+  CountThree();
+  Window().Views().Show("files");
+  user->Settle();
+  Table().setCurrentIndex(Table().model()->index(0, static_cast<int>(FileColumn::kPath)));
+  QTimer::singleShot(0, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 2);
+    menu->actions().last()->trigger();
+    menu->close();
+  });
+  const QPoint place = Table().visualRect(Table().currentIndex()).center();
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, place,
+                          Table().viewport()->mapToGlobal(place));
+  QApplication::sendEvent(Table().viewport(), &asked);
+  EXPECT_EQ(Table().horizontalHeader()->sortIndicatorSection(),
+            static_cast<int>(FileColumn::kPath));
+  EXPECT_EQ(Names(), "abc");
 }
 
 TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
