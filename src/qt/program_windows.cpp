@@ -142,8 +142,6 @@ void Windows::ShowLanguage() {
   const Language language = program_.Text().CurrentLanguage();
   if (shownLanguage_ == language) return;
   shownLanguage_ = language;
-  main_.SetTexts(program_.Text());
-  main_.setAccessibleDescription(ToQt(program_.Text().GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
   const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
   const auto load = [&](const QString& folder) {
@@ -153,6 +151,8 @@ void Windows::ShowLanguage() {
   const bool loaded = load(QStringLiteral(":/translations")) ||
                       load(QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   if (loaded) QApplication::installTranslator(&buttonTexts_);
+  main_.SetTexts(program_.Text());  // some of which are the toolkit's own
+  main_.setAccessibleDescription(ToQt(program_.Text().GetText(kProgramDescriptionText)));
 }
 
 void Windows::RestorePlaces() {

@@ -293,8 +293,10 @@ inline constexpr int kSortByText = 642;
 
 // The statistics of a result.
 inline constexpr int kStatisticsViewText = 650;
-/// Of the first StatisticName, and so on; in the last "%1" stands for a number.
+/// Of the first StatisticName, and so on; in the last "%1" stands for a number, and one has a text
+/// of its own.
 inline constexpr int kFirstStatisticText = 651;
+inline constexpr int kWordsAfterOneInstanceText = 666;
 inline constexpr int kOrderFiguresText = 670;
 inline constexpr int kOrderFiguresTipText = 671;
 inline constexpr int kStatisticsNameText = 672;

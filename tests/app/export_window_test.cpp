@@ -66,6 +66,14 @@ TEST_F(ExportWindowTest, WritesTheWholeListAsChosen) {
   EXPECT_TRUE(Window().cmdClose.Enabled());
 }
 
+TEST_F(ExportWindowTest, WhatCameOfTheLastExportGoesWithTheLanguage) {
+  OpenFor("the cat the dog the cat");
+  ExportTo(Target("list.csv"));
+  ASSERT_NE(Window().lblState.Caption(), "");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Window().lblState.Caption(), "");
+}
+
 TEST_F(ExportWindowTest, OrderFirstWordsAndFilterHold) {
   program.Exports().SetFilter([] { return std::vector<std::int32_t>{3, 1}; });  // the, cat
   OpenFor("the cat the dog the cat");

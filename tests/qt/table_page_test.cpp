@@ -162,6 +162,9 @@ TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
   TypeFilter("(");
   EXPECT_TRUE(Says("Not understood: missing closing parenthesis"));
   EXPECT_THAT(Words(), testing::SizeIs(3));
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_TRUE(Says("Not understood: missing closing parenthesis")) << "in the language of now";
 }
 
 TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {

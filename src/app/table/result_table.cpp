@@ -50,6 +50,12 @@ void ResultTable::SetOrder(RowOrder order) {
   });
 }
 
+void ResultTable::TellFaultAgain() {
+  if (fault_.empty()) return;
+  const auto read = readExpression_(filter_.text);
+  if (const auto* fault = std::get_if<ExpressionFault>(&read)) fault_ = fault->description;
+}
+
 void ResultTable::SetFilter(const RowFilter& filter) {
   if (filter == filter_) return;
   filter_ = filter;
