@@ -5,7 +5,6 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
-#include "qt/accessible_names.h"
 #include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
@@ -78,12 +77,13 @@ void FindBar::Find(bool backward, bool fromHere) {
   if (found.isNull()) {
     ShowNoPlace();
     ShowOutcome(below.isEmpty() ? notFoundText_ : below);
-    return Announce(outcome_);
+    return announce(outcome_);
   }
   list_.setTextCursor(found);
   list_.ensureCursorVisible();
   ShowPlace(found);
   ShowOutcome(below);
+  if (!fromHere) announce(place_);  // whoever types hears the letters
 }
 
 QTextCursor FindBar::FoundFrom(QTextCursor start, bool backward) const {

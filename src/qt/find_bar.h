@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "qt/accessible_names.h"
 #include "text/program_text.h"
 
 namespace quillomat {
@@ -23,6 +24,9 @@ class FindBar : public QWidget {
 
   /// `list` must outlive the bar.
   FindBar(QPlainTextEdit& list, TellBelow tellBelow, IsBusy isBusy);
+
+  /// How a screen reader is told at once what a label says.
+  std::function<void(QWidget&)> announce = Announce;
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);

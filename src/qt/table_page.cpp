@@ -4,9 +4,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdint>
 
-#include "qt/accessible_names.h"
 #include "qt/expression.h"
 #include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kFilterKinds = static_cast<int>(FilterKind::kExpression) + 1;
 constexpr int kShortestBox = 120;
+constexpr std::chrono::milliseconds kPause{600};
 
 }  // namespace
 
@@ -30,20 +31,15 @@ TablePage::TablePage(Program& program, QWidget* parent)
   view_.Model().SetSigns(signs_);
   for (int kind = 0; kind < kFilterKinds; ++kind) kind_.addItem(QString());
   words_.setClearButtonEnabled(true);
+  pause_.setSingleShot(true);
+  pause_.setInterval(kPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { announce(totals_); });
   connect(&words_, &QLineEdit::textChanged, this, [this] { TakeFilter(); });
   connect(&kind_, &QComboBox::currentIndexChanged, this, [this] { TakeFilter(); });
   table_.Changed.Connect([this] {
     if (isVisible()) ShowTotals();
   });
   program.BecameIdle.Connect([this] { ShowHint(); });
-}
-
-TablePage::~TablePage() {
-  // Members, which the page must not delete as its children.
-  for (QWidget* part :
-       std::array<QWidget*, 6>{&hint_, &view_, &label_, &words_, &kind_, &totals_}) {
-    part->setParent(nullptr);
-  }
 }
 
 void TablePage::PlaceParts() {
@@ -76,6 +72,7 @@ void TablePage::SetTexts(const ProgramText& text) {
     kind_.setItemText(kind, ToQt(text.GetText(kFirstFilterKindText + kind)));
   }
   view_.SetTexts(text);
+  table_.TellFaultAgain();
   ShowTotals();
 }
 
@@ -87,7 +84,8 @@ void TablePage::Find() {
 void TablePage::TakeFilter() {
   table_.SetFilter({static_cast<FilterKind>(kind_.currentIndex()), FromQt(words_.text())});
   ShowTotals();
-  if (!table_.Fault().empty()) return Announce(totals_);
+  pause_.start();
+  if (!table_.Fault().empty()) return;
   // Who sees all words again keeps the one that was chosen among some in view.
   if (!words_.text().isEmpty()) view_.GoToFirst();
 }

@@ -4,11 +4,14 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 #include <QWidget>
+#include <functional>
 
 #include "app/program.h"
 #include "app/table/result_table.h"
 #include "app/table/row_cells.h"
+#include "qt/accessible_names.h"
 #include "qt/word_table_view.h"
 
 namespace quillomat {
@@ -17,16 +20,14 @@ class TablePage final : public QWidget {
  public:
   /// `program` outlives the page.
   explicit TablePage(Program& program, QWidget* parent = nullptr);
-  TablePage(const TablePage&) = delete;
-  TablePage& operator=(const TablePage&) = delete;
-  TablePage(TablePage&&) = delete;
-  TablePage& operator=(TablePage&&) = delete;
-  ~TablePage() override;
 
   void SetTexts(const ProgramText& text);
 
   /// Puts the keyboard where words are looked for.
   void Find();
+
+  /// How a screen reader is told at once what a label says.
+  std::function<void(QWidget&)> announce = Announce;
 
   [[nodiscard]] WordTableView& View() { return view_; }
   /// The words that are shown, and in which order.
@@ -46,6 +47,8 @@ class TablePage final : public QWidget {
 
   Program& program_;
   NumberSigns signs_;
+  /// In the typing: how many words are left is read out then.
+  QTimer pause_;
   ResultTable table_;
   WordTableView view_;
   QLabel label_;

@@ -1,10 +1,12 @@
 // What people expect of a window on top of its controls.
+#include <QAccessible>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QShortcut>
 #include <QUrl>
+#include <QWheelEvent>
 #include <gmock/gmock.h>
 
 #include "qt/figure_label.h"
@@ -158,6 +160,19 @@ TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
   EXPECT_EQ(user->windows.Main().List().Zoom(), -1);
 }
 
+TEST_F(MainWindowViewTest, EveryViewIsZoomed) {
+  MainWindowView& main = user->windows.Main();
+  const QList<QWidget*> tables = {&main.Table().View(), &main.StatisticsView().Table(),
+                                  &main.FilesView().Table()};
+  QList<qreal> usual;
+  for (const QWidget* table : tables) usual.append(table->font().pointSizeF());
+  Press(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  Press(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  for (qsizetype i = 0; i < tables.size(); ++i) {
+    EXPECT_DOUBLE_EQ(tables[i]->font().pointSizeF(), usual[i] + 2) << i;
+  }
+}
+
 TEST_F(MainWindowViewTest, FolderUsedLastIsRemembered) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat\n"));
   user->Click(frmMain.cmdQuit);
@@ -252,6 +267,55 @@ TEST_F(MainWindowViewTest, FoundPlacesAreCountedAndKeysGoThroughThem) {
   QTest::keyClicks(word, "x");
   EXPECT_TRUE(says("Not found"));
   EXPECT_FALSE(says("3 of 3"));
+}
+
+TEST_F(MainWindowViewTest, SignThatTurnsWhileACountRunsIsNotReadOut) {
+  frmMain.lblTwirler.SetCaption("\u2588 ");
+  user->Settle();
+  auto& sign = user->WidgetOf<QLabel>(frmMain.lblTwirler);
+  ASSERT_EQ(sign.text(), "\u2588 ");
+  const QString read = QAccessible::queryAccessibleInterface(&sign)->text(QAccessible::Name);
+  EXPECT_EQ(read.trimmed(), "");
+}
+
+TEST_F(MainWindowViewTest, ScreenReaderIsToldWhichPlaceWasFound) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog category\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  QStringList heard;
+  bar.announce = [&heard](const QWidget& label) {
+    heard.append(dynamic_cast<const QLabel&>(label).text());
+  };
+  auto* word = bar.findChild<QLineEdit*>();
+  QTest::keyClicks(word, "cat");
+  EXPECT_TRUE(heard.isEmpty()) << "while it is typed";
+  QTest::keyClick(word, Qt::Key_Return);
+  EXPECT_EQ(heard, QStringList("2 of 2"));
+}
+
+TEST_F(MainWindowViewTest, EveryViewHasSomethingToFindIn) {
+  for (const char* view : {"statistics", "files"}) {
+    user->windows.Main().Views().Show(view);
+    Press(QKeySequence::Find);
+    EXPECT_EQ(user->windows.Main().Views().Current(), "text") << view;
+    EXPECT_TRUE(user->windows.Main().Finder().isVisible()) << view;
+  }
+}
+
+TEST_F(MainWindowViewTest, WheelZoomsOverEveryView) {
+  MainWindowView& main = user->windows.Main();
+  int zoom = main.List().Zoom();
+  for (QAbstractScrollArea* view :
+       {static_cast<QAbstractScrollArea*>(&main.List()),
+        static_cast<QAbstractScrollArea*>(&main.Table().View()),
+        static_cast<QAbstractScrollArea*>(&main.StatisticsView().Table()),
+        static_cast<QAbstractScrollArea*>(&main.FilesView().Table())}) {
+    QWheelEvent turn(QPointF(5, 5), view->viewport()->mapToGlobal(QPointF(5, 5)), {}, {0, 120},
+                     Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view->viewport(), &turn);
+    EXPECT_EQ(main.List().Zoom(), ++zoom);
+  }
 }
 
 TEST_F(MainWindowViewTest, OldHitLeavesNeitherMarkNorMessage) {

@@ -148,6 +148,18 @@ TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   EXPECT_TRUE(Says("4 words, 5 instances"));
 }
 
+TEST_F(TablePageTest, ScreenReaderIsToldHowManyWordsAreLeftWhenTheTypingPauses) {
+  Count("cat dog category emu\n");
+  OpenTable();
+  QStringList heard;
+  Window().Table().announce = [&heard](const QWidget& label) {
+    heard.append(dynamic_cast<const QLabel&>(label).text());
+  };
+  TypeFilter("cat");
+  ASSERT_TRUE(QTest::qWaitFor([&heard] { return !heard.isEmpty(); }));
+  EXPECT_EQ(heard, QStringList("2 words, 2 instances")) << "once";
+}
+
 TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
   Count("cat dog m\u00FCller\n");
   OpenTable();
