@@ -190,6 +190,7 @@ void Program::ToggleLanguage() {
   ShowCaptions();
   parts_.notices.Update();
   parts_.tryIt.Update();
+  if (!parts_.run.Busy()) frmExport.lblState.SetCaption("");  // said in the other language
 }
 
 /// What says "Stop" while something runs follows that, whatever the language.
@@ -205,15 +206,23 @@ void Program::Quit() {
   if (!parts_.run.Busy()) End();
 }
 
+void Program::KeepSettings() {
+  if (parts_.flags.blnStartUpCompleted) static_cast<void>(SaveSettings());
+}
+
+/// Returns what went wrong, or "".
+std::string Program::SaveSettings() {
+  if (!frmParams.chkSaveStateOnQuit.IsChecked()) return {};
+  // What a large text has switched off is no choice to be kept.
+  if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
+  return parts_.savedState.SaveState("");
+}
+
 void Program::End() {
   if (ended_) return;
   ended_ = true;
-  if (frmParams.chkSaveStateOnQuit.IsChecked()) {
-    // What a large text has switched off is no choice to be kept.
-    if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
-    const std::string error = parts_.savedState.SaveState("");
-    if (!error.empty()) parts_.messages.Refuse(error, "Error");
-  }
+  const std::string error = SaveSettings();
+  if (!error.empty()) parts_.messages.Refuse(error, "Error");
   Ended.Fire();
 }
 

@@ -48,6 +48,9 @@ class Program {
   /// Puts the windows into their initial, empty state with default parameters.
   void Initialize();
 
+  /// Saves the settings if the user wants that, without a word: the session may end at any moment.
+  void KeepSettings();
+
   /// Saves the settings if the user wants that, and fires Ended. A run that is at work is stopped
   /// first, and Ended is fired when it has come to its end.
   void Quit();
@@ -121,6 +124,7 @@ class Program {
   void RestoreUserSettings();
   void ToggleLanguage();
   void ShowCaptions();
+  [[nodiscard]] std::string SaveSettings();
   void End();
 
   Desktop& desktop_;

@@ -62,6 +62,7 @@ int RunOnDesktop(GuardedApplication& application) {
   Program program(desktop);
   Windows windows(program, desktop);
   application.tell = [&program](const RunTimeError& error) { program.Lister().ReportError(error); };
+  const QObject desktopSession;
   const auto untold = qScopeGuard([&application] { application.tell = nullptr; });
   windows.RestorePlaces();
   program.Ended.Connect([&windows] {
@@ -70,6 +71,12 @@ int RunOnDesktop(GuardedApplication& application) {
     QMetaObject::invokeMethod(
         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
   });
+  // The session of the desktop ends: nobody may be asked anything, and no time may be lost.
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &desktopSession,
+                   [&program, &windows] {
+                     program.KeepSettings();
+                     windows.KeepPlaces();
+                   });
   if (!program.Start()) return program.HasEnded() ? 0 : 1;
   if (!path.isEmpty()) program.Sources().ChooseText(FromQt(QDir::toNativeSeparators(path)));
   return QApplication::exec();
