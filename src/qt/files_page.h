@@ -61,13 +61,17 @@ class FilesPage final : public QWidget {
  private:
   void SetUpTable();
   void ShowStopped();
+  void ShowHint();
   void FitColumns();
 
+  Program& program_;
   FileRows rows_;
   FilesModel model_;
   // Children of the page.
   QLabel* stopped_;
   QTableView* table_;
+  /// In its middle while it is empty.
+  QLabel* hint_;
   QAction* copy_;
   /// Columns were not made as wide as what they hold.
   bool isOld_ = true;

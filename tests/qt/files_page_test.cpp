@@ -1,6 +1,7 @@
 // The files of a count, and the menu of common words, as a person uses them.
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <gmock/gmock.h>
 
@@ -75,6 +76,23 @@ TEST_F(FilesPageTest, WhyAFileWasNotReadStandsInSightBesideIt) {
   user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
   user->Click(user->program.frmMain.cmdCountWords);
   EXPECT_TRUE(Table().isColumnHidden(reason)) << "there is nothing to be told";
+}
+
+TEST_F(FilesPageTest, EmptyOneSaysWhy) {
+  const auto hint = [this] {
+    const auto* label = Table().viewport()->findChild<QLabel*>();
+    return label->isVisible() ? FromQt(label->text()) : "";
+  };
+  Window().Views().Show("files");
+  user->Settle();
+  EXPECT_EQ(hint(), "No files have been counted yet. Each file of a count has a row here.");
+  CountThree();
+  EXPECT_EQ(hint(), "");
+  QApplication::clipboard()->setText("cat dog");
+  user->program.frmMain.txbFile[1].SetText("");
+  user->Click(user->program.frmMain.optOnClipboard);
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_EQ(hint(), "This list is of the clipboard, which has no files.");
 }
 
 TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {

@@ -131,6 +131,23 @@ TEST_F(TablePageTest, ClickOnATitleSortsBothWays) {
   EXPECT_THAT(Words(), ElementsAre("dog", "cat", "zebra")) << "the most frequent first";
 }
 
+TEST_F(TablePageTest, FilterThatHidesAllWordsIsToldOfAndTakenOffByAClick) {
+  auto& showAll = *View().viewport()->findChild<QPushButton*>();
+  Count("Cat scatter dog\n");
+  OpenTable();
+  EXPECT_FALSE(showAll.isVisible());
+  TypeFilter("scat");
+  Count("emu ox emu\n");
+  EXPECT_THAT(Words(), ElementsAre());
+  EXPECT_TRUE(Says("None of the 2 words passes the filter \"scat\"."));
+  ASSERT_TRUE(showAll.isVisible());
+  QTest::mouseClick(&showAll, Qt::LeftButton);
+  user->Settle();
+  EXPECT_THAT(Words(), ElementsAre("emu", "ox"));
+  EXPECT_EQ(Box().text(), "");
+  EXPECT_FALSE(showAll.isVisible());
+}
+
 TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   Count("Cat scatter dog dog category\n");
   OpenTable();
