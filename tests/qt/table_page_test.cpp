@@ -261,6 +261,24 @@ TEST_F(TablePageTest, WordsTakeTheRoomThatIsLeft) {
   EXPECT_EQ(width(WordColumn::kRank), rank);
 }
 
+TEST_F(TablePageTest, NoRoomStaysEmptyBesideTheNumbers) {
+  Count("the cat\n");
+  OpenTable();
+  Window().Fold().SetFolded(true);
+  Window().resize(1400, 700);
+  user->Settle();
+  EXPECT_EQ(View().horizontalHeader()->length(), View().viewport()->width());
+}
+
+TEST_F(TablePageTest, WordsAreNotTheFirstToBeCut) {
+  Count("the loving-kindness\n");
+  OpenTable();
+  Window().resize(760, 560);
+  user->Settle();
+  const int words = View().columnWidth(static_cast<int>(WordColumn::kWord));
+  EXPECT_GT(words, View().fontMetrics().horizontalAdvance("loving-kindness"));
+}
+
 TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {
   CountManyWords();
   OpenTable();
