@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "app/count/common_words.h"
+#include "qt/list_table.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -107,6 +108,13 @@ TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
                 folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
 }
 
+TEST_F(FilesPageTest, PathsWithTabsAndLineBreaksPartNoRow) {
+  CopiedRows copied(1);
+  copied.Add({"/a\tb\nc\rd.txt", "7"});
+  copied.PutOnClipboard();
+  EXPECT_EQ(FromQt(QApplication::clipboard()->text()), "/a\\tb\\nc\\rd.txt\t7\n");
+}
+
 TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   user->Click(user->program.frmMain.cmdSetParameters);
   auto& button = user->WidgetOf<QPushButton>(user->program.frmParams.cmdCommonWords);
@@ -114,7 +122,8 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   emit button.menu()->aboutToShow();
   const QList<QAction*> languages = button.menu()->actions();
   ASSERT_EQ(languages.size(), 14);
-  EXPECT_EQ(languages[0]->text(), "Czech");
+  EXPECT_EQ(FromQt(languages[0]->text()), "&Czech");
+  EXPECT_EQ(FromQt(languages[9]->text()), "&Russian") << "R leads there";
   EXPECT_FALSE(languages[4]->isChecked());
   boxes.Answer(QMessageBox::Ok);
   languages[4]->trigger();
@@ -124,6 +133,10 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
   emit button.menu()->aboutToShow();
   EXPECT_TRUE(button.menu()->actions()[4]->isChecked());
+  user->Click(user->program.frmMain.cmdLanguage);
+  emit button.menu()->aboutToShow();
+  EXPECT_EQ(FromQt(button.menu()->actions()[0]->text()), "&Deutsch") << "in the user's order";
+  EXPECT_TRUE(button.menu()->actions()[0]->isChecked());
 }
 
 }  // namespace
