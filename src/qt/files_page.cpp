@@ -106,10 +106,12 @@ QModelIndexList FilesModel::match(const QModelIndex& start, int /*role*/, const 
 
 FilesPage::FilesPage(Program& program, QWidget* parent)
     : QWidget(parent),
+      program_(program),
       rows_(program.Words(), program.Text()),
       model_(rows_, program.Signs()),
       stopped_(new QLabel(this)),
       table_(new RowTable<QTableView>(this)),
+      hint_(new QLabel(table_->viewport())),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -117,14 +119,20 @@ FilesPage::FilesPage(Program& program, QWidget* parent)
   lines->addWidget(table_);
   stopped_->setWordWrap(true);
   stopped_->hide();
+  auto* middle = new QVBoxLayout(table_->viewport());
+  middle->addWidget(hint_);
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setWordWrap(true);
   SetUpTable();
   setFocusProxy(table_);
   program.WantFileReports(true);
   rows_.Changed.Connect([this] {
     ShowStopped();
+    ShowHint();
     isOld_ = true;
     if (isVisible()) FitColumns();
   });
+  program.BecameIdle.Connect([this] { ShowHint(); });
 }
 
 void FilesPage::SetUpTable() {
@@ -182,6 +190,7 @@ void FilesPage::ShowMenu(const QPoint& place, int section) {
 void FilesPage::SetTexts(const ProgramText& text) {
   model_.SetTexts(text);
   ShowStopped();
+  ShowHint();
   table_->setAccessibleName(ToQt(text.GetText(kFilesNameText)));
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
   sortText_ = ToQt(text.GetText(kSortByText));
@@ -193,6 +202,15 @@ void FilesPage::SetTexts(const ProgramText& text) {
 void FilesPage::ShowStopped() {
   stopped_->setText(ToQt(rows_.StoppedText(model_.Signs())));
   stopped_->setVisible(!stopped_->text().isEmpty());
+}
+
+void FilesPage::ShowHint() {
+  const CurrentWords& words = program_.Words();
+  const bool ofClipboard =
+      words.CanBeListed() && words.counted.source == CountedText::Source::kClipboard;
+  hint_->setText(
+      ToQt(program_.Text().GetText(ofClipboard ? kClipboardHasNoFilesText : kNoFilesYetText)));
+  hint_->setVisible(rows_.Size() == 0 && !program_.State().Busy());
 }
 
 /// Titles and what is in sight fit; a long path leaves room for the rest.
@@ -237,6 +255,7 @@ void FilesPage::Copy() const {
 
 void FilesPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  ShowHint();
   FitColumns();
 }
 

@@ -70,13 +70,17 @@ class FilesPage final : public QWidget {
   void ConnectMenus();
   void ShowMenu(const QPoint& place, int section);
   void ShowStopped();
+  void ShowHint();
   void FitColumns();
 
+  Program& program_;
   FileRows rows_;
   FilesModel model_;
   // Children of the page.
   QLabel* stopped_;
   RowTable<QTableView>* table_;
+  /// In its middle while it is empty.
+  QLabel* hint_;
   QAction* copy_;
   /// "Sort by %1".
   QString sortText_;

@@ -43,7 +43,6 @@ LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
   constexpr int kRoomForFocus = 2;
   setMargin(kRoomForFocus);
   setCursor(Qt::PointingHandCursor);
-  setForegroundRole(QPalette::Link);
   setFocusPolicy(Qt::TabFocus);
   QAccessible::installFactory(AccessToLinks);  // once, however often it is called
 }

@@ -20,6 +20,7 @@
 
 #include "app/count/pace_text.h"
 #include "qt/flow_row.h"
+#include "qt/mixed_color.h"
 #include "qt/path_suggestions.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
@@ -190,6 +191,7 @@ void MainWindowView::PlaceNotices() {
   for (QLabel* notice : Notices()) column->addWidget(notice, 0, Qt::AlignHCenter);
   column->addStretch();
   ShowNoticesInWindowFont();
+  ShowLinksReadably();
 }
 
 /// Above all that shows the result.
@@ -224,11 +226,31 @@ void MainWindowView::ShowNoticesInWindowFont() {
   }
 }
 
+/// Not every desktop of dark colours has one for links.
+void MainWindowView::ShowLinksReadably() {
+  const QColor color = ReadableColor(palette().color(QPalette::Link), palette());
+  for (QLabel* link : {ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
+    QPalette own = link->palette();
+    if (own.color(QPalette::WindowText) == color) continue;
+    own.setColor(QPalette::WindowText, color);
+    link->setPalette(own);
+  }
+}
+
 void MainWindowView::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowLinksReadably();
   if (event->type() != QEvent::FontChange) return;
   ShowNoticesInWindowFont();
   AlignLabels();
+}
+
+/// The splitter takes from the list alone what a smaller window has no room for.
+void MainWindowView::resizeEvent(QResizeEvent* event) {
+  FormWindow::resizeEvent(event);
+  // Later, when the splitter has its new width.
+  QMetaObject::invokeMethod(
+      this, [this] { FitSettings(); }, Qt::QueuedConnection);
 }
 
 void MainWindowView::SetTexts(const ProgramText& text) {
@@ -267,8 +289,9 @@ void MainWindowView::FitSettings() {
   QSplitter& splitter = *ui_->splitter;
   fitsWhenUnfolded_ = fold_->IsFolded();
   if (splitter.property(kPlacedByUser).toBool() || fitsWhenUnfolded_) return;
-  const int settings = std::min(ui_->paneSettings->sizeHint().width(), splitter.width() / 2);
-  splitter.setSizes({settings, splitter.width() - settings - splitter.handleWidth()});
+  const int room = splitter.width() - splitter.handleWidth();
+  const int settings = std::min(ui_->paneSettings->sizeHint().width(), room / 2);
+  splitter.setSizes({settings, room - settings});
 }
 
 /// One bar for the whole run: of a folder, its own, else the file's.

@@ -56,6 +56,7 @@ class MainWindowView final : public FormWindow {
   void ShowOwn() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -68,6 +69,7 @@ class MainWindowView final : public FormWindow {
   void PlaceNoticeStrip();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;
   void ShowNoticesInWindowFont();
+  void ShowLinksReadably();
   void ConnectFold();
   void ShowQuitLetter();
   void ConnectKeys();

@@ -7,10 +7,12 @@
 #include <chrono>
 #include <cstdint>
 
+#include "base/text_helpers.h"
 #include "qt/expression.h"
 #include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
+#include "text/filled_text.h"
 
 namespace quillomat {
 namespace {
@@ -52,7 +54,14 @@ void TablePage::PlaceParts() {
   }
   lines->addWidget(&view_, 1);
   auto* middle = new QVBoxLayout(view_.viewport());
+  middle->addStretch();
   middle->addWidget(&hint_);
+  middle->addWidget(&showAll_, 0, Qt::AlignHCenter);
+  middle->addStretch();
+  connect(&showAll_, &QPushButton::clicked, this, [this] {
+    words_.clear();
+    view_.setFocus(Qt::OtherFocusReason);
+  });
   hint_.setAlignment(Qt::AlignCenter);
   hint_.setWordWrap(true);
   words_.setMinimumWidth(kShortestBox);
@@ -73,6 +82,7 @@ void TablePage::SetTexts(const ProgramText& text) {
   }
   view_.SetTexts(text);
   table_.TellFaultAgain();
+  showAll_.setText(ToQt(text.GetText(kShowAllWordsText)));
   ShowTotals();
 }
 
@@ -105,9 +115,23 @@ void TablePage::KeepRoomForTotals() {
 }
 
 void TablePage::ShowHint() {
-  const bool gaveWay = program_.Words().gaveWay;
-  hint_.setText(ToQt(program_.Text().GetText(gaveWay ? kTableGaveWayText : kNoTableYetText)));
-  hint_.setVisible(table_.Rows() == nullptr && !program_.State().Busy());
+  const WordRows* rows = table_.Rows();
+  const QString text = program_.State().Busy() ? QString() : HintText(rows);
+  hint_.setText(text);
+  hint_.setVisible(!text.isEmpty());
+  showAll_.setVisible(!text.isEmpty() && rows != nullptr);
+}
+
+/// "" where there are words to be seen, or none in the list.
+QString TablePage::HintText(const WordRows* rows) const {
+  const ProgramText& text = program_.Text();
+  if (rows == nullptr) {
+    return ToQt(text.GetText(program_.Words().gaveWay ? kTableGaveWayText : kNoTableYetText));
+  }
+  const std::int32_t words = program_.Words().totals.NumIncludedWords;
+  if (rows->Size() > 0 || words == 0) return {};
+  return ToQt(Filled(text.GetText(kAllFilteredOutText),
+                     {GroupDigits(words, signs_.group), table_.FilterInForce().text}));
 }
 
 QString TablePage::TotalsText() {

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -43,6 +44,7 @@ class TablePage final : public QWidget {
   void ShowTotals();
   void KeepRoomForTotals();
   void ShowHint();
+  [[nodiscard]] QString HintText(const WordRows* rows) const;
   [[nodiscard]] QString TotalsText();
 
   Program& program_;
@@ -56,8 +58,10 @@ class TablePage final : public QWidget {
   QComboBox kind_;
   /// "37 words, 1,204 instances", or what is wrong with the filter.
   QLabel totals_;
-  /// In the middle of the table while there are no words to show: why not.
+  // In the middle of the table while there are no words to show: why not, and what shows those that
+  // the filter hides.
   QLabel hint_;
+  QPushButton showAll_;
 };
 
 }  // namespace quillomat

@@ -288,6 +288,8 @@ inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
 inline constexpr int kNoTableYetText = 643;
 inline constexpr int kTableGaveWayText = 644;
+inline constexpr int kAllFilteredOutText = 645;
+inline constexpr int kShowAllWordsText = 646;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 
@@ -386,6 +388,8 @@ inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
 inline constexpr int kFileIsNeverTextText = 851;
+inline constexpr int kNoFilesYetText = 852;
+inline constexpr int kClipboardHasNoFilesText = 853;
 
 // A count that was stopped: how far it came ("%1" of "%2"), and what that means.
 inline constexpr int kStoppedAtFileText = 860;

@@ -2,10 +2,12 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <gmock/gmock.h>
 
 #include "app/count/common_words.h"
+#include "qt/list_table.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -139,6 +141,23 @@ TEST_F(FilesPageTest, MenuOfTheKeyboardSortsByTheColumnThatItIsIn) {
   EXPECT_EQ(Names(), "abc");
 }
 
+TEST_F(FilesPageTest, EmptyOneSaysWhy) {
+  const auto hint = [this] {
+    const auto* label = Table().viewport()->findChild<QLabel*>();
+    return label->isVisible() ? FromQt(label->text()) : "";
+  };
+  Window().Views().Show("files");
+  user->Settle();
+  EXPECT_EQ(hint(), "No files have been counted yet. Each file of a count has a row here.");
+  CountThree();
+  EXPECT_EQ(hint(), "");
+  QApplication::clipboard()->setText("cat dog");
+  user->program.frmMain.txbFile[1].SetText("");
+  user->Click(user->program.frmMain.optOnClipboard);
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_EQ(hint(), "This list is of the clipboard, which has no files.");
+}
+
 TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
   CountThree();
   Window().Views().Show("files");
@@ -151,6 +170,13 @@ TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
                 folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
 }
 
+TEST_F(FilesPageTest, PathsWithTabsAndLineBreaksPartNoRow) {
+  CopiedRows copied(1);
+  copied.Add({"/a\tb\nc\rd.txt", "7"});
+  copied.PutOnClipboard();
+  EXPECT_EQ(FromQt(QApplication::clipboard()->text()), "/a\\tb\\nc\\rd.txt\t7\n");
+}
+
 TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   user->Click(user->program.frmMain.cmdSetParameters);
   auto& button = user->WidgetOf<QPushButton>(user->program.frmParams.cmdCommonWords);
@@ -158,7 +184,8 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   emit button.menu()->aboutToShow();
   const QList<QAction*> languages = button.menu()->actions();
   ASSERT_EQ(languages.size(), 14);
-  EXPECT_EQ(languages[0]->text(), "Czech");
+  EXPECT_EQ(FromQt(languages[0]->text()), "&Czech");
+  EXPECT_EQ(FromQt(languages[9]->text()), "&Russian") << "R leads there";
   EXPECT_FALSE(languages[4]->isChecked());
   boxes.Answer(QMessageBox::Ok);
   languages[4]->trigger();
@@ -168,6 +195,10 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
   emit button.menu()->aboutToShow();
   EXPECT_TRUE(button.menu()->actions()[4]->isChecked());
+  user->Click(user->program.frmMain.cmdLanguage);
+  emit button.menu()->aboutToShow();
+  EXPECT_EQ(FromQt(button.menu()->actions()[0]->text()), "&Deutsch") << "in the user's order";
+  EXPECT_TRUE(button.menu()->actions()[0]->isChecked());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // What a user has made of the layout: kept from start to start, and through a change of language.
 #include <QSplitter>
+#include <QTabBar>
 #include <QWindow>
 #include <gmock/gmock.h>
 #include <memory>
@@ -121,6 +122,24 @@ TEST_F(KeptLayout, SettingsGetTheirWidthBackWithTheLanguage) {
   user->Click(user->program.frmMain.cmdLanguage);
   user->Settle();
   EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), english);
+}
+
+TEST_F(KeptLayout, SettingsLeaveHalfOfASmallerWindowToTheList) {
+  ASSERT_TRUE(user->Start());
+  user->Click(user->program.frmMain.cmdLanguage);
+  MainWindowView& window = user->windows.Main();
+  window.resize(1200, 700);
+  user->Settle();
+  window.resize(760, 560);
+  user->Settle();
+  const auto* settings = window.findChild<QWidget*>("paneSettings");
+  const auto* result = window.findChild<QWidget*>("paneResult");
+  EXPECT_LE(settings->width(), std::max(result->width(), settings->minimumSizeHint().width()));
+  QTabBar& tabs = *window.Views().tabBar();
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    EXPECT_GE(tabs.tabRect(tab).width(), tabs.fontMetrics().horizontalAdvance("Statis")) << tab;
+  }
+  user->Click(user->program.frmMain.cmdLanguage);
 }
 
 TEST_F(KeptLayout, PlaceOfAWindowThatWasNeverOpenIsNotKept) {

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include "qt/figure_label.h"
+#include "qt/mixed_color.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -49,6 +50,18 @@ class MainWindowViewTest : public WindowFixture {
 
   MainForm& frmMain = user->program.frmMain;
 };
+
+TEST_F(MainWindowViewTest, LinksAreReadableWithoutAColourOfTheDesktopForThem) {
+  QPalette dark;
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::Link, Qt::blue);
+  const QColor link = ReadableColor(Qt::blue, dark);
+  EXPECT_GE(ContrastOf(link, Qt::black), 4.5);
+  EXPECT_GT(link.blue(), link.red()) << "still a link's";
+  dark.setColor(QPalette::Base, Qt::white);
+  EXPECT_EQ(ReadableColor(Qt::blue, dark), QColor(Qt::blue));
+}
 
 TEST_F(MainWindowViewTest, DroppedFileAndFolderAreChosen) {
   const std::string path = folder.Write("a.txt", "cat\n");

@@ -131,6 +131,23 @@ TEST_F(TablePageTest, ClickOnATitleSortsBothWays) {
   EXPECT_THAT(Words(), ElementsAre("dog", "cat", "zebra")) << "the most frequent first";
 }
 
+TEST_F(TablePageTest, FilterThatHidesAllWordsIsToldOfAndTakenOffByAClick) {
+  auto& showAll = *View().viewport()->findChild<QPushButton*>();
+  Count("Cat scatter dog\n");
+  OpenTable();
+  EXPECT_FALSE(showAll.isVisible());
+  TypeFilter("scat");
+  Count("emu ox emu\n");
+  EXPECT_THAT(Words(), ElementsAre());
+  EXPECT_TRUE(Says("None of the 2 words passes the filter \"scat\"."));
+  ASSERT_TRUE(showAll.isVisible());
+  QTest::mouseClick(&showAll, Qt::LeftButton);
+  user->Settle();
+  EXPECT_THAT(Words(), ElementsAre("emu", "ox"));
+  EXPECT_EQ(Box().text(), "");
+  EXPECT_FALSE(showAll.isVisible());
+}
+
 TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   Count("Cat scatter dog dog category\n");
   OpenTable();
@@ -257,6 +274,24 @@ TEST_F(TablePageTest, WordsTakeTheRoomThatIsLeft) {
   user->Settle();
   EXPECT_GT(width(WordColumn::kWord), before);
   EXPECT_EQ(width(WordColumn::kRank), rank);
+}
+
+TEST_F(TablePageTest, NoRoomStaysEmptyBesideTheNumbers) {
+  Count("the cat\n");
+  OpenTable();
+  Window().Fold().SetFolded(true);
+  Window().resize(1400, 700);
+  user->Settle();
+  EXPECT_EQ(View().horizontalHeader()->length(), View().viewport()->width());
+}
+
+TEST_F(TablePageTest, WordsAreNotTheFirstToBeCut) {
+  Count("the loving-kindness\n");
+  OpenTable();
+  Window().resize(760, 560);
+  user->Settle();
+  const int words = View().columnWidth(static_cast<int>(WordColumn::kWord));
+  EXPECT_GT(words, View().fontMetrics().horizontalAdvance("loving-kindness"));
 }
 
 TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {

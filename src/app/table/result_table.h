@@ -38,6 +38,8 @@ class ResultTable {
   /// An expression that is not understood changes nothing but Fault.
   void SetFilter(const RowFilter& filter);
   [[nodiscard]] const RowFilter& Filter() const { return filter_; }
+  /// The last one that was understood: what the rows are filtered by.
+  [[nodiscard]] const RowFilter& FilterInForce() const { return filterInForce_; }
   /// The fault is wanted in the language of now.
   void TellFaultAgain();
   /// What is wrong with the filter's expression; "" for nothing.
