@@ -54,10 +54,7 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_((ui_->setupUi(this), *ui_->txbOutput),
-               [&program](const QString& wanted) {
-                 return ToQt(program.FoundBelowText(FromQt(wanted)));
-               }),
+      findBar_((ui_->setupUi(this), *ui_->txbOutput), program),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),
