@@ -73,6 +73,10 @@ class WordTable {
   }
   /// The same in alphabetical order.
   [[nodiscard]] std::vector<std::int32_t> Alphabetical() const;
+  /// Makes the frequency of a row that in a part of the text, with the shares that it has of all
+  /// words read: those of the parts add up to that of the whole. All else stays the word's.
+  void SetFrequency(WordRow& row, std::int32_t frequency) const;
+
 
   /// Whether it is known in how many files each word occurs.
   [[nodiscard]] bool KnowsFiles() const { return words_.store.Files().IsOn(); }
