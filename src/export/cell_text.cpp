@@ -158,6 +158,13 @@ std::string TextOf(const ExportFact& fact) {
   if (const auto* text = std::get_if<std::string>(&fact.value)) return WellFormedText(*text);
   if (const auto* yes = std::get_if<bool>(&fact.value)) return *yes ? "true" : "false";
   std::string number;
+  if (const auto* texts = std::get_if<std::vector<std::string>>(&fact.value)) {
+    std::string lines;
+    for (const std::string& each : *texts) {
+      lines.append(lines.empty() ? "" : "\n").append(WellFormedText(each));
+    }
+    return lines;
+  }
   if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
     for (const GrowthPoint& point : *points) {
       if (!number.empty()) number.append("; ");
