@@ -163,7 +163,7 @@ void MainWindowView::ConnectViews() {
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
   program_.SetViewCopier([this] { return views_->Copy(); });
-  program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
+  program_.Exports().SetFilter([this] { return table_->Table().Filtered(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
 }
 
