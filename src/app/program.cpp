@@ -159,6 +159,10 @@ void Program::ForgetWords() {
   ConcealNumWords(frmMain, true);
 }
 
+std::vector<TextPlace> Program::PlacesIn(std::string_view text, std::string_view wanted) const {
+  return quillomat::PlacesIn(text, wanted, parts_.words.store.Rule());
+}
+
 std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
   return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,

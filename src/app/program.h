@@ -8,7 +8,9 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "app/list/text_search.h"
 #include "app/program_parts.h"
 #include "app/table/number_signs.h"
 #include "text/program_text.h"
@@ -99,6 +101,10 @@ class Program {
     parts_.mainWindow.SetViewCopier(std::move(copyView));
   }
 
+  /// Where a text of the output text box holds what is looked for, as the list takes words for the
+  /// same.
+  [[nodiscard]] std::vector<TextPlace> PlacesIn(std::string_view text,
+                                                std::string_view wanted) const;
   /// What is said of a word that the list holds below the output text box: where it stands; "" if
   /// it does not.
   [[nodiscard]] std::string FoundBelowText(std::string_view wanted) const;

@@ -56,11 +56,7 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_((ui_->setupUi(this), *ui_->txbOutput),
-               [&program](const QString& wanted) {
-                 return ToQt(program.FoundBelowText(FromQt(wanted)));
-               },
-               [&program] { return program.State().Busy(); }),
+      findBar_((ui_->setupUi(this), *ui_->txbOutput), program),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),
@@ -173,7 +169,7 @@ void MainWindowView::ConnectViews() {
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
   program_.SetViewCopier([this] { return views_->Copy(); });
-  program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
+  program_.Exports().SetFilter([this] { return table_->Table().Filtered(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
 }
 

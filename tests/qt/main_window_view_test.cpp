@@ -156,6 +156,26 @@ TEST_F(MainWindowViewTest, FindBarFindsRoundTheEndAndSaysWhenThereIsNothing) {
   EXPECT_FALSE(bar.isVisible());
 }
 
+TEST_F(MainWindowViewTest, FindBarTakesWordsForTheSameAsTheListDoes) {
+  user->program.Sources().ChooseText(
+      folder.Write("a.txt", "Caf\u00E9 caf\u00E9 M\u00FCller emu\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  auto* word = bar.findChild<QLineEdit*>();
+  const auto& list = user->windows.Main().List();
+  QTest::keyClicks(word, "cafe");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "caf\u00E9");
+  word->selectAll();
+  QTest::keyClicks(word, "mueller");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "m\u00FCller");
+  frmMain.txbOutput.SetText("\U0001F40B\r\nCaf\u00E9");
+  user->Settle();
+  word->selectAll();
+  QTest::keyClicks(word, "CAFE");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "Caf\u00E9");
+}
+
 TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
   ListView& list = user->windows.Main().List();
   const qreal usual = list.font().pointSizeF();

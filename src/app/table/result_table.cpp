@@ -36,10 +36,10 @@ void ResultTable::MakeRows() {
   }
 }
 
-std::optional<std::vector<std::int32_t>> ResultTable::FilteredPlaces() {
+std::optional<FilteredWords> ResultTable::Filtered() {
   const WordRows* rows = filterInForce_.text.empty() ? nullptr : Rows();
   if (rows == nullptr) return std::nullopt;
-  return rows->Places();
+  return FilteredWords{filterInForce_, rows->Places()};
 }
 
 void ResultTable::SetOrder(RowOrder order) {

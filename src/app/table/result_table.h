@@ -2,10 +2,8 @@
 // and go before its words do; the order and the filter that the user has chosen stay.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "app/list/current_words.h"
 #include "app/table/row_filter.h"
@@ -29,8 +27,8 @@ class ResultTable {
   /// hold them std::bad_alloc is thrown once, and there is no list from then on.
   [[nodiscard]] const WordRows* Rows();
 
-  /// The alphabetical places of the words that the filter shows; nothing while there is none.
-  [[nodiscard]] std::optional<std::vector<std::int32_t>> FilteredPlaces();
+  /// The words that the filter shows; nothing while there is none.
+  [[nodiscard]] std::optional<FilteredWords> Filtered();
 
   void SetOrder(RowOrder order);
   [[nodiscard]] RowOrder Order() const { return order_; }
