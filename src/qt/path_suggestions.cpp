@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include "qt/text_conversion.h"
+#include "system/typed_path.h"
+
 namespace quillomat {
 namespace {
 
@@ -22,15 +25,22 @@ constexpr Qt::CaseSensitivity kPathCase = Qt::CaseInsensitive;
 constexpr Qt::CaseSensitivity kPathCase = Qt::CaseSensitive;
 #endif
 
-/// What begins like `typed` in its folder, in order. May take long: a folder can be large, and far
-/// away.
+/// From a root on, or from the user's home.
+bool SaysWhereItStarts(const QString& typed) {
+  return QDir::isAbsolutePath(typed) ||
+         QDir::fromNativeSeparators(typed).startsWith(QLatin1String("~/"));
+}
+
+/// What begins like `typed` in its folder, in order and as it would be typed. May take long: a
+/// folder can be large, and far away.
 QStringList PathsLike(const QString& typed, PathKind kind) {
   const qsizetype nameStart = QDir::fromNativeSeparators(typed).lastIndexOf(QLatin1Char('/')) + 1;
   const QString folder = typed.left(nameStart);
   const QString name = typed.mid(nameStart);
   const QDir::Filters folders = QDir::AllDirs | QDir::NoDotAndDotDot;
   QStringList paths;
-  QDirIterator entries(folder, kind == PathKind::kFolder ? folders : folders | QDir::Files);
+  QDirIterator entries(ToQt(PathFromTyped({}, FromQt(folder))),
+                       kind == PathKind::kFolder ? folders : folders | QDir::Files);
   while (entries.hasNext()) {
     entries.next();
     if (entries.fileName().startsWith(name, kPathCase)) paths.append(folder + entries.fileName());
@@ -69,7 +79,7 @@ QStringList PathSuggestions::Offered() const {
 
 void PathSuggestions::Look() {
   const QString typed = box_.text();
-  if (!box_.hasFocus() || !QDir::isAbsolutePath(typed)) return;
+  if (!box_.hasFocus() || !SaysWhereItStarts(typed)) return;
   QThreadPool::globalInstance()->start(
       [self = QPointer<PathSuggestions>(this), typed, kind = kind_] {
         const QStringList paths = PathsLike(typed, kind);

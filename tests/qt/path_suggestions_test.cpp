@@ -6,8 +6,10 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
+#include <filesystem>
 #include <gtest/gtest.h>
 
+#include "support/environment.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {
@@ -59,6 +61,22 @@ TEST_F(PathCompletion, OffersWhatIsInTheFolder) {
   EXPECT_EQ(suggestions_->Offered(), (QStringList{Path("harbour.txt"), Path("harvest.txt")}));
   QTest::keyClicks(box_, "v");
   EXPECT_EQ(suggestions_->Offered(), QStringList{Path("harvest.txt")}) << "at once";
+}
+
+TEST_F(PathCompletion, OffersWhatIsInTheUsersHomeAsItIsTyped) {
+  const ScopedVariable home("HOME", folder_.Path());
+  PutFile("harbour.txt");
+  std::filesystem::create_directory(folder_ / "harvest");
+  QTest::keyClicks(box_, "~/harb");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harbour.txt"});
+  QTest::keyClick(box_, Qt::Key_Down);
+  QTest::keyClick(box_, Qt::Key_Return);
+  EXPECT_EQ(box_->text(), "~/harbour.txt");
+  box_->clear();
+  QTest::keyClicks(box_, "~/harv");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harvest"});
 }
 
 TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
