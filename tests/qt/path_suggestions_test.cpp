@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QThreadPool>
 #include <QVBoxLayout>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <semaphore>
@@ -65,6 +66,22 @@ TEST_F(PathCompletion, OffersWhatIsInTheFolder) {
   EXPECT_EQ(suggestions_->Offered(), (QStringList{Path("harbour.txt"), Path("harvest.txt")}));
   QTest::keyClicks(box_, "v");
   EXPECT_EQ(suggestions_->Offered(), QStringList{Path("harvest.txt")}) << "at once";
+}
+
+TEST_F(PathCompletion, OffersWhatIsInTheUsersHomeAsItIsTyped) {
+  const ScopedVariable home("HOME", folder_.Path());
+  PutFile("harbour.txt");
+  std::filesystem::create_directory(folder_ / "harvest");
+  QTest::keyClicks(box_, "~/harb");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harbour.txt"});
+  QTest::keyClick(box_, Qt::Key_Down);
+  QTest::keyClick(box_, Qt::Key_Return);
+  EXPECT_EQ(box_->text(), "~/harbour.txt");
+  box_->clear();
+  QTest::keyClicks(box_, "~/harv");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harvest"});
 }
 
 TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
