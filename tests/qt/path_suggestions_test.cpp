@@ -93,14 +93,6 @@ TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
   EXPECT_FALSE(IsOffering());
 }
 
-TEST_F(PathCompletion, OffersWhatIsInTheUsersHome) {
-  const ScopedVariable home(QDir::separator() == '/' ? "HOME" : "USERPROFILE", folder_.Path());
-  PutFile("documents.txt");
-  QTest::keyClicks(box_, "~" + QDir::toNativeSeparators("/doc"));
-  ASSERT_TRUE(OffersSoon());
-  EXPECT_EQ(suggestions_->Offered(), QStringList{"~" + QDir::toNativeSeparators("/documents.txt")});
-}
-
 /// A folder that does not answer until it is let go.
 class DeadFolder {
  public:
