@@ -13,6 +13,7 @@
 #include "app/setting_values.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
+#include "system/locale_info.h"
 #include "system/settings_folder.h"
 #include "text/language.h"
 #include "text/shell_helpers.h"
@@ -158,10 +159,18 @@ void Program::ForgetWords() {
   ConcealNumWords(frmMain, true);
 }
 
+std::vector<TextPlace> Program::PlacesIn(std::string_view text, std::string_view wanted) const {
+  return quillomat::PlacesIn(text, wanted, parts_.words.store.Rule());
+}
+
 std::string Program::FoundBelowText(std::string_view wanted) const {
   const auto order = static_cast<WordOrder>(frmMain.cboWordOrder.ListIndex());
   return quillomat::FoundBelowText(wanted, parts_.output.Part(), parts_.words.Counted(), order,
                                    parts_.text, DigitGroupSeparator());
+}
+
+NumberSigns Program::Signs() const {
+  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
 }
 
 void Program::UseSettingsFolder() {
@@ -185,6 +194,7 @@ void Program::ToggleLanguage() {
   ShowCaptions();
   parts_.notices.Update();
   parts_.tryIt.Update();
+  if (!parts_.run.Busy()) frmExport.lblState.SetCaption("");  // said in the other language
 }
 
 /// What says "Stop" while something runs follows that, whatever the language.
@@ -200,15 +210,23 @@ void Program::Quit() {
   if (!parts_.run.Busy()) End();
 }
 
+void Program::KeepSettings() {
+  if (parts_.flags.blnStartUpCompleted) static_cast<void>(SaveSettings());
+}
+
+/// Returns what went wrong, or "".
+std::string Program::SaveSettings() {
+  if (!frmParams.chkSaveStateOnQuit.IsChecked()) return {};
+  // What a large text has switched off is no choice to be kept.
+  if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
+  return parts_.savedState.SaveState("");
+}
+
 void Program::End() {
   if (ended_) return;
   ended_ = true;
-  if (frmParams.chkSaveStateOnQuit.IsChecked()) {
-    // What a large text has switched off is no choice to be kept.
-    if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
-    const std::string error = parts_.savedState.SaveState("");
-    if (!error.empty()) parts_.messages.Refuse(error, "Error");
-  }
+  const std::string error = SaveSettings();
+  if (!error.empty()) parts_.messages.Refuse(error, "Error");
   Ended.Fire();
 }
 

@@ -8,8 +8,11 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "app/list/text_search.h"
 #include "app/program_parts.h"
+#include "app/table/number_signs.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 #include "ui/event.h"
@@ -47,6 +50,9 @@ class Program {
   /// Puts the windows into their initial, empty state with default parameters.
   void Initialize();
 
+  /// Saves the settings if the user wants that, without a word: the session may end at any moment.
+  void KeepSettings();
+
   /// Saves the settings if the user wants that, and fires Ended. A run that is at work is stopped
   /// first, and Ended is fired when it has come to its end.
   void Quit();
@@ -83,6 +89,8 @@ class Program {
   [[nodiscard]] std::string DigitGroupSeparator() const {
     return parts_.messages.DigitGroupSeparator();
   }
+  /// How numbers with decimals are written there.
+  [[nodiscard]] NumberSigns Signs() const;
 
   /// The line above the list, and the window that exports it.
   [[nodiscard]] NoticeBar& Notices() { return parts_.notices; }
@@ -93,6 +101,10 @@ class Program {
     parts_.mainWindow.SetViewCopier(std::move(copyView));
   }
 
+  /// Where a text of the output text box holds what is looked for, as the list takes words for the
+  /// same.
+  [[nodiscard]] std::vector<TextPlace> PlacesIn(std::string_view text,
+                                                std::string_view wanted) const;
   /// What is said of a word that the list holds below the output text box: where it stands; "" if
   /// it does not.
   [[nodiscard]] std::string FoundBelowText(std::string_view wanted) const;
@@ -118,6 +130,7 @@ class Program {
   void RestoreUserSettings();
   void ToggleLanguage();
   void ShowCaptions();
+  [[nodiscard]] std::string SaveSettings();
   void End();
 
   Desktop& desktop_;

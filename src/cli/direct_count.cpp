@@ -8,6 +8,7 @@
 
 #include "app/count/file_source.h"
 #include "app/count/folder_observer.h"
+#include "app/count/folder_source.h"
 #include "app/exports/result_export.h"
 #include "cli/export_options.h"
 #include "cli/skipped_lines.h"
@@ -15,32 +16,13 @@
 #include "cli/uncounted_notes.h"
 #include "listing/display_format.h"
 #include "sources/counter.h"
+#include "sources/refusal_text.h"
 #include "system/file_system.h"
 
 namespace quillomat {
 namespace {
 
 using Kind = InputChoice::Kind;
-
-/// What is wrong with a text, behind its name.
-std::string ReasonNotCounted(Refusal reason, const std::optional<RunTimeError>& error) {
-  const std::string description = error ? ": " + error->Description() : "";
-  switch (reason) {
-    case Refusal::kIsFolder:
-      return "is a folder";
-    case Refusal::kNotFound:
-    case Refusal::kFolderNotFound:
-      return "does not exist; check the path";
-    case Refusal::kNotText:
-      return "does not consist solely of text; convert it to text first";
-    case Refusal::kEmpty:
-      return "is empty; there is nothing to count";
-    case Refusal::kFolderHasNoFiles:
-      return "contains no files";
-    default:
-      return "cannot be read" + description;
-  }
-}
 
 }  // namespace
 
@@ -132,8 +114,8 @@ void DirectCount::TellSkipped(const CountWatch& watch) const {
   for (const SkippedFile& skipped : watch.Skipped()) {
     items.push_back(input_.IsNamed(skipped.path)
                         ? NameOf(skipped.path) + " " +
-                              ReasonNotCounted(skipped.reason, skipped.error)
-                        : skipped.path + ": " + ReasonText(skipped));
+                              RefusalBehindName(skipped.reason, skipped.error)
+                        : skipped.path + ": " + RefusalInRun(skipped.reason, skipped.error));
   }
   PrintSkipped(streams_.err, items, watch.SkippedInAll(), messages_);
   PrintLeftOut(streams_.err, watch.FilesLeftOut(), messages_);
@@ -168,17 +150,14 @@ bool DirectCount::Refuse(Refusal reason, const std::optional<RunTimeError>& erro
   if (reason == Refusal::kNotText) {
     TellNotText(messages_);
   } else if (reason != Refusal::kDeclined) {
-    fault_ = input_.Name() + " " + ReasonNotCounted(reason, error);
+    fault_ = input_.Name() + " " + RefusalBehindName(reason, error);
   }
   return false;
 }
 
 std::string DirectCount::NoFilesText() const {
-  std::string text = "no scanable files ";
-  if (program_.Count().Extensions().Filter().AnyGiven()) text.append("of the specified type ");
-  text.append("were found in ").append(input_.Name());
-  if (program_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
-  return text;
+  return "no " + ScanableFilesIn(input_.Name(), program_.Count().Extensions().Filter().AnyGiven(),
+                                 program_.frmMain.chkIncludeSubfolders.IsChecked());
 }
 
 }  // namespace quillomat

@@ -23,6 +23,9 @@ PlainTable TableOf(const std::vector<FileReport>& files) {
 std::optional<std::string> FindReportFault(const CommandLine& options) {
   if (!options.report) return std::nullopt;
   const std::string& path = *options.report;
+  if (IsStandardOutput(path)) {
+    return "--report -: a report goes to a file, whose name must end in one of: " + PlainEndings();
+  }
   if (!PlainFormatOfPath(path)) {
     return "--report " + path + ": the name must end in one of: " + PlainEndings();
   }

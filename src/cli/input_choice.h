@@ -35,9 +35,6 @@ struct InputChoice {
 /// A single path of a folder is as good as --folder.
 [[nodiscard]] InputChoice InputOf(const CommandLine& options);
 
-/// Where the system has such a name it leads to the file that standard input comes from.
-inline constexpr const char* kStandardInputPath = "/dev/stdin";
-
 [[nodiscard]] bool IsStandardInput(const std::string& path);
 /// The path, or what standard input is called in messages.
 [[nodiscard]] std::string NameOf(const std::string& path);

@@ -24,6 +24,10 @@ class EscapingSink final : public ByteSink {
 }  // namespace
 
 bool PrintToStandardOutput(const std::function<void(ByteSink&)>& write, std::ostream& err) {
+  if (!IsOpen(StandardStream::kOutput)) {
+    err << kOwnError << "standard output is closed; there is nowhere to print\n";
+    return false;
+  }
   try {
     OutputFile out = OutputFile::StandardOutput();
     if (IsTerminal(StandardStream::kOutput)) {

@@ -45,12 +45,15 @@ std::vector<std::string> NamesOfFiles(const WordStore& store) {
   return names;
 }
 
-bool TakeRowsOfFiles(const FileTally* files, const std::vector<std::string>& names, ExportRow& row,
+/// A row for each file of the word at `place`, which `row` is of.
+bool TakeRowsOfFiles(const WordTable& words, std::int32_t place,
+                     const std::vector<std::string>& names, ExportRow& row,
                      const std::function<bool(const ExportRow&)>& take) {
+  const FileTally* files = words.Words().store.FilesOf(place);
   if (files == nullptr) return true;
   for (std::size_t i = 0; i < files->FileNumbers.size(); ++i) {
     row.file = names[static_cast<std::size_t>(files->FileNumbers[i])];
-    row.word.frequency = files->FileCounts[i];
+    words.SetFrequency(row.word, files->FileCounts[i]);
     if (!take(row)) return false;
   }
   return true;
@@ -155,6 +158,13 @@ std::string TextOf(const ExportFact& fact) {
   if (const auto* text = std::get_if<std::string>(&fact.value)) return WellFormedText(*text);
   if (const auto* yes = std::get_if<bool>(&fact.value)) return *yes ? "true" : "false";
   std::string number;
+  if (const auto* texts = std::get_if<std::vector<std::string>>(&fact.value)) {
+    std::string lines;
+    for (const std::string& each : *texts) {
+      lines.append(lines.empty() ? "" : "\n").append(WellFormedText(each));
+    }
+    return lines;
+  }
   if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
     for (const GrowthPoint& point : *points) {
       if (!number.empty()) number.append("; ");
@@ -185,7 +195,7 @@ bool ForEachRow(const ExportTable& table, const std::function<bool(const ExportR
     if (i + kFetchedAhead < table.places.size()) store.PrefetchAt(table.places[i + kFetchedAhead]);
     const std::int32_t place = table.places[i];
     row.word = table.words.RowOf(place);
-    if (perFile ? !TakeRowsOfFiles(store.FilesOf(place), names, row, take) : !take(row)) {
+    if (perFile ? !TakeRowsOfFiles(table.words, place, names, row, take) : !take(row)) {
       return false;
     }
   }

@@ -34,7 +34,7 @@ void AppendNumber(std::string& out, const ExportRow& row, WordColumn column);
 /// `text` with what HTML reads as markup escaped.
 void AppendHtml(std::string& out, std::string_view text);
 
-/// A fact's value as text, well-formed UTF-8.
+/// A fact's value as text, well-formed UTF-8; several texts are lines.
 [[nodiscard]] std::string TextOf(const ExportFact& fact);
 
 /// Calls `take` with every row in order; it returns false to end. Returns whether all were taken.

@@ -9,13 +9,15 @@
 #include <variant>
 #include <vector>
 
+#include "listing/display_format.h"
 #include "listing/statistics.h"
 #include "listing/word_table.h"
 
 namespace quillomat {
 
-/// What a statistic may be, or yes and no.
-using FactValue = std::variant<bool, std::int64_t, double, std::string, std::vector<GrowthPoint>>;
+/// What a statistic may be; yes and no; several texts.
+using FactValue = std::variant<bool, std::int64_t, double, std::string, std::vector<GrowthPoint>,
+                               std::vector<std::string>>;
 
 /// One fact of a count: a total, a statistic, a setting.
 struct ExportFact {
@@ -35,6 +37,8 @@ struct ExportTable {
   std::vector<ExportFact> totals;
   std::vector<ExportFact> statistics;
   std::vector<ExportFact> settings;
+  /// That of the places.
+  WordOrder order = WordOrder::kByFrequency;
 };
 
 /// The statistics that are known, as facts.

@@ -1,7 +1,9 @@
 // One page of HTML that needs nothing else: a table whose columns sort when their heads are
 // clicked.
 #include <algorithm>
+#include <utility>
 
+#include "base/well_formed_text.h"
 #include "export/export_writer.h"
 
 namespace quillomat {
@@ -33,14 +35,15 @@ tbody tr:nth-child(even) { background: color-mix(in srgb, CanvasText 5%, Canvas)
 constexpr std::string_view kPartNotice =
     "<p role=\"note\"><strong>This list is of a part of the text.</strong></p>\n";
 
-/// Sorts the rows by the column whose head was clicked, the other way at a second click.
+/// Sorts the rows by the column whose head was clicked, the other way if they are sorted by it.
 constexpr std::string_view kTail = R"(</tbody>
 </table>
 <script>
 const table = document.getElementById("words"), body = table.tBodies[0];
 const heads = [...table.tHead.rows[0].cells];
 heads.forEach((head, column) => head.firstElementChild.addEventListener("click", () => {
-  const down = head.getAttribute("aria-sort") === "ascending";
+  const sorted = head.getAttribute("aria-sort");
+  const down = sorted ? sorted === "ascending" : head.classList.contains("most");
   const text = head.classList.contains("text"), collator = new Intl.Collator();
   const value = row => text ? row.cells[column].textContent : Number(row.cells[column].textContent);
   const rows = [...body.rows].map(row => [value(row), row]);
@@ -60,6 +63,17 @@ bool IsOfPart(const ExportTable& table) {
   return std::ranges::find(table.totals, incomplete) != table.totals.end();
 }
 
+/// Each of several texts in a line of its own.
+void AppendValue(std::string& out, const ExportFact& fact) {
+  const auto* texts = std::get_if<std::vector<std::string>>(&fact.value);
+  if (texts == nullptr) return AppendHtml(out, TextOf(fact));
+  std::string_view before;
+  for (const std::string& text : *texts) {
+    out.append(std::exchange(before, "<br>"));
+    AppendHtml(out, WellFormedText(text));
+  }
+}
+
 void AppendFacts(std::string& out, std::string_view title, const std::vector<ExportFact>& facts,
                  bool open = false) {
   if (facts.empty()) return;
@@ -71,17 +85,27 @@ void AppendFacts(std::string& out, std::string_view title, const std::vector<Exp
     out.append(R"(<tr><th class="text" scope="row">)");
     AppendHtml(out, fact.name);
     out.append("</th><td>");
-    AppendHtml(out, TextOf(fact));
+    AppendValue(out, fact);
     out.append("</td></tr>\n");
   }
   out.append("</table></details>\n");
 }
 
+/// Whether the rows come sorted by the column.
+bool AreSortedBy(const ExportTable& table, WordColumn column) {
+  return column ==
+         (table.order == WordOrder::kAlphabetical ? WordColumn::kWord : WordColumn::kRank);
+}
+
+/// The class "most" has the largest numbers come first at a first click.
 void AppendHeads(std::string& out, const ExportTable& table) {
   out.append(R"(<table id="words">)").append("\n<thead><tr>");
   for (const WordColumn column : table.columns) {
-    out.append(IsText(column) ? R"(<th class="text" scope="col">)" : R"(<th scope="col">)");
-    out.append("<button>").append(NameOf(column)).append("</button></th>");
+    out.append(R"(<th scope="col")");
+    if (IsText(column)) out.append(R"( class="text")");
+    if (StartsWithTheLargest(column)) out.append(R"( class="most")");
+    if (AreSortedBy(table, column)) out.append(R"( aria-sort="ascending")");
+    out.append("><button>").append(NameOf(column)).append("</button></th>");
   }
   out.append("</tr></thead>\n<tbody>\n");
 }

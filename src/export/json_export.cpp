@@ -42,6 +42,11 @@ Json ValueOf(const FactValue& value) {
   if (const auto* whole = std::get_if<std::int64_t>(&value)) return *whole;
   if (const auto* number = std::get_if<double>(&value)) return *number;
   if (const auto* text = std::get_if<std::string>(&value)) return WellFormedText(*text);
+  if (const auto* texts = std::get_if<std::vector<std::string>>(&value)) {
+    Json array = Json::array();
+    for (const std::string& each : *texts) array.push_back(WellFormedText(each));
+    return array;
+  }
   Json points = Json::array();
   for (const GrowthPoint& point : std::get<std::vector<GrowthPoint>>(value)) {
     points.push_back(Json::array({point.instances, point.differentWords}));

@@ -12,6 +12,7 @@
 
 #include "base/run_time_error.h"
 #include "base/utf8.h"
+#include "base/well_formed_text.h"
 #include "export/cell_text.h"
 #include "export/workbook_check.h"
 #include "export/xlsx_library.h"
@@ -218,13 +219,20 @@ class FactSheet {
   }
 
  private:
-  /// The points of a curve stand one below the other.
+  /// The points of a curve and several texts stand one below the other.
   void Write(const ExportFact& fact) {
     WriteText(0, fact.name);
     if (const auto* points = std::get_if<std::vector<GrowthPoint>>(&fact.value)) {
       for (const GrowthPoint& point : *points) {
         WriteNumber(1, static_cast<double>(point.instances));
         WriteNumber(2, static_cast<double>(point.differentWords));
+        ++row_;
+      }
+      return;
+    }
+    if (const auto* texts = std::get_if<std::vector<std::string>>(&fact.value)) {
+      for (const std::string& text : *texts) {
+        WriteLongText(1, WellFormedText(text));
         ++row_;
       }
       return;

@@ -43,13 +43,17 @@ WordRow WordTable::RowOf(std::int32_t index) const {
   WordRow row;
   row.rank = words_.ranking.rankOf[static_cast<std::size_t>(index)];
   row.word = words_.store.WordOf(index);
-  row.frequency = words_.store.CountOf(index);
-  row.percent = 100 * ShareOf(row.frequency);
-  row.perMillion = 1'000'000 * ShareOf(row.frequency);
+  SetFrequency(row, words_.store.CountOf(index));
   row.cumulativePercent = 100 * ShareOf(FrequenciesUpTo(row.rank));
   row.length = CharacterCount(row.word);
   if (const FileTally* files = words_.store.FilesOf(index)) row.files = files->NumFiles();
   return row;
+}
+
+void WordTable::SetFrequency(WordRow& row, std::int32_t frequency) const {
+  row.frequency = frequency;
+  row.percent = 100 * ShareOf(frequency);
+  row.perMillion = 1'000'000 * ShareOf(frequency);
 }
 
 std::int64_t WordTable::FrequenciesUpTo(std::int32_t rank) const {

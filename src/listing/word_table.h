@@ -34,6 +34,12 @@ enum class WordColumn {
 inline constexpr std::array<std::string_view, 9> kWordColumnNames = {
     "rank", "word", "frequency", "percent", "per-million", "cumulative", "length", "files", "file"};
 
+/// Whether people who sort by the column want its largest numbers first.
+[[nodiscard]] constexpr bool StartsWithTheLargest(WordColumn column) {
+  return column != WordColumn::kRank && column != WordColumn::kWord &&
+         column != WordColumn::kCumulative && column != WordColumn::kFile;
+}
+
 [[nodiscard]] std::optional<WordColumn> WordColumnOfName(std::string_view name);
 [[nodiscard]] constexpr std::string_view NameOf(WordColumn column) {
   return kWordColumnNames[static_cast<std::size_t>(column)];
@@ -66,6 +72,10 @@ class WordTable {
 
   /// The row of the listed word at alphabetical place `index` of the store.
   [[nodiscard]] WordRow RowOf(std::int32_t index) const;
+
+  /// Makes the frequency of a row that in a part of the text, with the shares that it has of all
+  /// words read: those of the parts add up to that of the whole. All else stays the word's.
+  void SetFrequency(WordRow& row, std::int32_t frequency) const;
 
   /// Alphabetical places of the listed words, the most frequent first.
   [[nodiscard]] const std::vector<std::int32_t>& ByFrequency() const {

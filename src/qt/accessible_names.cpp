@@ -1,6 +1,7 @@
 #include "qt/accessible_names.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QGroupBox>
 #include <QLabel>
@@ -32,6 +33,12 @@ void ShowAccessibleNames(const QWidget& window) {
     }
     if (!captions.isEmpty()) widget->setAccessibleName(captions.join(QLatin1Char(' ')));
   }
+}
+
+void AnnounceItem(QAbstractItemView& list, int row) {
+  QAccessibleEvent event(&list, QAccessible::Focus);
+  event.setChild(row);
+  QAccessible::updateAccessibility(&event);
 }
 
 void Announce(QWidget& label) {

@@ -4,6 +4,7 @@
 // "Clear Folder". The tip is the description, never the name.
 #pragma once
 
+#include <QAbstractItemView>
 #include <QWidget>
 
 namespace quillomat {
@@ -13,5 +14,8 @@ void ShowAccessibleNames(const QWidget& window);
 
 /// Has a screen reader say the text of a label, since something has come of what the user did.
 void Announce(QWidget& label);
+
+/// Lets a screen reader read an item of a list out, as if the keyboard stood on it.
+void AnnounceItem(QAbstractItemView& list, int row);
 
 }  // namespace quillomat

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QStyleHints>
 #include <QWidget>
 
 namespace quillomat {
@@ -44,6 +45,9 @@ bool BoxGuard::eventFilter(QObject* watched, QEvent* event) {
       return KeepsAway(static_cast<QKeyEvent&>(*event));
     case QEvent::Shortcut:
       return BoxInFront() != nullptr && (!shortcutMayAnswer_ || Clock::now() < open_);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return KeepsAway(static_cast<QMouseEvent&>(*event));
     case QEvent::KeyRelease:
       if (const auto& key = static_cast<QKeyEvent&>(*event); !key.isAutoRepeat())
         presses_.remove(key.key());
@@ -70,6 +74,20 @@ bool BoxGuard::MayAnswer(const QKeyEvent& key) const {
   if (key.isAutoRepeat()) return false;
   const auto press = presses_.find(key.key());
   return press == presses_.end() || press->down >= open_;
+}
+
+/// A press is told several times on its way; told first, it comes behind the box.
+bool BoxGuard::KeepsAway(const QMouseEvent& mouse) {
+  const Clock::time_point now = Clock::now();
+  const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
+  const int distance = QGuiApplication::styleHints()->mouseDoubleClickDistance();
+  const QPoint place = mouse.globalPosition().toPoint();
+  const bool isSecond = now - clicked_ <= doubleClick && clicked_ < open_ - kPause &&
+                        (place - clickedAt_).manhattanLength() <= distance;
+  if (isSecond && BoxInFront() != nullptr) return true;
+  clicked_ = now;
+  clickedAt_ = place;
+  return false;
 }
 
 bool BoxGuard::KeepsAway(const QKeyEvent& key) const {

@@ -1,4 +1,5 @@
-// Keeps keys that were not meant for a box from answering it: one that is held down and repeats
+// Keeps keys and clicks that were not meant for a box from answering it: the second click of a
+// double click whose first has opened it, and of the keys one that is held down and repeats
 // itself, one that went down before the box was there, and one that comes so soon after it that
 // nobody can have read it. What is typed into a box of text goes there all the same; only Enter and
 // Escape are kept from that.
@@ -8,7 +9,9 @@
 
 #include <QHash>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QObject>
+#include <QPoint>
 #include <chrono>
 
 namespace quillomat {
@@ -33,6 +36,7 @@ class BoxGuard final : public QObject {
   void NotePress(const QKeyEvent& key);
   [[nodiscard]] bool MayAnswer(const QKeyEvent& key) const;
   [[nodiscard]] bool KeepsAway(const QKeyEvent& key) const;
+  [[nodiscard]] bool KeepsAway(const QMouseEvent& mouse);
 
   /// Keys that went down from then on may answer the box in front.
   Clock::time_point open_;
@@ -43,6 +47,9 @@ class BoxGuard final : public QObject {
   };
   /// The keys that are down.
   QHash<int, Press> presses_;
+  /// The last click that was kept from nothing.
+  Clock::time_point clicked_;
+  QPoint clickedAt_;
   /// Of the key whose letter a command of the box may take.
   bool shortcutMayAnswer_ = true;
 };

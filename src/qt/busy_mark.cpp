@@ -7,6 +7,7 @@ namespace quillomat {
 
 BusyMark::BusyMark(QWidget* parent) : QLabel(parent) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setAccessibleName(QStringLiteral(" "));  // its sign is no text to be read out
   sinceStart_.start();
 }
 

@@ -1,11 +1,11 @@
 #include "qt/files_page.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 #include "qt/list_table.h"
@@ -96,13 +96,22 @@ void FilesModel::sort(int section, Qt::SortOrder order) {
   rows_.SetOrder(FileRows::Order{ColumnOf(section), order == Qt::DescendingOrder});
 }
 
+QModelIndexList FilesModel::match(const QModelIndex& start, int /*role*/, const QVariant& value,
+                                  int /*hits*/, Qt::MatchFlags /*flags*/) const {
+  const auto from = static_cast<std::size_t>(std::max(0, start.row()));
+  const auto found = rows_.FindName(FromQt(value.toString()), from);
+  if (!found) return {};
+  return {index(static_cast<int>(*found), std::max(0, start.column()))};
+}
+
 FilesPage::FilesPage(Program& program, QWidget* parent)
     : QWidget(parent),
+      program_(program),
       rows_(program.Words(), program.Text()),
-      model_(rows_, {.group = program.DigitGroupSeparator(),
-                     .decimal = FromQt(QLocale::system().decimalPoint())}),
+      model_(rows_, program.Signs()),
       stopped_(new QLabel(this)),
-      table_(new QTableView(this)),
+      table_(new RowTable<QTableView>(this)),
+      hint_(new QLabel(table_->viewport())),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -110,28 +119,29 @@ FilesPage::FilesPage(Program& program, QWidget* parent)
   lines->addWidget(table_);
   stopped_->setWordWrap(true);
   stopped_->hide();
+  auto* middle = new QVBoxLayout(table_->viewport());
+  middle->addWidget(hint_);
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setWordWrap(true);
   SetUpTable();
   setFocusProxy(table_);
   program.WantFileReports(true);
   rows_.Changed.Connect([this] {
     ShowStopped();
+    ShowHint();
     isOld_ = true;
     if (isVisible()) FitColumns();
   });
+  program.BecameIdle.Connect([this] { ShowHint(); });
 }
 
 void FilesPage::SetUpTable() {
   table_->setModel(&model_);
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setAlternatingRowColors(true);
-  table_->setShowGrid(false);
+  SetUpRows(*table_);
   table_->setWordWrap(false);
   table_->setTextElideMode(Qt::ElideMiddle);
-  table_->setTabKeyNavigation(false);
-  table_->verticalHeader()->hide();
   table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   QHeaderView& titles = *table_->horizontalHeader();
-  titles.setHighlightSections(false);
   titles.setSortIndicator(-1, Qt::AscendingOrder);  // as they were counted
   titles.setSortIndicatorClearable(true);
   table_->setSortingEnabled(true);
@@ -140,14 +150,50 @@ void FilesPage::SetUpTable() {
   copy_->setShortcutContext(Qt::WidgetShortcut);
   connect(copy_, &QAction::triggered, this, [this] { Copy(); });
   table_->addAction(copy_);
-  table_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  KeepTheChosenFile();
+  ConnectMenus();
+}
+
+void FilesPage::KeepTheChosenFile() {
+  RowIdentity files;
+  files.identity = [this](int row) { return rows_.PlaceAt(static_cast<std::size_t>(row)); };
+  files.row = [this](std::int64_t place) -> std::optional<int> {
+    const auto row = rows_.RowOfPlace(static_cast<std::uint32_t>(place));
+    if (!row) return std::nullopt;
+    return static_cast<int>(*row);
+  };
+  table_->KeepChosenRow(std::move(files), kPathSection);
+}
+
+/// Asked for by the keyboard, a menu is about the column that the keyboard is in.
+void FilesPage::ConnectMenus() {
+  table_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(table_, &QWidget::customContextMenuRequested, this, [this](QPoint place) {
+    const QModelIndex index = table_->indexAt(place);
+    const int section = index.isValid() ? index.column() : kPathSection;
+    ShowMenu(table_->viewport()->mapToGlobal(place), section);
+  });
+  QHeaderView& titles = *table_->horizontalHeader();
+  titles.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&titles, &QWidget::customContextMenuRequested, this, [this, &titles](QPoint place) {
+    ShowMenu(titles.mapToGlobal(place), titles.logicalIndexAt(place));
+  });
+}
+
+void FilesPage::ShowMenu(const QPoint& place, int section) {
+  QMenu menu(this);
+  menu.addAction(copy_);
+  if (section >= 0) AddSorting(menu, *table_, section, sortText_);
+  menu.exec(place);
 }
 
 void FilesPage::SetTexts(const ProgramText& text) {
   model_.SetTexts(text);
   ShowStopped();
+  ShowHint();
   table_->setAccessibleName(ToQt(text.GetText(kFilesNameText)));
   copy_->setText(ToQt(text.GetText(kCopyRowsText)));
+  sortText_ = ToQt(text.GetText(kSortByText));
   isOld_ = true;
   if (isVisible()) FitColumns();
 }
@@ -156,6 +202,15 @@ void FilesPage::SetTexts(const ProgramText& text) {
 void FilesPage::ShowStopped() {
   stopped_->setText(ToQt(rows_.StoppedText(model_.Signs())));
   stopped_->setVisible(!stopped_->text().isEmpty());
+}
+
+void FilesPage::ShowHint() {
+  const CurrentWords& words = program_.Words();
+  const bool ofClipboard =
+      words.CanBeListed() && words.counted.source == CountedText::Source::kClipboard;
+  hint_->setText(
+      ToQt(program_.Text().GetText(ofClipboard ? kClipboardHasNoFilesText : kNoFilesYetText)));
+  hint_->setVisible(rows_.Size() == 0 && !program_.State().Busy());
 }
 
 /// Titles and what is in sight fit; a long path leaves room for the rest.
@@ -168,8 +223,13 @@ void FilesPage::FitColumns() {
   table_->setColumnHidden(kSkippedSection, !rows_.AnyNotRead());
   const int half = std::max(table_->viewport()->width() / 2, 120);
   if (table_->columnWidth(kPathSection) > half) table_->setColumnWidth(kPathSection, half);
-  const int letters = fontMetrics().height();
-  table_->verticalHeader()->setDefaultSectionSize(letters + letters / 4);
+  FitRowsToLetters(*table_);
+}
+
+void FilesPage::SetZoom(int points) {
+  SetLetterSize(*table_, points);
+  isOld_ = true;
+  if (isVisible()) FitColumns();
 }
 
 void FilesPage::ShowNotRead(bool byDesign) {
@@ -182,18 +242,20 @@ void FilesPage::ShowNotRead(bool byDesign) {
 }
 
 void FilesPage::Copy() const {
-  const QItemSelectionModel& selection = *table_->selectionModel();
-  CopiedRows copied(model_.rowCount());
-  copied.AddTitles(model_.Titles());
-  for (int row = 0; row < model_.rowCount(); ++row) {
-    if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
-    copied.Add(model_.CopyOf(row));
+  QList<int> rows = SelectedRowsOf(*table_);
+  if (rows.isEmpty()) {
+    rows.resize(model_.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
   }
+  CopiedRows copied(rows.size());
+  copied.AddTitles(model_.Titles());
+  for (const int row : rows) copied.Add(model_.CopyOf(row));
   copied.PutOnClipboard();
 }
 
 void FilesPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  ShowHint();
   FitColumns();
 }
 

@@ -12,6 +12,7 @@
 #include "app/program.h"
 #include "app/table/file_rows.h"
 #include "app/table/row_cells.h"
+#include "qt/row_table.h"
 
 namespace quillomat {
 
@@ -34,6 +35,9 @@ class FilesModel final : public QAbstractTableModel {
                                     int role) const override;
   /// By none for -1.
   void sort(int section, Qt::SortOrder order) override;
+  /// By the names of the files: their paths mostly begin alike.
+  [[nodiscard]] QModelIndexList match(const QModelIndex& start, int role, const QVariant& value,
+                                      int hits, Qt::MatchFlags flags) const override;
 
  private:
   FileRows& rows_;
@@ -48,6 +52,8 @@ class FilesPage final : public QWidget {
 
   void SetTexts(const ProgramText& text);
   [[nodiscard]] QTableView& Table() { return *table_; }
+  /// The letters of the table are so many points larger than the window's; smaller, below 0.
+  void SetZoom(int points);
 
   /// Puts what was not read first, and the keyboard there: on what should have been read or, of
   /// what is left out by design, on that.
@@ -60,15 +66,24 @@ class FilesPage final : public QWidget {
 
  private:
   void SetUpTable();
+  void KeepTheChosenFile();
+  void ConnectMenus();
+  void ShowMenu(const QPoint& place, int section);
   void ShowStopped();
+  void ShowHint();
   void FitColumns();
 
+  Program& program_;
   FileRows rows_;
   FilesModel model_;
   // Children of the page.
   QLabel* stopped_;
-  QTableView* table_;
+  RowTable<QTableView>* table_;
+  /// In its middle while it is empty.
+  QLabel* hint_;
   QAction* copy_;
+  /// "Sort by %1".
+  QString sortText_;
   /// Columns were not made as wide as what they hold.
   bool isOld_ = true;
 };

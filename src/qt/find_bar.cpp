@@ -2,18 +2,19 @@
 
 #include <QKeyEvent>
 #include <QTextCursor>
-#include <QTextDocument>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
-#include "qt/accessible_names.h"
+#include "app/program.h"
+#include "base/utf8.h"
 #include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
 namespace quillomat {
 
-FindBar::FindBar(QPlainTextEdit& list, TellBelow tellBelow)
-    : list_(list), tellBelow_(std::move(tellBelow)) {
+FindBar::FindBar(QPlainTextEdit& list, const Program& program) : list_(list), program_(program) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
   auto* row = new FlowLayout;
@@ -71,41 +72,50 @@ void FindBar::FindAgain(bool backward) {
 void FindBar::Find(bool backward, bool fromHere) {
   Forget();
   if (word_.text().isEmpty()) return ShowNoPlace();
-  QTextCursor start = list_.textCursor();
-  if (fromHere) start.setPosition(start.selectionStart());
-  const QTextCursor found = FoundFrom(start, backward);
-  const QString below = tellBelow_(word_.text());
-  if (found.isNull()) {
+  const std::vector<Place> places = Places();
+  const QString below = ToQt(program_.FoundBelowText(FromQt(word_.text())));
+  if (places.empty()) {
     ShowNoPlace();
     ShowOutcome(below.isEmpty() ? notFoundText_ : below);
-    return Announce(outcome_);
+    return announce(outcome_);
   }
-  list_.setTextCursor(found);
-  list_.ensureCursorVisible();
-  ShowPlace(found);
+  const QTextCursor here = list_.textCursor();
+  const int start = fromHere || backward ? here.selectionStart() : here.selectionEnd();
+  // The first place that does not begin before it, or the one in front of that.
+  auto found = std::ranges::lower_bound(places, start, {}, &Place::begin);
+  if (backward) found = std::prev(found == places.begin() ? places.end() : found);
+  if (found == places.end()) found = places.begin();
+  ShowPlace(*found);
+  place_.setText(placeOfPlaces_.arg(found - places.begin() + 1).arg(places.size()));
   ShowOutcome(below);
+  if (!fromHere) announce(place_);  // whoever types hears the letters
 }
 
-QTextCursor FindBar::FoundFrom(QTextCursor start, bool backward) const {
-  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-  const QTextCursor found = list_.document()->find(word_.text(), start, flags);
-  if (!found.isNull()) return found;
-  start.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
-  return list_.document()->find(word_.text(), start, flags);
-}
-
-/// The places do not overlap, as the search goes on behind the one that it has found.
-void FindBar::ShowPlace(const QTextCursor& found) {
-  const QString text = list_.document()->toRawText();
-  const QString& word = word_.text();
-  int places = 0;
-  int place = 0;
-  for (qsizetype at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
-       at = text.indexOf(word, at + word.size(), Qt::CaseInsensitive)) {
-    ++places;
-    if (at <= found.selectionStart()) place = places;
+/// All of them, by the rule of the list.
+std::vector<FindBar::Place> FindBar::Places() const {
+  const std::string text = FromQt(list_.toPlainText());
+  std::vector<Place> places;
+  std::size_t byte = 0;
+  int units = 0;
+  const auto unitsBefore = [&](std::size_t end) {
+    for (; byte < end; byte += CharacterAt(text, byte).bytes) {
+      units += QChar::requiresSurrogates(CharacterAt(text, byte).codePoint) ? 2 : 1;
+    }
+    return units;
+  };
+  for (const TextPlace& place : program_.PlacesIn(text, FromQt(word_.text()))) {
+    const int begin = unitsBefore(place.begin);
+    places.push_back({begin, unitsBefore(place.end)});
   }
-  place_.setText(placeOfPlaces_.arg(place).arg(places));
+  return places;
+}
+
+void FindBar::ShowPlace(const Place& place) {
+  QTextCursor cursor = list_.textCursor();
+  cursor.setPosition(place.begin);
+  cursor.setPosition(place.end, QTextCursor::KeepAnchor);
+  list_.setTextCursor(cursor);
+  list_.ensureCursorVisible();
 }
 
 /// Nothing in the text bears the mark of a hit that is none any more.
@@ -131,9 +141,10 @@ void FindBar::Close() {
   list_.setFocus(Qt::OtherFocusReason);
 }
 
-/// The keys are the bar's own: none of them starts or stops a count.
+/// The keys are the bar's own, and Enter starts no count; but what is at work is stopped.
 void FindBar::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) return Close();
+  if (event->key() == Qt::Key_Escape)
+    return program_.State().Busy() ? QWidget::keyPressEvent(event) : Close();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     return Find(event->modifiers().testFlag(Qt::ShiftModifier), false);
   }

@@ -5,21 +5,24 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTextCursor>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
+#include "qt/accessible_names.h"
 #include "text/program_text.h"
 
 namespace quillomat {
 
+class Program;
+
 class FindBar : public QWidget {
  public:
-  /// Says where the list that goes on below its text holds what is looked for; "" for nowhere.
-  using TellBelow = std::function<QString(const QString& wanted)>;
+  /// Both must outlive the bar.
+  FindBar(QPlainTextEdit& list, const Program& program);
 
-  /// `list` must outlive the bar.
-  FindBar(QPlainTextEdit& list, TellBelow tellBelow);
+  /// How a screen reader is told at once what a label says.
+  std::function<void(QWidget&)> announce = Announce;
 
   /// The bar's texts in the current language.
   void SetTexts(const ProgramText& text);
@@ -35,10 +38,16 @@ class FindBar : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// Characters of the list's text as the toolkit counts them.
+  struct Place {
+    int begin = 0;
+    int end = 0;
+  };
+
   void FindAgain(bool backward);
+  [[nodiscard]] std::vector<Place> Places() const;
   void Find(bool backward, bool fromHere);
-  [[nodiscard]] QTextCursor FoundFrom(QTextCursor start, bool backward) const;
-  void ShowPlace(const QTextCursor& found);
+  void ShowPlace(const Place& place);
   void ShowNoPlace();
   void Forget();
   /// What has come of a search; "" for nothing to say.
@@ -46,6 +55,7 @@ class FindBar : public QWidget {
   void Close();
 
   QPlainTextEdit& list_;
+  const Program& program_;
   QLabel label_;
   QLineEdit word_;
   QPushButton previous_;
@@ -55,7 +65,6 @@ class FindBar : public QWidget {
   QLabel outcome_;
   QString placeOfPlaces_;
   QString notFoundText_;
-  TellBelow tellBelow_;
 };
 
 }  // namespace quillomat

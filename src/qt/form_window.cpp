@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVariant>
@@ -124,6 +125,7 @@ void FormWindow::ShowChanges() {
   scheduled_ = false;
   if (showing_) return;
   showing_ = true;
+  const auto shown = qScopeGuard([this] { showing_ = false; });
   for (Entry& entry : entries_) {
     if (entry.changed) entry.binding->ShowAccess();
   }
@@ -139,7 +141,6 @@ void FormWindow::ShowChanges() {
   if (captionsChanged_) ShowCaptions();
   if (windowChanged_) ShowWindowState();
   if (renamed) ShowAccessibleNames(*this);
-  showing_ = false;
 }
 
 /// Commands choose their letters first, since they are what a hand wants to reach at once; a widget
@@ -162,14 +163,15 @@ void FormWindow::ShowCaptions() {
   }
 }
 
-/// The form's word counts when it has moved the focus, and when no widget has it.
+/// The form's word counts when it has moved the focus, and when no widget has it; but keys never go
+/// into what is folded away.
 void FormWindow::ShowFocus() {
   const bool lost = focusWidget() == nullptr && arriving_ == nullptr;
   if (!std::exchange(focusMoved_, false) && !lost) return;
   const Control* focused = form_.Focused();
-  if (focused != nullptr && focused->CanTakeFocus()) {
-    WidgetOf(*focused).setFocus(Qt::OtherFocusReason);
-  }
+  if (focused == nullptr || !focused->CanTakeFocus()) return;
+  QWidget& widget = WidgetOf(*focused);
+  if (widget.isVisibleTo(this)) widget.setFocus(Qt::OtherFocusReason);
 }
 
 /// Otherwise the toolkit would hand the focus of a widget that is disabled to a neighbour, and keys
@@ -290,9 +292,6 @@ bool FormWindow::OnKey(Control& control, const QKeyEvent& key) {
     return control.KeyDown.IsHeard();  // else the window's own help
   } else if (IsEnter(key)) {
     control.KeyDown.Fire(kEnterKey);
-    const bool link = control.Kind() == ControlKind::kLabel;
-    if (link) control.As<Label>()->PerformClick();
-    return link;
   }
   return false;
 }

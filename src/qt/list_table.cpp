@@ -30,6 +30,13 @@ QStringList CellsOf(const CopiedLine& copied, const CellSource& cells) {
   return row;
 }
 
+/// What would part a cell or a row is written as programs write it.
+QString OnOneLine(QString cell) {
+  return cell.replace(QLatin1Char('\t'), QLatin1String("\\t"))
+      .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+      .replace(QLatin1Char('\r'), QLatin1String("\\r"));
+}
+
 }  // namespace
 
 void HtmlTable::AddCells(const QStringList& cells, const QString& element) {
@@ -51,8 +58,10 @@ void CopiedRows::AddTitles(const QStringList& titles) {
 
 void CopiedRows::Add(const QStringList& cells) {
   hasRows_ = true;
-  text_ += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
-  if (withTable_) table_.AddRow(cells);
+  QStringList lines = cells;
+  std::ranges::transform(lines, lines.begin(), OnOneLine);
+  text_ += lines.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  if (withTable_) table_.AddRow(lines);
 }
 
 void CopiedRows::PutOnClipboard() {

@@ -41,6 +41,7 @@ class CopiedRows {
   /// Of very many rows the text is enough: it is what programs take over faster.
   explicit CopiedRows(qsizetype rows) : withTable_(rows <= kMostRowsOfATable) {}
 
+  // A tab or a line break in a cell, as paths may have them, is written as "\t", "\n" or "\r".
   /// Before the rows.
   void AddTitles(const QStringList& titles);
   void Add(const QStringList& cells);

@@ -4,12 +4,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QIcon>
+#include <QScopeGuard>
 #include <iostream>
 #include <memory_resource>
 
 #include "base/version.h"
 #include "engine/kernel_choice.h"
 #include "qt/clear_boxes.h"
+#include "qt/guarded_application.h"
 #include "qt/program_windows.h"
 #include "qt/text_conversion.h"
 #include "system/file_system.h"
@@ -50,7 +52,7 @@ bool HasEmptyArgument() {
   return QCoreApplication::arguments().contains(QString());
 }
 
-int RunOnDesktop(QApplication& application) {
+int RunOnDesktop(GuardedApplication& application) {
   if (HasEmptyArgument()) {
     std::cerr << "quillomat: an argument is empty; check what should stand there\n";
     return 2;
@@ -59,6 +61,9 @@ int RunOnDesktop(QApplication& application) {
   QtDesktop desktop;
   Program program(desktop);
   Windows windows(program, desktop);
+  application.tell = [&program](const RunTimeError& error) { program.Lister().ReportError(error); };
+  const QObject desktopSession;
+  const auto untold = qScopeGuard([&application] { application.tell = nullptr; });
   windows.RestorePlaces();
   program.Ended.Connect([&windows] {
     windows.KeepPlaces();
@@ -66,6 +71,12 @@ int RunOnDesktop(QApplication& application) {
     QMetaObject::invokeMethod(
         qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
   });
+  // The session of the desktop ends: nobody may be asked anything, and no time may be lost.
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &desktopSession,
+                   [&program, &windows] {
+                     program.KeepSettings();
+                     windows.KeepPlaces();
+                   });
   if (!program.Start()) return program.HasEnded() ? 0 : 1;
   if (!path.isEmpty()) program.Sources().ChooseText(FromQt(QDir::toNativeSeparators(path)));
   return QApplication::exec();
@@ -88,7 +99,7 @@ int main(int argc, char** argv) {
     LetDrivesBeEmpty();
     std::pmr::set_default_resource(&LargePageMemory());
     const Interruption interruption;
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));
     QApplication::setApplicationVersion(ToQt(VersionText()));
     QApplication::setDesktopFileName(QStringLiteral("quillomat"));

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -19,6 +20,7 @@
 
 #include "app/count/pace_text.h"
 #include "qt/flow_row.h"
+#include "qt/mixed_color.h"
 #include "qt/path_suggestions.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
@@ -54,16 +56,13 @@ MainWindowView::MainWindowView(Program& program)
     : FormWindow(program.frmMain),
       program_(program),
       ui_(std::make_unique<Ui::frmMain>()),
-      findBar_((ui_->setupUi(this), *ui_->txbOutput),
-               [&program](const QString& wanted) {
-                 return ToQt(program.FoundBelowText(FromQt(wanted)));
-               }),
+      findBar_((ui_->setupUi(this), *ui_->txbOutput), program),
       noticeStrip_(new NoticeStrip(ui_->paneResult)),
       views_(new ResultTabs),
       table_(new TablePage(program)),
       statistics_(new StatisticsPage(program)),
       files_(new FilesPage(program)),
-      fold_(new SettingsFold(*ui_->paneSettings, *ui_->txbOutput)),
+      fold_(new SettingsFold(*ui_->paneSettings, [this] { views_->Enter(); })),
       foldedRun_(new FoldedRun(*ui_)),
       quitLetter_(new QShortcut(this)) {
   setAcceptDrops(true);
@@ -86,9 +85,7 @@ MainWindowView::MainWindowView(Program& program)
   ConnectAnnouncements();
 }
 
-MainWindowView::~MainWindowView() {
-  findBar_.setParent(nullptr);  // a member, which the window must not delete as its child
-}
+MainWindowView::~MainWindowView() = default;
 
 ListView& MainWindowView::List() const {
   return *ui_->txbOutput;
@@ -103,13 +100,19 @@ void MainWindowView::PlaceViews() {
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(ui_->txbOutput, 1);
   column->addWidget(&findBar_);
+  text->setFocusProxy(ui_->txbOutput);
   views_->setCornerWidget(fold_, Qt::TopLeftCorner);
+  const auto findInText = [this] {
+    views_->Show(kTextView);
+    findBar_.Open();
+  };
   views_->Add(text, kTextView, kTextViewText, {.find = [this] { findBar_.Open(); }});
   views_->Add(table_, kTableView, kTableViewText,
               {.find = [this] { table_->Find(); }, .copy = [this] { table_->View().Copy(); }});
   views_->Add(statistics_, QStringLiteral("statistics"), kStatisticsViewText,
-              {.copy = [this] { statistics_->Copy(); }});
-  views_->Add(files_, kFilesView, kFilesViewText, {.copy = [this] { files_->Copy(); }});
+              {.find = findInText, .copy = [this] { statistics_->Copy(); }});
+  views_->Add(files_, kFilesView, kFilesViewText,
+              {.find = findInText, .copy = [this] { files_->Copy(); }});
   // What stands below the views comes behind them on the keyboard's way, too.
   setTabOrder(&table_->View(), &statistics_->OrderBox());
   setTabOrder(&statistics_->OrderBox(), &statistics_->Table());
@@ -166,7 +169,7 @@ void MainWindowView::ConnectViews() {
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
   program_.SetViewCopier([this] { return views_->Copy(); });
-  program_.Exports().SetFilter([this] { return table_->Table().FilteredPlaces(); });
+  program_.Exports().SetFilter([this] { return table_->Table().Filtered(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });
 }
 
@@ -183,12 +186,8 @@ void MainWindowView::PlaceNotices() {
   column->addStretch();
   for (QLabel* notice : Notices()) column->addWidget(notice, 0, Qt::AlignHCenter);
   column->addStretch();
-  for (QLabel* link : {ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
-    link->setCursor(Qt::PointingHandCursor);
-    link->setForegroundRole(QPalette::Link);
-    link->setFocusPolicy(Qt::TabFocus);
-  }
   ShowNoticesInWindowFont();
+  ShowLinksReadably();
 }
 
 /// Above all that shows the result.
@@ -223,11 +222,31 @@ void MainWindowView::ShowNoticesInWindowFont() {
   }
 }
 
+/// Not every desktop of dark colours has one for links.
+void MainWindowView::ShowLinksReadably() {
+  const QColor color = ReadableColor(palette().color(QPalette::Link), palette());
+  for (QLabel* link : {ui_->lblOnlineDocumentation, ui_->lblOrvandelSystems}) {
+    QPalette own = link->palette();
+    if (own.color(QPalette::WindowText) == color) continue;
+    own.setColor(QPalette::WindowText, color);
+    link->setPalette(own);
+  }
+}
+
 void MainWindowView::changeEvent(QEvent* event) {
   FormWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowLinksReadably();
   if (event->type() != QEvent::FontChange) return;
   ShowNoticesInWindowFont();
   AlignLabels();
+}
+
+/// The splitter takes from the list alone what a smaller window has no room for.
+void MainWindowView::resizeEvent(QResizeEvent* event) {
+  FormWindow::resizeEvent(event);
+  // Later, when the splitter has its new width.
+  QMetaObject::invokeMethod(
+      this, [this] { FitSettings(); }, Qt::QueuedConnection);
 }
 
 void MainWindowView::SetTexts(const ProgramText& text) {
@@ -266,8 +285,9 @@ void MainWindowView::FitSettings() {
   QSplitter& splitter = *ui_->splitter;
   fitsWhenUnfolded_ = fold_->IsFolded();
   if (splitter.property(kPlacedByUser).toBool() || fitsWhenUnfolded_) return;
-  const int settings = std::min(ui_->paneSettings->sizeHint().width(), splitter.width() / 2);
-  splitter.setSizes({settings, splitter.width() - settings - splitter.handleWidth()});
+  const int room = splitter.width() - splitter.handleWidth();
+  const int settings = std::min(ui_->paneSettings->sizeHint().width(), room / 2);
+  splitter.setSizes({settings, room - settings});
 }
 
 /// One bar for the whole run: of a folder, its own, else the file's.
@@ -351,7 +371,12 @@ void MainWindowView::ConnectKeys() {
 }
 
 void MainWindowView::ConnectZoom() {
-  List().onZoom = [this](int zoom) { table_->View().SetZoom(zoom); };
+  List().onZoom = [this](int zoom) {
+    table_->View().SetZoom(zoom);
+    statistics_->SetZoom(zoom);
+    files_->SetZoom(zoom);
+  };
+  for (const QAbstractScrollArea* table : Tables()) table->viewport()->installEventFilter(this);
   const auto zoom = [this](const QList<QKeySequence>& keys, auto step) {
     for (const QKeySequence& key : keys) {
       connect(new QShortcut(key, this), &QShortcut::activated, this,
@@ -362,6 +387,21 @@ void MainWindowView::ConnectZoom() {
        [](int size) { return size + 1; });
   zoom({QKeySequence::ZoomOut}, [](int size) { return size - 1; });
   zoom({QKeySequence(Qt::CTRL | Qt::Key_0)}, [](int) { return 0; });
+}
+
+std::array<QAbstractScrollArea*, 3> MainWindowView::Tables() const {
+  return {&table_->View(), &statistics_->Table(), &files_->Table()};
+}
+
+/// Over the tables the wheel changes the size of all letters, as it does over the list.
+bool MainWindowView::OnWheel(const QObject* watched, const QWheelEvent& wheel) {
+  const auto tables = Tables();
+  const bool isTable = std::ranges::any_of(
+      tables, [&](const QAbstractScrollArea* table) { return table->viewport() == watched; });
+  if (!isTable || !wheel.modifiers().testFlag(Qt::ControlModifier)) return false;
+  const int turned = wheel.angleDelta().y();
+  if (turned != 0) List().SetZoom(List().Zoom() + (turned > 0 ? 1 : -1));
+  return true;
 }
 
 /// A file that is dropped on the box of the output file is meant for it.
@@ -375,6 +415,9 @@ bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
       if (event->type() == QEvent::Drop) program_.frmMain.txbFile[1].EnterText(paths.front());
       return true;
     }
+  }
+  if (event->type() == QEvent::Wheel && OnWheel(watched, static_cast<QWheelEvent&>(*event))) {
+    return true;
   }
   return FormWindow::eventFilter(watched, event);
 }

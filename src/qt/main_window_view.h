@@ -2,6 +2,7 @@
 // dropped on the window, completed paths, finding in the list, the size of its letters).
 #pragma once
 
+#include <QAbstractScrollArea>
 #include <QLabel>
 #include <QShortcut>
 #include <array>
@@ -55,6 +56,7 @@ class MainWindowView final : public FormWindow {
   void ShowOwn() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -67,10 +69,13 @@ class MainWindowView final : public FormWindow {
   void PlaceNoticeStrip();
   [[nodiscard]] std::array<QLabel*, 3> Notices() const;
   void ShowNoticesInWindowFont();
+  void ShowLinksReadably();
   void ConnectFold();
   void ShowQuitLetter();
   void ConnectKeys();
   void ConnectZoom();
+  [[nodiscard]] std::array<QAbstractScrollArea*, 3> Tables() const;
+  [[nodiscard]] bool OnWheel(const QObject* watched, const QWheelEvent& wheel);
   void AlignLabels();
   void FitSettings();
   void ConnectProgress();

@@ -1,13 +1,17 @@
 #include "qt/path_suggestions.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QKeyEvent>
-#include <QPointer>
-#include <QThreadPool>
 #include <algorithm>
 #include <chrono>
+#include <new>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "qt/text_conversion.h"
+#include "system/typed_path.h"
 
 namespace quillomat {
 namespace {
@@ -22,16 +26,29 @@ constexpr Qt::CaseSensitivity kPathCase = Qt::CaseInsensitive;
 constexpr Qt::CaseSensitivity kPathCase = Qt::CaseSensitive;
 #endif
 
-/// What begins like `typed` in its folder, in order. May take long: a folder can be large, and far
-/// away.
-QStringList PathsLike(const QString& typed, PathKind kind) {
-  const qsizetype nameStart = QDir::fromNativeSeparators(typed).lastIndexOf(QLatin1Char('/')) + 1;
+/// Where the name begins that is typed last.
+qsizetype NameStart(const QString& typed) {
+  return QDir::fromNativeSeparators(typed).lastIndexOf(QLatin1Char('/')) + 1;
+}
+
+/// Whether the folder is said in which to look: from the root on, or in the user's home.
+bool NamesFolder(const QString& typed) {
+  return QDir::isAbsolutePath(typed) ||
+         QDir::fromNativeSeparators(typed).startsWith(QLatin1String("~/"));
+}
+
+}  // namespace
+
+QStringList PathSuggestions::PathsLike(const QString& typed, PathKind kind,
+                                       const std::stop_token& stop) {
+  const qsizetype nameStart = NameStart(typed);
   const QString folder = typed.left(nameStart);
   const QString name = typed.mid(nameStart);
   const QDir::Filters folders = QDir::AllDirs | QDir::NoDotAndDotDot;
   QStringList paths;
-  QDirIterator entries(folder, kind == PathKind::kFolder ? folders : folders | QDir::Files);
-  while (entries.hasNext()) {
+  QDirIterator entries(ToQt(PathFromTyped({}, FromQt(folder))),
+                       kind == PathKind::kFolder ? folders : folders | QDir::Files);
+  while (!stop.stop_requested() && entries.hasNext()) {
     entries.next();
     if (entries.fileName().startsWith(name, kPathCase)) paths.append(folder + entries.fileName());
   }
@@ -39,10 +56,8 @@ QStringList PathsLike(const QString& typed, PathKind kind) {
   return paths.mid(0, kMostOffered);
 }
 
-}  // namespace
-
-PathSuggestions::PathSuggestions(QLineEdit& box, PathKind kind)
-    : QObject(&box), box_(box), kind_(kind) {
+PathSuggestions::PathSuggestions(QLineEdit& box, PathKind kind, Source source)
+    : QObject(&box), box_(box), kind_(kind), source_(std::move(source)) {
   // A window of its own, as it may be longer than the one that the box is in; but not a popup,
   // which would take the mouse.
   list_.setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
@@ -61,6 +76,11 @@ PathSuggestions::PathSuggestions(QLineEdit& box, PathKind kind)
   box.installEventFilter(this);
 }
 
+PathSuggestions::~PathSuggestions() {
+  stop_.request_stop();
+  callsFromThreads_->End();
+}
+
 QStringList PathSuggestions::Offered() const {
   QStringList paths;
   for (int i = 0; IsOffering() && i < list_.count(); ++i) paths.append(list_.item(i)->text());
@@ -69,17 +89,32 @@ QStringList PathSuggestions::Offered() const {
 
 void PathSuggestions::Look() {
   const QString typed = box_.text();
-  if (!box_.hasFocus() || !QDir::isAbsolutePath(typed)) return;
-  QThreadPool::globalInstance()->start(
-      [self = QPointer<PathSuggestions>(this), typed, kind = kind_] {
-        const QStringList paths = PathsLike(typed, kind);
-        QMetaObject::invokeMethod(
-            QCoreApplication::instance(),
-            [self, typed, paths] {
-              if (self != nullptr) self->Offer(typed, paths);
-            },
-            Qt::QueuedConnection);
-      });
+  if (!box_.hasFocus() || !NamesFolder(typed) || looks_ == kMostLooks) return;
+  stop_.request_stop();
+  stop_ = std::stop_source();
+  try {
+    StartLook(typed);
+    ++looks_;
+  } catch (const std::system_error&) {
+    return;  // without a thread there is nothing to offer
+  }
+}
+
+/// Touches nothing of ours but what it shares, and may outlive everything but the program.
+void PathSuggestions::StartLook(const QString& typed) {
+  std::thread([this, typed, kind = kind_, source = source_, stop = stop_.get_token(),
+               calls = callsFromThreads_] {
+    QStringList paths;
+    try {
+      paths = source(typed, kind, stop);
+    } catch (const std::bad_alloc&) {
+      paths.clear();
+    }
+    calls->Call([this, typed, paths] {  // which ends with us
+      --looks_;
+      Offer(typed, paths);
+    });
+  }).detach();
 }
 
 /// Nothing when the user has gone on since, and nothing that is already there.
@@ -132,8 +167,9 @@ void PathSuggestions::Close() {
 void PathSuggestions::Mark(int step) {
   const int rows = list_.count();
   const int row = list_.currentRow();
-  if (row < 0) return list_.setCurrentRow(step > 0 ? 0 : rows - 1);
-  list_.setCurrentRow((row + step + rows) % rows);
+  const int next = row < 0 ? (step > 0 ? 0 : rows - 1) : (row + step + rows) % rows;
+  list_.setCurrentRow(next);
+  announce(list_, next);  // the keyboard stays in the box, so the toolkit does not
 }
 
 /// True when the key is used up.

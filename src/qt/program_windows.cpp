@@ -1,13 +1,14 @@
 #include "qt/program_windows.h"
 
 #include <QApplication>
+#include <QCollator>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+#include <algorithm>
 #include <string>
 
-#include "app/count/common_words.h"
 #include "qt/accessible_names.h"
 #include "qt/flow_row.h"
 #include "qt/path_suggestions.h"
@@ -24,6 +25,10 @@ namespace {
 WindowMemory Memory() {
   const std::string folder(kSettingsFolderName);
   return WindowMemory(ToQt(PathInSettings("windows.ini", folder)));
+}
+
+QLocale LocaleOf(Language language) {
+  return {language == Language::kGerman ? QLocale::German : QLocale::English};
 }
 
 }  // namespace
@@ -72,8 +77,9 @@ void Windows::OfferCommonWords(QPushButton& button) {
   QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu] {
     menu->clear();
     const std::string& inForce = program_.frmParams.txbWordsFile[0].Text();
-    for (const CommonWordsList& list : FindCommonWords()) {
-      QAction* language = menu->addAction(ToQt(program_.Text().GetText(list.languageText)));
+    for (const CommonWordsList& list : CommonWordsByName()) {
+      // Of two that begin alike, the letter leads to one after the other.
+      QAction* language = menu->addAction(QLatin1Char('&') + NameOf(list));
       language->setCheckable(true);
       language->setChecked(list.path == inForce);
       QObject::connect(language, &QAction::triggered, menu,
@@ -81,6 +87,20 @@ void Windows::OfferCommonWords(QPushButton& button) {
     }
   });
   button.setMenu(menu);
+}
+
+QString Windows::NameOf(const CommonWordsList& list) const {
+  return ToQt(program_.Text().GetText(list.languageText));
+}
+
+/// In the order of the user's language.
+std::vector<CommonWordsList> Windows::CommonWordsByName() const {
+  std::vector<CommonWordsList> lists = FindCommonWords();
+  const QCollator order(LocaleOf(program_.Text().CurrentLanguage()));
+  std::ranges::stable_sort(lists, [&](const CommonWordsList& left, const CommonWordsList& right) {
+    return order.compare(NameOf(left), NameOf(right)) < 0;
+  });
+  return lists;
 }
 
 void Windows::MakeHelp() {
@@ -142,10 +162,8 @@ void Windows::ShowLanguage() {
   const Language language = program_.Text().CurrentLanguage();
   if (shownLanguage_ == language) return;
   shownLanguage_ = language;
-  main_.SetTexts(program_.Text());
-  main_.setAccessibleDescription(ToQt(program_.Text().GetText(kProgramDescriptionText)));
   QApplication::removeTranslator(&buttonTexts_);
-  const QLocale locale(language == Language::kGerman ? QLocale::German : QLocale::English);
+  const QLocale locale = LocaleOf(language);
   const auto load = [&](const QString& folder) {
     return buttonTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), folder);
   };
@@ -153,6 +171,8 @@ void Windows::ShowLanguage() {
   const bool loaded = load(QStringLiteral(":/translations")) ||
                       load(QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   if (loaded) QApplication::installTranslator(&buttonTexts_);
+  main_.SetTexts(program_.Text());  // some of which are the toolkit's own
+  main_.setAccessibleDescription(ToQt(program_.Text().GetText(kProgramDescriptionText)));
 }
 
 void Windows::RestorePlaces() {

@@ -4,7 +4,9 @@
 #include <QPushButton>
 #include <QTranslator>
 #include <memory>
+#include <vector>
 
+#include "app/count/common_words.h"
 #include "app/program.h"
 #include "qt/main_window_view.h"
 #include "qt/qt_desktop.h"
@@ -31,6 +33,8 @@ class Windows {
  private:
   void MakePanel();
   void OfferCommonWords(QPushButton& button);
+  [[nodiscard]] QString NameOf(const CommonWordsList& list) const;
+  [[nodiscard]] std::vector<CommonWordsList> CommonWordsByName() const;
   void MakeHelp();
   void MakeExport();
   void LeaveOthersWhenActivated(QtDesktop& desktop);

@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QVBoxLayout>
-#include <mutex>
 #include <utility>
 
 #include "qt/text_conversion.h"
@@ -122,21 +121,6 @@ bool IsReadOnly(const QString& path) {
 }
 
 }  // namespace
-
-/// A thread may outlive the desktop, which therefore shares this with it.
-struct QtDesktop::CallsFromThreads {
-  void Call(const std::function<void()>& function) {
-    const std::scoped_lock lock(mutex);
-    if (receiver) QMetaObject::invokeMethod(receiver.get(), function, Qt::QueuedConnection);
-  }
-  void End() {
-    const std::scoped_lock lock(mutex);
-    receiver.reset();
-  }
-
-  std::mutex mutex;
-  std::unique_ptr<QObject> receiver = std::make_unique<QObject>();
-};
 
 QtDesktop::QtDesktop() : callsFromThreads_(std::make_shared<CallsFromThreads>()) {}
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "qt/box_guard.h"
+#include "qt/calls_from_threads.h"
 #include "qt/list_table.h"
 #include "ui/desktop.h"
 
@@ -50,9 +51,6 @@ class QtDesktop final : public Desktop {
 
  private:
   [[nodiscard]] QWidget* BoxParent() const;
-
-  /// Carries calls from other threads into that of the desktop, as long as there is one.
-  struct CallsFromThreads;
 
   BoxGuard guard_;
   std::function<void()> showChanges_;

@@ -81,6 +81,10 @@ void ResultTabs::Show(const QString& key) {
   }
 }
 
+void ResultTabs::Enter() const {
+  currentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
 void ResultTabs::Find() const {
   const View& view = views_[currentIndex()];
   if (view.uses.find) view.uses.find();

@@ -22,7 +22,8 @@ class ResultTabs final : public QTabWidget {
     std::function<void()> copy = {};
   };
 
-  /// Adds a view behind the others and takes it over. `titleText` is the number of its title.
+  /// Adds a view behind the others and takes it over; it has a focus proxy. `titleText` is the
+  /// number of its title.
   void Add(QWidget* view, const QString& key, int titleText, Uses uses);
 
   /// The titles in the current language.
@@ -35,6 +36,8 @@ class ResultTabs final : public QTabWidget {
   [[nodiscard]] QString Current() const;
   void Show(const QString& key);
 
+  /// Puts the keyboard into the view in front.
+  void Enter() const;
   /// Finds something in the view in front, if it knows how.
   void Find() const;
   /// Copies from the view in front; false if it leaves that to the program.

@@ -2,13 +2,13 @@
 
 #include <QEvent>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QScrollBar>
 #include <algorithm>
 
 namespace quillomat {
 
 SettingsArea::SettingsArea(QWidget* parent) : QScrollArea(parent) {
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFocusPolicy(Qt::NoFocus);
 }
 
@@ -27,8 +27,10 @@ QSize SettingsArea::sizeHint() const {
 
 QSize SettingsArea::minimumSizeHint() const {
   constexpr int kLines = 4;
+  constexpr int kBesideArea = 48;  // the margins and frame of its window
   const int width = widget() == nullptr ? 0 : widget()->minimumSizeHint().width();
-  return {width + BarWidth(), kLines * fontMetrics().lineSpacing()};
+  const int most = screen()->availableSize().width() - kBesideArea;
+  return {std::min(width + BarWidth(), most), kLines * fontMetrics().lineSpacing()};
 }
 
 /// What it holds may need more room from now on.

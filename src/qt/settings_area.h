@@ -1,6 +1,6 @@
 // The part of a window that holds settings: it scrolls from top to bottom where the window is too
-// low for it, and is never narrower than what it holds. With the size policy "Maximum" it is never
-// higher either.
+// low for it, and is never narrower than what it holds, unless the whole screen is. With the size
+// policy "Maximum" it is never higher either.
 #pragma once
 
 #include <QScrollArea>

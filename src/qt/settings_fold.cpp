@@ -2,14 +2,15 @@
 
 #include <QApplication>
 #include <QShortcut>
+#include <utility>
 
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
 namespace quillomat {
 
-SettingsFold::SettingsFold(QWidget& settings, QWidget& result)
-    : settings_(settings), result_(result) {
+SettingsFold::SettingsFold(QWidget& settings, std::function<void()> enterResult)
+    : settings_(settings), enterResult_(std::move(enterResult)) {
   setAutoRaise(true);
   setCheckable(true);
   connect(this, &QToolButton::toggled, this, [this] { Show(); });
@@ -31,7 +32,7 @@ void SettingsFold::Show() {
   setAccessibleName(text);
   const QWidget* focused = QApplication::focusWidget();
   if (IsFolded() && focused != nullptr && settings_.isAncestorOf(focused)) {
-    result_.setFocus(Qt::OtherFocusReason);
+    enterResult_();
   }
   settings_.setVisible(!IsFolded());
 }

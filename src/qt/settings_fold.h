@@ -4,6 +4,7 @@
 
 #include <QToolButton>
 #include <QWidget>
+#include <functional>
 
 #include "text/program_text.h"
 
@@ -11,9 +12,9 @@ namespace quillomat {
 
 class SettingsFold final : public QToolButton {
  public:
-  /// `settings` is what is folded; the keyboard goes to `result` when it stood there. The key works
-  /// in the window of `settings`.
-  SettingsFold(QWidget& settings, QWidget& result);
+  /// `settings` is what is folded; `enterResult` moves the keyboard to the result when it stood
+  /// there. The key works in the window of `settings`.
+  SettingsFold(QWidget& settings, std::function<void()> enterResult);
 
   void SetTexts(const ProgramText& text);
 
@@ -24,7 +25,7 @@ class SettingsFold final : public QToolButton {
   void Show();
 
   QWidget& settings_;
-  QWidget& result_;
+  std::function<void()> enterResult_;
   QString hideText_;
   QString showText_;
 };

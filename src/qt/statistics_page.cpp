@@ -2,11 +2,11 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QLocale>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "qt/list_table.h"
+#include "qt/row_table.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
 
@@ -14,6 +14,7 @@ namespace quillomat {
 namespace {
 
 // Numbers stand beside their names; what is left is for values that are words.
+constexpr int kName = 0;
 constexpr int kValue = 1;
 constexpr int kRest = 2;
 constexpr int kColumns = 3;
@@ -22,11 +23,10 @@ constexpr int kColumns = 3;
 
 StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
     : QWidget(parent),
-      signs_{.group = program.DigitGroupSeparator(),
-             .decimal = FromQt(QLocale::system().decimalPoint())},
+      signs_(program.Signs()),
       statistics_(program.Words(), program.Text()),
       orderBox_(new QCheckBox(this)),
-      table_(new QTableWidget(0, kColumns, this)),
+      table_(new RowTable<QTableWidget>(0, kColumns, this)),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -43,13 +43,8 @@ StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
 }
 
 void StatisticsPage::SetUpTable() {
-  table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  SetUpRows(*table_);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table_->setAlternatingRowColors(true);
-  table_->setShowGrid(false);
-  table_->setTabKeyNavigation(false);
-  table_->verticalHeader()->hide();
-  table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setStretchLastSection(true);
   copy_->setShortcut(QKeySequence::Copy);
   copy_->setShortcutContext(Qt::WidgetShortcut);
@@ -69,6 +64,12 @@ void StatisticsPage::SetTexts(const ProgramText& text) {
   if (isVisible()) ShowRows();
 }
 
+void StatisticsPage::SetZoom(int points) {
+  SetLetterSize(*table_, points);
+  isOld_ = true;
+  if (isVisible()) ShowRows();
+}
+
 void StatisticsPage::ShowRows() {
   if (!isOld_) return;
   isOld_ = false;
@@ -78,7 +79,7 @@ void StatisticsPage::ShowRows() {
   for (int row = 0; row < table_->rowCount(); ++row) {
     ShowRow(row, rows[static_cast<std::size_t>(row)]);
   }
-  table_->resizeColumnToContents(0);
+  table_->resizeColumnToContents(kName);
   FitValues();
 }
 
@@ -91,7 +92,7 @@ void StatisticsPage::ShowRow(int row, const ResultStatistics::Row& shown) {
     table_->setSpan(row, kValue, 1, kColumns - kValue);
     value->setToolTip(value->text());
   }
-  table_->setItem(row, 0, new QTableWidgetItem(ToQt(shown.name)));
+  table_->setItem(row, kName, new QTableWidgetItem(ToQt(shown.name)));
   table_->setItem(row, kValue, value);
   table_->setItem(row, kRest, nullptr);
 }
@@ -108,12 +109,18 @@ void StatisticsPage::FitValues() {
   table_->resizeRowsToContents();
 }
 
-void StatisticsPage::Copy() const {
+/// As another program is to read them: numbers without groups.
+void StatisticsPage::Copy() {
   const QItemSelectionModel& selection = *table_->selectionModel();
+  const std::vector<ResultStatistics::Row> rows =
+      statistics_.Rows({.group = "", .decimal = signs_.decimal});
   CopiedRows copied(table_->rowCount());
+  copied.AddTitles(
+      {table_->horizontalHeaderItem(kName)->text(), table_->horizontalHeaderItem(kValue)->text()});
   for (int row = 0; row < table_->rowCount(); ++row) {
     if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
-    copied.Add({table_->item(row, 0)->text(), table_->item(row, kValue)->text()});
+    const ResultStatistics::Row& figure = rows[static_cast<std::size_t>(row)];
+    copied.Add({ToQt(figure.name), ToQt(figure.value)});
   }
   copied.PutOnClipboard();
 }

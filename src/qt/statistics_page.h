@@ -18,9 +18,11 @@ class StatisticsPage final : public QWidget {
   explicit StatisticsPage(Program& program, QWidget* parent = nullptr);
 
   void SetTexts(const ProgramText& text);
+  /// The letters of the table are so many points larger than the window's; smaller, below 0.
+  void SetZoom(int points);
 
   /// Puts the selected rows on the clipboard; all, if none is selected.
-  void Copy() const;
+  void Copy();
 
   /// The choice whether figures that need the order of words are worked out, too.
   [[nodiscard]] QCheckBox& OrderBox() { return *orderBox_; }

@@ -11,9 +11,9 @@ namespace {
 
 constexpr int kWordSection = static_cast<int>(WordColumn::kWord);
 constexpr int kFilesSection = static_cast<int>(WordColumn::kFiles);
-// What fills the column of words: where there is little room, and where there is much.
+// The column of words has room for the longest one, but for no less and no more than these.
 const char* const kShortestWord = "character";
-const char* const kUsualWord = "incomprehensibility";
+const char* const kLongWord = "incomprehensibility";
 
 std::size_t IndexOf(int section) {
   return static_cast<std::size_t>(section);
@@ -49,21 +49,20 @@ void TableColumns::FollowContents(bool filesKnown) {
   Arrange();
 }
 
-int TableColumns::LeastWidth(int section) const {
+int TableColumns::WidthOfWords() const {
   const QFontMetrics letters = view_.fontMetrics();
-  const QString widest =
-      section == kWordSection ? QString::fromLatin1(kShortestWord) : model_.WidestOf(section);
-  const int margins = letters.averageCharWidth() +
-                      2 * view_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view_);
-  return std::max(letters.horizontalAdvance(widest) + margins,
-                  view_.horizontalHeader()->sectionSizeHint(section));
+  return std::clamp(model_.LongestWord() * letters.averageCharWidth(),
+                    letters.horizontalAdvance(QLatin1String(kShortestWord)),
+                    letters.horizontalAdvance(QLatin1String(kLongWord)));
 }
 
-/// Wider the column would have nothing to show, and part the words from their numbers.
-int TableColumns::MostWidthOfWords() const {
+int TableColumns::LeastWidth(int section) const {
   const QFontMetrics letters = view_.fontMetrics();
-  return std::max(2 * letters.horizontalAdvance(QLatin1String(kUsualWord)),
-                  model_.LongestWord() * letters.averageCharWidth());
+  const int widest = section == kWordSection ? WidthOfWords()
+                                             : letters.horizontalAdvance(model_.WidestOf(section));
+  const int margins = letters.averageCharWidth() +
+                      2 * view_.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view_);
+  return std::max(widest + margins, view_.horizontalHeader()->sectionSizeHint(section));
 }
 
 void TableColumns::Fit() {
@@ -75,7 +74,7 @@ void TableColumns::Fit() {
     view_.setColumnWidth(section, widths_[IndexOf(section)]);
   }
   int& word = widths_[IndexOf(kWordSection)];
-  word = std::clamp(view_.viewport()->width() - others, word, std::max(word, MostWidthOfWords()));
+  word = std::max(view_.viewport()->width() - others, word);
   view_.setColumnWidth(kWordSection, word);
 }
 

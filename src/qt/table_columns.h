@@ -47,7 +47,7 @@ class TableColumns final : public QObject {
   void Fit();
   [[nodiscard]] bool IsKnown(int section) const;
   [[nodiscard]] int LeastWidth(int section) const;
-  [[nodiscard]] int MostWidthOfWords() const;
+  [[nodiscard]] int WidthOfWords() const;
 
   QTableView& view_;
   const WordTableModel& model_;

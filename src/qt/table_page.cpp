@@ -1,51 +1,47 @@
 #include "qt/table_page.h"
 
 #include <QKeyEvent>
-#include <QLocale>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdint>
 
-#include "qt/accessible_names.h"
+#include "base/text_helpers.h"
 #include "qt/expression.h"
 #include "qt/flow_layout.h"
 #include "qt/text_conversion.h"
 #include "text/caption_table.h"
+#include "text/filled_text.h"
 
 namespace quillomat {
 namespace {
 
 constexpr int kFilterKinds = static_cast<int>(FilterKind::kExpression) + 1;
 constexpr int kShortestBox = 120;
+constexpr std::chrono::milliseconds kPause{600};
 
 }  // namespace
 
 TablePage::TablePage(Program& program, QWidget* parent)
     : QWidget(parent),
       program_(program),
-      signs_{.group = program.DigitGroupSeparator(),
-             .decimal = FromQt(QLocale::system().decimalPoint())},
+      signs_(program.Signs()),
       table_(program.Words(), ReadExpression),
       view_(table_) {
   PlaceParts();
   view_.Model().SetSigns(signs_);
   for (int kind = 0; kind < kFilterKinds; ++kind) kind_.addItem(QString());
   words_.setClearButtonEnabled(true);
+  pause_.setSingleShot(true);
+  pause_.setInterval(kPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { announce(totals_); });
   connect(&words_, &QLineEdit::textChanged, this, [this] { TakeFilter(); });
   connect(&kind_, &QComboBox::currentIndexChanged, this, [this] { TakeFilter(); });
   table_.Changed.Connect([this] {
     if (isVisible()) ShowTotals();
   });
   program.BecameIdle.Connect([this] { ShowHint(); });
-}
-
-TablePage::~TablePage() {
-  // Members, which the page must not delete as its children.
-  for (QWidget* part :
-       std::array<QWidget*, 6>{&hint_, &view_, &label_, &words_, &kind_, &totals_}) {
-    part->setParent(nullptr);
-  }
 }
 
 void TablePage::PlaceParts() {
@@ -58,7 +54,14 @@ void TablePage::PlaceParts() {
   }
   lines->addWidget(&view_, 1);
   auto* middle = new QVBoxLayout(view_.viewport());
+  middle->addStretch();
   middle->addWidget(&hint_);
+  middle->addWidget(&showAll_, 0, Qt::AlignHCenter);
+  middle->addStretch();
+  connect(&showAll_, &QPushButton::clicked, this, [this] {
+    words_.clear();
+    view_.setFocus(Qt::OtherFocusReason);
+  });
   hint_.setAlignment(Qt::AlignCenter);
   hint_.setWordWrap(true);
   words_.setMinimumWidth(kShortestBox);
@@ -78,6 +81,8 @@ void TablePage::SetTexts(const ProgramText& text) {
     kind_.setItemText(kind, ToQt(text.GetText(kFirstFilterKindText + kind)));
   }
   view_.SetTexts(text);
+  table_.TellFaultAgain();
+  showAll_.setText(ToQt(text.GetText(kShowAllWordsText)));
   ShowTotals();
 }
 
@@ -89,7 +94,8 @@ void TablePage::Find() {
 void TablePage::TakeFilter() {
   table_.SetFilter({static_cast<FilterKind>(kind_.currentIndex()), FromQt(words_.text())});
   ShowTotals();
-  if (!table_.Fault().empty()) return Announce(totals_);
+  pause_.start();
+  if (!table_.Fault().empty()) return;
   // Who sees all words again keeps the one that was chosen among some in view.
   if (!words_.text().isEmpty()) view_.GoToFirst();
 }
@@ -109,9 +115,23 @@ void TablePage::KeepRoomForTotals() {
 }
 
 void TablePage::ShowHint() {
-  const bool gaveWay = program_.Words().gaveWay;
-  hint_.setText(ToQt(program_.Text().GetText(gaveWay ? kTableGaveWayText : kNoTableYetText)));
-  hint_.setVisible(table_.Rows() == nullptr && !program_.State().Busy());
+  const WordRows* rows = table_.Rows();
+  const QString text = program_.State().Busy() ? QString() : HintText(rows);
+  hint_.setText(text);
+  hint_.setVisible(!text.isEmpty());
+  showAll_.setVisible(!text.isEmpty() && rows != nullptr);
+}
+
+/// "" where there are words to be seen, or none in the list.
+QString TablePage::HintText(const WordRows* rows) const {
+  const ProgramText& text = program_.Text();
+  if (rows == nullptr) {
+    return ToQt(text.GetText(program_.Words().gaveWay ? kTableGaveWayText : kNoTableYetText));
+  }
+  const std::int32_t words = program_.Words().totals.NumIncludedWords;
+  if (rows->Size() > 0 || words == 0) return {};
+  return ToQt(Filled(text.GetText(kAllFilteredOutText),
+                     {GroupDigits(words, signs_.group), table_.FilterInForce().text}));
 }
 
 QString TablePage::TotalsText() {

@@ -4,11 +4,15 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
 #include <QWidget>
+#include <functional>
 
 #include "app/program.h"
 #include "app/table/result_table.h"
 #include "app/table/row_cells.h"
+#include "qt/accessible_names.h"
 #include "qt/word_table_view.h"
 
 namespace quillomat {
@@ -17,16 +21,14 @@ class TablePage final : public QWidget {
  public:
   /// `program` outlives the page.
   explicit TablePage(Program& program, QWidget* parent = nullptr);
-  TablePage(const TablePage&) = delete;
-  TablePage& operator=(const TablePage&) = delete;
-  TablePage(TablePage&&) = delete;
-  TablePage& operator=(TablePage&&) = delete;
-  ~TablePage() override;
 
   void SetTexts(const ProgramText& text);
 
   /// Puts the keyboard where words are looked for.
   void Find();
+
+  /// How a screen reader is told at once what a label says.
+  std::function<void(QWidget&)> announce = Announce;
 
   [[nodiscard]] WordTableView& View() { return view_; }
   /// The words that are shown, and in which order.
@@ -42,10 +44,13 @@ class TablePage final : public QWidget {
   void ShowTotals();
   void KeepRoomForTotals();
   void ShowHint();
+  [[nodiscard]] QString HintText(const WordRows* rows) const;
   [[nodiscard]] QString TotalsText();
 
   Program& program_;
   NumberSigns signs_;
+  /// In the typing: how many words are left is read out then.
+  QTimer pause_;
   ResultTable table_;
   WordTableView view_;
   QLabel label_;
@@ -53,8 +58,10 @@ class TablePage final : public QWidget {
   QComboBox kind_;
   /// "37 words, 1,204 instances", or what is wrong with the filter.
   QLabel totals_;
-  /// In the middle of the table while there are no words to show: why not.
+  // In the middle of the table while there are no words to show: why not, and what shows those that
+  // the filter hides.
   QLabel hint_;
+  QPushButton showAll_;
 };
 
 }  // namespace quillomat

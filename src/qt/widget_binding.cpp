@@ -10,16 +10,19 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
 
 #include "base/utf8.h"
 #include "qt/figure_label.h"
+#include "qt/link_label.h"
 #include "qt/mnemonics.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
@@ -33,6 +36,7 @@ class LineBinding final : public WidgetBinding {
     QObject::connect(&line, &QLineEdit::textChanged,
                      [this](const QString& text) { box_.EnterText(FromQt(OnOneLine(text))); });
     box.Selected.Connect([this] { selects_ = true; });
+    line.setMaxLength(std::numeric_limits<int>::max());  // else the toolkit cuts long lists
   }
 
  private:
@@ -45,10 +49,14 @@ class LineBinding final : public WidgetBinding {
 
   void ShowValue() override {
     const QString text = ToQt(box_.Text());
-    if (line_.text() != text) {
+    const QString shown = line_.text();
+    if (shown != text) {
+      // Typing goes on where a column was pasted; another text is seen from its start.
+      const bool isPasted = OnOneLine(shown) == text;
+      const auto caret = isPasted ? OnOneLine(shown.left(line_.cursorPosition())).size() : 0;
       const QSignalBlocker blocker(line_);
       line_.setText(text);
-      line_.setCursorPosition(0);
+      line_.setCursorPosition(static_cast<int>(caret));
     }
     if (std::exchange(selects_, false)) ShowSelection();
   }
@@ -87,11 +95,11 @@ class LinesBinding final : public WidgetBinding {
 
   void ShowValue() override {
     showing_ = true;  // the widget's own parts listen to its signals, so they are not blocked
+    const auto shown = qScopeGuard([this] { showing_ = false; });
     const std::string& text = box_.Text();
     const bool changed = text != shown_;
     if (changed) ShowText(text);
     if (changed || box_.SelStart() != shownCaret_) ShowCaret();
-    showing_ = false;
   }
 
   /// What the program shows is not undone; what the user does to it afterwards is.
@@ -231,6 +239,8 @@ class LabelBinding final : public WidgetBinding {
  public:
   LabelBinding(Label& label, QLabel& widget) : WidgetBinding(label, widget), label_(label) {
     widget.setTextFormat(Qt::PlainText);
+    auto* link = dynamic_cast<LinkLabel*>(&widget);
+    if (link != nullptr) link->onPress = [&label] { label.PerformClick(); };
   }
 
  private:

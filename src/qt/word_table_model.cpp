@@ -14,12 +14,6 @@ namespace {
 
 constexpr double kWholePercent = 100;
 
-/// What is most wanted of a column comes first when it is clicked on.
-bool StartsWithTheLargest(WordColumn column) {
-  return column != WordColumn::kRank && column != WordColumn::kWord &&
-         column != WordColumn::kCumulative;
-}
-
 }  // namespace
 
 WordTableModel::WordTableModel(ResultTable& table, std::function<bool()> isWatched)

@@ -8,8 +8,8 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <optional>
+#include <utility>
 
 #include "qt/list_table.h"
 #include "qt/text_conversion.h"
@@ -24,16 +24,13 @@ constexpr int kRankSection = static_cast<int>(WordColumn::kRank);
 }  // namespace
 
 WordTableView::WordTableView(ResultTable& table, QWidget* parent)
-    : QTableView(parent),
+    : RowTable(parent),
       table_(table),
       model_(table, [this] { return isVisible(); }),
       columns_(*this, model_) {
   setModel(&model_);
-  setSelectionBehavior(QAbstractItemView::SelectRows);
-  setAlternatingRowColors(true);
-  setShowGrid(false);
+  SetUpRows(*this);
   setWordWrap(false);
-  setTabKeyNavigation(false);
   SetUpHeaders();
   FitToLetters();
   KeepTheChosenWord();
@@ -41,10 +38,8 @@ WordTableView::WordTableView(ResultTable& table, QWidget* parent)
 }
 
 void WordTableView::SetUpHeaders() {
-  verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   QHeaderView& titles = *horizontalHeader();
-  titles.setHighlightSections(false);
   titles.setContextMenuPolicy(Qt::CustomContextMenu);
   connect(&titles, &QHeaderView::customContextMenuRequested, this, [this, &titles](QPoint place) {
     ShowMenu(titles.mapToGlobal(place), titles.logicalIndexAt(place), false);
@@ -61,15 +56,6 @@ void WordTableView::SetTexts(const ProgramText& text) {
   columns_.Arrange();
 }
 
-void WordTableView::SetZoom(int points) {
-  constexpr qreal kSmallest = 4.0;
-  if (parentWidget() == nullptr) return;
-  QFont letters = parentWidget()->font();
-  if (letters.pointSizeF() <= 0) return;
-  letters.setPointSizeF(std::max(letters.pointSizeF() + points, kSmallest));
-  setFont(letters);
-}
-
 /// Nothing is asked of the table while nobody looks.
 void WordTableView::FollowTheTable() {
   const WordRows* rows = isVisible() ? table_.Rows() : nullptr;
@@ -77,28 +63,26 @@ void WordTableView::FollowTheTable() {
 }
 
 void WordTableView::FitToLetters() {
-  const int letters = fontMetrics().height();
-  verticalHeader()->setDefaultSectionSize(letters + letters / 4);
+  FitRowsToLetters(*this);
   columns_.Arrange();
 }
 
-/// A row that the user has chosen stays in view when the rows change places.
 void WordTableView::KeepTheChosenWord() {
-  const auto chosen = std::make_shared<std::optional<std::int32_t>>();
-  connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this, [this, chosen] {
-    chosen->reset();
-    const WordRows* rows = model_.rowCount() > 0 ? table_.Rows() : nullptr;
-    const QModelIndex current = currentIndex();
-    if (rows == nullptr || !selectionModel()->isSelected(current)) return;
-    *chosen = rows->Places()[static_cast<std::size_t>(current.row())];
-  });
-  connect(&model_, &QAbstractItemModel::modelReset, this, [this, chosen] {
-    const WordRows* rows = *chosen && model_.rowCount() > 0 ? table_.Rows() : nullptr;
-    const auto row = rows == nullptr ? std::nullopt : rows->RowOfPlace(**chosen);
-    if (!row) return;
-    executeDelayedItemsLayout();  // else there are still too few rows to go to this one
-    setCurrentIndex(model_.index(static_cast<int>(*row), kWordSection));
-  });
+  const auto rows = [this] { return model_.rowCount() > 0 ? table_.Rows() : nullptr; };
+  RowIdentity words;
+  words.identity = [rows](int row) -> std::optional<std::int64_t> {
+    const WordRows* shown = rows();
+    if (shown == nullptr) return std::nullopt;
+    return shown->Places()[static_cast<std::size_t>(row)];
+  };
+  words.row = [rows](std::int64_t place) -> std::optional<int> {
+    const WordRows* shown = rows();
+    const auto row =
+        shown == nullptr ? std::nullopt : shown->RowOfPlace(static_cast<std::int32_t>(place));
+    if (!row) return std::nullopt;
+    return static_cast<int>(*row);
+  };
+  KeepChosenRow(std::move(words), kWordSection);
 }
 
 /// Nothing is selected by that: what is copied without a selection is all that the filter shows.
@@ -114,18 +98,8 @@ void WordTableView::Enter() {
   if (!selectionModel()->hasSelection()) selectRow(std::max(currentIndex().row(), 0));
 }
 
-QList<int> WordTableView::SelectedRows() const {
-  QList<int> rows;
-  for (const QItemSelectionRange& range : selectionModel()->selection()) {
-    for (int row = range.top(); row <= range.bottom(); ++row) rows.append(row);
-  }
-  std::ranges::sort(rows);
-  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-  return rows;
-}
-
 void WordTableView::CopySelected() const {
-  const QList<int> rows = SelectedRows();
+  const QList<int> rows = SelectedRowsOf(*this);
   const QList<int> sections = columns_.Shown();
   CopiedRows copied(rows.size());
   copied.AddTitles(model_.TitlesOf(sections));
@@ -143,42 +117,21 @@ void WordTableView::Copy() const {
   copied.PutOnClipboard();
 }
 
-/// As a click on its title does.
-void WordTableView::SortBy(int section) {
-  const QHeaderView& titles = *horizontalHeader();
-  const QVariant usual = model_.headerData(section, Qt::Horizontal, Qt::InitialSortOrderRole);
-  auto order = static_cast<Qt::SortOrder>(usual.toInt());
-  if (titles.sortIndicatorSection() == section) {
-    const bool ascends = titles.sortIndicatorOrder() == Qt::AscendingOrder;
-    order = ascends ? Qt::DescendingOrder : Qt::AscendingOrder;
-  }
-  sortByColumn(section, order);
-}
-
 void WordTableView::ShowMenu(const QPoint& place, int section, bool withCopy) {
   QMenu menu(this);
   if (withCopy) {
     menu.addAction(copyText_, QKeySequence(QKeySequence::Copy), this, [this] { CopySelected(); })
         ->setEnabled(selectionModel()->hasSelection());
   }
-  if (section >= 0) {
-    const QString title = model_.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
-    menu.addAction(sortText_.arg(title), this, [this, section] { SortBy(section); });
-  }
+  if (section >= 0) AddSorting(menu, *this, section, sortText_);
   menu.addSeparator();
   columns_.AddTo(menu);
   menu.exec(place);
 }
 
-/// The columns are few: Home and End go to the first and to the last word.
-QModelIndex WordTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  const bool isEnd = action == MoveHome || action == MoveEnd;
-  return QTableView::moveCursor(action, isEnd ? modifiers | Qt::ControlModifier : modifiers);
-}
-
 void WordTableView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Copy)) return CopySelected();
-  QTableView::keyPressEvent(event);
+  RowTable::keyPressEvent(event);
 }
 
 /// Asked for by the keyboard, it is about the column that the keyboard is in.
@@ -192,7 +145,7 @@ void WordTableView::contextMenuEvent(QContextMenuEvent* event) {
 
 /// A word that its column cuts is told whole.
 bool WordTableView::viewportEvent(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QTableView::viewportEvent(event);
+  if (event->type() != QEvent::ToolTip) return RowTable::viewportEvent(event);
   const auto& help = *static_cast<QHelpEvent*>(event);
   const QModelIndex cell = indexAt(help.pos());
   const QString text = cell.data().toString();
@@ -202,18 +155,18 @@ bool WordTableView::viewportEvent(QEvent* event) {
 }
 
 void WordTableView::showEvent(QShowEvent* event) {
-  QTableView::showEvent(event);
+  RowTable::showEvent(event);
   model_.Wake();
   FollowTheTable();
 }
 
 void WordTableView::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
+  RowTable::resizeEvent(event);
   columns_.Arrange();
 }
 
 void WordTableView::changeEvent(QEvent* event) {
-  QTableView::changeEvent(event);
+  RowTable::changeEvent(event);
   if (event->type() == QEvent::FontChange) FitToLetters();
 }
 

@@ -5,13 +5,14 @@
 #include <QAction>
 #include <QTableView>
 
+#include "qt/row_table.h"
 #include "qt/table_columns.h"
 #include "qt/word_table_model.h"
 #include "text/program_text.h"
 
 namespace quillomat {
 
-class WordTableView final : public QTableView {
+class WordTableView final : public RowTable<QTableView> {
  public:
   /// `table` outlives the view.
   explicit WordTableView(ResultTable& table, QWidget* parent = nullptr);
@@ -22,7 +23,7 @@ class WordTableView final : public QTableView {
   [[nodiscard]] const TableColumns& Columns() const { return columns_; }
 
   /// The letters are so many points larger than the window's; smaller, below 0.
-  void SetZoom(int points);
+  void SetZoom(int points) { SetLetterSize(*this, points); }
 
   /// Goes to the first row, as another filter shows others.
   void GoToFirst();
@@ -35,7 +36,6 @@ class WordTableView final : public QTableView {
   void Copy() const;
 
  protected:
-  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   bool viewportEvent(QEvent* event) override;
@@ -46,11 +46,9 @@ class WordTableView final : public QTableView {
  private:
   void SetUpHeaders();
   void ShowMenu(const QPoint& place, int section, bool withCopy);
-  void SortBy(int section);
   void FollowTheTable();
   void FitToLetters();
   void KeepTheChosenWord();
-  [[nodiscard]] QList<int> SelectedRows() const;
 
   ResultTable& table_;
   WordTableModel model_;

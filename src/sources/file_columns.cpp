@@ -1,7 +1,8 @@
 #include "sources/file_columns.h"
 
 #include <algorithm>
-#include <optional>
+
+#include "sources/refusal_text.h"
 
 namespace quillomat {
 namespace {
@@ -38,36 +39,8 @@ FileCell LineEndsCell(const FileReport& report) {
   return std::string(kLineEndNames.at(static_cast<std::size_t>(LineEndKindOf(*report.lines))));
 }
 
-std::string WithReason(std::string what, const std::optional<RunTimeError>& error) {
-  if (error) what.append(": ").append(error->Description());
-  return what;
-}
-
-std::string WhySkipped(const FileReport& report) {
-  switch (report.refusal) {
-    case Refusal::kNotText:
-      return "not text";
-    case Refusal::kEmpty:
-      return "empty";
-    case Refusal::kNeverText:
-      return "never text by its extension";
-    case Refusal::kIsOutput:
-      return "the output file";
-    case Refusal::kIsFolder:
-      return "a folder";
-    case Refusal::kNotFound:
-      return "not found";
-    case Refusal::kFolderUnreadable:
-      return WithReason("folder cannot be read", report.error);
-    case Refusal::kReadFailed:
-      return WithReason("reading failed", report.error);
-    default:
-      return WithReason("cannot be opened", report.error);
-  }
-}
-
 FileCell SkippedCell(const FileReport& report) {
-  if (report.refusal != Refusal::kNone) return WhySkipped(report);
+  if (report.refusal != Refusal::kNone) return RefusalInColumn(report.refusal, report.error);
   if (IsReadInPart(report)) {
     return "stopped behind byte " + std::to_string(report.bytesRead);
   }

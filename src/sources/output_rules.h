@@ -13,6 +13,10 @@
 
 namespace quillomat {
 
+/// What stands for standard input among counted texts. Where the system has such a name it leads to
+/// the file that standard input comes from.
+inline constexpr const char* kStandardInputPath = "/dev/stdin";
+
 /// Where a count gets its text.
 struct CountedText {
   enum class Source : std::uint8_t { kNone, kClipboard, kFile, kFolder, kPaths };

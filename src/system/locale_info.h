@@ -5,7 +5,11 @@
 
 namespace quillomat {
 
-/// What stands between groups of three digits, in UTF-8; "," where the locale has nothing.
+/// What stands between groups of three digits, in UTF-8. Where the locale has nothing, ","; or "."
+/// if the comma is its decimal sign.
 [[nodiscard]] std::string DigitGroupSeparator();
+
+/// What stands before the decimals, in UTF-8; "." where the locale has nothing.
+[[nodiscard]] std::string DecimalSign();
 
 }  // namespace quillomat

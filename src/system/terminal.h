@@ -25,6 +25,9 @@ class Terminal {
 
 enum class StandardStream { kOutput, kError };
 
+/// Whether there is anything that could take what is written to the stream.
+[[nodiscard]] bool IsOpen(StandardStream stream);
+
 /// Whether a person sees what goes there, and no file or pipe takes it.
 [[nodiscard]] bool IsTerminal(StandardStream stream);
 

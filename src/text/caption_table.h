@@ -288,13 +288,17 @@ inline constexpr int kTableNameText = 640;
 inline constexpr int kCopyRowsText = 641;
 inline constexpr int kNoTableYetText = 643;
 inline constexpr int kTableGaveWayText = 644;
+inline constexpr int kAllFilteredOutText = 645;
+inline constexpr int kShowAllWordsText = 646;
 /// "%1" stands for the title of a column.
 inline constexpr int kSortByText = 642;
 
 // The statistics of a result.
 inline constexpr int kStatisticsViewText = 650;
-/// Of the first StatisticName, and so on; in the last "%1" stands for a number.
+/// Of the first StatisticName, and so on; in the last "%1" stands for a number, and one has a text
+/// of its own.
 inline constexpr int kFirstStatisticText = 651;
+inline constexpr int kWordsAfterOneInstanceText = 666;
 inline constexpr int kOrderFiguresText = 670;
 inline constexpr int kOrderFiguresTipText = 671;
 inline constexpr int kStatisticsNameText = 672;
@@ -384,6 +388,8 @@ inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
 inline constexpr int kFileIsNeverTextText = 851;
+inline constexpr int kNoFilesYetText = 852;
+inline constexpr int kClipboardHasNoFilesText = 853;
 
 // A count that was stopped: how far it came ("%1" of "%2"), and what that means.
 inline constexpr int kStoppedAtFileText = 860;

@@ -52,25 +52,24 @@ void Form::SetFocus(Control& control) {
   Control* const before = std::exchange(focused_, &control);
   if (before != nullptr) before->LostFocus.Fire();
   if (focused_ != &control) return;
+  if (!control.CanTakeFocus()) {  // it can no more
+    focused_ = nullptr;
+    return;
+  }
   control.GotFocus.Fire();
   FocusMoved.Fire();
 }
 
 void Form::CarryOutClick(const std::function<void()>& click) {
-  struct Counted {
-    int& clicks;
-    explicit Counted(int& number) : clicks(number) { ++clicks; }
-    Counted(const Counted&) = delete;
-    Counted& operator=(const Counted&) = delete;
-    Counted(Counted&&) = delete;
-    Counted& operator=(Counted&&) = delete;
-    ~Counted() { --clicks; }
-  };
-  {
-    const Counted counted(clicks_);
+  ++clicks_;
+  try {
     click();
+  } catch (...) {
+    // What it has put off must not wait for another click.
+    if (--clicks_ == 0) afterClick_.clear();
+    throw;
   }
-  if (IsInClick()) return;
+  if (--clicks_ > 0) return;
   for (const auto& action : std::exchange(afterClick_, {})) action();
 }
 

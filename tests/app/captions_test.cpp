@@ -10,9 +10,7 @@
 #include <vector>
 
 #include "app/settings_table.h"
-#include "base/utf8.h"
 #include "sources/extension_filter.h"
-#include "system/input_file.h"
 #include "text/program_text.h"
 #include "ui/export_form.h"
 #include "ui/help_form.h"
@@ -185,13 +183,6 @@ TEST_F(DeliveredTextsTest, SignsStandBehindTheirNamesInBothLanguages) {
     const std::string sign = english.substr(english.rfind(' '));
     EXPECT_TRUE(In(Language::kGerman, number).ends_with(sign)) << number;
   }
-}
-
-TEST(DeliveredTextFile, NoTextIsLongerThan1024Characters) {
-  InputFile file(kTextFile);
-  TextTable texts;
-  ASSERT_GT(ReadTextTable(file, texts), 0);
-  for (const auto& [key, text] : texts) EXPECT_LE(CharacterCount(text), 1024U) << key.first;
 }
 
 }  // namespace

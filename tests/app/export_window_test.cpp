@@ -66,8 +66,18 @@ TEST_F(ExportWindowTest, WritesTheWholeListAsChosen) {
   EXPECT_TRUE(Window().cmdClose.Enabled());
 }
 
+TEST_F(ExportWindowTest, WhatCameOfTheLastExportGoesWithTheLanguage) {
+  OpenFor("the cat the dog the cat");
+  ExportTo(Target("list.csv"));
+  ASSERT_NE(Window().lblState.Caption(), "");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(Window().lblState.Caption(), "");
+}
+
 TEST_F(ExportWindowTest, OrderFirstWordsAndFilterHold) {
-  program.Exports().SetFilter([] { return std::vector<std::int32_t>{3, 1}; });  // the, cat
+  program.Exports().SetFilter([] {
+    return FilteredWords{{FilterKind::kContains, "t"}, {3, 1}};  // the, cat
+  });
   OpenFor("the cat the dog the cat");
   ChooseThreeColumns();
   EXPECT_TRUE(Window().chkFiltered.Visible());
@@ -78,6 +88,24 @@ TEST_F(ExportWindowTest, OrderFirstWordsAndFilterHold) {
   Window().txbFirst.SetText("1");
   ExportTo(Target("first.csv"));
   EXPECT_EQ(ContentsOf(Target("first.csv")), "rank,word,frequency\r\n2,cat,2\r\n");
+}
+
+TEST_F(ExportWindowTest, APartOfTheListSaysWhichItIs) {
+  program.Exports().SetFilter([] { return FilteredWords{{FilterKind::kStartsWith, "c"}, {1}}; });
+  OpenFor("the cat the dog the cat");
+  ExportTo(Target("whole.json"));
+  EXPECT_THAT(ContentsOf(Target("whole.json")),
+              HasSubstr(R"("totals": {"complete":true,"words":3,"words-excluded":0,)"
+                        R"("instances-listed":6,"instances-of-all-words":6)"));
+  Window().chkFiltered.SetChecked(true);
+  ExportTo(Target("filtered.json"));
+  EXPECT_THAT(ContentsOf(Target("filtered.json")),
+              HasSubstr(R"("filter-begins-with":"c","words-exported":1,"words":3,)"));
+  Window().chkFiltered.SetChecked(false);
+  Window().txbFirst.SetText("2");
+  ExportTo(Target("first.json"));
+  EXPECT_THAT(ContentsOf(Target("first.json")),
+              HasSubstr(R"("top":2,"words-exported":2,"words":3,)"));
 }
 
 TEST_F(ExportWindowTest, EndingChoosesTheFormatAndANameWithoutOneGetsIt) {

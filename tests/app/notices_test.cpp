@@ -1,4 +1,5 @@
 // The line above the list: what it says when, and what its commands do.
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "app/notices/notice.h"
@@ -58,6 +59,23 @@ TEST(Notices, OneIsNotMany) {
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
+}
+
+TEST(Notices, NewCountIsNotOfferedWhereItWouldBeOfAnotherText) {
+  NoticeFacts facts{.listStands = true,
+                    .stopped = "Stopped",
+                    .settingsChanged = true,
+                    .orderFiguresMissing = true};
+  const auto offers = [&facts] {
+    std::int64_t offered = 0;
+    for (const Notice& notice : NoticesOf(facts)) {
+      offered += std::ranges::count(notice.actions, NoticeAction::kCountAgain);
+    }
+    return offered;
+  };
+  EXPECT_EQ(offers(), 3);
+  facts.file = "a.txt";
+  EXPECT_EQ(offers(), 0);
 }
 
 TEST(Notices, EveryCommandHasACaption) {

@@ -54,6 +54,20 @@ TEST_F(Quitting, KeepsTheUsersOwnWishToSuppressWords) {
   EXPECT_TRUE(SuppressedNextTime());
 }
 
+TEST_F(Quitting, SessionThatEndsLeavesTheSettingsSavedWithoutAWord) {
+  program.KeepSettings();
+  EXPECT_EQ(ContentsOf(home.SettingsFile()), FileOfLines(InitialLines()));
+  EXPECT_FALSE(program.HasEnded()) << "the user may yet cancel that";
+  std::filesystem::remove(home.SettingsFile());
+  Panel().chkSaveStateOnQuit.SetChecked(false);
+  program.KeepSettings();
+  EXPECT_FALSE(std::filesystem::exists(home.SettingsFile()));
+  Panel().chkSaveStateOnQuit.SetChecked(true);
+  std::filesystem::create_directories(home.SettingsFile());
+  program.KeepSettings();
+  EXPECT_THAT(desktop.Titles(), testing::IsEmpty()) << "nobody may be asked anything";
+}
+
 TEST_F(Quitting, SavesNothingWhenTheUserDoesNotWishIt) {
   Panel().chkSaveStateOnQuit.SetChecked(false);
   Main().cmdQuit.PerformClick();

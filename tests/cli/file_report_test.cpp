@@ -65,6 +65,8 @@ TEST_F(FileReportRun, HasTheFormOfItsEnding) {
   const std::string json = folder / "report.json";
   EXPECT_EQ(Run({"-", "--report", json}), kListMade);
   EXPECT_THAT(ContentsOf(json), HasSubstr("\"bytes\": 7, \"encoding\": \"ASCII\""));
+  EXPECT_EQ(Run({"-", "--report", "-"}), kWrongCommandLine);
+  EXPECT_THAT(err, HasSubstr("--report -: a report goes to a file, whose name must end in one of"));
   EXPECT_EQ(Run({"-", "--report", "a.xlsx"}), kWrongCommandLine);
   EXPECT_THAT(err,
               HasSubstr("--report a.xlsx: the name must end in one of: csv, tsv, json, jsonl"));

@@ -158,6 +158,25 @@ TEST_F(TerminalRunTest, ExportsTellTheNumberOfFilesWhereSeveralAreCounted) {
   EXPECT_EQ(headOf({texts[0]}), usual);
 }
 
+TEST_F(TerminalRunTest, ExportsNameTheTextSoThatItCanBeCountedAgain) {
+  const std::string one = folder.Write("a, b.txt", "cat");
+  const std::string other = folder.Write("c.txt", "cat");
+  static_cast<void>(folder.Make("x"));
+  const auto settingsOf = [this](std::vector<std::string> arguments) {
+    arguments.insert(arguments.end(), {"--export", "-", "--export-format", "json"});
+    EXPECT_EQ(Run(arguments), 0) << err;
+    return out.substr(0, out.find('\n', out.find("settings")));
+  };
+  input = "cat";
+  EXPECT_THAT(settingsOf({folder / "x/../a, b.txt", "-", other}),
+              testing::AllOf(HasSubstr(R"("paths":[")"), HasSubstr(R"(a, b.txt","-",")"),
+                             HasSubstr(R"(c.txt"])"), testing::Not(HasSubstr(".."))));
+  EXPECT_THAT(settingsOf({"-"}), HasSubstr(R"("paths":["-"])"));
+  EXPECT_THAT(settingsOf({"--text", one}), HasSubstr(R"(a, b.txt",)"));
+  EXPECT_THAT(settingsOf({"--text", "-"}), HasSubstr(R"("text":"-")"));
+  EXPECT_THAT(settingsOf({"--folder", folder.Path()}), HasSubstr(R"("folder":")"));
+}
+
 TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {
   std::string cats;
   for (int i = 0; i < 32'768; ++i) cats += "cat\n";

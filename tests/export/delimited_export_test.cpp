@@ -63,6 +63,22 @@ TEST_F(DelimitedExport, AColumnOfFilesMakesARowForEach) {
             "word,files\r\nwhale,2\r\n");
 }
 
+TEST_F(DelimitedExport, ARowOfAFileHasTheSharesOfItsFrequency) {
+  store_.Files().Reset(true);
+  store_.Files().SetFileBeingScanned("a.txt");
+  for (const char* word : {"sea", "whale", "whale"}) store_.AddWord(word);
+  store_.Files().SetFileBeingScanned("b.txt");
+  store_.AddWord("whale");
+  Rank();
+  EXPECT_EQ(Export(ExportFormat::kCsv,
+                   {WordColumn::kWord, WordColumn::kFile, WordColumn::kFrequency,
+                    WordColumn::kPercent, WordColumn::kPerMillion, WordColumn::kCumulative}),
+            "word,file,frequency,percent,per-million,cumulative\r\n"
+            "whale,a.txt,2,0.200000,2000.00,0.300000\r\n"
+            "whale,b.txt,1,0.100000,1000.00,0.300000\r\n"
+            "sea,a.txt,1,0.100000,1000.00,0.400000\r\n");
+}
+
 TEST_F(DelimitedExport, ProgressIsToldAndCanEndIt) {
   for (int i = 0; i < 10'000; ++i) store_.AddWord("w" + std::to_string(i));
   Rank();

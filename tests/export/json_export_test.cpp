@@ -39,6 +39,13 @@ TEST_F(JsonExport, StatisticsAreAnObjectWithTheGrowthAsPairs) {
   EXPECT_EQ(statistics["growth"], json::parse("[[1, 1], [3, 2]]"));
 }
 
+TEST_F(JsonExport, SeveralTextsAreAnArray) {
+  Count({{"the", 2}});
+  settings_ = {{"paths", std::vector<std::string>{"a, b.txt", "\xF0\x9F"}}};
+  const json whole = json::parse(Export(ExportFormat::kJson, UsualColumns(false)));
+  EXPECT_EQ(whole["settings"]["paths"], json::parse("[\"a, b.txt\", \"\uFFFD\uFFFD\"]"));
+}
+
 TEST_F(JsonExport, AnEmptyListIsStillAnObject) {
   Count({});
   EXPECT_TRUE(json::parse(Export(ExportFormat::kJson, UsualColumns(false)))["rows"].empty());

@@ -46,6 +46,31 @@ TEST_F(MarkedUpExport, WhatIsNoUtf8IsShownAsFarAsItIs) {
   EXPECT_THAT(page, HasSubstr("<td>caf\uFFFD</td>"));
 }
 
+TEST_F(MarkedUpExport, HtmlSaysWhichColumnItsRowsAreSortedBy) {
+  Count({{"the", 1}});
+  const std::vector<WordColumn> columns = {WordColumn::kRank, WordColumn::kWord,
+                                           WordColumn::kFrequency, WordColumn::kCumulative};
+  const std::string page = Export(ExportFormat::kHtml, columns);
+  EXPECT_THAT(page, HasSubstr(R"(<th scope="col" aria-sort="ascending"><button>rank<)"));
+  EXPECT_THAT(page, HasSubstr(R"(<th scope="col" class="text"><button>word<)"));
+  EXPECT_THAT(page, HasSubstr(R"(<th scope="col" class="most"><button>frequency<)"));
+  EXPECT_THAT(page, HasSubstr(R"(<th scope="col"><button>cumulative<)"));
+  ExportTable table = Table(columns);
+  table.order = WordOrder::kAlphabetical;
+  TextSink alphabetical;
+  EXPECT_TRUE(ExportText(table, ExportFormat::kHtml, alphabetical, {}));
+  EXPECT_THAT(alphabetical.text,
+              HasSubstr(R"(<th scope="col" class="text" aria-sort="ascending"><button>word<)"));
+  EXPECT_THAT(alphabetical.text, HasSubstr(R"(<th scope="col"><button>rank<)"));
+}
+
+TEST_F(MarkedUpExport, HtmlHasALineForEachOfSeveralTexts) {
+  Count({{"the", 1}});
+  settings_ = {{"paths", std::vector<std::string>{"a&b.txt", "c.txt"}}};
+  EXPECT_THAT(Export(ExportFormat::kHtml, {WordColumn::kWord}),
+              HasSubstr("paths</th><td>a&amp;b.txt<br>c.txt</td>"));
+}
+
 TEST_F(MarkedUpExport, HtmlNeedsNothingFromOutside) {
   Count({{"the", 1}});
   const std::string page = Export(ExportFormat::kHtml, UsualColumns(false));

@@ -77,6 +77,7 @@ TEST_F(XlsxExport, FactsStandOnASheetOfTheirOwn) {
   Count({{"the", 2}});
   totalsFacts_ = {{"words-read", std::int64_t{2}}, {"ratio", 0.5}, {"source", std::string("a")}};
   statistics_ = {{"growth", std::vector<GrowthPoint>{{1, 1}, {2, 2}}}};
+  settings_ = {{"paths", std::vector<std::string>{"a.txt", "b.txt", "caf\xE9.txt"}}};
   EXPECT_TRUE(Write(kRowsPerSheet));
   EXPECT_TRUE(HasPart("xl/worksheets/sheet2.xml"));
 }

@@ -1,10 +1,13 @@
 // The files of a count, and the menu of common words, as a person uses them.
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <gmock/gmock.h>
 
 #include "app/count/common_words.h"
+#include "qt/list_table.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -77,6 +80,84 @@ TEST_F(FilesPageTest, WhyAFileWasNotReadStandsInSightBesideIt) {
   EXPECT_TRUE(Table().isColumnHidden(reason)) << "there is nothing to be told";
 }
 
+TEST_F(FilesPageTest, HomeAndEndGoToTheFirstAndTheLastFile) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().setFocus();
+  Table().selectRow(1);
+  QTest::keyClick(&Table(), Qt::Key_End);
+  EXPECT_EQ(Table().currentIndex().row(), 2);
+  QTest::keyClick(&Table(), Qt::Key_Home);
+  EXPECT_EQ(Table().currentIndex().row(), 0);
+}
+
+TEST_F(FilesPageTest, ChosenFileStaysChosenInAnotherOrderAndLanguage) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().selectRow(0);
+  const auto chosen = [this] {
+    const QModelIndexList rows = Table().selectionModel()->selectedRows();
+    return rows.size() == 1 ? Cell(rows.front().row(), FileColumn::kPath) : std::string();
+  };
+  const std::string path = chosen();
+  Table().sortByColumn(static_cast<int>(FileColumn::kPath), Qt::DescendingOrder);
+  EXPECT_EQ(chosen(), path);
+  EXPECT_EQ(Table().currentIndex().row(), 2);
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_EQ(chosen(), path);
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->program.frmMain.txbFile[1].SetText("");
+  user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_FALSE(Table().selectionModel()->hasSelection()) << "of another count";
+}
+
+TEST_F(FilesPageTest, TypingGoesToTheFileOfThatName) {
+  CountThree();
+  Window().Views().Show("files");
+  Table().setFocus();
+  QTest::keyClicks(&Table(), "c.t");
+  EXPECT_EQ(FileNamePartOf(Cell(Table().currentIndex().row(), FileColumn::kPath)), "c.txt");
+}
+
+TEST_F(FilesPageTest, MenuOfTheKeyboardSortsByTheColumnThatItIsIn) {
+  CountThree();
+  Window().Views().Show("files");
+  user->Settle();
+  Table().setCurrentIndex(Table().model()->index(0, static_cast<int>(FileColumn::kPath)));
+  QTimer::singleShot(0, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 2);
+    menu->actions().last()->trigger();
+    menu->close();
+  });
+  const QPoint place = Table().visualRect(Table().currentIndex()).center();
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, place,
+                          Table().viewport()->mapToGlobal(place));
+  QApplication::sendEvent(Table().viewport(), &asked);
+  EXPECT_EQ(Table().horizontalHeader()->sortIndicatorSection(),
+            static_cast<int>(FileColumn::kPath));
+  EXPECT_EQ(Names(), "abc");
+}
+
+TEST_F(FilesPageTest, EmptyOneSaysWhy) {
+  const auto hint = [this] {
+    const auto* label = Table().viewport()->findChild<QLabel*>();
+    return label->isVisible() ? FromQt(label->text()) : "";
+  };
+  Window().Views().Show("files");
+  user->Settle();
+  EXPECT_EQ(hint(), "No files have been counted yet. Each file of a count has a row here.");
+  CountThree();
+  EXPECT_EQ(hint(), "");
+  QApplication::clipboard()->setText("cat dog");
+  user->program.frmMain.txbFile[1].SetText("");
+  user->Click(user->program.frmMain.optOnClipboard);
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_EQ(hint(), "This list is of the clipboard, which has no files.");
+}
+
 TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
   CountThree();
   Window().Views().Show("files");
@@ -89,6 +170,13 @@ TEST_F(FilesPageTest, RowsAreCopiedWithTheirColumns) {
                 folder / "texts/b.txt" + "\t15\tASCII\tDOS\t3\t3\t0\t0\t0\t\n");
 }
 
+TEST_F(FilesPageTest, PathsWithTabsAndLineBreaksPartNoRow) {
+  CopiedRows copied(1);
+  copied.Add({"/a\tb\nc\rd.txt", "7"});
+  copied.PutOnClipboard();
+  EXPECT_EQ(FromQt(QApplication::clipboard()->text()), "/a\\tb\\nc\\rd.txt\t7\n");
+}
+
 TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   user->Click(user->program.frmMain.cmdSetParameters);
   auto& button = user->WidgetOf<QPushButton>(user->program.frmParams.cmdCommonWords);
@@ -96,7 +184,8 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   emit button.menu()->aboutToShow();
   const QList<QAction*> languages = button.menu()->actions();
   ASSERT_EQ(languages.size(), 14);
-  EXPECT_EQ(languages[0]->text(), "Czech");
+  EXPECT_EQ(FromQt(languages[0]->text()), "&Czech");
+  EXPECT_EQ(FromQt(languages[9]->text()), "&Russian") << "R leads there";
   EXPECT_FALSE(languages[4]->isChecked());
   boxes.Answer(QMessageBox::Ok);
   languages[4]->trigger();
@@ -106,6 +195,10 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
   emit button.menu()->aboutToShow();
   EXPECT_TRUE(button.menu()->actions()[4]->isChecked());
+  user->Click(user->program.frmMain.cmdLanguage);
+  emit button.menu()->aboutToShow();
+  EXPECT_EQ(FromQt(button.menu()->actions()[0]->text()), "&Deutsch") << "in the user's order";
+  EXPECT_TRUE(button.menu()->actions()[0]->isChecked());
 }
 
 }  // namespace

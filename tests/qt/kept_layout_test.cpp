@@ -1,5 +1,7 @@
 // What a user has made of the layout: kept from start to start, and through a change of language.
 #include <QSplitter>
+#include <QTabBar>
+#include <QWindow>
 #include <gmock/gmock.h>
 #include <memory>
 
@@ -64,6 +66,48 @@ TEST_F(KeptLayout, SettingsAreFoldedByAKeyAndThatIsRemembered) {
   EXPECT_NEAR(again.List().width(), width, 10);
 }
 
+/// Keys go where the keyboard is, as they do when a person types them.
+void TypeKeys(QWidget& window, const QString& keys) {
+  for (const QChar key : keys) QTest::keyClick(window.windowHandle(), key.toLatin1());
+}
+
+TEST_F(KeptLayout, FoldPutsTheKeyboardIntoTheViewInFront) {
+  ASSERT_TRUE(user->Start());
+  user->program.Sources().ChooseText(folder.Write("a.txt", "the cat the dog"));
+  user->Click(user->program.frmMain.cmdCountWords);
+  MainWindowView& main = user->windows.Main();
+  const std::string list = user->Shown();
+  for (const char* view : {"text", "table", "statistics", "files"}) {
+    main.Fold().SetFolded(false);
+    main.Views().Show(view);
+    user->Settle();
+    user->WidgetOf<QWidget>(user->program.frmMain.txbFile[0]).setFocus();
+    user->Settle();
+    QTest::keyClick(main.windowHandle(), Qt::Key_F9);
+    user->Settle();
+    const QWidget* focused = QApplication::focusWidget();
+    ASSERT_NE(focused, nullptr) << view;
+    EXPECT_TRUE(focused->isVisible()) << view;
+    EXPECT_TRUE(main.Views().currentWidget()->isAncestorOf(focused)) << view;
+    if (QLatin1String(view) != QLatin1String("text")) TypeKeys(main, "dog");
+    user->Settle();
+    EXPECT_EQ(user->Shown(), list) << view;
+  }
+}
+
+TEST_F(KeptLayout, ProgramPutsTheKeyboardIntoNothingThatIsFoldedAway) {
+  ASSERT_TRUE(user->Start());
+  MainWindowView& main = user->windows.Main();
+  main.Fold().SetFolded(true);
+  main.Views().Show("table");
+  main.Views().currentWidget()->setFocus();
+  user->Settle();
+  user->program.frmMain.SetFocus(user->program.frmMain.txbFile[1]);
+  user->Settle();
+  ASSERT_NE(QApplication::focusWidget(), nullptr);
+  EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+}
+
 TEST_F(KeptLayout, SettingsGetTheirWidthBackWithTheLanguage) {
   ASSERT_TRUE(user->Start());
   user->windows.Main().resize(1024, 700);
@@ -78,6 +122,24 @@ TEST_F(KeptLayout, SettingsGetTheirWidthBackWithTheLanguage) {
   user->Click(user->program.frmMain.cmdLanguage);
   user->Settle();
   EXPECT_EQ(user->windows.Main().findChild<QSplitter*>()->sizes(), english);
+}
+
+TEST_F(KeptLayout, SettingsLeaveHalfOfASmallerWindowToTheList) {
+  ASSERT_TRUE(user->Start());
+  user->Click(user->program.frmMain.cmdLanguage);
+  MainWindowView& window = user->windows.Main();
+  window.resize(1200, 700);
+  user->Settle();
+  window.resize(760, 560);
+  user->Settle();
+  const auto* settings = window.findChild<QWidget*>("paneSettings");
+  const auto* result = window.findChild<QWidget*>("paneResult");
+  EXPECT_LE(settings->width(), std::max(result->width(), settings->minimumSizeHint().width()));
+  QTabBar& tabs = *window.Views().tabBar();
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    EXPECT_GE(tabs.tabRect(tab).width(), tabs.fontMetrics().horizontalAdvance("Statis")) << tab;
+  }
+  user->Click(user->program.frmMain.cmdLanguage);
 }
 
 TEST_F(KeptLayout, PlaceOfAWindowThatWasNeverOpenIsNotKept) {

@@ -234,7 +234,7 @@ TEST_P(LayoutTest, MainWindowWithANotice) {
 
 TEST_P(LayoutTest, Export) {
   ExportForm& frmExport = user->program.frmExport;
-  user->program.Exports().SetFilter([] { return std::vector<std::int32_t>{1}; });
+  user->program.Exports().SetFilter([] { return FilteredWords{{}, {1}}; });
   Count();
   for (int language = 0; language < 2; ++language) {
     user->Click(frmMain.cmdExport);

@@ -1,13 +1,16 @@
 // What people expect of a window on top of its controls.
+#include <QAccessible>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QShortcut>
 #include <QUrl>
+#include <QWheelEvent>
 #include <gmock/gmock.h>
 
 #include "qt/figure_label.h"
+#include "qt/mixed_color.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -47,6 +50,18 @@ class MainWindowViewTest : public WindowFixture {
 
   MainForm& frmMain = user->program.frmMain;
 };
+
+TEST_F(MainWindowViewTest, LinksAreReadableWithoutAColourOfTheDesktopForThem) {
+  QPalette dark;
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::Link, Qt::blue);
+  const QColor link = ReadableColor(Qt::blue, dark);
+  EXPECT_GE(ContrastOf(link, Qt::black), 4.5);
+  EXPECT_GT(link.blue(), link.red()) << "still a link's";
+  dark.setColor(QPalette::Base, Qt::white);
+  EXPECT_EQ(ReadableColor(Qt::blue, dark), QColor(Qt::blue));
+}
 
 TEST_F(MainWindowViewTest, DroppedFileAndFolderAreChosen) {
   const std::string path = folder.Write("a.txt", "cat\n");
@@ -106,6 +121,21 @@ TEST_F(MainWindowViewTest, EscapeStopsTheCount) {
   EXPECT_FALSE(user->program.Words().completeRun);
 }
 
+TEST_F(MainWindowViewTest, EscapeInTheFindBarStopsTheCountToo) {
+  std::string text;
+  for (int i = 0; i < 3'000'000; ++i) text += "word" + std::to_string(i % 5000) + " ";
+  user->program.Sources().ChooseText(folder.Write("long.txt", text));
+  boxes.Answer(QMessageBox::No);
+  FindBar& bar = user->windows.Main().Finder();
+  QTimer::singleShot(40, [&] {
+    bar.Open();
+    QTest::keyClick(bar.findChild<QLineEdit*>(), Qt::Key_Escape);
+  });
+  user->Click(frmMain.cmdCountWords);
+  EXPECT_THAT(boxes.TitlesSeen(), testing::ElementsAre("Counting interrupted"));
+  EXPECT_FALSE(user->program.Words().completeRun);
+}
+
 TEST_F(MainWindowViewTest, FindBarFindsRoundTheEndAndSaysWhenThereIsNothing) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog emu\n"));
   user->Click(frmMain.cmdCountWords);
@@ -126,6 +156,26 @@ TEST_F(MainWindowViewTest, FindBarFindsRoundTheEndAndSaysWhenThereIsNothing) {
   EXPECT_FALSE(bar.isVisible());
 }
 
+TEST_F(MainWindowViewTest, FindBarTakesWordsForTheSameAsTheListDoes) {
+  user->program.Sources().ChooseText(
+      folder.Write("a.txt", "Caf\u00E9 caf\u00E9 M\u00FCller emu\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  auto* word = bar.findChild<QLineEdit*>();
+  const auto& list = user->windows.Main().List();
+  QTest::keyClicks(word, "cafe");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "caf\u00E9");
+  word->selectAll();
+  QTest::keyClicks(word, "mueller");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "m\u00FCller");
+  frmMain.txbOutput.SetText("\U0001F40B\r\nCaf\u00E9");
+  user->Settle();
+  word->selectAll();
+  QTest::keyClicks(word, "CAFE");
+  EXPECT_EQ(FromQt(list.textCursor().selectedText()), "Caf\u00E9");
+}
+
 TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
   ListView& list = user->windows.Main().List();
   const qreal usual = list.font().pointSizeF();
@@ -141,6 +191,19 @@ TEST_F(MainWindowViewTest, ListCanBeZoomedAndTheSizeIsRemembered) {
   user = std::make_unique<ProgramOnDesktop>();
   ASSERT_TRUE(user->Start());
   EXPECT_EQ(user->windows.Main().List().Zoom(), -1);
+}
+
+TEST_F(MainWindowViewTest, EveryViewIsZoomed) {
+  MainWindowView& main = user->windows.Main();
+  const QList<QWidget*> tables = {&main.Table().View(), &main.StatisticsView().Table(),
+                                  &main.FilesView().Table()};
+  QList<qreal> usual;
+  for (const QWidget* table : tables) usual.append(table->font().pointSizeF());
+  Press(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  Press(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+  for (qsizetype i = 0; i < tables.size(); ++i) {
+    EXPECT_DOUBLE_EQ(tables[i]->font().pointSizeF(), usual[i] + 2) << i;
+  }
 }
 
 TEST_F(MainWindowViewTest, FolderUsedLastIsRemembered) {
@@ -237,6 +300,55 @@ TEST_F(MainWindowViewTest, FoundPlacesAreCountedAndKeysGoThroughThem) {
   QTest::keyClicks(word, "x");
   EXPECT_TRUE(says("Not found"));
   EXPECT_FALSE(says("3 of 3"));
+}
+
+TEST_F(MainWindowViewTest, SignThatTurnsWhileACountRunsIsNotReadOut) {
+  frmMain.lblTwirler.SetCaption("\u2588 ");
+  user->Settle();
+  auto& sign = user->WidgetOf<QLabel>(frmMain.lblTwirler);
+  ASSERT_EQ(sign.text(), "\u2588 ");
+  const QString read = QAccessible::queryAccessibleInterface(&sign)->text(QAccessible::Name);
+  EXPECT_EQ(read.trimmed(), "");
+}
+
+TEST_F(MainWindowViewTest, ScreenReaderIsToldWhichPlaceWasFound) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog category\n"));
+  user->Click(frmMain.cmdCountWords);
+  Press(QKeySequence::Find);
+  FindBar& bar = user->windows.Main().Finder();
+  QStringList heard;
+  bar.announce = [&heard](const QWidget& label) {
+    heard.append(dynamic_cast<const QLabel&>(label).text());
+  };
+  auto* word = bar.findChild<QLineEdit*>();
+  QTest::keyClicks(word, "cat");
+  EXPECT_TRUE(heard.isEmpty()) << "while it is typed";
+  QTest::keyClick(word, Qt::Key_Return);
+  EXPECT_EQ(heard, QStringList("2 of 2"));
+}
+
+TEST_F(MainWindowViewTest, EveryViewHasSomethingToFindIn) {
+  for (const char* view : {"statistics", "files"}) {
+    user->windows.Main().Views().Show(view);
+    Press(QKeySequence::Find);
+    EXPECT_EQ(user->windows.Main().Views().Current(), "text") << view;
+    EXPECT_TRUE(user->windows.Main().Finder().isVisible()) << view;
+  }
+}
+
+TEST_F(MainWindowViewTest, WheelZoomsOverEveryView) {
+  MainWindowView& main = user->windows.Main();
+  int zoom = main.List().Zoom();
+  for (QAbstractScrollArea* view :
+       {static_cast<QAbstractScrollArea*>(&main.List()),
+        static_cast<QAbstractScrollArea*>(&main.Table().View()),
+        static_cast<QAbstractScrollArea*>(&main.StatisticsView().Table()),
+        static_cast<QAbstractScrollArea*>(&main.FilesView().Table())}) {
+    QWheelEvent turn(QPointF(5, 5), view->viewport()->mapToGlobal(QPointF(5, 5)), {}, {0, 120},
+                     Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view->viewport(), &turn);
+    EXPECT_EQ(main.List().Zoom(), ++zoom);
+  }
 }
 
 TEST_F(MainWindowViewTest, OldHitLeavesNeitherMarkNorMessage) {

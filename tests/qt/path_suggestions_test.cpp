@@ -5,9 +5,16 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QTest>
+#include <QThreadPool>
 #include <QVBoxLayout>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <memory>
+#include <semaphore>
+#include <stop_token>
+#include <utility>
 
+#include "support/environment.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat {
@@ -61,6 +68,22 @@ TEST_F(PathCompletion, OffersWhatIsInTheFolder) {
   EXPECT_EQ(suggestions_->Offered(), QStringList{Path("harvest.txt")}) << "at once";
 }
 
+TEST_F(PathCompletion, OffersWhatIsInTheUsersHomeAsItIsTyped) {
+  const ScopedVariable home("HOME", folder_.Path());
+  PutFile("harbour.txt");
+  std::filesystem::create_directory(folder_ / "harvest");
+  QTest::keyClicks(box_, "~/harb");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harbour.txt"});
+  QTest::keyClick(box_, Qt::Key_Down);
+  QTest::keyClick(box_, Qt::Key_Return);
+  EXPECT_EQ(box_->text(), "~/harbour.txt");
+  box_->clear();
+  QTest::keyClicks(box_, "~/harv");
+  ASSERT_TRUE(OffersSoon());
+  EXPECT_EQ(suggestions_->Offered(), QStringList{"~/harvest"});
+}
+
 TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
   PutFile("harbour.txt");
   Type("har");
@@ -68,6 +91,50 @@ TEST_F(PathCompletion, OffersNothingWhileTypingGoesOn) {
   QTest::keyClick(box_, Qt::Key_Return);
   Pause();
   EXPECT_FALSE(IsOffering());
+}
+
+/// A folder that does not answer until it is let go.
+class DeadFolder {
+ public:
+  [[nodiscard]] PathSuggestions::Source Source() {
+    return [gate = gate_](const QString& typed, PathKind, const std::stop_token&) {
+      if (!typed.contains("dead")) return QStringList{typed + "more"};
+      gate->acquire();
+      return QStringList();
+    };
+  }
+  ~DeadFolder() { gate_->release(PathSuggestions::kMostLooks); }
+
+ private:
+  std::shared_ptr<std::counting_semaphore<>> gate_ = std::make_shared<std::counting_semaphore<>>(0);
+};
+
+TEST_F(PathCompletion, FolderThatDoesNotAnswerKeepsNobodyWaiting) {
+  DeadFolder dead;
+  delete suggestions_;
+  suggestions_ = new PathSuggestions(*box_, PathKind::kFile, dead.Source());
+  for (int times = 1; times < PathSuggestions::kMostLooks; ++times) {
+    Type("dead");
+    Pause();
+  }
+  Type("near");
+  EXPECT_TRUE(OffersSoon()) << "of another folder";
+  EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(0)) << "the program's end waits for these";
+  delete std::exchange(box_, nullptr);
+}
+
+TEST_F(PathCompletion, ScreenReaderIsToldWhatIsMarked) {
+  QStringList told;
+  suggestions_->announce = [&told](const QListWidget& list, int row) {
+    told.append(list.item(row)->text());
+  };
+  PutFile("harbour.txt");
+  PutFile("harvest.txt");
+  Type("har");
+  ASSERT_TRUE(OffersSoon());
+  QTest::keyClick(box_, Qt::Key_Up);
+  QTest::keyClick(box_, Qt::Key_Down);
+  EXPECT_EQ(told, (QStringList{Path("harvest.txt"), Path("harbour.txt")}));
 }
 
 TEST_F(PathCompletion, OffersNothingWithoutAKey) {

@@ -89,6 +89,26 @@ TEST_F(QtDesktopTest, KeyOfTheMomentBeforeABoxDoesNotAnswerIt) {
             MessageAnswer::kYes);
 }
 
+TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
+  QWidget window;
+  window.resize(300, 200);
+  window.show();
+  const QPoint place(150, 100);
+  QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, place);
+  WithDialog<QMessageBox>([&](QMessageBox& box) {
+    QAbstractButton& yes = *box.button(QMessageBox::Yes);
+    const QPoint middle = yes.mapTo(&box, yes.rect().center());
+    box.move(window.mapToGlobal(place) - middle);
+    QTest::mouseClick(&yes, Qt::LeftButton);
+    EXPECT_TRUE(box.isVisible());
+    QTest::qWait(QApplication::doubleClickInterval() + 20);
+    QTest::mouseClick(&yes, Qt::LeftButton);
+    EXPECT_FALSE(box.isVisible());
+  });
+  EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
+            MessageAnswer::kYes);
+}
+
 TEST_F(QtDesktopTest, KeyWhoseReleaseTheBoxCameBeforeAnswersAfterAWhile) {
   QWidget window;
   window.show();

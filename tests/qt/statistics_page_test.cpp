@@ -101,8 +101,20 @@ TEST_F(StatisticsPageTest, RowsAreCopiedWithTheirColumns) {
   Table().selectRow(1);
   QTest::keyClick(&Table(), Qt::Key_C, Qt::ControlModifier);
   const QMimeData* copied = QApplication::clipboard()->mimeData();
-  EXPECT_EQ(FromQt(copied->text()), "Different words\t4\n");
+  EXPECT_EQ(FromQt(copied->text()), "Figure\tValue\nDifferent words\t4\n");
   EXPECT_TRUE(copied->html().contains("<td>Different words</td><td>4</td>"));
+}
+
+TEST_F(StatisticsPageTest, NumbersAreCopiedWithoutGroups) {
+  std::string text;
+  for (int i = 0; i < 3000; ++i) text += "cat ";
+  Count(text);
+  OpenPage();
+  const std::string group = user->program.DigitGroupSeparator();
+  EXPECT_EQ(Cell(0, 1), "3" + group + "000");
+  user->Click(user->program.frmMain.cmdCopyToClipboard);
+  EXPECT_NE(FromQt(QApplication::clipboard()->text()).find("Instances of words\t3000\n"),
+            std::string::npos);
 }
 
 TEST_F(StatisticsPageTest, AllRowsAreCopiedByTheCommandIfNoneIsSelected) {
@@ -110,7 +122,7 @@ TEST_F(StatisticsPageTest, AllRowsAreCopiedByTheCommandIfNoneIsSelected) {
   OpenPage();
   user->Click(user->program.frmMain.cmdCopyToClipboard);
   const std::string copied = FromQt(QApplication::clipboard()->text());
-  EXPECT_EQ(std::ranges::count(copied, '\n'), Table().rowCount());
+  EXPECT_EQ(std::ranges::count(copied, '\n'), Table().rowCount() + 1) << "with the titles";
   EXPECT_NE(copied.find("Different words\t4\n"), std::string::npos);
 }
 

@@ -131,6 +131,23 @@ TEST_F(TablePageTest, ClickOnATitleSortsBothWays) {
   EXPECT_THAT(Words(), ElementsAre("dog", "cat", "zebra")) << "the most frequent first";
 }
 
+TEST_F(TablePageTest, FilterThatHidesAllWordsIsToldOfAndTakenOffByAClick) {
+  auto& showAll = *View().viewport()->findChild<QPushButton*>();
+  Count("Cat scatter dog\n");
+  OpenTable();
+  EXPECT_FALSE(showAll.isVisible());
+  TypeFilter("scat");
+  Count("emu ox emu\n");
+  EXPECT_THAT(Words(), ElementsAre());
+  EXPECT_TRUE(Says("None of the 2 words passes the filter \"scat\"."));
+  ASSERT_TRUE(showAll.isVisible());
+  QTest::mouseClick(&showAll, Qt::LeftButton);
+  user->Settle();
+  EXPECT_THAT(Words(), ElementsAre("emu", "ox"));
+  EXPECT_EQ(Box().text(), "");
+  EXPECT_FALSE(showAll.isVisible());
+}
+
 TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   Count("Cat scatter dog dog category\n");
   OpenTable();
@@ -148,6 +165,18 @@ TEST_F(TablePageTest, WordsAreFilteredAsTheyAreTyped) {
   EXPECT_TRUE(Says("4 words, 5 instances"));
 }
 
+TEST_F(TablePageTest, ScreenReaderIsToldHowManyWordsAreLeftWhenTheTypingPauses) {
+  Count("cat dog category emu\n");
+  OpenTable();
+  QStringList heard;
+  Window().Table().announce = [&heard](const QWidget& label) {
+    heard.append(dynamic_cast<const QLabel&>(label).text());
+  };
+  TypeFilter("cat");
+  ASSERT_TRUE(QTest::qWaitFor([&heard] { return !heard.isEmpty(); }));
+  EXPECT_EQ(heard, QStringList("2 words, 2 instances")) << "once";
+}
+
 TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
   Count("cat dog m\u00FCller\n");
   OpenTable();
@@ -162,6 +191,9 @@ TEST_F(TablePageTest, FaultOfAnExpressionIsToldBesideTheBox) {
   TypeFilter("(");
   EXPECT_TRUE(Says("Not understood: missing closing parenthesis"));
   EXPECT_THAT(Words(), testing::SizeIs(3));
+  user->Click(user->program.frmMain.cmdLanguage);
+  user->Click(user->program.frmMain.cmdLanguage);
+  EXPECT_TRUE(Says("Not understood: missing closing parenthesis")) << "in the language of now";
 }
 
 TEST_F(TablePageTest, SelectedRowsAreCopiedWithTheShownColumns) {
@@ -242,6 +274,24 @@ TEST_F(TablePageTest, WordsTakeTheRoomThatIsLeft) {
   user->Settle();
   EXPECT_GT(width(WordColumn::kWord), before);
   EXPECT_EQ(width(WordColumn::kRank), rank);
+}
+
+TEST_F(TablePageTest, NoRoomStaysEmptyBesideTheNumbers) {
+  Count("the cat\n");
+  OpenTable();
+  Window().Fold().SetFolded(true);
+  Window().resize(1400, 700);
+  user->Settle();
+  EXPECT_EQ(View().horizontalHeader()->length(), View().viewport()->width());
+}
+
+TEST_F(TablePageTest, WordsAreNotTheFirstToBeCut) {
+  Count("the loving-kindness\n");
+  OpenTable();
+  Window().resize(760, 560);
+  user->Settle();
+  const int words = View().columnWidth(static_cast<int>(WordColumn::kWord));
+  EXPECT_GT(words, View().fontMetrics().horizontalAdvance("loving-kindness"));
 }
 
 TEST_F(TablePageTest, ChosenWordStaysInViewWhenTheOrderChanges) {

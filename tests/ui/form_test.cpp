@@ -18,6 +18,7 @@ class FocusWindow final : public Form {
   std::array<TextBox, 2> txbFile{TextBox{*this, {"txbFile", 0}}, TextBox{*this, {"txbFile", 1}}};
   CommandButton cmdGo{*this, "cmdGo", "Go"};
   Label lblText{*this, "lblText"};
+  CommandButton cmdOther{*this, "cmdOther", "Other"};
 };
 
 class FormTest : public ::testing::Test {
@@ -33,6 +34,27 @@ class FormTest : public ::testing::Test {
   FocusWindow window_;
   std::vector<std::string> log_;
 };
+
+TEST_F(FormTest, ControlThatIsDisabledWhenAnotherIsLeftDoesNotGetTheFocus) {
+  window_.SetFocus(window_.txbFile[0]);
+  window_.txbFile[0].LostFocus.Connect([this] { window_.cmdGo.SetEnabled(false); });
+  WatchFocus();
+  window_.SetFocus(window_.cmdGo);
+  EXPECT_EQ(window_.Focused(), nullptr);
+  EXPECT_THAT(log_, ElementsAre("-txbFile(0)"));
+}
+
+TEST_F(FormTest, WhatAClickThatFailsHasPutOffIsDropped) {
+  int done = 0;
+  window_.cmdGo.Click.Connect([&] {
+    window_.AfterClick([&] { ++done; });
+    if (done == 0) throw std::runtime_error("no memory");
+  });
+  EXPECT_THROW(window_.cmdGo.PerformClick(), std::runtime_error);
+  CommandButton& other = window_.cmdOther;
+  other.PerformClick();
+  EXPECT_EQ(done, 0);
+}
 
 TEST_F(FormTest, FindsControlsByName) {
   EXPECT_EQ(window_.Find("cmdGo"), &window_.cmdGo);
@@ -51,7 +73,7 @@ TEST_F(FormTest, FindsNothingByAnyOtherName) {
 TEST_F(FormTest, ListsItsControlsInOrder) {
   std::vector<std::string> names;
   for (const Control* control : window_.Controls()) names.push_back(control->Name());
-  EXPECT_THAT(names, ElementsAre("txbFile(0)", "txbFile(1)", "cmdGo", "lblText"));
+  EXPECT_THAT(names, ElementsAre("txbFile(0)", "txbFile(1)", "cmdGo", "lblText", "cmdOther"));
   EXPECT_EQ(window_.txbFile[1].BaseName(), "txbFile");
   EXPECT_EQ(window_.txbFile[1].Index(), 1);
   EXPECT_EQ(window_.cmdGo.Index(), std::nullopt);

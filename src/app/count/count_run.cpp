@@ -109,7 +109,9 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.uncounted = result.uncounted;
   count_.words.folder = {result.files, result.folders, result.skippedInAll, {}, result.leftOut};
   count_.words.stoppedAfter = result.stoppedAfter;
-  count_.words.settings = SettingFactsOf(count_.words.counted, count_.frmMain, count_.frmParams);
+  count_.words.settings =
+      SettingFactsOf(count_.words.counted, count_.inForce.filesRead.clipboardText, count_.frmMain,
+                     count_.frmParams);
   count_.words.completeRun = result.end == CountEnd::kComplete;
   count_.words.listAfterStop = !count_.words.completeRun;
   count_.inForce.settings.CountOnlyMode = result.countOnlyMode;
@@ -187,11 +189,9 @@ bool CountRun::HandleInterruption() {
 
 bool CountRun::FolderHadFiles() const {
   if (!count_.frmMain.optFolder.Value() || count_.words.folder.filesScanned > 0) return true;
-  std::string text = "No scanable files ";
-  if (extensions_.Filter().AnyGiven()) text.append("of the specified type ");
-  text.append("were found in this folder");
-  if (count_.frmMain.chkIncludeSubfolders.IsChecked()) text.append(" or in its subfolders");
-  count_.messages.Tell(text.append("."), "No files found");
+  const std::string text = "No " + ScanableFilesIn("this folder", extensions_.Filter().AnyGiven(),
+                                                   count_.frmMain.chkIncludeSubfolders.IsChecked());
+  count_.messages.Tell(text + ".", "No files found");
   return false;
 }
 

@@ -4,6 +4,7 @@
 
 #include "app/count/named_text.h"
 #include "base/text_helpers.h"
+#include "sources/refusal_text.h"
 #include "system/paths.h"
 
 namespace quillomat {
@@ -16,23 +17,12 @@ std::string ShownPath(const MainForm& frmMain, const std::string& path) {
   return path;
 }
 
-std::string ReasonText(const SkippedFile& skipped) {
-  switch (skipped.reason) {
-    case Refusal::kFolderUnreadable:
-      return "the folder cannot be read";
-    case Refusal::kReadFailed:
-      return skipped.error->Description();
-    default:
-      return "the file cannot be opened";
-  }
-}
-
 void WritePathLine(const WindowCount& count, const std::string& path) {
   count.output.OutputToTxb(std::string(kCrLf) + ShownPath(count.frmMain, path));
 }
 
 void WriteSkipped(const WindowCount& count, const SkippedFile& skipped) {
-  count.output.OutputToTxb(" (skipped: " + ReasonText(skipped) + ")");
+  count.output.OutputToTxb(" (skipped: " + RefusalInRun(skipped.reason, skipped.error) + ")");
 }
 
 bool AskAboutManyFiles(const Messages& messages, std::int32_t files,

@@ -15,8 +15,6 @@ namespace quillomat {
 
 /// The path with the chosen folder's name in place of its path.
 [[nodiscard]] std::string ShownPath(const MainForm& frmMain, const std::string& path);
-/// Why a file or a folder was skipped, in words.
-[[nodiscard]] std::string ReasonText(const SkippedFile& skipped);
 
 /// Writes a path on a line of its own into the output text box.
 void WritePathLine(const WindowCount& count, const std::string& path);

@@ -10,6 +10,7 @@
 #include "base/text_helpers.h"
 #include "sources/counter.h"
 #include "sources/folder_walk.h"
+#include "sources/refusal_text.h"
 
 namespace quillomat {
 namespace {
@@ -22,6 +23,14 @@ std::string Counted(std::int32_t number, std::string_view noun, std::string_view
 
 std::string FilesInFolders(std::int32_t files, std::int32_t folders, std::string_view separator) {
   return Counted(files, "file", separator) + " in " + Counted(folders, "folder", separator);
+}
+
+std::string ScanableFilesIn(std::string_view place, bool ofType, bool subfolders) {
+  std::string text = "scanable files ";
+  if (ofType) text.append("of the specified type ");
+  text.append("were found in ").append(place);
+  if (subfolders) text.append(" or in its subfolders");
+  return text;
 }
 
 TextOfFolder FolderSource::Folder() const {
@@ -120,7 +129,7 @@ void FolderSource::TakeSkipped(const CountResult& result) {
   skipped_.clear();
   skippedInAll_ = result.skippedInAll;
   for (const SkippedFile& skipped : result.skipped) {
-    skipped_.push_back({skipped.path, ReasonText(skipped)});
+    skipped_.push_back({skipped.path, RefusalInRun(skipped.reason, skipped.error)});
   }
 }
 

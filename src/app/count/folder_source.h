@@ -20,6 +20,10 @@ namespace quillomat {
 [[nodiscard]] std::string FilesInFolders(std::int32_t files, std::int32_t folders,
                                          std::string_view separator);
 
+/// What there are none of in `place`: "scanable files were found in this folder", to be read behind
+/// "No". `ofType`: of those that the extensions let through.
+[[nodiscard]] std::string ScanableFilesIn(std::string_view place, bool ofType, bool subfolders);
+
 /// A file or folder that could not be read although it should have been.
 struct SkippedItem {
   std::string path;

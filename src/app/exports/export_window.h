@@ -3,12 +3,10 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "app/exports/result_export.h"
 #include "app/what_parts_share.h"
@@ -18,9 +16,8 @@
 
 namespace quillomat {
 
-/// Answers with the words that a filter shows, as alphabetical places of the store; nothing while
-/// no filter is set.
-using FilteredPlaces = std::function<std::optional<std::vector<std::int32_t>>()>;
+/// Answers with the words that a filter shows; nothing while no filter is set.
+using FilterQuestion = std::function<std::optional<FilteredWords>()>;
 
 class ExportWindow {
  public:
@@ -47,7 +44,7 @@ class ExportWindow {
   /// After a change of the language.
   void ShowCommandCaption();
 
-  void SetFilter(FilteredPlaces filter) { filter_ = std::move(filter); }
+  void SetFilter(FilterQuestion filter) { filter_ = std::move(filter); }
   /// A filter was set, or is gone.
   void OnFilterChange();
 
@@ -84,7 +81,7 @@ class ExportWindow {
   const InForce& inForce_;
   PathBoxes& paths_;
   Desktop& desktop_;
-  FilteredPlaces filter_;
+  FilterQuestion filter_;
   /// What the window itself has put into the box of the file.
   std::string suggested_;
   std::optional<bool> filesKnown_;

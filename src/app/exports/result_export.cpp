@@ -1,6 +1,7 @@
 #include "app/exports/result_export.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 #include "listing/statistics.h"
@@ -8,11 +9,30 @@
 namespace quillomat {
 namespace {
 
-std::vector<ExportFact> TotalsOf(const CurrentWords& words) {
+/// In the order of FilterKind.
+constexpr std::array<const char*, 6> kFilterNames = {"filter-contains",  "filter-begins-with",
+                                                     "filter-ends-with", "filter-is",
+                                                     "filter-pattern",   "filter-expression"};
+
+/// What of the list is exported, where that is not all.
+void AddSelection(std::vector<ExportFact>& facts, const ExportWish& wish, std::size_t listed,
+                  std::size_t exported) {
+  if (wish.among) {
+    const RowFilter& filter = wish.among->filter;
+    facts.push_back({kFilterNames.at(static_cast<std::size_t>(filter.kind)), filter.text});
+  }
+  if (wish.first) facts.push_back({"top", static_cast<std::int64_t>(*wish.first)});
+  if (exported == listed) return;
+  facts.push_back({"words-exported", static_cast<std::int64_t>(exported)});
+}
+
+std::vector<ExportFact> TotalsOf(const CurrentWords& words, const ExportWish& wish,
+                                 std::size_t exported) {
   std::vector<ExportFact> facts = CompletenessOf(words);
+  AddSelection(facts, wish, static_cast<std::size_t>(words.totals.NumIncludedWords), exported);
   facts.push_back({"words", std::int64_t{words.totals.NumIncludedWords}});
   facts.push_back({"words-excluded", std::int64_t{words.totals.NumExcludedWords}});
-  facts.push_back({"instances", std::int64_t{words.totals.TotalIncludedCount}});
+  facts.push_back({"instances-listed", std::int64_t{words.totals.TotalIncludedCount}});
   facts.push_back({"instances-of-all-words", std::int64_t{words.WordsRead}});
   if (words.folder.filesScanned > 0) {
     facts.push_back({"files", std::int64_t{words.folder.filesScanned}});
@@ -36,7 +56,7 @@ std::vector<std::int32_t> Common(const std::vector<std::int32_t>& places,
 std::vector<std::int32_t> PlacesOf(const WordTable& words, const ExportWish& wish) {
   std::vector<std::int32_t> places =
       wish.order == WordOrder::kAlphabetical ? words.Alphabetical() : words.ByFrequency();
-  if (wish.among) places = Common(places, *wish.among);
+  if (wish.among) places = Common(places, wish.among->places);
   if (wish.first && *wish.first < places.size()) places.resize(*wish.first);
   return places;
 }
@@ -73,8 +93,9 @@ ResultExport::ResultExport(const CurrentWords& words, const ExportWish& wish)
       table_{words_,
              places_,
              wish.columns,
-             TotalsOf(words),
+             TotalsOf(words, wish, places_.size()),
              FactsOf(StatisticsOf(words.store, words.orderFigures)),
-             words.settings} {}
+             words.settings,
+             wish.order} {}
 
 }  // namespace quillomat

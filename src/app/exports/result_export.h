@@ -10,6 +10,7 @@
 
 #include "app/count/in_force.h"
 #include "app/list/current_words.h"
+#include "app/table/row_filter.h"
 #include "export/export_table.h"
 #include "listing/display_format.h"
 #include "listing/word_table.h"
@@ -23,8 +24,8 @@ struct ExportWish {
   WordOrder order = WordOrder::kByFrequency;
   /// So many of them at most.
   std::optional<std::size_t> first = {};
-  /// Only these, alphabetical places of the store.
-  std::optional<std::vector<std::int32_t>> among = {};
+  /// Only these.
+  std::optional<FilteredWords> among = {};
 };
 
 /// Whether the words are those of the whole text ("complete"), and if not, what is missing: how

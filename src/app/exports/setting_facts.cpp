@@ -10,6 +10,7 @@
 
 #include "app/setting_values.h"
 #include "app/settings_table.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {
@@ -76,29 +77,35 @@ Value ValueOf(const Setting& setting, const MainForm& frmMain, const ParamsForm&
       return ChoiceValue(setting, *control.As<ComboBox>());
     case OptionKind::kText:
     case OptionKind::kList:
-      return TextValue(ValueTextOf(control));
+      return TextValue(setting.isPath ? AbsolutePath(ValueTextOf(control)) : ValueTextOf(control));
     case OptionKind::kMarkers:
       return MarkerPairs(frmParams);
   }
   return std::nullopt;
 }
 
-std::string Joined(const std::vector<std::string>& paths) {
-  std::string joined;
-  for (const std::string& path : paths) joined.append(joined.empty() ? "" : ", ").append(path);
-  return joined;
+/// As whoever makes the count again names it, from wherever.
+std::string PathAsNamed(const std::string& path) {
+  return path == kStandardInputPath ? "-" : AbsolutePath(path);
 }
 
-std::vector<ExportFact> FactsOf(const CountedText& text) {
+std::vector<std::string> PathsAsNamed(const std::vector<std::string>& paths) {
+  std::vector<std::string> named;
+  named.reserve(paths.size());
+  for (const std::string& path : paths) named.push_back(PathAsNamed(path));
+  return named;
+}
+
+std::vector<ExportFact> FactsOf(const CountedText& text, const std::string& clipboardFile) {
   switch (text.source) {
     case Source::kFile:
-      return {{"file", text.path}};
+      return {{"file", PathAsNamed(text.path)}};
     case Source::kFolder:
-      return {{"folder", text.path}};
+      return {{"folder", PathAsNamed(text.path)}};
     case Source::kPaths:
-      return {{"paths", Joined(text.paths)}};
+      return {{"paths", PathsAsNamed(text.paths)}};
     case Source::kClipboard:
-      return {{"text", std::string("clipboard")}};
+      return {{"text", clipboardFile.empty() ? "clipboard" : PathAsNamed(clipboardFile)}};
     case Source::kNone:
       break;
   }
@@ -107,10 +114,10 @@ std::vector<ExportFact> FactsOf(const CountedText& text) {
 
 }  // namespace
 
-std::vector<ExportFact> SettingFactsOf(const CountedText& text, const MainForm& frmMain,
-                                       const ParamsForm& frmParams) {
+std::vector<ExportFact> SettingFactsOf(const CountedText& text, const std::string& clipboardFile,
+                                       const MainForm& frmMain, const ParamsForm& frmParams) {
   constexpr std::string_view kHyphens = "--";
-  std::vector<ExportFact> facts = FactsOf(text);
+  std::vector<ExportFact> facts = FactsOf(text, clipboardFile);
   for (const Setting& setting : AllSettings()) {
     if (!BearsOnWords(setting, text)) continue;
     Value value = ValueOf(setting, frmMain, frmParams);

@@ -1,5 +1,6 @@
 #include "app/notices/notice.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "text/caption_table.h"
@@ -35,10 +36,6 @@ bool NamesOtherText(const NoticeFacts& facts) {
   return !facts.file.empty() || !facts.folder.empty() || facts.clipboard;
 }
 
-Values StoppedIf(bool holds, const NoticeFacts& facts) {
-  return holds ? NameOf(facts.stopped) : std::nullopt;
-}
-
 using enum NoticeAction;
 
 // First what makes the list other than it looks, then what is missing in it by the user's own will.
@@ -49,10 +46,8 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      {kCountAgain}},
     {kListNotCompleteText,
      0,
-     [](const NoticeFacts& facts) { return StoppedIf(!NamesOtherText(facts), facts); },
+     [](const NoticeFacts& facts) { return NameOf(facts.stopped); },
      {kCountAgain}},
-    {kListNotCompleteText, 0,
-     [](const NoticeFacts& facts) { return StoppedIf(NamesOtherText(facts), facts); }},
     {kFilesSkippedText,
      kFileSkippedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.skipped); },
@@ -120,6 +115,7 @@ std::vector<Notice> NoticesOf(const NoticeFacts& facts) {
     if (!values) continue;
     const bool one = row.textOfOne != 0 && StartsWithOne(*values);
     notices.push_back({i, one ? row.textOfOne : row.text, std::move(*values), row.actions});
+    if (NamesOtherText(facts)) std::ranges::replace(notices.back().actions, kCountAgain, kNone);
   }
   return notices;
 }

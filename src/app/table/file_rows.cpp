@@ -5,7 +5,9 @@
 #include <variant>
 
 #include "app/count/reach_text.h"
+#include "base/letter_case.h"
 #include "base/text_helpers.h"
+#include "system/paths.h"
 #include "text/caption_table.h"
 
 namespace quillomat {
@@ -69,6 +71,22 @@ std::optional<std::size_t> FileRows::FirstNotRead(bool byDesign) const {
   });
   if (found == places_.end()) return std::nullopt;
   return static_cast<std::size_t>(found - places_.begin());
+}
+
+std::optional<std::size_t> FileRows::RowOfPlace(std::uint32_t place) const {
+  const auto found = std::ranges::find(places_, place);
+  if (found == places_.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - places_.begin());
+}
+
+std::optional<std::size_t> FileRows::FindName(std::string_view text, std::size_t from) const {
+  const std::string beginning = LowerCase(text);
+  for (std::size_t passed = 0; passed < places_.size(); ++passed) {
+    const std::size_t row = (from + passed) % places_.size();
+    const std::string name = FileNamePartOf(words_.files[places_[row]].path);
+    if (LowerCase(name).starts_with(beginning)) return row;
+  }
+  return std::nullopt;
 }
 
 void FileRows::SetOrder(std::optional<Order> order) {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/list/current_words.h"
@@ -30,6 +31,14 @@ class FileRows {
   /// `row` is below Size().
   [[nodiscard]] std::string TextAt(std::size_t row, FileColumn column,
                                    const NumberSigns& signs) const;
+
+  /// What tells the file of a row from all others of the count, and the row that it stands in now.
+  [[nodiscard]] std::uint32_t PlaceAt(std::size_t row) const { return places_[row]; }
+  [[nodiscard]] std::optional<std::size_t> RowOfPlace(std::uint32_t place) const;
+
+  /// The first row from `from` on, and round the end, whose file's name begins with `text`,
+  /// whatever the case.
+  [[nodiscard]] std::optional<std::size_t> FindName(std::string_view text, std::size_t from) const;
 
   /// How far the count came, in words, if it was stopped; else "".
   [[nodiscard]] std::string StoppedText(const NumberSigns& signs) const;

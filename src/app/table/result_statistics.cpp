@@ -66,7 +66,9 @@ std::vector<ResultStatistics::Row> ResultStatistics::Rows(const NumberSigns& sig
       continue;
     }
     for (const GrowthPoint& point : *points) {
-      rows.push_back({Filled(name, {GroupDigits(point.instances, signs.group)}),
+      const std::string& after =
+          point.instances == 1 ? text_.GetText(kWordsAfterOneInstanceText) : name;
+      rows.push_back({Filled(after, {GroupDigits(point.instances, signs.group)}),
                       GroupDigits(point.differentWords, signs.group)});
     }
   }

@@ -19,18 +19,27 @@ ResultTable::ResultTable(const CurrentWords& words, ExpressionReader readExpress
 
 const WordRows* ResultTable::Rows() {
   if (!hasWords_) return nullptr;
-  if (!rows_) {
-    rows_.emplace(WordTable(words_.Counted(), words_.WordsRead), collation_);
-    rows_->SetOrder(order_);
-    if (!filterInForce_.text.empty()) rows_->SetFilter(filterInForce_, expression_);
-  }
+  if (!rows_) MakeRows();
   return &*rows_;
 }
 
-std::optional<std::vector<std::int32_t>> ResultTable::FilteredPlaces() {
+void ResultTable::MakeRows() {
+  try {
+    rows_.emplace(WordTable(words_.Counted(), words_.WordsRead), collation_);
+    rows_->SetOrder(order_);
+    if (!filterInForce_.text.empty()) rows_->SetFilter(filterInForce_, expression_);
+  } catch (...) {
+    // It would fail whenever the table is painted.
+    rows_.reset();
+    hasWords_ = false;
+    throw;
+  }
+}
+
+std::optional<FilteredWords> ResultTable::Filtered() {
   const WordRows* rows = filterInForce_.text.empty() ? nullptr : Rows();
   if (rows == nullptr) return std::nullopt;
-  return rows->Places();
+  return FilteredWords{filterInForce_, rows->Places()};
 }
 
 void ResultTable::SetOrder(RowOrder order) {
@@ -39,6 +48,12 @@ void ResultTable::SetOrder(RowOrder order) {
     order_ = order;
     if (rows_) rows_->SetOrder(order);
   });
+}
+
+void ResultTable::TellFaultAgain() {
+  if (fault_.empty()) return;
+  const auto read = readExpression_(filter_.text);
+  if (const auto* fault = std::get_if<ExpressionFault>(&read)) fault_ = fault->description;
 }
 
 void ResultTable::SetFilter(const RowFilter& filter) {

@@ -2,10 +2,8 @@
 // and go before its words do; the order and the filter that the user has chosen stay.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "app/list/current_words.h"
 #include "app/table/row_filter.h"
@@ -25,11 +23,12 @@ class ResultTable {
   Event<> Changing;
   Event<> Changed;
 
-  /// The rows; null while there is no list. Made when first asked for.
+  /// The rows; null while there is no list. Made when first asked for. Where the memory does not
+  /// hold them std::bad_alloc is thrown once, and there is no list from then on.
   [[nodiscard]] const WordRows* Rows();
 
-  /// The alphabetical places of the words that the filter shows; nothing while there is none.
-  [[nodiscard]] std::optional<std::vector<std::int32_t>> FilteredPlaces();
+  /// The words that the filter shows; nothing while there is none.
+  [[nodiscard]] std::optional<FilteredWords> Filtered();
 
   void SetOrder(RowOrder order);
   [[nodiscard]] RowOrder Order() const { return order_; }
@@ -37,17 +36,28 @@ class ResultTable {
   /// An expression that is not understood changes nothing but Fault.
   void SetFilter(const RowFilter& filter);
   [[nodiscard]] const RowFilter& Filter() const { return filter_; }
+  /// The last one that was understood: what the rows are filtered by.
+  [[nodiscard]] const RowFilter& FilterInForce() const { return filterInForce_; }
+  /// The fault is wanted in the language of now.
+  void TellFaultAgain();
   /// What is wrong with the filter's expression; "" for nothing.
   [[nodiscard]] const std::string& Fault() const { return fault_; }
 
  private:
-  /// Between Changing and Changed.
+  /// Between Changing and Changed. Rows that a change has failed to make are made anew.
   template <typename Action>
   void Change(Action action) {
     Changing.Fire();
-    action();
+    try {
+      action();
+    } catch (...) {
+      rows_.reset();
+      Changed.Fire();
+      throw;
+    }
     Changed.Fire();
   }
+  void MakeRows();
 
   const CurrentWords& words_;
   ExpressionReader readExpression_;

@@ -4,19 +4,13 @@
 #include <optional>
 #include <string>
 
+#include "app/table/number_signs.h"
 #include "app/table/word_rows.h"
 #include "listing/word_table.h"
 #include "sources/count_result.h"
 #include "text/program_text.h"
 
 namespace quillomat {
-
-/// In UTF-8.
-struct NumberSigns {
-  /// Between groups of three digits; "" for numbers that another program is to read.
-  std::string group = ",";
-  std::string decimal = ".";
-};
 
 /// How many words are shown and how often they occur ("37 words, 1,204 instances"), in the current
 /// language; and how far the count came, if it was stopped.

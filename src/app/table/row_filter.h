@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "engine/letter_rule.h"
 #include "engine/word_store.h"
@@ -35,6 +36,12 @@ struct RowFilter {
   std::string text;
 
   [[nodiscard]] bool operator==(const RowFilter&) const = default;
+};
+
+/// The words that a filter shows, by their alphabetical places in the store.
+struct FilteredWords {
+  RowFilter filter;
+  std::vector<std::int32_t> places;
 };
 
 /// Whether an expression matches a text in UTF-8, in any letter case. Only one thread may call it

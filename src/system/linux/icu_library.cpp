@@ -1,7 +1,8 @@
 #include "system/linux/icu_library.h"
 
-#include <dlfcn.h>
 #include <string>
+
+#include "system/shared_library.h"
 
 namespace quillomat {
 namespace {
@@ -11,21 +12,17 @@ constexpr int kOldestVersion = 49;
 /// Far beyond: two come every year. Asking for one that is not there costs microseconds.
 constexpr int kVersionsToCome = 50;
 
-template <typename Function>
-bool Find(void* library, const std::string& name, Function& function) {
-  function = reinterpret_cast<Function>(dlsym(library, name.c_str()));
-  return function != nullptr;
-}
-
 std::optional<IcuFunctions> LoadVersion(int version) {
   const std::string number = std::to_string(version);
-  void* const library = dlopen(("libicuuc.so." + number).c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) return std::nullopt;
+  const auto library = SharedLibrary::Load(("libicuuc.so." + number).c_str());
+  if (!library) return std::nullopt;
   IcuFunctions functions{};
-  const bool found = Find(library, "ubrk_open_" + number, functions.open) &&
-                     Find(library, "ubrk_setText_" + number, functions.setText) &&
-                     Find(library, "ubrk_next_" + number, functions.next) &&
-                     Find(library, "ubrk_close_" + number, functions.close);
+  const auto find = [&](const char* name, auto& function) {
+    return library->Find((name + number).c_str(), function);
+  };
+  const bool found = find("ubrk_open_", functions.open) &&
+                     find("ubrk_setText_", functions.setText) &&
+                     find("ubrk_next_", functions.next) && find("ubrk_close_", functions.close);
   if (!found) return std::nullopt;
   return functions;
 }

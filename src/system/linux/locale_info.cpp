@@ -19,12 +19,23 @@ std::string AsUtf8(std::string_view bytes) {
   return text;
 }
 
+/// "" where the locale has none.
+std::string SignOfNumbers(nl_item item) {
+  const Locale locale(newlocale(LC_NUMERIC_MASK, "", nullptr));
+  return locale ? AsUtf8(nl_langinfo_l(item, locale.get())) : std::string();
+}
+
 }  // namespace
 
 std::string DigitGroupSeparator() {
-  const Locale locale(newlocale(LC_NUMERIC_MASK, "", nullptr));
-  const std::string separator = locale ? nl_langinfo_l(THOUSEP, locale.get()) : "";
-  return separator.empty() ? "," : AsUtf8(separator);
+  const std::string separator = SignOfNumbers(THOUSEP);
+  if (!separator.empty()) return separator;
+  return DecimalSign() == "," ? "." : ",";
+}
+
+std::string DecimalSign() {
+  const std::string sign = SignOfNumbers(RADIXCHAR);
+  return sign.empty() ? "." : sign;
 }
 
 }  // namespace quillomat

@@ -6,6 +6,13 @@
 #include "system/environment.h"
 
 namespace quillomat {
+namespace {
+
+int DescriptorOf(StandardStream stream) {
+  return stream == StandardStream::kOutput ? STDOUT_FILENO : STDERR_FILENO;
+}
+
+}  // namespace
 
 // Streams are bytes here, and the terminal says itself which encoding it shows.
 Terminal::Terminal() {
@@ -18,8 +25,13 @@ Terminal::Terminal() {
 
 Terminal::~Terminal() = default;
 
+bool IsOpen(StandardStream stream) {
+  const int flags = fcntl(DescriptorOf(stream), F_GETFL);
+  return flags != -1 && (flags & O_ACCMODE) != O_RDONLY;
+}
+
 bool IsTerminal(StandardStream stream) {
-  return isatty(stream == StandardStream::kOutput ? STDOUT_FILENO : STDERR_FILENO) == 1;
+  return isatty(DescriptorOf(stream)) == 1;
 }
 
 bool ShowsColours(StandardStream stream) {

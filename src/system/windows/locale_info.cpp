@@ -7,11 +7,27 @@
 
 namespace quillomat {
 
+namespace {
+
+/// "" where the user has chosen none.
+std::string SignOfNumbers(LCTYPE type) {
+  std::array<wchar_t, 8> sign{};
+  const int units =
+      GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, type, sign.data(), static_cast<int>(sign.size()));
+  return units > 1 ? FromWide(sign.data()) : std::string();
+}
+
+}  // namespace
+
 std::string DigitGroupSeparator() {
-  std::array<wchar_t, 8> separator{};
-  const int units = GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_STHOUSAND, separator.data(),
-                                    static_cast<int>(separator.size()));
-  return units > 1 ? FromWide(separator.data()) : ",";
+  const std::string separator = SignOfNumbers(LOCALE_STHOUSAND);
+  if (!separator.empty()) return separator;
+  return DecimalSign() == "," ? "." : ",";
+}
+
+std::string DecimalSign() {
+  const std::string sign = SignOfNumbers(LOCALE_SDECIMAL);
+  return sign.empty() ? "." : sign;
 }
 
 }  // namespace quillomat

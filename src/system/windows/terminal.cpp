@@ -39,6 +39,11 @@ Terminal::~Terminal() {
   SetConsoleOutputCP(outputEncodingBefore_);
 }
 
+bool IsOpen(StandardStream stream) {
+  HANDLE const handle = HandleOf(stream);
+  return handle != nullptr && handle != INVALID_HANDLE_VALUE;
+}
+
 bool IsTerminal(StandardStream stream) {
   DWORD mode = 0;
   return GetConsoleMode(HandleOf(stream), &mode) != 0;

@@ -78,6 +78,16 @@ TEST_F(StoppedCount, SaysSoAboveTheListAndOffersANewCount) {
   EXPECT_FALSE(Main().lblNotice.Visible());
 }
 
+TEST_F(StoppedCount, NoticeOfItThatWasClosedStaysAwayWhenAnotherTextIsNamed) {
+  StopInTheSecondFile();
+  Main().cmdDismissNotice.PerformClick();
+  EXPECT_FALSE(Main().lblNotice.Visible());
+  Main().txbFolder.SetText(folder.Path());
+  EXPECT_THAT(Main().lblNotice.Caption(), StartsWith("This list is of"));
+  Count();
+  EXPECT_FALSE(Main().lblNotice.Visible());
+}
+
 TEST_F(StoppedCount, IsNotExportedAsAWholeOne) {
   StopInTheSecondFile();
   EXPECT_THAT(Facts(), AllOf(StartsWith("complete=false "), HasSubstr("files-begun=2 "),

@@ -64,10 +64,10 @@ TEST_F(ResultStatisticsTest, WhatNeedsTheOrderComesWithTheNextCountThatIsAskedFo
   EXPECT_THAT(Rows(), Contains(growth));
   EXPECT_FALSE(Main().lblNotice.Visible());
   CountClipboard("ox");
-  EXPECT_THAT(Rows(), Contains(Row{"Different words after 1 instances", "1"}));
+  EXPECT_THAT(Rows(), Contains(Row{"Different words after 1 instance", "1"}));
   program.WantOrderFigures(false);
   CountClipboard("ox");
-  EXPECT_THAT(Rows(), Not(Contains(Row{"Different words after 1 instances", "1"})));
+  EXPECT_THAT(Rows(), Not(Contains(Row{"Different words after 1 instance", "1"})));
 }
 
 TEST_F(ResultStatisticsTest, NothingIsCountedForWantsBeforeThereIsACount) {

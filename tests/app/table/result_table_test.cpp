@@ -1,5 +1,6 @@
 #include "app/table/result_table.h"
 
+#include <new>
 #include <string>
 
 #include "support/program_fixture.h"
@@ -16,6 +17,7 @@ class ResultTableTest : public ProgramFixture {
 
   static std::variant<Matcher, ExpressionFault> Read(std::string_view expression) {
     if (expression == "(") return ExpressionFault{"no end"};
+    if (expression == "too large") return [](std::string_view) -> bool { throw std::bad_alloc(); };
     return [wanted = std::string(expression)](std::string_view text) { return text == wanted; };
   }
   std::string Shown() {
@@ -76,6 +78,20 @@ TEST_F(ResultTableTest, ExpressionThatIsNotUnderstoodChangesNothing) {
   table_.SetFilter({FilterKind::kExpression, ""});
   EXPECT_EQ(table_.Fault(), "");
   EXPECT_EQ(Shown(), "cat dog ");
+}
+
+TEST_F(ResultTableTest, ChangeThatFailsForWantOfMemoryIsEndedAllTheSame) {
+  CountClipboard("cat dog");
+  ASSERT_EQ(Shown(), "cat dog ");
+  seen_.clear();
+  EXPECT_THROW(table_.SetFilter({FilterKind::kExpression, "too large"}), std::bad_alloc);
+  EXPECT_EQ(seen_, "<>");
+  // Whoever looks is told once, and finds no words from then on.
+  EXPECT_THROW(static_cast<void>(table_.Rows()), std::bad_alloc);
+  EXPECT_EQ(Shown(), "none");
+  table_.SetFilter({});
+  CountClipboard("ox");
+  EXPECT_EQ(Shown(), "ox ");
 }
 
 TEST_F(ResultTableTest, SameOrderAgainIsNoChange) {

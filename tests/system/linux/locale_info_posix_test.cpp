@@ -43,6 +43,12 @@ TEST_F(CompiledLocale, GermanHasAPoint) {
   EXPECT_TRUE(SeparatorIs("."));
 }
 
+TEST_F(CompiledLocale, SignOfGroupsIsNeverThatOfDecimals) {
+  if (!Compile("pt_PT", "UTF-8")) GTEST_SKIP() << "localedef or its locale sources are missing";
+  const ScopedVariable all("LC_ALL", "pt_PT.UTF-8");
+  EXPECT_TRUE(SeparatorIs(".")) << "it names none, and 2,000 would be two";
+}
+
 TEST_F(CompiledLocale, NumericLocaleIsEnough) {
   if (!Compile("de_DE", "UTF-8")) GTEST_SKIP() << "localedef or its locale sources are missing";
   const ScopedVariable all("LC_ALL", std::nullopt);
