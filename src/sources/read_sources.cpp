@@ -1,15 +1,6 @@
 #include "sources/read_sources.h"
 
 namespace quillomat {
-namespace {
-
-constexpr std::string_view kBetweenWords = " \t\r\n";
-/// Who writes longer ones may have one torn.
-constexpr std::size_t kLongestWord = 1024;
-constexpr std::chrono::milliseconds kNoWait{0};
-
-}  // namespace
-
 std::string_view HeadedSource::Ahead(std::size_t bytes, const std::function<bool()>& goesOn) {
   ahead_.erase(0, aheadStart_);
   aheadStart_ = 0;
@@ -55,32 +46,6 @@ bool PatientSource::IsReady(std::chrono::milliseconds longest) const {
     if (yield_.YieldFor(yield_.CallsLeft())) return true;
   }
   return true;
-}
-
-std::size_t UntilStop::Read(std::span<char> buffer) {
-  if (ended_ || buffer.empty()) return 0;
-  if (stop_.Stopped()) return ReadRestOfWord(buffer);
-  const std::size_t bytes = source_.Read(buffer);
-  ended_ = bytes == 0;
-  // The source may have ended since it was told to stop.
-  if (ended_) wasStopped_ = stop_.YieldForMany();
-  const std::string_view read(buffer.data(), bytes);
-  const std::size_t behind = read.find_last_of(kBetweenWords) + 1;
-  bytesOfWord_ = (behind == 0 ? bytesOfWord_ : 0) + bytes - behind;
-  return bytes;
-}
-
-/// Behind a stop.
-std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
-  wasStopped_ = true;
-  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
-  if (ended_) return 0;
-  const std::size_t bytes = source_.Read(buffer.first(std::min(buffer.size(), kLongestWord)));
-  const std::string_view read(buffer.data(), bytes);
-  const std::size_t rest = read.find_first_of(kBetweenWords);
-  ended_ = bytes == 0 || rest != std::string_view::npos;
-  bytesOfWord_ += bytes;
-  return std::min(rest, bytes);
 }
 
 }  // namespace quillomat

@@ -11,6 +11,7 @@
 #include "sources/late_guess_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
+#include "sources/until_stop.h"
 #include "system/file_system.h"
 
 namespace quillomat {
@@ -152,6 +153,7 @@ void TextPass::ReadStream(ByteSource& source, FileReport& report) {
     return;
   }
   if (!JudgeText(head, encoding, report)) return;
+  bytes.SetUnit(LineUnitOf(report.encoding), head);
   Begin(report, 0);
   question_.SetStream(true);
   constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);
