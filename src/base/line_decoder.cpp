@@ -5,6 +5,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 
 namespace quillomat {
@@ -88,7 +89,7 @@ std::size_t UnmarkedSource::Read(std::span<char> buffer) {
 }
 
 void UnmarkedSource::Detect() {
-  std::array<char, 3> head{};
+  std::array<char, kMostMarkBytes> head{};
   std::size_t have = 0;
   while (have < head.size()) {
     const std::size_t bytes = source_.Read(std::span(head).subspan(have));
@@ -97,16 +98,12 @@ void UnmarkedSource::Detect() {
   }
   detected_ = true;
   std::string_view start(head.data(), have);
-  if (start.starts_with("\xFF\xFE")) {
-    utf16_.emplace(Utf16Decoder::ByteOrder::kLittleEndian);
-    start.remove_prefix(2);
-  } else if (start.starts_with("\xFE\xFF")) {
-    utf16_.emplace(Utf16Decoder::ByteOrder::kBigEndian);
-    start.remove_prefix(2);
-  } else if (start.starts_with("\xEF\xBB\xBF")) {
-    start.remove_prefix(3);
-  }
-  if (utf16_) {
+  const ByteOrderMark mark = MarkOf(start);
+  start.remove_prefix(mark.bytes);
+  if (mark.IsUtf16()) {
+    const bool lowFirst = mark.kind == ByteOrderMark::Kind::kUtf16LittleEndian;
+    utf16_.emplace(lowFirst ? Utf16Decoder::ByteOrder::kLittleEndian
+                            : Utf16Decoder::ByteOrder::kBigEndian);
     utf16_->Decode(start, pending_);
   } else {
     pending_ = start;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/byte_order_mark.h"
 #include "base/line_decoder.h"
 #include "sources/encoding_guess.h"
 #include "system/system_decoder.h"
@@ -11,7 +12,6 @@ namespace quillomat {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -52,7 +52,7 @@ std::string ConvertedText(std::string_view bytes, CharacterSet from,
   decoder->Decode(bytes, text);
   decoder->End(text);
   bytesNotDecoded += decoder->BytesNotDecoded();
-  if (text.starts_with(kUtf8Mark)) text.erase(0, kUtf8Mark.size());
+  text.erase(0, text.size() - WithoutUtf8Mark(text).size());
   return text;
 }
 
