@@ -75,17 +75,11 @@ std::string DecodeText(ByteSource& source, std::int64_t* linesNotUtf8) {
 std::size_t UnmarkedSource::Read(std::span<char> buffer) {
   if (buffer.empty()) return 0;
   if (!detected_) Detect();
-  while (pendingStart_ == pending_.size()) {
-    pending_.clear();
-    pendingStart_ = 0;
+  if (pending_.IsEmpty()) {
     if (!utf16_) return source_.Read(buffer);
     DecodeUtf16Block();
-    if (pending_.empty()) return 0;
   }
-  const std::size_t bytes = std::min(buffer.size(), pending_.size() - pendingStart_);
-  std::memcpy(buffer.data(), pending_.data() + pendingStart_, bytes);
-  pendingStart_ += bytes;
-  return bytes;
+  return pending_.GiveOut(buffer);
 }
 
 void UnmarkedSource::Detect() {
@@ -104,22 +98,23 @@ void UnmarkedSource::Detect() {
     const bool lowFirst = mark.kind == ByteOrderMark::Kind::kUtf16LittleEndian;
     utf16_.emplace(lowFirst ? Utf16Decoder::ByteOrder::kLittleEndian
                             : Utf16Decoder::ByteOrder::kBigEndian);
-    utf16_->Decode(start, pending_);
+    utf16_->Decode(start, pending_.Emptied());
   } else {
-    pending_ = start;
+    pending_.PutBack(start);
   }
 }
 
 /// Decodes some more into pending_; leaves it empty only at the end of the source.
 void UnmarkedSource::DecodeUtf16Block() {
   std::vector<char> block(kBlockBytes);
-  while (pending_.empty() && !ended_) {
+  std::string& decoded = pending_.Emptied();
+  while (decoded.empty() && !ended_) {
     const std::size_t bytes = source_.Read(block);
     ended_ = bytes == 0;
     if (ended_) {
-      utf16_->End(pending_);
+      utf16_->End(decoded);
     } else {
-      utf16_->Decode({block.data(), bytes}, pending_);
+      utf16_->Decode({block.data(), bytes}, decoded);
     }
   }
 }

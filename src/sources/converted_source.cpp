@@ -1,8 +1,5 @@
 #include "sources/converted_source.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "base/byte_order_mark.h"
 #include "base/line_decoder.h"
 #include "sources/encoding_guess.h"
@@ -24,23 +21,19 @@ ConvertedSource::ConvertedSource(ByteSource& source, CharacterSet from,
 
 std::size_t ConvertedSource::Read(std::span<char> buffer) {
   if (buffer.empty()) return 0;
-  while (convertedStart_ == converted_.size() && !ended_) ConvertBlock();
-  const std::size_t bytes = std::min(buffer.size(), converted_.size() - convertedStart_);
-  if (bytes > 0) std::memcpy(buffer.data(), converted_.data() + convertedStart_, bytes);
-  convertedStart_ += bytes;
-  return bytes;
+  while (converted_.IsEmpty() && !ended_) ConvertBlock();
+  return converted_.GiveOut(buffer);
 }
 
 void ConvertedSource::ConvertBlock() {
-  converted_.clear();
-  convertedStart_ = 0;
+  std::string& converted = converted_.Emptied();
   const std::size_t bytes = source_.Read(block_);
   const std::int64_t before = decoder_->BytesNotDecoded();
   ended_ = bytes == 0;
   if (ended_) {
-    decoder_->End(converted_);
+    decoder_->End(converted);
   } else {
-    decoder_->Decode({block_.data(), bytes}, converted_);
+    decoder_->Decode({block_.data(), bytes}, converted);
   }
   bytesNotDecoded_ += decoder_->BytesNotDecoded() - before;
 }

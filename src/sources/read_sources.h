@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "base/byte_source.h"
+#include "base/bytes_ahead.h"
 #include "engine/word_scanner.h"
 #include "system/input_file.h"
 
@@ -31,26 +32,26 @@ class HeadedSource final : public ByteSource {
   }
   /// The same, but where some have come no more are waited for than `longest` each time.
   [[nodiscard]] std::string_view Ahead(std::size_t bytes, std::chrono::milliseconds longest) {
-    return Ahead(bytes, [&] { return ahead_.empty() || source_.IsReady(longest); });
+    return Ahead(bytes, [&] { return ahead_.IsEmpty() || source_.IsReady(longest); });
   }
   /// Whether all of the source has been read, if not given out.
   [[nodiscard]] bool HasEnded() const { return ended_; }
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return aheadStart_ < ahead_.size() || ended_ || source_.IsReady(longest);
+    return !ahead_.IsEmpty() || ended_ || source_.IsReady(longest);
   }
 
   /// These, which were the last to be read, come next.
-  void PutBack(std::string_view bytes);
+  void PutBack(std::string_view bytes) { ahead_.PutBack(bytes); }
 
  private:
   [[nodiscard]] std::string_view Ahead(std::size_t bytes, const std::function<bool()>& goesOn);
 
+  std::size_t ReadSource(std::span<char> buffer);
+
   ByteSource& source_;
-  /// Read ahead, and not yet given out from aheadStart_ on.
-  std::string ahead_;
-  std::size_t aheadStart_ = 0;
+  BytesAhead ahead_;
   bool ended_ = false;
   std::exception_ptr error_;
 };
