@@ -193,6 +193,13 @@ TEST_F(WordListMessages, TypedWordsAreCleanedOrRefused) {
   EXPECT_EQ(refused.text, "Too many words to ignore.");
 }
 
+TEST_F(WordListMessages, AccentsOfListsMatterThoughTheyMakeNoDifferenceInATextsWords) {
+  ASSERT_TRUE(Panel().chkFoldAccents.IsChecked());
+  TypeWords(kIgnore, "cafe");
+  CountClipboard("caf\u00E9 cafe th\u00E9 the");
+  EXPECT_EQ(StoredWords(), "caf\u00E9 th\u00E9*2");
+}
+
 // Choosing a words file.
 
 TEST_F(WordListMessages, LoadedWordsAreConfirmed) {
