@@ -172,7 +172,8 @@ constexpr auto kTable = std::to_array<Setting>({
                "Drop a final s, unless it is ss or follows a vowel")),
     Box("chkFoldAccents", {250, 499}, 1, kRescan,
         Switch(kWhatAWordIs, "--fold-accents", "--keep-accents",
-               "Words that differ in accents are one word (on), or different words")),
+               "Words that differ in accents are one word (on), or different words; in lists of "
+               "words to ignore or to count accents always matter")),
     Box("chkOutputWithCommas", {236, 486}, 0, kNothing,
         Switch(kTheList, "--comma-columns", "--no-comma-columns",
                "Commas between the columns of a list in a file")),

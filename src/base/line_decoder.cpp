@@ -5,6 +5,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/byte_order_mark.h"
 #include "base/utf8.h"
 
 namespace quillomat {
@@ -74,21 +75,15 @@ std::string DecodeText(ByteSource& source, std::int64_t* linesNotUtf8) {
 std::size_t UnmarkedSource::Read(std::span<char> buffer) {
   if (buffer.empty()) return 0;
   if (!detected_) Detect();
-  while (pendingStart_ == pending_.size()) {
-    pending_.clear();
-    pendingStart_ = 0;
+  if (pending_.IsEmpty()) {
     if (!utf16_) return source_.Read(buffer);
     DecodeUtf16Block();
-    if (pending_.empty()) return 0;
   }
-  const std::size_t bytes = std::min(buffer.size(), pending_.size() - pendingStart_);
-  std::memcpy(buffer.data(), pending_.data() + pendingStart_, bytes);
-  pendingStart_ += bytes;
-  return bytes;
+  return pending_.GiveOut(buffer);
 }
 
 void UnmarkedSource::Detect() {
-  std::array<char, 3> head{};
+  std::array<char, kMostMarkBytes> head{};
   std::size_t have = 0;
   while (have < head.size()) {
     const std::size_t bytes = source_.Read(std::span(head).subspan(have));
@@ -97,32 +92,29 @@ void UnmarkedSource::Detect() {
   }
   detected_ = true;
   std::string_view start(head.data(), have);
-  if (start.starts_with("\xFF\xFE")) {
-    utf16_.emplace(Utf16Decoder::ByteOrder::kLittleEndian);
-    start.remove_prefix(2);
-  } else if (start.starts_with("\xFE\xFF")) {
-    utf16_.emplace(Utf16Decoder::ByteOrder::kBigEndian);
-    start.remove_prefix(2);
-  } else if (start.starts_with("\xEF\xBB\xBF")) {
-    start.remove_prefix(3);
-  }
-  if (utf16_) {
-    utf16_->Decode(start, pending_);
+  const ByteOrderMark mark = MarkOf(start);
+  start.remove_prefix(mark.bytes);
+  if (mark.IsUtf16()) {
+    const bool lowFirst = mark.kind == ByteOrderMark::Kind::kUtf16LittleEndian;
+    utf16_.emplace(lowFirst ? Utf16Decoder::ByteOrder::kLittleEndian
+                            : Utf16Decoder::ByteOrder::kBigEndian);
+    utf16_->Decode(start, pending_.Emptied());
   } else {
-    pending_ = start;
+    pending_.PutBack(start);
   }
 }
 
 /// Decodes some more into pending_; leaves it empty only at the end of the source.
 void UnmarkedSource::DecodeUtf16Block() {
   std::vector<char> block(kBlockBytes);
-  while (pending_.empty() && !ended_) {
+  std::string& decoded = pending_.Emptied();
+  while (decoded.empty() && !ended_) {
     const std::size_t bytes = source_.Read(block);
     ended_ = bytes == 0;
     if (ended_) {
-      utf16_->End(pending_);
+      utf16_->End(decoded);
     } else {
-      utf16_->Decode({block.data(), bytes}, pending_);
+      utf16_->Decode({block.data(), bytes}, decoded);
     }
   }
 }

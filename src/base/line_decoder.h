@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "base/byte_source.h"
+#include "base/bytes_ahead.h"
 #include "base/text_decoder.h"
 
 namespace quillomat {
@@ -46,7 +47,7 @@ class UnmarkedSource final : public ByteSource {
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return pendingStart_ < pending_.size() || ended_ || source_.IsReady(longest);
+    return !pending_.IsEmpty() || ended_ || source_.IsReady(longest);
   }
 
  private:
@@ -57,9 +58,7 @@ class UnmarkedSource final : public ByteSource {
   bool detected_ = false;
   bool ended_ = false;
   std::optional<Utf16Decoder> utf16_;  // none for other bytes
-  /// Decoded and not yet given out, from pendingStart_ on.
-  std::string pending_;
-  std::size_t pendingStart_ = 0;
+  BytesAhead pending_;
 };
 
 class LineDecoder {

@@ -13,6 +13,7 @@
 #include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
+#include "base/byte_order_mark.h"
 #include "base/byte_source.h"
 #include "base/character_set.h"
 #include "base/limited_source.h"
@@ -251,8 +252,7 @@ class TerminalRun {
   /// No more is read than makes certain that the clipboard would not take it: input may be endless.
   void TakeAsClipboard(ByteSource& input, CharacterSet encoding) {
     constexpr std::size_t kMostBytesPerCharacter = 4;
-    constexpr std::size_t kMarkBytes = 3;
-    StartOfSource start(input, kMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
+    StartOfSource start(input, kMostMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
     std::string text = WholeText(start, encoding, clipboardUncounted_);
     clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());

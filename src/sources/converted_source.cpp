@@ -1,8 +1,6 @@
 #include "sources/converted_source.h"
 
-#include <algorithm>
-#include <cstring>
-
+#include "base/byte_order_mark.h"
 #include "base/line_decoder.h"
 #include "sources/encoding_guess.h"
 #include "system/system_decoder.h"
@@ -11,7 +9,6 @@ namespace quillomat {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -24,23 +21,19 @@ ConvertedSource::ConvertedSource(ByteSource& source, CharacterSet from,
 
 std::size_t ConvertedSource::Read(std::span<char> buffer) {
   if (buffer.empty()) return 0;
-  while (convertedStart_ == converted_.size() && !ended_) ConvertBlock();
-  const std::size_t bytes = std::min(buffer.size(), converted_.size() - convertedStart_);
-  if (bytes > 0) std::memcpy(buffer.data(), converted_.data() + convertedStart_, bytes);
-  convertedStart_ += bytes;
-  return bytes;
+  while (converted_.IsEmpty() && !ended_) ConvertBlock();
+  return converted_.GiveOut(buffer);
 }
 
 void ConvertedSource::ConvertBlock() {
-  converted_.clear();
-  convertedStart_ = 0;
+  std::string& converted = converted_.Emptied();
   const std::size_t bytes = source_.Read(block_);
   const std::int64_t before = decoder_->BytesNotDecoded();
   ended_ = bytes == 0;
   if (ended_) {
-    decoder_->End(converted_);
+    decoder_->End(converted);
   } else {
-    decoder_->Decode({block_.data(), bytes}, converted_);
+    decoder_->Decode({block_.data(), bytes}, converted);
   }
   bytesNotDecoded_ += decoder_->BytesNotDecoded() - before;
 }
@@ -52,7 +45,7 @@ std::string ConvertedText(std::string_view bytes, CharacterSet from,
   decoder->Decode(bytes, text);
   decoder->End(text);
   bytesNotDecoded += decoder->BytesNotDecoded();
-  if (text.starts_with(kUtf8Mark)) text.erase(0, kUtf8Mark.size());
+  text.erase(0, text.size() - WithoutUtf8Mark(text).size());
   return text;
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/byte_source.h"
+#include "base/bytes_ahead.h"
 #include "base/character_set.h"
 #include "base/text_decoder.h"
 #include "engine/uncounted.h"
@@ -27,7 +28,7 @@ class ConvertedSource final : public ByteSource {
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return convertedStart_ < converted_.size() || ended_ || source_.IsReady(longest);
+    return !converted_.IsEmpty() || ended_ || source_.IsReady(longest);
   }
 
  private:
@@ -37,9 +38,7 @@ class ConvertedSource final : public ByteSource {
   std::unique_ptr<TextDecoder> decoder_;
   std::int64_t& bytesNotDecoded_;
   std::vector<char> block_;
-  /// Converted, and not yet given out from convertedStart_ on.
-  std::string converted_;
-  std::size_t convertedStart_ = 0;
+  BytesAhead converted_;
   bool ended_ = false;
 };
 

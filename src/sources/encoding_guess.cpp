@@ -7,6 +7,7 @@
 #include <string>
 #include <uchardet.h>
 
+#include "base/byte_order_mark.h"
 #include "base/text_decoder.h"
 #include "system/system_decoder.h"
 
@@ -15,16 +16,11 @@ namespace {
 
 /// Enough to see which byte of UTF-16 comes first; all who ask have as many.
 constexpr std::size_t kOrderBytes = 4096;
-constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 struct DetectorCloser {
   void operator()(uchardet_t detector) const { uchardet_delete(detector); }
 };
 using Detector = std::unique_ptr<uchardet, DetectorCloser>;
-
-bool HasUtf16Mark(std::string_view head) {
-  return head.starts_with("\xFF\xFE") || head.starts_with("\xFE\xFF");
-}
 
 enum class Utf16Order : std::uint8_t { kNone, kLowByteFirst, kHighByteFirst };
 
@@ -120,10 +116,11 @@ bool LooksLikeUtf8(std::string_view head) {
 }
 
 CharacterSet CharacterSetOf(std::string_view head, CharacterSet choice) {
-  if (HasUtf16Mark(head)) return CharacterSet::kUtf16;
+  const ByteOrderMark mark = MarkOf(head);
+  if (mark.IsUtf16()) return CharacterSet::kUtf16;
   if (choice == CharacterSet::kAsFound) return choice;
   if (choice == CharacterSet::kGuess) return Guess(head.substr(0, kGuessBytes));
-  if (head.starts_with(kUtf8Mark)) return CharacterSet::kUtf8;
+  if (mark.kind == ByteOrderMark::Kind::kUtf8) return CharacterSet::kUtf8;
   return choice == CharacterSet::kUtf16 ? SetOf(LikelierOrder(head.substr(0, kOrderBytes)))
                                         : choice;
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/byte_order_mark.h"
 #include "base/byte_source.h"
 #include "sources/converted_source.h"
 #include "sources/encoding_guess.h"
@@ -118,7 +119,6 @@ void FileScanner::Read(InputFile& file, std::size_t atLeast, std::size_t atMost)
 
 /// What was read as text, whose last line has an end.
 std::string_view FileScanner::Lines(FileReport& report) {
-  constexpr std::size_t kMarkBytes = 3;
   const std::string_view bytes(memory_.data(), bytesRead_);
   const bool guesses = request_.encoding == CharacterSet::kGuess;
   if (guesses && report.convertedFrom == CharacterSet::kAsFound) {
@@ -129,7 +129,7 @@ std::string_view FileScanner::Lines(FileReport& report) {
     if (!converted_.ends_with('\n')) converted_.push_back('\n');
     return converted_;
   }
-  const std::size_t start = report.encoding == TextEncoding::kUtf8WithMark ? kMarkBytes : 0;
+  const std::size_t start = MarkOf(bytes).bytes;
   const bool ends = bytesRead_ == start || memory_[bytesRead_ - 1] == '\n';
   if (!ends) memory_[bytesRead_] = '\n';
   return {memory_.data() + start, bytesRead_ + (ends ? 0 : 1) - start};

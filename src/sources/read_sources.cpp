@@ -1,52 +1,34 @@
 #include "sources/read_sources.h"
 
 namespace quillomat {
-namespace {
-
-constexpr std::string_view kBetweenWords = " \t\r\n";
-/// Who writes longer ones may have one torn.
-constexpr std::size_t kLongestWord = 1024;
-constexpr std::chrono::milliseconds kNoWait{0};
-
-}  // namespace
 
 std::string_view HeadedSource::Ahead(std::size_t bytes, const std::function<bool()>& goesOn) {
-  ahead_.erase(0, aheadStart_);
-  aheadStart_ = 0;
-  while (ahead_.size() < bytes && !ended_ && goesOn()) {
-    const std::size_t before = ahead_.size();
-    ahead_.resize(bytes);
-    std::size_t bytesRead = 0;
+  const auto read = [this](std::span<char> buffer) -> std::size_t {
     try {
-      bytesRead = source_.Read(std::span(ahead_).subspan(before));
+      return ReadSource(buffer);
     } catch (...) {
       error_ = std::current_exception();
+      ended_ = true;
+      return 0;
     }
-    ahead_.resize(before + bytesRead);
-    ended_ = bytesRead == 0;
-  }
-  if (ahead_.empty() && error_) std::rethrow_exception(error_);
-  return std::string_view(ahead_).substr(0, bytes);
+  };
+  const std::string_view ahead = ahead_.Ahead(bytes, read, [&] { return !ended_ && goesOn(); });
+  if (ahead.empty() && error_) std::rethrow_exception(error_);
+  return ahead;
+}
+
+std::size_t HeadedSource::Read(std::span<char> buffer) {
+  if (!ahead_.IsEmpty()) return ahead_.GiveOut(buffer);
+  if (error_) std::rethrow_exception(error_);
+  return ReadSource(buffer);
 }
 
 /// An end stays one: a terminal would be asked anew.
-std::size_t HeadedSource::Read(std::span<char> buffer) {
-  if (aheadStart_ < ahead_.size()) {
-    const std::size_t bytes = std::min(buffer.size(), ahead_.size() - aheadStart_);
-    if (bytes > 0) std::memcpy(buffer.data(), ahead_.data() + aheadStart_, bytes);
-    aheadStart_ += bytes;
-    return bytes;
-  }
-  if (error_) std::rethrow_exception(error_);
+std::size_t HeadedSource::ReadSource(std::span<char> buffer) {
   if (ended_ || buffer.empty()) return 0;
   const std::size_t bytes = source_.Read(buffer);
   ended_ = bytes == 0;
   return bytes;
-}
-
-void HeadedSource::PutBack(std::string_view bytes) {
-  ahead_.replace(0, aheadStart_, bytes);
-  aheadStart_ = 0;
 }
 
 bool PatientSource::IsReady(std::chrono::milliseconds longest) const {
@@ -55,32 +37,6 @@ bool PatientSource::IsReady(std::chrono::milliseconds longest) const {
     if (yield_.YieldFor(yield_.CallsLeft())) return true;
   }
   return true;
-}
-
-std::size_t UntilStop::Read(std::span<char> buffer) {
-  if (ended_ || buffer.empty()) return 0;
-  if (stop_.Stopped()) return ReadRestOfWord(buffer);
-  const std::size_t bytes = source_.Read(buffer);
-  ended_ = bytes == 0;
-  // The source may have ended since it was told to stop.
-  if (ended_) wasStopped_ = stop_.YieldForMany();
-  const std::string_view read(buffer.data(), bytes);
-  const std::size_t behind = read.find_last_of(kBetweenWords) + 1;
-  bytesOfWord_ = (behind == 0 ? bytesOfWord_ : 0) + bytes - behind;
-  return bytes;
-}
-
-/// Behind a stop.
-std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
-  wasStopped_ = true;
-  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
-  if (ended_) return 0;
-  const std::size_t bytes = source_.Read(buffer.first(std::min(buffer.size(), kLongestWord)));
-  const std::string_view read(buffer.data(), bytes);
-  const std::size_t rest = read.find_first_of(kBetweenWords);
-  ended_ = bytes == 0 || rest != std::string_view::npos;
-  bytesOfWord_ += bytes;
-  return std::min(rest, bytes);
 }
 
 }  // namespace quillomat

@@ -1,5 +1,5 @@
-// Sources around a source: one whose head can be looked at before it is read, one that counts, one
-// that lets the program live while it waits for a pipe, and one that a stop brings to its end.
+// Sources around a source: one whose head can be looked at before it is read, one that counts, and
+// one that lets the program live while it waits for a pipe.
 #pragma once
 
 #include <algorithm>
@@ -15,8 +15,8 @@
 #include <string_view>
 
 #include "base/byte_source.h"
+#include "base/bytes_ahead.h"
 #include "engine/word_scanner.h"
-#include "sources/stop_question.h"
 #include "system/input_file.h"
 
 namespace quillomat {
@@ -33,26 +33,26 @@ class HeadedSource final : public ByteSource {
   }
   /// The same, but where some have come no more are waited for than `longest` each time.
   [[nodiscard]] std::string_view Ahead(std::size_t bytes, std::chrono::milliseconds longest) {
-    return Ahead(bytes, [&] { return ahead_.empty() || source_.IsReady(longest); });
+    return Ahead(bytes, [&] { return ahead_.IsEmpty() || source_.IsReady(longest); });
   }
   /// Whether all of the source has been read, if not given out.
   [[nodiscard]] bool HasEnded() const { return ended_; }
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return aheadStart_ < ahead_.size() || ended_ || source_.IsReady(longest);
+    return !ahead_.IsEmpty() || ended_ || source_.IsReady(longest);
   }
 
   /// These, which were the last to be read, come next.
-  void PutBack(std::string_view bytes);
+  void PutBack(std::string_view bytes) { ahead_.PutBack(bytes); }
 
  private:
   [[nodiscard]] std::string_view Ahead(std::size_t bytes, const std::function<bool()>& goesOn);
 
+  std::size_t ReadSource(std::span<char> buffer);
+
   ByteSource& source_;
-  /// Read ahead, and not yet given out from aheadStart_ on.
-  std::string ahead_;
-  std::size_t aheadStart_ = 0;
+  BytesAhead ahead_;
   bool ended_ = false;
   std::exception_ptr error_;
 };
@@ -100,32 +100,6 @@ class PatientSource final : public ByteSource {
 
   InputFile& file_;
   ScanYield& yield_;
-};
-
-/// The bytes of a stream, which cannot be had a second time, until the count is stopped: what was
-/// read before is to be counted. Where more is at hand, the word at their end is read to its end,
-/// so that a stop makes no words.
-class UntilStop final : public ByteSource {
- public:
-  /// Both outlive it.
-  UntilStop(ByteSource& source, StopQuestion& stop) : source_(source), stop_(stop) {}
-
-  std::size_t Read(std::span<char> buffer) override;
-  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return ended_ || stop_.Stopped() || source_.IsReady(longest);
-  }
-  /// Whether there may have been more.
-  [[nodiscard]] bool WasStopped() const { return wasStopped_; }
-
- private:
-  [[nodiscard]] std::size_t ReadRestOfWord(std::span<char> buffer);
-
-  ByteSource& source_;
-  StopQuestion& stop_;
-  /// So many bytes were read since a blank or a line end.
-  std::size_t bytesOfWord_ = 0;
-  bool ended_ = false;
-  bool wasStopped_ = false;
 };
 
 }  // namespace quillomat

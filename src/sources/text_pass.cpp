@@ -6,11 +6,13 @@
 #include <optional>
 #include <span>
 
+#include "base/byte_order_mark.h"
 #include "base/run_time_error.h"
 #include "sources/converted_source.h"
 #include "sources/late_guess_source.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
+#include "sources/until_stop.h"
 #include "system/file_system.h"
 
 namespace quillomat {
@@ -21,10 +23,16 @@ constexpr std::chrono::milliseconds kWaitForHead{500};
 constexpr std::chrono::milliseconds kMoment{8};
 
 TextEncoding EncodingOf(std::string_view head) {
-  if (head.starts_with("\xEF\xBB\xBF")) return TextEncoding::kUtf8WithMark;
-  if (head.starts_with("\xFF\xFE")) return TextEncoding::kUtf16LittleEndian;
-  if (head.starts_with("\xFE\xFF")) return TextEncoding::kUtf16BigEndian;
-  return TextEncoding::kUtf8OrWindows1252;
+  switch (MarkOf(head).kind) {
+    case ByteOrderMark::Kind::kUtf8:
+      return TextEncoding::kUtf8WithMark;
+    case ByteOrderMark::Kind::kUtf16LittleEndian:
+      return TextEncoding::kUtf16LittleEndian;
+    case ByteOrderMark::Kind::kUtf16BigEndian:
+      return TextEncoding::kUtf16BigEndian;
+    default:
+      return TextEncoding::kUtf8OrWindows1252;
+  }
 }
 
 bool IsOverflow(const RunTimeError& error) {
@@ -152,6 +160,7 @@ void TextPass::ReadStream(ByteSource& source, FileReport& report) {
     return;
   }
   if (!JudgeText(head, encoding, report)) return;
+  bytes.SetUnit(LineUnitOf(report.encoding), head);
   Begin(report, 0);
   question_.SetStream(true);
   constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);

@@ -1,8 +1,5 @@
 #include "system/input_file.h"
 
-#include <algorithm>
-#include <cstring>
-
 namespace quillomat {
 
 InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForReading(path)) {
@@ -28,37 +25,21 @@ bool InputFile::AwaitsWriter() {
   char first = 0;
   const std::optional<std::size_t> bytes = file_.ReadAtHand({&first, 1});
   if (!bytes) return false;
-  ahead_.append(&first, *bytes);
+  ahead_.PutBack({&first, *bytes});
   bytesRead_ += static_cast<std::int64_t>(*bytes);
   return *bytes == 0;
 }
 
 std::size_t InputFile::Read(std::span<char> buffer) {
-  if (aheadStart_ == ahead_.size()) return ReadFile(buffer);
-  const std::size_t bytes = std::min(buffer.size(), ahead_.size() - aheadStart_);
-  if (bytes > 0) std::memcpy(buffer.data(), ahead_.data() + aheadStart_, bytes);
-  aheadStart_ += bytes;
-  return bytes;
+  return ahead_.IsEmpty() ? ReadFile(buffer) : ahead_.GiveOut(buffer);
 }
 
 std::string_view InputFile::Ahead(std::size_t bytes) {
-  ahead_.erase(0, aheadStart_);
-  aheadStart_ = 0;
   // That a file of known length is at its end is not asked for: most files are small, and every
   // question costs.
-  while (ahead_.size() < bytes && !ended_ && (length_ == 0 || bytesRead_ != length_)) {
-    const std::size_t before = ahead_.size();
-    ahead_.resize(bytes);
-    std::size_t bytesRead = 0;
-    try {
-      bytesRead = ReadFile(std::span(ahead_).subspan(before));
-    } catch (...) {
-      ahead_.resize(before);
-      throw;
-    }
-    ahead_.resize(before + bytesRead);
-  }
-  return std::string_view(ahead_).substr(0, bytes);
+  const auto goesOn = [this] { return length_ == 0 || bytesRead_ != length_; };
+  return ahead_.Ahead(
+      bytes, [this](std::span<char> buffer) { return ReadFile(buffer); }, goesOn);
 }
 
 /// An end stays one, though a file may grow meanwhile.

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/byte_source.h"
+#include "base/bytes_ahead.h"
 #include "system/file_identity.h"
 #include "system/native_file.h"
 
@@ -32,7 +33,7 @@ class InputFile final : public ByteSource, private PlacedBytes {
 
   /// See NativeFile::IsReady.
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
-    return aheadStart_ < ahead_.size() || ended_ || file_.IsReady(longest);
+    return !ahead_.IsEmpty() || ended_ || file_.IsReady(longest);
   }
 
   /// Of a pipe of which nothing was read yet: whether nobody has opened it for writing. Always
@@ -65,9 +66,7 @@ class InputFile final : public ByteSource, private PlacedBytes {
   /// So many bytes have been read from the file, or skipped.
   std::int64_t bytesRead_ = 0;
   bool ended_ = false;
-  /// Read ahead, and not yet given out from aheadStart_ on.
-  std::string ahead_;
-  std::size_t aheadStart_ = 0;
+  BytesAhead ahead_;
 };
 
 }  // namespace quillomat

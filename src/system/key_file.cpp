@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "base/byte_order_mark.h"
 #include "base/letter_case.h"
 #include "base/limited_source.h"
 #include "base/run_time_error.h"
@@ -13,7 +14,6 @@
 namespace quillomat {
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kCommentSigns = "#;";
 
@@ -100,8 +100,7 @@ std::string ReadWhole(const std::string& path) {
   std::string contents;
   std::array<char, 4096> block{};
   while (const std::size_t bytes = file.Read(block)) contents.append(block.data(), bytes);
-  if (contents.starts_with(kByteOrderMark)) contents.erase(0, kByteOrderMark.size());
-  return contents;
+  return std::string(WithoutUtf8Mark(contents));
 }
 
 std::vector<std::string> LinesOf(const std::string& contents) {

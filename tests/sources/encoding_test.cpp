@@ -43,16 +43,6 @@ constexpr std::string_view kUkrainianKoi8 =
     "\xBD\xC1\xCE\xCF\xCB \xA6 \xD3\xC1\xC4, \xA7\xD6\xC1\xCB \xC2\xA6\xD6\xC9\xD4\xD8 \xC4\xCF "
     "\xCC\xA6\xD3\xD5, \xA4 \xD7\xCF\xC4\xC1 \xCA \xD4\xC9\xC8\xC1 \xD2\xA6\xDE\xCB\xC1.\n";
 
-std::string InUtf16(std::u16string_view text, bool highByteFirst) {
-  std::string bytes;
-  for (const char16_t unit : text) {
-    const char high = static_cast<char>(unit >> 8U);
-    const char low = static_cast<char>(unit & 0xFFU);
-    bytes.append({highByteFirst ? high : low, highByteFirst ? low : high});
-  }
-  return bytes;
-}
-
 class Encodings : public CounterFixture {
  protected:
   Encodings() {

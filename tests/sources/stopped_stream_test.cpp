@@ -9,9 +9,12 @@
 
 #include "sources/counter_fixture.h"
 #include "sources/file_columns.h"
+#include "support/encoded_texts.h"
 
 namespace quillomat {
 namespace {
+
+using namespace std::string_view_literals;
 
 /// A pipe into which somebody writes one portion after the other, with a pause behind each. When
 /// there is none left, the count is stopped.
@@ -107,6 +110,47 @@ TEST_P(StoppedStream, MakesNoWordsOfItsOwn) {
   EXPECT_EQ(result.store.NumDifferentWords(), 1) << WordsOf(result);
   EXPECT_LT(result.wordsRead, 300'000);
   EXPECT_EQ((result.reports.at(0).bytesRead + 1) / 10, result.wordsRead);
+}
+
+TEST_P(StoppedStream, MakesNoWordsOfItsOwnInUtf16) {
+  // The bytes of its letters are those of blanks, too.
+  const std::u16string_view word = u"АРАРАРАРА\n";
+  request.scan.letters = LetterRule::kAll;
+  for (const bool highByteFirst : {false, true}) {
+    const std::string mark = highByteFirst ? "\xFE\xFF" : "\xFF\xFE";
+    observer.stopped = false;
+    observer.stopAtWord = 1;
+    const CountResult result = CountOf({mark + Repeated(InUtf16(word, highByteFirst), 400'000)});
+    EXPECT_EQ(result.end, CountEnd::kStopped);
+    EXPECT_EQ(WordsOf(result), "арарарара*" + std::to_string(result.wordsRead));
+    EXPECT_LT(result.wordsRead, 400'000);
+    EXPECT_EQ(result.uncounted, Uncounted());
+    EXPECT_EQ(result.reports.at(0).bytesRead % 2, 0);
+  }
+}
+
+TEST_P(StoppedStream, TakesWholeCharactersOfUtf16HoweverTheyCome) {
+  const std::string text = "\xFF\xFE" + InUtf16(u"cat dog birds", false);
+  for (const std::size_t headBytes : {2U, 3U, 4U, 9U}) {
+    std::vector<std::string> portions = {text.substr(0, headBytes)};
+    std::size_t come = headBytes;
+    for (const std::size_t bytes : {1U, 1U, 5U, 1U, 3U}) {
+      portions.push_back(text.substr(come, bytes));
+      come += bytes;
+    }
+    observer.stopped = false;
+    const CountResult result = CountOf(portions);
+    const CountResult whole = CountOf({text.substr(0, come - come % 2)});
+    EXPECT_EQ(WordsOf(result), WordsOf(whole)) << headBytes;
+    EXPECT_EQ(result.uncounted, Uncounted()) << headBytes;
+  }
+}
+
+TEST_P(StoppedStream, HalfACharacterOfUtf16AtTheEndOfAllIsToldOf) {
+  TextSource text(
+      "\xFF\xFE"
+      "c\0a\0t"sv);
+  EXPECT_EQ(Run(TextOfStream{&text, "pipe"}).uncounted.bytesNotDecoded, 1);
 }
 
 TEST_P(StoppedStream, ThatEndsByItselfWasReadToItsEnd) {

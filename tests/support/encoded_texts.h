@@ -3,12 +3,23 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "base/character_set.h"
 #include "system/system_decoder.h"
 
 namespace quillomat {
+
+inline std::string InUtf16(std::u16string_view text, bool highByteFirst) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    const char high = static_cast<char>(unit >> 8U);
+    const char low = static_cast<char>(unit & 0xFFU);
+    bytes.append({highByteFirst ? high : low, highByteFirst ? low : high});
+  }
+  return bytes;
+}
 
 struct EncodedText {
   CharacterSet set;

@@ -126,16 +126,16 @@ void WordListReader::DecodeTypedWords(WordListKind kind) {
   messages_.Warn(Filled(messages_.Text(kTypedNotUtf8Text), {KindName(kind)}), "Invalid input");
 }
 
-std::string WordListReader::GetExtraWords(WordListKind kind) {
+WordListReader::TypedWords WordListReader::GetExtraWords(WordListKind kind) {
   SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()),
                                       ReadKeyRule(frmParams_).letters, MakeSystemSegmenter);
   if (!typed.fits) {
-    return IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words.";
+    return {false, IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words."};
   }
   std::string cleaned = JoinWithBlanks(typed.items);
   ExtraList(kind) = WordList(std::move(typed.items));
   ListTaken.Fire();
-  return cleaned;
+  return {true, std::move(cleaned)};
 }
 
 void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
@@ -146,12 +146,12 @@ void WordListReader::OnExtraWordsLostFocus(WordListKind kind) {
     lossyTyped_[IndexOf(kind)].clear();
     return ListTaken.Fire();
   }
-  const std::string result = GetExtraWords(kind);
-  if (result.ends_with('.')) {
-    messages_.Refuse(result, "Invalid input");
+  const TypedWords words = GetExtraWords(kind);
+  if (words.taken) {
+    box.SetText(words.text);
+    TellTypedLosses(kind, words.text);
   } else {
-    box.SetText(result);
-    TellTypedLosses(kind, result);
+    messages_.Refuse(words.text, "Invalid input");
   }
 }
 
@@ -296,13 +296,13 @@ bool WordListReader::TakeBoxes() {
 
 bool WordListReader::TakeTypedWords(WordListKind kind) {
   DecodeTypedWords(kind);
-  const std::string result = GetExtraWords(kind);
-  if (result.ends_with('.')) {
-    messages_.Refuse(result, "Invalid input");
-    return false;
+  const TypedWords words = GetExtraWords(kind);
+  if (words.taken) {
+    TellTypedLosses(kind, words.text);
+  } else {
+    messages_.Refuse(words.text, "Invalid input");
   }
-  TellTypedLosses(kind, result);
-  return true;
+  return words.taken;
 }
 
 bool WordListReader::TakeWordsFile(WordListKind kind) {

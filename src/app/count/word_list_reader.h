@@ -30,9 +30,15 @@ class WordListReader {
         paths_(paths),
         flags_(facts.flags) {}
 
-  /// Parses the typed words into their list. Returns the cleaned text of the list or, when there
-  /// are too many words, the message that says so; only the message ends with ".".
-  std::string GetExtraWords(WordListKind kind);
+  /// What came of typed words.
+  struct TypedWords {
+    /// False where there are too many; the list stands as it was.
+    bool taken = true;
+    /// The cleaned text of the list or, where it was not taken, the message that says why.
+    std::string text;
+  };
+  /// Parses the typed words into their list.
+  TypedWords GetExtraWords(WordListKind kind);
   /// What happens when the user leaves the box of typed words.
   void OnExtraWordsLostFocus(WordListKind kind);
 

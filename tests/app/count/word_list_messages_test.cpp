@@ -180,13 +180,24 @@ TEST_F(WordListMessages, LettersOfAWordsFileThatACountCannotUseAreToldOf) {
                 "Words loaded", MessageIcon::kExclamation);
 }
 
-TEST_F(WordListMessages, OnlyTheMessageEndsWithAFullStop) {
+TEST_F(WordListMessages, TypedWordsAreCleanedOrRefused) {
   Panel().txbWordsToIgnoreOrCount[0].SetText(" End. Stop... ");
   ProgramParts parts({Main(), Panel(), program.frmHelp, program.frmExport}, desktop,
                      std::chrono::steady_clock::now);
-  EXPECT_EQ(parts.wordLists.GetExtraWords(kIgnore), "end stop");
+  const WordListReader::TypedWords taken = parts.wordLists.GetExtraWords(kIgnore);
+  EXPECT_TRUE(taken.taken);
+  EXPECT_EQ(taken.text, "end stop");
   Panel().txbWordsToIgnoreOrCount[0].SetText(ManyWords(1'001));
-  EXPECT_EQ(parts.wordLists.GetExtraWords(kIgnore), "Too many words to ignore.");
+  const WordListReader::TypedWords refused = parts.wordLists.GetExtraWords(kIgnore);
+  EXPECT_FALSE(refused.taken);
+  EXPECT_EQ(refused.text, "Too many words to ignore.");
+}
+
+TEST_F(WordListMessages, AccentsOfListsMatterThoughTheyMakeNoDifferenceInATextsWords) {
+  ASSERT_TRUE(Panel().chkFoldAccents.IsChecked());
+  TypeWords(kIgnore, "cafe");
+  CountClipboard("caf\u00E9 cafe th\u00E9 the");
+  EXPECT_EQ(StoredWords(), "caf\u00E9 th\u00E9*2");
 }
 
 // Choosing a words file.

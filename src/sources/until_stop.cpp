@@ -1,0 +1,101 @@
+#include "sources/until_stop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillomat {
+namespace {
+
+constexpr std::string_view kBetweenWords = " \t\r\n";
+/// Who writes longer ones may have one torn.
+constexpr std::size_t kLongestWord = 1024;
+constexpr std::chrono::milliseconds kNoWait{0};
+/// Bytes of a unit of UTF-16.
+constexpr std::size_t kUnitBytes = 2;
+
+}  // namespace
+
+void UntilStop::SetUnit(LineTally::Unit unit, std::string_view head) {
+  unit_ = unit;
+  bytesOfWord_ = head.size() - BehindLastBlank(head);
+}
+
+std::size_t UntilStop::Read(std::span<char> buffer) {
+  if (ended_ || buffer.empty()) return 0;
+  if (stop_.Stopped()) return ReadRestOfWord(buffer);
+  const std::size_t bytes = ReadUnits(buffer);
+  ended_ = bytes == 0;
+  // The source may have ended since it was told to stop.
+  if (ended_) wasStopped_ = stop_.YieldForMany();
+  const std::string_view read(buffer.data(), bytes);
+  const std::size_t behind = BehindLastBlank(read);
+  bytesOfWord_ = (behind == 0 ? bytesOfWord_ : 0) + bytes - behind;
+  return bytes;
+}
+
+/// The first half of a unit waits for the second, unless the text ends with it.
+std::size_t UntilStop::ReadUnits(std::span<char> buffer) {
+  std::size_t bytes = 0;
+  if (held_) buffer[bytes++] = *std::exchange(held_, std::nullopt);
+  for (bool more = true; more;) {
+    const std::size_t fresh = source_.Read(buffer.subspan(bytes));
+    bytes += fresh;
+    const bool halved = unit_ != LineTally::Unit::kByte && (bytesRead_ + bytes) % kUnitBytes != 0;
+    more = fresh > 0 && halved && bytes == 1 && buffer.size() > 1;
+    if (fresh > 0 && halved && bytes > 1) held_ = buffer[--bytes];
+    if (fresh == 0 && halved && stop_.YieldForMany()) bytes = 0;
+  }
+  bytesRead_ += bytes;
+  return bytes;
+}
+
+/// Behind a stop.
+std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
+  wasStopped_ = true;
+  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
+  if (ended_) return 0;
+  const std::size_t bytes = ReadUnits(buffer.first(std::min(buffer.size(), kLongestWord)));
+  const std::size_t rest = FirstBlank({buffer.data(), bytes});
+  ended_ = bytes == 0 || rest < bytes;
+  bytesOfWord_ += bytes;
+  return rest;
+}
+
+/// Where the first whole unit of `bytes` begins, which were the last to be read.
+std::size_t UntilStop::FirstUnit(std::string_view bytes) const {
+  return std::min((bytesRead_ - bytes.size()) % kUnitBytes, bytes.size());
+}
+
+/// Whether a unit of UTF-16 does not belong to a word.
+bool UntilStop::IsBetweenWords(std::string_view unit) const {
+  const bool lowFirst = unit_ == LineTally::Unit::kLittleEndian;
+  const char low = unit[lowFirst ? 0 : 1];
+  const char high = unit[lowFirst ? 1 : 0];
+  return high == 0 && kBetweenWords.find(low) != kBetweenWords.npos;
+}
+
+/// Of bytes that were the last to be read: where what stands behind the last blank begins, 0 if
+/// there is none.
+std::size_t UntilStop::BehindLastBlank(std::string_view bytes) const {
+  if (unit_ == LineTally::Unit::kByte) return bytes.find_last_of(kBetweenWords) + 1;
+  const std::size_t first = FirstUnit(bytes);
+  for (std::size_t units = (bytes.size() - first) / kUnitBytes; units > 0; --units) {
+    const std::size_t end = first + units * kUnitBytes;
+    if (IsBetweenWords(bytes.substr(end - kUnitBytes, kUnitBytes))) return end;
+  }
+  return 0;
+}
+
+/// The same: where the first blank begins, or their number if there is none.
+std::size_t UntilStop::FirstBlank(std::string_view bytes) const {
+  if (unit_ == LineTally::Unit::kByte) {
+    return std::min(bytes.find_first_of(kBetweenWords), bytes.size());
+  }
+  std::size_t place = FirstUnit(bytes);
+  for (; place + kUnitBytes <= bytes.size(); place += kUnitBytes) {
+    if (IsBetweenWords(bytes.substr(place, kUnitBytes))) return place;
+  }
+  return bytes.size();
+}
+
+}  // namespace quillomat

@@ -1,0 +1,55 @@
+// A stream that a stop brings to its end.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/byte_source.h"
+#include "sources/line_tally.h"
+#include "sources/stop_question.h"
+
+namespace quillomat {
+
+/// The bytes of a stream, which cannot be had a second time, until the count is stopped: what was
+/// read before is to be counted. Where more is at hand, the word at their end is read to its end,
+/// so that a stop makes no words.
+class UntilStop final : public ByteSource {
+ public:
+  /// Both outlive it.
+  UntilStop(ByteSource& source, StopQuestion& stop) : source_(source), stop_(stop) {}
+
+  /// What the characters consist of, known once all that was read, which is `head`, has been looked
+  /// at. Until then they are bytes. Whatever comes behind ends with a whole unit.
+  void SetUnit(LineTally::Unit unit, std::string_view head);
+
+  std::size_t Read(std::span<char> buffer) override;
+  [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
+    return ended_ || stop_.Stopped() || source_.IsReady(longest);
+  }
+  /// Whether there may have been more.
+  [[nodiscard]] bool WasStopped() const { return wasStopped_; }
+
+ private:
+  [[nodiscard]] std::size_t ReadUnits(std::span<char> buffer);
+  [[nodiscard]] std::size_t ReadRestOfWord(std::span<char> buffer);
+  [[nodiscard]] std::size_t FirstUnit(std::string_view bytes) const;
+  [[nodiscard]] bool IsBetweenWords(std::string_view unit) const;
+  [[nodiscard]] std::size_t BehindLastBlank(std::string_view bytes) const;
+  [[nodiscard]] std::size_t FirstBlank(std::string_view bytes) const;
+
+  ByteSource& source_;
+  StopQuestion& stop_;
+  LineTally::Unit unit_ = LineTally::Unit::kByte;
+  std::size_t bytesRead_ = 0;
+  /// Read from the source, and the first half of a unit.
+  std::optional<char> held_;
+  /// So many bytes were read since a blank or a line end.
+  std::size_t bytesOfWord_ = 0;
+  bool ended_ = false;
+  bool wasStopped_ = false;
+};
+
+}  // namespace quillomat
