@@ -87,9 +87,9 @@ void Measured(benchmark::internal::Benchmark* benchmark) {
 
 BENCHMARK(RowsAreMade)->Apply(Measured);
 BENCHMARK(WordsAreOrdered)->Apply(Measured);
-BENCHMARK_CAPTURE(WordsAreFiltered, contain, FilterKind::kContain, "ta")->Apply(Measured);
-BENCHMARK_CAPTURE(WordsAreFiltered, begin, FilterKind::kBeginWith, "ta")->Apply(Measured);
-BENCHMARK_CAPTURE(WordsAreFiltered, end, FilterKind::kEndWith, "ta")->Apply(Measured);
+BENCHMARK_CAPTURE(WordsAreFiltered, contain, FilterKind::kContains, "ta")->Apply(Measured);
+BENCHMARK_CAPTURE(WordsAreFiltered, begin, FilterKind::kStartsWith, "ta")->Apply(Measured);
+BENCHMARK_CAPTURE(WordsAreFiltered, end, FilterKind::kEndsWith, "ta")->Apply(Measured);
 BENCHMARK_CAPTURE(WordsAreFiltered, pattern, FilterKind::kPattern, "t?*a*")->Apply(Measured);
 BENCHMARK_CAPTURE(WordsAreFiltered, letter, FilterKind::kExpression, "t")->Apply(Measured);
 BENCHMARK_CAPTURE(WordsAreFiltered, doubled, FilterKind::kExpression, "(.)\\1")->Apply(Measured);

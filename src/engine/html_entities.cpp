@@ -33,16 +33,21 @@ constexpr std::array<Entity, 62> kEntities = {{
     {"&yacute;", "ý"}, {"&yuml;", "ÿ"},
 }};
 
+constexpr std::size_t kShortestHtmlEntity = 4;
+
 constexpr std::size_t kLongestName = 8;
 static_assert(std::ranges::all_of(kEntities, [](const Entity& entity) {
   return entity.name.size() <= kLongestName;
 }));
 
-/// A name as a number, so that names are in the same order as numbers.
-constexpr std::uint64_t NumberOf(std::string_view name) {
+/// A name as a number, so that names are in the same order as numbers; with `small` that of the
+/// name in small letters.
+constexpr std::uint64_t NumberOf(std::string_view name, bool small = false) {
   std::uint64_t number = 0;
   for (std::size_t i = 0; i < kLongestName; ++i) {
-    number = number << 8U | (i < name.size() ? static_cast<unsigned char>(name[i]) : 0U);
+    const unsigned byte = i < name.size() ? static_cast<unsigned char>(name[i]) : 0U;
+    const bool isLowered = small && byte >= 'A' && byte <= 'Z';
+    number = number << 8U | (isLowered ? byte + ('a' - 'A') : byte);
   }
   return number;
 }
@@ -54,20 +59,11 @@ constexpr std::array<std::uint64_t, kEntities.size()> kNumbers = [] {
 }();
 static_assert(std::ranges::is_sorted(kNumbers));
 
-/// The number of a name in small letters.
-std::uint64_t SmallNumberOf(std::string_view name) {
-  std::array<char, kLongestName> small{};
-  std::ranges::transform(name, small.begin(), [](char ch) {
-    return ch >= 'A' && ch <= 'Z' ? static_cast<char>(ch + ('a' - 'A')) : ch;
-  });
-  return NumberOf({small.data(), name.size()});
-}
-
 /// The letter of an entity ("&eacute;"), or an empty text when it is none that is decoded. With
 /// `anyCase` its letter case makes no difference, and the letter is a small one.
 std::string_view LetterOf(std::string_view entity, bool anyCase) {
   if (entity.size() > kLongestName) return {};
-  const std::uint64_t number = anyCase ? SmallNumberOf(entity) : NumberOf(entity);
+  const std::uint64_t number = NumberOf(entity, anyCase);
   const auto* const found = std::ranges::lower_bound(kNumbers, number);
   if (found == kNumbers.end() || *found != number) return {};
   return kEntities[static_cast<std::size_t>(found - kNumbers.begin())].letter;
@@ -122,19 +118,6 @@ bool IsAsciiLetter(char ch) {
   return (ch >= 'A' && ch <= 'Z') || (ch >= 'a' && ch <= 'z');
 }
 
-/// Where an entity ends that consists of ASCII, which nearly all do: behind its ";", or 0 for none.
-/// Nothing where another character is met first. `text` starts with "&".
-std::optional<std::size_t> EndOfPlainEntity(std::string_view text) {
-  const std::string_view head = text.substr(0, kLongestHtmlEntity);
-  for (std::size_t i = 1; i < head.size(); ++i) {
-    const char ch = head[i];
-    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
-    if (ch == ' ' || (i == 1 && ch != '#' && !IsAsciiLetter(ch))) return 0;
-    if (ch == ';') return i + 1;
-  }
-  return 0;
-}
-
 }  // namespace
 
 void DecodeHtmlEntities(std::string& text) {
@@ -158,10 +141,22 @@ bool DecodeHtmlEntitiesOfPart(std::string_view part, bool anyCase, bool& hidden,
   return any;
 }
 
+std::optional<std::size_t> EndOfPlainHtmlEntity(std::string_view text, bool inLines) {
+  const std::string_view head = text.substr(0, kLongestHtmlEntity);
+  for (std::size_t i = 1; i < head.size(); ++i) {
+    const char ch = head[i];
+    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
+    if (ch == ' ' || (i == 1 && ch != '#' && !IsAsciiLetter(ch))) return 0;
+    if (ch == ';') return i + 1 >= kShortestHtmlEntity ? i + 1 : 0;
+    if (!inLines) continue;
+    if (ch == '\n' || ch == '\r' || (ch == '-' && head[i - 1] == '-')) return 0;
+  }
+  return 0;
+}
+
 std::size_t HtmlEntityEnd(std::string_view text) {
-  constexpr std::size_t kShortest = 4;
   if (!text.starts_with('&')) return 0;
-  if (const auto end = EndOfPlainEntity(text)) return *end >= kShortest ? *end : 0;
+  if (const auto plain = EndOfPlainHtmlEntity(text, false)) return *plain;
   const std::string_view head = text.substr(0, BytesOfFirst(text, kLongestHtmlEntity));
   const std::size_t semicolon = head.find(';');
   if (semicolon == std::string_view::npos) return 0;
@@ -170,7 +165,7 @@ std::size_t HtmlEntityEnd(std::string_view text) {
   static const CharClass kLetters;
   if (inside[0] != '#' && kLetters.WordCharBytes(inside, 0) == 0) return 0;
   const std::size_t end = CharacterCount(head.substr(0, semicolon + 1));
-  return end >= kShortest ? end : 0;
+  return end >= kShortestHtmlEntity ? end : 0;
 }
 
 }  // namespace quillomat

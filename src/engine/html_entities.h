@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,5 +31,10 @@ inline constexpr std::size_t kLongestHtmlEntity = 20;
 /// or 0 when none starts there: "&", then a letter or "#", at least 4 characters up to and with a
 /// ";" among the first kLongestHtmlEntity, and no blank before it.
 [[nodiscard]] std::size_t HtmlEntityEnd(std::string_view text);
+
+/// The same where nothing but ASCII is met up to that ";", as in nearly all entities; nothing where
+/// another character is. `text` starts with "&". With `inLines` it holds lines as they stand in a
+/// file: no entity goes beyond its line, and two hyphens stand for a blank.
+[[nodiscard]] std::optional<std::size_t> EndOfPlainHtmlEntity(std::string_view text, bool inLines);
 
 }  // namespace quillomat

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "base/letter_case.h"
 #include "base/utf8.h"
@@ -16,20 +15,6 @@ namespace {
 std::size_t LineEnd(std::string_view text, std::size_t position) {
   const std::size_t lineFeed = std::min(text.find('\n', position), text.size());
   return std::min(text.substr(0, lineFeed).find('\r', position), lineFeed);
-}
-
-/// Whether the "&" at the start of `rest` starts an entity in its line, where two hyphens become a
-/// blank; nothing where a character beyond ASCII is met before that is known.
-std::optional<bool> IsPlainEntityOfLines(std::string_view rest) {
-  const std::string_view head = rest.substr(0, kLongestHtmlEntity);
-  for (std::size_t i = 1; i < head.size(); ++i) {
-    const char ch = head[i];
-    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
-    if (ch == ';') return HtmlEntityEnd(head.substr(0, i + 1)) > 0;
-    if (ch == ' ' || ch == '\n' || ch == '\r') return false;
-    if (ch == '-' && head.substr(i).starts_with("--")) return false;
-  }
-  return false;
 }
 
 /// Finds the places where a comment may start, in order.
@@ -148,7 +133,7 @@ void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settin
 /// Whether an entity stands there once the line is rewritten.
 bool LineBlock::IsEntityAt(std::size_t position) const {
   const std::string_view rest = text_.substr(position);
-  if (const auto plain = IsPlainEntityOfLines(rest)) return *plain;
+  if (const auto plain = EndOfPlainHtmlEntity(rest, true)) return *plain > 0;
   // Letters and their marks may become fewer characters.
   const std::size_t most = kLongestHtmlEntity * (letters_ == LetterRule::kAll ? 4 : 1);
   std::string_view entity = rest.substr(0, BytesOfFirst(rest, most));
@@ -169,7 +154,10 @@ bool LineBlock::IsEntityAt(std::size_t position) const {
 /// open.
 std::size_t LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start, int& open) {
   const std::string& marker = markers.EndMarker(open);
-  const std::size_t end = marker.empty() ? LineEnd(text_, start) : text_.find(marker, start);
+  // Most markers are one sign, which is found without comparing texts.
+  const std::size_t end = marker.empty()       ? LineEnd(text_, start)
+                          : marker.size() == 1 ? text_.find(marker[0], start)
+                                               : text_.find(marker, start);
   if (end == std::string_view::npos) return text_.size();
   endsInLineComment_ = marker.empty() && end == text_.size();
   open = kNoComment;

@@ -155,14 +155,6 @@ std::size_t WordStore::FindSlot(const KeyedWord& word) const {
   }
 }
 
-void WordStore::PrefetchLetters(std::uint32_t hash) const {
-  if (slots_.empty()) return;
-  const Slot& slot = slots_[hash >> slotShift_];
-  if (slot.place == 0 || slot.hash != hash) return;
-  __builtin_prefetch(&letters_[slot.place - 1]);
-  __builtin_prefetch(&counts_[slot.place - 1], 1);
-}
-
 /// For one more word in the hash table.
 void WordStore::MakeRoom() {
   if (slots_.empty()) {  // sorted; or there was no memory to do so

@@ -130,7 +130,21 @@ class WordStore {
   void PrefetchSlot(std::uint32_t hash) const {
     if (!slots_.empty()) __builtin_prefetch(&slots_[hash >> slotShift_]);
   }
-  void PrefetchLetters(std::uint32_t hash) const;
+  // Inline whatever it takes: compilers leave out a call of what does nothing but this.
+  [[gnu::always_inline]] void PrefetchLetters(std::uint32_t hash) const {
+    if (slots_.empty()) return;
+    constexpr std::size_t kLooked = 8;  // those behind are in another line of the memory
+    const std::size_t mask = slots_.size() - 1;
+    const std::size_t home = hash >> slotShift_;
+    for (std::size_t i = home; i < home + kLooked; ++i) {
+      const Slot& slot = slots_[i & mask];
+      if (slot.place == 0) return;
+      if (slot.hash != hash) continue;
+      __builtin_prefetch(&letters_[slot.place - 1]);
+      __builtin_prefetch(&counts_[slot.place - 1], 1);
+      return;
+    }
+  }
 
   /// Counts occurrences of the word that AddWord has put at `place`; throws as AddWord does. Places
   /// change when the words are sorted or cleared, and then Generation() changes.

@@ -113,7 +113,7 @@ constexpr std::size_t kFetchedAhead = 16;
 void WordStore::SortRecords(std::size_t threads) const {
   BringCounts();
   ++generation_;
-  slots_ = {};
+  std::pmr::vector<Slot>().swap(slots_);  // gives their memory back, which "= {}" would keep
   included_.resize(letters_.Size(), 1);
   UnsetItems<SortEntry> entries(letters_.Size());
   FillEntries(entries.All(), threads);

@@ -24,8 +24,12 @@ void FileListSink::TakeHeader(std::string_view line) {
 }
 
 bool FileListSink::TakeWord(std::int32_t index, std::string_view line) {
+  LineRoom().append(line);
+  return TakeLineInRoom(index);
+}
+
+bool FileListSink::TakeLineInRoom(std::int32_t index) {
   const bool isLast = ++wordsTaken_ == mostWords_;
-  block_.append(line);
   if (!runsOn_) {
     block_.append(lineBreak_);
   } else if (index < numDifferentWords_ && !isLast) {

@@ -28,6 +28,8 @@ class FileListSink final : public ListSink {
 
   void TakeHeader(std::string_view line) override;
   bool TakeWord(std::int32_t index, std::string_view line) override;
+  std::string& LineRoom() override { return block_; }
+  bool TakeLineInRoom(std::int32_t index) override;
   /// Writes what has gathered. Must be called at the end of the list.
   void Flush();
 

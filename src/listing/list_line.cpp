@@ -70,31 +70,36 @@ void AppendNumber(std::string& line, std::int32_t number, std::size_t width) {
   for (std::size_t i = 0; i < cell.size; ++i) line.push_back(static_cast<char>(cell.text >> 8 * i));
 }
 
-/// A line of numbers and a word, put together without a call for each of its columns: a list may
-/// have millions.
-class QuickLine {  // NOLINT(cppcoreguidelines-pro-type-member-init): see text_
+/// A line of numbers and a word, put together at the end of a text without a call for each of its
+/// columns: a list may have millions.
+class QuickLine {
  public:
   static constexpr std::size_t kMostColumns = 3;
   static constexpr std::size_t kMostLead = 4;
+
+  explicit QuickLine(std::string& text) : text_(text), size_(text.size()) {
+    constexpr std::size_t kMostBytes = kMostColumns * (kMostLead + kMostShortBytes);
+    static_assert(kMostShortBytes >= kMostQuickDigits);
+    text_.resize(size_ + kMostBytes);
+  }
 
   void Add(std::string_view text) {
     CopyShortBytes(text_.data() + size_, text.data(), text.size());
     size_ += text.size();
   }
   void Add(const NumberCell& cell) {
+    char* const to = text_.data() + size_;
     for (std::size_t i = 0; i < kMostQuickDigits; ++i) {  // becomes one store
-      text_[size_ + i] = static_cast<char>(cell.text >> 8 * i);
+      to[i] = static_cast<char>(cell.text >> 8 * i);
     }
     size_ += cell.size;
   }
-  [[nodiscard]] std::string_view Text() const { return {text_.data(), size_}; }
+  /// To be called at the end of the line.
+  void End() { text_.resize(size_); }
 
  private:
-  static constexpr std::size_t kMostBytes = kMostColumns * (kMostLead + kMostShortBytes);
-  static_assert(kMostShortBytes >= kMostQuickDigits);
-
-  std::array<char, kMostBytes> text_;  // written before it is read
-  std::size_t size_ = 0;
+  std::string& text_;
+  std::size_t size_;
 };
 
 /// Four decimals, and no zero before the point.
@@ -257,7 +262,7 @@ bool LineFormatter::AppendQuickly(std::string& line, std::int32_t index) const {
   const std::string_view word = words_.store.WordOf(index);
   const std::int32_t count = words_.store.CountOf(index);
   if (word.size() > kMostShortBytes || count >= kEightDigits) return false;
-  QuickLine quick;
+  QuickLine quick(line);
   for (const Column& column : columns_) {
     quick.Add(column.lead);
     if (column.cell == 'w') {
@@ -267,7 +272,7 @@ bool LineFormatter::AppendQuickly(std::string& line, std::int32_t index) const {
                                    : CellOf(count, frequencyWidth_));
     }
   }
-  line.append(quick.Text());
+  quick.End();
   return true;
 }
 

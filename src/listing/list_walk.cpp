@@ -15,27 +15,23 @@ void EmitHeader(const LineFormatter& formatter, ListSink& sink) {
 }
 
 bool ListAlphabetical(const CountedWords& words, const LineFormatter& formatter, ListSink& sink) {
-  std::string line;
   for (std::int32_t index = 1; index <= words.store.NumDifferentWords(); ++index) {
-    if (!words.store.At(index).Included) continue;
-    line.clear();
-    formatter.FormatWordLine(line, index);
-    if (!sink.TakeWord(index, line)) return false;
+    if (!words.store.IsIncluded(index)) continue;
+    formatter.FormatWordLine(sink.LineRoom(), index);
+    if (!sink.TakeLineInRoom(index)) return false;
   }
   return true;
 }
 
 bool ListByFrequency(const CountedWords& words, const LineFormatter& formatter, ListSink& sink) {
   constexpr std::size_t kFetchedAhead = 16;
-  std::string line;
   const std::vector<std::int32_t>& byRank = words.ranking.byRank;
   for (std::size_t i = 0; i < byRank.size(); ++i) {
     // Words that follow each other in this order lie anywhere in the memory.
     if (i + kFetchedAhead < byRank.size()) words.store.PrefetchAt(byRank[i + kFetchedAhead]);
     const std::int32_t index = byRank[i];
-    line.clear();
-    formatter.FormatWordLine(line, index);
-    if (!sink.TakeWord(index, line)) return false;
+    formatter.FormatWordLine(sink.LineRoom(), index);
+    if (!sink.TakeLineInRoom(index)) return false;
   }
   return true;
 }

@@ -24,6 +24,19 @@ class ListSink {
   virtual void TakeHeader(std::string_view line) = 0;
   /// The line of the word at alphabetical place `index`. False ends the walk at once.
   virtual bool TakeWord(std::int32_t index, std::string_view line) = 0;
+
+  // The same in two steps, so that a line can be put together where it is to stay: to copy one that
+  // was just written takes as long as to write it.
+
+  /// Where the line is to be appended.
+  virtual std::string& LineRoom() {
+    line_.clear();
+    return line_;
+  }
+  virtual bool TakeLineInRoom(std::int32_t index) { return TakeWord(index, line_); }
+
+ private:
+  std::string line_;
 };
 
 /// Emits the header line.
