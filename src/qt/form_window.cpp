@@ -168,6 +168,7 @@ void FormWindow::ShowFocus() {
   if (!std::exchange(focusMoved_, false) && !lost) return;
   const Control* focused = form_.Focused();
   if (focused != nullptr && focused->CanTakeFocus()) {
+    comesForFocus_ = raised_;
     WidgetOf(*focused).setFocus(Qt::OtherFocusReason);
   }
 }
@@ -192,6 +193,8 @@ void FormWindow::ShowWindowState() {
   if (raised_ && form_.Visible()) {
     raise();
     activateWindow();
+    // The user must see to which control the window has come up.
+    if (std::exchange(comesForFocus_, false)) setAttribute(Qt::WA_KeyboardFocusChange);
   }
   raised_ = false;
 }
