@@ -168,7 +168,7 @@ void FormWindow::ShowFocus() {
   if (!std::exchange(focusMoved_, false) && !lost) return;
   const Control* focused = form_.Focused();
   if (focused != nullptr && focused->CanTakeFocus()) {
-    comesForFocus_ = raised_;
+    comesForFocus_ = raised_ && parentWidget() != nullptr;
     WidgetOf(*focused).setFocus(Qt::OtherFocusReason);
   }
 }
