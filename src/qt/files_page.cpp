@@ -219,8 +219,8 @@ void FilesPage::FitColumns() {
   isOld_ = false;
   constexpr int kMostRowsMeasured = 200;
   table_->horizontalHeader()->setResizeContentsPrecision(kMostRowsMeasured);
-  table_->resizeColumnsToContents();
   table_->setColumnHidden(kSkippedSection, !rows_.AnyNotRead());
+  table_->resizeColumnsToContents();  // but of those that are hidden
   const int half = std::max(table_->viewport()->width() / 2, 120);
   if (table_->columnWidth(kPathSection) > half) table_->setColumnWidth(kPathSection, half);
   FitRowsToLetters(*table_);

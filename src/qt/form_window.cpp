@@ -170,6 +170,7 @@ void FormWindow::ShowFocus() {
   if (!std::exchange(focusMoved_, false) && !lost) return;
   const Control* focused = form_.Focused();
   if (focused == nullptr || !focused->CanTakeFocus()) return;
+  comesForFocus_ = raised_ && parentWidget() != nullptr;
   QWidget& widget = WidgetOf(*focused);
   if (widget.isVisibleTo(this)) widget.setFocus(Qt::OtherFocusReason);
 }
@@ -194,6 +195,8 @@ void FormWindow::ShowWindowState() {
   if (raised_ && form_.Visible()) {
     raise();
     activateWindow();
+    // The user must see to which control the window has come up.
+    if (std::exchange(comesForFocus_, false)) setAttribute(Qt::WA_KeyboardFocusChange);
   }
   raised_ = false;
 }

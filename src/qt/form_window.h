@@ -89,6 +89,8 @@ class FormWindow : public QWidget {
   /// Where the user has put the keyboard, as long as the form has not been told; null for nowhere.
   Control* arriving_ = nullptr;
   bool raised_ = false;
+  /// The window is raised for the control that has got the focus.
+  bool comesForFocus_ = false;
   /// Where the left mouse button went down; null elsewhere.
   const Control* pressedLabel_ = nullptr;
 };

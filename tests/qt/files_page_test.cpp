@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <filesystem>
 #include <gmock/gmock.h>
 
 #include "app/count/common_words.h"
@@ -78,6 +79,10 @@ TEST_F(FilesPageTest, WhyAFileWasNotReadStandsInSightBesideIt) {
   user->program.Sources().ChooseText(folder.Write("one.txt", "one"));
   user->Click(user->program.frmMain.cmdCountWords);
   EXPECT_TRUE(Table().isColumnHidden(reason)) << "there is nothing to be told";
+  std::filesystem::remove(folder / "list.txt");
+  CountThree();
+  EXPECT_GE(Table().columnWidth(reason), Table().fontMetrics().horizontalAdvance("not text"));
+  EXPECT_FALSE(Table().isColumnHidden(reason));
 }
 
 TEST_F(FilesPageTest, HomeAndEndGoToTheFirstAndTheLastFile) {

@@ -45,6 +45,7 @@ TEST_F(NoticeStripTest, ChangeLeadsToWhatIsToBeChanged) {
   user->Click(frmMain.cmdNotice[0]);
   auto& encoding = user->WidgetOf<QComboBox>(user->program.frmParams.cboEncoding);
   EXPECT_EQ(user->windows.Panel().focusWidget(), &encoding);
+  EXPECT_TRUE(user->windows.Panel().testAttribute(Qt::WA_KeyboardFocusChange)) << "it is seen";
   EXPECT_EQ(encoding.visibleRegion().boundingRect(), encoding.rect()) << "it is scrolled to";
 }
 

@@ -44,21 +44,21 @@ class FileReports : public CounterFixture {
 
 TEST_F(FileReports, NameFilesWhoseExtensionsAreNeverText) {
   Put("a.txt", "cat");
-  Put("b.PDF", "cat");
+  Put("b.pdf", "cat");
   Put("sub/c.exe", "cat");
   Put("sub/d.log", "cat");
   for (const std::size_t threads : {1U, 3U}) {
     request.threads = threads;
     EXPECT_THAT(RowsOf(TextOfFolder{folder.Path(), true, {{}, {"log"}}}),
                 ElementsAre("a.txt 3 ASCII none 1 1 0 0 0 -",
-                            "b.PDF 3 - - - - - - - never text by its extension",
+                            "b.pdf 3 - - - - - - - never text by its extension",
                             "c.exe 3 - - - - - - - never text by its extension"));
     EXPECT_THAT(RowsOf(TextOfFolder{folder.Path(), true, {{"txt"}, {}}}),
                 ElementsAre("a.txt 3 ASCII none 1 1 0 0 0 -"))
         << "the others are not asked for";
   }
-  EXPECT_THAT(RowsOf(TextOfPaths{{folder / "b.PDF"}, false, {}, nullptr}),
-              ElementsAre("b.PDF 3 ASCII none 1 1 0 0 0 -"))
+  EXPECT_THAT(RowsOf(TextOfPaths{{folder / "b.pdf"}, false, {}, nullptr}),
+              ElementsAre("b.pdf 3 ASCII none 1 1 0 0 0 -"))
       << "it was named";
 }
 
