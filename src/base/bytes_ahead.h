@@ -13,10 +13,18 @@ namespace quillomat {
 class BytesAhead {
  public:
   [[nodiscard]] bool IsEmpty() const { return start_ == bytes_.size(); }
+  [[nodiscard]] std::size_t NumBytes() const { return bytes_.size() - start_; }
+
+  /// Leaves out those in front, as many as there are or `most`; returns how many.
+  std::size_t Skip(std::size_t most) {
+    const std::size_t bytes = std::min(most, NumBytes());
+    start_ += bytes;
+    return bytes;
+  }
 
   /// Gives out those in front, as many as there are or as `buffer` takes; returns how many.
   std::size_t GiveOut(std::span<char> buffer) {
-    const std::size_t bytes = std::min(buffer.size(), bytes_.size() - start_);
+    const std::size_t bytes = std::min(buffer.size(), NumBytes());
     if (bytes > 0) std::memcpy(buffer.data(), bytes_.data() + start_, bytes);
     start_ += bytes;
     return bytes;

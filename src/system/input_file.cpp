@@ -8,15 +8,11 @@ InputFile::InputFile(const std::string& path) : InputFile(NativeFile::OpenForRea
 
 std::optional<PlacedRest> InputFile::Rest() const {
   if (!isPlaced_) return std::nullopt;
-  const auto ahead = static_cast<std::int64_t>(ahead_.size() - aheadStart_);
-  return PlacedRest{*this, bytesRead_ - ahead, length_};
+  return PlacedRest{*this, bytesRead_ - static_cast<std::int64_t>(ahead_.NumBytes()), length_};
 }
 
 void InputFile::Skip(std::int64_t bytes) {
-  const auto ahead = static_cast<std::int64_t>(ahead_.size() - aheadStart_);
-  const std::int64_t ofThese = std::min(bytes, ahead);
-  aheadStart_ += static_cast<std::size_t>(ofThese);
-  bytesRead_ += bytes - ofThese;
+  bytesRead_ += bytes - static_cast<std::int64_t>(ahead_.Skip(static_cast<std::size_t>(bytes)));
 }
 
 /// A pipe without a writer is at its end, though it is not ready.
