@@ -28,13 +28,13 @@ std::string SignOfNumbers(nl_item item) {
 }  // namespace
 
 std::string DigitGroupSeparator() {
-  const std::string separator = SignOfNumbers(THOUSEP);
+  std::string separator = SignOfNumbers(THOUSEP);
   if (!separator.empty()) return separator;
   return DecimalSign() == "," ? "." : ",";
 }
 
 std::string DecimalSign() {
-  const std::string sign = SignOfNumbers(RADIXCHAR);
+  std::string sign = SignOfNumbers(RADIXCHAR);
   return sign.empty() ? "." : sign;
 }
 

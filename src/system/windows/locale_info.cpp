@@ -20,13 +20,13 @@ std::string SignOfNumbers(LCTYPE type) {
 }  // namespace
 
 std::string DigitGroupSeparator() {
-  const std::string separator = SignOfNumbers(LOCALE_STHOUSAND);
+  std::string separator = SignOfNumbers(LOCALE_STHOUSAND);
   if (!separator.empty()) return separator;
   return DecimalSign() == "," ? "." : ",";
 }
 
 std::string DecimalSign() {
-  const std::string sign = SignOfNumbers(LOCALE_SDECIMAL);
+  std::string sign = SignOfNumbers(LOCALE_SDECIMAL);
   return sign.empty() ? "." : sign;
 }
 
