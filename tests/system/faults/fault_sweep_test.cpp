@@ -92,6 +92,8 @@ std::vector<Fault> FaultsOf(const std::string& call) {
       {"fflush", {kStaysFull}},
       {"fclose", {kStaysFull}},
       {"fopen", {kTooMany}},
+      // Where the current folder is not to be had, an export names the text as it was typed.
+      {"getcwd", {}},
       // Of a file that cannot be removed no program can leave nothing.
       {"unlink", {}},
       {"remove", {}},
@@ -213,7 +215,7 @@ class Sweep {
   explicit Sweep(const Scenario& scenario) : scenario_(scenario) {}
 
   void Run() {
-    if (!RunUndisturbed()) return;
+    if (!FindCalls()) return;
     std::vector<std::thread> workers;
     const unsigned cores = std::max(1U, std::thread::hardware_concurrency());
     for (unsigned i = 0; i < std::min(cores, 4U); ++i) {
@@ -225,16 +227,19 @@ class Sweep {
   }
 
  private:
-  bool RunUndisturbed() {
+  [[nodiscard]] Outcome RunUndisturbed(Stage& stage) const {
+    return stage.Run(scenario_.only.empty()
+                         ? std::vector<std::string>()
+                         : std::vector<std::string>{"FAULT_ONLY=" + scenario_.only});
+  }
+
+  bool FindCalls() {
     Stage stage(scenario_);
-    const std::vector<std::string> only =
-        scenario_.only.empty() ? std::vector<std::string>()
-                               : std::vector<std::string>{"FAULT_ONLY=" + scenario_.only};
-    undisturbed_ = stage.Run(only);
-    EXPECT_EQ(undisturbed_.status, 0) << undisturbed_.errors;
-    EXPECT_EQ(undisturbed_.signal, 0);
+    Outcome undisturbed = RunUndisturbed(stage);
+    EXPECT_EQ(undisturbed.status, 0) << undisturbed.errors;
+    EXPECT_EQ(undisturbed.signal, 0);
     for (const auto& [name, contents] : scenario_.targets) {
-      EXPECT_NE(undisturbed_.files[name], contents) << name;
+      EXPECT_NE(undisturbed.files[name], contents) << name;
     }
     std::istringstream log(stage.Log());
     for (std::string name; std::getline(log, name);) {
@@ -247,11 +252,13 @@ class Sweep {
 
   void Work() {
     Stage stage(scenario_);
+    // Exports name the folder that they were made of, and every stage has its own.
+    const Files whole = RunUndisturbed(stage).files;
     for (std::size_t next = next_++; next < trials_.size(); next = next_++)
-      Try(stage, trials_[next]);
+      Try(stage, trials_[next], whole);
   }
 
-  void Try(Stage& stage, const Trial& trial) {
+  void Try(Stage& stage, const Trial& trial, const Files& whole) {
     std::vector<std::string> faults = {"FAULT_AT=" + std::to_string(trial.call),
                                        "FAULT_ERROR=" + std::to_string(trial.fault.error)};
     if (trial.fault.stays) {
@@ -259,7 +266,7 @@ class Sweep {
     }
     if (!scenario_.only.empty()) faults.push_back("FAULT_ONLY=" + scenario_.only);
     const Outcome outcome = stage.Run(faults);
-    std::string fault = FaultOf(outcome, trial.fault);
+    std::string fault = FaultOf(outcome, trial.fault, whole);
     if (stage.Log().empty()) fault = "the call did not come";
     if (fault.empty()) return;
     const std::lock_guard lock(mutex_);
@@ -268,7 +275,8 @@ class Sweep {
   }
 
   /// What is wrong with an outcome, or "".
-  [[nodiscard]] std::string FaultOf(const Outcome& outcome, const Fault& fault) const {
+  [[nodiscard]] std::string FaultOf(const Outcome& outcome, const Fault& fault,
+                                    const Files& whole) const {
     if (outcome.signal != 0) return "ended by signal " + std::to_string(outcome.signal);
     if (outcome.errors.find("unexpected") != std::string::npos) return "not told what it is";
     const bool worked = outcome.status == 0;
@@ -278,10 +286,10 @@ class Sweep {
     for (const auto& [name, contents] : outcome.files) {
       const auto input = scenario_.inputs.find(name);
       const auto target = scenario_.targets.find(name);
-      const auto whole = undisturbed_.files.find(name);
+      const auto finished = whole.find(name);
       const bool isInput = input != scenario_.inputs.end() && contents == input->second;
       const bool isOld = target != scenario_.targets.end() && contents == target->second;
-      const bool isNew = whole != undisturbed_.files.end() && contents == whole->second;
+      const bool isNew = finished != whole.end() && contents == finished->second;
       if (isInput || isNew || (isOld && !worked)) continue;
       if (worked && skipped && target != scenario_.targets.end()) continue;
       if (isOld) return name + " is the old one, and nothing was said";
@@ -295,7 +303,6 @@ class Sweep {
   }
 
   const Scenario& scenario_;
-  Outcome undisturbed_;
   int calls_ = 0;
   std::vector<Trial> trials_;
   std::atomic<std::size_t> next_ = 0;
