@@ -150,7 +150,7 @@ TEST_F(TerminalRunTest, ExportsTellTheNumberOfFilesWhereSeveralAreCounted) {
   const auto headOf = [this](std::vector<std::string> arguments) {
     arguments.insert(arguments.end(), {"--only-words", "cat", "--export", "-"});
     EXPECT_EQ(Run(arguments), 0) << err;
-    return out.substr(0, out.find('\r'));
+    return out.substr(0, out.find_first_of("\r\n"));
   };
   const std::string usual = "rank,word,frequency,percent,per-million,cumulative,length";
   EXPECT_EQ(headOf({folder / "texts"}), usual + ",files");

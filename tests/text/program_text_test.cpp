@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <new>
 #include <utility>
@@ -53,16 +52,14 @@ class FailingSource final : public ByteSource {
   explicit FailingSource(Failure failure) : failure_(std::move(failure)) {}
 
   std::size_t Read(std::span<char> buffer) override {
-    constexpr std::string_view kStart = "1 EN One\n1 DE Eins\n";
-    if (started_) throw Failure(failure_);
-    started_ = true;
-    std::memcpy(buffer.data(), kStart.data(), kStart.size());
-    return kStart.size();
+    const std::size_t bytes = start_.Read(buffer);
+    if (bytes == 0) throw Failure(failure_);
+    return bytes;
   }
 
  private:
   Failure failure_;
-  bool started_ = false;
+  TextSource start_{"1 EN One\n1 DE Eins\n"};
 };
 
 /// Never ends.
