@@ -20,9 +20,13 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
 /// Not here: a box, which waits for its answer, does not belong into the midst of painting.
 void GuardedApplication::TellLater(const RunTimeError& error) {
   if (isTelling_) return;  // the same again, most likely
-  isTelling_ = true;
-  QMetaObject::invokeMethod(
-      this, [this, error] { Tell(error); }, Qt::QueuedConnection);
+  try {
+    QMetaObject::invokeMethod(
+        this, [this, error] { Tell(error); }, Qt::QueuedConnection);
+    isTelling_ = true;
+  } catch (const std::bad_alloc&) {
+    return;  // what comes next may find more memory, and is told of
+  }
 }
 
 void GuardedApplication::Tell(const RunTimeError& error) {

@@ -3,10 +3,11 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <algorithm>
 #include <chrono>
+#include <exception>
 #include <new>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -89,31 +90,27 @@ QStringList PathSuggestions::Offered() const {
 
 void PathSuggestions::Look() {
   const QString typed = box_.text();
-  if (!box_.hasFocus() || !NamesFolder(typed) || looks_ == kMostLooks) return;
+  if (!box_.hasFocus() || !NamesFolder(typed) || *looks_ == kMostLooks) return;
   stop_.request_stop();
   stop_ = std::stop_source();
+  ++*looks_;
   try {
     StartLook(typed);
-    ++looks_;
-  } catch (const std::system_error&) {
-    return;  // without a thread there is nothing to offer
+  } catch (const std::exception&) {
+    --*looks_;  // without a thread, or memory for one, there is nothing to offer
   }
 }
 
 /// Touches nothing of ours but what it shares, and may outlive everything but the program.
 void PathSuggestions::StartLook(const QString& typed) {
   std::thread([this, typed, kind = kind_, source = source_, stop = stop_.get_token(),
-               calls = callsFromThreads_] {
-    QStringList paths;
+               calls = callsFromThreads_, looks = looks_] {
+    const auto done = qScopeGuard([&looks] { --*looks; });
     try {
-      paths = source(typed, kind, stop);
+      calls->Call([this, typed, paths = source(typed, kind, stop)] { Offer(typed, paths); });
     } catch (const std::bad_alloc&) {
-      paths.clear();
+      return;  // nothing is offered
     }
-    calls->Call([this, typed, paths] {  // which ends with us
-      --looks_;
-      Offer(typed, paths);
-    });
   }).detach();
 }
 

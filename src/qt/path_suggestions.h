@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <stop_token>
@@ -71,7 +72,7 @@ class PathSuggestions final : public QObject {
   /// Of the look that was started last.
   std::stop_source stop_;
   /// How many threads look, or wait for a folder.
-  int looks_ = 0;
+  std::shared_ptr<std::atomic<int>> looks_ = std::make_shared<std::atomic<int>>(0);
   QTimer pause_;
   QListWidget list_;
   /// Nothing is offered before the next key.

@@ -298,14 +298,23 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
   if (texts_.IsTold()) texts_.NoteLines(count.bytesWithLongLineEnds);
   AddChecked(state_.result.wordsRead, count.wordsRead);
   joiner.Join(count, state_.result.store);
-  if (count.countsTogether) owed_.push_back({item.report.path, count.openBefore});
+  if (count.countsTogether) {
+    owed_.push_back({item.report.path, identity, bytes, count.wordsRead, count.newWordBytes.size(),
+                     count.openBefore});
+  }
   if (item.isLastTogether) owed_.clear();
   state_.settings.Uncounted += count.uncounted;
   if (count.looksForComments) state_.settings.OpenComment = count.openComment;
 }
 
+bool FolderPass::Owed::IsThatOf(const WalkItem& item) const {
+  return item.state == WalkItem::State::kScanned && item.report.identity == identity &&
+         item.report.bytesRead == bytes && item.count.wordsRead == wordsRead;
+}
+
 /// Where files that are counted together cannot be joined to the last, those that were are read
-/// once more, for their counts alone.
+/// once more, for their counts alone. Of one that has gone or changed meanwhile only the words that
+/// were new in it are counted, once each.
 void FolderPass::CountOwed(PieceJoiner& joiner) {
   const auto owed = std::exchange(owed_, {});
   if (owed.empty()) return;
@@ -319,11 +328,15 @@ void FolderPass::CountOwed(PieceJoiner& joiner) {
     int openComment = file.openBefore;
     std::size_t bytes = 0;
     static_cast<void>(scanner.Take(items, openComment, bytes));
-    // If it has gone meanwhile, each of the words that were new is counted once.
-    if (items[0].state != WalkItem::State::kScanned) return;
-    again.Join(items[0].count, state_.result.store);
+    if (file.IsThatOf(items[0])) {
+      again.Join(items[0].count, state_.result.store);
+      joiner.TakeBackOwed(file.newWords, state_.result.store);
+    } else {
+      scanner.ForgetWords();
+      joiner.KeepOwed(file.newWords);
+      Skip({file.path, Refusal::kReadFailed, {}});
+    }
   }
-  joiner.TakeBackOwed(state_.result.store);
 }
 
 void FolderPass::Skip(const SkippedFile& skipped) {

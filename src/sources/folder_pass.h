@@ -72,7 +72,13 @@ class FolderPass {
   std::vector<PieceJoiner> joiners_;
   /// Files that are counted together: those that were joined while the counts are still to come.
   struct Owed {
+    [[nodiscard]] bool IsThatOf(const WalkItem& item) const;
+
     std::string path;
+    std::optional<FileIdentity> identity;
+    std::int64_t bytes = 0;
+    std::int32_t wordsRead = 0;
+    std::size_t newWords = 0;
     int openBefore = -1;
   };
   std::vector<Owed> owed_;

@@ -184,6 +184,30 @@ TEST_F(FilesOnThreads, CountTheWordsOfTheFilesUntilAStop) {
   }
 }
 
+TEST_F(FilesOnThreads, CountNoWordTwiceWhereOneOfThemHasGoneBeforeAStop) {
+  std::vector<std::string> paths;
+  for (int i = 0; i < 150; ++i) {
+    Put(Numbered(i), "dog dog w" + std::string{static_cast<char>('a' + i / 26)} +
+                         static_cast<char>('a' + i % 26) + "ox\n");
+    paths.push_back(folder / Numbered(i));
+  }
+  request.threads = 2;
+  observer.onFileBegins = [&](const FileBegins& file) {
+    if (file.path != paths[80]) return;
+    std::filesystem::remove(paths[79]);
+    observer.stopped = true;
+  };
+  const CountResult result = Run(TextOfPaths{paths, false, {}, nullptr});
+  EXPECT_EQ(result.end, CountEnd::kStopped);
+  ASSERT_EQ(result.skipped.size(), 1U);
+  EXPECT_EQ(result.skipped[0].path, paths[79]);
+  EXPECT_EQ(result.skipped[0].reason, Refusal::kReadFailed);
+  for (std::int32_t place = 1; place <= result.store.NumDifferentWords(); ++place) {
+    const bool isDog = result.store.WordOf(place) == "dog";
+    EXPECT_EQ(result.store.CountOf(place), isDog ? 160 : 1) << result.store.WordOf(place);
+  }
+}
+
 TEST_F(FilesOnThreads, OfWhichOneCannotBeOpenedAreCountedAllTheSame) {
   PutManyFiles();
   std::vector<std::string> paths;

@@ -111,7 +111,6 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   if (piece.numbersAnew) {
     places_.clear();
     firstOwed_ = 0;
-    owedEnd_ = 0;
   }
   knowsNumbers_ = false;  // for one that is not joined to its end
   NewWords left{piece.newLetters, piece.newWordBytes};
@@ -121,8 +120,7 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
     JoinSome(some, left, store);
     rest = rest.subspan(some.size());
   }
-  owedEnd_ = places_.size();
-  if (!piece.words.empty()) firstOwed_ = owedEnd_;
+  if (!piece.words.empty()) firstOwed_ = places_.size();
   if (WordOrderListener* const listener = store.OrderListener()) {
     order_.clear();
     for (const std::uint32_t number : piece.order) order_.push_back(places_[number]);
@@ -131,8 +129,8 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   knowsNumbers_ = true;
 }
 
-void PieceJoiner::TakeBackOwed(WordStore& store) {
-  for (; firstOwed_ < owedEnd_; ++firstOwed_) store.CountWordAt(places_[firstOwed_], -1);
+void PieceJoiner::TakeBackOwed(std::size_t words, WordStore& store) {
+  for (; words > 0; --words) store.CountWordAt(places_[firstOwed_++], -1);
 }
 
 /// Gets the next new word ready for the store.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -115,9 +116,11 @@ class PieceJoiner {
   /// listener to the order of words, the piece has that order. Of pieces that are counted together
   /// the words are there at once, but each was met only once until the last piece is joined.
   void Join(const PieceCount& piece, WordStore& store);
-  /// Of pieces that are counted together the last is not going to be joined: their words are not
-  /// counted by the store any more.
-  void TakeBackOwed(WordStore& store);
+  /// Of pieces that are counted together the last is not going to be joined: the next `words` of
+  /// their new words, those of a piece, are not counted by the store any more.
+  void TakeBackOwed(std::size_t words, WordStore& store);
+  /// Likewise, but they stay counted once.
+  void KeepOwed(std::size_t words) { firstOwed_ += words; }
   /// A piece is left out: there are numbers now of which nothing is known, until they begin anew.
   void LeaveOut() { knowsNumbers_ = false; }
   /// Whether the piece has no such numbers.
@@ -139,10 +142,8 @@ class PieceJoiner {
   bool knowsNumbers_ = true;
   /// The places in the store, by the number of the word.
   std::vector<std::uint32_t> places_;
-  /// Words with numbers from the first to the end have been counted once, as their counts are still
-  /// to come.
+  /// Words with numbers from here on have been counted once, as their counts are still to come.
   std::size_t firstOwed_ = 0;
-  std::size_t owedEnd_ = 0;
   std::vector<std::uint32_t> order_;
   /// New words on their way into the store, and such of their keys as are not in the piece.
   std::vector<KeyedWord> newWords_;

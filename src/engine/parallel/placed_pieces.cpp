@@ -11,7 +11,7 @@ namespace {
 
 // In parts of a usual piece.
 constexpr std::int64_t kLargest = 8;
-constexpr std::int64_t kSmallestPart = 2;
+constexpr std::int64_t kPartsOfSmallest = 2;
 constexpr std::int64_t kWindowPart = 64;
 /// A line end is looked for in a second window that is so much larger.
 constexpr std::int64_t kSecondWindow = 8;
@@ -23,7 +23,7 @@ constexpr std::int64_t kPiecesLeft = 2;
 std::optional<PlacedPiece> PlacedPieces::Next() {
   const std::int64_t left = rest_.end - rest_.begin;
   if (left <= 0) return std::nullopt;
-  const std::int64_t smallest = pieceBytes_ / kSmallestPart + 1;
+  const std::int64_t smallest = pieceBytes_ / kPartsOfSmallest + 1;
   const std::int64_t share = left / (kPiecesLeft * static_cast<std::int64_t>(threads_));
   const std::int64_t wanted = std::clamp(share, smallest, kLargest * pieceBytes_);
   const std::int64_t window = pieceBytes_ / kWindowPart + 1;

@@ -23,7 +23,7 @@ struct PlacedPiece {
 /// Cuts the rest of a text into such pieces.
 class PlacedPieces {
  public:
-  /// Pieces are to have up to four times `pieceBytes`, and fewer towards the end, so that all
+  /// Pieces are to have up to eight times `pieceBytes`, and fewer towards the end, so that all
   /// `threads` end at nearly the same time.
   PlacedPieces(const PlacedRest& rest, std::size_t threads, std::size_t pieceBytes)
       : rest_(rest), threads_(threads), pieceBytes_(static_cast<std::int64_t>(pieceBytes)) {}
