@@ -26,6 +26,7 @@
 #include "cli/file_report.h"
 #include "cli/input_choice.h"
 #include "cli/list_exports.h"
+#include "cli/list_notes.h"
 #include "cli/option_conflicts.h"
 #include "cli/setting_options.h"
 #include "cli/skipped_lines.h"
@@ -268,7 +269,20 @@ class TerminalRun {
     const RestoreResult result = program_.TakeControls();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
     folder.SetText(path);
-    return result == RestoreResult::kRestored && !desktop_.ProblemShown();
+    if (result != RestoreResult::kRestored || desktop_.ProblemShown()) return false;
+    if (!options_.listFiles) {
+      TellListsWithoutEffect(CountOnlySource(), program_.Settings().lists,
+                             Messages(desktop_, program_.Text()), err_);
+    }
+    return true;
+  }
+
+  /// Words that are typed and turn out to be signs alone have left the panel by now.
+  [[nodiscard]] std::string CountOnlySource() const {
+    constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
+    const std::string& file = program_.frmParams.txbWordsFile[kIndex].Text();
+    if (!file.empty()) return file;
+    return IsGiven(options_, "--only-words") ? "--only-words" : "";
   }
 
   /// The text stands on the clipboard, as that of --text; but standard input is one of lines.

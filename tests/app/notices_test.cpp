@@ -210,6 +210,20 @@ TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
 }
 
+TEST_F(NoticeBarTest, CountOnlyWordsThatGiveNoneAreTold) {
+  Panel().txbWordsFile[1].SetText(folder.Write("words.txt", "// none\r\n"));
+  CountFile(folder.Write("a.txt", "the cat"));
+  EXPECT_EQ(Said(),
+            "The count-only words that are named are none that can be counted: all words were "
+            "counted.");
+  ASSERT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
+  Panel().txbWordsFile[1].SetText("");
+  Count();
+  EXPECT_EQ(Said(), "");
+}
+
 TEST_F(NoticeBarTest, ListOfWordsToIgnoreIsNotWhatWasLeftOut) {
   TypeWords(WordListKind::kIgnore, "of and");
   CountClipboard("cat dog");

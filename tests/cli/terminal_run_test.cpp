@@ -12,6 +12,7 @@
 namespace quillomat {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -175,6 +176,38 @@ TEST_F(TerminalRunTest, ExportsNameTheTextSoThatItCanBeCountedAgain) {
   EXPECT_THAT(settingsOf({"--text", one}), HasSubstr(R"(a, b.txt",)"));
   EXPECT_THAT(settingsOf({"--text", "-"}), HasSubstr(R"("text":"-")"));
   EXPECT_THAT(settingsOf({"--folder", folder.Path()}), HasSubstr(R"("folder":")"));
+}
+
+TEST_F(TerminalRunTest, CountOnlyWordsThatGiveNoneAreTold) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  const std::string words = folder.Write("words.txt", "// none\r\n");
+  EXPECT_EQ(Run({text, "--only", words, "--export", "-", "--export-format", "json"}), 0) << err;
+  EXPECT_THAT(err,
+              EndsWith("Note: " + words +
+                       " gives no count-only word that can be counted; all words are counted.\n"));
+  EXPECT_THAT(out, HasSubstr("\"dog\""));
+  EXPECT_THAT(out, testing::Not(HasSubstr("\"only\"")));
+  EXPECT_EQ(Run({text, "--only-words", "..."}), 0) << err;
+  EXPECT_EQ(err,
+            "Note: --only-words gives no count-only word that can be counted; all words are "
+            "counted.\n");
+  EXPECT_EQ(Run({text, "--only", words, "--only-words", "cat"}), 0) << err;
+  EXPECT_THAT(err, testing::Not(HasSubstr("Note")));
+}
+
+TEST_F(TerminalRunTest, WordsThatAreBothCountOnlyAndToIgnoreAreTold) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  EXPECT_EQ(Run({text, "--only-words", "cat dog", "--ignore-words", "dog"}), 0) << err;
+  EXPECT_EQ(err, "Note: 1 word to ignore is a count-only word, too; it is counted.\n");
+  EXPECT_THAT(out, HasSubstr("dog"));
+  const std::string words = folder.Write("words.txt", "cat\r\n");
+  EXPECT_EQ(Run({text, "--only-words", "cat dog", "--ignore", words, "--ignore-words", "dog emu"}),
+            0)
+      << err;
+  EXPECT_THAT(err,
+              EndsWith("Note: 2 words to ignore are count-only words, too; they are counted.\n"));
+  EXPECT_EQ(Run({text, "--only-words", "cat", "--ignore-words", "dog"}), 0) << err;
+  EXPECT_EQ(err, "");
 }
 
 TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {
