@@ -1,6 +1,7 @@
 #include "cli/terminal_run.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
 #include <ostream>
 #include <string_view>
@@ -34,6 +35,7 @@
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
+#include "cli/written_files.h"
 #include "engine/explain/text_explainer.h"
 #include "export/cell_text.h"
 #include "listing/statistics.h"
@@ -45,6 +47,14 @@
 namespace quillomat {
 namespace {
 
+/// The file could be read, but holds something else than a state.
+bool LiesInContents(const std::string& description) {
+  using enum RunTimeErrorNumber;
+  return std::ranges::any_of(
+      std::to_array({kInputPastEnd, kTypeMismatch, kOverflow, kInvalidPropertyValue}),
+      [&](RunTimeErrorNumber number) { return description == DescriptionOf(number); });
+}
+
 class TerminalRun {
  public:
   TerminalRun(const CommandLine& options, const TerminalStreams& streams)
@@ -53,6 +63,7 @@ class TerminalRun {
         err_(streams.err),
         input_(InputOf(options)),
         desktop_(err_, options.answers),
+        written_(streams),
         program_(desktop_) {}
 
   int Run() {
@@ -96,7 +107,10 @@ class TerminalRun {
             (FolderExists(path) ? " is a folder; name a file" : " does not exist; check the path"));
       case RestoreResult::kError:
         return Fail((path.empty() ? std::string("the user's settings") : "--state " + path) +
-                    " cannot be used as a state: " + program_.States().ErrorDescription());
+                    " cannot be used as a state: " + program_.States().ErrorDescription() +
+                    (LiesInContents(program_.States().ErrorDescription())
+                         ? "; it is not what --save-state and the window write"
+                         : ""));
       default:
         return true;
     }
@@ -115,7 +129,9 @@ class TerminalRun {
                   " is the state that was read; save the new one to another file");
     }
     const std::string error = program_.States().SaveState(path);
-    return error.empty() || Fail("--save-state " + path + ": " + error);
+    if (!error.empty()) return Fail("--save-state " + path + ": " + error);
+    written_.Add(path);
+    return true;
   }
 
   bool ApplyChoices() {
@@ -168,7 +184,7 @@ class TerminalRun {
   }
 
   bool CheckWordsFiles() {
-    const auto fault = FindWordsFileFault(options_.settings);
+    const auto fault = FindWordsFileFault(options_.settings, program_.frmParams);
     return !fault || Fail(*fault);
   }
 
@@ -348,8 +364,8 @@ class TerminalRun {
       return printed && made && reported && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
-      PrintFigures();
       TellWhyThereIsNoList();
+      PrintFigures();
       return kRunFailed;
     }
     const bool printed = toFile ? ListIsInFile() : ExportIsPrinted() || PrintList();
@@ -360,7 +376,9 @@ class TerminalRun {
   /// A message has told why not.
   bool ListIsInFile() {
     const std::string& path = program_.frmMain.txbFile[1].Text();
-    return program_.Lister().FileWritten() || Fail("--output " + path + " is not written");
+    if (!program_.Lister().FileWritten()) return Fail("--output " + path + " is not written");
+    written_.Add(path);
+    return true;
   }
 
   /// Behind the list, where a person at a terminal sees them. The statistics are of all words that
@@ -373,14 +391,16 @@ class TerminalRun {
   }
 
   bool Export() {
-    return ExportList(program_, options_, streams_,
+    return ExportList(program_, options_, streams_, written_,
                       [this](const std::string& fault) { Fail(fault); });
   }
 
   /// Also of a count that gave no list: the report may say why.
   bool Report() {
     const std::optional<std::string> fault = WriteFileReport(program_, options_);
-    return !fault || Fail(*fault);
+    if (fault) return Fail(*fault);
+    if (options_.report) written_.Add(*options_.report);
+    return true;
   }
 
   /// Paths, be it one, are served like a folder; --file and --text are the window's sources, which
@@ -388,7 +408,10 @@ class TerminalRun {
   bool FormatIsServed() {
     const bool likeFolder =
         input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();
-    return (likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat();
+    if ((likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat()) return true;
+    return Fail(
+        "here formats 11 to 13 go with --folder, and with any PATH, if --only or --only-words "
+        "is given");
   }
 
   /// True when a list was made.
@@ -477,6 +500,7 @@ class TerminalRun {
   std::ostream& err_;
   InputChoice input_;
   TerminalDesktop desktop_;
+  WrittenFiles written_;
   bool listIsPrinted_ = false;  // on standard output, by --output -
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.
