@@ -1,16 +1,28 @@
 #include "cli/list_notes.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <ostream>
 #include <string>
 
+#include "cli/option_conflicts.h"
 #include "cli/standard_output.h"
+#include "engine/word_list.h"
 
 namespace quillomat {
 namespace {
 
 constexpr Headed kNote{MessageTone::kWarning, "Note: "};
+
+/// The file or the option that names count-only words; "" where nothing does. Words that are typed
+/// and turn out to be signs alone have left the panel by now.
+std::string CountOnlySource(const CommandLine& options, const Program& program) {
+  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
+  const std::string& file = program.frmParams.txbWordsFile[kIndex].Text();
+  if (!file.empty()) return file;
+  return IsGiven(options, "--only-words") ? "--only-words" : "";
+}
 
 bool IsCountOnly(const WordLists& lists, const std::string& word) {
   return lists.CountOnlyList.IsInList(word) || lists.ExtraCountOnlyList.IsInList(word);
@@ -30,10 +42,12 @@ std::int64_t CountInBoth(const WordLists& lists) {
 
 }  // namespace
 
-void TellListsWithoutEffect(std::string_view countOnlySource, const WordLists& lists,
+void TellListsWithoutEffect(const CommandLine& options, const Program& program,
                             const Messages& messages, std::ostream& err) {
-  if (!countOnlySource.empty() && !lists.HasCountOnlyWords()) {
-    err << kNote << countOnlySource
+  const WordLists& lists = program.Settings().lists;
+  const std::string source = CountOnlySource(options, program);
+  if (!source.empty() && !lists.HasCountOnlyWords()) {
+    err << kNote << source
         << " gives no count-only word that can be counted; all words are counted.\n";
   }
   const std::int64_t inBoth = CountInBoth(lists);

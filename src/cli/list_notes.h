@@ -2,16 +2,16 @@
 #pragma once
 
 #include <iosfwd>
-#include <string_view>
 
 #include "app/messages.h"
-#include "engine/word_list.h"
+#include "app/program.h"
+#include "cli/command_line.h"
 
 namespace quillomat {
 
 /// Tells `err` of count-only words that are none, and of words that stand in both kinds of list.
-/// `countOnlySource`: the file or the option that names count-only words; "" where nothing does.
-void TellListsWithoutEffect(std::string_view countOnlySource, const WordLists& lists,
+/// The program has taken its lists from the panel.
+void TellListsWithoutEffect(const CommandLine& options, const Program& program,
                             const Messages& messages, std::ostream& err);
 
 }  // namespace quillomat

@@ -287,18 +287,9 @@ class TerminalRun {
     folder.SetText(path);
     if (result != RestoreResult::kRestored || desktop_.ProblemShown()) return false;
     if (!options_.listFiles) {
-      TellListsWithoutEffect(CountOnlySource(), program_.Settings().lists,
-                             Messages(desktop_, program_.Text()), err_);
+      TellListsWithoutEffect(options_, program_, Messages(desktop_, program_.Text()), err_);
     }
     return true;
-  }
-
-  /// Words that are typed and turn out to be signs alone have left the panel by now.
-  [[nodiscard]] std::string CountOnlySource() const {
-    constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
-    const std::string& file = program_.frmParams.txbWordsFile[kIndex].Text();
-    if (!file.empty()) return file;
-    return IsGiven(options_, "--only-words") ? "--only-words" : "";
   }
 
   /// The text stands on the clipboard, as that of --text; but standard input is one of lines.
@@ -355,6 +346,7 @@ class TerminalRun {
     if (!FormatIsServed()) return kRunFailed;
     const bool toFile = program_.Lister().HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
+    if (toFile && program_.Lister().FileWritten()) written_.Add(program_.frmMain.txbFile[1].Text());
     const bool reported = Report();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
@@ -376,9 +368,7 @@ class TerminalRun {
   /// A message has told why not.
   bool ListIsInFile() {
     const std::string& path = program_.frmMain.txbFile[1].Text();
-    if (!program_.Lister().FileWritten()) return Fail("--output " + path + " is not written");
-    written_.Add(path);
-    return true;
+    return program_.Lister().FileWritten() || Fail("--output " + path + " is not written");
   }
 
   /// Behind the list, where a person at a terminal sees them. The statistics are of all words that

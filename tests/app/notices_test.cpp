@@ -35,13 +35,15 @@ TEST(Notices, MostImportantComesFirst) {
                         .linesNotUtf8 = 12,
                         .filesLeftOut = 4,
                         .countOnlyWords = 5,
+                        .noCountOnlyWord = true,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
-  EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
-                                        kBytesNotDecodedText, kLettersNotCountedText,
-                                        kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
+  EXPECT_THAT(TextsOf(all),
+              ElementsAre(kNoCountOnlyWordText, kFilesSkippedText, kListOfFileText,
+                          kSettingsChangedText, kBytesNotDecodedText, kLettersNotCountedText,
+                          kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
+                          kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
 }
 
 TEST(Notices, OneIsNotMany) {

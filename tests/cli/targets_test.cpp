@@ -118,7 +118,7 @@ TEST_F(Targets, WhatIsWrittenIsToldByAnInterruptionThatComesThen) {
       Run({"-", "--output", list, "--export", table, "--report", report, "--save-state", state}),
       kListMade)
       << err;
-  EXPECT_EQ(lastWords, "Interrupted: written are " + state + ", " + report + ", " + list + ", " +
+  EXPECT_EQ(lastWords, "Interrupted: written are " + state + ", " + list + ", " + report + ", " +
                            table + ", and nothing else" + std::string(kPlatformLineBreak));
   EXPECT_EQ(countsOver, 1);
 }

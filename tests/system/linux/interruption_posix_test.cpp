@@ -128,7 +128,7 @@ TEST_F(InterruptionTest, LeavesALastWord) {
   const auto saidAfter = [this](const std::function<void()>& before) {
     const std::string said = folder_ / "said";
     EXPECT_EQ(StatusOf([&] {
-                static_cast<void>(std::freopen(said.c_str(), "w", stderr));
+                if (std::freopen(said.c_str(), "w", stderr) == nullptr) _exit(1);
                 const Interruption interruption;
                 before();
                 raise(SIGINT);
