@@ -40,8 +40,8 @@ constexpr const char* kFooter =
     "12 word file-list, 13 word file-list (+freq).\n"
     "\n"
     "Exit status: 0 a list was made, 1 the count was refused or failed, 2 wrong command line,\n"
-    "130 interrupted (Ctrl+C), 143 asked to end; then every file is as it was, unless\n"
-    "--list-on-interrupt has a list made.";
+    "130 interrupted (Ctrl+C), 143 asked to end: at once, with every file as it was or new as a\n"
+    "whole (standard error says which are new), unless --list-on-interrupt has a list made.";
 
 /// The headings of help, in their order.
 constexpr auto kHeadings = std::to_array<std::pair<OptionGroup, const char*>>(
@@ -116,7 +116,7 @@ void DefineRun(CLI::App& app, CommandLine& options, std::vector<std::string>& an
                "Show the progress on standard error, also where that is no terminal; on a terminal "
                "it shows by itself when a count takes long");
   app.add_flag("--list-on-interrupt", options.listOnInterrupt,
-               "On Ctrl+C list what was counted until then");
+               "On Ctrl+C while the text is counted list what was counted until then");
   AddValue(app, "--threads", options.threads, "N",
            "How many threads may scan a large text; one for every core if not given")
       ->check(WholeNumberFrom(1, kMostThreads));

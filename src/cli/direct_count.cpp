@@ -38,6 +38,7 @@ bool DirectCount::Run() {
   }
   const CountRequest request = Request(watch);
   CountResult result = Counter(request, watch).Run();
+  streams_.endAtInterruption();
   watch.EndProgress();
   TellSkipped(watch);
   if (!HasWords(result, watch)) {

@@ -10,6 +10,7 @@
 #include "app/program.h"
 #include "cli/command_line.h"
 #include "cli/terminal_streams.h"
+#include "cli/written_files.h"
 
 namespace quillomat {
 
@@ -23,7 +24,7 @@ namespace quillomat {
 /// is told what went wrong, naming the file, where the user does not know yet. True if all were
 /// written.
 [[nodiscard]] bool ExportList(const Program& program, const CommandLine& options,
-                              const TerminalStreams& streams,
+                              const TerminalStreams& streams, WrittenFiles& written,
                               const std::function<void(const std::string& fault)>& tell);
 
 }  // namespace quillomat

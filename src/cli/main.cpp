@@ -10,6 +10,7 @@
 #include <string>
 #include <utility>
 
+#include "base/terminal_text.h"
 #include "base/text_helpers.h"
 #include "cli/command_line.h"
 #include "cli/exit_status.h"
@@ -38,7 +39,12 @@ TerminalStreams StandardStreams(std::ostream& err, bool errIsTerminal) {
           .err = err,
           .errIsTerminal = errIsTerminal,
           .outIsTerminal = IsTerminal(StandardStream::kOutput),
-          .interruption = InterruptionStatus};
+          .interruption = InterruptionStatus,
+          .endAtInterruption = EndAtFirstInterruption,
+          .setLastWords =
+              [errIsTerminal](const std::string& line) {
+                SetLastWords(errIsTerminal ? EscapedForTerminal(line) : line);
+              }};
 }
 
 }  // namespace

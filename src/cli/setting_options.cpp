@@ -159,7 +159,8 @@ std::optional<std::string> ApplySettings(MainForm& frmMain, ParamsForm& frmParam
   return std::nullopt;
 }
 
-std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options) {
+std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options,
+                                              const ParamsForm& frmParams) {
   for (const auto& [setting, values] : options) {
     const SettingOption& option = setting->option;
     if (option.group != OptionGroup::kWordLists || !setting->isPath) continue;
@@ -169,6 +170,12 @@ std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> optio
     if (FolderExists(path)) return name + " " + path + " is a folder; name a file of words";
     return name + " " + path + " does not exist; check the path, or type the words (" + name +
            "-words)";
+  }
+  for (const TextBox& box : frmParams.txbWordsFile) {
+    const std::string& path = box.Text();
+    if (path.empty() || FileExists(path)) continue;
+    return "the words file " + path +
+           ", which the settings name, does not exist; --ignore and --only name another";
   }
   return std::nullopt;
 }

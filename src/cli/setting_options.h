@@ -32,7 +32,9 @@ using ControlValues = std::vector<std::pair<std::string, std::string>>;
                                                        std::span<const GivenOption> options,
                                                        const ControlValues& set);
 
-/// Which words file that an option names is none, and the way out; nothing if all are there.
-[[nodiscard]] std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options);
+/// Which words file that an option names is none, and the way out; then which one of a state's,
+/// that the panel names. Nothing if all are there.
+[[nodiscard]] std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options,
+                                                            const ParamsForm& frmParams);
 
 }  // namespace quillomat

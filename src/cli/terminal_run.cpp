@@ -1,6 +1,7 @@
 #include "cli/terminal_run.h"
 
 #include <algorithm>
+#include <array>
 #include <new>
 #include <ostream>
 #include <string_view>
@@ -26,6 +27,7 @@
 #include "cli/file_report.h"
 #include "cli/input_choice.h"
 #include "cli/list_exports.h"
+#include "cli/list_notes.h"
 #include "cli/option_conflicts.h"
 #include "cli/setting_options.h"
 #include "cli/skipped_lines.h"
@@ -33,6 +35,7 @@
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
+#include "cli/written_files.h"
 #include "engine/explain/text_explainer.h"
 #include "export/cell_text.h"
 #include "listing/statistics.h"
@@ -44,6 +47,14 @@
 namespace quillomat {
 namespace {
 
+/// The file could be read, but holds something else than a state.
+bool LiesInContents(const std::string& description) {
+  using enum RunTimeErrorNumber;
+  return std::ranges::any_of(
+      std::to_array({kInputPastEnd, kTypeMismatch, kOverflow, kInvalidPropertyValue}),
+      [&](RunTimeErrorNumber number) { return description == DescriptionOf(number); });
+}
+
 class TerminalRun {
  public:
   TerminalRun(const CommandLine& options, const TerminalStreams& streams)
@@ -52,6 +63,7 @@ class TerminalRun {
         err_(streams.err),
         input_(InputOf(options)),
         desktop_(err_, options.answers),
+        written_(streams),
         program_(desktop_) {}
 
   int Run() {
@@ -95,7 +107,10 @@ class TerminalRun {
             (FolderExists(path) ? " is a folder; name a file" : " does not exist; check the path"));
       case RestoreResult::kError:
         return Fail((path.empty() ? std::string("the user's settings") : "--state " + path) +
-                    " cannot be used as a state: " + program_.States().ErrorDescription());
+                    " cannot be used as a state: " + program_.States().ErrorDescription() +
+                    (LiesInContents(program_.States().ErrorDescription())
+                         ? "; it is not what --save-state and the window write"
+                         : ""));
       default:
         return true;
     }
@@ -114,7 +129,9 @@ class TerminalRun {
                   " is the state that was read; save the new one to another file");
     }
     const std::string error = program_.States().SaveState(path);
-    return error.empty() || Fail("--save-state " + path + ": " + error);
+    if (!error.empty()) return Fail("--save-state " + path + ": " + error);
+    written_.Add(path);
+    return true;
   }
 
   bool ApplyChoices() {
@@ -167,7 +184,7 @@ class TerminalRun {
   }
 
   bool CheckWordsFiles() {
-    const auto fault = FindWordsFileFault(options_.settings);
+    const auto fault = FindWordsFileFault(options_.settings, program_.frmParams);
     return !fault || Fail(*fault);
   }
 
@@ -268,7 +285,11 @@ class TerminalRun {
     const RestoreResult result = program_.TakeControls();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
     folder.SetText(path);
-    return result == RestoreResult::kRestored && !desktop_.ProblemShown();
+    if (result != RestoreResult::kRestored || desktop_.ProblemShown()) return false;
+    if (!options_.listFiles) {
+      TellListsWithoutEffect(options_, program_, Messages(desktop_, program_.Text()), err_);
+    }
+    return true;
   }
 
   /// The text stands on the clipboard, as that of --text; but standard input is one of lines.
@@ -325,6 +346,7 @@ class TerminalRun {
     if (!FormatIsServed()) return kRunFailed;
     const bool toFile = program_.Lister().HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
+    if (toFile && program_.Lister().FileWritten()) written_.Add(program_.frmMain.txbFile[1].Text());
     const bool reported = Report();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
@@ -334,8 +356,8 @@ class TerminalRun {
       return printed && made && reported && !failed ? kListMade : kRunFailed;
     }
     if (!made) {
-      PrintFigures();
       TellWhyThereIsNoList();
+      PrintFigures();
       return kRunFailed;
     }
     const bool printed = toFile ? ListIsInFile() : ExportIsPrinted() || PrintList();
@@ -359,14 +381,16 @@ class TerminalRun {
   }
 
   bool Export() {
-    return ExportList(program_, options_, streams_,
+    return ExportList(program_, options_, streams_, written_,
                       [this](const std::string& fault) { Fail(fault); });
   }
 
   /// Also of a count that gave no list: the report may say why.
   bool Report() {
     const std::optional<std::string> fault = WriteFileReport(program_, options_);
-    return !fault || Fail(*fault);
+    if (fault) return Fail(*fault);
+    if (options_.report) written_.Add(*options_.report);
+    return true;
   }
 
   /// Paths, be it one, are served like a folder; --file and --text are the window's sources, which
@@ -374,7 +398,10 @@ class TerminalRun {
   bool FormatIsServed() {
     const bool likeFolder =
         input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();
-    return (likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat();
+    if ((likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat()) return true;
+    return Fail(
+        "here formats 11 to 13 go with --folder, and with any PATH, if --only or --only-words "
+        "is given");
   }
 
   /// True when a list was made.
@@ -463,6 +490,7 @@ class TerminalRun {
   std::ostream& err_;
   InputChoice input_;
   TerminalDesktop desktop_;
+  WrittenFiles written_;
   bool listIsPrinted_ = false;  // on standard output, by --output -
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.

@@ -6,6 +6,7 @@
 #include <functional>
 #include <iosfwd>
 #include <memory>
+#include <string>
 
 #include "base/byte_sink.h"
 #include "base/byte_source.h"
@@ -29,6 +30,10 @@ struct TerminalStreams {
   bool outIsTerminal = false;
   /// The exit status that an interruption asks for; 0 as long as there was none.
   std::function<int()> interruption = [] { return 0; };
+  /// The count is over, be it that it was interrupted: whatever comes now ends the program at once.
+  std::function<void()> endAtInterruption = [] {};
+  /// Standard error gets that line when an interruption ends the program.
+  std::function<void(const std::string& line)> setLastWords = [](const std::string&) {};
   Clock clock = std::chrono::steady_clock::now;
 };
 

@@ -55,8 +55,9 @@ std::string RefusalBehindName(Refusal reason, const std::optional<RunTimeError>&
 
 std::string RefusalInRun(Refusal reason, const std::optional<RunTimeError>& error) {
   if (reason == Refusal::kReadFailed && error) return error->Description();
-  return reason == Refusal::kFolderUnreadable ? "the folder cannot be read"
-                                              : "the file cannot be opened";
+  const bool ofFolder = reason == Refusal::kFolderUnreadable;
+  return WithError(ofFolder ? "the folder cannot be read" : "the file cannot be opened",
+                   WordingOf(reason), error);
 }
 
 }  // namespace quillomat

@@ -18,7 +18,7 @@ namespace quillomat {
                                             const std::optional<RunTimeError>& error);
 
 /// Of a file or folder that a run passes over although it should be read (IsFault): "the folder
-/// cannot be read".
+/// cannot be read: Permission denied".
 [[nodiscard]] std::string RefusalInRun(Refusal reason, const std::optional<RunTimeError>& error);
 
 }  // namespace quillomat

@@ -9,7 +9,12 @@
 //
 // Who would rather finish something first asks for First::kIsNoted and looks at InterruptionStatus
 // from time to time; the second interruption ends the program at once all the same.
+//
+// Who has finished some files and is at work on others leaves a word of it, which standard error
+// gets when the program is ended.
 #pragma once
+
+#include <string>
 
 namespace quillomat {
 
@@ -31,6 +36,14 @@ class Interruption {
   /// The system does again what it did before.
   ~Interruption();
 };
+
+/// What is to be finished first is finished: from now on the first interruption ends the program,
+/// too.
+void EndAtFirstInterruption() noexcept;
+
+/// What standard error gets, as it is, when an interruption ends the program; "" for nothing. For a
+/// few texts in the life of the program, as none of them is given up.
+void SetLastWords(const std::string& text);
 
 /// The exit status that the interruption asks for; 0 as long as there was none. Costs next to
 /// nothing.

@@ -329,6 +329,7 @@ inline constexpr int kListOfClipboardText = 704;
 inline constexpr int kSettingsChangedText = 705;
 inline constexpr int kOnlyWordsCountedText = 706;
 inline constexpr int kOnlyWordCountedText = 707;
+inline constexpr int kNoCountOnlyWordText = 743;
 inline constexpr int kPartShownText = 708;
 inline constexpr int kWordsToIgnoreText = 709;
 inline constexpr int kWordToIgnoreText = 710;

@@ -189,6 +189,7 @@ TEST_F(BadStateFile, WithoutAnItemSelectedTheProgramStillCounts) {
   desktop.ForgetQuestions();
   CountClipboard("cat hen dog hen");
   EXPECT_EQ(OnlyMessage().text, "File for count-only words not found.");
+  Panel().txbWordsFile[1].SetText("");
   CountClipboard("cat hen dog hen");
   EXPECT_EQ(StoredWords(), "hen*2");
   EXPECT_NE(Output(), "");

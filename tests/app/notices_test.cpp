@@ -35,13 +35,15 @@ TEST(Notices, MostImportantComesFirst) {
                         .linesNotUtf8 = 12,
                         .filesLeftOut = 4,
                         .countOnlyWords = 5,
+                        .noCountOnlyWord = true,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
-  EXPECT_THAT(TextsOf(all), ElementsAre(kFilesSkippedText, kListOfFileText, kSettingsChangedText,
-                                        kBytesNotDecodedText, kLettersNotCountedText,
-                                        kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                                        kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
+  EXPECT_THAT(TextsOf(all),
+              ElementsAre(kNoCountOnlyWordText, kFilesSkippedText, kListOfFileText,
+                          kSettingsChangedText, kBytesNotDecodedText, kLettersNotCountedText,
+                          kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
+                          kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
 }
 
 TEST(Notices, OneIsNotMany) {
@@ -208,6 +210,20 @@ TEST_F(NoticeBarTest, TellsOfListsOfWordsThatTheCountWentBy) {
   EXPECT_EQ(Said(), "Only one word is counted.");
   Main().cmdNotice[0].PerformClick();
   EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
+}
+
+TEST_F(NoticeBarTest, CountOnlyWordsThatGiveNoneAreTold) {
+  Panel().txbWordsFile[1].SetText(folder.Write("words.txt", "// none\r\n"));
+  CountFile(folder.Write("a.txt", "the cat"));
+  EXPECT_EQ(Said(),
+            "The count-only words that are named are none that can be counted: all words were "
+            "counted.");
+  ASSERT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdNotice[0].PerformClick();
+  EXPECT_EQ(Panel().Focused(), &Panel().txbWordsFile[1]);
+  Panel().txbWordsFile[1].SetText("");
+  Count();
+  EXPECT_EQ(Said(), "");
 }
 
 TEST_F(NoticeBarTest, ListOfWordsToIgnoreIsNotWhatWasLeftOut) {

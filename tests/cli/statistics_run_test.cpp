@@ -59,7 +59,7 @@ TEST_F(StatisticsRun, WordsOfWhichNoneIsListedAreToo) {
   EXPECT_EQ(Run({path, "--statistics", "--min-count", "9"}), kRunFailed);
   EXPECT_THAT(err, HasSubstr("instances\t6\n"));
   EXPECT_THAT(err, HasSubstr(kGrowthOfToBe));
-  EXPECT_THAT(err, HasSubstr("No words with more than"));
+  EXPECT_THAT(err, StartsWith("quillomat-cli: No words with more than"));
   EXPECT_EQ(Run({"--file", path, "--window-text", "--statistics", "--min-count", "9"}), kRunFailed);
   EXPECT_THAT(err, HasSubstr("instances\t6\n"));
 }

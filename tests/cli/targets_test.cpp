@@ -105,6 +105,24 @@ TEST_F(Targets, AnExportThatFailsDoesNotTakeTheOthersAlong) {
   EXPECT_EQ(ContentsOf(other), ContentsOf(table));
 }
 
+TEST_F(Targets, WhatIsWrittenIsToldByAnInterruptionThatComesThen) {
+  input = "cat";
+  const std::string list = folder / "list.txt";
+  const std::string report = folder / "report.csv";
+  const std::string state = folder / "state";
+  EXPECT_EQ(Run({"-", "--output", list, "--export", folder / "no/a.csv", "--export", table}),
+            kRunFailed);
+  EXPECT_EQ(lastWords, "") << "the count was refused";
+  EXPECT_EQ(countsOver, 0);
+  EXPECT_EQ(
+      Run({"-", "--output", list, "--export", table, "--report", report, "--save-state", state}),
+      kListMade)
+      << err;
+  EXPECT_EQ(lastWords, "Interrupted: written are " + state + ", " + list + ", " + report + ", " +
+                           table + ", and nothing else" + std::string(kPlatformLineBreak));
+  EXPECT_EQ(countsOver, 1);
+}
+
 TEST_F(Targets, AnExportIsWrittenWhenNobodyReadsTheOneThatIsPrinted) {
   input = "cat";
   outIsGone = true;

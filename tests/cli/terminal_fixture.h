@@ -44,6 +44,10 @@ class TerminalFixture : public testing::Test {
   /// Nobody reads standard output any more.
   bool outIsGone = false;
   std::function<int()> interruption = [] { return 0; };
+  /// How often it was said that the next interruption may end the program.
+  int countsOver = 0;
+  /// With the platform's line end.
+  std::string lastWords;
   std::chrono::milliseconds stepPerLook{0};
   std::string out;
   std::string err;
@@ -77,6 +81,8 @@ class TerminalFixture : public testing::Test {
             .errIsTerminal = errIsTerminal,
             .outIsTerminal = outIsTerminal,
             .interruption = [this] { return interruption(); },
+            .endAtInterruption = [this] { ++countsOver; },
+            .setLastWords = [this](const std::string& line) { lastWords = line; },
             .clock = [this] { return now_ += stepPerLook; }};
   }
 

@@ -1,5 +1,6 @@
 #include "cli/terminal_run.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <sstream>
 
@@ -12,6 +13,7 @@
 namespace quillomat {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -128,6 +130,8 @@ TEST_F(TerminalRunTest, PathsServeTheFormatsThatNameFiles) {
   EXPECT_EQ(Run({path, "--format", "13"}), 1);
   EXPECT_THAT(err, HasSubstr("Invalid display format: "));
   EXPECT_EQ(Run({"--file", path, "--only-words", "cat", "--format", "13"}), 1);
+  EXPECT_THAT(err, EndsWith("quillomat-cli: here formats 11 to 13 go with --folder, and with any "
+                            "PATH, if --only or --only-words is given\n"));
 }
 
 TEST_F(TerminalRunTest, PathsServeTheColumnsThatNameFiles) {
@@ -175,6 +179,62 @@ TEST_F(TerminalRunTest, ExportsNameTheTextSoThatItCanBeCountedAgain) {
   EXPECT_THAT(settingsOf({"--text", one}), HasSubstr(R"(a, b.txt",)"));
   EXPECT_THAT(settingsOf({"--text", "-"}), HasSubstr(R"("text":"-")"));
   EXPECT_THAT(settingsOf({"--folder", folder.Path()}), HasSubstr(R"("folder":")"));
+}
+
+TEST_F(TerminalRunTest, CountOnlyWordsThatGiveNoneAreTold) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  const std::string words = folder.Write("words.txt", "// none\r\n");
+  EXPECT_EQ(Run({text, "--only", words, "--export", "-", "--export-format", "json"}), 0) << err;
+  EXPECT_THAT(err,
+              EndsWith("Note: " + words +
+                       " gives no count-only word that can be counted; all words are counted.\n"));
+  EXPECT_THAT(out, HasSubstr("\"dog\""));
+  EXPECT_THAT(out, testing::Not(HasSubstr("\"only\"")));
+  EXPECT_EQ(Run({text, "--only-words", "..."}), 0) << err;
+  EXPECT_EQ(err,
+            "Note: --only-words gives no count-only word that can be counted; all words are "
+            "counted.\n");
+  EXPECT_EQ(Run({text, "--only", words, "--only-words", "cat"}), 0) << err;
+  EXPECT_THAT(err, testing::Not(HasSubstr("Note")));
+}
+
+TEST_F(TerminalRunTest, AWordsFileOfAStateThatIsAwayIsNamed) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  const std::string words = folder.Write("words.txt", "cat\r\n");
+  for (const char* option : {"--only", "--ignore"}) {
+    const std::string away = folder.Write("away.txt", "cat\r\n");
+    const std::string state = folder / option;
+    ASSERT_EQ(Run({text, option, away, "--save-state", state}), 0) << err;
+    std::filesystem::remove(away);
+    EXPECT_EQ(Run({text, "--state", state}), 1);
+    EXPECT_EQ(err, "quillomat-cli: the words file " + away +
+                       ", which the settings name, does not exist; --ignore and --only name "
+                       "another\n");
+    EXPECT_EQ(Run({text, "--state", state, option, words}), 0) << err;
+  }
+}
+
+TEST_F(TerminalRunTest, AFileThatIsNoStateIsToldSo) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  EXPECT_EQ(Run({text, "--state", text}), 1);
+  EXPECT_EQ(err, "quillomat-cli: --state " + text +
+                     " cannot be used as a state: Input past end of file; it is not what "
+                     "--save-state and the window write\n");
+}
+
+TEST_F(TerminalRunTest, WordsThatAreBothCountOnlyAndToIgnoreAreTold) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  EXPECT_EQ(Run({text, "--only-words", "cat dog", "--ignore-words", "dog"}), 0) << err;
+  EXPECT_EQ(err, "Note: 1 word to ignore is a count-only word, too; it is counted.\n");
+  EXPECT_THAT(out, HasSubstr("dog"));
+  const std::string words = folder.Write("words.txt", "cat\r\n");
+  EXPECT_EQ(Run({text, "--only-words", "cat dog", "--ignore", words, "--ignore-words", "dog emu"}),
+            0)
+      << err;
+  EXPECT_THAT(err,
+              EndsWith("Note: 2 words to ignore are count-only words, too; they are counted.\n"));
+  EXPECT_EQ(Run({text, "--only-words", "cat", "--ignore-words", "dog"}), 0) << err;
+  EXPECT_EQ(err, "");
 }
 
 TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <map>
-#include <random>
 #include <string>
 #include <string_view>
 
@@ -124,15 +122,11 @@ TEST(DecodingProperty, RandomBytesOfFixedSeedAreDecodedAlikeInAnyBlocks) {
 }
 
 TEST(DecodingProperty, RandomBytesOfFreshSeedAreDecodedAlikeInAnyBlocks) {
-  const std::uint64_t seed = std::random_device()();
-  std::cout << "fresh seed " << seed << std::endl;
-  CheckRandomBytes(seed);
+  CheckRandomBytes(FreshSeed());
 }
 
 TEST(DecodingProperty, FilesInEncodingsAreCountedAsTheirTextIs) {
-  const std::uint64_t seed = std::random_device()();
-  std::cout << "fresh seed " << seed << std::endl;
-  CompareRandomFiles(seed);
+  CompareRandomFiles(FreshSeed());
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 // same outcome, to the letter. A case that fails is made as small as it can be and printed as code.
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <iostream>
-#include <random>
 #include <string>
 
 #include "properties/count_case.h"
@@ -83,9 +81,7 @@ TEST(EngineProperty, RandomCasesOfFixedSeedHaveTheOutcomeOfTheLiteralEngine) {
 }
 
 TEST(EngineProperty, RandomCasesOfFreshSeedHaveTheOutcomeOfTheLiteralEngine) {
-  const std::uint64_t seed = std::random_device()();
-  std::cout << "fresh seed " << seed << std::endl;
-  CompareRandomCases(seed);
+  CompareRandomCases(FreshSeed());
 }
 
 }  // namespace

@@ -5,9 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <map>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -180,9 +178,7 @@ TEST(ExplainProperty, RandomTextsOfFixedSeedAreExplainedAsTheyAreCounted) {
 }
 
 TEST(ExplainProperty, RandomTextsOfFreshSeedAreExplainedAsTheyAreCounted) {
-  const std::uint64_t seed = std::random_device()();
-  std::cout << "fresh seed " << seed << std::endl;
-  CheckRandomExplanations(seed);
+  CheckRandomExplanations(FreshSeed());
 }
 
 }  // namespace

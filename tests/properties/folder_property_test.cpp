@@ -4,8 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <iostream>
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -129,9 +127,7 @@ TEST(FolderProperty, RandomFoldersOfFixedSeedHaveTheOutcomeOfTheLiteralEngine) {
 }
 
 TEST(FolderProperty, RandomFoldersOfFreshSeedHaveTheOutcomeOfTheLiteralEngine) {
-  const std::uint64_t seed = std::random_device()();
-  std::cout << "fresh seed " << seed << std::endl;
-  CompareRandomFolders(seed);
+  CompareRandomFolders(FreshSeed());
 }
 
 }  // namespace

@@ -17,10 +17,13 @@ TEST(RefusalText, TellsTheErrorOnlyWhereItSaysMore) {
   EXPECT_EQ(RefusalBehindName(Refusal::kFolderNotFound, kDenied), "does not exist; check the path");
 }
 
-TEST(RefusalText, OfWhatARunPassesOverTheErrorIsEnough) {
+TEST(RefusalText, OfWhatARunPassesOverTheErrorIsTold) {
   EXPECT_EQ(RefusalInRun(Refusal::kReadFailed, kDenied), "Permission denied");
-  EXPECT_EQ(RefusalInRun(Refusal::kFolderUnreadable, kDenied), "the folder cannot be read");
-  EXPECT_EQ(RefusalInRun(Refusal::kCannotBeOpened, kDenied), "the file cannot be opened");
+  EXPECT_EQ(RefusalInRun(Refusal::kFolderUnreadable, kDenied),
+            "the folder cannot be read: Permission denied");
+  EXPECT_EQ(RefusalInRun(Refusal::kCannotBeOpened, kDenied),
+            "the file cannot be opened: Permission denied");
+  EXPECT_EQ(RefusalInRun(Refusal::kCannotBeOpened, std::nullopt), "the file cannot be opened");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "app/count/count_basis.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "app/setting_values.h"
 
@@ -26,6 +27,14 @@ std::string ValueInForce(const Setting& setting, const MainForm& frmMain,
   return LanguageFreeValueOf(ControlOf(setting, frmMain, frmParams));
 }
 
+/// `lists` were taken from the panel.
+bool NamesNoCountOnlyWord(const ParamsForm& frmParams, const WordLists& lists) {
+  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
+  const bool namesSome = !frmParams.txbWordsFile[kIndex].Text().empty() ||
+                         !frmParams.txbWordsToIgnoreOrCount[kIndex].Text().empty();
+  return namesSome && !lists.HasCountOnlyWords();
+}
+
 }  // namespace
 
 CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
@@ -43,6 +52,7 @@ CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
                                              [](const std::string& path) { return !path.empty(); });
   const WordLists& lists = inForce.lists;
   basis.countOnlyWords = lists.CountOnlyList.Count() + lists.ExtraCountOnlyList.Count();
+  basis.namesNoCountOnlyWord = NamesNoCountOnlyWord(frmParams, lists);
   if (basis.countOnlyWords == 0) {
     basis.wordsToIgnore = lists.IgnoreList.Count() + lists.ExtraIgnoreList.Count();
   }

@@ -24,6 +24,8 @@ struct CountBasis {
   /// The same, of which files of a folder are read.
   std::vector<std::string> ofFolder;
   std::int32_t countOnlyWords = 0;
+  /// Count-only words are named, and none of them can be counted: then all words are.
+  bool namesNoCountOnlyWord = false;
   /// 0 where only some words are counted.
   std::int32_t wordsToIgnore = 0;
 };

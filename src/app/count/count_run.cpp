@@ -110,8 +110,7 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.folder = {result.files, result.folders, result.skippedInAll, {}, result.leftOut};
   count_.words.stoppedAfter = result.stoppedAfter;
   count_.words.settings =
-      SettingFactsOf(count_.words.counted, count_.inForce.filesRead.clipboardText, count_.frmMain,
-                     count_.frmParams);
+      SettingFactsOf(count_.words.counted, count_.inForce, count_.frmMain, count_.frmParams);
   count_.words.completeRun = result.end == CountEnd::kComplete;
   count_.words.listAfterStop = !count_.words.completeRun;
   count_.inForce.settings.CountOnlyMode = result.countOnlyMode;

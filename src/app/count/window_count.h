@@ -46,8 +46,7 @@ class WindowObserver : public CountObserver {
       : count_(count),
         text_(std::move(text)),
         basis_(CountBasisOf(count.frmMain, count.frmParams, count.inForce)),
-        settings_(SettingFactsOf(text_, count.inForce.filesRead.clipboardText, count.frmMain,
-                                 count.frmParams)),
+        settings_(SettingFactsOf(text_, count.inForce, count.frmMain, count.frmParams)),
         countOnlyMode_(count.inForce.lists.HasCountOnlyWords()),
         echo_(count.frmMain, count.output, count.messages, count.inForce.settings),
         fileProgress_(count.frmMain.lblTotalNumOccurrences) {}

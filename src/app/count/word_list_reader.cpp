@@ -256,14 +256,14 @@ void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
   }
 }
 
-/// False. While a state is restored the panel says that it could not be loaded as a whole. The box
-/// of count-only words keeps the path then, so the next count will tell; words to ignore are the
-/// default ones from then on.
+/// False. The box keeps the path: its disk may be away for a while, and a count without the list is
+/// not what the user asked for, so each one tells until the file is back or the box is cleared.
+/// While a state is restored the panel says that it could not be loaded as a whole; words to ignore
+/// are the default ones from then on.
 bool WordListReader::TellNotFound(WordListKind kind) {
   ForgetWordsOfFile(kind);
   if (flags_.blnStartUpCompleted && !flags_.blnInhibitPrompt) {
     messages_.Refuse("File for " + KindName(kind) + " not found.", "File not found");
-    PathBox(kind).SetText("");
   } else if (IsIgnore(kind)) {
     SetPathToCWDs_Eng();
   }

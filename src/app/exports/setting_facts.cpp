@@ -84,6 +84,12 @@ Value ValueOf(const Setting& setting, const MainForm& frmMain, const ParamsForm&
   return std::nullopt;
 }
 
+bool NamesCountOnlyWords(const Control& control, const ParamsForm& frmParams) {
+  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
+  return &control == &frmParams.txbWordsFile[kIndex] ||
+         &control == &frmParams.txbWordsToIgnoreOrCount[kIndex];
+}
+
 /// As whoever makes the count again names it, from wherever.
 std::string PathAsNamed(const std::string& path) {
   return path == kStandardInputPath ? "-" : AbsolutePath(path);
@@ -114,12 +120,16 @@ std::vector<ExportFact> FactsOf(const CountedText& text, const std::string& clip
 
 }  // namespace
 
-std::vector<ExportFact> SettingFactsOf(const CountedText& text, const std::string& clipboardFile,
+std::vector<ExportFact> SettingFactsOf(const CountedText& text, const InForce& inForce,
                                        const MainForm& frmMain, const ParamsForm& frmParams) {
   constexpr std::string_view kHyphens = "--";
-  std::vector<ExportFact> facts = FactsOf(text, clipboardFile);
+  const bool countsAll = !inForce.lists.HasCountOnlyWords();
+  std::vector<ExportFact> facts = FactsOf(text, inForce.filesRead.clipboardText);
   for (const Setting& setting : AllSettings()) {
     if (!BearsOnWords(setting, text)) continue;
+    if (countsAll && NamesCountOnlyWords(ControlOf(setting, frmMain, frmParams), frmParams)) {
+      continue;
+    }
     Value value = ValueOf(setting, frmMain, frmParams);
     if (!value) continue;
     facts.push_back({std::string(setting.option.name.substr(kHyphens.size())), *std::move(value)});

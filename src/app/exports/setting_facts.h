@@ -2,9 +2,9 @@
 // whoever has the file can make the count again.
 #pragma once
 
-#include <string>
 #include <vector>
 
+#include "app/count/in_force.h"
 #include "export/export_table.h"
 #include "sources/output_rules.h"
 #include "ui/main_form.h"
@@ -13,10 +13,10 @@
 namespace quillomat {
 
 /// The text, and the settings that bear on its words as the windows stand now; those that are empty
-/// are left out. Paths are whole ones, "-" is standard input. `clipboardFile`: the file whose text
-/// stands on the clipboard; "" for none.
+/// are left out, and count-only words that are none, as all words are counted then. Paths are whole
+/// ones, "-" is standard input.
 [[nodiscard]] std::vector<ExportFact> SettingFactsOf(const CountedText& text,
-                                                     const std::string& clipboardFile,
+                                                     const InForce& inForce,
                                                      const MainForm& frmMain,
                                                      const ParamsForm& frmParams);
 

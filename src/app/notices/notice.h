@@ -56,6 +56,8 @@ struct NoticeFacts {
   std::string leftOutBecause = {};
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
+  /// All words were counted, though some are named that alone should have been.
+  bool noCountOnlyWord = false;
   std::int64_t wordsToIgnore = 0;
   /// The words that the text box holds, of so many; all of them where the text is not looked at.
   std::int64_t wordsShown = 0;

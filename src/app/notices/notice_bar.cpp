@@ -91,6 +91,7 @@ NoticeFacts NoticeBar::Facts() const {
   facts.bytesNotDecoded = words_.uncounted.bytesNotDecoded;
   facts.linesNotUtf8 = words_.uncounted.linesNotUtf8;
   facts.countOnlyWords = basis.countOnlyWords;
+  facts.noCountOnlyWord = basis.namesNoCountOnlyWord;
   facts.wordsToIgnore = basis.wordsToIgnore;
   const ListPart part = output_.Part();
   facts.words = part.all;

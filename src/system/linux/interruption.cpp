@@ -7,9 +7,11 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
+#include <string_view>
 #include <sys/types.h>
 #include <unistd.h>
 
+#include "system/last_words.h"
 #include "system/signals.h"
 #include "system/unfinished_files.h"
 
@@ -26,11 +28,22 @@ std::atomic<int> statusNoted{0};
 std::array<struct sigaction, kSignals.size()> handledBefore{};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
+/// Nobody can be told that it failed.
+void SayLastWords() noexcept {
+  std::string_view words = LastWords();
+  while (!words.empty()) {
+    const ssize_t bytes = write(STDERR_FILENO, words.data(), words.size());
+    if (bytes <= 0) return;
+    words.remove_prefix(static_cast<std::size_t>(bytes));
+  }
+}
+
 void OnSignal(int signal) {
   const int status = kStatusOfSignals + signal;
   int none = 0;
   if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return;
   RemoveUnfinishedFiles();
+  SayLastWords();
   _exit(status);
 }
 
@@ -73,6 +86,10 @@ Interruption::~Interruption() {
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     sigaction(kSignals[i], &handledBefore[i], nullptr);
   }
+}
+
+void EndAtFirstInterruption() noexcept {
+  firstIsNoted = false;
 }
 
 int InterruptionStatus() noexcept {

@@ -1,8 +1,10 @@
 #include "system/interruption.h"
 
 #include <atomic>
+#include <string_view>
 #include <windows.h>
 
+#include "system/last_words.h"
 #include "system/native_disk.h"
 #include "system/signals.h"
 #include "system/unfinished_files.h"
@@ -16,6 +18,14 @@ std::atomic<bool> firstIsNoted{false};
 std::atomic<int> statusNoted{0};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
+/// Nobody can be told that it failed.
+void SayLastWords() {
+  const std::string_view words = LastWords();
+  DWORD written = 0;
+  WriteFile(GetStdHandle(STD_ERROR_HANDLE), words.data(), static_cast<DWORD>(words.size()),
+            &written, nullptr);
+}
+
 /// The system calls it on a thread of its own.
 BOOL WINAPI OnConsoleEvent(DWORD event) {
   const bool byHand = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
@@ -23,6 +33,7 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
   int none = 0;
   if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) return TRUE;
   RemoveUnfinishedFiles();
+  SayLastWords();
   TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
   return TRUE;
 }
@@ -37,6 +48,10 @@ Interruption::Interruption(First first) {
 
 Interruption::~Interruption() {
   SetConsoleCtrlHandler(OnConsoleEvent, FALSE);
+}
+
+void EndAtFirstInterruption() noexcept {
+  firstIsNoted = false;
 }
 
 int InterruptionStatus() noexcept {

@@ -127,14 +127,27 @@ TEST_F(BoxesInForce, ACountForgetsAWordsFileWhoseBoxWasEmptied) {
   EXPECT_EQ(StoredWords(), "cat dog");
 }
 
-TEST_F(BoxesInForce, ACountThatLacksItsWordsFileIsRefusedOnce) {
-  TypeWordsFile(WordListKind::kCountOnly, folder / "gone.txt");
+TEST_F(BoxesInForce, ACountThatLacksItsWordsFileIsRefusedUntilItIsBack) {
+  const std::string path = folder / "away.txt";
+  TypeWordsFile(WordListKind::kCountOnly, path);
+  for (int time = 0; time < 2; ++time) {
+    desktop.ForgetQuestions();
+    CountClipboard("dog cat");
+    ExpectMessage(OnlyMessage(), "File for count-only words not found.", "File not found",
+                  MessageIcon::kExclamation);
+    EXPECT_EQ(StoredWords(), "") << "all words were counted";
+    EXPECT_EQ(WordsFileBox(WordListKind::kCountOnly).Text(), path);
+    ExpectIdle();
+  }
+  static_cast<void>(folder.Write("away.txt", "dog\r\n"));
   CountClipboard("dog cat");
-  ExpectMessage(OnlyMessage(), "File for count-only words not found.", "File not found",
-                MessageIcon::kExclamation);
-  EXPECT_EQ(StoredWords(), "");
-  EXPECT_EQ(WordsFileBox(WordListKind::kCountOnly).Text(), "");
-  ExpectIdle();
+  EXPECT_EQ(StoredWords(), "dog");
+}
+
+TEST_F(BoxesInForce, ACountThatLacksItsWordsFileGoesOnWhenItsBoxIsCleared) {
+  TypeWordsFile(WordListKind::kCountOnly, folder / "away.txt");
+  CountClipboard("dog cat");
+  TypeWordsFile(WordListKind::kCountOnly, "");
   CountClipboard("dog cat");
   EXPECT_EQ(StoredWords(), "cat dog");
 }

@@ -1,6 +1,7 @@
 // The program is ended by signals while it writes: in a process of its own, which is then looked at
 // from outside.
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <functional>
 #include <sys/wait.h>
@@ -112,6 +113,35 @@ TEST_F(InterruptionTest, WhoWantsMayNoteTheFirstButNotTheSecond) {
             }),
             kInterruptedStatus);
   ExpectTheOldFileAlone();
+}
+
+TEST_F(InterruptionTest, WhatIsFinishedFirstHasAnEnd) {
+  EXPECT_EQ(StatusOf([] {
+              const Interruption interruption(Interruption::First::kIsNoted);
+              EndAtFirstInterruption();
+              raise(SIGINT);
+            }),
+            kInterruptedStatus);
+}
+
+TEST_F(InterruptionTest, LeavesALastWord) {
+  const auto saidAfter = [this](const std::function<void()>& before) {
+    const std::string said = folder_ / "said";
+    EXPECT_EQ(StatusOf([&] {
+                if (std::freopen(said.c_str(), "w", stderr) == nullptr) _exit(1);
+                const Interruption interruption;
+                before();
+                raise(SIGINT);
+              }),
+              kInterruptedStatus);
+    return ContentsOf(said);
+  };
+  EXPECT_EQ(saidAfter([] {}), "");
+  EXPECT_EQ(saidAfter([] {
+              SetLastWords("a.csv is written\n");
+              SetLastWords("a.csv and b.csv are written\n");
+            }),
+            "a.csv and b.csv are written\n");
 }
 
 TEST_F(InterruptionTest, WhatWasIgnoredStaysIgnored) {
