@@ -62,15 +62,18 @@ std::vector<ControlCaption> ToolTipsOf(SettingWindow window) {
                       &Setting::toolTip);
 }
 
-void SetItems(const ProgramText& text, ParamsForm& frmParams, ExportForm& frmExport) {
+void SetItems(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
+              ExportForm& frmExport) {
   const auto setFirst = [&text](ComboBox& combo, std::span<const int> texts) {
     for (std::size_t i = 0; i < std::min(texts.size(), combo.Items().size()); ++i) {
-      combo.SetItem(static_cast<int>(i), text.GetText(texts[i]));
+      const std::string item = text.GetText(texts[i]);
+      if (!item.empty()) combo.SetItem(static_cast<int>(i), item);
     }
   };
   setFirst(frmParams.cboLetters, kLetterTexts);
   setFirst(frmParams.cboEncoding, kEncodingTexts);
-  setFirst(frmExport.cboOrder, kExportOrderTexts);
+  setFirst(frmMain.cboWordOrder, kOrderTexts);
+  setFirst(frmExport.cboOrder, kOrderTexts);
 }
 
 void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
@@ -81,7 +84,7 @@ void SetCaptions(const ProgramText& text, MainForm& frmMain, ParamsForm& frmPara
   frmParams.SetCaption(text.GetText(kParamsFormCaption));
   SetCaptionsOf(frmParams, CaptionsOf(SettingWindow::kPanel), text);
   SetToolTipsOf(frmParams, ToolTipsOf(SettingWindow::kPanel), text);
-  SetItems(text, frmParams, frmExport);
+  SetItems(text, frmMain, frmParams, frmExport);
   frmHelp.SetCaption(text.GetText(kHelpFormCaption));
   SetCaptionsOf(frmHelp, kHelpFormCaptions, text);
   SetToolTipsOf(frmHelp, kHelpFormToolTips, text);

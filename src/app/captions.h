@@ -20,7 +20,8 @@ namespace quillomat {
 [[nodiscard]] std::vector<ControlCaption> ToolTipsOf(SettingWindow window);
 
 /// The items of the lists that hold words, in the language chosen; of lists that have been filled.
-void SetItems(const ProgramText& text, ParamsForm& frmParams, ExportForm& frmExport);
+void SetItems(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
+              ExportForm& frmExport);
 
 /// Sets all captions that are numbered texts, but for the count command's, which follows from what
 /// is done (ShowCountCaption).

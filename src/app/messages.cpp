@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/text_helpers.h"
+#include "system/locale_info.h"
 
 namespace quillomat {
 
@@ -26,8 +27,17 @@ MessageAnswer Messages::Ask(std::string text, std::string title, MessageButtons 
                                MessageSeverity::kQuestion});
 }
 
+MessageAnswer Messages::AskToKeep(std::string text, std::string title) const {
+  return desktop_.ShowMessage({std::move(text), std::move(title), MessageIcon::kQuestion,
+                               MessageButtons::kYesNo, MessageSeverity::kQuestion, true});
+}
+
 std::string Messages::ProgramTitle() const {
   return Text(kProgramTitleText);
+}
+
+NumberSigns Messages::Signs() const {
+  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
 }
 
 std::string Messages::Grouped(std::int64_t number) const {

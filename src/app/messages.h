@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "app/table/number_signs.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 
@@ -28,6 +29,8 @@ class Messages {
   /// Asks and waits for the answer.
   [[nodiscard]] MessageAnswer Ask(std::string text, std::string title,
                                   MessageButtons buttons = MessageButtons::kYesNo) const;
+  /// Asks whether to keep what is lost with No.
+  [[nodiscard]] MessageAnswer AskToKeep(std::string text, std::string title) const;
 
   /// The numbered text in the language of the program.
   [[nodiscard]] std::string Text(int number) const { return text_.GetText(number); }
@@ -37,6 +40,8 @@ class Messages {
 
   /// What stands between groups of three digits in the user's locale.
   [[nodiscard]] std::string DigitGroupSeparator() const { return desktop_.DigitGroupSeparator(); }
+  /// How numbers with decimals are written there.
+  [[nodiscard]] NumberSigns Signs() const;
   /// `number` with the digit grouping of the user's locale.
   [[nodiscard]] std::string Grouped(std::int64_t number) const;
 

@@ -43,12 +43,9 @@ void ParametersPanel::ConnectScanningChoice(const Setting& setting, Control& con
     box->Click.Connect([this, box] { OnScanningBoxClick(*box); });
   }
   if (auto* combo = control.As<ComboBox>()) {
-    combo->Click.Connect([this, &setting, combo, before = combo->ListIndex()]() mutable {
-      if (setting.ofFilesAlone && !FilesWereRead()) {
-        before = combo->ListIndex();
-      } else {
-        OnScanningComboClick(*combo, before);
-      }
+    // Nothing is asked: the keyboard goes through the items one by one.
+    combo->Click.Connect([this, &setting] {
+      if (!setting.ofFilesAlone || FilesWereRead()) words_.blnWordsGot = false;
     });
   }
   if (auto* box = control.As<TextBox>()) {
@@ -71,17 +68,6 @@ void ParametersPanel::OnScanningBoxClick(CheckBox& box) {
   const bool checked = &box == &frmParams_.chkFoldAccents && !box.IsChecked();
   flags_.blnInhibitPrompt = true;
   box.SetChecked(checked);
-  flags_.blnInhibitPrompt = false;
-}
-
-/// `before` is the item that was selected before.
-void ParametersPanel::OnScanningComboClick(ComboBox& combo, int& before) {
-  if (MayReadAnew()) {
-    before = combo.ListIndex();
-    return;
-  }
-  flags_.blnInhibitPrompt = true;
-  combo.SetListIndex(before);
   flags_.blnInhibitPrompt = false;
 }
 
@@ -116,7 +102,6 @@ bool ParametersPanel::ConfirmReRead() {
 }
 
 void ParametersPanel::AllowAllLetters() {
-  words_.blnWordsGot = false;  // so there is nothing to ask
   frmParams_.cboLetters.SetListIndex(static_cast<int>(LetterRule::kAll));
 }
 

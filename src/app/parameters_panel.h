@@ -40,7 +40,6 @@ class ParametersPanel {
   void AfterClickThatLeaves(const std::function<void()>& action);
   void ConnectCommands();
   void OnScanningBoxClick(CheckBox& box);
-  void OnScanningComboClick(ComboBox& combo, int& before);
   [[nodiscard]] bool FilesWereRead() const;
   [[nodiscard]] bool MayReadAnew();
   [[nodiscard]] bool ConfirmReRead();

@@ -13,7 +13,6 @@
 #include "app/setting_values.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
-#include "system/locale_info.h"
 #include "system/settings_folder.h"
 #include "text/language.h"
 #include "text/shell_helpers.h"
@@ -124,7 +123,7 @@ void Program::FillLists() {
   parts_.wordLists.SetPathToCWDs_Eng();
   parts_.mainWindow.FillListCombos();
   frmParams.FillCombos();
-  SetItems(parts_.text, frmParams, frmExport);
+  SetItems(parts_.text, frmMain, frmParams, frmExport);
   parts_.controls.SetClipboardViewer(FindClipboardViewer());
 }
 
@@ -160,7 +159,14 @@ void Program::ForgetWords() {
 }
 
 std::vector<TextPlace> Program::PlacesIn(std::string_view text, std::string_view wanted) const {
-  return quillomat::PlacesIn(text, wanted, parts_.words.store.Rule());
+  std::size_t begin = 0;  // behind the titles, which are no words of the text
+  for (std::size_t lines = parts_.output.TitleLines(); lines > 0; --lines) {
+    begin = std::min(text.find('\n', begin), text.size() - 1) + 1;
+  }
+  std::vector<TextPlace> places =
+      quillomat::PlacesIn(text.substr(begin), wanted, parts_.words.store.Rule());
+  for (TextPlace& place : places) place = {place.begin + begin, place.end + begin};
+  return places;
 }
 
 std::string Program::FoundBelowText(std::string_view wanted) const {
@@ -170,7 +176,7 @@ std::string Program::FoundBelowText(std::string_view wanted) const {
 }
 
 NumberSigns Program::Signs() const {
-  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
+  return parts_.messages.Signs();
 }
 
 void Program::UseSettingsFolder() {

@@ -27,7 +27,7 @@ void SourceRows::ChooseText(const std::string& path) {
     frmMain_.txbFile[0].EnterText(path);
     frmMain_.optInFile.SetValue(true);
     const bool found = inputRow_.CheckInputFile(path) == ScanFileResult::kDone;
-    if (!found) RefuseMissingInput(messages_);
+    if (!found) RefuseMissingInput(messages_, path);
   }
   SetTheFocus(frmMain_);
 }

@@ -19,7 +19,7 @@ std::optional<double> SecondsLeft(BytesDone bytes, std::chrono::nanoseconds elap
   return std::max(0.0, static_cast<double>(bytes.whole - bytes.done)) / rate;
 }
 
-std::string AmountText(double bytes) {
+std::string AmountText(double bytes, std::string_view decimalSign) {
   constexpr double kStep = 1000;
   constexpr std::array<std::string_view, 5> kUnits = {"B", "kB", "MB", "GB", "TB"};
   std::size_t unit = 0;
@@ -32,7 +32,11 @@ std::string AmountText(double bytes) {
   char* const end = std::to_chars(text.data(), text.data() + text.size(), bytes,
                                   std::chars_format::fixed, decimals)
                         .ptr;
-  return std::string(text.data(), end).append(" ").append(kUnits.at(unit));
+  std::string amount(text.data(), end);
+  if (const std::size_t point = amount.find('.'); point != std::string::npos) {
+    amount.replace(point, 1, decimalSign);
+  }
+  return amount.append(" ").append(kUnits.at(unit));
 }
 
 std::string ClockText(double seconds) {

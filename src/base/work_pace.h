@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace quillomat {
 
@@ -22,7 +23,7 @@ struct BytesDone {
 [[nodiscard]] std::optional<double> SecondsLeft(BytesDone bytes, std::chrono::nanoseconds elapsed);
 
 /// "310 MB"; at least two digits, so that it can be seen to grow.
-[[nodiscard]] std::string AmountText(double bytes);
+[[nodiscard]] std::string AmountText(double bytes, std::string_view decimalSign = ".");
 /// "0:05", "1:02:03".
 [[nodiscard]] std::string ClockText(double seconds);
 

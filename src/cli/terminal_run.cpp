@@ -427,6 +427,7 @@ class TerminalRun {
       return false;
     }
     program_.Lister().ListWords();
+    program_.Lister().TellFullBox();
     return program_.Words().totals.NumIncludedWords > 0;
   }
 

@@ -51,13 +51,19 @@ void FilesModel::SetTexts(const ProgramText& text) {
   endResetModel();
 }
 
-QStringList FilesModel::CopyOf(int row) const {
+QStringList FilesModel::CopyOf(int row, const QList<int>& sections) const {
   QStringList cells;
-  for (int section = 0; section < kSections; ++section) {
-    const NumberSigns plain{.group = "", .decimal = signs_.decimal};
+  const NumberSigns plain{.group = "", .decimal = signs_.decimal};
+  for (const int section : sections) {
     cells.append(ToQt(rows_.TextAt(static_cast<std::size_t>(row), ColumnOf(section), plain)));
   }
   return cells;
+}
+
+QStringList FilesModel::TitlesOf(const QList<int>& sections) const {
+  QStringList titles;
+  for (const int section : sections) titles.append(titles_.value(section));
+  return titles;
 }
 
 int FilesModel::rowCount(const QModelIndex& parent) const {
@@ -241,15 +247,25 @@ void FilesPage::ShowNotRead(bool byDesign) {
   table_->setFocus(Qt::OtherFocusReason);
 }
 
+/// All of them, as they stand from left to right.
+QList<int> FilesPage::SectionsInOrder() const {
+  QList<int> sections;
+  for (int place = 0; place < kSections; ++place) {
+    sections.append(table_->horizontalHeader()->logicalIndex(place));
+  }
+  return sections;
+}
+
 void FilesPage::Copy() const {
   QList<int> rows = SelectedRowsOf(*table_);
   if (rows.isEmpty()) {
     rows.resize(model_.rowCount());
     std::iota(rows.begin(), rows.end(), 0);
   }
+  const QList<int> sections = SectionsInOrder();
   CopiedRows copied(rows.size());
-  copied.AddTitles(model_.Titles());
-  for (const int row : rows) copied.Add(model_.CopyOf(row));
+  copied.AddTitles(model_.TitlesOf(sections));
+  for (const int row : rows) copied.Add(model_.CopyOf(row, sections));
   copied.PutOnClipboard();
 }
 

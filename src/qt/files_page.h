@@ -23,10 +23,10 @@ class FilesModel final : public QAbstractTableModel {
   FilesModel(FileRows& rows, NumberSigns signs);
 
   void SetTexts(const ProgramText& text);
-  [[nodiscard]] const QStringList& Titles() const { return titles_; }
+  [[nodiscard]] QStringList TitlesOf(const QList<int>& sections) const;
   [[nodiscard]] const NumberSigns& Signs() const { return signs_; }
   /// As another program is to read it: numbers without groups.
-  [[nodiscard]] QStringList CopyOf(int row) const;
+  [[nodiscard]] QStringList CopyOf(int row, const QList<int>& sections) const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -72,6 +72,7 @@ class FilesPage final : public QWidget {
   void ShowStopped();
   void ShowHint();
   void FitColumns();
+  [[nodiscard]] QList<int> SectionsInOrder() const;
 
   Program& program_;
   FileRows rows_;

@@ -333,7 +333,7 @@ QString MainWindowView::ProgressFormat(const Progress& progress) const {
   if (progress.files > 0) {
     format = fileOfFiles_.arg(progress.file).arg(progress.files) + dash + format;
   }
-  const QString pace = ToQt(PaceText(progress, program_.Text()));
+  const QString pace = ToQt(PaceText(progress, program_.Text(), program_.Signs()));
   if (pace.isEmpty()) return format;
   const QString whole = format + dash + pace;
   const QProgressBar& bar = *ui_->barProgress;
@@ -344,6 +344,8 @@ QString MainWindowView::ProgressFormat(const Progress& progress) const {
 void MainWindowView::ConnectKeys() {
   MainForm& frmMain = program_.frmMain;
   onEnter = [this, &frmMain] {
+    // Who reads a table of the result does not mean to make another.
+    if (views_->Current() != kTextView && views_->isAncestorOf(focusWidget())) return;
     if (!program_.State().Busy()) frmMain.cmdCountWords.PerformClick();
   };
   onEscape = [this, &frmMain] {

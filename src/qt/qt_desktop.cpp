@@ -7,6 +7,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -115,6 +117,33 @@ void KeepFromLosing(QInputDialog& shown) {
                    });
 }
 
+/// One in which Escape may be no answer.
+class AnsweredBox final : public QMessageBox {
+ public:
+  AnsweredBox(QWidget* parent, bool takesEscape) : QMessageBox(parent), takesEscape_(takesEscape) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape && !takesEscape_) return;
+    QMessageBox::keyPressEvent(event);
+  }
+
+ private:
+  bool takesEscape_;
+};
+
+/// A box of few words would be narrower than its title.
+void MakeRoomForTitle(QMessageBox& box) {
+  constexpr int kSigns = 12;  // the commands of the frame take the room of so many
+  auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (text == nullptr) return;
+  const QFontMetrics letters = box.fontMetrics();
+  const int title =
+      letters.horizontalAdvance(box.windowTitle()) + kSigns * letters.averageCharWidth();
+  // A box of more words finds its own width.
+  if (letters.size(0, box.text()).width() < title) text->setMinimumWidth(title);
+}
+
 bool IsReadOnly(const QString& path) {
   const QFileInfo file(path);
   return file.exists() && !file.isWritable();
@@ -144,7 +173,7 @@ std::string QtDesktop::DocumentsFolder() {
 
 MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
   Repaint();
-  QMessageBox shown(BoxParent());
+  AnsweredBox shown(BoxParent(), !box.noLoses);
   const ButtonSet set = ButtonsOf(box.buttons);
   shown.setWindowTitle(ToQt(box.title));
   shown.setTextFormat(Qt::PlainText);
@@ -152,6 +181,7 @@ MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
   shown.setIcon(IconOf(box.icon));
   shown.setStandardButtons(set.buttons);
   shown.setEscapeButton(set.onEscape);
+  MakeRoomForTitle(shown);
   return AnswerOf(shown.exec());
 }
 

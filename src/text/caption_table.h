@@ -135,7 +135,7 @@ inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 
 /// The items of the export window's cboOrder, in the order of WordOrder.
-inline constexpr std::array<int, 2> kExportOrderTexts = {870, 871};
+inline constexpr std::array<int, 2> kOrderTexts = {870, 871};
 
 /// Tool tips of frmParams.
 inline constexpr auto kParamsFormToolTips = std::to_array<ControlCaption>({

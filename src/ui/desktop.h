@@ -38,6 +38,9 @@ struct MessageBox {
   MessageIcon icon = MessageIcon::kNone;
   MessageButtons buttons = MessageButtons::kOk;
   MessageSeverity severity = MessageSeverity::kAdvice;
+  /// No loses something: Escape, which may have been pressed for what was there before the box, is
+  /// no answer.
+  bool noLoses = false;
 
   bool operator==(const MessageBox&) const = default;
 };

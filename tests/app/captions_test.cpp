@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/settings_table.h"
+#include "listing/display_format.h"
 #include "sources/extension_filter.h"
 #include "text/program_text.h"
 #include "ui/export_form.h"
@@ -113,6 +114,27 @@ TEST_F(DeliveredTextsTest, HelpWindow) {
   EXPECT_THAT(WithoutEntry(form, kHelpFormCaptions), testing::IsEmpty());
   EXPECT_EQ(In(Language::kEnglish, kHelpFormCaption), form.Caption());
   EXPECT_NE(In(Language::kGerman, kHelpFormCaption), "");
+}
+
+TEST_F(DeliveredTextsTest, OrdersAreNamedAlikeInAllWindows) {
+  ASSERT_EQ(kOrderTexts.size(), kWordOrderNames.size());
+  MainForm frmMain;
+  ParamsForm frmParams;
+  ExportForm frmExport;
+  for (const std::string_view name : kWordOrderNames) {
+    frmMain.cboWordOrder.AddItem(std::string(name));
+    frmExport.cboOrder.AddItem(std::string(name));
+  }
+  for (const Language language : {Language::kGerman, Language::kEnglish}) {
+    text.SetLanguage(language);
+    SetItems(text, frmMain, frmParams, frmExport);
+    for (std::size_t i = 0; i < kOrderTexts.size(); ++i) {
+      EXPECT_EQ(frmMain.cboWordOrder.Items()[i], In(language, kOrderTexts[i]));
+      EXPECT_EQ(frmExport.cboOrder.Items()[i], In(language, kOrderTexts[i]));
+    }
+  }
+  EXPECT_EQ(frmMain.cboWordOrder.Items()[0], kWordOrderNames[0]);
+  EXPECT_EQ(frmMain.cboWordOrder.Items()[1], kWordOrderNames[1]);
 }
 
 TEST_F(DeliveredTextsTest, ExportWindow) {

@@ -43,18 +43,20 @@ TEST_F(EncodingSetting, FilesOfAFolderAreReadInIt) {
   EXPECT_EQ(StoredWords(), "дело слово");
 }
 
-TEST_F(EncodingSetting, ChangeEntailsReadingAnewAndNoTakesItBack) {
+TEST_F(EncodingSetting, ChangeMakesTheCountsOutdatedAndAsksNothing) {
   CountFile(folder.Write("a.txt", "cat"));
-  desktop.Answer(MessageAnswer::kNo);
+  ChooseEncoding(CharacterSet::kUtf8);  // a key goes through the list item by item
   ChooseEncoding(CharacterSet::kUtf16);
-  EXPECT_THAT(OnlyMessage().text, HasSubstr("entails reading"));
-  EXPECT_EQ(Panel().cboEncoding.ListIndex(), 0);
+  EXPECT_THAT(desktop.Messages(), testing::IsEmpty());
+  EXPECT_EQ(Panel().cboEncoding.ListIndex(), static_cast<int>(CharacterSet::kUtf16));
+  EXPECT_FALSE(Words().blnWordsGot);
+  EXPECT_NE(Main().lblNotice.Caption(), "");
 }
 
 TEST_F(EncodingSetting, ChangeMeansNothingForTextOfTheClipboard) {
   CountClipboard("cat");
   ChooseEncoding(CharacterSet::kUtf16);
-  EXPECT_TRUE(desktop.Messages().empty());
+  EXPECT_TRUE(Words().blnWordsGot);
   EXPECT_EQ(Panel().cboEncoding.ListIndex(), static_cast<int>(CharacterSet::kUtf16));
   EXPECT_EQ(Main().lblNotice.Caption(), "");
   Count();
@@ -92,7 +94,6 @@ TEST_F(EncodingSetting, WordsFileIsReadAnewInAnotherEncoding) {
   Panel().txbWordsFile[0].SetText(folder.Write("koi8.txt", "\xD3\xCC\xCF\xD7\xCF\n"));
   CountClipboard("слово дело");
   EXPECT_EQ(StoredWords(), "дело слово");
-  desktop.Answer(MessageAnswer::kYes);
   ChooseEncoding(CharacterSet::kKoi8R);
   CountClipboard("слово дело");
   EXPECT_EQ(StoredWords(), "дело");

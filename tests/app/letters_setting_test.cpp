@@ -41,18 +41,16 @@ TEST_F(LettersSetting, AccentsMakeADifferenceIfTheBoxIsEmpty) {
   EXPECT_EQ(StoredWords(), "ete ou où été");
 }
 
-TEST_F(LettersSetting, ChangeEntailsReadingAnewAndNoTakesItBack) {
+TEST_F(LettersSetting, ChangeMakesTheCountsOutdatedAndForTheBoxTheUserIsAsked) {
   CountClipboard("cat");
   desktop.Answer(MessageAnswer::kNo);
-  ChooseLetters(kAll);
-  EXPECT_EQ(OnlyMessage().text, "Changing this entails reading the clipboard anew.  Is this OK?");
-  EXPECT_EQ(Panel().cboLetters.ListIndex(), kWestern);
-  EXPECT_TRUE(Words().blnWordsGot);
-  desktop.Answer(MessageAnswer::kNo);
   Panel().chkFoldAccents.PerformClick();
+  EXPECT_EQ(OnlyMessage().text, "Changing this entails reading the clipboard anew.  Is this OK?");
   EXPECT_TRUE(Panel().chkFoldAccents.IsChecked());
-  desktop.Answer(MessageAnswer::kYes);
+  EXPECT_TRUE(Words().blnWordsGot);
+  desktop.ForgetQuestions();
   ChooseLetters(kAll);
+  EXPECT_TRUE(desktop.Messages().empty());
   EXPECT_EQ(Panel().cboLetters.ListIndex(), kAll);
   EXPECT_FALSE(Words().blnWordsGot);
 }
@@ -67,7 +65,6 @@ TEST_F(LettersSetting, TypedWordsFollow) {
 TEST_F(LettersSetting, WordsFileIsReadAnewForOtherLetters) {
   Panel().txbWordsFile[0].SetText(folder.Write("words.txt", "слово zażółć\n"));
   CountClipboard("cat");
-  desktop.Answer(MessageAnswer::kYes);
   ChooseLetters(kAll);
   CountClipboard("слово дело Zażółć");
   EXPECT_EQ(StoredWords(), "дело");

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QShortcut>
+#include <QTextBlock>
 #include <QUrl>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
@@ -99,6 +100,51 @@ TEST_F(MainWindowViewTest, EnterStartsTheCount) {
   QTest::keyClick(&user->WidgetOf<QWidget>(frmMain.txbFolder), Qt::Key_Return);
   user->Settle();
   EXPECT_THAT(user->Shown(), testing::HasSubstr("cat"));
+}
+
+TEST_F(MainWindowViewTest, SizeOfTheFileStandsInTheRowOfTheFile) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat\n"));
+  user->Settle();
+  const auto top = [this](const Control& control) {
+    auto& widget = user->WidgetOf<QWidget>(control);
+    return widget.mapTo(&user->windows.Main(), widget.rect().center()).y();
+  };
+  const int file = std::abs(top(frmMain.lblFilesize) - top(frmMain.optInFile));
+  const int clipboard = std::abs(top(frmMain.lblFilesize) - top(frmMain.optOnClipboard));
+  EXPECT_LT(file, clipboard);
+}
+
+TEST_F(MainWindowViewTest, EnterInAViewOfTheResultStartsNoCount) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "cat\n"));
+  user->Click(frmMain.cmdCountWords);
+  int counts = 0;
+  frmMain.cmdCountWords.Click.Connect([&counts] { ++counts; });
+  for (const char* view : {"table", "statistics", "files"}) {
+    user->windows.Main().Views().Show(QLatin1String(view));
+    user->windows.Main().Views().currentWidget()->setFocus();
+    QTest::keyClick(user->windows.Main().focusWidget(), Qt::Key_Return);
+    user->Settle();
+    EXPECT_EQ(counts, 0) << view;
+  }
+}
+
+TEST_F(MainWindowViewTest, FindPassesOverTheTitlesOfTheList) {
+  user->program.Sources().ChooseText(folder.Write("a.txt", "gentle characters\n"));
+  user->Click(frmMain.cmdCountWords);
+  ASSERT_THAT(user->Shown(), testing::HasSubstr("longest has 10 characters"));
+  Press(QKeySequence::Find);
+  auto* word = user->windows.Main().Finder().findChild<QLineEdit*>();
+  const auto found = [&](const QString& wanted) {
+    user->windows.Main().List().moveCursor(QTextCursor::Start);
+    word->selectAll();
+    QTest::keyClicks(word, wanted);
+    return FromQt(user->windows.Main().List().textCursor().block().text());
+  };
+  EXPECT_THAT(found("ge"), testing::EndsWith("gentle"));
+  EXPECT_THAT(found("chara"), testing::EndsWith("characters"));
+  frmMain.txbOutput.SetText("longest\r\ngentle");
+  user->Settle();
+  EXPECT_EQ(found("ge"), "longest") << "it is no list any more";
 }
 
 TEST_F(MainWindowViewTest, EnterOnACommandIsThatCommand) {

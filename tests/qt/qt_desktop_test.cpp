@@ -184,6 +184,31 @@ TEST_F(QtDesktopTest, EscapeIsCancelOrNoOrOk) {
   }
 }
 
+TEST_F(QtDesktopTest, BoxOfFewWordsIsAsWideAsItsTitle) {
+  const std::string title(40, 'W');
+  int width = 0;
+  int wanted = 0;
+  WithDialog<QMessageBox>([&](QMessageBox& box) {
+    width = box.width();
+    wanted = box.fontMetrics().horizontalAdvance(box.windowTitle());
+    box.accept();
+  });
+  EXPECT_EQ(desktop.ShowMessage({"Saved.", title}), MessageAnswer::kOk);
+  EXPECT_GT(width, wanted);
+}
+
+TEST_F(QtDesktopTest, EscapeDoesNotAnswerWhereNoLoses) {
+  WithDialog<QMessageBox>([](QMessageBox& box) {
+    WaitForKeys();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_TRUE(box.isVisible());
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  MessageBox question{"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo};
+  question.noLoses = true;
+  EXPECT_EQ(desktop.ShowMessage(question), MessageAnswer::kYes);
+}
+
 TEST_F(QtDesktopTest, InputBoxGivesTheTextOrNothing) {
   const InputBox box{"Title", "One\r\nTwo", "/here"};
   WithDialog<QInputDialog>([](QInputDialog& dialog) {

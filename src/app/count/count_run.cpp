@@ -39,6 +39,7 @@ void CountRun::OnCountClick() {
   controls_.EnableControls(true);
   count_.run.ForgetStop();
   count_.run.BecameIdle.Fire();
+  lister_.TellFullBox();
 }
 
 void CountRun::RunCount() {
@@ -156,7 +157,7 @@ void CountRun::ReportInputFileError(ScanFileResult code) const {
     case ScanFileResult::kFolderNotFile:
       return count_.messages.Refuse("Invalid input file specification.", "Invalid input");
     case ScanFileResult::kNotFound:
-      return RefuseMissingInput(count_.messages);
+      return RefuseMissingInput(count_.messages, file_.Path());
     case ScanFileResult::kNotSpecified:
       return count_.messages.Refuse("Input file not specified.", "Error");
     case ScanFileResult::kOutputIsInput:
@@ -178,10 +179,13 @@ bool CountRun::HandleInterruption() {
   count_.output.OutputToTxb("Stopped with " + std::to_string(words) +
                             (words == 1 ? " word found." : " words found."));
   const MessageAnswer answer =
-      count_.messages.Ask("The operation was stopped before all words were counted." + lineBreak +
-                              "Do you wish to list the words which were found?",
-                          "Counting interrupted");
-  if (answer != MessageAnswer::kYes || count_.run.Quitting()) return false;
+      count_.messages.AskToKeep("The operation was stopped before all words were counted." +
+                                    lineBreak + "Do you wish to list the words which were found?",
+                                "Counting interrupted");
+  if (answer != MessageAnswer::kYes || count_.run.Quitting()) {
+    ConcealNumWords(count_.frmMain, false);  // what they say so far is said of no list
+    return false;
+  }
   count_.words.listAfterStop = true;
   return true;
 }
@@ -321,6 +325,7 @@ void CountRun::ListAgain(ListTarget target) {
   }
   count_.run.ForgetStop();
   count_.run.BecameIdle.Fire();
+  lister_.TellFullBox();
 }
 
 }  // namespace quillomat

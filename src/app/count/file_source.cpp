@@ -42,8 +42,13 @@ void TellNotText(const Messages& messages) {
                 std::string(kInvalidInputFile), MessageIcon::kInformation);
 }
 
-void RefuseMissingInput(const Messages& messages) {
-  messages.Refuse("Input file does not exist.", "File not found");
+void RefuseMissingInput(const Messages& messages, const std::string& path) {
+  std::string text = "Input file does not exist.";
+  if (FolderExists(path)) {
+    text.append(kCrLf).append(kCrLf).append(path).append(kCrLf);
+    text.append("is a folder.  To count the files in it, specify it as the folder.");
+  }
+  messages.Refuse(std::move(text), "File not found");
 }
 
 ScanFileResult FileSource::ScanFile(CountRequest request) {

@@ -52,7 +52,7 @@ class FileSource {
 
 /// Tells the user that a file is no text.
 void TellNotText(const Messages& messages);
-/// Tells the user that there is no such file.
-void RefuseMissingInput(const Messages& messages);
+/// Tells the user that there is no such file, or that it is a folder.
+void RefuseMissingInput(const Messages& messages, const std::string& path);
 
 }  // namespace quillomat

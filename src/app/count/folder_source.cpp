@@ -49,6 +49,7 @@ bool FolderSource::ScanFolder(CountRequest request) {
   }
   if (result.end == CountEnd::kRefused) {
     TellRefusal(result);
+    count_.output.ClearOutput();  // nothing is counted any more
     return false;
   }
   if (result.end == CountEnd::kStoppedCounting) {

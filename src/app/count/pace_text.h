@@ -3,12 +3,14 @@
 
 #include <string>
 
+#include "app/table/number_signs.h"
 #include "text/program_text.h"
 #include "ui/progress.h"
 
 namespace quillomat {
 
 /// "310 MB/s, 0:05 left"; "" during the first moments, when nobody can tell.
-[[nodiscard]] std::string PaceText(const Progress& progress, const ProgramText& text);
+[[nodiscard]] std::string PaceText(const Progress& progress, const ProgramText& text,
+                                   const NumberSigns& signs);
 
 }  // namespace quillomat

@@ -7,10 +7,11 @@
 
 namespace quillomat {
 
-std::string ReachText(const CountReach& reach, const ProgramText& text,
-                      std::string_view separator) {
-  const auto files = [&](std::int32_t number) { return GroupDigits(number, separator); };
-  const auto bytes = [](std::int64_t number) { return AmountText(static_cast<double>(number)); };
+std::string ReachText(const CountReach& reach, const ProgramText& text, const NumberSigns& signs) {
+  const auto files = [&](std::int32_t number) { return GroupDigits(number, signs.group); };
+  const auto bytes = [&](std::int64_t number) {
+    return AmountText(static_cast<double>(number), signs.decimal);
+  };
   if (reach.filesInAll > 1) {
     return Filled(text.GetText(kStoppedAtFileText), {files(reach.files), files(reach.filesInAll)});
   }

@@ -2,16 +2,15 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
+#include "app/table/number_signs.h"
 #include "sources/count_result.h"
 #include "text/program_text.h"
 
 namespace quillomat {
 
 /// "Stopped at file 50 of 300", or what is known, in the current language; without a full stop.
-/// `separator` stands between groups of digits.
 [[nodiscard]] std::string ReachText(const CountReach& reach, const ProgramText& text,
-                                    std::string_view separator);
+                                    const NumberSigns& signs);
 
 }  // namespace quillomat

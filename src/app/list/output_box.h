@@ -55,8 +55,12 @@ class OutputBox {
   [[nodiscard]] std::span<const CellSpan> CellsOf(std::string_view line) const {
     return list_.cells.Of(line);
   }
-  /// A list has been put into the box, which holds so much of it.
-  void SetList(ListPart part, ListCells cells) { list_ = {part, std::move(cells), {}}; }
+  /// A list has been put into the box, which holds so much of it, below so many lines of titles.
+  void SetList(ListPart part, ListCells cells, std::size_t titleLines) {
+    list_ = {part, std::move(cells), {}, titleLines};
+  }
+  /// The lines above the words, as long as the list stands there as it was made.
+  [[nodiscard]] std::size_t TitleLines() const { return HoldsList() ? list_.titleLines : 0; }
   /// What stands in the box now is all that is said of the words.
   void FinishList() { list_.text = frmMain_.txbOutput.Text(); }
   /// Whether it stands there still, and nobody has written anything else.
@@ -78,6 +82,7 @@ class OutputBox {
     ListPart part;
     ListCells cells;
     std::string text;
+    std::size_t titleLines = 0;
   };
 
   MainForm& frmMain_;

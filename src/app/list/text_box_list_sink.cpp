@@ -1,5 +1,6 @@
 #include "app/list/text_box_list_sink.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -41,6 +42,7 @@ void TextBoxListSink::TakeNotice(std::string_view text) {
 
 void TextBoxListSink::TakeHeader(std::string_view line) {
   Append(line, kCrLf);
+  titleLines_ = static_cast<std::size_t>(std::ranges::count(accumulator_, '\n'));
   frmMain_.txbOutput.SetText(accumulator_);
 }
 

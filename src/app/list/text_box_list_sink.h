@@ -30,6 +30,8 @@ class TextBoxListSink final : public ListSink {
 
   /// How many words the accumulator has taken; the others found no room.
   [[nodiscard]] std::int32_t WordsTaken() const { return wordsTaken_; }
+  /// How many lines stand above the words.
+  [[nodiscard]] std::size_t TitleLines() const { return titleLines_; }
 
  private:
   [[nodiscard]] bool HasRoom() const { return length_ < kDisplayLimit; }
@@ -44,6 +46,7 @@ class TextBoxListSink final : public ListSink {
   /// Of the accumulator, in characters.
   std::size_t length_ = 0;
   std::int32_t wordsTaken_ = 0;
+  std::size_t titleLines_ = 0;
   bool previewShown_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "app/list/output_refusal.h"
 #include "app/list/text_box_list_sink.h"
@@ -200,8 +201,14 @@ void WordLister::ListIntoTextBox() {
   output_.ShowText(accumulator_);
   CellSink cells(formatter, sink.WordsTaken());
   Walk(formatter, cells);
-  output_.SetList({sink.WordsTaken(), words_.totals.NumIncludedWords}, cells.Take());
-  if (output_.IsFull() && !run_.Quitting()) ReportProblem(kTextBoxFull, "Insufficient memory");
+  output_.SetList({sink.WordsTaken(), words_.totals.NumIncludedWords}, cells.Take(),
+                  sink.TitleLines());
+  if (output_.IsFull() && !run_.Quitting()) fullBoxMessage_ = FullBoxMessage();
+}
+
+void WordLister::TellFullBox() {
+  const std::string message = std::exchange(fullBoxMessage_, {});
+  if (!message.empty() && !run_.Quitting()) messages_.Refuse(message, "Problem");
 }
 
 void WordLister::Walk(const LineFormatter& formatter, ListSink& sink) {

@@ -35,6 +35,10 @@ class WordLister {
   /// As ListWords, but into the text box alone.
   void ListInTextBox();
 
+  /// Tells the user, if the last list has filled the text box; to be called when the run is over,
+  /// so that nothing looks as if it went on behind the message.
+  void TellFullBox();
+
   /// What ends the lines of a list that goes to a file or to standard output; the platform's line
   /// break if not set.
   void SetFileLineBreak(std::string lineBreak) { fileLineBreak_ = std::move(lineBreak); }
@@ -105,6 +109,7 @@ class WordLister {
   const Messages& messages_;
   Desktop& desktop_;
   std::string accumulator_;
+  std::string fullBoxMessage_;
   bool fileWritten_ = false;
   bool changingFormat_ = false;
   bool textBoxWanted_ = true;

@@ -68,12 +68,13 @@ void NoticeBar::Update() {
 
 NoticeFacts NoticeBar::Facts() const {
   NoticeFacts facts;
-  facts.listStands = words_.CanBeListed() && (!textShown_ || TextHoldsList());
+  // A count that was refused has emptied the text, and leaves the other views.
+  const bool wordsStand = words_.CanBeListed() || words_.totals.NumIncludedWords > 0;
+  facts.listStands = wordsStand && (!textShown_ || TextHoldsList());
   facts.wordsGone = words_.gaveWay && output_.Part().all > 0;
   if (!facts.listStands) return facts;
   if (words_.stoppedAfter) {
-    facts.stopped =
-        ReachText(*words_.stoppedAfter, messages_.Texts(), messages_.DigitGroupSeparator());
+    facts.stopped = ReachText(*words_.stoppedAfter, messages_.Texts(), messages_.Signs());
   }
   if (words_.counted.source == CountedText::Source::kFolder) {
     facts.skipped = countRun_.SkippedInAll();

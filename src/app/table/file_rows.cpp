@@ -122,7 +122,7 @@ std::string FileRows::ReasonText(const FileReport& file) const {
 
 std::string FileRows::StoppedText(const NumberSigns& signs) const {
   if (places_.empty() || !words_.stoppedAfter) return {};
-  return ReachText(*words_.stoppedAfter, text_, signs.group);
+  return ReachText(*words_.stoppedAfter, text_, signs);
 }
 
 std::string FileRows::TextAt(std::size_t row, FileColumn column, const NumberSigns& signs) const {

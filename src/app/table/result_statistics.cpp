@@ -42,7 +42,7 @@ ResultStatistics::ResultStatistics(const CurrentWords& words, const ProgramText&
 void ResultStatistics::AddIncompleteness(std::vector<Row>& rows, const NumberSigns& signs) const {
   const std::string name = text_.GetText(kPartOfTextText);
   if (words_.stoppedAfter) {
-    rows.push_back({name, ReachText(*words_.stoppedAfter, text_, signs.group), false});
+    rows.push_back({name, ReachText(*words_.stoppedAfter, text_, signs), false});
   }
   const std::int64_t skipped = words_.folder.skipped;
   if (skipped == 0) return;

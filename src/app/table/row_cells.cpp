@@ -66,7 +66,7 @@ std::string TotalsOf(const WordRows& rows, const std::optional<CountReach>& stop
   const std::string totals =
       Counted(words, kOneWordText, kWordsText, text, signs) + ", " +
       Counted(rows.Instances(), kOneInstanceText, kInstancesText, text, signs);
-  return stopped ? totals + " \u2013 " + ReachText(*stopped, text, signs.group) : totals;
+  return stopped ? totals + " \u2013 " + ReachText(*stopped, text, signs) : totals;
 }
 
 }  // namespace quillomat

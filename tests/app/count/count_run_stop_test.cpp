@@ -37,6 +37,21 @@ TEST_F(CountRunStop, TheUserIsAskedWhetherToListWhatWasFound) {
                 "Counting interrupted", MessageIcon::kQuestion, MessageButtons::kYesNo);
 }
 
+TEST_F(CountRunStop, TheKeyThatStopsDoesNotThrowAwayWhatWasFound) {
+  StopTheScanBehind(2, MessageAnswer::kNo);
+  EXPECT_TRUE(OnlyMessage().noLoses);
+  CountFile(folder / "missing.txt");
+  EXPECT_FALSE(desktop.Messages().back().noLoses);
+}
+
+TEST_F(CountRunStop, WhatIsNotToBeListedIsNotCountedUpEither) {
+  StopTheScanBehind(2, MessageAnswer::kNo);
+  for (const Label* label : {&Main().lblNumberOfWords, &Main().lblNumWordsExcluded,
+                             &Main().lblNumOccurrences, &Main().lblTotalNumOccurrences}) {
+    EXPECT_FALSE(label->Visible()) << label->Name();
+  }
+}
+
 TEST_F(CountRunStop, TheScanEndsBehindTheWordAtHand) {
   StopTheScanBehind(2, MessageAnswer::kNo);
   EXPECT_EQ(StoredWords(), "one two");

@@ -57,7 +57,7 @@ TEST_F(FileSourceTest, WithoutAnInputFileACountIsRefused) {
 TEST_F(FileSourceTest, AFileThatDoesNotExistIsRefused) {
   Main().lblFilesize.SetCaption("Filesize: 5 bytes");
   for (const std::string& path :
-       {folder / "nowhere.txt", folder.Path(), std::string("   "), folder / "no/where.txt"}) {
+       {folder / "nowhere.txt", std::string("   "), folder / "no/where.txt"}) {
     desktop.ForgetQuestions();
     CountFile(path);
     ExpectMessage(OnlyMessage(), "Input file does not exist.", "File not found",
@@ -66,6 +66,16 @@ TEST_F(FileSourceTest, AFileThatDoesNotExistIsRefused) {
     EXPECT_EQ(Main().txbFile[0].Text(), path);
     ExpectIdle();
   }
+}
+
+TEST_F(FileSourceTest, AFolderIsRefusedAsOne) {
+  CountFile(folder.Path());
+  ExpectMessage(OnlyMessage(),
+                "Input file does not exist.\r\n\r\n" + folder.Path() +
+                    "\r\nis a folder.  To count the files in it, specify it as the folder.",
+                "File not found", MessageIcon::kExclamation);
+  EXPECT_EQ(Main().txbFile[0].Text(), folder.Path());
+  ExpectIdle();
 }
 
 TEST_F(FileSourceTest, APathThatEndsWithASeparatorIsRefusedAndTheBoxEmptied) {

@@ -33,10 +33,13 @@ TEST(ProgressBarValue, TellsTheTimeSinceTheStart) {
 }
 
 TEST_F(SourcesFixture, PaceIsToldWhenItIsKnown) {
-  const auto pace = [this](std::int64_t done, std::int64_t whole, int milliseconds) {
-    return PaceText({done, whole, 0, 0, std::chrono::milliseconds(milliseconds)}, program.Text());
+  const NumberSigns signs{.group = ".", .decimal = ","};
+  const auto pace = [&](std::int64_t done, std::int64_t whole, int milliseconds) {
+    return PaceText({done, whole, 0, 0, std::chrono::milliseconds(milliseconds)}, program.Text(),
+                    signs);
   };
   EXPECT_EQ(pace(500'000'000, 2'000'000'000, 2000), "250 MB/s, 0:06 left");
+  EXPECT_EQ(pace(3'000'000, 6'000'000, 2000), "1,5 MB/s, 0:02 left");
   EXPECT_EQ(pace(1'999'000'000, 2'000'000'000, 8000), "250 MB/s, almost done");
   EXPECT_EQ(pace(500'000'000, 2'000'000'000, 900), "") << "too early to tell";
   EXPECT_EQ(pace(0, 2'000'000'000, 2000), "");

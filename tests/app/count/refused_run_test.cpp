@@ -1,7 +1,8 @@
-// A count that is refused before anything is read: the list that stands, and what is known of it,
-// stay as they were.
+// A count that is refused before anything is read: the text is emptied, as by every count, and the
+// words that stand, and what is known of them, stay as they were.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <string>
 
 #include "app/count/count_fixture.h"
 #include "app/exports/result_export.h"
@@ -61,6 +62,33 @@ TEST_F(RefusedRun, LeavesTheRowsOfAnInterruptedListToBeExported) {
   EXPECT_FALSE(StoredWords().empty());
   Main().cmdExport.PerformClick();
   EXPECT_TRUE(program.frmExport.Visible());
+}
+
+TEST_F(RefusedRun, LeavesWhatIsToldOfAnInterruptedListWhereItIsShown) {
+  desktop.Answer("Counting interrupted", MessageAnswer::kYes);
+  StopAtYield(2);
+  CountClipboard("one two three four five");
+  program.Notices().SetTextShown(false);  // but the table
+  const std::string notice = Main().lblNotice.Caption();
+  ASSERT_TRUE(Main().lblNotice.Visible());
+  Main().optInFile.SetValue(true);
+  CountAndBeRefused();
+  Main().txbFile[0].SetText("");  // which names no other text
+  EXPECT_TRUE(Main().lblNotice.Visible());
+  EXPECT_EQ(Main().lblNotice.Caption(), notice);
+  EXPECT_EQ(Output(), "");
+}
+
+TEST_F(RefusedRun, LeavesAnEmptyTextWhenTheUserCancels) {
+  for (int i = 0; i < 12; ++i) {
+    (void)folder.Write("texts/" + std::to_string(i) + ".txt", "cat");
+  }
+  WatchOutput();
+  desktop.Answer("Multiple files/folders", MessageAnswer::kCancel);
+  CountFolder(folder / "texts");
+  EXPECT_TRUE(WasShown("Counting files . . . 10"));
+  EXPECT_EQ(Output(), "");
+  EXPECT_TRUE(Main().lblCopyrightNotice.Visible());
 }
 
 TEST_F(RefusedRun, FiguresOfFilesAreThoseOfTheListThatStands) {

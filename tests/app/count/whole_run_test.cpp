@@ -285,6 +285,26 @@ TEST_F(WholeRun, ListTooLongForTheBoxIsCutAndSaidSo) {
   EXPECT_LT(Main().txbOutput.Length(), 44'100U);
 }
 
+TEST_F(WholeRun, IsOverWhenItTellsThatTheBoxIsFull) {
+  std::string text;
+  for (int i = 0; i < 26 * 26 * 26; ++i) {
+    text += std::string("word") + static_cast<char>('a' + i / 676) +
+            static_cast<char>('a' + i / 26 % 26) + static_cast<char>('a' + i % 26) + "\n";
+  }
+  Main().chkSuppressWords.SetChecked(true);
+  int told = 0;
+  desktop.AtMessage("Problem", [&] {
+    ++told;
+    EXPECT_FALSE(program.State().Busy());
+    EXPECT_EQ(Main().cmdCountWords.Caption(), "Count word frequencies");
+    EXPECT_TRUE(Main().cmdExport.Enabled());
+  });
+  CountFile(folder.Write("many.txt", text));
+  EXPECT_EQ(told, 1);
+  Main().cboWordOrder.SetListIndex(1);
+  EXPECT_EQ(told, 2);
+}
+
 TEST_F(WholeRun, FormatsOfFilesNeedAFolderAndCountOnlyWords) {
   CountClipboard("cat");
   const std::pair<int, const char*> formats[] = {
