@@ -109,4 +109,20 @@ void Utf16Decoder::TakeUnit(char16_t unit, std::string& text) {
   }
 }
 
+std::unique_ptr<TextDecoder> MakeUnicodeDecoder(CharacterSet set) {
+  using enum Utf16Decoder::ByteOrder;
+  switch (set) {
+    case CharacterSet::kUtf8:
+      return std::make_unique<Utf8Decoder>();
+    case CharacterSet::kUtf16:
+      return std::make_unique<Utf16Decoder>(kByMark);
+    case CharacterSet::kUtf16HighByteFirst:
+      return std::make_unique<Utf16Decoder>(kBigEndian);
+    case CharacterSet::kUtf16LowByteFirst:
+      return std::make_unique<Utf16Decoder>(kLittleEndian);
+    default:
+      return nullptr;
+  }
+}
+
 }  // namespace quillomat

@@ -3,9 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/character_set.h"
 
 namespace quillomat {
 
@@ -67,5 +70,8 @@ class Utf16Decoder final : public TextDecoder {
   std::optional<unsigned char> oddByte_;
   std::optional<char16_t> highSurrogate_;
 };
+
+/// The decoder of a set of Unicode, which no system is needed for; nothing for any other set.
+[[nodiscard]] std::unique_ptr<TextDecoder> MakeUnicodeDecoder(CharacterSet set);
 
 }  // namespace quillomat

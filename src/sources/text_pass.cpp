@@ -82,7 +82,8 @@ bool JudgeText(std::string_view head, CharacterSet encoding, FileReport& report)
     report.lineEnds = LineEndingTypeOf(ConvertedHead(judged, report.convertedFrom), kTextTestBytes);
   }
   const bool hasNoMark = report.encoding == TextEncoding::kUtf8OrWindows1252;
-  if (report.convertedFrom == CharacterSet::kUtf16 && hasNoMark) {
+  const bool isUtf16 = report.convertedFrom == CharacterSet::kUtf16;
+  if ((isUtf16 && hasNoMark) || report.convertedFrom == CharacterSet::kUtf16LowByteFirst) {
     report.encoding = TextEncoding::kUtf16LittleEndian;
   } else if (report.convertedFrom == CharacterSet::kUtf16HighByteFirst) {
     report.encoding = TextEncoding::kUtf16BigEndian;

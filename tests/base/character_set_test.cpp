@@ -23,8 +23,9 @@ TEST(CharacterSets, HaveNamesThatFitTheirNumbers) {
   EXPECT_EQ(NameOf(CharacterSet::kIbm850), "IBM850");
   EXPECT_EQ(NameOf(CharacterSet::kIso8859Part16), "ISO-8859-16");
   EXPECT_EQ(NameOf(CharacterSet::kUtf16HighByteFirst), "UTF-16BE");
+  EXPECT_EQ(NameOf(CharacterSet::kUtf16LowByteFirst), "UTF-16LE");
   EXPECT_EQ(kCharacterSetNames.size(),
-            static_cast<std::size_t>(CharacterSet::kUtf16HighByteFirst) + 1);
+            static_cast<std::size_t>(CharacterSet::kUtf16LowByteFirst) + 1);
 }
 
 TEST(CharacterSets, GoByUsualOtherNames) {
@@ -47,6 +48,7 @@ TEST(CharacterSets, GoByUsualOtherNames) {
   EXPECT_EQ(FindCharacterSet("latin10"), CharacterSet::kIso8859Part16);
   EXPECT_EQ(FindCharacterSet("MAC-CYRILLIC"), CharacterSet::kMacCyrillic);
   EXPECT_EQ(FindCharacterSet("utf-16be"), CharacterSet::kUtf16HighByteFirst);
+  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16LowByteFirst);
 }
 
 TEST(CharacterSets, AreNotGuessedByOtherNames) {

@@ -95,11 +95,7 @@ class IconvDecoder final : public TextDecoder {
 }  // namespace
 
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
-  if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
-  if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  if (set == CharacterSet::kUtf16HighByteFirst) {
-    return std::make_unique<Utf16Decoder>(Utf16Decoder::ByteOrder::kBigEndian);
-  }
+  if (auto decoder = MakeUnicodeDecoder(set)) return decoder;
   Converter converter = OpenConverter(set);
   if (!converter) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
@@ -109,8 +105,7 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
 }
 
 bool CanDecode(CharacterSet set) {
-  return set == CharacterSet::kUtf8 || set == CharacterSet::kUtf16 ||
-         set == CharacterSet::kUtf16HighByteFirst || OpenConverter(set);
+  return MakeUnicodeDecoder(set) || OpenConverter(set);
 }
 
 }  // namespace quillomat

@@ -181,11 +181,7 @@ class CodePageDecoder final : public TextDecoder {
 }  // namespace
 
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
-  if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
-  if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  if (set == CharacterSet::kUtf16HighByteFirst) {
-    return std::make_unique<Utf16Decoder>(Utf16Decoder::ByteOrder::kBigEndian);
-  }
+  if (auto decoder = MakeUnicodeDecoder(set)) return decoder;
   if (!HasPage(set)) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
@@ -194,8 +190,7 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
 }
 
 bool CanDecode(CharacterSet set) {
-  return set == CharacterSet::kUtf8 || set == CharacterSet::kUtf16 ||
-         set == CharacterSet::kUtf16HighByteFirst || HasPage(set);
+  return MakeUnicodeDecoder(set) || HasPage(set);
 }
 
 }  // namespace quillomat
