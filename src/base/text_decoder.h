@@ -41,6 +41,9 @@ class TextDecoder {
   std::int64_t bytesNotDecoded_ = 0;
 };
 
+/// How many bytes at the end of `text` begin a character of UTF-8 that is not finished.
+[[nodiscard]] std::size_t UnfinishedUtf8Bytes(std::string_view text);
+
 /// Each byte that fits nowhere becomes a replacement character.
 class Utf8Decoder final : public TextDecoder {
  public:
