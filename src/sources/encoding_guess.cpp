@@ -108,6 +108,11 @@ CharacterSet SetOf(Utf16Order order) {
                                              : CharacterSet::kUtf16;
 }
 
+bool IsUtf16(CharacterSet set) {
+  return set == CharacterSet::kUtf16 || set == CharacterSet::kUtf16HighByteFirst ||
+         set == CharacterSet::kUtf16LowByteFirst;
+}
+
 /// The larger set where the library names one that holds fewer of the same letters.
 CharacterSet Widened(CharacterSet set) {
   return set == CharacterSet::kKoi8R ? CharacterSet::kKoi8U : set;
@@ -152,7 +157,12 @@ CharacterSet CharacterSetOf(std::string_view head, CharacterSet choice) {
 
 CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice) {
   const bool isChosen = choice != CharacterSet::kAsFound && choice != CharacterSet::kGuess;
-  return CharacterSetOf(head, isChosen && LooksLikeUtf8(head) ? CharacterSet::kAsFound : choice);
+  // A head of ASCII is alike in all sets but UTF-16: what stands behind it may be in the chosen
+  // one.
+  const bool saysNothing = head.size() >= kGuessBytes && !IsUtf16(choice) &&
+                           FirstBeyondAscii(head) == std::string_view::npos;
+  const bool isUtf8 = isChosen && !saysNothing && LooksLikeUtf8(head);
+  return CharacterSetOf(head, isUtf8 ? CharacterSet::kAsFound : choice);
 }
 
 std::size_t FirstBeyondAscii(std::string_view bytes) {

@@ -364,6 +364,17 @@ TEST_F(Encodings, WordsFilesInUtf8AreReadAsTheyAre) {
   EXPECT_EQ(CharacterSetOfWords("caf\xE9", CharacterSet::kUtf8), CharacterSet::kUtf8);
 }
 
+TEST_F(Encodings, WordsFilesWithAHeadOfAsciiAreInTheChosenEncoding) {
+  const std::string ascii = TimesOver("plain words ", 7000).substr(0, kGuessBytes);
+  EXPECT_EQ(CharacterSetOfWords(ascii, CharacterSet::kKoi8R), CharacterSet::kKoi8R);
+  EXPECT_EQ(CharacterSetOfWords(ascii, CharacterSet::kAsFound), CharacterSet::kAsFound);
+  EXPECT_EQ(CharacterSetOfWords("\xD1\x8F" + ascii.substr(2), CharacterSet::kKoi8R),
+            CharacterSet::kAsFound);
+  for (const CharacterSet set : {CharacterSet::kUtf16, CharacterSet::kUtf16LowByteFirst}) {
+    EXPECT_EQ(CharacterSetOfWords(ascii, set), CharacterSet::kAsFound);
+  }
+}
+
 TEST_F(Encodings, WholeTextIsConverted) {
   Uncounted uncounted;
   TextSource koi8(kRussianKoi8);
