@@ -14,6 +14,15 @@ constexpr std::size_t kLongestWord = 1024;
 constexpr std::chrono::milliseconds kNoWait{0};
 /// Bytes of a unit of UTF-16.
 constexpr std::size_t kUnitBytes = 2;
+/// Of a character of UTF-8.
+constexpr std::size_t kMostContinuationBytes = 3;
+
+/// How many of them `bytes` begin with.
+std::size_t ContinuationBytes(std::string_view bytes) {
+  const auto other = std::ranges::find_if(
+      bytes, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) != 0x80U; });
+  return static_cast<std::size_t>(other - bytes.begin());
+}
 
 }  // namespace
 
@@ -45,6 +54,7 @@ std::size_t UntilStop::Read(std::span<char> buffer) {
 std::size_t UntilStop::ReadUnits(std::span<char> buffer) {
   std::size_t bytes = held_.copy(buffer.data(), buffer.size());
   held_.erase(0, bytes);
+  torn_ = bytes > 0;
   while (bytes < buffer.size()) {
     const std::size_t fresh = source_.Read(buffer.subspan(bytes));
     bytes += fresh;
@@ -53,7 +63,8 @@ std::size_t UntilStop::ReadUnits(std::span<char> buffer) {
       if (unfinished > 0 && stop_.YieldForMany()) bytes -= unfinished;
       break;
     }
-    if (unfinished == bytes) continue;
+    torn_ = unfinished == bytes;
+    if (torn_) continue;
     bytes -= unfinished;
     held_.assign(buffer.data() + bytes, unfinished);
     break;
@@ -65,17 +76,22 @@ std::size_t UntilStop::ReadUnits(std::span<char> buffer) {
 /// How many of `bytes`, which come next, are the start of a unit or of a character, at their end. A
 /// line that is not UTF-8 before that is Windows-1252, where all bytes are characters.
 std::size_t UntilStop::UnfinishedBytes(std::string_view bytes) const {
+  if (bytes.empty()) return 0;
   if (unit_ != LineTally::Unit::kByte) return (bytesRead_ + bytes.size()) % kUnitBytes;
   const std::size_t unfinished = mayBeUtf8_ ? UnfinishedUtf8Bytes(bytes) : 0;
   if (unfinished == 0) return 0;
-  const std::string_view line = bytes.substr(bytes.find_last_of("\r\n") + 1);
-  return IsWellFormedUtf8(line.substr(0, line.size() - unfinished)) ? unfinished : 0;
+  bytes.remove_suffix(unfinished);
+  std::string_view line = bytes.substr(bytes.find_last_of("\r\n") + 1);
+  // A buffer without room for a character may have taken its start.
+  line.remove_prefix(std::min(ContinuationBytes(line), kMostContinuationBytes));
+  return IsWellFormedUtf8(line) ? unfinished : 0;
 }
 
 /// Behind a stop.
 std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
   wasStopped_ = true;
-  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
+  const bool goesOn = torn_ || (bytesOfWord_ > 0 && bytesOfWord_ <= kLongestWord);
+  ended_ = !goesOn || !source_.IsReady(kNoWait);
   if (ended_) return 0;
   const std::size_t bytes = ReadUnits(buffer.first(std::min(buffer.size(), kLongestWord)));
   const std::size_t rest = FirstBlank({buffer.data(), bytes});

@@ -51,6 +51,8 @@ class UntilStop final : public ByteSource {
   bool mayBeUtf8_;
   /// Read from the source, and the start of a unit or of a character.
   std::string held_;
+  /// Whether such a start was given out, as there was no room for more.
+  bool torn_ = false;
   /// So many bytes were read since a blank or a line end.
   std::size_t bytesOfWord_ = 0;
   bool ended_ = false;

@@ -9,6 +9,7 @@
 
 #include "sources/counter_fixture.h"
 #include "sources/file_columns.h"
+#include "sources/until_stop.h"
 #include "support/encoded_texts.h"
 
 namespace quillomat {
@@ -175,6 +176,20 @@ TEST_P(StoppedStream, GivesNoUnfinishedCharacterOfALongLineWithoutBlanks) {
   observer.stopAtWord = 1;
   const CountResult result = CountOf({"cat " + Repeated("а", 400'000), "дом"});
   EXPECT_EQ(result.uncounted, Uncounted());
+}
+
+TEST(UntilStop, GivesAllHoweverSmallTheBuffer) {
+  const std::string text = "né 川𠀀";
+  for (const std::size_t room : {1U, 2U, 3U, 4U}) {
+    TextSource source(text);
+    RecordingObserver observer;
+    StopQuestion stop(observer);
+    UntilStop bytes(source, stop, CharacterSet::kAsFound);
+    std::string buffer(room, '\0');
+    std::string read;
+    while (const std::size_t size = bytes.Read(buffer)) read.append(buffer, 0, size);
+    EXPECT_EQ(read, text) << room;
+  }
 }
 
 TEST_P(StoppedStream, GivesNoUnfinishedCharacterOfOtherEncodings) {
