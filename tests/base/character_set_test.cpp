@@ -31,7 +31,7 @@ TEST(CharacterSets, HaveNamesThatFitTheirNumbers) {
 TEST(CharacterSets, GoByUsualOtherNames) {
   EXPECT_EQ(FindCharacterSet("as found"), CharacterSet::kAsFound);
   EXPECT_EQ(FindCharacterSet("utf8"), CharacterSet::kUtf8);
-  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16);
+  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16LowByteFirst);
   EXPECT_EQ(FindCharacterSet("cp1252"), CharacterSet::kWindows1252);
   EXPECT_EQ(FindCharacterSet("CP-1251"), CharacterSet::kWindows1251);
   EXPECT_EQ(FindCharacterSet("win1250"), CharacterSet::kWindows1250);
@@ -48,7 +48,6 @@ TEST(CharacterSets, GoByUsualOtherNames) {
   EXPECT_EQ(FindCharacterSet("latin10"), CharacterSet::kIso8859Part16);
   EXPECT_EQ(FindCharacterSet("MAC-CYRILLIC"), CharacterSet::kMacCyrillic);
   EXPECT_EQ(FindCharacterSet("utf-16be"), CharacterSet::kUtf16HighByteFirst);
-  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16LowByteFirst);
 }
 
 TEST(CharacterSets, AreNotGuessedByOtherNames) {
