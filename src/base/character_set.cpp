@@ -26,7 +26,6 @@ constexpr auto kAliases = std::to_array<Alias>({
     {"tis620", CharacterSet::kIso8859Part11},
     {"cp874", CharacterSet::kIso8859Part11},
     {"windows874", CharacterSet::kIso8859Part11},
-    {"utf16le", CharacterSet::kUtf16},
     {"sjis", CharacterSet::kShiftJis},
     {"cp932", CharacterSet::kShiftJis},
     {"windows31j", CharacterSet::kShiftJis},

@@ -60,6 +60,8 @@ enum class CharacterSet : std::uint8_t {
   kMacCyrillic,
   /// Without a byte-order mark, and the high byte first.
   kUtf16HighByteFirst,
+  /// The same, and the low byte first.
+  kUtf16LowByteFirst,
 };
 
 /// By number.
@@ -71,7 +73,7 @@ inline constexpr auto kCharacterSetNames = std::to_array<std::string_view>(
      "KOI8-R",       "KOI8-U",       "Shift_JIS",    "EUC-JP",       "GB18030",      "Big5",
      "EUC-KR",       "MacRoman",     "IBM437",       "IBM850",       "ISO-8859-10",  "ISO-8859-11",
      "ISO-8859-14",  "ISO-8859-16",  "IBM852",       "IBM855",       "IBM866",       "MacCyrillic",
-     "UTF-16BE"});
+     "UTF-16BE",     "UTF-16LE"});
 
 [[nodiscard]] constexpr std::string_view NameOf(CharacterSet set) {
   return kCharacterSetNames[static_cast<std::size_t>(set)];

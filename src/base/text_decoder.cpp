@@ -17,9 +17,11 @@ bool IsLowSurrogate(char16_t unit) {
   return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
+/// Of a character.
+constexpr std::size_t kMostBytes = 4;
+
 /// Whether more bytes can make a character of `bytes`, which are none yet.
 bool MayBecomeCharacter(std::string_view bytes) {
-  constexpr std::size_t kMostBytes = 4;
   if (bytes.size() >= kMostBytes) return false;
   // The smallest and the greatest bytes that can follow.
   for (std::string longer :
@@ -37,6 +39,15 @@ bool MayBecomeCharacter(std::string_view bytes) {
 void TextDecoder::Replace(std::size_t bytes, std::string& text) {
   AppendCharacter(text, kReplacementCharacter);
   bytesNotDecoded_ += static_cast<std::int64_t>(bytes);
+}
+
+std::size_t UnfinishedUtf8Bytes(std::string_view text) {
+  for (std::size_t bytes = 1; bytes < kMostBytes && bytes <= text.size(); ++bytes) {
+    const std::string_view end = text.substr(text.size() - bytes);
+    const bool isContinuation = (static_cast<unsigned char>(end[0]) & 0xC0U) == 0x80U;
+    if (!isContinuation) return MayBecomeCharacter(end) ? bytes : 0;
+  }
+  return 0;
 }
 
 void Utf8Decoder::Decode(std::string_view bytes, std::string& text) {
@@ -106,6 +117,22 @@ void Utf16Decoder::TakeUnit(char16_t unit, std::string& text) {
     Replace(sizeof unit, text);
   } else {
     AppendCharacter(text, unit);
+  }
+}
+
+std::unique_ptr<TextDecoder> MakeUnicodeDecoder(CharacterSet set) {
+  using enum Utf16Decoder::ByteOrder;
+  switch (set) {
+    case CharacterSet::kUtf8:
+      return std::make_unique<Utf8Decoder>();
+    case CharacterSet::kUtf16:
+      return std::make_unique<Utf16Decoder>(kByMark);
+    case CharacterSet::kUtf16HighByteFirst:
+      return std::make_unique<Utf16Decoder>(kBigEndian);
+    case CharacterSet::kUtf16LowByteFirst:
+      return std::make_unique<Utf16Decoder>(kLittleEndian);
+    default:
+      return nullptr;
   }
 }
 

@@ -3,9 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/character_set.h"
 
 namespace quillomat {
 
@@ -38,6 +41,9 @@ class TextDecoder {
   std::int64_t bytesNotDecoded_ = 0;
 };
 
+/// How many bytes at the end of `text` begin a character of UTF-8 that is not finished.
+[[nodiscard]] std::size_t UnfinishedUtf8Bytes(std::string_view text);
+
 /// Each byte that fits nowhere becomes a replacement character.
 class Utf8Decoder final : public TextDecoder {
  public:
@@ -67,5 +73,8 @@ class Utf16Decoder final : public TextDecoder {
   std::optional<unsigned char> oddByte_;
   std::optional<char16_t> highSurrogate_;
 };
+
+/// The decoder of a set of Unicode, which no system is needed for; nothing for any other set.
+[[nodiscard]] std::unique_ptr<TextDecoder> MakeUnicodeDecoder(CharacterSet set);
 
 }  // namespace quillomat

@@ -13,10 +13,11 @@ constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
 }  // namespace
 
 ConvertedSource::ConvertedSource(ByteSource& source, CharacterSet from,
-                                 std::int64_t& bytesNotDecoded)
+                                 std::int64_t& bytesNotDecoded, const StopQuestion* stop)
     : source_(source),
       decoder_(MakeTextDecoder(from)),
       bytesNotDecoded_(bytesNotDecoded),
+      stop_(stop),
       block_(kBlockBytes) {}
 
 std::size_t ConvertedSource::Read(std::span<char> buffer) {
@@ -30,10 +31,10 @@ void ConvertedSource::ConvertBlock() {
   const std::size_t bytes = source_.Read(block_);
   const std::int64_t before = decoder_->BytesNotDecoded();
   ended_ = bytes == 0;
-  if (ended_) {
-    decoder_->End(converted);
-  } else {
+  if (!ended_) {
     decoder_->Decode({block_.data(), bytes}, converted);
+  } else if (stop_ == nullptr || !stop_->Stopped()) {
+    decoder_->End(converted);
   }
   bytesNotDecoded_ += decoder_->BytesNotDecoded() - before;
 }

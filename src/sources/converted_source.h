@@ -16,15 +16,18 @@
 #include "base/character_set.h"
 #include "base/text_decoder.h"
 #include "engine/uncounted.h"
+#include "sources/stop_question.h"
 
 namespace quillomat {
 
 class ConvertedSource final : public ByteSource {
  public:
   /// Both outlive it. `from` is a set, neither kAsFound nor kGuess. Bytes that are no character are
-  /// added to `bytesNotDecoded`; a byte-order mark stays. Throws RunTimeError where the system
-  /// cannot decode the set.
-  ConvertedSource(ByteSource& source, CharacterSet from, std::int64_t& bytesNotDecoded);
+  /// added to `bytesNotDecoded`; a byte-order mark stays. Where `stop`, which outlives it too, says
+  /// that the count was stopped, the text goes on behind its end: a character that is not finished
+  /// there is left out. Throws RunTimeError where the system cannot decode the set.
+  ConvertedSource(ByteSource& source, CharacterSet from, std::int64_t& bytesNotDecoded,
+                  const StopQuestion* stop = nullptr);
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
@@ -37,6 +40,7 @@ class ConvertedSource final : public ByteSource {
   ByteSource& source_;
   std::unique_ptr<TextDecoder> decoder_;
   std::int64_t& bytesNotDecoded_;
+  const StopQuestion* stop_;
   std::vector<char> block_;
   BytesAhead converted_;
   bool ended_ = false;

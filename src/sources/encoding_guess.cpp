@@ -1,6 +1,7 @@
 #include "sources/encoding_guess.h"
 
 #include <algorithm>
+#include <bitset>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -31,14 +32,35 @@ char16_t UnitAt(std::string_view head, std::size_t at, Utf16Order order) {
   return static_cast<char16_t>(highFirst ? (first << 8U) | second : (second << 8U) | first);
 }
 
-/// What texts of all languages have: blanks, line breaks, ASCII letters, digits and signs.
+/// What texts of all languages have: blanks, line breaks, ASCII letters, digits and signs; and the
+/// signs that all Chinese and Japanese texts have. Not those of ASCII that are common characters of
+/// such texts when they are turned round: U+3000, with which their paragraphs begin, U+4E00 and
+/// U+5F00.
+bool IsCommon(char16_t unit) {
+  constexpr std::u16string_view kCommonWhenTurned = u"0N_";
+  constexpr std::u16string_view kSignsOfChinese = u"\u3001\u3002\uFF01\uFF0C\uFF1A\uFF1B\uFF1F";
+  if (unit >= u' ' && unit <= u'~')
+    return kCommonWhenTurned.find(unit) == std::u16string_view::npos;
+  const bool isBreak = unit >= u'\t' && unit <= u'\r';
+  return isBreak || kSignsOfChinese.find(unit) != std::u16string_view::npos;
+}
+
 std::size_t CommonUnits(std::string_view head, Utf16Order order) {
   std::size_t common = 0;
   for (std::size_t at = 0; at + 1 < head.size(); at += 2) {
-    const char16_t unit = UnitAt(head, at, order);
-    if ((unit >= u' ' && unit <= u'~') || (unit >= u'\t' && unit <= u'\r')) ++common;
+    if (IsCommon(UnitAt(head, at, order))) ++common;
   }
   return common;
+}
+
+/// How many different high bytes its units have.
+std::size_t HighBytes(std::string_view head, Utf16Order order) {
+  constexpr unsigned kBitsOfByte = 8;
+  std::bitset<1U << kBitsOfByte> met;
+  for (std::size_t at = 0; at + 1 < head.size(); at += 2) {
+    met.set(static_cast<unsigned>(UnitAt(head, at, order)) >> kBitsOfByte);
+  }
+  return met.count();
 }
 
 /// Whether there is no control character and no lone surrogate in it.
@@ -55,12 +77,15 @@ bool IsWholeUtf16(std::string_view head, Utf16Order order) {
   return true;
 }
 
-/// Of a text without a mark that is known to be in UTF-16.
+/// Of a text without a mark that is known to be in UTF-16. The letters of a script stand close
+/// together, so high bytes are fewer; a short text may have as many of both.
 Utf16Order LikelierOrder(std::string_view head) {
-  return CommonUnits(head, Utf16Order::kHighByteFirst) >
-                 CommonUnits(head, Utf16Order::kLowByteFirst)
-             ? Utf16Order::kHighByteFirst
-             : Utf16Order::kLowByteFirst;
+  using enum Utf16Order;
+  const std::size_t ifHighFirst = HighBytes(head, kHighByteFirst);
+  const std::size_t ifLowFirst = HighBytes(head, kLowByteFirst);
+  if (ifHighFirst != ifLowFirst) return ifHighFirst < ifLowFirst ? kHighByteFirst : kLowByteFirst;
+  return CommonUnits(head, kHighByteFirst) > CommonUnits(head, kLowByteFirst) ? kHighByteFirst
+                                                                              : kLowByteFirst;
 }
 
 /// Of any bytes without a mark: texts have blanks or line breaks, and those read the wrong way
@@ -81,6 +106,11 @@ Utf16Order Utf16OrderOf(std::string_view head) {
 CharacterSet SetOf(Utf16Order order) {
   return order == Utf16Order::kHighByteFirst ? CharacterSet::kUtf16HighByteFirst
                                              : CharacterSet::kUtf16;
+}
+
+bool IsUtf16(CharacterSet set) {
+  return set == CharacterSet::kUtf16 || set == CharacterSet::kUtf16HighByteFirst ||
+         set == CharacterSet::kUtf16LowByteFirst;
 }
 
 /// The larger set where the library names one that holds fewer of the same letters.
@@ -127,7 +157,12 @@ CharacterSet CharacterSetOf(std::string_view head, CharacterSet choice) {
 
 CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice) {
   const bool isChosen = choice != CharacterSet::kAsFound && choice != CharacterSet::kGuess;
-  return CharacterSetOf(head, isChosen && LooksLikeUtf8(head) ? CharacterSet::kAsFound : choice);
+  // A head of ASCII is alike in all sets but UTF-16: what stands behind it may be in the chosen
+  // one.
+  const bool saysNothing = head.size() >= kGuessBytes && !IsUtf16(choice) &&
+                           FirstBeyondAscii(head) == std::string_view::npos;
+  const bool isUtf8 = isChosen && !saysNothing && LooksLikeUtf8(head);
+  return CharacterSetOf(head, isUtf8 ? CharacterSet::kAsFound : choice);
 }
 
 std::size_t FirstBeyondAscii(std::string_view bytes) {

@@ -25,7 +25,7 @@ std::size_t LateGuessSource::Read(std::span<char> buffer) {
 void LateGuessSource::Guess() {
   guessed_ = LateGuess(behindAscii_.Ahead(kGuessBytes));
   if (guessed_ != CharacterSet::kAsFound) {
-    converted_.emplace(behindAscii_, guessed_, bytesNotDecoded_);
+    converted_.emplace(behindAscii_, guessed_, bytesNotDecoded_, stop_);
   }
 }
 

@@ -21,8 +21,10 @@ class LateGuessSource final : public ByteSource {
   /// byte beyond ASCII within its first kGuessBytes was seen by that, and nothing is converted.
   /// Otherwise `guessed` becomes what is guessed; bytes that are no character are added to
   /// `bytesNotDecoded`.
-  LateGuessSource(ByteSource& source, CharacterSet& guessed, std::int64_t& bytesNotDecoded)
-      : behindAscii_(source), guessed_(guessed), bytesNotDecoded_(bytesNotDecoded) {}
+  /// `stop` is that of ConvertedSource.
+  LateGuessSource(ByteSource& source, CharacterSet& guessed, std::int64_t& bytesNotDecoded,
+                  const StopQuestion* stop = nullptr)
+      : behindAscii_(source), guessed_(guessed), bytesNotDecoded_(bytesNotDecoded), stop_(stop) {}
 
   std::size_t Read(std::span<char> buffer) override;
   [[nodiscard]] bool IsReady(std::chrono::milliseconds longest) const override {
@@ -35,6 +37,7 @@ class LateGuessSource final : public ByteSource {
   HeadedSource behindAscii_;
   CharacterSet& guessed_;
   std::int64_t& bytesNotDecoded_;
+  const StopQuestion* stop_;
   std::size_t asciiBytes_ = 0;
   bool decided_ = false;
   std::optional<ConvertedSource> converted_;

@@ -82,7 +82,8 @@ bool JudgeText(std::string_view head, CharacterSet encoding, FileReport& report)
     report.lineEnds = LineEndingTypeOf(ConvertedHead(judged, report.convertedFrom), kTextTestBytes);
   }
   const bool hasNoMark = report.encoding == TextEncoding::kUtf8OrWindows1252;
-  if (report.convertedFrom == CharacterSet::kUtf16 && hasNoMark) {
+  const bool isUtf16 = report.convertedFrom == CharacterSet::kUtf16;
+  if ((isUtf16 && hasNoMark) || report.convertedFrom == CharacterSet::kUtf16LowByteFirst) {
     report.encoding = TextEncoding::kUtf16LittleEndian;
   } else if (report.convertedFrom == CharacterSet::kUtf16HighByteFirst) {
     report.encoding = TextEncoding::kUtf16BigEndian;
@@ -148,9 +149,9 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
 }
 
 void TextPass::ReadStream(ByteSource& source, FileReport& report) {
-  UntilStop bytes(source, state_.stop);
-  HeadedSource text(bytes);
   const CharacterSet encoding = state_.request.encoding;
+  UntilStop bytes(source, state_.stop, encoding);
+  HeadedSource text(bytes);
   // Who speaks slowly is heard as he speaks; but a guess is not to depend on that.
   const std::string_view head = encoding == CharacterSet::kGuess
                                     ? text.Ahead(HeadBytesFor(encoding))
@@ -160,7 +161,7 @@ void TextPass::ReadStream(ByteSource& source, FileReport& report) {
     return;
   }
   if (!JudgeText(head, encoding, report)) return;
-  bytes.SetUnit(LineUnitOf(report.encoding), head);
+  bytes.SetUnit(LineUnitOf(report.encoding), report.convertedFrom, head);
   Begin(report, 0);
   question_.SetStream(true);
   constexpr auto kWorthThreads = static_cast<std::size_t>(TextReader::kBytesWorthThreads);
@@ -201,10 +202,12 @@ void TextPass::ReadText(ByteSource& source, bool worthThreads, FileReport& repor
 std::unique_ptr<ByteSource> TextPass::Converted(ByteSource& text, FileReport& report) const {
   std::int64_t& bytesNotDecoded = report.uncounted.bytesNotDecoded;
   if (report.convertedFrom != CharacterSet::kAsFound) {
-    return std::make_unique<ConvertedSource>(text, report.convertedFrom, bytesNotDecoded);
+    return std::make_unique<ConvertedSource>(text, report.convertedFrom, bytesNotDecoded,
+                                             &state_.stop);
   }
   if (state_.request.encoding != CharacterSet::kGuess) return nullptr;
-  return std::make_unique<LateGuessSource>(text, report.convertedFrom, bytesNotDecoded);
+  return std::make_unique<LateGuessSource>(text, report.convertedFrom, bytesNotDecoded,
+                                           &state_.stop);
 }
 
 void TextPass::ReadBytes(ByteSource& source, bool worthThreads, FileReport& report) {

@@ -1,7 +1,9 @@
 #include "sources/until_stop.h"
 
 #include <algorithm>
-#include <utility>
+
+#include "base/text_decoder.h"
+#include "base/utf8.h"
 
 namespace quillomat {
 namespace {
@@ -12,11 +14,26 @@ constexpr std::size_t kLongestWord = 1024;
 constexpr std::chrono::milliseconds kNoWait{0};
 /// Bytes of a unit of UTF-16.
 constexpr std::size_t kUnitBytes = 2;
+/// Of a character of UTF-8.
+constexpr std::size_t kMostContinuationBytes = 3;
+
+/// How many of them `bytes` begin with.
+std::size_t ContinuationBytes(std::string_view bytes) {
+  const auto other = std::ranges::find_if(
+      bytes, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) != 0x80U; });
+  return static_cast<std::size_t>(other - bytes.begin());
+}
 
 }  // namespace
 
-void UntilStop::SetUnit(LineTally::Unit unit, std::string_view head) {
+UntilStop::UntilStop(ByteSource& source, StopQuestion& stop, CharacterSet choice)
+    : source_(source),
+      stop_(stop),
+      mayBeUtf8_(choice == CharacterSet::kAsFound || choice == CharacterSet::kGuess) {}
+
+void UntilStop::SetUnit(LineTally::Unit unit, CharacterSet from, std::string_view head) {
   unit_ = unit;
+  mayBeUtf8_ = from == CharacterSet::kAsFound;
   bytesOfWord_ = head.size() - BehindLastBlank(head);
 }
 
@@ -33,26 +50,48 @@ std::size_t UntilStop::Read(std::span<char> buffer) {
   return bytes;
 }
 
-/// The first half of a unit waits for the second, unless the text ends with it.
+/// The start of a unit or of a character waits for the rest, unless the text ends with it.
 std::size_t UntilStop::ReadUnits(std::span<char> buffer) {
-  std::size_t bytes = 0;
-  if (held_) buffer[bytes++] = *std::exchange(held_, std::nullopt);
-  for (bool more = true; more;) {
+  std::size_t bytes = held_.copy(buffer.data(), buffer.size());
+  held_.erase(0, bytes);
+  torn_ = bytes > 0;
+  while (bytes < buffer.size()) {
     const std::size_t fresh = source_.Read(buffer.subspan(bytes));
     bytes += fresh;
-    const bool halved = unit_ != LineTally::Unit::kByte && (bytesRead_ + bytes) % kUnitBytes != 0;
-    more = fresh > 0 && halved && bytes == 1 && buffer.size() > 1;
-    if (fresh > 0 && halved && bytes > 1) held_ = buffer[--bytes];
-    if (fresh == 0 && halved && stop_.YieldForMany()) bytes = 0;
+    const std::size_t unfinished = UnfinishedBytes({buffer.data(), bytes});
+    if (fresh == 0) {
+      if (unfinished > 0 && stop_.YieldForMany()) bytes -= unfinished;
+      break;
+    }
+    torn_ = unfinished == bytes;
+    if (torn_) continue;
+    bytes -= unfinished;
+    held_.assign(buffer.data() + bytes, unfinished);
+    break;
   }
   bytesRead_ += bytes;
   return bytes;
 }
 
+/// How many of `bytes`, which come next, are the start of a unit or of a character, at their end. A
+/// line that is not UTF-8 before that is Windows-1252, where all bytes are characters.
+std::size_t UntilStop::UnfinishedBytes(std::string_view bytes) const {
+  if (bytes.empty()) return 0;
+  if (unit_ != LineTally::Unit::kByte) return (bytesRead_ + bytes.size()) % kUnitBytes;
+  const std::size_t unfinished = mayBeUtf8_ ? UnfinishedUtf8Bytes(bytes) : 0;
+  if (unfinished == 0) return 0;
+  bytes.remove_suffix(unfinished);
+  std::string_view line = bytes.substr(bytes.find_last_of("\r\n") + 1);
+  // A buffer without room for a character may have taken its start.
+  line.remove_prefix(std::min(ContinuationBytes(line), kMostContinuationBytes));
+  return IsWellFormedUtf8(line) ? unfinished : 0;
+}
+
 /// Behind a stop.
 std::size_t UntilStop::ReadRestOfWord(std::span<char> buffer) {
   wasStopped_ = true;
-  ended_ = bytesOfWord_ == 0 || bytesOfWord_ > kLongestWord || !source_.IsReady(kNoWait);
+  const bool goesOn = torn_ || (bytesOfWord_ > 0 && bytesOfWord_ <= kLongestWord);
+  ended_ = !goesOn || !source_.IsReady(kNoWait);
   if (ended_) return 0;
   const std::size_t bytes = ReadUnits(buffer.first(std::min(buffer.size(), kLongestWord)));
   const std::size_t rest = FirstBlank({buffer.data(), bytes});

@@ -23,14 +23,15 @@ TEST(CharacterSets, HaveNamesThatFitTheirNumbers) {
   EXPECT_EQ(NameOf(CharacterSet::kIbm850), "IBM850");
   EXPECT_EQ(NameOf(CharacterSet::kIso8859Part16), "ISO-8859-16");
   EXPECT_EQ(NameOf(CharacterSet::kUtf16HighByteFirst), "UTF-16BE");
+  EXPECT_EQ(NameOf(CharacterSet::kUtf16LowByteFirst), "UTF-16LE");
   EXPECT_EQ(kCharacterSetNames.size(),
-            static_cast<std::size_t>(CharacterSet::kUtf16HighByteFirst) + 1);
+            static_cast<std::size_t>(CharacterSet::kUtf16LowByteFirst) + 1);
 }
 
 TEST(CharacterSets, GoByUsualOtherNames) {
   EXPECT_EQ(FindCharacterSet("as found"), CharacterSet::kAsFound);
   EXPECT_EQ(FindCharacterSet("utf8"), CharacterSet::kUtf8);
-  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16);
+  EXPECT_EQ(FindCharacterSet("utf-16le"), CharacterSet::kUtf16LowByteFirst);
   EXPECT_EQ(FindCharacterSet("cp1252"), CharacterSet::kWindows1252);
   EXPECT_EQ(FindCharacterSet("CP-1251"), CharacterSet::kWindows1251);
   EXPECT_EQ(FindCharacterSet("win1250"), CharacterSet::kWindows1250);

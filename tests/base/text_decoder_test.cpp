@@ -8,6 +8,18 @@
 namespace quillomat {
 namespace {
 
+TEST(UnfinishedUtf8Bytes, AreThoseOfTheLastCharacter) {
+  for (const std::string_view whole : {"", "a", "é", "川", "𠀀"}) {
+    EXPECT_EQ(UnfinishedUtf8Bytes(whole), 0U) << whole;
+    for (std::size_t bytes = 1; bytes < whole.size(); ++bytes) {
+      EXPECT_EQ(UnfinishedUtf8Bytes("é" + std::string(whole.substr(0, bytes))), bytes) << whole;
+    }
+  }
+  for (const std::string_view broken : {"\x80", "a\xFF", "\xC0", "\xE0\x80", "é\xA9\xA9\xA9\xA9"}) {
+    EXPECT_EQ(UnfinishedUtf8Bytes(broken), 0U);
+  }
+}
+
 using namespace std::string_literals;
 
 struct Decoded {

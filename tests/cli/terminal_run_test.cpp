@@ -110,7 +110,7 @@ TEST_F(TerminalRunTest, TextsAreReadInTheEncodingThatIsNamed) {
   EXPECT_EQ(Run({path, "--encoding", "klingon"}), 2);
   EXPECT_THAT(err, HasSubstr("--encoding klingon: takes"));
   EXPECT_THAT(err, HasSubstr("as-found, guess, UTF-8, UTF-16, Windows-1250"));
-  EXPECT_THAT(err, HasSubstr("UTF-16BE\n"));
+  EXPECT_THAT(err, HasSubstr("UTF-16BE, UTF-16LE\n"));
 }
 
 TEST_F(TerminalRunTest, FilesFoldersAndStandardInputAreCountedTogether) {

@@ -86,6 +86,16 @@ TEST_F(TextExplainer, SignsWithoutAShapeAreNamed) {
             "e\u00ADmail|U+00AD  e=e  mail=mail  cafe\u0301s|U+0301  cafe=cafe  s!");
 }
 
+TEST_F(TextExplainer, AllSignsThatCannotBeSeenAreNamed) {
+  for (const auto& [sign, name] :
+       {std::pair{"\u200E", "U+200E"}, std::pair{"\u061C", "U+061C"}, std::pair{"\u202A", "U+202A"},
+        std::pair{"\u2069", "U+2069"}, std::pair{"\uFEFF", "U+FEFF"}, std::pair{"\u2060", "U+2060"},
+        std::pair{"\uFF07", "\uFF07"}}) {
+    const std::string piece = std::string("ab") + sign + "cd";
+    EXPECT_EQ(Outline("- " + piece), piece + "|" + name + "  ab=ab  cd=cd");
+  }
+}
+
 TEST_F(TextExplainer, TellsLettersOfOtherAlphabets) {
   EXPECT_EQ(Outline("\u0142\u00F3d\u017A \u0421\u043B\u043E\u0432\u043E"),
             "\u0142\u00F3d\u017A|\u0142 \u017A  \u00F3d=\u00F3d  \u0421\u043B\u043E\u0432\u043E!");

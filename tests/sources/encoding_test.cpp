@@ -256,6 +256,50 @@ TEST_F(Encodings, GuessSeesWhichByteOfUtf16ComesFirst) {
   EXPECT_EQ(result.reports.at(0).lines->lineFeeds, 1);
 }
 
+TEST_F(Encodings, ByteOrderOfChineseAndJapaneseIsSeen) {
+  // Turned round, U+3000 and U+4E00 are digits and letters of ASCII.
+  const std::u16string paragraphs =
+      u"　　一个人走在路上，今天天气很好。\n　　他们一起去学校学习中文。\n";
+  std::u16string many;
+  for (int i = 0; i < 30; ++i) many += paragraphs;
+  for (const std::u16string_view text :
+       {std::u16string_view(many), std::u16string_view(u"一个人走一条路，一天又一天。"),
+        std::u16string_view(u"　今日は天気がいい。\r\n　明日は雨が降る。\r\n"),
+        std::u16string_view(u"一个人开车去一个大城市")}) {
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kUtf16), CharacterSet::kUtf16);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), CharacterSet::kUtf16),
+              CharacterSet::kUtf16HighByteFirst);
+    if (text.find(u'。') == text.npos) continue;  // nothing that all texts have
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kGuess), CharacterSet::kUtf16);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), CharacterSet::kGuess),
+              CharacterSet::kUtf16HighByteFirst);
+  }
+}
+
+TEST_F(Encodings, ByteOrderOfAsciiIsSeen) {
+  for (const std::u16string_view text : {u"NO 0_0", u"0", u"N\n", u"NN00\r\n", u"cat\x1B dog"}) {
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kUtf16), CharacterSet::kUtf16);
+    if (text == u"0") continue;  // nobody can know
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), CharacterSet::kUtf16),
+              CharacterSet::kUtf16HighByteFirst);
+  }
+}
+
+TEST_F(Encodings, ChosenByteOrderIsTakenAtItsWord) {
+  for (const bool highByteFirst : {false, true}) {
+    const CharacterSet turned =
+        highByteFirst ? CharacterSet::kUtf16LowByteFirst : CharacterSet::kUtf16HighByteFirst;
+    const std::string bytes = InUtf16(u"一个人 cat", highByteFirst);
+    EXPECT_EQ(CharacterSetOf(bytes, turned), turned);
+    const CharacterSet chosen =
+        highByteFirst ? CharacterSet::kUtf16HighByteFirst : CharacterSet::kUtf16LowByteFirst;
+    const CountResult result = CountFile(bytes + InUtf16(u"\n", highByteFirst), chosen);
+    EXPECT_EQ(SourceSetOf(result), chosen);
+    EXPECT_EQ(result.store.At(1).Word, "cat");
+    EXPECT_EQ(result.reports.at(0).lines->lineFeeds, 1);
+  }
+}
+
 TEST_F(Encodings, GuessIsPutOffBehindAHeadOfAscii) {
   const std::string ascii = TimesOver("plain words ", 7000);
   ASSERT_GT(ascii.size(), kGuessBytes);
@@ -318,6 +362,17 @@ TEST_F(Encodings, WordsFilesInUtf8AreReadAsTheyAre) {
   EXPECT_EQ(CharacterSetOfWords("c\0a\0"s, CharacterSet::kUtf16), CharacterSet::kUtf16);
   EXPECT_EQ(CharacterSetOfWords("caf\xE9", CharacterSet::kAsFound), CharacterSet::kAsFound);
   EXPECT_EQ(CharacterSetOfWords("caf\xE9", CharacterSet::kUtf8), CharacterSet::kUtf8);
+}
+
+TEST_F(Encodings, WordsFilesWithAHeadOfAsciiAreInTheChosenEncoding) {
+  const std::string ascii = TimesOver("plain words ", 7000).substr(0, kGuessBytes);
+  EXPECT_EQ(CharacterSetOfWords(ascii, CharacterSet::kKoi8R), CharacterSet::kKoi8R);
+  EXPECT_EQ(CharacterSetOfWords(ascii, CharacterSet::kAsFound), CharacterSet::kAsFound);
+  EXPECT_EQ(CharacterSetOfWords("\xD1\x8F" + ascii.substr(2), CharacterSet::kKoi8R),
+            CharacterSet::kAsFound);
+  for (const CharacterSet set : {CharacterSet::kUtf16, CharacterSet::kUtf16LowByteFirst}) {
+    EXPECT_EQ(CharacterSetOfWords(ascii, set), CharacterSet::kAsFound);
+  }
 }
 
 TEST_F(Encodings, WholeTextIsConverted) {

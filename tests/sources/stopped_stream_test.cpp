@@ -9,6 +9,7 @@
 
 #include "sources/counter_fixture.h"
 #include "sources/file_columns.h"
+#include "sources/until_stop.h"
 #include "support/encoded_texts.h"
 
 namespace quillomat {
@@ -144,6 +145,81 @@ TEST_P(StoppedStream, TakesWholeCharactersOfUtf16HoweverTheyCome) {
     EXPECT_EQ(WordsOf(result), WordsOf(whole)) << headBytes;
     EXPECT_EQ(result.uncounted, Uncounted()) << headBytes;
   }
+}
+
+TEST_P(StoppedStream, GivesNoUnfinishedCharacter) {
+  request.scan.letters = LetterRule::kAll;
+  const std::string text = "Le café né; дом 川𠀀";
+  const std::size_t ascii = text.find('\xC3');
+  for (const CharacterSet encoding :
+       {CharacterSet::kAsFound, CharacterSet::kGuess, CharacterSet::kUtf8}) {
+    request.encoding = encoding;
+    for (std::size_t bytes = ascii; bytes <= text.size(); ++bytes) {
+      std::size_t whole = bytes;
+      while (whole < text.size() && (static_cast<unsigned char>(text[whole]) & 0xC0U) == 0x80U) {
+        --whole;
+      }
+      observer.stopped = false;
+      const std::string expected = WordsOf(CountOf({text.substr(0, whole)}));
+      for (const std::size_t head : {std::size_t{1}, ascii, bytes}) {
+        observer.stopped = false;
+        const CountResult result = CountOf({text.substr(0, head), text.substr(head, bytes - head)});
+        EXPECT_EQ(WordsOf(result), expected) << bytes << ' ' << head;
+        EXPECT_EQ(result.uncounted, Uncounted()) << bytes << ' ' << head;
+      }
+    }
+  }
+}
+
+TEST_P(StoppedStream, GivesNoUnfinishedCharacterOfALongLineWithoutBlanks) {
+  request.scan.letters = LetterRule::kAll;
+  observer.stopAtWord = 1;
+  const CountResult result = CountOf({"cat " + Repeated("а", 400'000), "дом"});
+  EXPECT_EQ(result.uncounted, Uncounted());
+}
+
+TEST(UntilStop, GivesAllHoweverSmallTheBuffer) {
+  const std::string text = "né 川𠀀";
+  for (const std::size_t room : {1U, 2U, 3U, 4U}) {
+    TextSource source(text);
+    RecordingObserver observer;
+    StopQuestion stop(observer);
+    UntilStop bytes(source, stop, CharacterSet::kAsFound);
+    std::string buffer(room, '\0');
+    std::string read;
+    while (const std::size_t size = bytes.Read(buffer)) read.append(buffer, 0, size);
+    EXPECT_EQ(read, text) << room;
+  }
+}
+
+TEST_P(StoppedStream, GivesNoUnfinishedCharacterOfOtherEncodings) {
+  request.scan.letters = LetterRule::kAll;
+  struct Cut {
+    CharacterSet encoding;
+    std::string bytes;
+  };
+  for (const Cut& cut : {Cut{CharacterSet::kShiftJis, "cat \x82\xC6\x82"},
+                         Cut{CharacterSet::kUtf16, InUtf16(u"cat と", false) + "d"},
+                         Cut{CharacterSet::kUtf16HighByteFirst, InUtf16(u"cat と\xD834", true)}}) {
+    request.encoding = cut.encoding;
+    observer.stopped = false;
+    const CountResult result = CountOf({cut.bytes});
+    EXPECT_EQ(WordsOf(result), "cat と") << NameOf(cut.encoding);
+    EXPECT_EQ(result.uncounted, Uncounted()) << NameOf(cut.encoding);
+  }
+}
+
+TEST_P(StoppedStream, GivesAllOfAnEncodingOfOneByte) {
+  request.encoding = CharacterSet::kWindows1252;
+  EXPECT_EQ(WordsOf(CountOf({"caf\xE9"})), "café");
+  request.encoding = CharacterSet::kAsFound;
+  observer.stopped = false;
+  EXPECT_EQ(WordsOf(CountOf({"o\xF9 l\xE0 caf\xE9"})), "café là où");
+}
+
+TEST_P(StoppedStream, WaitsForNoCharacterThatEndsWithTheText) {
+  TextSource text("cat caf\xC3");
+  EXPECT_EQ(Run(TextOfStream{&text, "pipe"}).uncounted.linesNotUtf8, 1);
 }
 
 TEST_P(StoppedStream, HalfACharacterOfUtf16AtTheEndOfAllIsToldOf) {

@@ -172,6 +172,13 @@ inline constexpr auto kEncodedTexts = std::to_array<EncodedText>({
                       "4\xDD\x1E\x00.",
                       26),
      "Река, riva𝄞."},
+    {CharacterSet::kUtf16LowByteFirst,
+     std::string_view(" \x04"
+                      "5\x04:\x04"
+                      "0\x04,\x00 \x00r\x00i\x00v\x00"
+                      "a\x00\x34\xD8\x1E\xDD.\x00",
+                      26),
+     "Река, riva𝄞."},
 });
 
 }  // namespace quillomat

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/direction_marks.h"
 #include "base/utf8.h"
 #include "engine/uncounted.h"
 #include "engine/unicode_traits.h"
@@ -21,11 +22,15 @@ enum class CharacterKind : std::uint8_t {
   kDigit,
 };
 
+bool LooksLikeNothing(char32_t codePoint) {
+  constexpr std::u32string_view kSigns = U"\u00AD\u200B\u200C\u200D\u2060\uFEFF";
+  return kSigns.find(codePoint) != std::u32string_view::npos || IsDirectionMark(codePoint);
+}
+
 /// Signs that can be allowed in words, and those beyond ASCII that look like them or like nothing.
 bool IsSign(char32_t codePoint) {
-  constexpr std::u32string_view kSigns =
-      U"-'_:\\/().,@\u00AD\u200B\u200C\u200D\u2010\u2011\u2018\u2019";
-  return kSigns.find(codePoint) != std::u32string_view::npos;
+  constexpr std::u32string_view kSigns = U"-'_:\\/().,@\u2010\u2011\u2018\u2019\uFF07";
+  return kSigns.find(codePoint) != std::u32string_view::npos || LooksLikeNothing(codePoint);
 }
 
 CharacterKind KindOf(char32_t codePoint) {
@@ -39,8 +44,7 @@ CharacterKind KindOf(char32_t codePoint) {
 
 /// Whether it has no shape of its own.
 bool CannotBeSeen(char32_t codePoint) {
-  return codePoint == 0xAD || (codePoint >= 0x200B && codePoint <= 0x200D) ||
-         KindOf(codePoint) == CharacterKind::kMark;
+  return LooksLikeNothing(codePoint) || KindOf(codePoint) == CharacterKind::kMark;
 }
 
 std::string NumberOf(char32_t codePoint) {

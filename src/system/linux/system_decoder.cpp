@@ -8,6 +8,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "base/broken_character.h"
 #include "base/run_time_error.h"
 
 namespace quillomat {
@@ -24,6 +25,8 @@ std::string LibraryNameOf(CharacterSet set) {
   switch (set) {
     case CharacterSet::kShiftJis:
       return "CP932";
+    case CharacterSet::kEucJp:
+      return "EUC-JP-MS";
     case CharacterSet::kEucKr:
       return "UHC";
     case CharacterSet::kMacRoman:
@@ -49,7 +52,8 @@ Converter OpenConverter(CharacterSet set) {
 
 class IconvDecoder final : public TextDecoder {
  public:
-  explicit IconvDecoder(Converter converter) : converter_(std::move(converter)) {}
+  IconvDecoder(CharacterSet set, Converter converter)
+      : set_(set), converter_(std::move(converter)) {}
 
   void Decode(std::string_view bytes, std::string& text) override {
     input_.append(bytes);
@@ -57,9 +61,11 @@ class IconvDecoder final : public TextDecoder {
     std::size_t left = input_.size();
     while (Convert(&next, &left, text) == EILSEQ) {
       Convert(nullptr, nullptr, text);  // what it holds back until it sees the next character
-      Replace(1, text);
-      ++next;
-      --left;
+      const std::size_t broken = BytesOfBrokenCharacter(set_, {next, left});
+      if (broken == 0) break;
+      Replace(broken, text);
+      next += broken;
+      left -= broken;
     }
     input_.erase(0, input_.size() - left);
   }
@@ -87,6 +93,7 @@ class IconvDecoder final : public TextDecoder {
 
   static constexpr auto kFailed = static_cast<std::size_t>(-1);
 
+  CharacterSet set_;
   Converter converter_;
   /// Of an unfinished character.
   std::string input_;
@@ -95,22 +102,17 @@ class IconvDecoder final : public TextDecoder {
 }  // namespace
 
 std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
-  if (set == CharacterSet::kUtf8) return std::make_unique<Utf8Decoder>();
-  if (set == CharacterSet::kUtf16) return std::make_unique<Utf16Decoder>();
-  if (set == CharacterSet::kUtf16HighByteFirst) {
-    return std::make_unique<Utf16Decoder>(Utf16Decoder::ByteOrder::kBigEndian);
-  }
+  if (auto decoder = MakeUnicodeDecoder(set)) return decoder;
   Converter converter = OpenConverter(set);
   if (!converter) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  return std::make_unique<IconvDecoder>(std::move(converter));
+  return std::make_unique<IconvDecoder>(set, std::move(converter));
 }
 
 bool CanDecode(CharacterSet set) {
-  return set == CharacterSet::kUtf8 || set == CharacterSet::kUtf16 ||
-         set == CharacterSet::kUtf16HighByteFirst || OpenConverter(set);
+  return MakeUnicodeDecoder(set) || OpenConverter(set);
 }
 
 }  // namespace quillomat
