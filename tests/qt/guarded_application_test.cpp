@@ -34,7 +34,9 @@ TEST_F(GuardedApplicationTest, WhatFailsIsToldOfAndTheProgramGoesOn) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "the cat the dog"));
   user->Click(frmMain.cmdCountWords);
   boxes.Answer(QMessageBox::Ok);
-  user->Click(frmMain.cmdCopyToClipboard);
+  // Not by the mouse: the toolkit loses some bytes of a click out of which something is thrown.
+  QMetaObject::invokeMethod(
+      qApp, [&frmMain] { frmMain.cmdCopyToClipboard.PerformClick(); }, Qt::QueuedConnection);
   ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.Texts().empty(); }));
   EXPECT_THAT(boxes.Texts(), testing::ElementsAre("Error 7: Out of memory"));
   EXPECT_THAT(user->Shown(), testing::HasSubstr("dog"));
