@@ -39,10 +39,10 @@ char16_t UnitAt(std::string_view head, std::size_t at, Utf16Order order) {
 bool IsCommon(char16_t unit) {
   constexpr std::u16string_view kCommonWhenTurned = u"0N_";
   constexpr std::u16string_view kSignsOfChinese = u"\u3001\u3002\uFF01\uFF0C\uFF1A\uFF1B\uFF1F";
-  if (unit >= u' ' && unit <= u'~')
-    return kCommonWhenTurned.find(unit) == std::u16string_view::npos;
+  const bool isAscii = unit >= u' ' && unit <= u'~';
+  if (isAscii) return kCommonWhenTurned.find(unit) == kCommonWhenTurned.npos;
   const bool isBreak = unit >= u'\t' && unit <= u'\r';
-  return isBreak || kSignsOfChinese.find(unit) != std::u16string_view::npos;
+  return isBreak || kSignsOfChinese.find(unit) != kSignsOfChinese.npos;
 }
 
 std::size_t CommonUnits(std::string_view head, Utf16Order order) {
