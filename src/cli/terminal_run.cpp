@@ -1,7 +1,6 @@
 #include "cli/terminal_run.h"
 
 #include <algorithm>
-#include <array>
 #include <new>
 #include <ostream>
 #include <string_view>
@@ -32,6 +31,7 @@
 #include "cli/setting_options.h"
 #include "cli/skipped_lines.h"
 #include "cli/standard_output.h"
+#include "cli/state_fault.h"
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
@@ -46,14 +46,6 @@
 
 namespace quillomat {
 namespace {
-
-/// The file could be read, but holds something else than a state.
-bool LiesInContents(const std::string& description) {
-  using enum RunTimeErrorNumber;
-  return std::ranges::any_of(
-      std::to_array({kInputPastEnd, kTypeMismatch, kOverflow, kInvalidPropertyValue}),
-      [&](RunTimeErrorNumber number) { return description == DescriptionOf(number); });
-}
 
 class TerminalRun {
  public:
@@ -106,11 +98,9 @@ class TerminalRun {
             "--state " + path +
             (FolderExists(path) ? " is a folder; name a file" : " does not exist; check the path"));
       case RestoreResult::kError:
-        return Fail((path.empty() ? std::string("the user's settings") : "--state " + path) +
-                    " cannot be used as a state: " + program_.States().ErrorDescription() +
-                    (LiesInContents(program_.States().ErrorDescription())
-                         ? "; it is not what --save-state and the window write"
-                         : ""));
+        return Fail(
+            (path.empty() ? std::string("the user's settings") : "--state " + path) +
+            " cannot be used as a state: " + StateFaultText(program_.States().ErrorDescription()));
       default:
         return true;
     }
