@@ -42,7 +42,6 @@ constexpr unsigned char kPlaneLead = 0x8F;
 }  // namespace
 
 std::size_t BytesOfBrokenCharacter(CharacterSet set, std::string_view bytes) {
-  if (bytes.empty()) return 0;
   const PairRange range = RangeOf(set);
   const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
   const bool hasPlane = set == CharacterSet::kEucJp && byteAt(0) == kPlaneLead;
