@@ -72,18 +72,6 @@ TEST(SystemDecoder, ReplacesBytesThatBeginNoCharacter) {
   ExpectConverted(CharacterSet::kBig5, "\xA6w\xFF\xFF\xA6w", "安\uFFFD\uFFFD安", 2);
 }
 
-TEST(SystemDecoder, KnowsWhatUsualTextsInEucJpHaveBeyondTheStandard) {
-  ExpectConverted(CharacterSet::kEucJp, "\xAD\xA1\xC6\xFC\xAD\xEA\xCB\xDC", "①日㈱本", 0);
-}
-
-TEST(SystemDecoder, ReplacesAPairWithoutACharacterAsAWhole) {
-  ExpectConverted(CharacterSet::kEucJp, "\xA9\xA1\xC6\xFC\xCB\xDC", "\uFFFD日本", 2);
-  ExpectConverted(CharacterSet::kEucJp, "\x8F\xA1\xA1\xC6\xFC", "\uFFFD日", 3);
-  ExpectConverted(CharacterSet::kEucJp, "\xC6\xFC\xA9\xA1", "日\uFFFD", 2);
-  ExpectConverted(CharacterSet::kEucJp, "\xC6\xFC\xA9 \xCB\xDC", "日\uFFFD 本", 1);
-  ExpectConverted(CharacterSet::kEucKr, "\xA2\xFE\xC1\xB6", "\uFFFD조", 2);
-}
-
 TEST(SystemDecoder, ReplacesAnUnfinishedCharacterAtTheEnd) {
   ExpectConverted(CharacterSet::kShiftJis, "\x82\xC6\x82", "と\uFFFD", 1);
   ExpectConverted(CharacterSet::kEucJp, "\xA4\xC8\xA4", "と\uFFFD", 1);

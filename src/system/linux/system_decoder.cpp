@@ -8,7 +8,6 @@
 #include <type_traits>
 #include <utility>
 
-#include "base/broken_character.h"
 #include "base/run_time_error.h"
 
 namespace quillomat {
@@ -25,8 +24,6 @@ std::string LibraryNameOf(CharacterSet set) {
   switch (set) {
     case CharacterSet::kShiftJis:
       return "CP932";
-    case CharacterSet::kEucJp:
-      return "EUC-JP-MS";
     case CharacterSet::kEucKr:
       return "UHC";
     case CharacterSet::kMacRoman:
@@ -52,8 +49,7 @@ Converter OpenConverter(CharacterSet set) {
 
 class IconvDecoder final : public TextDecoder {
  public:
-  IconvDecoder(CharacterSet set, Converter converter)
-      : set_(set), converter_(std::move(converter)) {}
+  explicit IconvDecoder(Converter converter) : converter_(std::move(converter)) {}
 
   void Decode(std::string_view bytes, std::string& text) override {
     input_.append(bytes);
@@ -61,11 +57,9 @@ class IconvDecoder final : public TextDecoder {
     std::size_t left = input_.size();
     while (Convert(&next, &left, text) == EILSEQ) {
       Convert(nullptr, nullptr, text);  // what it holds back until it sees the next character
-      const std::size_t broken = BytesOfBrokenCharacter(set_, {next, left});
-      if (broken == 0) break;
-      Replace(broken, text);
-      next += broken;
-      left -= broken;
+      Replace(1, text);
+      ++next;
+      --left;
     }
     input_.erase(0, input_.size() - left);
   }
@@ -93,7 +87,6 @@ class IconvDecoder final : public TextDecoder {
 
   static constexpr auto kFailed = static_cast<std::size_t>(-1);
 
-  CharacterSet set_;
   Converter converter_;
   /// Of an unfinished character.
   std::string input_;
@@ -108,7 +101,7 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  return std::make_unique<IconvDecoder>(set, std::move(converter));
+  return std::make_unique<IconvDecoder>(std::move(converter));
 }
 
 bool CanDecode(CharacterSet set) {

@@ -1,6 +1,5 @@
 #include "system/system_decoder.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -8,7 +7,6 @@
 #include <vector>
 #include <windows.h>
 
-#include "base/broken_character.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -85,11 +83,11 @@ bool HasPage(CharacterSet set) {
 /// and once for each: what it has said is kept.
 class CodePageDecoder final : public TextDecoder {
  public:
-  explicit CodePageDecoder(CharacterSet set)
-      : set_(set), page_(CodePageOf(set)), controlsAreUndefined_(!NameOf(set).starts_with("ISO-")) {
+  CodePageDecoder(UINT page, bool controlsAreUndefined)
+      : page_(page), controlsAreUndefined_(controlsAreUndefined) {
     CPINFO info{};
-    if (GetCPInfo(page_, &info) != 0) mostBytes_ = info.MaxCharSize;
-    if (page_ == kEucJpPage) mostBytes_ = 3;
+    if (GetCPInfo(page, &info) != 0) mostBytes_ = info.MaxCharSize;
+    if (page == kEucJpPage) mostBytes_ = 3;
     for (std::size_t byte = 0; byte < single_.size(); ++byte) {
       const char ch = static_cast<char>(byte);
       single_[byte] = Ask({&ch, 1});
@@ -108,7 +106,8 @@ class CodePageDecoder final : public TextDecoder {
       }
       if (character == kNone && length < mostBytes_) break;  // unfinished, as far as is known
       if (character == kNone) {
-        length = ReplaceBroken(rest, text);
+        Replace(1, text);
+        length = 1;
       } else {
         AppendCharacter(text, character);
       }
@@ -120,7 +119,8 @@ class CodePageDecoder final : public TextDecoder {
   /// Behind a byte that begins nothing others may follow that are whole.
   void End(std::string& text) override {
     while (!input_.empty()) {
-      const std::string rest = input_.substr(ReplaceBroken(input_, text));
+      Replace(1, text);
+      const std::string rest = input_.substr(1);
       input_.clear();
       Decode(rest, text);
     }
@@ -130,14 +130,6 @@ class CodePageDecoder final : public TextDecoder {
   static constexpr char32_t kNone = 0xFFFFFFFF;
   static constexpr char32_t kNotAsked = 0xFFFFFFFE;
   static constexpr UINT kEucJpPage = 20932;
-  static constexpr UINT kShiftJisPage = 932;
-
-  /// How many bytes it took for a character.
-  std::size_t ReplaceBroken(std::string_view bytes, std::string& text) {
-    const std::size_t broken = std::max<std::size_t>(BytesOfBrokenCharacter(set_, bytes), 1);
-    Replace(broken, text);
-    return broken;
-  }
 
   char32_t CharacterOf(std::string_view bytes) {
     if (bytes.size() != 2) return Ask(bytes);
@@ -146,24 +138,7 @@ class CodePageDecoder final : public TextDecoder {
     const auto low = static_cast<unsigned char>(bytes[1]);
     char32_t& pair = pairs_[(std::size_t{high} << 8U) | low];
     if (pair == kNotAsked) pair = Ask(bytes);
-    if (pair == kNone && page_ == kEucJpPage) pair = AskForPairOfEucJp(high, low);
     return pair;
-  }
-
-  /// The page lacks what usual texts have beyond the standard, which the page of Shift_JIS has.
-  [[nodiscard]] static char32_t AskForPairOfEucJp(unsigned high, unsigned low) {
-    if (high < 0xA1 || high > 0xFE || low < 0xA1 || low > 0xFE) return kNone;
-    const unsigned row = high - 0xA1;
-    const unsigned cell = low - 0xA1;
-    constexpr unsigned kCellsOfRow = 94;
-    const unsigned place = row % 2 * kCellsOfRow + cell;
-    const unsigned lead = row / 2 + (row / 2 < 0x1F ? 0x81 : 0xC1);
-    const unsigned trail = place + (place < 0x3F ? 0x40 : 0x41);
-    const std::array<char, 2> asked{static_cast<char>(lead), static_cast<char>(trail)};
-    wchar_t unit = 0;
-    const int count = MultiByteToWideChar(kShiftJisPage, MB_ERR_INVALID_CHARS, asked.data(),
-                                          static_cast<int>(asked.size()), &unit, 1);
-    return count == 1 ? char32_t{unit} : kNone;
   }
 
   [[nodiscard]] char32_t Ask(std::string_view bytes) const {
@@ -193,7 +168,6 @@ class CodePageDecoder final : public TextDecoder {
 
   static constexpr UINT kMacRomanPage = 10000;  // which has an apple there
 
-  CharacterSet set_;
   UINT page_;
   bool controlsAreUndefined_;
   std::size_t mostBytes_ = 1;
@@ -212,7 +186,7 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  return std::make_unique<CodePageDecoder>(set);
+  return std::make_unique<CodePageDecoder>(CodePageOf(set), !NameOf(set).starts_with("ISO-"));
 }
 
 bool CanDecode(CharacterSet set) {
