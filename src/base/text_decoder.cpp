@@ -38,7 +38,7 @@ bool MayBecomeCharacter(std::string_view bytes) {
 
 void TextDecoder::Replace(std::size_t bytes, std::string& text) {
   AppendCharacter(text, kReplacementCharacter);
-  bytesNotDecoded_ += static_cast<std::int64_t>(bytes);
+  CountNotDecoded(bytes);
 }
 
 std::size_t UnfinishedUtf8Bytes(std::string_view text) {

@@ -36,6 +36,10 @@ class TextDecoder {
  protected:
   /// Appends what stands for so many bytes together.
   void Replace(std::size_t bytes, std::string& text);
+  /// So many bytes became a replacement character.
+  void CountNotDecoded(std::size_t bytes) {
+    bytesNotDecoded_ += static_cast<std::int64_t>(bytes);
+  }
 
  private:
   std::int64_t bytesNotDecoded_ = 0;

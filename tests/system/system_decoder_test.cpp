@@ -72,6 +72,29 @@ TEST(SystemDecoder, ReplacesBytesThatBeginNoCharacter) {
   ExpectConverted(CharacterSet::kBig5, "\xA6w\xFF\xFF\xA6w", "安\uFFFD\uFFFD安", 2);
 }
 
+TEST(SystemDecoder, KnowsWhatUsualTextsInEucJpHaveBeyondTheStandard) {
+  ExpectConverted(CharacterSet::kEucJp, "\xAD\xA1\xC6\xFC\xAD\xEA\xCB\xDC", "①日㈱本", 0);
+  ExpectConverted(CharacterSet::kEucJp, "\x8E\xB1\x8F\xB0\xA1\xA4\xC8", "ｱ丂と", 0);
+}
+
+TEST(SystemDecoder, ReplacesAPairWithoutACharacterAsAWhole) {
+  ExpectConverted(CharacterSet::kEucJp, "\xA9\xA1\xC6\xFC\xCB\xDC", "\uFFFD日本", 2);
+  ExpectConverted(CharacterSet::kEucJp, "\x8F\xA1\xA1\xC6\xFC", "\uFFFD日", 3);
+  ExpectConverted(CharacterSet::kEucJp, "\xC6\xFC\xA9\xA1", "日\uFFFD", 2);
+  ExpectConverted(CharacterSet::kEucJp, "\xC6\xFC\xA9 \xCB\xDC", "日\uFFFD 本", 1);
+  ExpectConverted(CharacterSet::kEucKr, "\xA2\xFE\xC1\xB6", "\uFFFD조", 2);
+}
+
+/// A converter of the C library stands behind such a pair where it says that it stands before it.
+TEST(SystemDecoder, GoesOnBehindEachPairOfEucKrWithoutACharacter) {
+  for (int second = 0x81; second <= 0xFE; ++second) {
+    const std::string pair{'\xA2', static_cast<char>(second)};
+    const Conversion alone = Converted(CharacterSet::kEucKr, pair, 1000);
+    if (alone.bytesNotDecoded == 0) continue;
+    ExpectConverted(CharacterSet::kEucKr, pair + "^\xC1\xB6", "\uFFFD^조", 2);
+  }
+}
+
 TEST(SystemDecoder, ReplacesAnUnfinishedCharacterAtTheEnd) {
   ExpectConverted(CharacterSet::kShiftJis, "\x82\xC6\x82", "と\uFFFD", 1);
   ExpectConverted(CharacterSet::kEucJp, "\xA4\xC8\xA4", "と\uFFFD", 1);

@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 #include <windows.h>
 
+#include "base/character_decoder.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -79,103 +79,71 @@ bool HasPage(CharacterSet set) {
   return page != 0 && IsValidCodePage(page) != 0;
 }
 
-/// The system does not say where a text is wrong, so it is asked for one character after the other,
-/// and once for each: what it has said is kept.
-class CodePageDecoder final : public TextDecoder {
+constexpr UINT kShiftJisPage = 932;
+constexpr UINT kMacRomanPage = 10000;
+constexpr UINT kEucJpPage = 20932;
+
+/// By the system's code page of the set.
+class PageCharacters final : public EncodedCharacters {
  public:
-  CodePageDecoder(UINT page, bool controlsAreUndefined)
-      : page_(page), controlsAreUndefined_(controlsAreUndefined) {
-    CPINFO info{};
-    if (GetCPInfo(page, &info) != 0) mostBytes_ = info.MaxCharSize;
-    if (page == kEucJpPage) mostBytes_ = 3;
-    for (std::size_t byte = 0; byte < single_.size(); ++byte) {
-      const char ch = static_cast<char>(byte);
-      single_[byte] = Ask({&ch, 1});
-    }
-  }
+  PageCharacters(UINT page, bool controlsAreUndefined)
+      : page_(page), controlsAreUndefined_(controlsAreUndefined) {}
 
-  void Decode(std::string_view bytes, std::string& text) override {
-    input_.append(bytes);
-    std::string_view rest = input_;
-    while (!rest.empty()) {
-      std::size_t length = 1;
-      char32_t character = single_[static_cast<unsigned char>(rest[0])];
-      while (character == kNone && length < mostBytes_ && length < rest.size()) {
-        ++length;
-        character = CharacterOf(rest.substr(0, length));
-      }
-      if (character == kNone && length < mostBytes_) break;  // unfinished, as far as is known
-      if (character == kNone) {
-        Replace(1, text);
-        length = 1;
-      } else {
-        AppendCharacter(text, character);
-      }
-      rest.remove_prefix(length);
+  std::string TextOf(std::string_view bytes) override {
+    std::wstring units =
+        UnitsOf(page_, page_ == kEucJpPage ? AsInPageOfEucJp(bytes) : std::string(bytes));
+    const bool isPair = bytes.size() == 2 && bytes[0] != kHalfWidthKana;
+    if (units.empty() && page_ == kEucJpPage && isPair) {
+      // The page lacks what usual texts have beyond the standard, which that of Shift_JIS has.
+      units = UnitsOf(kShiftJisPage, InShiftJis(bytes));
     }
-    input_.erase(0, input_.size() - rest.size());
-  }
-
-  /// Behind a byte that begins nothing others may follow that are whole.
-  void End(std::string& text) override {
-    while (!input_.empty()) {
-      Replace(1, text);
-      const std::string rest = input_.substr(1);
-      input_.clear();
-      Decode(rest, text);
+    std::string text;
+    if (units.size() == 1 && !IsUndefined(bytes, units[0])) AppendCharacter(text, units[0]);
+    if (units.size() == 2 && IS_SURROGATE_PAIR(units[0], units[1])) {
+      AppendCharacter(text, 0x10000U + ((units[0] - 0xD800U) << 10U) + (units[1] - 0xDC00U));
     }
+    return text;
   }
 
  private:
-  static constexpr char32_t kNone = 0xFFFFFFFF;
-  static constexpr char32_t kNotAsked = 0xFFFFFFFE;
-  static constexpr UINT kEucJpPage = 20932;
-
-  char32_t CharacterOf(std::string_view bytes) {
-    if (bytes.size() != 2) return Ask(bytes);
-    if (pairs_.empty()) pairs_.assign(std::size_t{1} << 16U, kNotAsked);
-    const auto high = static_cast<unsigned char>(bytes[0]);
-    const auto low = static_cast<unsigned char>(bytes[1]);
-    char32_t& pair = pairs_[(std::size_t{high} << 8U) | low];
-    if (pair == kNotAsked) pair = Ask(bytes);
-    return pair;
+  /// Nothing where they are not in the page.
+  static std::wstring UnitsOf(UINT page, std::string_view bytes) {
+    std::array<wchar_t, 4> units{};
+    const int count = MultiByteToWideChar(page, MB_ERR_INVALID_CHARS, bytes.data(),
+                                          static_cast<int>(bytes.size()), units.data(),
+                                          static_cast<int>(units.size()));
+    return {units.data(), static_cast<std::size_t>(count)};
   }
 
-  [[nodiscard]] char32_t Ask(std::string_view bytes) const {
-    std::string asked(bytes);
-    if (page_ == kEucJpPage && bytes.size() == 3) {
-      // The page has the second plane in two bytes.
-      if (bytes[0] != '\x8F') return kNone;
-      asked = {bytes[1], static_cast<char>(static_cast<unsigned char>(bytes[2]) & 0x7FU)};
-    }
-    std::array<wchar_t, 4> units{};
-    const int count = MultiByteToWideChar(page_, MB_ERR_INVALID_CHARS, asked.data(),
-                                          static_cast<int>(asked.size()), units.data(),
-                                          static_cast<int>(units.size()));
-    if (count == 1) return IsUndefined(bytes, units[0]) ? kNone : char32_t{units[0]};
-    if (count == 2 && IS_SURROGATE_PAIR(units[0], units[1])) {
-      return 0x10000U + ((units[0] - 0xD800U) << 10U) + (units[1] - 0xDC00U);
-    }
-    return kNone;
+  /// The byte before those of EUC-JP.
+  static constexpr char kHalfWidthKana = '\x8E';
+
+  /// The page has the characters of three bytes in two.
+  static std::string AsInPageOfEucJp(std::string_view bytes) {
+    if (bytes.size() != 3) return std::string(bytes);
+    return {bytes[1], static_cast<char>(static_cast<unsigned char>(bytes[2]) & 0x7FU)};
+  }
+
+  /// Both sets have rows of 94 characters; Shift_JIS has two behind each first byte, and leaves
+  /// out some bytes.
+  static std::string InShiftJis(std::string_view eucJp) {
+    const unsigned row = static_cast<unsigned char>(eucJp[0]) - 0xA1U;
+    const unsigned place = row % 2 * 94 + static_cast<unsigned char>(eucJp[1]) - 0xA1U;
+    const unsigned first = row / 2 + (row / 2 < 0x1F ? 0x81 : 0xC1);
+    const unsigned second = place + (place < 0x3F ? 0x40 : 0x41);
+    return {static_cast<char>(first), static_cast<char>(second)};
   }
 
   /// What the system puts for bytes that the page leaves undefined: controls or private characters.
   [[nodiscard]] bool IsUndefined(std::string_view bytes, wchar_t unit) const {
     if (unit >= 0xD800 && unit < 0xE000) return true;
+    // Mac Roman has an apple there.
     if (unit >= 0xE000 && unit <= 0xF8FF) return bytes.size() == 1 && page_ != kMacRomanPage;
     return controlsAreUndefined_ && unit >= 0x80 && unit < 0xA0;
   }
 
-  static constexpr UINT kMacRomanPage = 10000;  // which has an apple there
-
   UINT page_;
   bool controlsAreUndefined_;
-  std::size_t mostBytes_ = 1;
-  std::array<char32_t, 256> single_{};
-  /// By both bytes.
-  std::vector<char32_t> pairs_;
-  /// Of an unfinished character.
-  std::string input_;
 };
 
 }  // namespace
@@ -186,7 +154,8 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
     throw RunTimeError(RunTimeErrorNumber::kInvalidPropertyValue,
                        "this system cannot decode " + std::string(NameOf(set)));
   }
-  return std::make_unique<CodePageDecoder>(CodePageOf(set), !NameOf(set).starts_with("ISO-"));
+  return std::make_unique<CharacterDecoder>(
+      set, std::make_unique<PageCharacters>(CodePageOf(set), !NameOf(set).starts_with("ISO-")));
 }
 
 bool CanDecode(CharacterSet set) {
