@@ -45,12 +45,18 @@ bool IsCommon(char16_t unit) {
   return isBreak || kSignsOfChinese.find(unit) != kSignsOfChinese.npos;
 }
 
-std::size_t CommonUnits(std::string_view head, Utf16Order order) {
-  std::size_t common = 0;
+/// What nearly every text has, and what turned round is a character that hardly any has.
+bool IsTelling(char16_t unit) {
+  constexpr std::u16string_view kTelling = u"\t\n\r \u3002\uFF0C";
+  return kTelling.find(unit) != kTelling.npos;
+}
+
+std::size_t CountUnits(std::string_view head, Utf16Order order, bool (*isCounted)(char16_t)) {
+  std::size_t counted = 0;
   for (std::size_t at = 0; at + 1 < head.size(); at += 2) {
-    if (IsCommon(UnitAt(head, at, order))) ++common;
+    if (isCounted(UnitAt(head, at, order))) ++counted;
   }
-  return common;
+  return counted;
 }
 
 /// How many different high bytes its units have.
@@ -77,30 +83,36 @@ bool IsWholeUtf16(std::string_view head, Utf16Order order) {
   return true;
 }
 
-/// Of a text without a mark that is known to be in UTF-16. The letters of a script stand close
-/// together, so high bytes are fewer; a short text may have as many of both.
+/// Of a text without a mark that is known to be in UTF-16. Where nothing tells, the letters of a
+/// script stand close together, so high bytes are fewer; a short text may have as many of both.
 Utf16Order LikelierOrder(std::string_view head) {
   using enum Utf16Order;
+  const auto orderWithMore = [head](bool (*isCounted)(char16_t)) {
+    const std::size_t ifHighFirst = CountUnits(head, kHighByteFirst, isCounted);
+    const std::size_t ifLowFirst = CountUnits(head, kLowByteFirst, isCounted);
+    if (ifHighFirst == ifLowFirst) return kNone;
+    return ifHighFirst > ifLowFirst ? kHighByteFirst : kLowByteFirst;
+  };
+  if (const Utf16Order order = orderWithMore(IsTelling); order != kNone) return order;
   const std::size_t ifHighFirst = HighBytes(head, kHighByteFirst);
   const std::size_t ifLowFirst = HighBytes(head, kLowByteFirst);
   if (ifHighFirst != ifLowFirst) return ifHighFirst < ifLowFirst ? kHighByteFirst : kLowByteFirst;
-  return CommonUnits(head, kHighByteFirst) > CommonUnits(head, kLowByteFirst) ? kHighByteFirst
-                                                                              : kLowByteFirst;
+  return orderWithMore(IsCommon) == kHighByteFirst ? kHighByteFirst : kLowByteFirst;
 }
 
 /// Of any bytes without a mark: texts have blanks or line breaks, and those read the wrong way
 /// round are characters that hardly any text has.
 Utf16Order Utf16OrderOf(std::string_view head) {
+  using enum Utf16Order;
   constexpr std::size_t kUnitsForOneCommon = 100;
   constexpr std::size_t kTimesAsMany = 4;
   const Utf16Order order = LikelierOrder(head);
-  const bool highFirst = order == Utf16Order::kHighByteFirst;
-  const std::size_t common = CommonUnits(head, order);
-  const std::size_t turned =
-      CommonUnits(head, highFirst ? Utf16Order::kLowByteFirst : Utf16Order::kHighByteFirst);
+  const Utf16Order other = order == kHighByteFirst ? kLowByteFirst : kHighByteFirst;
+  const std::size_t common = CountUnits(head, order, IsCommon);
+  const std::size_t turned = CountUnits(head, other, IsCommon);
   const std::size_t units = head.size() / 2;
   const bool looksLikeIt = common * kUnitsForOneCommon >= units && common > turned * kTimesAsMany;
-  return looksLikeIt && IsWholeUtf16(head, order) ? order : Utf16Order::kNone;
+  return looksLikeIt && IsWholeUtf16(head, order) ? order : kNone;
 }
 
 CharacterSet SetOf(Utf16Order order) {
@@ -178,7 +190,10 @@ bool IsGuessedLate(std::size_t place) {
 
 CharacterSet LateGuess(std::string_view bytes) {
   bytes = bytes.substr(0, kGuessBytes);
-  return LooksLikeUtf8(bytes) ? CharacterSet::kAsFound : Detected(bytes);
+  if (LooksLikeUtf8(bytes)) return CharacterSet::kAsFound;
+  const CharacterSet set = Detected(bytes);
+  // What the library takes for a mark stands in mid text: the text begins with ASCII.
+  return IsUtf16(set) ? CharacterSet::kAsFound : set;
 }
 
 CharacterSet LateGuessOfWhole(std::string_view text) {

@@ -276,6 +276,18 @@ TEST_F(Encodings, ByteOrderOfChineseAndJapaneseIsSeen) {
   }
 }
 
+TEST_F(Encodings, LineEndsTellTheByteOrderOfFewCharacters) {
+  // With fewer high bytes the wrong way round.
+  const std::u16string_view text = u"無法取得顯示符號所需之動態符號資訊。\n";
+  for (const CharacterSet choice : {CharacterSet::kUtf16, CharacterSet::kGuess}) {
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, false), choice), CharacterSet::kUtf16);
+    EXPECT_EQ(CharacterSetOf(InUtf16(text, true), choice), CharacterSet::kUtf16HighByteFirst);
+  }
+  // Turned round, U+0130 is U+3001, a sign of Chinese texts.
+  EXPECT_EQ(CharacterSetOf(InUtf16(u"İPİŞİRİR", true), CharacterSet::kUtf16),
+            CharacterSet::kUtf16HighByteFirst);
+}
+
 TEST_F(Encodings, ByteOrderOfAsciiIsSeen) {
   for (const std::u16string_view text : {u"NO 0_0", u"0", u"N\n", u"NN00\r\n", u"cat\x1B dog"}) {
     EXPECT_EQ(CharacterSetOf(InUtf16(text, false), CharacterSet::kUtf16), CharacterSet::kUtf16);
@@ -314,6 +326,17 @@ TEST_F(Encodings, GuessIsPutOffBehindAHeadOfAscii) {
   }
   EXPECT_EQ(SourceSetOf(CountFile(ascii, CharacterSet::kGuess)), CharacterSet::kAsFound);
   EXPECT_EQ(SourceSetOf(CountFile(ascii + "река", CharacterSet::kGuess)), CharacterSet::kAsFound);
+}
+
+TEST_F(Encodings, WhatLooksLikeAMarkOfUtf16BehindAHeadOfAsciiIsNone) {
+  for (const std::string_view mark : {"\xFF\xFE", "\xFE\xFF"}) {
+    const std::string text =
+        TimesOver("plain words ", 7000).append(mark) + TimesOver(" emu fox\n", 8000);
+    const std::string_view letters = mark == "\xFF\xFE" ? " ÿþ" : " þÿ";
+    EXPECT_EQ(LateGuessOfWhole(text), CharacterSet::kAsFound);
+    EXPECT_EQ(WordsOf(CountFile(text, CharacterSet::kGuess)),
+              "emu*8000 fox*8000 plain*7000 words*7000" + std::string(letters));
+  }
 }
 
 TEST_F(Encodings, GuessIsPutOffInFoldersOnThreadsAsWell) {
