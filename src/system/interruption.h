@@ -8,7 +8,8 @@
 // but never under the name that was asked for.
 //
 // Who would rather finish something first asks for First::kIsNoted and looks at InterruptionStatus
-// from time to time; the second interruption ends the program at once all the same.
+// from time to time, or has an InterruptionWatch wait for it; the second interruption ends the
+// program at once all the same.
 //
 // Who has finished some files and is at work on others leaves a word of it, which standard error
 // gets when the program is ended.

@@ -41,7 +41,7 @@ void SayLastWords() noexcept {
 void OnSignal(int signal) {
   const int status = kStatusOfSignals + signal;
   int none = 0;
-  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return WakeWatch();
   RemoveUnfinishedFiles();
   SayLastWords();
   _exit(status);

@@ -31,7 +31,10 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
   const bool byHand = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
   const int status = byHand ? kInterruptedStatus : kAskedToEndStatus;
   int none = 0;
-  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) return TRUE;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) {
+    WakeWatch();
+    return TRUE;
+  }
   RemoveUnfinishedFiles();
   SayLastWords();
   TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
