@@ -72,6 +72,7 @@ sigset_t SignalsThatEnd() {
 Interruption::Interruption(First first) {
   firstIsNoted = first == First::kIsNoted;
   statusNoted = 0;
+  RemoveUnfinishedFilesAtExit();
   struct sigaction action {};
   action.sa_handler = OnSignal;
   // While one is handled the others wait: two handlers would wait for each other's threads.

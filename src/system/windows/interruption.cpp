@@ -46,6 +46,7 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
 Interruption::Interruption(First first) {
   firstIsNoted = first == First::kIsNoted;
   statusNoted = 0;
+  RemoveUnfinishedFilesAtExit();
   SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
 }
 
