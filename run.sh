@@ -1,7 +1,7 @@
 #!/bin/sh
 # Builds Quillomat and opens its window; ./run.sh some-book.txt opens it with that book. Without a
 # display it counts the book, or the bundled sample, in the terminal.
-# ./run.sh cli --file some-book.txt counts in the terminal; ./run.sh cli --help lists the options.
+# ./run.sh cli a-book.txt another.txt counts in the terminal; ./run.sh cli --help lists the options.
 . "$(dirname "$0")/cmake/setup.sh"
 
 # shellcheck disable=SC2046 # one word a package

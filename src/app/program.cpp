@@ -216,16 +216,18 @@ void Program::Quit() {
   if (!parts_.run.Busy()) End();
 }
 
+/// While a words file or a state is read, boxes stand as that needs them.
 void Program::KeepSettings() {
-  if (parts_.flags.blnStartUpCompleted) static_cast<void>(SaveSettings());
+  const bool isReading = parts_.run.Phase() == RunPhase::kReading;
+  if (parts_.flags.blnStartUpCompleted && !isReading) static_cast<void>(SaveSettings());
 }
 
 /// Returns what went wrong, or "".
 std::string Program::SaveSettings() {
   if (!frmParams.chkSaveStateOnQuit.IsChecked()) return {};
   // What a large text has switched off is no choice to be kept.
-  if (parts_.output.SuppressedByItself()) frmMain.chkSuppressWords.SetChecked(false);
-  return parts_.savedState.SaveState("");
+  const bool suppressed = parts_.output.SuppressedByItself();
+  return parts_.savedState.SaveState("", suppressed ? &frmMain.chkSuppressWords : nullptr);
 }
 
 void Program::End() {

@@ -45,12 +45,12 @@ void SavedState::Connect(std::function<void()> initialize) {
   frmParams_.cmdSaveLoadState[1].Click.Connect([this] { OnLoadFromFile(); });
 }
 
-std::string SavedState::SaveState(const std::string& path) {
+std::string SavedState::SaveState(const std::string& path, const CheckBox* switchedOn) {
   if (const std::string refusal = WhyNotToSaveTo(path); !refusal.empty()) {
     return "Error when attempting to save state: " + refusal;
   }
   try {
-    WriteStateFile(PathOrSettings(path), count_.frmMain, frmParams_);
+    WriteStateFile(PathOrSettings(path), count_.frmMain, frmParams_, AllSettings(), switchedOn);
     return {};
   } catch (const RunTimeError& error) {
     return "Error when attempting to save state: " + error.Description();

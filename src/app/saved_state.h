@@ -41,8 +41,10 @@ class SavedState {
   /// Where the state is kept from one run to the next; stands for an empty path below.
   void SetSettingsFilePath(std::string path) { settingsFilePath_ = std::move(path); }
 
-  /// Writes the state. Returns what went wrong, in words for the user, or "".
-  [[nodiscard]] std::string SaveState(const std::string& path);
+  /// Writes the state, as if `switchedOn` were not checked, if that is given. Returns what went
+  /// wrong, in words for the user, or "".
+  [[nodiscard]] std::string SaveState(const std::string& path,
+                                      const CheckBox* switchedOn = nullptr);
 
   /// Reads the state into the controls, no more: kNoFile, kRestored or kError.
   [[nodiscard]] RestoreResult ReadControls(const std::string& path);

@@ -66,9 +66,8 @@ std::int32_t NumericValue(std::string_view text) {
 struct LineOf {
   std::string operator()(const TextBox* box) const { return Quoted(box->Text()); }
   std::string operator()(const ComboBox* box) const { return std::to_string(box->ListIndex()); }
-  std::string operator()(const CheckBox* box) const {
-    return std::to_string(static_cast<int>(box->Value()));
-  }
+  std::string operator()(const CheckBox* box) const { return (*this)(box->Value()); }
+  std::string operator()(CheckState state) const { return std::to_string(static_cast<int>(state)); }
   std::string operator()(const SourceButtons& source) const {
     return std::to_string(source.clipboard->Value() ? 0 : source.file->Value() ? 1 : 2);
   }
@@ -231,10 +230,12 @@ std::array<StateValue, kStateValues> StateValuesOf(MainForm& frmMain, ParamsForm
 }
 
 void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
-                    std::span<const Setting> settings) {
+                    std::span<const Setting> settings, const CheckBox* switchedOn) {
   OutputFile file(path);
   for (const StateValue& value : StateValuesOf(frmMain, frmParams)) {
-    file.Write(std::visit(LineOf(), value));
+    CheckBox* const* const box = std::get_if<CheckBox*>(&value);
+    const bool isSwitchedOn = box != nullptr && *box == switchedOn;
+    file.Write(isSwitchedOn ? LineOf()(CheckState::kUnchecked) : std::visit(LineOf(), value));
     file.Write(kCrLf);
   }
   file.Write(NamedLines(frmMain, frmParams, settings).Text());

@@ -46,9 +46,11 @@ using StateValue = std::variant<TextBox*, ComboBox*, CheckBox*, SourceButtons>;
 [[nodiscard]] std::array<StateValue, kStateValues> StateValuesOf(MainForm& frmMain,
                                                                  ParamsForm& frmParams);
 
-/// Writes all values into a file, replacing it. Throws RunTimeError; then the file is as it was.
+/// Writes all values into a file, replacing it; `switchedOn`, a box of the 45 that the program has
+/// checked and not the user, as unchecked. Throws RunTimeError; then the file is as it was.
 void WriteStateFile(const std::string& path, MainForm& frmMain, ParamsForm& frmParams,
-                    std::span<const Setting> settings = AllSettings());
+                    std::span<const Setting> settings = AllSettings(),
+                    const CheckBox* switchedOn = nullptr);
 
 /// Sets all values from a file; a setting of which it tells nothing gets its default. Throws
 /// RunTimeError 62 when it has too few lines, 13 when a number

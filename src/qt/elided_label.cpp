@@ -14,8 +14,19 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
-/// It takes what it gets; some words are wanted.
+void ElidedLabel::SetWantedWidth(int width) {
+  if (width == wantedWidth_) return;
+  wantedWidth_ = width;
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  updateGeometry();
+}
+
 QSize ElidedLabel::sizeHint() const {
+  return minimumSizeHint().expandedTo(QSize(wantedWidth_, 0));
+}
+
+/// It takes what it gets; some words are wanted.
+QSize ElidedLabel::minimumSizeHint() const {
   constexpr int kLetters = 6;
   return {kLetters * fontMetrics().averageCharWidth(), fontMetrics().height()};
 }

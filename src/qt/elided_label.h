@@ -12,8 +12,13 @@ class ElidedLabel final : public QLabel {
  public:
   explicit ElidedLabel(QWidget* parent = nullptr);
 
+  /// So much and no more is wanted of a row, whatever is shown, and less is taken. Without it the
+  /// label takes all that it is given, and wants nothing.
+  void SetWantedWidth(int width);
+  [[nodiscard]] int WantedWidth() const { return wantedWidth_; }
+
   [[nodiscard]] QSize sizeHint() const override;
-  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
   [[nodiscard]] bool IsCut() const;
 
@@ -23,6 +28,8 @@ class ElidedLabel final : public QLabel {
 
  private:
   [[nodiscard]] QStringList ShownLines() const;
+
+  int wantedWidth_ = 0;
 };
 
 }  // namespace quillomat

@@ -55,7 +55,7 @@ QStringList FilesModel::CopyOf(int row, const QList<int>& sections) const {
   QStringList cells;
   const NumberSigns plain{.group = "", .decimal = signs_.decimal};
   for (const int section : sections) {
-    cells.append(ToQt(rows_.TextAt(static_cast<std::size_t>(row), ColumnOf(section), plain)));
+    cells.append(ToShown(rows_.TextAt(static_cast<std::size_t>(row), ColumnOf(section), plain)));
   }
   return cells;
 }
@@ -83,7 +83,7 @@ QVariant FilesModel::data(const QModelIndex& index, int role) const {
   }
   // A path or a reason may be longer than its column is wide.
   if (role != Qt::DisplayRole && (role != Qt::ToolTipRole || IsNumber(index.column()))) return {};
-  return ToQt(
+  return ToShown(
       rows_.TextAt(static_cast<std::size_t>(index.row()), ColumnOf(index.column()), signs_));
 }
 

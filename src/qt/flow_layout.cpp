@@ -16,6 +16,16 @@ int WidthOf(const QLayoutItem& item) {
   return Grows(item) ? item.minimumSize().width() : item.sizeHint().width();
 }
 
+/// What shrinks asks for no more of the window than its least width.
+bool Shrinks(const QLayoutItem& item) {
+  const QWidget* widget = item.widget();
+  return widget != nullptr && widget->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
+}
+
+int LeastWidthOf(const QLayoutItem& item) {
+  return Shrinks(item) ? item.minimumSize().width() : WidthOf(item);
+}
+
 int HeightOf(const QLayoutItem& item, int width) {
   const int wanted =
       item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
@@ -91,7 +101,8 @@ int FlowLayout::PlaceRow(const Row& row, const QRect& place, bool onlyMeasure) c
   std::vector<int> widths;
   int height = 0;
   for (const QLayoutItem* item : row.items) {
-    int width = std::min(WidthOf(*item), place.width());
+    const bool isAlone = row.items.size() == 1 && Shrinks(*item);
+    int width = isAlone ? place.width() : std::min(WidthOf(*item), place.width());
     if (Grows(*item)) {
       const int share = left / std::max(growing, 1);
       --growing;
@@ -132,7 +143,7 @@ QSize FlowLayout::minimumSize() const {
   QSize size(0, 0);
   for (const auto& item : items_) {
     if (item->isEmpty()) continue;
-    size = size.expandedTo(QSize(WidthOf(*item), item->minimumSize().height()));
+    size = size.expandedTo(QSize(LeastWidthOf(*item), item->minimumSize().height()));
   }
   return size.grownBy(contentsMargins());
 }

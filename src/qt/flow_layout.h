@@ -4,7 +4,8 @@
 //
 // What grows by its size policy (a box to type into, a spacer) takes the width that is left in its
 // row; what follows a spacer stands at the end, in rows of its own too. What may grow in height
-// gets the row's height, all else stands in its middle.
+// gets the row's height, all else stands in its middle. What can be shrunk at will (the policy
+// Maximum) makes the window no wider than it must be, and has a row that it is alone in to itself.
 #pragma once
 
 #include <QLayout>

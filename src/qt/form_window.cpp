@@ -185,7 +185,7 @@ void FormWindow::DropFocusOfDisabled() {
 
 void FormWindow::ShowWindowState() {
   windowChanged_ = false;
-  setWindowTitle(ToQt(form_.Caption()));
+  setWindowTitle(ToShown(form_.Caption()));
   const bool minimized = form_.State() == WindowState::kMinimized;
   if (minimized != isMinimized()) {
     setWindowState(windowState().setFlag(Qt::WindowMinimized, minimized));

@@ -93,8 +93,8 @@ QString HtmlTableOf(const std::vector<CopiedLine>& lines, const CellSource& cell
 
 std::unique_ptr<QMimeData> ClipboardDataOf(const QString& text, const QString& table) {
   auto data = std::make_unique<QMimeData>();
-  data->setText(text);
-  if (!table.isEmpty()) data->setHtml(table);
+  data->setText(WithReadableBytes(text));
+  if (!table.isEmpty()) data->setHtml(WithReadableBytes(table));
   return data;
 }
 

@@ -1,22 +1,26 @@
 // quillomat: the program with its windows.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
-#include <QFileInfo>
 #include <QIcon>
 #include <QScopeGuard>
+#include <algorithm>
 #include <iostream>
 #include <memory_resource>
+#include <string>
+#include <vector>
 
+#include "base/terminal_text.h"
 #include "base/version.h"
 #include "engine/kernel_choice.h"
 #include "qt/clear_boxes.h"
+#include "qt/end_from_outside.h"
 #include "qt/guarded_application.h"
 #include "qt/program_windows.h"
 #include "qt/text_conversion.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
 #include "system/large_pages.h"
+#include "system/paths.h"
 
 namespace quillomat {
 namespace {
@@ -33,8 +37,19 @@ bool HasDisplay() {
 }
 #endif
 
-/// The file or folder to be counted, as an absolute path: the program leaves the current folder.
-QString PathFromCommandLine(const QApplication& application) {
+/// Without those of the toolkit. Where paths are bytes, it would make text of them.
+QStringList Arguments([[maybe_unused]] int argc, [[maybe_unused]] char** argv) {
+#ifdef Q_OS_WIN
+  return QCoreApplication::arguments();
+#else
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments.append(ToQt(argv[i]));
+  return arguments;
+#endif
+}
+
+/// What is to be counted, as it is given.
+std::vector<std::string> PathsFromCommandLine(const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral("Counts how often each word occurs in a text."));
   parser.addHelpOption();
@@ -42,43 +57,46 @@ QString PathFromCommandLine(const QApplication& application) {
   parser.addPositionalArgument(QStringLiteral("path"),
                                QStringLiteral("A text file or a folder to be counted."),
                                QStringLiteral("[path]"));
-  parser.process(application);
-  const QStringList paths = parser.positionalArguments();
-  return paths.isEmpty() ? QString() : QFileInfo(paths.constFirst()).absoluteFilePath();
+  parser.process(arguments);
+  std::vector<std::string> paths;
+  for (const QString& path : parser.positionalArguments()) paths.push_back(FromQt(path));
+  return paths;
 }
 
-/// An empty one, most often a variable without a value, would be the current folder.
-bool HasEmptyArgument() {
-  return QCoreApplication::arguments().contains(QString());
+/// Why they are no command line; "" for no reason. An empty one, most often a variable without a
+/// value, would be the current folder.
+std::string FaultIn(const std::vector<std::string>& paths) {
+  if (std::ranges::count(paths, "") > 0) {
+    return "an argument is empty; check what should stand there";
+  }
+  if (paths.size() < 2) return {};
+  return "one file or folder at a time, but there is also " + EscapedForTerminal(paths[1]) +
+         ". quillomat-cli counts several together";
 }
 
-int RunOnDesktop(GuardedApplication& application) {
-  if (HasEmptyArgument()) {
-    std::cerr << "quillomat: an argument is empty; check what should stand there\n";
+int RunOnDesktop(GuardedApplication& application, const QStringList& arguments) {
+  const std::vector<std::string> paths = PathsFromCommandLine(arguments);
+  if (const std::string fault = FaultIn(paths); !fault.empty()) {
+    std::cerr << "quillomat: " << fault << '\n';
     return 2;
   }
-  const QString path = PathFromCommandLine(application);
+  // The program leaves the current folder.
+  const std::string path = paths.empty() ? std::string() : AbsolutePath(paths.front());
   QtDesktop desktop;
   Program program(desktop);
   Windows windows(program, desktop);
   application.tell = [&program](const RunTimeError& error) { program.Lister().ReportError(error); };
-  const QObject desktopSession;
   const auto untold = qScopeGuard([&application] { application.tell = nullptr; });
   windows.RestorePlaces();
   program.Ended.Connect([&windows] {
     windows.KeepPlaces();
     // Not quit(), which would ask the windows, and they leave the answer to the program.
     QMetaObject::invokeMethod(
-        qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+        qApp, [] { QCoreApplication::exit(InterruptionStatus()); }, Qt::QueuedConnection);
   });
-  // The session of the desktop ends: nobody may be asked anything, and no time may be lost.
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &desktopSession,
-                   [&program, &windows] {
-                     program.KeepSettings();
-                     windows.KeepPlaces();
-                   });
-  if (!program.Start()) return program.HasEnded() ? 0 : 1;
-  if (!path.isEmpty()) program.Sources().ChooseText(FromQt(QDir::toNativeSeparators(path)));
+  const EndFromOutside endFromOutside(program, windows, desktop);
+  if (!program.Start()) return program.HasEnded() ? InterruptionStatus() : 1;
+  if (!path.empty()) program.Sources().ChooseText(path);
   return QApplication::exec();
 }
 
@@ -98,7 +116,7 @@ int main(int argc, char** argv) {
   try {
     LetDrivesBeEmpty();
     std::pmr::set_default_resource(&LargePageMemory());
-    const Interruption interruption;
+    const Interruption interruption(Interruption::First::kIsNoted);
     GuardedApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillomat"));
     QApplication::setApplicationVersion(ToQt(VersionText()));
@@ -106,7 +124,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new ClearBoxes);  // which it takes over
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillomat.png")));
-    return RunOnDesktop(application);
+    return RunOnDesktop(application, Arguments(argc, argv));
   } catch (const std::exception& error) {
     std::cerr << "quillomat: unexpected failure: " << error.what() << '\n';
     return 1;

@@ -1,6 +1,5 @@
 #include "qt/main_window_view.h"
 
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMimeData>
@@ -8,7 +7,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
@@ -21,6 +19,7 @@
 #include "app/count/pace_text.h"
 #include "qt/flow_row.h"
 #include "qt/mixed_color.h"
+#include "qt/path_of_url.h"
 #include "qt/path_suggestions.h"
 #include "qt/text_conversion.h"
 #include "qt/window_memory.h"
@@ -39,7 +38,7 @@ constexpr QLatin1String kFilesView("files");
 std::vector<std::string> DroppedPaths(const QMimeData& data) {
   std::vector<std::string> paths;
   for (const QUrl& url : data.urls()) {
-    if (url.isLocalFile()) paths.push_back(FromQt(QDir::toNativeSeparators(url.toLocalFile())));
+    if (std::string path = PathOfUrl(url); !path.empty()) paths.push_back(std::move(path));
   }
   return paths;
 }

@@ -1,7 +1,6 @@
 #include "qt/path_suggestions.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QKeyEvent>
 #include <QScopeGuard>
 #include <algorithm>
@@ -12,6 +11,7 @@
 #include <utility>
 
 #include "qt/text_conversion.h"
+#include "system/names_in_folder.h"
 #include "system/typed_path.h"
 
 namespace quillomat {
@@ -26,6 +26,13 @@ constexpr Qt::CaseSensitivity kPathCase = Qt::CaseInsensitive;
 #else
 constexpr Qt::CaseSensitivity kPathCase = Qt::CaseSensitive;
 #endif
+
+/// What is shown of a path may be more readable than the path.
+constexpr int kPathRole = Qt::UserRole;
+
+QString PathOf(const QListWidgetItem& item) {
+  return item.data(kPathRole).toString();
+}
 
 /// Where the name begins that is typed last.
 qsizetype NameStart(const QString& typed) {
@@ -44,15 +51,15 @@ QStringList PathSuggestions::PathsLike(const QString& typed, PathKind kind,
                                        const std::stop_token& stop) {
   const qsizetype nameStart = NameStart(typed);
   const QString folder = typed.left(nameStart);
-  const QString name = typed.mid(nameStart);
-  const QDir::Filters folders = QDir::AllDirs | QDir::NoDotAndDotDot;
+  const QString beginning = typed.mid(nameStart);
   QStringList paths;
-  QDirIterator entries(ToQt(PathFromTyped({}, FromQt(folder))),
-                       kind == PathKind::kFolder ? folders : folders | QDir::Files);
-  while (!stop.stop_requested() && entries.hasNext()) {
-    entries.next();
-    if (entries.fileName().startsWith(name, kPathCase)) paths.append(folder + entries.fileName());
-  }
+  GoThroughNames(PathFromTyped({}, FromQt(folder)), [&](const NameInFolder& item) {
+    const QString name = ToQt(item.name);
+    const bool isWanted = kind == PathKind::kFile || item.isFolder;
+    if (isWanted && name.startsWith(beginning, kPathCase)) paths.append(folder + name);
+    return !stop.stop_requested();
+  });
+  if (stop.stop_requested()) return {};
   paths.sort(Qt::CaseInsensitive);
   return paths.mid(0, kMostOffered);
 }
@@ -84,7 +91,7 @@ PathSuggestions::~PathSuggestions() {
 
 QStringList PathSuggestions::Offered() const {
   QStringList paths;
-  for (int i = 0; IsOffering() && i < list_.count(); ++i) paths.append(list_.item(i)->text());
+  for (int i = 0; IsOffering() && i < list_.count(); ++i) paths.append(PathOf(*list_.item(i)));
   return paths;
 }
 
@@ -118,12 +125,7 @@ void PathSuggestions::StartLook(const QString& typed) {
 void PathSuggestions::Offer(const QString& typed, const QStringList& paths) {
   const bool stale = box_.text() != typed || !box_.hasFocus() || pause_.isActive() || closed_;
   if (stale) return;
-  list_.clear();
-  if (paths.isEmpty() || paths == QStringList(typed)) return list_.hide();
-  list_.addItems(paths);
-  list_.setCurrentRow(-1);
-  Place();
-  list_.show();
+  if (Fill(typed, paths)) list_.show();
 }
 
 /// What is offered follows the typing at once.
@@ -135,11 +137,23 @@ void PathSuggestions::Narrow(const QString& typed) {
     const bool isBelow = path.indexOf(QDir::separator(), typed.size()) >= 0;
     if (path.startsWith(typed, kPathCase) && !isBelow) paths.append(path);
   }
-  if (paths.isEmpty() || paths == QStringList(typed)) return list_.hide();
+  Fill(typed, paths);
+}
+
+/// False when there is nothing to be offered.
+bool PathSuggestions::Fill(const QString& typed, const QStringList& paths) {
   list_.clear();
-  list_.addItems(paths);
+  if (paths.isEmpty() || paths == QStringList(typed)) {
+    list_.hide();
+    return false;
+  }
+  for (const QString& path : paths) {
+    auto* item = new QListWidgetItem(ToShown(FromQt(path)), &list_);
+    item->setData(kPathRole, path);
+  }
   list_.setCurrentRow(-1);
   Place();
+  return true;
 }
 
 void PathSuggestions::Place() {
@@ -149,7 +163,7 @@ void PathSuggestions::Place() {
 }
 
 void PathSuggestions::Take(const QListWidgetItem& item) {
-  const QString path = item.text();
+  const QString path = PathOf(item);
   Close();
   box_.setText(path);
 }

@@ -59,6 +59,7 @@ class PathSuggestions final : public QObject {
   void StartLook(const QString& typed);
   void Offer(const QString& typed, const QStringList& paths);
   void Narrow(const QString& typed);
+  bool Fill(const QString& typed, const QStringList& paths);
   void Place();
   void Take(const QListWidgetItem& item);
   void Close();

@@ -186,7 +186,7 @@ void Windows::RestorePlaces() {
   memory.RestoreView(main_.Views());
   memory.RestoreColumns(main_.Table().View().Columns());
   memory.RestoreOrderFigures(main_.StatisticsView().OrderBox());
-  program_.Paths().SetLastFolder(FromQt(memory.LastFolder()));
+  program_.Paths().SetLastFolder(memory.LastFolder());
 }
 
 void Windows::KeepPlaces() {
@@ -201,7 +201,7 @@ void Windows::KeepPlaces() {
   memory.KeepView(main_.Views());
   memory.KeepColumns(main_.Table().View().Columns());
   memory.KeepOrderFigures(main_.StatisticsView().OrderBox());
-  memory.KeepLastFolder(ToQt(program_.Paths().LastFolder()));
+  memory.KeepLastFolder(program_.Paths().LastFolder());
 }
 
 }  // namespace quillomat

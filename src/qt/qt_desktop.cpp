@@ -16,8 +16,11 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "base/utf8.h"
+#include "qt/path_of_url.h"
 #include "qt/text_conversion.h"
 #include "system/locale_info.h"
+#include "system/paths.h"
 #include "system/shell.h"
 
 namespace quillomat {
@@ -74,6 +77,10 @@ MessageAnswer AnswerOf(int button) {
   }
 }
 
+MessageAnswer HarmlessAnswer(const MessageBox& box) {
+  return box.noLoses ? MessageAnswer::kYes : AnswerOf(ButtonsOf(box.buttons).onEscape);
+}
+
 /// "*.*" means every file, also one without a point in its name.
 QStringList NameFiltersOf(const std::string& filter) {
   QStringList filters;
@@ -85,6 +92,12 @@ QStringList NameFiltersOf(const std::string& filter) {
     filters.append(description.trimmed() + QStringLiteral(" (") + pattern + QLatin1Char(')'));
   }
   return filters;
+}
+
+/// The dialogs know no folder whose path is no text: they open in the nearest one above.
+std::string FolderForDialogs(std::string folder) {
+  while (!IsWellFormedUtf8(folder)) folder = FolderPartOf(folder);
+  return folder;
 }
 
 void SetUpDialog(QFileDialog& shown, const FileDialog& dialog) {
@@ -99,7 +112,7 @@ void SetUpDialog(QFileDialog& shown, const FileDialog& dialog) {
       filters.front().pattern != "*.*") {
     shown.setDefaultSuffix(ToQt(filters.front().pattern.substr(2)));
   }
-  if (!dialog.folder.empty()) shown.setDirectory(ToQt(dialog.folder));
+  if (!dialog.folder.empty()) shown.setDirectory(ToQt(FolderForDialogs(dialog.folder)));
   shown.selectFile(ToQt(dialog.fileName));
 }
 
@@ -144,8 +157,14 @@ void MakeRoomForTitle(QMessageBox& box) {
   if (letters.size(0, box.text()).width() < title) text->setMinimumWidth(title);
 }
 
-bool IsReadOnly(const QString& path) {
-  const QFileInfo file(path);
+/// Not every desktop's dialog hands out a text that means the same file.
+std::string ChosenPath(const QFileDialog& shown) {
+  const QList<QUrl> urls = shown.selectedUrls();
+  return urls.isEmpty() ? std::string() : PathOfUrl(urls.constFirst());
+}
+
+bool IsReadOnly(const std::string& path) {
+  const QFileInfo file(ToQt(path));
   return file.exists() && !file.isWritable();
 }
 
@@ -171,26 +190,38 @@ std::string QtDesktop::DocumentsFolder() {
   return FromQt(QDir::toNativeSeparators(QDir(documents).exists() ? documents : QDir::homePath()));
 }
 
+void QtDesktop::StopAsking() {
+  asks_ = false;
+  if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* box = qobject_cast<QDialog*>(window);
+    if (box != nullptr && box->isVisible()) box->reject();
+  }
+}
+
 MessageAnswer QtDesktop::ShowMessage(const MessageBox& box) {
+  if (!asks_) return HarmlessAnswer(box);
   Repaint();
   AnsweredBox shown(BoxParent(), !box.noLoses);
   const ButtonSet set = ButtonsOf(box.buttons);
-  shown.setWindowTitle(ToQt(box.title));
+  shown.setWindowTitle(ToShown(box.title));
   shown.setTextFormat(Qt::PlainText);
-  shown.setText(ToQtLines(box.text));
+  shown.setText(ToShownLines(box.text));
   shown.setIcon(IconOf(box.icon));
   shown.setStandardButtons(set.buttons);
   shown.setEscapeButton(set.onEscape);
   MakeRoomForTitle(shown);
-  return AnswerOf(shown.exec());
+  const MessageAnswer answer = AnswerOf(shown.exec());
+  return asks_ ? answer : HarmlessAnswer(box);
 }
 
 void QtDesktop::ShowText(const std::string& lines, const std::string& title) {
+  if (!asks_) return;
   Repaint();
   QDialog shown(BoxParent());
-  shown.setWindowTitle(ToQt(title));
+  shown.setWindowTitle(ToShown(title));
   auto* column = new QVBoxLayout(&shown);
-  auto* text = new QPlainTextEdit(ToQtLines(lines), &shown);
+  auto* text = new QPlainTextEdit(ToShownLines(lines), &shown);
   text->setReadOnly(true);
   text->setLineWrapMode(QPlainTextEdit::NoWrap);
   text->setTabChangesFocus(true);
@@ -204,10 +235,11 @@ void QtDesktop::ShowText(const std::string& lines, const std::string& title) {
 }
 
 std::string QtDesktop::AskForText(const InputBox& box) {
+  if (!asks_) return {};
   Repaint();
   QInputDialog shown(BoxParent());
-  shown.setWindowTitle(ToQt(box.title));
-  shown.setLabelText(ToQtLines(box.prompt));
+  shown.setWindowTitle(ToShown(box.title));
+  shown.setLabelText(ToShownLines(box.prompt));
   shown.setTextValue(ToQt(box.defaultAnswer));
   if (!box.okCaption.empty()) shown.setOkButtonText(ToQt(box.okCaption));
   if (!box.cancelCaption.empty()) shown.setCancelButtonText(ToQt(box.cancelCaption));
@@ -218,28 +250,34 @@ std::string QtDesktop::AskForText(const InputBox& box) {
 }
 
 std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
+  if (!asks_) return std::nullopt;
   Repaint();
   while (true) {
     QFileDialog shown(BoxParent());
     SetUpDialog(shown, dialog);
-    if (shown.exec() != QDialog::Accepted || shown.selectedFiles().isEmpty()) return std::nullopt;
-    const QString path = QDir::toNativeSeparators(shown.selectedFiles().constFirst());
-    if (!dialog.noReadOnlyReturn || !IsReadOnly(path)) return FromQt(path);
-    ShowMessage({FromQt(path) + "\r\nThis file is read-only.  Choose another one.", dialog.title,
+    if (shown.exec() != QDialog::Accepted || !asks_) return std::nullopt;
+    const std::string path = ChosenPath(shown);
+    if (path.empty()) return std::nullopt;
+    if (!dialog.noReadOnlyReturn || !IsReadOnly(path)) return path;
+    ShowMessage({path + "\r\nThis file is read-only.  Choose another one.", dialog.title,
                  MessageIcon::kExclamation, MessageButtons::kOk, MessageSeverity::kError});
   }
 }
 
 std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title,
                                                       const std::string& folder) {
+  if (!asks_) return std::nullopt;
   Repaint();
-  const QString path = QFileDialog::getExistingDirectory(BoxParent(), ToQt(title), ToQt(folder));
-  if (path.isEmpty()) return std::nullopt;
-  return FromQt(QDir::toNativeSeparators(path));
+  const QUrl opens = QUrl::fromLocalFile(ToQt(FolderForDialogs(folder)));
+  const std::string path = PathOfUrl(QFileDialog::getExistingDirectoryUrl(
+      BoxParent(), ToQt(title), opens, QFileDialog::ShowDirsOnly, {QStringLiteral("file")}));
+  if (path.empty()) return std::nullopt;
+  return path;
 }
 
+/// Half a character in it is no byte of a path.
 std::string QtDesktop::ClipboardText() {
-  return FromQt(QApplication::clipboard()->text());
+  return QApplication::clipboard()->text().toStdString();
 }
 
 void QtDesktop::ClearClipboard() {

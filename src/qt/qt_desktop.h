@@ -32,6 +32,10 @@ class QtDesktop final : public Desktop {
   /// The window that the user is in, or was in last: boxes are shown over it. It outlives them.
   void SetWindow(QWidget* window) { window_ = window; }
 
+  /// From now on nobody is asked, or told, anything: boxes that are open close, and each is
+  /// answered as nothing is lost by.
+  void StopAsking();
+
   MessageAnswer ShowMessage(const MessageBox& box) override;
   void ShowText(const std::string& lines, const std::string& title) override;
   std::string AskForText(const InputBox& box) override;
@@ -53,6 +57,7 @@ class QtDesktop final : public Desktop {
   [[nodiscard]] QWidget* BoxParent() const;
 
   BoxGuard guard_;
+  bool asks_ = true;
   std::function<void()> showChanges_;
   CellSource cells_;
   QPointer<QWidget> window_;

@@ -106,12 +106,16 @@ void TablePage::ShowTotals() {
   ShowHint();
 }
 
-/// Nothing moves while a filter is typed: the totals of all words are the widest.
+/// Nothing moves while a filter is typed: the totals of all words are the widest, and what is wrong
+/// with a filter has to do with the same room, or a usual one.
 void TablePage::KeepRoomForTotals() {
+  constexpr int kUsualLetters = 40;
   if (!table_.Fault().empty()) return;
-  const int width = totals_.fontMetrics().horizontalAdvance(totals_.text()) + 1;
-  totals_.setMinimumWidth(words_.text().isEmpty() ? width
-                                                  : std::max(width, totals_.minimumWidth()));
+  const QFontMetrics letters = totals_.fontMetrics();
+  const int width = std::max(letters.horizontalAdvance(totals_.text()) + 1,
+                             kUsualLetters * letters.averageCharWidth());
+  const bool ofAllWords = words_.text().isEmpty();
+  totals_.SetWantedWidth(ofAllWords ? width : std::max(width, totals_.WantedWidth()));
 }
 
 void TablePage::ShowHint() {

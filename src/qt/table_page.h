@@ -13,6 +13,7 @@
 #include "app/table/result_table.h"
 #include "app/table/row_cells.h"
 #include "qt/accessible_names.h"
+#include "qt/elided_label.h"
 #include "qt/word_table_view.h"
 
 namespace quillomat {
@@ -57,7 +58,7 @@ class TablePage final : public QWidget {
   QLineEdit words_;
   QComboBox kind_;
   /// "37 words, 1,204 instances", or what is wrong with the filter.
-  QLabel totals_;
+  ElidedLabel totals_;
   // In the middle of the table while there are no words to show: why not, and what shows those that
   // the filter hides.
   QLabel hint_;

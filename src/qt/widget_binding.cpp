@@ -246,9 +246,9 @@ class LabelBinding final : public WidgetBinding {
  private:
   void ShowValue() override {
     if (auto* summary = dynamic_cast<FigureLabel*>(&Widget())) {
-      summary->Show(ToQt(label_.CaptionText()), ToQt(label_.Figure()));
+      summary->Show(ToShown(label_.CaptionText()), ToShown(label_.Figure()));
     } else if (!TakesMnemonic()) {
-      SetShownCaption(ToQtLines(label_.Caption()));
+      SetShownCaption(ToShownLines(label_.Caption()));
     }
   }
 
@@ -297,7 +297,7 @@ void WidgetBinding::Show() {
   ShowValue();
   widget_.setVisible(IsShown());
   widget_.setEnabled(control_.Enabled());
-  const QString toolTip = ToQt(control_.ToolTip());
+  const QString toolTip = ToShown(control_.ToolTip());
   widget_.setToolTip(toolTip);
   widget_.setAccessibleDescription(toolTip);
 }

@@ -108,12 +108,14 @@ void WindowMemory::KeepOrderFigures(const QCheckBox& box) const {
   settings.setValue(QLatin1String(kOrderFiguresKey), box.isChecked());
 }
 
-QString WindowMemory::LastFolder() const {
-  return QSettings(path_, QSettings::IniFormat).value(QLatin1String(kLastFolderKey)).toString();
+std::string WindowMemory::LastFolder() const {
+  const QSettings settings(path_, QSettings::IniFormat);
+  return settings.value(QLatin1String(kLastFolderKey)).toByteArray().toStdString();
 }
 
-void WindowMemory::KeepLastFolder(const QString& folder) const {
-  QSettings(path_, QSettings::IniFormat).setValue(QLatin1String(kLastFolderKey), folder);
+void WindowMemory::KeepLastFolder(const std::string& folder) const {
+  QSettings settings(path_, QSettings::IniFormat);
+  settings.setValue(QLatin1String(kLastFolderKey), QByteArray::fromStdString(folder));
 }
 
 QSize SizeOnScreen(QSize wanted, QSize available) {

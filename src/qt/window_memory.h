@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QString>
 #include <QWidget>
+#include <string>
 
 #include "qt/list_view.h"
 #include "qt/result_tabs.h"
@@ -40,8 +41,8 @@ class WindowMemory {
   void RestoreOrderFigures(QCheckBox& box) const;
   void KeepOrderFigures(const QCheckBox& box) const;
   /// The folder in which the next dialog opens; "" for none.
-  [[nodiscard]] QString LastFolder() const;
-  void KeepLastFolder(const QString& folder) const;
+  [[nodiscard]] std::string LastFolder() const;
+  void KeepLastFolder(const std::string& folder) const;
 
  private:
   QString path_;

@@ -5,10 +5,12 @@
 // on their way into the place of another are removed (see output_file.h), so that what stood there
 // stands there still. The exit status tells the reason. A signal that was ignored when the program
 // started, as under nohup, stays ignored. A kill that cannot be caught leaves an unfinished file,
-// but never under the name that was asked for.
+// but never under the name that was asked for. A library that ends the program with exit, as the
+// toolkit does when the screen has gone, leaves none either.
 //
 // Who would rather finish something first asks for First::kIsNoted and looks at InterruptionStatus
-// from time to time; the second interruption ends the program at once all the same.
+// from time to time, or has an InterruptionWatch wait for it; the second interruption ends the
+// program at once all the same.
 //
 // Who has finished some files and is at work on others leaves a word of it, which standard error
 // gets when the program is ended.

@@ -1,4 +1,5 @@
-// The little that unfinished_files.h needs of the system's signals. For the files of this folder.
+// The little that unfinished_files.h and interruption_watch.h need of the system's signals. For the
+// files of this folder.
 #pragma once
 
 namespace quillomat {
@@ -12,5 +13,8 @@ void LetSignalsCome() noexcept;
 /// with the files in it.
 void WaitAMoment() noexcept;
 void RemoveInHandler(const char* path) noexcept;
+
+/// An interruption has been noted: who waits for one is woken. May be called by a signal handler.
+void WakeWatch() noexcept;
 
 }  // namespace quillomat

@@ -41,7 +41,26 @@ std::optional<std::string> WithoutEscapes(std::string_view text) {
   return decoded;
 }
 
-/// The path in the address of a file; nothing for any other text.
+std::string HomeFolder() {
+  return EnvironmentVariable(IsOnWindows() ? "USERPROFILE" : "HOME").value_or("");
+}
+
+/// "~" or "~/...", with the home folder in its place; nothing for any other text.
+std::optional<std::string> PathInHome(std::string_view text) {
+  if (!text.starts_with('~') || (text.size() > 1 && !IsPathSeparator(text[1]))) return std::nullopt;
+  const std::string home = HomeFolder();
+  if (home.empty()) return std::nullopt;
+  return text.size() <= 2 ? home : JoinPath(home, text.substr(2));
+}
+
+std::string Meant(std::string_view typed) {
+  const std::string_view text = WithoutQuotes(typed);
+  if (const auto path = PathOfAddress(text)) return *path;
+  return PathInHome(text).value_or(std::string(text));
+}
+
+}  // namespace
+
 std::optional<std::string> PathOfAddress(std::string_view text) {
   constexpr std::string_view kScheme = "file:";
   constexpr std::string_view kHostStart = "//";
@@ -62,26 +81,6 @@ std::optional<std::string> PathOfAddress(std::string_view text) {
   const bool hasDrive = path->size() > 2 && (*path)[2] == ':';
   return hasDrive ? path->substr(1) : *path;
 }
-
-std::string HomeFolder() {
-  return EnvironmentVariable(IsOnWindows() ? "USERPROFILE" : "HOME").value_or("");
-}
-
-/// "~" or "~/...", with the home folder in its place; nothing for any other text.
-std::optional<std::string> PathInHome(std::string_view text) {
-  if (!text.starts_with('~') || (text.size() > 1 && !IsPathSeparator(text[1]))) return std::nullopt;
-  const std::string home = HomeFolder();
-  if (home.empty()) return std::nullopt;
-  return text.size() <= 2 ? home : JoinPath(home, text.substr(2));
-}
-
-std::string Meant(std::string_view typed) {
-  const std::string_view text = WithoutQuotes(typed);
-  if (const auto path = PathOfAddress(text)) return *path;
-  return PathInHome(text).value_or(std::string(text));
-}
-
-}  // namespace
 
 std::string PathFromTyped(const std::string& folder, std::string_view typed) {
   const std::string text(TrimBlanks(typed));

@@ -1,6 +1,7 @@
 // What a person means who types a path into a box, or pastes one from another program.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,5 +14,9 @@ namespace quillomat {
 /// address without a path stays what it is, and so does one of another machine, but on Windows,
 /// which has paths for those. "" stays "".
 [[nodiscard]] std::string PathFromTyped(const std::string& folder, std::string_view typed);
+
+/// The path in the address of a file, byte by byte; nothing for any other text, and where
+/// PathFromTyped leaves an address what it is.
+[[nodiscard]] std::optional<std::string> PathOfAddress(std::string_view text);
 
 }  // namespace quillomat

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cstdlib>
 
 #include "system/signals.h"
 
@@ -69,6 +70,10 @@ void RemoveUnfinishedFiles() noexcept {
     while (place.use == Use::kBeingMade) WaitAMoment();
     if (place.use == Use::kThere) RemoveInHandler(place.path.data());
   }
+}
+
+void RemoveUnfinishedFilesAtExit() noexcept {
+  [[maybe_unused]] static const int isAtExit = std::atexit(RemoveUnfinishedFiles);  // once
 }
 
 }  // namespace quillomat

@@ -1,5 +1,5 @@
 // The files that are being written and are not yet whole: those that must not stay behind when a
-// signal ends the program (see interruption.h).
+// signal, or a library, ends the program (see interruption.h).
 //
 // A signal may come at any moment, in any thread, and its handler may neither allocate nor lock. So
 // their paths stand in a fixed table of the process, and each place of it is handed over with one
@@ -35,5 +35,9 @@ class UnfinishedFile {
 /// Removes them all. The program must end at once afterwards: from now on none can be made, and
 /// whoever tries waits for the end. May be called by a signal handler.
 void RemoveUnfinishedFiles() noexcept;
+
+/// Has them removed, too, when a library ends the program with exit, as the toolkit does when the
+/// screen has gone.
+void RemoveUnfinishedFilesAtExit() noexcept;
 
 }  // namespace quillomat

@@ -23,6 +23,15 @@ class Quitting : public ProgramFixture {
     return next.frmMain.chkSuppressWords.IsChecked();
   }
 
+  [[nodiscard]] static std::string TextThatFillsTheBox() {
+    std::string text;
+    for (int i = 0; i < 8'000; ++i) {
+      for (int rest = i + 1; rest > 0; rest /= 26) text += static_cast<char>('a' + rest % 26);
+      text += "ab ";
+    }
+    return text;
+  }
+
   UserHome home;
   int ends = 0;
 };
@@ -36,15 +45,37 @@ TEST_F(Quitting, SavesTheStateEvenThoughNothingWasCounted) {
 }
 
 TEST_F(Quitting, ForgetsThatALargeTextHasSuppressedTheDisplayOfWords) {
-  std::string text;
-  for (int i = 0; i < 8'000; ++i) {
-    for (int rest = i + 1; rest > 0; rest /= 26) text += static_cast<char>('a' + rest % 26);
-    text += "ab ";
-  }
-  CountFile(folder.Write("many.txt", text));
+  CountFile(folder.Write("many.txt", TextThatFillsTheBox()));
   ASSERT_TRUE(Main().chkSuppressWords.IsChecked()) << "the box would not hold them";
   Main().cmdQuit.PerformClick();
   EXPECT_FALSE(SuppressedNextTime());
+}
+
+TEST_F(Quitting, SessionWhoseEndIsCalledOffLeavesTheBoxesAsTheyStand) {
+  CountFile(folder.Write("many.txt", TextThatFillsTheBox()));
+  ASSERT_TRUE(Main().chkSuppressWords.IsChecked());
+  const std::string output = Output();
+  program.KeepSettings();
+  EXPECT_FALSE(SuppressedNextTime());
+  EXPECT_TRUE(Main().chkSuppressWords.IsChecked()) << "the user sees it on";
+  EXPECT_EQ(Output(), output);
+  program.KeepSettings();
+  EXPECT_FALSE(SuppressedNextTime()) << "it is still no choice of the user's";
+}
+
+TEST_F(Quitting, SessionThatEndsWhileAWordsFileIsReadKeepsNoBoxesOfTheReading) {
+  EveryYieldPumps();
+  std::string words;
+  for (int i = 0; i < 3000; ++i) words += "ox\r\n";
+  bool isKept = true;
+  desktop.AtPump(desktop.Pumps() + 3, [&] {
+    EXPECT_TRUE(Main().chkSuppressWords.IsChecked()) << "as the reading needs it";
+    program.KeepSettings();
+    isKept = std::filesystem::exists(home.SettingsFile());
+  });
+  desktop.AnswerFile(folder.Write("w.txt", words));
+  Panel().cmdSelectWordsFile[0].PerformClick();
+  EXPECT_FALSE(isKept);
 }
 
 TEST_F(Quitting, KeepsTheUsersOwnWishToSuppressWords) {

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Uses the real program on a virtual screen with real keys and clicks: counts a file into another,
-# quits, starts again, and finds everything as it was. Nothing may be said on the terminal.
+# quits, starts again, and finds everything as it was; then it is ended by a signal. Nothing may be said on the terminal.
 # Usage: by_hand.sh PROGRAM DATA_FOLDER
 set -eu
 program=$1
@@ -25,6 +25,12 @@ end_quietly() {
   wait "$program_pid" || fail "it ends with a status"
   [ ! -s "$work/program.log" ] || fail "it says something on the terminal"
 }
+
+# What could not be counted is not dropped without a word.
+status=0
+"$program" "$work/one.txt" "$work/other.txt" 2>"$work/refusal.txt" || status=$?
+[ "$status" -eq 2 ] || fail "two paths end with status $status"
+grep -q "one file or folder at a time.*other.txt" "$work/refusal.txt" || fail "two paths are not refused"
 
 # The box of the output file stands four before the count command, which has the focus.
 start "$data/samples/harbour_en.txt"
@@ -61,4 +67,17 @@ sleep 0.3
 # Quit is the sixth behind the count command, which has the focus after a count.
 xdotool key --delay 60 Tab Tab Tab Tab Tab Tab space
 end_quietly
+
+# A name that is no UTF-8, given on the command line; then a signal ends the program, which keeps its
+# settings all the same.
+name=$(printf 'caf\351.txt')
+cp "$data/samples/harbour_en.txt" "$work/$name"
+start "$work/$name"
+kill -TERM "$program_pid"
+wait_for 20 has_ended || fail "it does not end when it is asked to"
+status=0
+wait "$program_pid" || status=$?
+[ "$status" -eq 143 ] || fail "asked to end it ends with status $status"
+[ ! -s "$work/program.log" ] || fail "it says something on the terminal"
+grep -q '^txbFile(0)=.*/caf%E9.txt' "$settings" || fail "the settings were not kept"
 printf 'counted, kept and counted again\n'

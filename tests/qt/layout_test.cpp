@@ -9,9 +9,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QTableView>
 #include <algorithm>
 #include <gmock/gmock.h>
 
+#include "qt/elided_label.h"
 #include "qt/figure_label.h"
 #include "qt/fixed_font.h"
 #include "qt/window_memory.h"
@@ -27,6 +29,7 @@ bool IsPart(const QWidget& widget) {
          qobject_cast<const QLineEdit*>(&widget) != nullptr ||
          qobject_cast<const QComboBox*>(&widget) != nullptr ||
          qobject_cast<const QPlainTextEdit*>(&widget) != nullptr ||
+         qobject_cast<const QTableView*>(&widget) != nullptr ||
          qobject_cast<const QProgressBar*>(&widget) != nullptr;
 }
 
@@ -79,7 +82,10 @@ void ExpectNothingOverlaps(const QWidget& window) {
 
 void ExpectTextFits(const QWidget& part) {
   const auto* label = qobject_cast<const QLabel*>(&part);
-  if (part.hasHeightForWidth()) {
+  if (dynamic_cast<const ElidedLabel*>(&part) != nullptr) {
+    EXPECT_GE(part.width(), part.minimumSizeHint().width()) << NameOf(part);
+    EXPECT_GE(part.height(), part.minimumSizeHint().height()) << NameOf(part);
+  } else if (part.hasHeightForWidth()) {
     EXPECT_GE(part.width(), part.minimumSizeHint().width()) << NameOf(part);
     EXPECT_GE(part.height(), part.heightForWidth(part.width())) << NameOf(part);
   } else if (label != nullptr || qobject_cast<const QAbstractButton*>(&part) != nullptr ||
@@ -132,6 +138,19 @@ class Letters {
   QFont usual_;
 };
 
+/// Starts a count, and stops it as soon as it has begun.
+void ClickWhenItCounts(ProgramOnDesktop& user) {
+  CommandButton& count = user.program.frmMain.cmdCountWords;
+  QTimer stop;
+  QObject::connect(&stop, &QTimer::timeout, [&] {
+    if (user.program.State().Phase() != RunPhase::kCounting) return;
+    stop.stop();
+    count.PerformClick();
+  });
+  stop.start(1);
+  user.Click(count);
+}
+
 class LayoutTest : public WindowFixture, public testing::WithParamInterface<int> {
  protected:
   LayoutTest() { EXPECT_TRUE(user->Start()); }
@@ -179,6 +198,14 @@ class LayoutTest : public WindowFixture, public testing::WithParamInterface<int>
     user->Click(frmMain.cmdCountWords);
   }
 
+  void StopACount() {
+    std::string text;
+    for (int i = 0; i < 4'000'000; ++i) text += "word ";
+    user->program.Sources().ChooseText(folder.Write("long.txt", text));
+    boxes.Answer(QMessageBox::Yes);  // the words found so far are listed
+    ClickWhenItCounts(*user);
+  }
+
   const Letters letters{GetParam()};
   MainForm& frmMain = user->program.frmMain;
 };
@@ -221,6 +248,22 @@ TEST_P(LayoutTest, MainWindowWhileItCounts) {
   frmMain.lblNumOccurrences.SetVisible(true);
   frmMain.lblNumOccurrences.SetProgress(Progress{500, 1000, 123'456, 234'567});
   ExpectWellLaidOutAtAllSizes(user->windows.Main());
+}
+
+TEST_P(LayoutTest, MainWindowWithEachView) {
+  StopACount();
+  MainWindowView& window = user->windows.Main();
+  window.Table().findChild<QComboBox*>()->setCurrentIndex(
+      static_cast<int>(FilterKind::kExpression));
+  for (const char* const view : {"table", "statistics", "files"}) {
+    window.Views().Show(view);
+    for (const char* const filter : {"", "("}) {
+      SCOPED_TRACE(std::string(view) + ' ' + filter);
+      window.Table().findChild<QLineEdit*>()->setText(filter);
+      ExpectWellLaidOutAtAllSizes(window);
+    }
+    user->Click(frmMain.cmdLanguage);
+  }
 }
 
 TEST_P(LayoutTest, MainWindowWithANotice) {
@@ -359,6 +402,35 @@ TEST_F(WindowLayout, NothingJumpsWhenANoticeComesOrGoes) {
     frmMain.cmdNotice[0].SetVisible(true);
     user->Settle();
     EXPECT_EQ(user->windows.Main().Views().geometry(), without);
+  }
+}
+
+TEST_F(WindowLayout, NothingMovesWhileAFilterIsTyped) {
+  ASSERT_TRUE(user->Start());
+  MainWindowView& window = user->windows.Main();
+  std::string text;
+  for (int i = 0; i < 4'000'000; ++i) text += "word ";
+  user->program.Sources().ChooseText(folder.Write("long.txt", text));
+  boxes.Answer(QMessageBox::Yes);
+  ClickWhenItCounts(*user);
+  window.Views().Show("table");
+  window.Table().findChild<QComboBox*>()->setCurrentIndex(
+      static_cast<int>(FilterKind::kExpression));
+  auto& filter = *window.Table().findChild<QLineEdit*>();
+  const int least = window.minimumSizeHint().width();
+  for (const int width : {least, 760, 900, 1024, 1366}) {
+    filter.clear();
+    window.resize(width, 700);
+    user->Settle();
+    const QRect table = window.Table().View().geometry();
+    const QRect box = filter.geometry();
+    for (const char* const typed : {"w", "(", "nothing that there is"}) {
+      filter.setText(typed);
+      user->Settle();
+      EXPECT_EQ(window.Table().View().geometry(), table) << width << typed;
+      EXPECT_EQ(filter.geometry(), box) << width << typed;
+      EXPECT_EQ(window.minimumSizeHint().width(), least) << width << typed;
+    }
   }
 }
 

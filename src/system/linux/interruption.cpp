@@ -41,7 +41,7 @@ void SayLastWords() noexcept {
 void OnSignal(int signal) {
   const int status = kStatusOfSignals + signal;
   int none = 0;
-  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return WakeWatch();
   RemoveUnfinishedFiles();
   SayLastWords();
   _exit(status);
@@ -72,6 +72,7 @@ sigset_t SignalsThatEnd() {
 Interruption::Interruption(First first) {
   firstIsNoted = first == First::kIsNoted;
   statusNoted = 0;
+  RemoveUnfinishedFilesAtExit();
   struct sigaction action {};
   action.sa_handler = OnSignal;
   // While one is handled the others wait: two handlers would wait for each other's threads.

@@ -31,7 +31,10 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
   const bool byHand = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
   const int status = byHand ? kInterruptedStatus : kAskedToEndStatus;
   int none = 0;
-  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) return TRUE;
+  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted && byHand) {
+    WakeWatch();
+    return TRUE;
+  }
   RemoveUnfinishedFiles();
   SayLastWords();
   TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
@@ -43,6 +46,7 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
 Interruption::Interruption(First first) {
   firstIsNoted = first == First::kIsNoted;
   statusNoted = 0;
+  RemoveUnfinishedFilesAtExit();
   SetConsoleCtrlHandler(OnConsoleEvent, TRUE);
 }
 

@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include "system/paths.h"
+#include "system/windows/folder_search.h"
 #include "system/windows/handle_identity.h"
 #include "system/windows/system_path.h"
 #include "system/windows/wide_text.h"
@@ -21,12 +22,6 @@ struct HandleCloser {
   void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
 using Handle = std::unique_ptr<HANDLE, HandleCloser>;
-
-struct SearchCloser {
-  using pointer = HANDLE;
-  void operator()(HANDLE search) const { FindClose(search); }
-};
-using Search = std::unique_ptr<HANDLE, SearchCloser>;
 
 /// A handle that may only be asked what it is; links are followed. Empty when there is none.
 Handle OpenToAsk(const std::wstring& path) {
@@ -112,13 +107,9 @@ std::optional<FileIdentity> IdentityOfItem(const std::string& path) {
 
 FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {
   FolderListing listing;
-  std::wstring pattern = SystemPath(path);
-  if (!pattern.ends_with(L'\\')) pattern += L'\\';
-  pattern += L'*';
   WIN32_FIND_DATAW item{};
-  const HANDLE handle = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &item,
-                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  if (handle == INVALID_HANDLE_VALUE) {
+  const FolderSearch search = SearchFolder(path, item);
+  if (!search) {
     // The root of an empty drive has not even an entry for itself.
     error = LastErrorCode();
     const ItemKind kind = KindOfItem(path);
@@ -127,7 +118,6 @@ FolderListing ItemsOfFolder(const std::string& path, std::error_code& error) {
     if (isEmpty) error.clear();
     return listing;
   }
-  const Search search(handle);
   do {
     AddItem(path, item, listing);
   } while (FindNextFileW(search.get(), &item) != 0);

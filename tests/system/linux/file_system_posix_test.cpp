@@ -7,6 +7,7 @@
 #include "system/desktop_test.h"
 #include "system/file_system.h"
 #include "system/links.h"
+#include "system/names_in_folder.h"
 
 namespace quillomat {
 namespace {
@@ -65,6 +66,33 @@ TEST_F(PosixFileSystem, ListingHoldsFilesAndLinksToFilesOnly) {
 TEST_F(PosixFileSystem, ListingKeepsTheBytesOfNames) {
   (void)folder_.Write("caf\xE9", "");
   EXPECT_THAT(ListFolder(folder_.Path()).files, ElementsAre("caf\xE9"));
+}
+
+TEST_F(PosixFileSystem, NamesAreShownAsAPersonLooksForThem) {
+  const std::string shelf = folder_.Make("shelf");
+  (void)folder_.Write("caf\xE9", "");
+  (void)folder_.Write(".hidden", "");
+  fs::create_symlink(shelf, folder_ / "link to folder");
+  fs::create_symlink(folder_ / "gone", folder_ / "dangling");
+  ASSERT_EQ(mkfifo((folder_ / "pipe").c_str(), 0666), 0);
+  std::vector<std::string> seen;
+  GoThroughNames(folder_.Path(), [&seen](const NameInFolder& item) {
+    seen.push_back(item.name + (item.isFolder ? "/" : ""));
+    return true;
+  });
+  EXPECT_THAT(seen, testing::UnorderedElementsAre("caf\xE9", "link to folder/", "shelf/"));
+  seen.clear();
+  GoThroughNames(folder_.Path(), [&seen](const NameInFolder& item) {
+    seen.push_back(item.name);
+    return false;
+  });
+  EXPECT_EQ(seen.size(), 1U);
+  for (const std::string& none : {folder_ / "gone", std::string()}) {
+    GoThroughNames(none, [](const NameInFolder& item) {
+      ADD_FAILURE() << item.name;
+      return true;
+    });
+  }
 }
 
 TEST_F(PosixFileSystem, ListingOfALockedFolderIsPermissionDenied) {

@@ -2,8 +2,10 @@
 // from outside.
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <semaphore>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -12,6 +14,7 @@
 #include "system/desktop_test.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
+#include "system/interruption_watch.h"
 #include "system/output_file.h"
 #include "system/scratch_folder.h"
 
@@ -87,6 +90,40 @@ TEST_F(InterruptionTest, RemovesAScratchFolderWithItsFiles) {
             kInterruptedStatus);
   EXPECT_TRUE(ListFolder(folder_.Path()).subfolders.empty());
   ExpectTheOldFileAlone();
+}
+
+TEST_F(InterruptionTest, LibraryThatEndsTheProgramLeavesNoUnfinishedFileEither) {
+  std::fflush(stdout);  // else the other process writes it, too
+  EXPECT_EQ(StatusOf([this] {
+              const Interruption interruption;
+              OutputFile file(path_);
+              file.Write(std::string(200'000, 'x'));
+              std::exit(3);  // as that of the windows does when the screen has gone
+            }),
+            3);
+  ExpectTheOldFileAlone();
+}
+
+TEST_F(InterruptionTest, WhoWaitsForItIsToldOnce) {
+  const Interruption interruption(Interruption::First::kIsNoted);
+  std::binary_semaphore told(0);
+  {
+    const InterruptionWatch watch([&told] { told.release(); });
+    raise(SIGTERM);
+    told.acquire();
+  }
+  const InterruptionWatch late([&told] { told.release(); });
+  told.acquire();
+  EXPECT_EQ(InterruptionStatus(), kAskedToEndStatus);
+}
+
+TEST_F(InterruptionTest, WhoWaitsInVainIsLetGo) {
+  const Interruption interruption(Interruption::First::kIsNoted);
+  bool told = false;
+  {
+    const InterruptionWatch watch([&told] { told = true; });
+  }
+  EXPECT_FALSE(told);
 }
 
 TEST_F(InterruptionTest, OnAnotherThreadEndsTheProgramJustSo) {
