@@ -48,7 +48,7 @@ Fault FindUnservedExport(const CommandLine& options, const TerminalStreams& stre
 }
 
 bool ExportList(const Program& program, const CommandLine& options, const TerminalStreams& streams,
-                WrittenFiles& written, const std::function<void(const std::string& fault)>& tell) {
+                const std::function<void(const std::string& fault)>& tell) {
   if (options.exports.empty()) return true;
   const ResultExport result(program.Words(), WishOf(program, options));
   bool allWritten = true;
@@ -63,10 +63,7 @@ bool ExportList(const Program& program, const CommandLine& options, const Termin
     const Fault fault = WriteTarget({"--export", path}, program, [&] {
       static_cast<void>(ExportToFile(result.Table(), format, path, {}));
     });
-    if (!fault) {
-      written.Add(path);
-      continue;
-    }
+    if (!fault) continue;
     tell(*fault);
     allWritten = false;
   }

@@ -10,7 +10,6 @@
 #include "app/program.h"
 #include "cli/command_line.h"
 #include "cli/terminal_streams.h"
-#include "cli/written_files.h"
 
 namespace quillomat {
 
@@ -24,7 +23,7 @@ namespace quillomat {
 /// is told what went wrong, naming the file, where the user does not know yet. True if all were
 /// written.
 [[nodiscard]] bool ExportList(const Program& program, const CommandLine& options,
-                              const TerminalStreams& streams, WrittenFiles& written,
+                              const TerminalStreams& streams,
                               const std::function<void(const std::string& fault)>& tell);
 
 }  // namespace quillomat

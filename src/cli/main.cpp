@@ -6,6 +6,7 @@
 #include <new>
 #include <optional>
 #include <ostream>
+#include <span>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -18,6 +19,7 @@
 #include "cli/standard_output.h"
 #include "cli/terminal_run.h"
 #include "cli/terminal_streams.h"
+#include "cli/written_files.h"
 #include "engine/kernel_choice.h"
 #include "system/file_system.h"
 #include "system/interruption.h"
@@ -40,11 +42,7 @@ TerminalStreams StandardStreams(std::ostream& err, bool errIsTerminal) {
           .errIsTerminal = errIsTerminal,
           .outIsTerminal = IsTerminal(StandardStream::kOutput),
           .interruption = InterruptionStatus,
-          .endAtInterruption = EndAtFirstInterruption,
-          .setLastWords =
-              [errIsTerminal](const std::string& line) {
-                SetLastWords(errIsTerminal ? EscapedForTerminal(line) : line);
-              }};
+          .endAtInterruption = EndAtFirstInterruption};
 }
 
 }  // namespace
@@ -58,6 +56,10 @@ int main(int argc, char** argv) {
     std::optional<Interruption> interruption(std::in_place);
     const Terminal terminal;
     const bool errIsTerminal = IsTerminal(StandardStream::kError);
+    TellOfWrittenFiles([errIsTerminal](std::span<const std::string> paths) {
+      const std::string line = LineOfWrittenFiles(paths);
+      return errIsTerminal ? EscapedForTerminal(line) : line;
+    });
     EscapingBuffer escaping(*std::cerr.rdbuf(), ShowsColours(StandardStream::kError));
     std::ostream err(errIsTerminal ? &escaping : std::cerr.rdbuf());
     std::ostringstream help;

@@ -35,7 +35,6 @@
 #include "cli/targets.h"
 #include "cli/terminal_desktop.h"
 #include "cli/uncounted_notes.h"
-#include "cli/written_files.h"
 #include "engine/explain/text_explainer.h"
 #include "export/cell_text.h"
 #include "listing/statistics.h"
@@ -55,7 +54,6 @@ class TerminalRun {
         err_(streams.err),
         input_(InputOf(options)),
         desktop_(err_, options.answers),
-        written_(streams),
         program_(desktop_) {}
 
   int Run() {
@@ -120,7 +118,6 @@ class TerminalRun {
     }
     const std::string error = program_.States().SaveState(path);
     if (!error.empty()) return Fail("--save-state " + path + ": " + error);
-    written_.Add(path);
     return true;
   }
 
@@ -336,7 +333,6 @@ class TerminalRun {
     if (!FormatIsServed()) return kRunFailed;
     const bool toFile = program_.Lister().HasOutputFile();
     const bool made = options_.windowText || options_.text ? CountInWindow() : CountDirectly();
-    if (toFile && program_.Lister().FileWritten()) written_.Add(program_.frmMain.txbFile[1].Text());
     const bool reported = Report();
     if (options_.windowText) {
       // That the box does not take all of a list is no failure of the run.
@@ -371,16 +367,14 @@ class TerminalRun {
   }
 
   bool Export() {
-    return ExportList(program_, options_, streams_, written_,
+    return ExportList(program_, options_, streams_,
                       [this](const std::string& fault) { Fail(fault); });
   }
 
   /// Also of a count that gave no list: the report may say why.
   bool Report() {
     const std::optional<std::string> fault = WriteFileReport(program_, options_);
-    if (fault) return Fail(*fault);
-    if (options_.report) written_.Add(*options_.report);
-    return true;
+    return !fault || Fail(*fault);
   }
 
   /// Paths, be it one, are served like a folder; --file and --text are the window's sources, which
@@ -481,7 +475,6 @@ class TerminalRun {
   std::ostream& err_;
   InputChoice input_;
   TerminalDesktop desktop_;
-  WrittenFiles written_;
   bool listIsPrinted_ = false;  // on standard output, by --output -
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.

@@ -32,8 +32,6 @@ struct TerminalStreams {
   std::function<int()> interruption = [] { return 0; };
   /// The count is over, be it that it was interrupted: whatever comes now ends the program at once.
   std::function<void()> endAtInterruption = [] {};
-  /// Standard error gets that line when an interruption ends the program.
-  std::function<void(const std::string& line)> setLastWords = [](const std::string&) {};
   Clock clock = std::chrono::steady_clock::now;
 };
 

@@ -4,10 +4,10 @@
 
 namespace quillomat {
 
-void WrittenFiles::Add(std::string_view path) {
-  names_.append(names_.empty() ? "" : ", ").append(path);
-  streams_.setLastWords("Interrupted: written are " + names_ + ", and nothing else" +
-                        std::string(kPlatformLineBreak));
+std::string LineOfWrittenFiles(std::span<const std::string> paths) {
+  std::string line = "Interrupted. Written by then: ";
+  for (const std::string& path : paths) line.append(&path == paths.data() ? "" : ", ").append(path);
+  return line.append(kPlatformLineBreak);
 }
 
 }  // namespace quillomat

@@ -1,25 +1,12 @@
-// Which files a run in the terminal has replaced by now: an interruption leaves them so, and says
-// it.
+// What an interruption says of the files that a run in the terminal has written by then.
 #pragma once
 
+#include <span>
 #include <string>
-#include <string_view>
-
-#include "cli/terminal_streams.h"
 
 namespace quillomat {
 
-class WrittenFiles {
- public:
-  /// `streams` must outlive it.
-  explicit WrittenFiles(const TerminalStreams& streams) : streams_(streams) {}
-
-  /// The file is whole, under its own name.
-  void Add(std::string_view path);
-
- private:
-  const TerminalStreams& streams_;
-  std::string names_;
-};
+/// A line with its end, of one path or more.
+[[nodiscard]] std::string LineOfWrittenFiles(std::span<const std::string> paths);
 
 }  // namespace quillomat

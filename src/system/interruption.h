@@ -12,10 +12,11 @@
 // from time to time, or has an InterruptionWatch wait for it; the second interruption ends the
 // program at once all the same.
 //
-// Who has finished some files and is at work on others leaves a word of it, which standard error
-// gets when the program is ended.
+// Of the files that stand under their names by then, standard error can be told.
 #pragma once
 
+#include <functional>
+#include <span>
 #include <string>
 
 namespace quillomat {
@@ -43,9 +44,12 @@ class Interruption {
 /// too.
 void EndAtFirstInterruption() noexcept;
 
-/// What standard error gets, as it is, when an interruption ends the program; "" for nothing. For a
-/// few texts in the life of the program, as none of them is given up.
-void SetLastWords(const std::string& text);
+/// From now on, standard error gets what `line` makes of the paths of the files that were written
+/// (see output_file.h) when an interruption ends the program; nothing where there are none. They
+/// come as they were asked for and in that order, and no file is among them that is not yet in its
+/// place, or missing that is. `line` is asked for each file, and what it makes is kept to the end.
+/// Nothing in place of a function ends it.
+void TellOfWrittenFiles(std::function<std::string(std::span<const std::string> paths)> line);
 
 /// The exit status that the interruption asks for; 0 as long as there was none. Costs next to
 /// nothing.

@@ -40,8 +40,11 @@ void EnterFolder(const std::string& path, std::error_code& error);
 /// that the system gives to an open file.
 [[nodiscard]] std::optional<std::string> BehindLinks(const std::string& path);
 
-/// Puts the file `fresh` in the place of `target`, and asks the disk to keep that.
+/// Puts the file `fresh` in the place of `target`.
 void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error);
+
+/// Asks the disk to keep that a file of that name stands there, where it does not by itself.
+void KeepName(const std::string& path);
 
 // Neither complains.
 void RemoveFile(const std::string& path);

@@ -5,6 +5,7 @@
 
 #include "base/run_time_error.h"
 #include "system/file_system.h"
+#include "system/last_words.h"
 #include "system/native_disk.h"
 
 namespace quillomat {
@@ -25,6 +26,7 @@ OutputFile::OutputFile(const std::string& path) : OutputFile(TemporaryFile::For(
 OutputFile::OutputFile(TemporaryFile::Made made, const std::string& path)
     : kind_(made.file ? Kind::kTemporary : Kind::kInPlace),
       buffer_(EmptyBlock()),
+      path_(path),
       temporary_(std::move(made.temporary)),
       file_(made.file ? *std::move(made.file) : NativeFile::OpenForWriting(path)) {}
 
@@ -60,6 +62,7 @@ void OutputFile::Close() {
     if (kind_ != Kind::kStandardOutput) file_.Flush();
     file_.Close();
     if (temporary_) temporary_->TakeItsPlace();
+    if (kind_ == Kind::kInPlace) WordsOfWrittenFile(path_).TakeTheirPlace();
   } catch (...) {
     Abandon();
     throw;

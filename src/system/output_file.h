@@ -61,6 +61,7 @@ class OutputFile final : public ByteSink {
 
   Kind kind_;
   std::string buffer_;                        // had before a file in place is emptied
+  std::string path_;                          // as it was given
   std::unique_ptr<TemporaryFile> temporary_;  // null unless of that kind
   NativeFile file_;                           // closed before the temporary file goes
 };

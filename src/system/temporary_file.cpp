@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "base/utf8.h"
+#include "system/last_words.h"
 #include "system/native_disk.h"
 #include "system/native_path.h"
 #include "system/paths.h"
@@ -24,15 +25,18 @@ std::string NameBeside(const std::string& target) {
 
 }  // namespace
 
-TemporaryFile::TemporaryFile(std::string target, std::string path)
-    : target_(std::move(target)), path_(std::move(path)), unfinished_(path_) {}
+TemporaryFile::TemporaryFile(std::string asked, std::string target, std::string path)
+    : asked_(std::move(asked)),
+      target_(std::move(target)),
+      path_(std::move(path)),
+      unfinished_(path_) {}
 
 TemporaryFile::Made TemporaryFile::For(const std::string& path) {
   if (NamesNothing(path)) return {};
   const std::optional<std::string> behind = BehindLinks(path);
   if (!behind || FileNamePartOf(*behind).empty()) return {};
   const std::string target = FromRootOn(*behind);
-  std::unique_ptr<TemporaryFile> temporary(new TemporaryFile(target, NameBeside(target)));
+  std::unique_ptr<TemporaryFile> temporary(new TemporaryFile(path, target, NameBeside(target)));
   std::optional<NativeFile> file = NativeFile::CreateInPlaceOf(target, temporary->path_);
   if (!file) return {};
   temporary->isThere_ = true;
@@ -45,10 +49,15 @@ TemporaryFile::~TemporaryFile() {
 }
 
 void TemporaryFile::TakeItsPlace() {
+  WordsOfWrittenFile words(asked_);
   std::error_code error;
+  unfinished_.HoldTheEnd();
   MoveFileOver(path_, target_, error);
+  if (!error) words.TakeTheirPlace();
+  unfinished_.HasBeenMade();
   if (error) throw ToRunTimeError(error, FileAction::kOpenToWrite, target_);
   isThere_ = false;
+  KeepName(target_);
 }
 
 }  // namespace quillomat

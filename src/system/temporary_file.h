@@ -30,12 +30,14 @@ class TemporaryFile {
   ~TemporaryFile();
 
   /// To be called when all is written, flushed and closed. Throws a RunTimeError when it cannot be
-  /// put there; then the target is as it was.
+  /// put there; then the target is as it was. An interruption finds it there and among the files
+  /// that were written (see interruption.h), or neither.
   void TakeItsPlace();
 
  private:
-  TemporaryFile(std::string target, std::string path);
+  TemporaryFile(std::string asked, std::string target, std::string path);
 
+  std::string asked_;
   std::string target_;
   std::string path_;
   bool isThere_ = false;

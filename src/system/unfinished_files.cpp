@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kPlaces = 32;
 constexpr std::size_t kMostPathBytes = 4096;
 
-enum class Use { kFree, kBeingMade, kThere };
+enum class Use { kFree, kInWork, kThere };
 
 struct Place {
   std::atomic<Use> use = Use::kFree;
@@ -30,7 +30,7 @@ std::atomic<bool> programEnds{false};  // NOLINT(cppcoreguidelines-avoid-non-con
 std::size_t TakePlace() {
   std::size_t place = 0;
   for (Use free = Use::kFree; place < kPlaces; ++place, free = Use::kFree) {
-    if (places[place].use.compare_exchange_strong(free, Use::kBeingMade)) break;
+    if (places[place].use.compare_exchange_strong(free, Use::kInWork)) break;
   }
   return place;
 }
@@ -58,6 +58,15 @@ void UnfinishedFile::HasBeenMade() noexcept {
   LetSignalsCome();
 }
 
+void UnfinishedFile::HoldTheEnd() noexcept {
+  HoldSignalsBack();
+  signalsWait_ = true;
+  if (place_ < kPlaces) places[place_].use = Use::kInWork;
+  if (!programEnds) return;
+  if (place_ < kPlaces) places[place_].use = Use::kThere;
+  for (;;) WaitAMoment();
+}
+
 UnfinishedFile::~UnfinishedFile() {
   Release(place_);
   if (signalsWait_) LetSignalsCome();
@@ -66,8 +75,8 @@ UnfinishedFile::~UnfinishedFile() {
 void RemoveUnfinishedFiles() noexcept {
   programEnds = true;
   for (const Place& place : places) {
-    // Another thread is making it: this one may not be, as its signals wait.
-    while (place.use == Use::kBeingMade) WaitAMoment();
+    // Another thread is at work on it: this one may not be, as its signals wait.
+    while (place.use == Use::kInWork) WaitAMoment();
     if (place.use == Use::kThere) RemoveInHandler(place.path.data());
   }
 }

@@ -26,6 +26,9 @@ class UnfinishedFile {
   ~UnfinishedFile();
 
   void HasBeenMade() noexcept;
+  /// From now to the next HasBeenMade, no signal ends the program: what is done to the file, and
+  /// what is noted of that, are one step for whoever ends it.
+  void HoldTheEnd() noexcept;
 
  private:
   std::size_t place_;

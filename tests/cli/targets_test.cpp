@@ -5,7 +5,10 @@
 
 #include "cli/exit_status.h"
 #include "cli/terminal_fixture.h"
+#include "cli/written_files.h"
 #include "system/file_system.h"
+#include "system/interruption.h"
+#include "system/last_words.h"
 
 namespace quillomat {
 namespace {
@@ -110,16 +113,18 @@ TEST_F(Targets, WhatIsWrittenIsToldByAnInterruptionThatComesThen) {
   const std::string list = folder / "list.txt";
   const std::string report = folder / "report.csv";
   const std::string state = folder / "state";
+  TellOfWrittenFiles(LineOfWrittenFiles);
   EXPECT_EQ(Run({"-", "--output", list, "--export", folder / "no/a.csv", "--export", table}),
             kRunFailed);
-  EXPECT_EQ(lastWords, "") << "the count was refused";
+  EXPECT_EQ(LastWords(), "") << "the count was refused";
   EXPECT_EQ(countsOver, 0);
   EXPECT_EQ(
       Run({"-", "--output", list, "--export", table, "--report", report, "--save-state", state}),
       kListMade)
       << err;
-  EXPECT_EQ(lastWords, "Interrupted: written are " + state + ", " + list + ", " + report + ", " +
-                           table + ", and nothing else" + std::string(kPlatformLineBreak));
+  EXPECT_EQ(LastWords(), "Interrupted. Written by then: " + state + ", " + list + ", " + report +
+                             ", " + table + std::string(kPlatformLineBreak));
+  TellOfWrittenFiles(nullptr);
   EXPECT_EQ(countsOver, 1);
 }
 

@@ -46,8 +46,6 @@ class TerminalFixture : public testing::Test {
   std::function<int()> interruption = [] { return 0; };
   /// How often it was said that the next interruption may end the program.
   int countsOver = 0;
-  /// With the platform's line end.
-  std::string lastWords;
   std::chrono::milliseconds stepPerLook{0};
   std::string out;
   std::string err;
@@ -82,7 +80,6 @@ class TerminalFixture : public testing::Test {
             .outIsTerminal = outIsTerminal,
             .interruption = [this] { return interruption(); },
             .endAtInterruption = [this] { ++countsOver; },
-            .setLastWords = [this](const std::string& line) { lastWords = line; },
             .clock = [this] { return now_ += stepPerLook; }};
   }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <atomic>
+#include <climits>
 #include <csignal>
 #include <cstddef>
 #include <dirent.h>
@@ -28,14 +29,13 @@ std::atomic<int> statusNoted{0};
 std::array<struct sigaction, kSignals.size()> handledBefore{};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
-/// Nobody can be told that it failed.
+/// Nobody can be told that it failed. A pipe that is full would wait for its reader, and with it
+/// all other signals: then nothing is said.
 void SayLastWords() noexcept {
-  std::string_view words = LastWords();
-  while (!words.empty()) {
-    const ssize_t bytes = write(STDERR_FILENO, words.data(), words.size());
-    if (bytes <= 0) return;
-    words.remove_prefix(static_cast<std::size_t>(bytes));
-  }
+  const std::string_view words = LastWords().substr(0, PIPE_BUF);
+  pollfd room{.fd = STDERR_FILENO, .events = POLLOUT, .revents = 0};
+  if (poll(&room, 1, 0) != 1 || (room.revents & POLLOUT) == 0) return;
+  [[maybe_unused]] const ssize_t said = write(STDERR_FILENO, words.data(), words.size());
 }
 
 void OnSignal(int signal) {

@@ -117,7 +117,10 @@ std::optional<std::string> BehindLinks(const std::string& path) {
 
 void MoveFileOver(const std::string& fresh, const std::string& target, std::error_code& error) {
   fs::rename(fresh, target, error);
-  if (!error) FlushFolder(FolderPartOf(target));
+}
+
+void KeepName(const std::string& path) {
+  FlushFolder(FolderPartOf(path));
 }
 
 void RemoveFile(const std::string& path) {

@@ -174,6 +174,9 @@ void MoveFileOver(const std::string& fresh, const std::string& target, std::erro
   TakeError(replaced != 0 || MoveFileExW(from.c_str(), to.c_str(), kHow) != 0, error);
 }
 
+// Moving has done so.
+void KeepName(const std::string& /*path*/) {}
+
 void RemoveFile(const std::string& path) {
   DeleteFileW(SystemPath(path).c_str());
 }

@@ -1,15 +1,20 @@
 // The program is ended by signals while it writes: in a process of its own, which is then looked at
 // from outside.
+#include <array>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <semaphore>
+#include <span>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
+#include "base/run_time_error.h"
 #include "support/environment.h"
 #include "system/desktop_test.h"
 #include "system/file_system.h"
@@ -20,6 +25,12 @@
 
 namespace quillomat {
 namespace {
+
+std::string Joined(std::span<const std::string> paths) {
+  std::string joined;
+  for (const std::string& path : paths) joined.append(joined.empty() ? "" : "+").append(path);
+  return joined;
+}
 
 class InterruptionTest : public TestInAFolder {
  protected:
@@ -174,11 +185,69 @@ TEST_F(InterruptionTest, LeavesALastWord) {
     return ContentsOf(said);
   };
   EXPECT_EQ(saidAfter([] {}), "");
-  EXPECT_EQ(saidAfter([] {
-              SetLastWords("a.csv is written\n");
-              SetLastWords("a.csv and b.csv are written\n");
+  const std::string made = folder_ / "made";
+  EXPECT_EQ(saidAfter([&] {
+              OutputFile(made).Close();
+              raise(SIGINT);
             }),
-            "a.csv and b.csv are written\n");
+            "")
+      << "nobody has asked for it";
+  EXPECT_EQ(saidAfter([&] {
+              TellOfWrittenFiles(Joined);
+              EXPECT_THROW(OutputFile(folder_ / "none/file").Close(), RunTimeError);
+              OutputFile(made).Close();
+              OutputFile(path_).Close();
+              const OutputFile unfinished(folder_ / "unfinished");
+              raise(SIGINT);
+            }),
+            made + "+" + path_);
+}
+
+TEST_F(InterruptionTest, NamesAFileAsWrittenIfAndOnlyIfItIs) {
+  constexpr int kRounds = 40;
+  for (int round = 0; round < kRounds; ++round) {
+    const std::string said = folder_ / "said";
+    const std::string made = folder_ / ("made" + std::to_string(round));
+    std::array<int, 2> ready{};
+    ASSERT_EQ(pipe(ready.data()), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+      if (std::freopen(said.c_str(), "w", stderr) == nullptr) _exit(1);
+      const Interruption interruption;
+      TellOfWrittenFiles(Joined);
+      if (write(ready[1], "!", 1) != 1) _exit(1);
+      OutputFile file(made);
+      file.Close();
+      for (;;) pause();
+    }
+    char byte = 0;
+    EXPECT_EQ(read(ready[0], &byte, 1), 1);
+    std::this_thread::sleep_for(std::chrono::microseconds(40 * round));
+    kill(child, SIGINT);
+    int status = 0;
+    waitpid(child, &status, 0);
+    close(ready[0]);
+    close(ready[1]);
+    EXPECT_EQ(WEXITSTATUS(status), kInterruptedStatus);
+    EXPECT_EQ(ContentsOf(said), FileExists(made) ? made : "");
+  }
+}
+
+TEST_F(InterruptionTest, EndsTheProgramThoughNobodyReadsStandardError) {
+  EXPECT_EQ(StatusOf([&] {
+              std::array<int, 2> ends{};
+              if (pipe2(ends.data(), O_NONBLOCK) != 0) _exit(1);
+              while (write(ends[1], "full", 4) > 0) {
+              }
+              fcntl(ends[1], F_SETFL, 0);  // whoever writes waits
+              dup2(ends[1], STDERR_FILENO);
+              const Interruption interruption;
+              TellOfWrittenFiles(Joined);
+              OutputFile(path_).Close();
+              alarm(10);
+              raise(SIGINT);
+            }),
+            kInterruptedStatus);
 }
 
 TEST_F(InterruptionTest, WhatWasIgnoredStaysIgnored) {
