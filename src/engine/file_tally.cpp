@@ -37,7 +37,7 @@ void FileTracker::Reset(bool on, TallyUse use) {
 }
 
 void FileTracker::NoteCurrentFile() {
-  if (fileBeingScanned_ != fileList_.back()) fileList_.push_back(fileBeingScanned_);
+  if (!CurrentFileIsNoted()) fileList_.push_back(fileBeingScanned_);
 }
 
 }  // namespace quillomat

@@ -38,6 +38,10 @@ struct FileTally {
   [[nodiscard]] bool ExceedsRecord() const;
 
   void CountWordInFile(std::int32_t fileNumber, std::int32_t times = 1);
+  /// Of the file with that number; 0 if the word was not met in it yet, or in a later one.
+  [[nodiscard]] std::int32_t CountInFile(std::int32_t fileNumber) const {
+    return FileNumbers.empty() || FileNumbers.back() != fileNumber ? 0 : FileCounts.back();
+  }
 };
 
 /// What tallies are kept for.
@@ -63,6 +67,7 @@ class FileTracker {
   [[nodiscard]] const std::string& FileBeingScanned() const { return fileBeingScanned_; }
   /// Numbers the file being scanned if it has no number yet.
   void NoteCurrentFile();
+  [[nodiscard]] bool CurrentFileIsNoted() const { return fileBeingScanned_ == fileList_.back(); }
 
   [[nodiscard]] std::int32_t CurrentFileNumber() const {
     return static_cast<std::int32_t>(fileList_.size()) - 1;

@@ -87,6 +87,13 @@ void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
                          "display format without files.");
 }
 
+bool WordStore::TallyTakes(std::optional<std::uint32_t> place, std::int32_t times) const {
+  if (!files_.IsOn() || files_.Use() == TallyUse::kUnlisted) return true;
+  const bool isKnown = place && files_.CurrentFileIsNoted();
+  const std::int32_t sofar = isKnown ? tallies_[*place].CountInFile(files_.CurrentFileNumber()) : 0;
+  return sofar <= FileTally::kMostInListedFile - times;
+}
+
 void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {
   if (files_.IsOn() || !HasRoomFor(static_cast<std::int64_t>(places.size()))) {
     for (const std::uint32_t place : places) CountWordAt(place);

@@ -283,7 +283,7 @@ bool FolderPass::CanJoin(const WalkItem& item, std::size_t scanner) {
     return false;
   }
   if (surprises_ > 0) --surprises_;
-  return joiners_[scanner].CanJoin(count);
+  return joiners_[scanner].CanJoin(count, state_.result.store);
 }
 
 /// If it fails on the way, the joiner knows.

@@ -4,6 +4,7 @@
 
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
+#include "engine/lent_words_read.h"
 #include "engine/long_line.h"
 #include "system/paths.h"
 
@@ -38,15 +39,13 @@ void LoadMarkersFor(std::string_view path, const ScanChoices& choices, ScanSetti
 }
 
 void TextReader::ReadPiece(std::string_view text) {
-  scanner_.SetWordsRead(target_.wordsRead);
+  const LentWordsRead lent(target_.wordsRead, scanner_);
   scanner_.GetWords(PrepareLine(text, IsSet(choices_.caseSignificant), buffer_, choices_.letters));
-  target_.wordsRead = scanner_.WordsRead();
 }
 
 void TextReader::ReadPlainLines(std::string_view lines) {
-  scanner_.SetWordsRead(target_.wordsRead);
+  const LentWordsRead lent(target_.wordsRead, scanner_);
   scanner_.GetWordsOfLines(lines);
-  target_.wordsRead = scanner_.WordsRead();
 }
 
 void TextReader::ReadLine(std::string_view line) {

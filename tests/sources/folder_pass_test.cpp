@@ -218,6 +218,32 @@ TEST_F(FilesOnThreads, OfWhichOneCannotBeOpenedAreCountedAllTheSame) {
   EXPECT_EQ(WordsOf(Run(TextOfPaths{paths, false, {}, nullptr})), expected);
 }
 
+TEST_F(FilesOnThreads, FailAtTheWordThatOverflowsFirst) {
+  CountOnly({"cat", "dog"});
+  for (int i = 0; i < 30; ++i) Put(Numbered(i), "cat dog");
+  std::string text = "cat caf\xE9\n";  // met first, but over the limit last
+  for (const std::string_view line : {"dog a\xE9\n", "cat\n"}) {
+    for (int i = 0; i < 32'768; ++i) text += line;
+  }
+  for (const std::size_t bytesOfLines : {std::size_t{0}, std::size_t{3'000'000}}) {
+    // With as many bytes behind it, it is scanned in pieces.
+    Put(Numbered(20), text + std::string(bytesOfLines, '\n'));
+    request.threads = 1;
+    const CountResult alone = Run(TextOfFolder{folder.Path(), false, {}});
+    ASSERT_TRUE(alone.error);
+    EXPECT_NE(alone.error->Description().find("the word \"dog\" occurs"), std::string::npos);
+    for (const std::size_t threads : {2U, 3U, 8U}) {
+      request.threads = threads;
+      const CountResult together = Run(TextOfFolder{folder.Path(), false, {}});
+      ASSERT_TRUE(together.error);
+      EXPECT_EQ(together.error->Description(), alone.error->Description());
+      EXPECT_EQ(WordsOf(together), WordsOf(alone));
+      EXPECT_EQ(together.wordsRead, alone.wordsRead);
+      EXPECT_EQ(together.uncounted, alone.uncounted);
+    }
+  }
+}
+
 TEST_F(FilesOnThreads, FailAtTheFileThatOverflows) {
   CountOnly({"cat"});
   for (int i = 0; i < 30; ++i) Put(Numbered(i), "cat");

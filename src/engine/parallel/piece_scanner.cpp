@@ -129,6 +129,16 @@ void PieceJoiner::Join(const PieceCount& piece, WordStore& store) {
   knowsNumbers_ = true;
 }
 
+bool PieceJoiner::CanJoin(const PieceCount& piece, const WordStore& store) const {
+  if (!knowsNumbers_ && !piece.numbersAnew) return false;
+  if (!store.Files().IsOn()) return true;
+  const std::size_t known = piece.numbersAnew ? 0 : places_.size();
+  return std::ranges::all_of(piece.words, [&](const WordStore::CountedWord& word) {
+    const bool isNew = word.place >= known;
+    return store.TallyTakes(isNew ? std::nullopt : std::optional(places_[word.place]), word.times);
+  });
+}
+
 void PieceJoiner::TakeBackOwed(std::size_t words, WordStore& store) {
   for (; words > 0; --words) store.CountWordAt(places_[firstOwed_++], -1);
 }

@@ -123,10 +123,9 @@ class PieceJoiner {
   void KeepOwed(std::size_t words) { firstOwed_ += words; }
   /// A piece is left out: there are numbers now of which nothing is known, until they begin anew.
   void LeaveOut() { knowsNumbers_ = false; }
-  /// Whether the piece has no such numbers.
-  [[nodiscard]] bool CanJoin(const PieceCount& piece) const {
-    return knowsNumbers_ || piece.numbersAnew;
-  }
+  /// Whether the piece has no such numbers, and no word of it leaves the range of its tally by
+  /// file: that would have to be told of the word that does so first in the text.
+  [[nodiscard]] bool CanJoin(const PieceCount& piece, const WordStore& store) const;
 
  private:
   /// What is left of the new words of a piece.

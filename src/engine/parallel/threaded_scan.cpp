@@ -1,11 +1,13 @@
 #include "engine/parallel/threaded_scan.h"
 
 #include <array>
+#include <limits>
 #include <string_view>
 #include <utility>
 
 #include "base/checked_count.h"
 #include "base/run_time_error.h"
+#include "engine/lent_words_read.h"
 #include "engine/long_line.h"
 #include "engine/whole_lines.h"
 
@@ -200,13 +202,15 @@ bool ThreadedScan::CanJoin(const PiecePool::Piece& piece) const {
   const PieceCount& count = piece.count;
   const bool wasGuessed =
       !count.looksForComments || count.openBefore == target_.settings.OpenComment;
-  return wasGuessed && joiners_[piece.scanner].CanJoin(count);
+  // A counter that overflows does so at its place.
+  const bool isInRange =
+      count.wordsRead <= std::numeric_limits<std::int32_t>::max() - target_.wordsRead;
+  return wasGuessed && isInRange && joiners_[piece.scanner].CanJoin(count, target_.store);
 }
 
 void ThreadedScan::ScanHere(std::string_view text) {
-  scanner_.SetWordsRead(target_.wordsRead);
+  const LentWordsRead lent(target_.wordsRead, scanner_);
   ScanWholeLines({target_.settings, choices_, lists_, target_.store, yield_, scanner_}, text);
-  target_.wordsRead = scanner_.WordsRead();
 }
 
 }  // namespace quillomat

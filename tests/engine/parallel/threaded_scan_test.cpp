@@ -289,6 +289,8 @@ TEST_F(ThreadedScanTest, WordsReadThatLeaveTheirRangeAreAnOverflow) {
   ThreadedScan scan({settings, store, wordsRead}, choices, lists, 2, 10);
   TextSource source("one\ntwo\nthree\nfour\nfive\nsix\n");
   EXPECT_THROW(scan.Scan(source, {[] { return false; }, [](std::int64_t) {}}), RunTimeError);
+  EXPECT_EQ(store.NumDifferentWords(), 5);
+  EXPECT_EQ(wordsRead, std::numeric_limits<std::int32_t>::max());
 }
 
 }  // namespace
