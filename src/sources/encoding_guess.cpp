@@ -23,6 +23,10 @@ struct DetectorCloser {
 };
 using Detector = std::unique_ptr<uchardet, DetectorCloser>;
 
+bool IsBeyondAscii(char ch) {
+  return static_cast<unsigned char>(ch) > 0x7F;
+}
+
 enum class Utf16Order : std::uint8_t { kNone, kLowByteFirst, kHighByteFirst };
 
 char16_t UnitAt(std::string_view head, std::size_t at, Utf16Order order) {
@@ -130,6 +134,16 @@ CharacterSet Widened(CharacterSet set) {
   return set == CharacterSet::kKoi8R ? CharacterSet::kKoi8U : set;
 }
 
+/// Whether hardly any of the bytes beyond ASCII is none of UTF-8.
+bool IsNearlyUtf8(std::string_view head) {
+  constexpr std::int64_t kBytesForOneBroken = 20;
+  const auto beyondAscii = std::ranges::count_if(head, IsBeyondAscii);
+  Utf8Decoder decoder;
+  std::string text;
+  decoder.Decode(head, text);
+  return decoder.BytesNotDecoded() * kBytesForOneBroken <= beyondAscii;
+}
+
 /// By what the library knows of languages.
 CharacterSet Detected(std::string_view head) {
   const Detector detector(uchardet_new());
@@ -138,6 +152,8 @@ CharacterSet Detected(std::string_view head) {
   }
   uchardet_data_end(detector.get());
   const std::optional<CharacterSet> set = FindCharacterSet(uchardet_get_charset(detector.get()));
+  // It says so of short texts in sets that it does not know.
+  if (set == CharacterSet::kUtf8 && !IsNearlyUtf8(head)) return CharacterSet::kAsFound;
   return set && CanDecode(*set) ? Widened(*set) : CharacterSet::kAsFound;
 }
 
@@ -178,8 +194,7 @@ CharacterSet CharacterSetOfWords(std::string_view head, CharacterSet choice) {
 }
 
 std::size_t FirstBeyondAscii(std::string_view bytes) {
-  const auto beyond =
-      std::ranges::find_if(bytes, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; });
+  const auto beyond = std::ranges::find_if(bytes, IsBeyondAscii);
   return beyond == bytes.end() ? std::string_view::npos
                                : static_cast<std::size_t>(beyond - bytes.begin());
 }

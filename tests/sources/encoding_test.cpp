@@ -234,6 +234,16 @@ TEST_F(Encodings, GuessLeavesUtf8AndWhatNobodyKnows) {
   EXPECT_EQ(CharacterSetOf("\0\x01\x02\x03\0\0"s, CharacterSet::kGuess), CharacterSet::kAsFound);
 }
 
+TEST_F(Encodings, GuessTakesForUtf8OnlyWhatNearlyIs) {
+  // "l’été l’œuvre l’élève déjà" in Mac Roman, of which the library takes the first for UTF-8.
+  const std::string mac =
+      TimesOver("l\xD5\x8Et\x8E l\xD5\xCFuvre l\xD5\x8El\x8Fve d\x8Ej\x88\n", 5);
+  EXPECT_EQ(CharacterSetOf(mac, CharacterSet::kGuess), CharacterSet::kAsFound);
+  const std::string broken =
+      TimesOver("L'été, les élèves allaient à la forêt.\n", 20) + "d\xE9j\xE0";
+  EXPECT_EQ(CharacterSetOf(broken, CharacterSet::kGuess), CharacterSet::kUtf8);
+}
+
 TEST_F(Encodings, GuessKnowsUkrainian) {
   const CountResult result = CountFile(TimesOver(kUkrainianKoi8, 5), CharacterSet::kGuess);
   EXPECT_EQ(WordsOf(result),
