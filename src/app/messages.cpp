@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/text_helpers.h"
-#include "system/locale_info.h"
 
 namespace quillomat {
 
@@ -37,7 +36,7 @@ std::string Messages::ProgramTitle() const {
 }
 
 NumberSigns Messages::Signs() const {
-  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
+  return {.group = DigitGroupSeparator(), .decimal = decimalSign_};
 }
 
 std::string Messages::Grouped(std::int64_t number) const {

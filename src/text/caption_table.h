@@ -389,6 +389,10 @@ inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
 inline constexpr int kFileIsNeverTextText = 851;
+inline constexpr int kFileIsOutputText = 854;
+inline constexpr int kFileIsFolderText = 855;
+/// Below the path of an output file.
+inline constexpr int kFileIsReadOnlyText = 856;
 inline constexpr int kNoFilesYetText = 852;
 inline constexpr int kClipboardHasNoFilesText = 853;
 
