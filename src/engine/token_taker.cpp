@@ -345,7 +345,7 @@ bool TokenTaker::WorkOutPlainToken(std::string_view token, const TokenMemo::Key&
   }
   const std::string_view word = FinalForm(text);
   if (word.empty()) return true;
-  if (lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters)) {
+  if (lists_.Admits(word, settings_.CountOnlyMode)) {
     NoteStoredWord(word, word);
   } else {
     newWords_.emplace_back();
@@ -359,7 +359,7 @@ void TokenTaker::NoteNewWord(std::string_view word) {
   const auto kept = [this](std::string_view text) {
     return std::string_view(newLetters_.Keep(text), text.size());
   };
-  if (!lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters) || IsLongWord(word)) {
+  if (!lists_.Admits(word, settings_.CountOnlyMode) || IsLongWord(word)) {
     newWords_.emplace_back();
     return;
   }

@@ -115,6 +115,13 @@ TEST_F(TryItOnPanel, TakesTypedWordsAsACountWould) {
   EXPECT_EQ(Outcome(), "Counted: дело, слово");
 }
 
+TEST_F(TryItOnPanel, ListsMeanWordsInEveryLetterCase) {
+  Try("του ΤΗΣ Της");
+  Panel().cboLetters.PerformChoice(1);
+  Panel().txbWordsToIgnoreOrCount[0].EnterText("της");
+  EXPECT_EQ(Outcome(), "Counted: του\r\nLeft out: ΤΗΣ, Της (one of the extra words to ignore)");
+}
+
 TEST_F(TryItOnPanel, LeavesTheWordsCountedAloneWhileItReadsLists) {
   Panel().txbWordsFile[0].SetText(folder.Write("ignore.txt", "слово cat\r\n"));
   CountClipboard("dog cat");

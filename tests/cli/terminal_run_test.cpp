@@ -237,6 +237,17 @@ TEST_F(TerminalRunTest, WordsThatAreBothCountOnlyAndToIgnoreAreTold) {
   EXPECT_EQ(err, "");
 }
 
+TEST_F(TerminalRunTest, OfAllLettersListsMeanWordsInEveryLetterCase) {
+  const std::string text = folder.Write("a.txt", "της ΤΗΣ Της τής");
+  EXPECT_EQ(Run({text, "--letters", "all", "--only-words", "ΤΗΣ", "--ignore-words", "της"}), 0);
+  EXPECT_EQ(err, "Note: 1 word to ignore is a count-only word, too; it is counted.\n");
+  EXPECT_THAT(out, HasSubstr(" 3  της"));
+  const std::string words = folder.Write("words.txt", "ΤΗΣ\r\n");
+  EXPECT_EQ(Run({text, "--letters", "all", "--ignore", words}), 0) << err;
+  EXPECT_THAT(out, HasSubstr(" 1  τής"));
+  EXPECT_THAT(out, Not(HasSubstr("της")));
+}
+
 TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {
   std::string cats;
   for (int i = 0; i < 32'768; ++i) cats += "cat\n";

@@ -127,13 +127,14 @@ void WordListReader::DecodeTypedWords(WordListKind kind) {
 }
 
 WordListReader::TypedWords WordListReader::GetExtraWords(WordListKind kind) {
-  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()),
-                                      ReadKeyRule(frmParams_).letters, MakeSystemSegmenter);
+  const LetterRule letters = ReadKeyRule(frmParams_).letters;
+  SplitResult typed =
+      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), letters, MakeSystemSegmenter);
   if (!typed.fits) {
     return {false, IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words."};
   }
   std::string cleaned = JoinWithBlanks(typed.items);
-  ExtraList(kind) = WordList(std::move(typed.items));
+  ExtraList(kind) = WordList(std::move(typed.items), letters);
   ListTaken.Fire();
   return {true, std::move(cleaned)};
 }
@@ -215,7 +216,7 @@ void WordListReader::ScanWordsFile(WordsFile& file, const ScanChoices& choices) 
 }
 
 void WordListReader::TakeWordsFromStore(WordListKind kind) {
-  FileList(kind) = WordList(WordsIn(words_.store));
+  FileList(kind) = WordList(WordsIn(words_.store), ReadKeyRule(frmParams_).letters);
   if (!IsIgnore(kind)) TickAllowBoxesForListWords();
 }
 

@@ -43,7 +43,7 @@ std::optional<WordList> WordsOfFile(const std::string& path, const ScanChoices& 
     WordStore store;
     NeverStopped yield;
     static_cast<void>(file.Scan(settings, choices, store, yield));
-    return WordList(WordsIn(store));
+    return WordList(WordsIn(store), choices.letters);
   } catch (const RunTimeError&) {
     return std::nullopt;
   } catch (const std::bad_alloc&) {
@@ -81,7 +81,7 @@ WordList ListsToTry::Typed(std::size_t kind) const {
   if (!IsWellFormedUtf8(text)) return inForce;
   const ScanChoices choices = ReadScanChoices(frmParams_);
   SplitResult typed = ParseTypedWords(TrimBlanks(text), choices.letters, choices.makeSegmenter);
-  return typed.fits ? WordList(std::move(typed.items)) : inForce;
+  return typed.fits ? WordList(std::move(typed.items), choices.letters) : inForce;
 }
 
 }  // namespace quillomat
