@@ -223,6 +223,9 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   const std::int64_t bytesBefore = progress.runBytesRead;
   state_.result.store.Files().SetFileBeingScanned(report.path);
   texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
+  std::string& firstNotDecoded = state_.result.firstNotDecoded;
+  if (report.uncounted.bytesNotDecoded > 0 && firstNotDecoded.empty())
+    firstNotDecoded = report.path;
   ++progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;

@@ -133,6 +133,8 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
 inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 /// The first items of cboEncoding; the others are names.
 inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
+/// Which languages the first of the others is for, and so on.
+inline constexpr int kFirstEncodingNoteText = 950;
 
 /// The items of the export window's cboOrder, in the order of WordOrder.
 inline constexpr std::array<int, 2> kOrderTexts = {870, 871};
@@ -331,6 +333,8 @@ inline constexpr int kOnlyWordsCountedText = 706;
 inline constexpr int kOnlyWordCountedText = 707;
 inline constexpr int kNoCountOnlyWordText = 743;
 inline constexpr int kPartShownText = 708;
+/// "%1" stands for words files.
+inline constexpr int kListsReadAgainText = 744;
 inline constexpr int kWordsToIgnoreText = 709;
 inline constexpr int kWordToIgnoreText = 710;
 inline constexpr int kLettersNotCountedText = 711;
@@ -342,6 +346,9 @@ inline constexpr int kFileLeftOutText = 741;
 inline constexpr int kNoTextOrEmptyText = 742;
 inline constexpr int kBytesNotDecodedText = 726;
 inline constexpr int kByteNotDecodedText = 727;
+/// Of a folder: "%2" stands for the first such file.
+inline constexpr int kBytesNotDecodedInText = 745;
+inline constexpr int kByteNotDecodedInText = 746;
 inline constexpr int kLinesNotUtf8Text = 728;
 inline constexpr int kLineNotUtf8Text = 729;
 inline constexpr int kWhichText = 715;

@@ -96,6 +96,23 @@ TEST_F(TerminalRunTest, BytesThatCouldNotBeDecodedAreTold) {
   EXPECT_EQ(err, "Note: 2 bytes could not be decoded; --encoding names another encoding.\n");
 }
 
+TEST_F(TerminalRunTest, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed) {
+  const std::string first = folder.Write("a.txt", "cat");
+  const std::string second = folder.Write("b.txt", "cat\xFF\xFE");
+  const std::string third = folder.Write("c.txt", "cat\xFF");
+  EXPECT_EQ(Run({first, second, third, "--encoding", "utf8"}), 0);
+  EXPECT_EQ(err, "Note: 3 bytes could not be decoded, the first of them in " + second +
+                     " (--report tells of all files); --encoding names another encoding.\n");
+  EXPECT_EQ(Run({first, third, "--encoding", "utf8"}), 0);
+  EXPECT_EQ(err, "Note: 1 byte could not be decoded: in " + third +
+                     "; --encoding names another encoding.\n");
+}
+
+TEST_F(TerminalRunTest, EncodingIsToldBeforeLettersThatItMayHaveMade) {
+  EXPECT_EQ(Run({folder.Write("a.txt", "\x8C\x9F\ncat\n")}), 0);
+  EXPECT_LT(err.find("not UTF-8"), err.find("other alphabets"));
+}
+
 TEST_F(TerminalRunTest, TextsAreReadInTheEncodingThatIsNamed) {
   input = "\xC4\xC5\xCC\xCF";
   const std::string path = folder.Write("a.txt", input);

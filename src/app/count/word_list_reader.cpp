@@ -23,6 +23,7 @@
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
+#include "system/paths.h"
 #include "system/system_segmenter.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -118,6 +119,11 @@ bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   return path.empty() || inForce_.listForms[IndexOf(kind)] == ReadListForm(frmParams_);
 }
 
+bool WordListReader::HoldsTheSame(WordListKind kind) {
+  const std::optional<ContentMark>& then = inForce_.listContents[IndexOf(kind)];
+  return !then || ContentMarkOf(FileInForce(kind)) == then;
+}
+
 /// What is typed in a terminal may be any bytes: they are taken as those of a file are.
 void WordListReader::DecodeTypedWords(WordListKind kind) {
   TextBox& box = ExtraBox(kind);
@@ -172,6 +178,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
   try {
     const PhaseGuard guard(run_, RunPhase::kReading);
     InputFile file(path);  // opened once: what comes from a pipe comes only once
+    const std::optional<ContentMark> contents = ContentMarkOf(path);
     if (file.AwaitsWriter()) {
       messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;
@@ -197,6 +204,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
     inForce_.listForms[IndexOf(kind)] = ReadListForm(frmParams_);
+    inForce_.listContents[IndexOf(kind)] = contents;
     ListTaken.Fire();
     return true;
   } catch (const InputTooLong& error) {
@@ -289,6 +297,7 @@ void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
 }
 
 bool WordListReader::TakeBoxes() {
+  inForce_.listsReadAgain.clear();
   for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
     if (!TakeTypedWords(kind) || !TakeWordsFile(kind)) return false;
   }
@@ -309,8 +318,19 @@ bool WordListReader::TakeTypedWords(WordListKind kind) {
 bool WordListReader::TakeWordsFile(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
   if (path.empty()) ForgetWordsOfFile(kind);
-  if (IsInForce(kind, path)) return true;
+  const bool inForce = IsInForce(kind, path);
+  if (inForce && (path.empty() || HoldsTheSame(kind))) return true;
   if (!FileExists(path)) return TellNotFound(kind);
+  const std::vector<std::string> before = FileList(kind).Words();
+  const bool ok = ReadForCount(kind, path);
+  if (ok && inForce && FileList(kind).Words() != before) {
+    std::string& readAgain = inForce_.listsReadAgain;
+    readAgain.append(readAgain.empty() ? "" : ", ").append(FileNamePartOf(path));
+  }
+  return ok;
+}
+
+bool WordListReader::ReadForCount(WordListKind kind, const std::string& path) {
   const bool ok = ReadWords(kind);
   if (run_.Quitting()) return false;
   if (!ok) TellNotLoaded(kind, path);
