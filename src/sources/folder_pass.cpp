@@ -21,9 +21,7 @@ bool IsStandardInput(const TextOfPaths& source, std::string_view path) {
   return source.standardInput != nullptr && path == kStandardInput;
 }
 
-/// A batch is full with so many things, however few bytes they have; the first ones with fewer, as
-/// nobody knows yet how many they have.
-constexpr std::size_t kMostItems = 128;
+/// The first batches have so many things, as nobody knows yet how many bytes they have.
 constexpr std::size_t kFirstItems = 16;
 constexpr std::size_t kItemsWorthThreads = 8;
 /// The first files are read as they are met, up to so many or so many bytes: before threads were
@@ -138,9 +136,9 @@ bool FolderPass::IsAmongFirst() const {
 /// As files go, of as many bytes as a batch is to have.
 std::size_t FolderPass::ItemsOfBatch() const {
   const std::int64_t files = state_.result.files;
-  if (files == 0) return kFirstItems;
+  if (files == 0) return std::min(kFirstItems, batches_.items);
   const auto usualBytes = static_cast<std::size_t>(bytesOfFiles_ / files);
-  return std::clamp<std::size_t>(batchBytes_ / (usualBytes + 1), 1, kMostItems);
+  return std::clamp<std::size_t>(batches_.bytes / (usualBytes + 1), 1, batches_.items);
 }
 
 /// A walk can be slow: between two folders it is seen to that nothing waits for it.
@@ -157,7 +155,7 @@ void FolderPass::KeepBusy() {
 void FolderPass::Submit() {
   if (!pool_) {
     const bool tallied = state_.result.store.Files().IsOn();
-    pool_.emplace(state_.settings, state_.request, batchBytes_,
+    pool_.emplace(state_.settings, state_.request, batches_.bytes,
                   tallied || state_.request.orderFigures ? PieceScanner::Counts::kByPiece
                                                          : PieceScanner::Counts::kTogether);
     joiners_.resize(state_.request.threads);

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "engine/parallel/piece_scanner.h"
+#include "sources/batch_sizes.h"
 #include "sources/count_at_work.h"
 #include "sources/count_request.h"
 #include "sources/file_batch.h"
@@ -23,9 +24,9 @@ namespace quillomat {
 
 class FolderPass {
  public:
-  /// Both outlive the pass. Batches of files have about `batchBytes`.
-  FolderPass(CountAtWork& state, TextPass& texts, std::size_t batchBytes = kBatchBytes)
-      : state_(state), texts_(texts), batchBytes_(batchBytes) {}
+  /// Both outlive the pass.
+  FolderPass(CountAtWork& state, TextPass& texts, const BatchSizes& batches)
+      : state_(state), texts_(texts), batches_(batches) {}
 
   void Read(const TextOfFolder& source);
   void Read(const TextOfPaths& source);
@@ -58,7 +59,7 @@ class FolderPass {
 
   CountAtWork& state_;
   TextPass& texts_;
-  std::size_t batchBytes_;
+  BatchSizes batches_;
   /// What "-" reads in a list of paths; null for other sources.
   ByteSource* standardInput_ = nullptr;
   /// Of those that were read.

@@ -47,13 +47,11 @@ class FilesOnThreads : public CounterFixture {
     bool operator==(const Outcome&) const = default;
   };
 
-  Outcome CountFolder(std::size_t threads, std::size_t batchBytes) {
+  Outcome CountFolder(std::size_t threads, const BatchSizes& batches) {
     request.threads = threads;
+    request.source = TextOfFolder{folder.Path(), true, {}};
     RecordingObserver noted;
-    CountAtWork state(request, noted);
-    TextPass texts(state);
-    FolderPass(state, texts, batchBytes).Read(TextOfFolder{folder.Path(), true, {}});
-    const CountResult& result = state.result;
+    const CountResult result = Counter(request, noted, batches).Run();
     Outcome outcome{
         WordsOf(result),  noted.newWords, noted.events,   {},
         result.wordsRead, result.files,   result.folders, noted.afterFiles.back().runBytesRead};
@@ -68,10 +66,12 @@ class FilesOnThreads : public CounterFixture {
   }
 
   void ExpectSameOnThreads() {
-    const Outcome expected = CountFolder(1, kBatchBytes);
+    const Outcome expected = CountFolder(1, {});
     for (const std::size_t threads : {2U, 3U, 8U}) {
-      for (const std::size_t batchBytes : {std::size_t{1}, std::size_t{200}, kBatchBytes}) {
-        EXPECT_EQ(CountFolder(threads, batchBytes), expected) << threads << ", " << batchBytes;
+      for (const BatchSizes& batches :
+           {BatchSizes{.bytes = 1}, {.bytes = 200}, {.items = 3}, BatchSizes{}}) {
+        EXPECT_EQ(CountFolder(threads, batches), expected)
+            << threads << ", " << batches.bytes << ", " << batches.items;
       }
     }
   }
