@@ -220,7 +220,8 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   state_.observer.OnFileMet(report.path, progress);
   const std::int64_t bytesBefore = progress.runBytesRead;
   state_.result.store.Files().SetFileBeingScanned(report.path);
-  texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
+  const bool joins = PrepareJoin(item, scanner);
+  texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner, joins); });
   ++progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;
@@ -242,7 +243,17 @@ void FolderPass::Keep(FileReport& report) {
   if (state_.request.keepReports) state_.result.reports.push_back(std::move(report));
 }
 
-void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
+/// Whether the file can be joined. Before one that cannot, or with which a count begins, the counts
+/// of other files come: they are no part of this one's figures.
+bool FolderPass::PrepareJoin(const WalkItem& item, std::size_t scanner) {
+  if (item.state != WalkItem::State::kScanned) return false;
+  const bool joins = CanJoin(item, scanner);
+  const bool beginsCount = item.bytesTogether > 0;
+  if (!joins || beginsCount) CountOwed(joiners_[scanner]);
+  return joins;
+}
+
+void FolderPass::ReadFile(WalkItem& item, std::size_t scanner, bool joins) {
   if (item.kind == WalkItem::Kind::kStandardInput) {
     return texts_.ReadStream(*standardInput_, item.report);
   }
@@ -256,10 +267,7 @@ void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
     case WalkItem::State::kScanned:
       break;
   }
-  const bool canJoin = CanJoin(item, scanner);
-  const bool beginsCount = item.bytesTogether > 0;
-  if (!canJoin || beginsCount) CountOwed(joiners_[scanner]);
-  if (canJoin) return Join(item, joiners_[scanner]);
+  if (joins) return Join(item, joiners_[scanner]);
   pool_->ForgetWords(scanner);
   joiners_[scanner].LeaveOut();
   item.LeaveAlone();
@@ -297,8 +305,8 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
   AddChecked(state_.result.wordsRead, count.wordsRead);
   joiner.Join(count, state_.result.store);
   if (count.countsTogether) {
-    owed_.push_back({item.report.path, identity, bytes, count.wordsRead, count.newWordBytes.size(),
-                     count.openBefore});
+    owed_.push_back({item.report.path, state_.result.reports.size(), identity, bytes,
+                     count.wordsRead, count.newWordBytes.size(), count.openBefore});
   }
   if (item.isLastTogether) owed_.clear();
   state_.settings.Uncounted += count.uncounted;
@@ -311,8 +319,7 @@ bool FolderPass::Owed::IsThatOf(const WalkItem& item) const {
 }
 
 /// Where files that are counted together cannot be joined to the last, those that were are read
-/// once more, for their counts alone. Of one that has gone or changed meanwhile only the words that
-/// were new in it are counted, once each.
+/// once more, for their counts alone.
 void FolderPass::CountOwed(PieceJoiner& joiner) {
   const auto owed = std::exchange(owed_, {});
   if (owed.empty()) return;
@@ -332,9 +339,29 @@ void FolderPass::CountOwed(PieceJoiner& joiner) {
     } else {
       scanner.ForgetWords();
       joiner.KeepOwed(file.newWords);
-      Skip({file.path, Refusal::kReadFailed, {}});
+      TakeBack(file);
     }
   }
+}
+
+/// Of a file that has gone or changed before its words were counted, only those that were new in it
+/// are, once each: it was read in part.
+void FolderPass::TakeBack(const Owed& file) {
+  CountResult& result = state_.result;
+  const SkippedFile skipped{file.path, Refusal::kReadFailed,
+                            RunTimeError(RunTimeErrorNumber::kFileNotFound,
+                                         "the file has gone or changed while it was counted, so "
+                                         "its words are counted in part")};
+  const auto wordsCounted = static_cast<std::int32_t>(file.newWords);
+  result.wordsRead -= file.wordsRead - wordsCounted;
+  --result.files;
+  if (state_.request.keepReports) {
+    FileReport& report = result.reports.at(file.report);
+    report.refusal = skipped.reason;
+    report.error = skipped.error;
+    report.wordsRead = wordsCounted;
+  }
+  Skip(skipped);
 }
 
 void FolderPass::Skip(const SkippedFile& skipped) {

@@ -34,6 +34,20 @@ class FolderPass {
  private:
   using Visit = std::function<void(const FolderVisitor&)>;
 
+  /// A file that was joined while its counts are still to come.
+  struct Owed {
+    [[nodiscard]] bool IsThatOf(const WalkItem& item) const;
+
+    std::string path;
+    /// In CountResult::reports, if they are kept.
+    std::size_t report = 0;
+    std::optional<FileIdentity> identity;
+    std::int64_t bytes = 0;
+    std::int32_t wordsRead = 0;
+    std::size_t newWords = 0;
+    int openBefore = -1;
+  };
+
   void ReadMany(std::int32_t folders, const Visit& visit);
   [[nodiscard]] bool CountFiles(const Visit& visit);
   void VisitPaths(const TextOfPaths& source, const FolderVisitor& visitor);
@@ -50,10 +64,12 @@ class FolderPass {
   void Take(WalkItem& item, std::size_t scanner);
   void LeaveOut(WalkItem& item, Refusal reason);
   void TakeFile(WalkItem& item, std::size_t scanner);
-  void ReadFile(WalkItem& item, std::size_t scanner);
+  [[nodiscard]] bool PrepareJoin(const WalkItem& item, std::size_t scanner);
+  void ReadFile(WalkItem& item, std::size_t scanner, bool joins);
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);
   void Join(WalkItem& item, PieceJoiner& joiner);
   void CountOwed(PieceJoiner& joiner);
+  void TakeBack(const Owed& file);
   void Skip(const SkippedFile& skipped);
   void Keep(FileReport& report);
 
@@ -71,17 +87,7 @@ class FolderPass {
   std::optional<FilePool> pool_;
   /// By the number of the pool's scanner.
   std::vector<PieceJoiner> joiners_;
-  /// Files that are counted together: those that were joined while the counts are still to come.
-  struct Owed {
-    [[nodiscard]] bool IsThatOf(const WalkItem& item) const;
-
-    std::string path;
-    std::optional<FileIdentity> identity;
-    std::int64_t bytes = 0;
-    std::int32_t wordsRead = 0;
-    std::size_t newWords = 0;
-    int openBefore = -1;
-  };
+  /// Of those that are counted together.
   std::vector<Owed> owed_;
   /// How often it was not foreseen of late which comment is open in front of a batch.
   int surprises_ = 0;
