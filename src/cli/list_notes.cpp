@@ -6,8 +6,10 @@
 #include <ostream>
 #include <string>
 
+#include "app/count/panel_choices.h"
 #include "cli/option_conflicts.h"
 #include "cli/standard_output.h"
+#include "engine/explain/text_explainer.h"
 #include "engine/word_list.h"
 
 namespace quillomat {
@@ -26,6 +28,17 @@ std::string CountOnlySource(const CommandLine& options, const Program& program) 
 
 bool IsCountOnly(const WordLists& lists, const std::string& word) {
   return lists.CountOnlyList.IsInList(word) || lists.ExtraCountOnlyList.IsInList(word);
+}
+
+/// Whether a text may hold one of the count-only words. Those of a file were found in it as in a
+/// text.
+bool CanOccur(const WordLists& lists, const ScanChoices& choices) {
+  if (lists.CountOnlyList.Count() > 0) return true;
+  return std::ranges::any_of(lists.ExtraCountOnlyList.Words(), [&](const std::string& word) {
+    return std::ranges::any_of(
+        ExplainText(word, choices, {}, lists).candidates,
+        [](const Candidate& part) { return part.fate == CandidateFate::kCounted; });
+  });
 }
 
 /// A word that is typed and stands in the file, too, is one.
@@ -49,6 +62,9 @@ void TellListsWithoutEffect(const CommandLine& options, const Program& program,
   if (!source.empty() && !lists.HasCountOnlyWords()) {
     err << kNote << source
         << " gives no count-only word that can be counted; all words are counted.\n";
+  } else if (lists.HasCountOnlyWords() && !CanOccur(lists, ReadScanChoices(program.frmParams))) {
+    err << kNote << "under these settings no text holds any of the count-only words as they are "
+        << "typed; none is counted.\n";
   }
   const std::int64_t inBoth = CountInBoth(lists);
   if (inBoth == 1) {

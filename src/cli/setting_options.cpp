@@ -159,8 +159,7 @@ std::optional<std::string> ApplySettings(MainForm& frmMain, ParamsForm& frmParam
   return std::nullopt;
 }
 
-std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options,
-                                              const ParamsForm& frmParams) {
+std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options) {
   for (const auto& [setting, values] : options) {
     const SettingOption& option = setting->option;
     if (option.group != OptionGroup::kWordLists || !setting->isPath) continue;
@@ -171,11 +170,17 @@ std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> optio
     return name + " " + path + " does not exist; check the path, or type the words (" + name +
            "-words)";
   }
-  for (const TextBox& box : frmParams.txbWordsFile) {
-    const std::string& path = box.Text();
+  return std::nullopt;
+}
+
+std::optional<std::string> FindWordsFileFault(const ParamsForm& frmParams) {
+  for (std::size_t i = 0; i < frmParams.txbWordsFile.size(); ++i) {
+    const std::string& path = frmParams.txbWordsFile[i].Text();
     if (path.empty() || FileExists(path)) continue;
-    return "the words file " + path +
-           ", which the settings name, does not exist; --ignore and --only name another";
+    const bool isOfIgnored = i == static_cast<std::size_t>(WordListKind::kIgnore);
+    return "the words file " + path + ", which the settings name, does not exist; " +
+           (isOfIgnored ? "--ignore" : "--only") + " FILE names another, --set '" +
+           frmParams.txbWordsFile[i].Name() + "=' none";
   }
   return std::nullopt;
 }

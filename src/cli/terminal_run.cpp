@@ -20,6 +20,7 @@
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
+#include "cli/box_set_aside.h"
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
 #include "cli/explanation.h"
@@ -74,9 +75,14 @@ class TerminalRun {
   }
 
  private:
-  [[nodiscard]] int UnlessInterrupted(int status) const {
+  /// An interruption that was noted and came too late to stop anything is told here.
+  [[nodiscard]] int UnlessInterrupted(int status) {
     const int interruption = streams_.interruption();
-    return interruption != 0 ? interruption : status;
+    if (interruption == 0) return status;
+    if (status == kListMade && !program_.Words().stoppedAfter) {
+      err_ << Headed{MessageTone::kWarning, "Interrupted: "} << "the whole text was read by then\n";
+    }
+    return interruption;
   }
 
   bool Fail(const std::string& what) {
@@ -170,8 +176,10 @@ class TerminalRun {
     return true;
   }
 
+  /// Whoever lists files needs no words.
   bool CheckWordsFiles() {
-    const auto fault = FindWordsFileFault(options_.settings, program_.frmParams);
+    std::optional<std::string> fault = FindWordsFileFault(options_.settings);
+    if (!fault && !options_.listFiles) fault = FindWordsFileFault(program_.frmParams);
     return !fault || Fail(*fault);
   }
 
@@ -265,13 +273,16 @@ class TerminalRun {
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
   /// state.
   bool TakeEffect() {
-    // A folder that a state names and that is not there is nobody's affair when a file is counted.
-    TextBox& folder = program_.frmMain.txbFolder;
-    const std::string path = folder.Text();
-    if (!program_.frmMain.optFolder.Value()) folder.SetText("");
+    // What a state names, is not there and is not needed is nobody's affair: the folder when a file
+    // is counted, words files when files are listed.
+    std::vector<BoxSetAside> setAside;
+    if (!program_.frmMain.optFolder.Value()) setAside.emplace_back(program_.frmMain.txbFolder);
+    for (TextBox& box : program_.frmParams.txbWordsFile) {
+      if (options_.listFiles && !FileExists(box.Text())) setAside.emplace_back(box);
+    }
     const RestoreResult result = program_.TakeControls();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
-    folder.SetText(path);
+    setAside.clear();
     if (result != RestoreResult::kRestored || desktop_.ProblemShown()) return false;
     if (!options_.listFiles) {
       TellListsWithoutEffect(options_, program_, Messages(desktop_, program_.Text()), err_);
@@ -383,14 +394,15 @@ class TerminalRun {
     const bool likeFolder =
         input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();
     if ((likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat()) return true;
-    return Fail(
-        "here formats 11 to 13 go with --folder, and with any PATH, if --only or --only-words "
-        "is given");
+    return Fail(std::string("here formats 11 to 13 go with --folder, and ") +
+                (options_.windowText ? "without --window-text " : "") +
+                "with any PATH, if --only or --only-words is given");
   }
 
   /// True when a list was made.
   bool CountInWindow() {
     program_.frmMain.cmdCountWords.PerformClick();
+    streams_.endAtInterruption();
     TellSkipped();
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
