@@ -107,7 +107,7 @@ void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settin
 /// Whether an entity stands there once the line is rewritten.
 bool LineBlock::IsEntityAt(std::size_t position) const {
   const std::string_view rest = text_.substr(position);
-  if (const auto plain = EndOfPlainHtmlEntity(rest, true)) return *plain > 0;
+  if (const auto plain = EndOfPlainHtmlEntity(rest, true); plain != kNotPlain) return plain > 0;
   // Letters and their marks may become fewer characters.
   const std::size_t most = kLongestHtmlEntity * (letters_ == LetterRule::kAll ? 4 : 1);
   std::string_view entity = rest.substr(0, BytesOfFirst(rest, most));
