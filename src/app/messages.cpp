@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/digit_groups.h"
 #include "base/text_helpers.h"
 #include "system/locale_info.h"
 
@@ -37,7 +38,9 @@ std::string Messages::ProgramTitle() const {
 }
 
 NumberSigns Messages::Signs() const {
-  return {.group = DigitGroupSeparator(), .decimal = DecimalSign()};
+  // The desktop's sign need not be of the locale whose decimals these are.
+  const std::string decimal = DecimalSign();
+  return {.group = GroupSignBeside(decimal, DigitGroupSeparator()), .decimal = decimal};
 }
 
 std::string Messages::Grouped(std::int64_t number) const {

@@ -134,7 +134,8 @@ inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 /// The first items of cboEncoding; the others are names.
 inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 
-/// The items of the export window's cboOrder, in the order of WordOrder.
+/// The items of the main window's cboWordOrder and the export window's cboOrder, in the order of
+/// WordOrder.
 inline constexpr std::array<int, 2> kOrderTexts = {870, 871};
 
 /// Tool tips of frmParams.
