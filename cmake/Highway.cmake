@@ -10,7 +10,9 @@ else()
   file(MAKE_DIRECTORY "${headers}")
   file(CREATE_LINK "${QUILLOMAT_HIGHWAY_INCLUDES}/hwy" "${headers}/hwy" SYMBOLIC)
   target_include_directories(quillomat_highway SYSTEM INTERFACE "${headers}")
-  # On Windows the compiler keeps vectors of 32 bytes and more on a stack that is aligned to 16, and
+endif()
+if(WIN32)
+  # There the compiler keeps vectors of 32 bytes and more on a stack that is aligned to 16, and
   # reaches for them with instructions that want more: a program would end at the first of them. The
   # assembler is told to write the instructions that take any address, which are as fast.
   target_compile_options(quillomat_highway INTERFACE -Wa,-muse-unaligned-vector-move)

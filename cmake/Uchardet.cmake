@@ -2,7 +2,7 @@
 # built from source (packaging/windows/build-uchardet.sh), and QUILLOMAT_UCHARDET in the environment says
 # where it stands.
 include_guard(GLOBAL)
-if(CMAKE_CROSSCOMPILING)
+if(WIN32)
   set(uchardet_search HINTS "$ENV{QUILLOMAT_UCHARDET}/lib" "$ENV{QUILLOMAT_UCHARDET}/include"
                       NO_CMAKE_FIND_ROOT_PATH)
 endif()

@@ -2,7 +2,7 @@
 # built from source (packaging/windows/build-utf8proc.sh), and QUILLOMAT_UTF8PROC in the environment says
 # where it stands.
 include_guard(GLOBAL)
-if(CMAKE_CROSSCOMPILING)
+if(WIN32)
   set(utf8proc_search HINTS "$ENV{QUILLOMAT_UTF8PROC}/lib" "$ENV{QUILLOMAT_UTF8PROC}/include"
                       NO_CMAKE_FIND_ROOT_PATH)
 endif()
@@ -15,7 +15,7 @@ endif()
 
 add_library(quillomat_utf8proc INTERFACE)
 target_link_libraries(quillomat_utf8proc INTERFACE "${UTF8PROC_LIBRARY}")
-if(CMAKE_CROSSCOMPILING)
+if(WIN32)
   target_compile_definitions(quillomat_utf8proc INTERFACE UTF8PROC_STATIC)
   target_include_directories(quillomat_utf8proc SYSTEM INTERFACE "${UTF8PROC_INCLUDE}")
 endif()

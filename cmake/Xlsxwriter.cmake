@@ -2,7 +2,7 @@
 # It is not linked but loaded when a workbook is written (src/export/xlsx_library_loaded.cpp). For Windows it
 # is built from source (packaging/windows/build-xlsx.sh), QUILLOMAT_XLSX in the environment says where it
 # stands, and it is linked.
-if(CMAKE_CROSSCOMPILING)
+if(WIN32)
   set(xlsx_search HINTS "$ENV{QUILLOMAT_XLSX}/lib" "$ENV{QUILLOMAT_XLSX}/include" NO_CMAKE_FIND_ROOT_PATH)
 endif()
 find_library(XLSXWRITER_LIBRARY xlsxwriter ${xlsx_search})
@@ -13,7 +13,7 @@ if(NOT XLSXWRITER_LIBRARY OR NOT XLSXWRITER_INCLUDE)
 endif()
 
 add_library(quillomat_xlsxwriter INTERFACE)
-if(CMAKE_CROSSCOMPILING)
+if(WIN32)
   find_library(ZLIB_LIBRARY libz.a REQUIRED)
   target_link_libraries(quillomat_xlsxwriter INTERFACE "${XLSXWRITER_LIBRARY}")
   target_include_directories(quillomat_xlsxwriter SYSTEM INTERFACE "${XLSXWRITER_INCLUDE}")

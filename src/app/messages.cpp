@@ -4,7 +4,6 @@
 
 #include "base/digit_groups.h"
 #include "base/text_helpers.h"
-#include "system/locale_info.h"
 
 namespace quillomat {
 
@@ -39,8 +38,7 @@ std::string Messages::ProgramTitle() const {
 
 NumberSigns Messages::Signs() const {
   // The desktop's sign need not be of the locale whose decimals these are.
-  const std::string decimal = DecimalSign();
-  return {.group = GroupSignBeside(decimal, DigitGroupSeparator()), .decimal = decimal};
+  return {.group = GroupSignBeside(decimalSign_, DigitGroupSeparator()), .decimal = decimalSign_};
 }
 
 std::string Messages::Grouped(std::int64_t number) const {

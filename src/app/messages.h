@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/table/number_signs.h"
+#include "system/locale_info.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
 
@@ -48,6 +49,7 @@ class Messages {
  private:
   Desktop& desktop_;
   const ProgramText& text_;
+  const std::string decimalSign_ = DecimalSign();  // asked of the system once
 };
 
 }  // namespace quillomat

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <thread>
 #include <utility>
 
 #include "app/captions.h"
@@ -11,6 +10,7 @@
 #include "app/list/set_the_focus.h"
 #include "app/list/summary.h"
 #include "app/setting_values.h"
+#include "base/in_parts.h"
 #include "base/run_time_error.h"
 #include "system/file_system.h"
 #include "system/settings_folder.h"
@@ -32,12 +32,6 @@ void MoveToRootFolder() {
   }
 }
 
-/// One for every processor core, up to some: more would wait for the memory.
-std::size_t UsualScanThreads() {
-  constexpr unsigned kMost = 8;
-  return std::clamp(std::thread::hardware_concurrency(), 1U, kMost);
-}
-
 /// Those of the main window's controls of this kind that hold settings go to their defaults.
 void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
                             const ParamsForm& frmParams) {
@@ -53,7 +47,7 @@ void SetMainWindowsDefaults(ControlKind kind, const MainForm& frmMain,
 Program::Program(Desktop& desktop, EventPump::Clock clock)
     : desktop_(desktop),
       parts_({frmMain, frmParams, frmHelp, frmExport}, desktop, std::move(clock)) {
-  UseThreads(UsualScanThreads());
+  UseThreads(UsualParts());
   Connect();
 }
 

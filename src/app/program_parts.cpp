@@ -9,7 +9,7 @@ ProgramParts::ProgramParts(const ProgramForms& forms, Desktop& desktop, EventPum
       run(pump),
       messages(desktop, text),
       output(forms.frmMain, desktop),
-      paths(desktop),
+      paths(desktop, messages),
       inputRow(forms.frmMain, messages, flags),
       controls(forms.frmMain, forms.frmParams, text, run),
       facts{run, words, inForce, flags},

@@ -26,11 +26,11 @@
 #include "app/window_flags.h"
 #include "text/program_text.h"
 #include "ui/desktop.h"
+#include "ui/event_pump.h"
 #include "ui/export_form.h"
 #include "ui/help_form.h"
 #include "ui/main_form.h"
 #include "ui/params_form.h"
-#include "ui/yielder.h"
 
 namespace quillomat {
 

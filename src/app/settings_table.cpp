@@ -215,7 +215,8 @@ constexpr auto kTable = std::to_array<Setting>({
         List("cboEncoding", 505, 0,
              WithOtherNames(Choice(kTheText, "--encoding", "NAME|guess", kCharacterSetNames,
                                    "What the bytes of files are in, like UTF-16, "
-                                   "Windows-1251 or Shift_JIS; guess: for each file; "
+                                   "Windows-1250 (Central European), Windows-1251 (Cyrillic) "
+                                   "or Shift_JIS (Japanese); guess: for each file; "
                                    "as-found (the default): UTF-8, and lines that are "
                                    "none are Windows-1252"),
                             FindEncoding)))),
@@ -227,7 +228,8 @@ constexpr auto kTable = std::to_array<Setting>({
              Value(kText, kWordLists, "--only", "FILE", "Count only the words in a file"))),
     KeptByRestoreDefaults(Text("txbWordsToIgnoreOrCount(0)", 482, "",
                                Value(kList, kWordLists, "--ignore-words", "LIST",
-                                     "Leave out these words, with blanks or commas between them"))),
+                                     "Leave out these words, with blanks or commas between them; "
+                                     "quotes and ; would be part of the words"))),
     KeptByRestoreDefaults(
         Text("txbWordsToIgnoreOrCount(1)", 483, "",
              Value(kList, kWordLists, "--only-words", "LIST", "Count only these words"))),

@@ -45,7 +45,8 @@ bool DirectCount::Run() {
     program_.Count().TakeFiles(std::move(result), text);
     return false;
   }
-  TellUncounted(result.uncounted, messages_, streams_.err);
+  TellUncounted(result.uncounted, messages_, streams_.err,
+                result.files > 1 ? result.firstNotDecoded : std::string());
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
                  << (options_.exports.empty() ? "the list is" : "list and exports are")

@@ -22,18 +22,20 @@ std::string Bar(double share) {
 
 }  // namespace
 
-std::string ProgressText(BytesDone bytes, ProgressLine::Duration elapsed) {
+std::string ProgressText(BytesDone bytes, ProgressLine::Duration elapsed,
+                         std::string_view decimalSign) {
+  const auto amount = [decimalSign](double size) { return AmountText(size, decimalSign); };
   const auto done = static_cast<double>(bytes.done);
   const auto whole = static_cast<double>(bytes.whole);
-  const std::string speed = "  " + AmountText(BytesPerSecond(bytes, elapsed)) + "/s  ";
+  const std::string speed = "  " + amount(BytesPerSecond(bytes, elapsed)) + "/s  ";
   if (bytes.whole <= 0) {
     const double seconds = std::chrono::duration<double>(elapsed).count();
-    return AmountText(done) + speed + ClockText(seconds);
+    return amount(done) + speed + ClockText(seconds);
   }
   const double share = std::min(1.0, done / whole);
   const std::string percent = std::to_string(static_cast<int>(share * kWhole)) + "%";
   std::string text = Bar(share) + std::string(5 - std::min<std::size_t>(5, percent.size()), ' ') +
-                     percent + "  " + AmountText(done) + " of " + AmountText(whole) + speed;
+                     percent + "  " + amount(done) + " of " + amount(whole) + speed;
   const std::optional<double> left = SecondsLeft(bytes, elapsed);
   return left ? text + ClockText(*left) + " left" : text;
 }
@@ -49,7 +51,7 @@ void ProgressLine::Show(BytesDone bytes) {
   const auto now = streams_.clock();
   if (now < nextPainting_) return;
   nextPainting_ = now + (streams_.errIsTerminal ? Duration(kBetweenPaintings) : kBetweenLines);
-  Paint(ProgressText(bytes, now - start_));
+  Paint(ProgressText(bytes, now - start_, decimalSign_));
 }
 
 void ProgressLine::Paint(const std::string& text) {

@@ -10,9 +10,11 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "base/work_pace.h"
 #include "cli/terminal_streams.h"
+#include "system/locale_info.h"
 
 namespace quillomat {
 
@@ -38,10 +40,13 @@ class ProgressLine {
   const TerminalStreams& streams_;
   std::chrono::steady_clock::time_point start_;
   std::chrono::steady_clock::time_point nextPainting_;
+  /// The user's, as in the other figures of a run.
+  const std::string decimalSign_ = DecimalSign();
   std::size_t width_ = 0;  // of what is on the terminal's line
 };
 
 /// The line after so much time.
-[[nodiscard]] std::string ProgressText(BytesDone bytes, ProgressLine::Duration elapsed);
+[[nodiscard]] std::string ProgressText(BytesDone bytes, ProgressLine::Duration elapsed,
+                                       std::string_view decimalSign = ".");
 
 }  // namespace quillomat

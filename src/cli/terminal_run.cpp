@@ -409,7 +409,8 @@ class TerminalRun {
     }
     Uncounted uncounted = program_.Words().uncounted;
     if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
-    TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_,
+                  program_.Words().folder.firstNotDecoded);
     return program_.Count().ListWasMade();
   }
 

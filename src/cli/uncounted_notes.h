@@ -2,13 +2,16 @@
 #pragma once
 
 #include <ostream>
+#include <string_view>
 
 #include "app/messages.h"
 #include "engine/uncounted.h"
 
 namespace quillomat {
 
-/// A line for each kind that there is.
-void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::ostream& err);
+/// A line for each kind that there is. `firstNotDecoded` is the file, of several, in which bytes
+/// could not be decoded first; "" where there is only one text.
+void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::ostream& err,
+                   std::string_view firstNotDecoded = {});
 
 }  // namespace quillomat

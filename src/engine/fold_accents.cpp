@@ -93,16 +93,31 @@ void AppendUnaccented(char32_t codePoint, std::string& result) {
   }
 }
 
-/// For all letters, with the accents.
-std::string FoldCaseOfAll(std::string_view word) {
-  std::string folded;
+/// Where the first character stands that is another in folded case, or the size of the word.
+std::size_t FirstUnfolded(std::string_view word) {
   for (std::size_t position = 0; position < word.size();) {
+    const Utf8Character character = CharacterAt(word, position);
+    if (FoldedCase(character.codePoint) != character.codePoint) return position;
+    position += character.bytes;
+  }
+  return word.size();
+}
+
+/// For all letters, with the accents. The word is in normal form; most are in folded case, too.
+/// Points into `word` or into `scratch`.
+std::string_view FoldCaseOfAll(std::string_view word, std::string& scratch) {
+  std::size_t position = FirstUnfolded(word);
+  if (position == word.size()) return word;
+  std::string folded(word.substr(0, position));
+  while (position < word.size()) {
     const Utf8Character character = CharacterAt(word, position);
     AppendCharacter(folded, FoldedCase(character.codePoint));
     position += character.bytes;
   }
-  std::string scratch;
-  return std::string(NormalForm(folded, DottedCapitalI::kKept, scratch));
+  if (NormalForm(folded, DottedCapitalI::kKept, scratch).data() == folded.data()) {
+    scratch = std::move(folded);
+  }
+  return scratch;
 }
 
 bool IsItsOwnKey(std::string_view word) {
@@ -151,7 +166,8 @@ std::string FoldAccentsOfAll(std::string_view word) {
 std::string_view SortKeyOf(std::string_view word, KeyRule rule, std::string& scratch) {
   if (IsItsOwnKey(word)) return word;
   if (rule.letters == LetterRule::kAll) {
-    scratch = rule.keepAccents ? FoldCaseOfAll(word) : FoldAccentsOfAll(word);
+    if (rule.keepAccents) return FoldCaseOfAll(word, scratch);
+    scratch = FoldAccentsOfAll(word);
   } else {
     scratch = rule.keepAccents ? LowerCase(word) : SortKeyOf(word);
   }

@@ -67,6 +67,10 @@ void LongLine::Take(std::string_view bytes) {
 
 void LongLine::End() {
   ScanPart(held_);
+  BreakOff();
+}
+
+void LongLine::BreakOff() {
   held_.clear();
   if (encoding_ == Encoding::kOpen) Settle(*asUtf8_);
 }

@@ -53,6 +53,9 @@ class LongLine {
   void Take(std::string_view bytes);
   /// The line ends here; nothing is taken afterwards.
   void End();
+  /// The line goes on, but the scan does not: what stands behind the last place for a cut, be it
+  /// half a word or half a character, is not counted. Nothing is taken afterwards.
+  void BreakOff();
 
  private:
   enum class Encoding { kAscii, kOpen, kWindows1252 };

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -44,8 +45,13 @@ class LongTokenMemo {
   struct Key {
     const char* text;
     std::size_t size;
-    /// With the size in its lowest bits; 0 for a token that is too long.
+    /// With the size in its highest bits; 0 for a token that is too long.
     std::uint64_t hash;
+  };
+  /// Of many tokens.
+  template <std::size_t most>
+  struct Keys : std::array<Key, most> {
+    void Put(std::size_t i, const Key& key) { (*this)[i] = key; }
   };
 
   /// Makes keys and finds entries, for many tokens: good until the memo changes.
@@ -97,7 +103,7 @@ class LongTokenMemo {
   }
 
  private:
-  static constexpr std::uint64_t kSizeBits = 63;
+  static constexpr unsigned kSizeBits = 6;
   static constexpr std::size_t kMostLetters = std::size_t{1} << 20U;
   /// Tokens of up to so many bytes are read in four parts, which overlap.
   static constexpr std::size_t kFourParts = 32;
@@ -137,7 +143,7 @@ inline LongTokenMemo::Key LongTokenMemo::Finder::KeyOf(const char* text, std::si
   } else {
     hash = LongHashOfWord({text, size}, seed_);
   }
-  return {text, size, (hash & ~kSizeBits) | size};
+  return {text, size, std::uint64_t{size} << (64 - kSizeBits) | hash >> kSizeBits};
 }
 
 inline bool LongTokenMemo::AreEqual(const char* left, const char* right, std::size_t size) {

@@ -59,24 +59,50 @@ class MemoTable {
 
   [[nodiscard]] const HashSeed& Seed() const { return seed_; }
 
-  /// Where to look for a token, for many look-ups: good until the table changes.
+  /// Where to look for a token, for many look-ups: good until the table changes. The home of a
+  /// token is where its look-up starts, so many bytes behind the first entry: to number the entries
+  /// would take the processor a step more, to find where each lies.
   struct Places {
     Entry* entries;
-    std::size_t mask;
-    unsigned shift;
+    TokenOutcome* outcomes;
+    std::uint32_t homeMask;
 
-    [[nodiscard]] std::size_t HomeOf(std::uint64_t hash) const { return hash >> shift; }
-    void Prefetch(std::size_t home) const { __builtin_prefetch(entries + home, 1); }
+    /// By the lowest bits, which in a FoldedProduct are made of the middle of the product: all
+    /// bytes of a token bear on them.
+    [[nodiscard]] std::uint32_t HomeOf(std::uint64_t hash) const {
+      return static_cast<std::uint32_t>(hash) & homeMask;
+    }
+    [[nodiscard]] Entry* At(std::uint32_t home) const {
+      return reinterpret_cast<Entry*>(reinterpret_cast<std::byte*>(entries) + home);
+    }
+    void Prefetch(std::uint32_t home) const { __builtin_prefetch(At(home), 1); }
     /// The entry of a token for which `isWanted` is true; null when there is none.
     template <typename IsWanted>
-    [[nodiscard]] Entry* Find(std::size_t home, IsWanted isWanted) const {
-      for (std::size_t i = home;; i = (i + 1) & mask) {
-        if (isWanted(entries[i])) return entries + i;
-        if (entries[i].IsFree()) return nullptr;
+    [[nodiscard]] Entry* Find(std::uint32_t home, IsWanted isWanted) const {
+      Entry* const first = At(home);
+      if (isWanted(*first)) [[likely]]
+        return first;
+      return FindFurther(first, isWanted);
+    }
+    /// Of a token that does not have its home, the entry `first`. It changes places with the token
+    /// there once it was met more often: the processor expects to find tokens in their homes, and
+    /// where it is wrong, that takes it as long as a look-up.
+    template <typename IsWanted>
+    [[nodiscard]] Entry* FindFurther(Entry* first, IsWanted isWanted) const {
+      const std::size_t mask = homeMask / sizeof(Entry);
+      const auto home = static_cast<std::size_t>(first - entries);
+      for (std::size_t i = home; !entries[i].IsFree();) {
+        i = (i + 1) & mask;
+        if (!isWanted(entries[i])) continue;
+        if (entries[i].kept <= first->kept) return entries + i;
+        std::swap(entries[i], *first);
+        std::swap(outcomes[i], outcomes[home]);
+        return first;
       }
+      return nullptr;
     }
   };
-  [[nodiscard]] Places AllPlaces() { return {entries_.data(), entries_.size() - 1, shift_}; }
+  [[nodiscard]] Places AllPlaces() { return {entries_.data(), outcomes_.data(), HomeMask()}; }
 
   [[nodiscard]] TokenOutcome OutcomeOf(const Entry& entry) const {
     return outcomes_[static_cast<std::size_t>(&entry - entries_.data())];
@@ -85,7 +111,8 @@ class MemoTable {
   /// Of a token that is not in the table, which is not full. `hashOf` gives the hash of an entry.
   template <typename HashOf>
   void Remember(Entry entry, TokenOutcome outcome, HashOf hashOf) {
-    if (tokens_ * 2 >= entries_.size() && entries_.size() < kMostEntries) Grow(hashOf);
+    if (tokens_ * kEntriesPerToken >= entries_.size() && entries_.size() < kMostEntries)
+      Grow(hashOf);
     entry.kept = IsOneWord(outcome) ? 0 : MemoEntry::kNeverKept;
     Put(entry, outcome, hashOf(entry));
     ++tokens_;
@@ -110,11 +137,17 @@ class MemoTable {
 
  private:
   static constexpr std::size_t kFirstEntries = 64;  // a power of two, as every number of entries
-  /// Half of them are used, so that few tokens share their place.
+  /// A quarter of them is used while the table grows, so that nearly all tokens have their homes,
+  /// and half of them at last.
+  static constexpr std::size_t kEntriesPerToken = 4;
   static constexpr std::size_t kMostEntries = 2 * mostTokens;
-  static constexpr unsigned kAllHashBits = 64;
   /// No half-filled table of chance comes near it.
   static constexpr std::size_t kFarthest = 256;
+
+  [[nodiscard]] std::uint32_t HomeMask() const {
+    static_assert(std::has_single_bit(sizeof(Entry)));
+    return static_cast<std::uint32_t>((entries_.size() - 1) * sizeof(Entry));
+  }
 
   template <typename HashOf>
   void Grow(HashOf hashOf) {
@@ -123,7 +156,6 @@ class MemoTable {
     std::vector<TokenOutcome> outcomes(entries.size(), kUnknownToken);
     entries.swap(entries_);
     outcomes.swap(outcomes_);
-    --shift_;
     for (std::size_t i = 0; i < entries.size(); ++i) {
       if (!entries[i].IsFree()) Put(entries[i], outcomes[i], hashOf(entries[i]));
     }
@@ -131,7 +163,7 @@ class MemoTable {
 
   void Put(const Entry& entry, TokenOutcome outcome, std::uint64_t hash) {
     const std::size_t mask = entries_.size() - 1;
-    const std::size_t home = hash >> shift_;
+    const std::size_t home = AllPlaces().HomeOf(hash) / sizeof(Entry);
     std::size_t i = home;
     while (!entries_[i].IsFree()) i = (i + 1) & mask;
     entries_[i] = entry;
@@ -144,7 +176,6 @@ class MemoTable {
   std::pmr::vector<Entry> entries_;
   /// By entry, apart from it since they are seldom asked for.
   std::vector<TokenOutcome> outcomes_;
-  unsigned shift_ = kAllHashBits - static_cast<unsigned>(std::countr_zero(kFirstEntries));
   std::size_t tokens_ = 0;
 };
 

@@ -55,18 +55,6 @@ class SuspectSearch {
   std::array<std::uint64_t, kBlocksAtOnce> masks_;
 };
 
-bool IsDropped(char32_t codePoint) {
-  switch (codePoint) {
-    case 0xAD:    // soft hyphen
-    case 0x200C:  // non-joiner
-    case 0x200D:  // joiner
-    case 0xFEFF:  // byte-order mark
-      return true;
-    default:
-      return IsDirectionMark(codePoint);
-  }
-}
-
 /// What stands for a character in normal form, besides what Unicode says; nothing when it stays.
 std::optional<std::string_view> Replacement(char32_t codePoint) {
   static constexpr std::string_view kLigatures[] = {"ff", "fi", "fl", "ffi", "ffl", "st", "st"};
@@ -77,7 +65,7 @@ std::optional<std::string_view> Replacement(char32_t codePoint) {
   if (codePoint >= 0xFF01 && codePoint <= 0xFF5E) return kPlain.substr(codePoint - 0xFF01, 1);
   if (codePoint >= 0xFB00 && codePoint <= 0xFB06) return kLigatures[codePoint - 0xFB00];
   switch (codePoint) {
-    case 0x2BC:
+    case kLetterApostrophe:
     case 0x2018:
     case 0x2019:
       return "'";
@@ -195,6 +183,18 @@ class Normaliser {
 };
 
 }  // namespace
+
+bool IsDropped(char32_t codePoint) {
+  switch (codePoint) {
+    case 0xAD:    // soft hyphen
+    case 0x200C:  // non-joiner
+    case 0x200D:  // joiner
+    case 0xFEFF:  // byte-order mark
+      return true;
+    default:
+      return IsDirectionMark(codePoint);
+  }
+}
 
 std::string_view NormalForm(std::string_view text, DottedCapitalI dotted, std::string& scratch) {
   SuspectSearch suspects(text);

@@ -22,6 +22,12 @@ enum class DottedCapitalI {
   kLowered,
 };
 
+/// Whether the character is gone in normal form.
+[[nodiscard]] bool IsDropped(char32_t codePoint);
+
+/// The typographic apostrophe that Unicode has among its letters.
+inline constexpr char32_t kLetterApostrophe = 0x2BC;
+
 /// The result points into `text` or into `scratch`.
 [[nodiscard]] std::string_view NormalForm(std::string_view text, DottedCapitalI dotted,
                                           std::string& scratch);

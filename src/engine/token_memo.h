@@ -1,7 +1,7 @@
 // What became of the tokens that a scan has met, so that the next one like it costs one look-up.
 //
 // Holds the tokens of at most kMostBytes bytes, and at most kMostTokens of them: a text with more
-// different tokens makes it start anew from time to time. Its entries have 1 MiB where up to 32,768
+// different tokens makes it start anew from time to time. Its entries have 1 MiB where up to 16,384
 // tokens are remembered, as in nearly all texts: they are to stay in the caches nearest to the
 // processor, and four tokens share a line of them. The most they have is 4 MiB.
 #pragma once
@@ -44,6 +44,22 @@ class TokenMemo {
     std::uint32_t home;
   };
 
+  /// The keys of many tokens, like parts together: in lines of whole keys, the processor would have
+  /// to work out where each stands.
+  template <std::size_t most>
+  struct Keys {  // NOLINT(cppcoreguidelines-pro-type-member-init): written before they are read
+    std::array<std::uint64_t, most> low;
+    std::array<std::uint32_t, most> high;
+    std::array<std::uint32_t, most> home;
+
+    void Put(std::size_t i, const Key& key) {
+      low[i] = key.low;
+      high[i] = key.high;
+      home[i] = key.home;
+    }
+    [[nodiscard]] Key operator[](std::size_t i) const { return {low[i], high[i], home[i]}; }
+  };
+
   /// Makes keys and finds entries, for many tokens: good until the memo changes.
   class Finder {
    public:
@@ -52,12 +68,17 @@ class TokenMemo {
 
     /// Of the first `size` bytes at `text`, 1 to kMostBytes; `readable` bytes can be read there.
     [[nodiscard]] Key KeyOf(const char* text, std::size_t size, std::size_t readable) const;
+    /// The same where kMostBytes can be read.
+    [[nodiscard]] Key KeyInside(const char* text, std::size_t size) const {
+      return KeyOf(text, size, kMostBytes);
+    }
     /// Begins to fetch what Find will look at.
     void Prefetch(const Key& key) const { places_.Prefetch(key.home); }
-    /// Null for a token that is not remembered.
+    /// Null for a token that is not remembered. Both parts are compared before anything is decided,
+    /// which leaves the processor one guess.
     [[nodiscard]] Entry* Find(const Key& key) const {
       return places_.Find(key.home, [&](const Entry& entry) {
-        return entry.low == key.low && entry.high == key.high;
+        return ((entry.low ^ key.low) | (entry.high ^ key.high)) == 0;
       });
     }
 
@@ -91,14 +112,14 @@ class TokenMemo {
   /// By the size of a token, masks of the bytes that belong to it: in the lower part of its key and
   /// in the upper. The first byte is the lowest of a number.
   struct OwnBytes {
-    std::uint64_t low;
-    std::uint32_t high;
+    std::array<std::uint64_t, kMostBytes + 1> low;
+    std::array<std::uint32_t, kMostBytes + 1> high;
   };
-  static constexpr std::array<OwnBytes, kMostBytes + 1> kOwnBytes = [] {
-    std::array<OwnBytes, kMostBytes + 1> masks{};
+  static constexpr OwnBytes kOwnBytes = [] {
+    OwnBytes masks{};
     for (std::size_t size = 1; size <= kMostBytes; ++size) {
-      masks[size].low = size >= 8 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (64 - 8 * size);
-      if (size > 8) masks[size].high = ~std::uint32_t{0} >> (96 - 8 * size);
+      masks.low[size] = size >= 8 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (64 - 8 * size);
+      if (size > 8) masks.high[size] = ~std::uint32_t{0} >> (96 - 8 * size);
     }
     return masks;
   }();
@@ -113,13 +134,13 @@ inline TokenMemo::Key TokenMemo::Finder::KeyOf(const char* text, std::size_t siz
                                                std::size_t readable) const {
   Key key{};
   if (readable >= kMostBytes) [[likely]] {
-    key.low = LoadNumber<std::uint64_t>(text) & kOwnBytes[size].low;
-    key.high = LoadNumber<std::uint32_t>(text + sizeof key.low) & kOwnBytes[size].high;
+    key.low = LoadNumber<std::uint64_t>(text) & kOwnBytes.low[size];
+    key.high = LoadNumber<std::uint32_t>(text + sizeof key.low) & kOwnBytes.high[size];
   } else {
     key = BytesAtEnd({text, size});
   }
   const std::uint64_t hash = FoldedProduct(key.low ^ seed_.first, key.high ^ seed_.second);
-  key.home = static_cast<std::uint32_t>(places_.HomeOf(hash));
+  key.home = places_.HomeOf(hash);
   return key;
 }
 

@@ -155,16 +155,27 @@ void TokenTaker::FindKeys(const LineBlock& block, std::size_t first, std::size_t
   const TokenMemo::Finder finder(memo_);
   std::size_t shortCount = 0;
   std::size_t longCount = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    const LineBlock::Token token = block.TokenAt(first + i);
-    if (token.bytes <= TokenMemo::kMostBytes) {
-      const TokenMemo::Key key = finder.KeyOf(token.text, token.bytes, token.readable);
-      finder.Prefetch(key);
-      batch.shortOnes.keys[shortCount] = key;
-      batch.shortOnes.numbers[shortCount++] = static_cast<std::uint16_t>(i);
-    } else {
-      batch.longOnes.numbers[longCount++] = static_cast<std::uint16_t>(i);
+  const auto findKeys = [&](auto keyOf) {
+    for (std::size_t i = 0; i < count; ++i) {
+      const LineBlock::Token token = block.TokenAt(first + i);
+      if (token.bytes <= TokenMemo::kMostBytes) {
+        const TokenMemo::Key key = keyOf(token);
+        finder.Prefetch(key);
+        batch.shortOnes.keys.Put(shortCount, key);
+        batch.shortOnes.numbers[shortCount++] = static_cast<std::uint16_t>(i);
+      } else {
+        batch.longOnes.numbers[longCount++] = static_cast<std::uint16_t>(i);
+      }
     }
+  };
+  // Behind every token but the last ones of a text enough can be read.
+  if (block.TokenAt(first + count - 1).readable >= TokenMemo::kMostBytes) [[likely]] {
+    findKeys(
+        [&](const LineBlock::Token& token) { return finder.KeyInside(token.text, token.bytes); });
+  } else {
+    findKeys([&](const LineBlock::Token& token) {
+      return finder.KeyOf(token.text, token.bytes, token.readable);
+    });
   }
   batch.shortOnes.count = shortCount;
   batch.longOnes.count = longCount;
@@ -334,7 +345,7 @@ bool TokenTaker::WorkOutPlainToken(std::string_view token, const TokenMemo::Key&
   }
   const std::string_view word = FinalForm(text);
   if (word.empty()) return true;
-  if (lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters)) {
+  if (lists_.Admits(word, settings_.CountOnlyMode)) {
     NoteStoredWord(word, word);
   } else {
     newWords_.emplace_back();
@@ -348,7 +359,7 @@ void TokenTaker::NoteNewWord(std::string_view word) {
   const auto kept = [this](std::string_view text) {
     return std::string_view(newLetters_.Keep(text), text.size());
   };
-  if (!lists_.Admits(word, settings_.CountOnlyMode, keyRule_.letters) || IsLongWord(word)) {
+  if (!lists_.Admits(word, settings_.CountOnlyMode) || IsLongWord(word)) {
     newWords_.emplace_back();
     return;
   }

@@ -84,7 +84,7 @@ class TokenTaker final : private CountKeeper {
   /// before they are read, and are not worth a kilobyte of zeros.
   template <typename Memo>
   struct Keys {  // NOLINT(cppcoreguidelines-pro-type-member-init)
-    std::array<typename Memo::Key, kTokensAtOnce> keys;
+    typename Memo::template Keys<kTokensAtOnce> keys;
     /// No bytes, which could be a part of anything that the loops have at hand.
     std::array<std::uint16_t, kTokensAtOnce> numbers;
     std::size_t count = 0;

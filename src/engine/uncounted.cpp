@@ -7,6 +7,7 @@
 #include <span>
 
 #include "base/utf8.h"
+#include "engine/normal_text.h"
 #include "engine/unicode_traits.h"
 #include "engine/utf8_kernels.h"
 
@@ -15,33 +16,33 @@ namespace {
 
 constexpr char32_t kCapitalOfLatin1 = 0x178;
 
-bool Is(char32_t codePoint, std::uint8_t kinds) {
-  return UnicodeTraits::Get().Is(codePoint, kinds);
+bool IsMark(char32_t codePoint) {
+  return UnicodeTraits::Get().Is(codePoint, CodePointTraits::kMark);
+}
+
+/// By the rule for all letters.
+bool IsLetter(char32_t codePoint) {
+  return codePoint != kLetterApostrophe &&
+         UnicodeTraits::Get().Is(codePoint, CodePointTraits::kLetter);
 }
 
 /// Looks at characters in their order.
 class ForeignLetters {
  public:
   ForeignLetters(std::string_view text, bool caseSignificant, bool behindLetter)
-      : text_(text), caseSignificant_(caseSignificant), markCounts_(behindLetter) {}
+      : text_(text), caseSignificant_(caseSignificant), marks_(text, behindLetter) {}
 
   bool IsAt(std::size_t position) {
     const Utf8Character character = CharacterAt(text_, position);
     if (character.codePoint == kCapitalOfLatin1) return caseSignificant_;
-    if (Is(character.codePoint, CodePointTraits::kLetter)) return true;
-    if (!Is(character.codePoint, CodePointTraits::kMark)) return false;
-    // A mark behind another stands where that stands: no pile of them is climbed twice.
-    if (position != behindMark_) markCounts_ = EndsInLetter(text_.substr(0, position));
-    behindMark_ = position + character.bytes;
-    return markCounts_;
+    if (IsMark(character.codePoint)) return marks_.IsOnLetter(position, character.bytes);
+    return IsLetter(character.codePoint);
   }
 
  private:
   std::string_view text_;
   bool caseSignificant_;
-  /// The place behind the last mark, and whether that counted; the start of the text is like one.
-  std::size_t behindMark_ = 0;
-  bool markCounts_;
+  MarksOnLetters marks_;
 };
 
 }  // namespace
@@ -50,7 +51,7 @@ bool EndsInLetter(std::string_view text, bool behindLetter) {
   while (!text.empty()) {
     const std::size_t last = LastCharacterStart(text);
     const char32_t codePoint = CharacterAt(text, last).codePoint;
-    if (!Is(codePoint, CodePointTraits::kMark)) return Is(codePoint, CodePointTraits::kLetter);
+    if (!IsMark(codePoint) && !IsDropped(codePoint)) return IsLetter(codePoint);
     text = text.substr(0, last);
   }
   return behindLetter;

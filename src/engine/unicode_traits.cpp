@@ -33,10 +33,18 @@ std::uint8_t KindOf(char32_t codePoint) {
   }
 }
 
+using Range = std::pair<char32_t, char32_t>;
+
+bool IsInOne(std::span<const Range> ranges, char32_t codePoint) {
+  return std::ranges::any_of(ranges, [codePoint](const Range& range) {
+    return codePoint >= range.first && codePoint <= range.second;
+  });
+}
+
 /// Of letters: where those of the two scripts stand, as the library does not know scripts. The
 /// micro sign is one: in folded case it is the Greek letter.
 bool IsInLatinOrGreekBlock(char32_t codePoint) {
-  static constexpr std::pair<char32_t, char32_t> kBlocks[] = {
+  static constexpr Range kBlocks[] = {
       {0x41, 0x2B8},     // Latin, with IPA and its modifiers
       {0x2E0, 0x2E4},    //
       {0x370, 0x3E1},    // Greek
@@ -53,9 +61,15 @@ bool IsInLatinOrGreekBlock(char32_t codePoint) {
       {0x10780, 0x107BA},  //
       {0x1DF00, 0x1DFFF},  //
   };
-  return std::ranges::any_of(kBlocks, [codePoint](const auto& block) {
-    return codePoint >= block.first && codePoint <= block.second;
-  });
+  return IsInOne(kBlocks, codePoint);
+}
+
+/// Of letters in such a block: the micro sign, the Greek ones, and some among the phonetic letters.
+bool IsGreek(char32_t codePoint) {
+  static constexpr Range kBlocks[] = {{0xB5, 0xB5},     {0x370, 0x3FF},   {0x1D26, 0x1D2A},
+                                      {0x1D5D, 0x1D61}, {0x1D66, 0x1D6A}, {0x1DBF, 0x1DBF},
+                                      {0x1F00, 0x1FFF}, {0xAB65, 0xAB65}};
+  return IsInOne(kBlocks, codePoint);
 }
 
 /// What the library makes of a character; none becomes more than these.
@@ -103,6 +117,7 @@ Traits TraitsOf(char32_t codePoint) {
   }
   if (traits.kinds & Traits::kLetter && IsInLatinOrGreekBlock(codePoint)) {
     traits.kinds |= Traits::kLatinOrGreek;
+    if (!IsGreek(codePoint)) traits.kinds |= Traits::kLatin;
   }
   return traits;
 }

@@ -30,6 +30,8 @@ struct CodePointTraits {
   static constexpr std::uint8_t kLatinOrGreek = 16;
   /// Consists of others: a letter and its marks, most often.
   static constexpr std::uint8_t kComposed = 32;
+  /// A letter of the Latin script.
+  static constexpr std::uint8_t kLatin = 64;
 
   /// To be added for the small letter (simple lower case).
   std::int32_t toLower = 0;

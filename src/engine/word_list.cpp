@@ -5,6 +5,7 @@
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
 #include "engine/char_class.h"
+#include "engine/fold_accents.h"
 #include "engine/normal_text.h"
 #include "engine/run_cutter.h"
 #include "engine/scan_settings.h"
@@ -32,18 +33,31 @@ void CutItems(std::vector<std::string>& items, LetterRule letters, SegmenterMake
 
 }  // namespace
 
-ListVerdict WordLists::VerdictOn(std::string_view word, bool countOnlyMode,
-                                 LetterRule letters) const {
+WordList::WordList(std::vector<std::string> words, LetterRule letters)
+    : words_(std::move(words)), letters_(letters) {
+  std::string scratch;
+  for (const std::string& word : words_) lookup_.emplace(FormOf(word, scratch));
+}
+
+bool WordList::IsInList(std::string_view word) const {
+  if (word.empty() || words_.empty()) return false;
+  std::string scratch;
+  return lookup_.find(FormOf(word, scratch)) != lookup_.end();
+}
+
+/// As words are told apart where accents make a difference.
+std::string_view WordList::FormOf(std::string_view word, std::string& scratch) const {
+  return SortKeyOf(word, {.letters = letters_, .keepAccents = true}, scratch);
+}
+
+ListVerdict WordLists::VerdictOn(std::string_view word, bool countOnlyMode) const {
   using enum ListVerdict;
   if (countOnlyMode) {
-    const std::string lower = LowerCaseBy(letters, word);
-    const bool listed = ExtraCountOnlyList.IsInList(lower) || CountOnlyList.IsInList(lower);
+    const bool listed = ExtraCountOnlyList.IsInList(word) || CountOnlyList.IsInList(word);
     return listed ? kAdmitted : kNotCountOnly;
   }
-  if (ExtraIgnoreList.Count() == 0 && IgnoreList.Count() == 0) return kAdmitted;
-  const std::string lower = LowerCaseBy(letters, word);
-  if (ExtraIgnoreList.IsInList(lower)) return kTypedToIgnore;
-  return IgnoreList.IsInList(lower) ? kFileToIgnore : kAdmitted;
+  if (ExtraIgnoreList.IsInList(word)) return kTypedToIgnore;
+  return IgnoreList.IsInList(word) ? kFileToIgnore : kAdmitted;
 }
 
 SplitResult SplitList(std::string_view text, std::string_view separators, std::size_t capacity) {

@@ -28,23 +28,25 @@ struct SeededHash {
   HashSeed seed = DrawnHashSeed();
 };
 
-/// A list of words in its own order. A word is found by exact comparison, accents and letter case
-/// included.
+/// A list of words in small letters, in its own order and spelling. A word of a text is found in
+/// any letter case, with the same accents: by the western rule through its small letters, of all
+/// letters through Unicode's simple case folding, for which all sigmas are one.
 class WordList {
  public:
   WordList() = default;
   /// Empty words stand in the list, and count, but are never found.
-  explicit WordList(std::vector<std::string> words)
-      : words_(std::move(words)), lookup_(words_.begin(), words_.end()) {}
+  explicit WordList(std::vector<std::string> words, LetterRule letters = LetterRule::kWestern);
 
-  [[nodiscard]] bool IsInList(std::string_view word) const {
-    return !word.empty() && !words_.empty() && lookup_.find(word) != lookup_.end();
-  }
+  [[nodiscard]] bool IsInList(std::string_view word) const;
   [[nodiscard]] std::int32_t Count() const { return static_cast<std::int32_t>(words_.size()); }
   [[nodiscard]] const std::vector<std::string>& Words() const { return words_; }
 
  private:
+  /// Without letter case.
+  [[nodiscard]] std::string_view FormOf(std::string_view word, std::string& scratch) const;
+
   std::vector<std::string> words_;
+  LetterRule letters_ = LetterRule::kWestern;
   std::unordered_set<std::string, SeededHash, std::equal_to<>> lookup_;
 };
 
@@ -70,13 +72,10 @@ struct WordLists {
     return CountOnlyList.Count() >= 1 || ExtraCountOnlyList.Count() >= 1;
   }
 
-  /// Letter case and accents of the lower-cased word must be those of the list.
-  [[nodiscard]] ListVerdict VerdictOn(std::string_view word, bool countOnlyMode,
-                                      LetterRule letters = LetterRule::kWestern) const;
+  [[nodiscard]] ListVerdict VerdictOn(std::string_view word, bool countOnlyMode) const;
   /// Whether the lists let `word` be counted.
-  [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode,
-                            LetterRule letters = LetterRule::kWestern) const {
-    return VerdictOn(word, countOnlyMode, letters) == ListVerdict::kAdmitted;
+  [[nodiscard]] bool Admits(std::string_view word, bool countOnlyMode) const {
+    return VerdictOn(word, countOnlyMode) == ListVerdict::kAdmitted;
   }
 };
 

@@ -46,17 +46,26 @@ bool IsVowelCodePoint(char32_t codePoint, bool lowerOnly) {
          IsSmallLatin1Vowel(codePoint + kToSmall);
 }
 
-/// Whether a letter without its accents is none of A-Z.
+/// Whether a letter is of another script than Latin.
 bool HasOtherLetters(std::string_view word) {
   const UnicodeTraits& traits = UnicodeTraits::Get();
-  const std::string folded = FoldAccentsOfAll(word);
-  for (std::size_t position = 0; position < folded.size();) {
-    const Utf8Character character = CharacterAt(folded, position);
-    const bool ascii = character.codePoint < 0x80;
-    if (!ascii && traits.Is(character.codePoint, CodePointTraits::kLetter)) return true;
+  for (std::size_t position = 0; position < word.size();) {
+    const Utf8Character character = CharacterAt(word, position);
+    const std::uint8_t kinds = traits.Of(character.codePoint).kinds;
+    if ((kinds & CodePointTraits::kLetter) != 0 && (kinds & CodePointTraits::kLatin) == 0) {
+      return true;
+    }
     position += character.bytes;
   }
   return false;
+}
+
+/// Of a character without its accents: a letter that is none of A-Z, as schwa or open e. Those that
+/// the western rule knows, and eng, are known for consonants.
+bool MayBeVowel(char32_t codePoint) {
+  constexpr std::u32string_view kConsonants = U"\u00F0\u00FE\u014B";
+  return codePoint >= 0x80 && kConsonants.find(codePoint) == std::u32string_view::npos &&
+         UnicodeTraits::Get().Is(codePoint, CodePointTraits::kLetter);
 }
 
 /// A small one, of Latin letters; what stands for it may be two.
@@ -68,8 +77,22 @@ bool EndsWithVowelOfAnyAccent(std::string_view word) {
   }
   const Utf8Character letter = CharacterAt(last, LastCharacterStart(last));
   const std::string folded = FoldAccentsOfAll(last.substr(LastCharacterStart(last)));
+  const char32_t plain = CharacterAt(folded, LastCharacterStart(folded)).codePoint;
   const bool capital = traits.Of(letter.codePoint).toLower != 0;
-  return !capital && IsVowel(folded.substr(LastCharacterStart(folded)), true);
+  return !capital && (IsVowelCodePoint(plain, true) || MayBeVowel(plain));
+}
+
+/// What may be a vowel is taken for one: so are all letters of other scripts.
+bool LacksVowelOfAll(std::string_view word, bool withY) {
+  const std::string folded = FoldAccentsOfAll(word);
+  for (std::size_t position = 0; position < folded.size();) {
+    const Utf8Character character = CharacterAt(folded, position);
+    if (IsVowelCodePoint(character.codePoint, false)) return false;
+    if (withY && character.codePoint == 'y') return false;
+    if (MayBeVowel(character.codePoint)) return false;
+    position += character.bytes;
+  }
+  return true;
 }
 
 }  // namespace
@@ -130,9 +153,7 @@ bool IsRomanNumeral(std::string_view word, bool belowXL) {
 }
 
 bool LacksVowel(std::string_view word, bool withY, LetterRule letters) {
-  if (letters == LetterRule::kAll) {
-    return !HasOtherLetters(word) && LacksVowel(FoldAccentsOfAll(word), withY);
-  }
+  if (letters == LetterRule::kAll) return LacksVowelOfAll(word, withY);
   for (std::size_t position = 0; position < word.size();) {
     const Utf8Character character = CharacterAt(word, position);
     if (IsVowelCodePoint(character.codePoint, false)) return false;

@@ -21,7 +21,8 @@ namespace quillomat {
 [[nodiscard]] bool IsContractionStem(std::string_view word);
 
 /// The word under the rule "drop a final s": at most its last character is dropped. Of all letters
-/// the rule asks Latin ones only: it leaves a word with a letter of another script alone.
+/// the rule asks Latin ones only: it leaves a word with a letter of another script alone, and an s
+/// behind a letter that may be a vowel (see LacksVowel).
 [[nodiscard]] std::string_view DropFinalS(std::string_view word,
                                           LetterRule letters = LetterRule::kWestern);
 
@@ -38,7 +39,8 @@ namespace quillomat {
 [[nodiscard]] bool IsRomanNumeral(std::string_view word, bool belowXL);
 
 /// Whether the word has no vowel; with `withY`, and no y either. An empty word lacks a vowel. Of
-/// all letters, a vowel is one with any accents, and only words of Latin letters lack one.
+/// all letters, a vowel is one with any accents, and only words of Latin letters lack one; a letter
+/// that is none of A-Z without accents may be a vowel, but for eth, thorn and eng.
 [[nodiscard]] bool LacksVowel(std::string_view word, bool withY,
                               LetterRule letters = LetterRule::kWestern);
 

@@ -76,7 +76,8 @@ bool BoxGuard::MayAnswer(const QKeyEvent& key) const {
   return press == presses_.end() || press->down >= open_;
 }
 
-/// A press is told several times on its way; told first, it comes behind the box.
+/// A press is told several times on its way; told first, it comes behind the box. Whoever clicks a
+/// row of boxes away, all at one place, answers each that could be read.
 bool BoxGuard::KeepsAway(const QMouseEvent& mouse) {
   const Clock::time_point now = Clock::now();
   const std::chrono::milliseconds doubleClick(QApplication::doubleClickInterval());
@@ -84,9 +85,12 @@ bool BoxGuard::KeepsAway(const QMouseEvent& mouse) {
   const QPoint place = mouse.globalPosition().toPoint();
   const bool isSecond = now - clicked_ <= doubleClick && clicked_ < open_ - kPause &&
                         (place - clickedAt_).manhattanLength() <= distance;
-  if (isSecond && BoxInFront() != nullptr) return true;
+  const bool isBoxInFront = BoxInFront() != nullptr;
+  const bool answersNext = clickedInBox_ && now >= open_;
+  if (isSecond && isBoxInFront && !answersNext) return true;
   clicked_ = now;
   clickedAt_ = place;
+  clickedInBox_ = isBoxInFront;
   return false;
 }
 

@@ -1,8 +1,8 @@
 // Keeps keys and clicks that were not meant for a box from answering it: the second click of a
-// double click whose first has opened it, and of the keys one that is held down and repeats
-// itself, one that went down before the box was there, and one that comes so soon after it that
-// nobody can have read it. What is typed into a box of text goes there all the same; only Enter and
-// Escape are kept from that.
+// double click whose first has opened it, or has just answered the box before it, and of the keys
+// one that is held down and repeats itself, one that went down before the box was there, and one
+// that comes so soon after it that nobody can have read it. What is typed into a box of text goes
+// there all the same; only Enter and Escape are kept from that.
 //
 // It watches all boxes of the program, also those that the toolkit opens over its own.
 #pragma once
@@ -50,6 +50,7 @@ class BoxGuard final : public QObject {
   /// The last click that was kept from nothing.
   Clock::time_point clicked_;
   QPoint clickedAt_;
+  bool clickedInBox_ = false;
   /// Of the key whose letter a command of the box may take.
   bool shortcutMayAnswer_ = true;
 };

@@ -43,12 +43,11 @@ FilesModel::FilesModel(FileRows& rows, NumberSigns signs) : rows_(rows), signs_(
 }
 
 void FilesModel::SetTexts(const ProgramText& text) {
-  beginResetModel();  // kinds of line ends and reasons are in a language, too
   titles_.clear();
   for (int section = 0; section < kSections; ++section) {
     titles_.append(ToQt(text.GetText(kFirstFileColumnText + section)));
   }
-  endResetModel();
+  rows_.ShowLanguage();
 }
 
 QStringList FilesModel::CopyOf(int row, const QList<int>& sections) const {

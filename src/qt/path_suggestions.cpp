@@ -108,7 +108,8 @@ void PathSuggestions::Look() {
   }
 }
 
-/// Touches nothing of ours but what it shares, and may outlive everything but the program.
+/// Touches nothing of ours but what it shares, and may outlive everything but the program: told to
+/// stop, it ends at the next name.
 void PathSuggestions::StartLook(const QString& typed) {
   std::thread([this, typed, kind = kind_, source = source_, stop = stop_.get_token(),
                calls = callsFromThreads_, looks = looks_] {

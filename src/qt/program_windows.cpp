@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "qt/accessible_names.h"

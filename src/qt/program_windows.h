@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTranslator>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "app/count/common_words.h"

@@ -5,7 +5,6 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -87,7 +86,8 @@ QStringList NameFiltersOf(const std::string& filter) {
   for (const FileFilter& part : SplitFileFilter(filter)) {
     const bool all = part.pattern == "*.*";
     QString description = ToQt(part.description);
-    description.truncate(description.lastIndexOf(QLatin1Char('(')));
+    const auto bracket = description.lastIndexOf(QLatin1Char('('));
+    if (bracket >= 0) description.truncate(bracket);
     const QString pattern = all ? QStringLiteral("*") : ToQt(part.pattern);
     filters.append(description.trimmed() + QStringLiteral(" (") + pattern + QLatin1Char(')'));
   }
@@ -161,11 +161,6 @@ void MakeRoomForTitle(QMessageBox& box) {
 std::string ChosenPath(const QFileDialog& shown) {
   const QList<QUrl> urls = shown.selectedUrls();
   return urls.isEmpty() ? std::string() : PathOfUrl(urls.constFirst());
-}
-
-bool IsReadOnly(const std::string& path) {
-  const QFileInfo file(ToQt(path));
-  return file.exists() && !file.isWritable();
 }
 
 }  // namespace
@@ -252,16 +247,12 @@ std::string QtDesktop::AskForText(const InputBox& box) {
 std::optional<std::string> QtDesktop::ChooseFile(const FileDialog& dialog) {
   if (!asks_) return std::nullopt;
   Repaint();
-  while (true) {
-    QFileDialog shown(BoxParent());
-    SetUpDialog(shown, dialog);
-    if (shown.exec() != QDialog::Accepted || !asks_) return std::nullopt;
-    const std::string path = ChosenPath(shown);
-    if (path.empty()) return std::nullopt;
-    if (!dialog.noReadOnlyReturn || !IsReadOnly(path)) return path;
-    ShowMessage({path + "\r\nThis file is read-only.  Choose another one.", dialog.title,
-                 MessageIcon::kExclamation, MessageButtons::kOk, MessageSeverity::kError});
-  }
+  QFileDialog shown(BoxParent());
+  SetUpDialog(shown, dialog);
+  if (shown.exec() != QDialog::Accepted || !asks_) return std::nullopt;
+  std::string path = ChosenPath(shown);
+  if (path.empty()) return std::nullopt;
+  return path;
 }
 
 std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title,
@@ -269,7 +260,7 @@ std::optional<std::string> QtDesktop::BrowseForFolder(const std::string& title,
   if (!asks_) return std::nullopt;
   Repaint();
   const QUrl opens = QUrl::fromLocalFile(ToQt(FolderForDialogs(folder)));
-  const std::string path = PathOfUrl(QFileDialog::getExistingDirectoryUrl(
+  std::string path = PathOfUrl(QFileDialog::getExistingDirectoryUrl(
       BoxParent(), ToQt(title), opens, QFileDialog::ShowDirsOnly, {QStringLiteral("file")}));
   if (path.empty()) return std::nullopt;
   return path;

@@ -24,6 +24,7 @@
 #include "qt/figure_label.h"
 #include "qt/link_label.h"
 #include "qt/mnemonics.h"
+#include "qt/second_click.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
 
@@ -217,6 +218,12 @@ class ComboBinding final : public QObject, public WidgetBinding {
     }
   }
 
+  [[nodiscard]] QString ShownItem(int index) const {
+    const QString item = ToQt(combo_.Items()[static_cast<std::size_t>(index)]);
+    const QString note = ToQt(combo_.ItemNote(index));
+    return note.isEmpty() ? item : QStringLiteral("%1 (%2)").arg(item, note);
+  }
+
   void ShowValue() override {
     const QSignalBlocker blocker(widget_);
     const auto items = combo_.Items();
@@ -225,7 +232,7 @@ class ComboBinding final : public QObject, public WidgetBinding {
       for (const std::string& item : items) widget_.addItem(ToQt(item));
     }
     for (int i = 0; i < widget_.count(); ++i) {
-      const QString item = ToQt(items[static_cast<std::size_t>(i)]);
+      const QString item = ShownItem(i);
       if (widget_.itemText(i) != item) widget_.setItemText(i, item);  // in another language now
     }
     widget_.setCurrentIndex(combo_.ListIndex());
@@ -262,12 +269,15 @@ class LabelBinding final : public WidgetBinding {
 
 class CommandBinding final : public WidgetBinding {
  public:
-  CommandBinding(CommandButton& command, QPushButton& widget) : WidgetBinding(command, widget) {
+  CommandBinding(CommandButton& command, QPushButton& widget)
+      : WidgetBinding(command, widget), secondClick_(command, widget) {
     QObject::connect(&widget, &QPushButton::clicked, [&command] { command.PerformClick(); });
   }
 
  private:
   void ShowValue() override {}
+
+  SecondClick secondClick_;
 };
 
 class FrameBinding final : public WidgetBinding {

@@ -170,6 +170,9 @@ struct CountResult {
 
   /// What was met and not counted.
   Uncounted uncounted;
+  /// The first file of a folder or a list of paths with bytes that could not be decoded; "" where
+  /// there is none.
+  std::string firstNotDecoded;
 
   /// The open comment that the last text has left behind.
   int openComment = -1;

@@ -89,7 +89,7 @@ void FileScanner::TakeFile(WalkItem& item, int& openComment) {
     return;
   }
   Read(*file, length, length + 1);
-  if (bytesRead_ > length) return;  // it has grown meanwhile
+  if (bytesRead_ != length) return;  // it has grown or was cut meanwhile
   item.report.identity = file->Identity();
   Scan(item, openComment);
 }

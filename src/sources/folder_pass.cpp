@@ -222,6 +222,10 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   state_.result.store.Files().SetFileBeingScanned(report.path);
   const bool joins = PrepareJoin(item, scanner);
   texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner, joins); });
+  std::string& firstNotDecoded = state_.result.firstNotDecoded;
+  if (report.uncounted.bytesNotDecoded > 0 && firstNotDecoded.empty()) {
+    firstNotDecoded = report.path;
+  }
   ++progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;

@@ -39,6 +39,14 @@ bool IsOverflow(const RunTimeError& error) {
   return error.Number() == static_cast<int>(RunTimeErrorNumber::kOverflow);
 }
 
+/// Of a file that was cut while it was read, or that a network gave no more of: a list without the
+/// rest would look like one of the whole.
+RunTimeError EndedEarly(const FileReport& report) {
+  return {RunTimeErrorNumber::kInputPastEnd, "Ended early, behind byte " +
+                                                 std::to_string(report.bytesRead) + " of " +
+                                                 std::to_string(report.bytes.value_or(0))};
+}
+
 /// Tallies the lines of what is read through it.
 class TallyingSource final : public ByteSource {
  public:
@@ -146,6 +154,7 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
   question_.SetStream(false);
   report.identity = file.Identity();
   ReadText(file, file.Length() >= TextReader::kBytesWorthThreads, report);
+  if (report.bytesRead < file.Length() && !state_.stop.Stopped()) throw EndedEarly(report);
 }
 
 void TextPass::ReadStream(ByteSource& source, FileReport& report) {

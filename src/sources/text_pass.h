@@ -55,7 +55,9 @@ class TextPass {
   void ReadClipboard(std::string_view text);
   /// The file of the report.
   void ReadFile(FileReport& report);
-  /// A file that is open and was not read.
+  /// A file that is open and was not read. One that ends before the length that it had when it was
+  /// opened is a RunTimeError (62) behind its last word, unless the count was stopped; of one that
+  /// has grown, all is read.
   void ReadFile(InputFile& file, FileReport& report);
   /// What has no length, or has not told it.
   void ReadStream(ByteSource& source, FileReport& report);

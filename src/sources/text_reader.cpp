@@ -59,15 +59,20 @@ bool TextReader::ReadLongLine(LineDecoder& lines, const OnBytes& onBytes) {
   scanner_.SetWordsRead(target_.wordsRead);
   LongLine line({target_.settings, choices_, lists_, target_.store, yield_, scanner_});
   std::int64_t untold = 0;
-  for (std::string_view part = lines.NextPartOfLine(); !part.empty();
+  bool stops = false;
+  for (std::string_view part = lines.NextPartOfLine(); !part.empty() && !stops;
        part = lines.NextPartOfLine()) {
     if (untold >= kBytesWorthTelling && onBytes) onBytes(std::exchange(untold, 0));
     untold += static_cast<std::int64_t>(part.size());
     line.Take(part);
     target_.wordsRead = scanner_.WordsRead();  // whatever becomes of the rest
-    if (yield_.Yield()) break;
+    stops = yield_.Yield();
   }
-  line.End();
+  if (stops) {
+    line.BreakOff();
+  } else {
+    line.End();
+  }
   if (onBytes) onBytes(untold + kLineEndBytes);
   target_.wordsRead = scanner_.WordsRead();
   return true;

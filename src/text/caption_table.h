@@ -133,6 +133,8 @@ inline constexpr auto kParamsFormCaptions = std::to_array<ControlCaption>({
 inline constexpr std::array<int, 2> kLetterTexts = {248, 249};
 /// The first items of cboEncoding; the others are names.
 inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
+/// Which languages the first of the others is for, and so on.
+inline constexpr int kFirstEncodingNoteText = 950;
 
 /// The items of the main window's cboWordOrder and the export window's cboOrder, in the order of
 /// WordOrder.
@@ -332,6 +334,8 @@ inline constexpr int kOnlyWordsCountedText = 706;
 inline constexpr int kOnlyWordCountedText = 707;
 inline constexpr int kNoCountOnlyWordText = 743;
 inline constexpr int kPartShownText = 708;
+/// "%1" stands for words files.
+inline constexpr int kListsReadAgainText = 744;
 inline constexpr int kWordsToIgnoreText = 709;
 inline constexpr int kWordToIgnoreText = 710;
 inline constexpr int kLettersNotCountedText = 711;
@@ -343,6 +347,9 @@ inline constexpr int kFileLeftOutText = 741;
 inline constexpr int kNoTextOrEmptyText = 742;
 inline constexpr int kBytesNotDecodedText = 726;
 inline constexpr int kByteNotDecodedText = 727;
+/// Of a folder: "%2" stands for the first such file.
+inline constexpr int kBytesNotDecodedInText = 745;
+inline constexpr int kByteNotDecodedInText = 746;
 inline constexpr int kLinesNotUtf8Text = 728;
 inline constexpr int kLineNotUtf8Text = 729;
 inline constexpr int kWhichText = 715;
@@ -390,6 +397,10 @@ inline constexpr int kFileReadFailedText = 847;
 inline constexpr int kFolderUnreadableText = 848;
 inline constexpr int kFileReadInPartText = 849;
 inline constexpr int kFileIsNeverTextText = 851;
+inline constexpr int kFileIsOutputText = 854;
+inline constexpr int kFileIsFolderText = 855;
+/// Below the path of an output file.
+inline constexpr int kFileIsReadOnlyText = 856;
 inline constexpr int kNoFilesYetText = 852;
 inline constexpr int kClipboardHasNoFilesText = 853;
 

@@ -130,6 +130,10 @@ class ComboBox final : public Control {
   void AddItem(std::string item);
   /// The item at `listIndex`, which there is, in other words. Fires no Click.
   void SetItem(int listIndex, std::string item);
+  /// What the item at `listIndex`, which there is, is for, in a few words for the user; "" for
+  /// nothing. A face shows it behind the item, whose name it is no part of.
+  void SetItemNote(int listIndex, std::string note);
+  [[nodiscard]] std::string ItemNote(int listIndex) const;
   /// Removes all items; none is selected then. Fires no Click.
   void Clear();
   [[nodiscard]] std::span<const std::string> Items() const { return items_; }
@@ -157,6 +161,8 @@ class ComboBox final : public Control {
 
  private:
   std::vector<std::string> items_;
+  /// As many as the items, or fewer.
+  std::vector<std::string> notes_;
   std::function<std::string(int)> reasonAgainst_;
   int listIndex_ = -1;
 };

@@ -71,7 +71,7 @@ struct FileDialog {
   bool pathMustExist = false;
   bool fileMustExist = false;
   bool hideReadOnly = false;
-  bool noReadOnlyReturn = false;  // a file that cannot be written is refused
+  bool noReadOnlyReturn = false;  // who asks refuses a file that cannot be written
 
   bool operator==(const FileDialog&) const = default;
 };

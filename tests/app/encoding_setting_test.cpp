@@ -134,5 +134,21 @@ TEST_F(EncodingSetting, ItemsAreTheNamesAndSpeakTheLanguageOfTheWindows) {
   EXPECT_EQ(Panel().cboEncoding.Items()[2], "UTF-8");
 }
 
+TEST_F(EncodingSetting, ItemsTellWhichLanguagesTheyAreFor) {
+  const ComboBox& encoding = Panel().cboEncoding;
+  const auto noteOf = [&encoding](CharacterSet set) {
+    return encoding.ItemNote(static_cast<int>(set));
+  };
+  EXPECT_EQ(noteOf(CharacterSet::kAsFound), "");
+  EXPECT_EQ(noteOf(CharacterSet::kUtf8), "all languages");
+  EXPECT_EQ(noteOf(CharacterSet::kWindows1250), "Central European");
+  EXPECT_EQ(noteOf(CharacterSet::kUtf16LowByteFirst), "all languages");
+  Main().cmdLanguage.PerformClick();
+  EXPECT_EQ(noteOf(CharacterSet::kWindows1250), "mitteleuropäisch");
+  for (int i = 2; i < static_cast<int>(encoding.Items().size()); ++i) {
+    EXPECT_NE(encoding.ItemNote(i), "") << encoding.Items()[static_cast<std::size_t>(i)];
+  }
+}
+
 }  // namespace
 }  // namespace quillomat

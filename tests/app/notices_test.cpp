@@ -34,16 +34,23 @@ TEST(Notices, MostImportantComesFirst) {
                         .bytesNotDecoded = 7,
                         .linesNotUtf8 = 12,
                         .filesLeftOut = 4,
+                        .listsReadAgain = "a.txt",
                         .countOnlyWords = 5,
                         .noCountOnlyWord = true,
                         .wordsToIgnore = 353,
                         .wordsShown = 1770,
                         .words = 12586};
-  EXPECT_THAT(TextsOf(all),
-              ElementsAre(kNoCountOnlyWordText, kFilesSkippedText, kListOfFileText,
-                          kSettingsChangedText, kBytesNotDecodedText, kLettersNotCountedText,
-                          kRunsLeftWholeText, kOnlyWordsCountedText, kPartShownText,
-                          kLinesNotUtf8Text, kFilesLeftOutText, kWordsToIgnoreText));
+  EXPECT_THAT(
+      TextsOf(all),
+      ElementsAre(kNoCountOnlyWordText, kFilesSkippedText, kListOfFileText, kSettingsChangedText,
+                  kBytesNotDecodedText, kLinesNotUtf8Text, kLettersNotCountedText,
+                  kRunsLeftWholeText, kListsReadAgainText, kOnlyWordsCountedText, kPartShownText,
+                  kFilesLeftOutText, kWordsToIgnoreText));
+}
+
+TEST(Notices, LinesThatWereNotUtf8MatterLessWhereAllLettersWereCounted) {
+  EXPECT_THAT(TextsOf({.listStands = true, .linesNotUtf8 = 2, .wordsShown = 1, .words = 2}),
+              ElementsAre(kPartShownText, kLinesNotUtf8Text));
 }
 
 TEST(Notices, OneIsNotMany) {
@@ -56,8 +63,8 @@ TEST(Notices, OneIsNotMany) {
                .filesLeftOut = 1,
                .countOnlyWords = 1,
                .wordsToIgnore = 1}),
-      ElementsAre(kFileSkippedText, kByteNotDecodedText, kLetterNotCountedText,
-                  kOnlyWordCountedText, kLineNotUtf8Text, kFileLeftOutText, kWordToIgnoreText));
+      ElementsAre(kFileSkippedText, kByteNotDecodedText, kLineNotUtf8Text, kLetterNotCountedText,
+                  kOnlyWordCountedText, kFileLeftOutText, kWordToIgnoreText));
   // A part of one word is still a part.
   EXPECT_THAT(TextsOf({.listStands = true, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText));
@@ -359,6 +366,29 @@ TEST_F(NoticeBarTest, BytesThatCouldNotBeDecodedAreTold) {
   EXPECT_THAT(Commands(), ElementsAre("Change"));
   CountFile(folder.Write("a.txt", "cat\xFF\n"));
   EXPECT_EQ(Said(), "One byte could not be decoded.");
+}
+
+TEST_F(NoticeBarTest, FirstFileOfAFolderWithBytesThatCouldNotBeDecodedIsNamed) {
+  Panel().cboEncoding.SetListIndex(2);
+  static_cast<void>(folder.Write("g/a.txt", "caf\u00E9"));
+  static_cast<void>(folder.Write("g/b.txt", "caf\xE9 th\xE9"));
+  static_cast<void>(folder.Write("g/c.txt", "caf\xE9"));
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  CountFolder(folder / "g");
+  EXPECT_EQ(Said(), "3 bytes could not be decoded, the first of them in b.txt.");
+  EXPECT_THAT(Commands(), ElementsAre("Change"));
+  static_cast<void>(folder.Write("g/b.txt", "tea"));
+  desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  CountFolder(folder / "g");
+  EXPECT_EQ(Said(), "One byte could not be decoded: in c.txt.");
+}
+
+TEST_F(NoticeBarTest, EncodingIsOfferedBeforeLettersThatItMayHaveMade) {
+  CountFile(folder.Write("a.txt", "\x8C\x9F\ncat\n"));
+  EXPECT_THAT(Said(), HasSubstr("was not UTF-8"));
+  EXPECT_THAT(Commands(), ElementsAre("Change"));
+  Main().cmdDismissNotice.PerformClick();
+  EXPECT_THAT(Said(), HasSubstr("of another alphabet"));
 }
 
 TEST_F(NoticeBarTest, ClosedNoticeMakesPlaceForTheNextUntilTheNextCount) {

@@ -56,6 +56,16 @@ TEST_F(TryItOnPanel, FollowsEverySetting) {
   EXPECT_THAT(Outcome(), HasSubstr("let, cats, in (fewer than 4 characters)"));
 }
 
+TEST_F(TryItOnPanel, ReadsAWordsFileAgainThatWasEditedSince) {
+  Panel().txbWordsFile[0].SetText(folder.Write("a.txt", "cat\r\n"));
+  Panel().txbWordsFile[0].LostFocus.Fire();
+  EXPECT_THAT(Try("cat dog"), HasSubstr("Counted: dog"));
+  static_cast<void>(folder.Write("a.txt", "dog\r\n"));
+  EXPECT_THAT(Try("dog cat"), HasSubstr("Counted: cat"));
+  static_cast<void>(folder.Write("a.txt", ""));
+  EXPECT_THAT(Try("cat dog"), HasSubstr("Counted: cat, dog"));
+}
+
 TEST_F(TryItOnPanel, FollowsTheListsInForce) {
   Try("cat dog");
   TypeWords(WordListKind::kIgnore, "cat");
@@ -113,6 +123,13 @@ TEST_F(TryItOnPanel, TakesTypedWordsAsACountWould) {
   EXPECT_EQ(Outcome(), "Counted: дело\r\nLeft out: слово (one of the extra words to ignore)");
   Panel().txbWordsToIgnoreOrCount[0].EnterText("");
   EXPECT_EQ(Outcome(), "Counted: дело, слово");
+}
+
+TEST_F(TryItOnPanel, ListsMeanWordsInEveryLetterCase) {
+  Try("του ΤΗΣ Της");
+  Panel().cboLetters.PerformChoice(1);
+  Panel().txbWordsToIgnoreOrCount[0].EnterText("της");
+  EXPECT_EQ(Outcome(), "Counted: του\r\nLeft out: ΤΗΣ, Της (one of the extra words to ignore)");
 }
 
 TEST_F(TryItOnPanel, LeavesTheWordsCountedAloneWhileItReadsLists) {

@@ -16,6 +16,12 @@ TEST(ProgressLine, TellsShareRateAndTimeLeft) {
             "[>                   ]   0%  1 B of 3.6 kB  1 B/s  1:00:00 left");
 }
 
+TEST(ProgressLine, WritesDecimalsAsTheUserDoes) {
+  EXPECT_EQ(ProgressText({1'250'000'000, 5'000'000'000}, seconds(2), ","),
+            "[=====>              ]  25%  1,2 GB of 5,0 GB  625 MB/s  0:06 left");
+  EXPECT_EQ(ProgressText({5'000'000'000, 0}, seconds(2), ","), "5,0 GB  2,5 GB/s  0:02");
+}
+
 TEST(ProgressLine, SaysNothingOfWhatItDoesNotKnow) {
   EXPECT_EQ(ProgressText({12'400'000, 0}, seconds(62)), "12 MB  200 kB/s  1:02");
   EXPECT_EQ(ProgressText({0, 100}, seconds(0)),

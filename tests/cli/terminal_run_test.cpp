@@ -96,6 +96,23 @@ TEST_F(TerminalRunTest, BytesThatCouldNotBeDecodedAreTold) {
   EXPECT_EQ(err, "Note: 2 bytes could not be decoded; --encoding names another encoding.\n");
 }
 
+TEST_F(TerminalRunTest, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed) {
+  const std::string first = folder.Write("a.txt", "cat");
+  const std::string second = folder.Write("b.txt", "cat\xFF\xFE");
+  const std::string third = folder.Write("c.txt", "cat\xFF");
+  EXPECT_EQ(Run({first, second, third, "--encoding", "utf8"}), 0);
+  EXPECT_EQ(err, "Note: 3 bytes could not be decoded, the first of them in " + second +
+                     " (--report tells of all files); --encoding names another encoding.\n");
+  EXPECT_EQ(Run({first, third, "--encoding", "utf8"}), 0);
+  EXPECT_EQ(err, "Note: 1 byte could not be decoded: in " + third +
+                     "; --encoding names another encoding.\n");
+}
+
+TEST_F(TerminalRunTest, EncodingIsToldBeforeLettersThatItMayHaveMade) {
+  EXPECT_EQ(Run({folder.Write("a.txt", "\x8C\x9F\ncat\n")}), 0);
+  EXPECT_LT(err.find("not UTF-8"), err.find("other alphabets"));
+}
+
 TEST_F(TerminalRunTest, TextsAreReadInTheEncodingThatIsNamed) {
   input = "\xC4\xC5\xCC\xCF";
   const std::string path = folder.Write("a.txt", input);
@@ -284,6 +301,17 @@ TEST_F(TerminalRunTest, WordsThatAreBothCountOnlyAndToIgnoreAreTold) {
               EndsWith("Note: 2 words to ignore are count-only words, too; they are counted.\n"));
   EXPECT_EQ(Run({text, "--only-words", "cat", "--ignore-words", "dog"}), 0) << err;
   EXPECT_EQ(err, "");
+}
+
+TEST_F(TerminalRunTest, OfAllLettersListsMeanWordsInEveryLetterCase) {
+  const std::string text = folder.Write("a.txt", "της ΤΗΣ Της τής");
+  EXPECT_EQ(Run({text, "--letters", "all", "--only-words", "ΤΗΣ", "--ignore-words", "της"}), 0);
+  EXPECT_EQ(err, "Note: 1 word to ignore is a count-only word, too; it is counted.\n");
+  EXPECT_THAT(out, HasSubstr(" 3  της"));
+  const std::string words = folder.Write("words.txt", "ΤΗΣ\r\n");
+  EXPECT_EQ(Run({text, "--letters", "all", "--ignore", words}), 0) << err;
+  EXPECT_THAT(out, HasSubstr(" 1  τής"));
+  EXPECT_THAT(out, Not(HasSubstr("της")));
 }
 
 TEST_F(TerminalRunTest, OnlyListsOfFilesHaveALimitOfOccurrencesInOne) {

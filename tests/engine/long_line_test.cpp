@@ -193,6 +193,22 @@ TEST_F(LongLineTest, RunsThatAreTooLongForAWordAreCutAsWordsAre) {
   }
 }
 
+TEST_F(LongLineTest, BrokenOffWithinACharacterIsReadAsItHasBegun) {
+  const std::string line = "déjà naïve élan ça dé";
+  for (std::size_t bytes = 0; bytes <= line.size(); ++bytes) {
+    Begin(-1);
+    WordScanner scanner(settings, choices, lists, store, yield);
+    LongLine longLine({settings, choices, lists, store, yield, scanner}, 6);
+    longLine.Take(std::string_view(line).substr(0, bytes));
+    longLine.BreakOff();
+    const std::string words = Words();
+    EXPECT_EQ(settings.Uncounted, Uncounted()) << bytes;
+    EXPECT_EQ(words.find("Ã"), std::string::npos) << words;
+    EXPECT_EQ(words.find("ã"), std::string::npos) << words;
+    EXPECT_LE(scanner.WordsRead(), 4) << "the last word may go on";
+  }
+}
+
 TEST_F(LongLineTest, LongLineOfALargeTextIsScannedBetweenItsNeighbours) {
   std::string longLine;
   for (int i = 0; i < 5'000; ++i) longLine += "word w" + std::to_string(i % 40) + "\u00E9; ";

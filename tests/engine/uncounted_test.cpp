@@ -4,12 +4,24 @@
 #include <string>
 
 #include "base/byte_source.h"
+#include "base/utf8.h"
+#include "engine/char_class.h"
 #include "engine/long_line.h"
 #include "engine/parallel/threaded_scan.h"
 #include "support/engine_fixture.h"
 
 namespace quillomat {
 namespace {
+
+/// Puts the words of a text together as it is scanned.
+class WordsTogether final : public ScanWitness {
+ public:
+  void OnText(std::string_view /*text*/) override {}
+  void OnComment(std::string_view /*comment*/) override {}
+  void OnToken(std::string_view token) override { words += token; }
+
+  std::string words;
+};
 
 class UncountedTest : public EngineFixture {
  protected:
@@ -55,6 +67,33 @@ TEST_F(UncountedTest, LettersOfLatin1ThatAreNoneByTheWesternRuleAreForeign) {
   EXPECT_EQ(CountForeignLetters("10\u00B2 \u00ABa\u00BB 5\u00B0", true), 0);
 }
 
+TEST_F(UncountedTest, LettersThatAreToldAreThoseThatAllLettersTake) {
+  UseAllLetters();
+  AllowNothing();
+  StartCount();
+  WordScanner scanner(settings, choices, lists, store, yield);
+  std::string buffer;
+  const auto wordsOf = [&](std::string_view text) {
+    WordsTogether witness;
+    scanner.ShowTokens(PrepareLine(text, true, buffer, LetterRule::kAll), witness);
+    return std::move(witness.words);
+  };
+  const CharClass western(false, "", LetterRule::kWestern);
+  for (const std::string before : {"", "x\u00AD", "\u02BC"}) {
+    const std::string wordsBefore = wordsOf(before);
+    const std::int64_t toldBefore = CountForeignLetters(before, true);
+    for (char32_t codePoint = 1; codePoint < 0x110000; ++codePoint) {
+      if (codePoint >= 0xD800 && codePoint <= 0xDFFF) continue;
+      std::string text = before;
+      AppendCharacter(text, codePoint);
+      const bool taken = wordsOf(text) != wordsBefore;
+      const bool counted = western.MayStartWord(text, before.size());
+      const bool told = CountForeignLetters(text, true) != toldBefore;
+      ASSERT_EQ(told, taken && !counted) << std::uint32_t{codePoint} << " behind " << before;
+    }
+  }
+}
+
 TEST_F(UncountedTest, AMarkBehindALetterIsALetter) {
   EXPECT_EQ(CountForeignLetters("Mu\u0308ller cafe\u0301", false), 2);
   EXPECT_EQ(CountForeignLetters("e\u0301\u0323 и\u0306 é\u0323", true), 5);
@@ -64,11 +103,26 @@ TEST_F(UncountedTest, AMarkBehindALetterIsALetter) {
   EXPECT_EQ(CountForeignLetters("\u0301\u0301 \u0301", true, true), 2);
 }
 
+TEST_F(UncountedTest, SignsAreNoneThoughUnicodeCallsThemLetters) {
+  EXPECT_EQ(CountForeignLetters("don\u02BCt \u02BC\u0301", true), 0) << "the apostrophe";
+  EXPECT_EQ(CountForeignLetters("Hawai\u02BBi", true), 1);
+}
+
+TEST_F(UncountedTest, AMarkIsBehindALetterWhereWhatStandsBetweenIsDropped) {
+  EXPECT_EQ(CountForeignLetters("e\u00AD\u0301 e\u200D\u0301\uFEFF\u0323", true), 3);
+  EXPECT_EQ(CountForeignLetters("\u00AD\u0301 1\u00AD\u0301", true), 0);
+  const std::string pile = Repeated("\u00AD\u0301", 200'000);  // for ever, if it were quadratic
+  EXPECT_EQ(CountForeignLetters("e" + pile, true), 200'000);
+  EXPECT_EQ(ScanLongLine("e" + pile), (Uncounted{200'000, 0}));
+}
+
 TEST_F(UncountedTest, WhatATextEndsInIsALetterBelowItsMarks) {
   EXPECT_TRUE(EndsInLetter("a"));
   EXPECT_TRUE(EndsInLetter("é\u0323\u0301"));
   EXPECT_TRUE(EndsInLetter("\u0301", true));
+  EXPECT_TRUE(EndsInLetter("a\u00AD\u0301\u200E"));
   EXPECT_FALSE(EndsInLetter("a \u0301", true));
+  EXPECT_FALSE(EndsInLetter("a\u02BC\u0301"));
   EXPECT_FALSE(EndsInLetter(""));
 }
 

@@ -81,15 +81,33 @@ TEST(ParseTypedWords, DoesNotTakeAThousandAndOne) {
   EXPECT_FALSE(ParseTypedWords(ManyWords(1001)).fits);
 }
 
-TEST(WordList, FindsByExactComparison) {
+TEST(WordList, FindsWordsInAnyLetterCaseByTheirAccents) {
   const WordList list({"the", "café", "e-mail"});
   EXPECT_TRUE(list.IsInList("the"));
   EXPECT_TRUE(list.IsInList("café"));
   EXPECT_TRUE(list.IsInList("e-mail"));
-  EXPECT_FALSE(list.IsInList("The"));
+  EXPECT_TRUE(list.IsInList("The"));
+  EXPECT_TRUE(list.IsInList("CAFÉ"));
   EXPECT_FALSE(list.IsInList("cafe"));
   EXPECT_FALSE(list.IsInList("th"));
   EXPECT_FALSE(list.IsInList("them"));
+}
+
+TEST(WordList, OfAllLettersSpellingsThatDifferInCaseAloneAreOne) {
+  const WordList list({"τους", "πωσ", "ſo", "μm", "łódź", "straße"}, LetterRule::kAll);
+  for (const char* word : {"τους", "τουσ", "Τους", "ΤΟΥΣ", "ΠΩΣ", "πως", "So", "ſo", "\u00B5m",
+                           "μm", "ΜM", "ŁÓDŹ", "STRAẞE"}) {
+    EXPECT_TRUE(list.IsInList(word)) << word;
+  }
+  for (const char* word : {"τούς", "lódź", "ŁODŹ", "strasse", "του"}) {
+    EXPECT_FALSE(list.IsInList(word)) << word;
+  }
+  EXPECT_THAT(list.Words(), ElementsAre("τους", "πωσ", "ſo", "μm", "łódź", "straße"));
+}
+
+TEST(WordList, OfWesternLettersNoOthersAreTheirSmallOnes) {
+  const WordList list({"so"});
+  EXPECT_FALSE(list.IsInList("ſo"));
 }
 
 TEST(WordList, EmptyWordIsNeverFound) {

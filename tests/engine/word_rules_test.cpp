@@ -163,6 +163,27 @@ TEST(IsRepetition, LooksAtLetterCaseAndAccents) {
   }
 }
 
+TEST(DropFinalS, OfAllLettersWesternOnesFollowTheWesternRule) {
+  for (char32_t letter = 0xC0; letter <= 0xFF; ++letter) {
+    if (letter == 0xD7 || letter == 0xF7) continue;
+    std::string word = "x";
+    AppendCharacter(word, letter);
+    word += "s";
+    EXPECT_EQ(DropFinalS(word, LetterRule::kAll), DropFinalS(word)) << word;
+  }
+}
+
+TEST(LacksVowel, OfAllLettersWesternOnesFollowTheWesternRuleButYWithAccents) {
+  for (char32_t letter = 0xC0; letter <= 0xFF; ++letter) {
+    if (letter == 0xD7 || letter == 0xF7) continue;
+    std::string word = "x";
+    AppendCharacter(word, letter);
+    const bool y = letter == 0xDD || letter == 0xFD || letter == 0xFF;
+    EXPECT_EQ(LacksVowel(word, true, LetterRule::kAll), LacksVowel(word, true) && !y) << word;
+    EXPECT_EQ(LacksVowel(word, false, LetterRule::kAll), LacksVowel(word, false)) << word;
+  }
+}
+
 TEST(IsRomanNumeral, BelowXlOnlyIVAndXOccurInAnyOrder) {
   for (const std::string_view word : {"XIV", "xiv", "VIX", "I", "i", "IIII", "VV", "XIVX"}) {
     EXPECT_TRUE(IsRomanNumeral(word, true)) << word;

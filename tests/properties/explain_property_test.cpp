@@ -33,11 +33,11 @@ struct ExplainedCase {
     const auto typed = [&](int kind) {
       const std::string& words =
           from.choices.txbWordsToIgnoreOrCount[static_cast<std::size_t>(kind)];
-      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items);
+      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items, scan.letters);
     };
     const auto ofFile = [&](std::size_t kind) {
       const std::string words = JoinWithBlanks(from.wordsFiles[kind]);
-      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items);
+      return WordList(ParseTypedWords(words, scan.letters, scan.makeSegmenter).items, scan.letters);
     };
     lists = {ofFile(0), typed(0), ofFile(1), typed(1)};
   }

@@ -8,6 +8,8 @@
 #include "engine/fold_accents.h"
 #include "engine/normal_text.h"
 #include "engine/unicode_traits.h"
+#include "engine/word_list.h"
+#include "engine/word_rules.h"
 #include "reference/literal_letters.h"
 
 namespace quillomat::properties {
@@ -60,6 +62,36 @@ TEST(Letters, KindsAndKeysAreThoseOfTheLiteralEngineForEveryCharacter) {
     const literal::Characters word = {character, U'\u0301', U'e', character};
     EXPECT_EQ(FoldAccentsOfAll(literal::ToUtf8(word)),
               literal::ToUtf8(literal::FoldAccentsOfAll(word)))
+        << Hex(character);
+    const std::string normal = literal::ToUtf8(literal::NormalForm(word));
+    std::string scratch;
+    EXPECT_EQ(SortKeyOf(normal, {LetterRule::kAll, true}, scratch),
+              literal::ToUtf8(literal::FoldCaseOfAll(literal::NormalForm(word))))
+        << Hex(character);
+  });
+}
+
+TEST(Letters, RulesForLatinLettersAreThoseOfTheLiteralEngineForEveryCharacter) {
+  ForEveryCharacter([](char32_t character) {
+    const literal::Characters normal = literal::NormalForm({character});
+    for (const literal::Characters& word : {normal + U"ks", U"k" + normal + U"s"}) {
+      const std::string utf8 = literal::ToUtf8(word);
+      EXPECT_EQ(DropFinalS(utf8, LetterRule::kAll),
+                literal::ToUtf8(literal::ApplyFinalSRuleOfAll(word)))
+          << Hex(character);
+      EXPECT_EQ(LacksVowel(utf8, true, LetterRule::kAll), literal::LacksVowelOfAll(word, true))
+          << Hex(character);
+    }
+  });
+}
+
+TEST(Letters, ListMeansItsWordsInEveryLetterCaseForEveryCharacter) {
+  ForEveryCharacter([](char32_t character) {
+    const literal::Characters word = literal::NormalForm({U'x', character});
+    const std::string small = literal::ToUtf8(literal::NormalLowerCase(word));
+    const WordList list({small}, LetterRule::kAll);
+    EXPECT_TRUE(list.IsInList(literal::ToUtf8(word))) << Hex(character);
+    EXPECT_TRUE(WordList({literal::ToUtf8(word)}, LetterRule::kAll).IsInList(small))
         << Hex(character);
   });
 }

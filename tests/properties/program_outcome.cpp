@@ -138,14 +138,15 @@ class ProgramCase {
       cleaned = kind == 0 ? "Too many words to ignore." : "Too many count-only words.";
     out_ << "typed: " << cleaned << '\n';
     (kind == 0 ? lists_.ExtraIgnoreList : lists_.ExtraCountOnlyList) =
-        WordList(std::move(typed.items));
+        WordList(std::move(typed.items), choices_.letters);
     if (case_.wordsFiles[kind].empty()) return;
     // Read twice, as the comment that a file leaves open goes on in the next.
     ReadWordsFile(case_.wordsFiles[kind]);
     out_ << "list:";
     for (const std::string& word : WordsInStore()) out_ << ' ' << word;
     ReadWordsFile(case_.wordsFiles[kind]);
-    (kind == 0 ? lists_.IgnoreList : lists_.CountOnlyList) = WordList(WordsInStore());
+    (kind == 0 ? lists_.IgnoreList : lists_.CountOnlyList) =
+        WordList(WordsInStore(), choices_.letters);
     out_ << "\nflags:";
     for (const bool flag : settings_.ListCharFlags) out_ << ' ' << flag;
     out_ << '\n';

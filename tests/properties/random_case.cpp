@@ -100,6 +100,10 @@ constexpr std::array kPieces = std::to_array<std::string_view>({" ",
                                                                 "\xC3\x9E",
                                                                 "\xE2\x80\x94",
                                                                 "\xF0\x9F\x99\x82",
+                                                                "\u0301",
+                                                                "e\u00AD",
+                                                                "\u02BC",
+                                                                "\u044F",
                                                                 "\t",
                                                                 "well-known",
                                                                 "o'clock",
@@ -289,6 +293,43 @@ constexpr auto kUnspacedPieces =
                                      "'",
                                      "\u0301"});
 
+/// Words that texts and lists shall have in common: those that differ in letter case alone, or in
+/// accents, with letters that have several small ones; and words of Latin letters that have no like
+/// among A to Z.
+constexpr auto kWordsOfAll = std::to_array<std::string_view>({" \u03C4\u03B7\u03C2 ",
+                                                              " \u03C4\u03B7\u03C3 ",
+                                                              " \u03A4\u0397\u03A3 ",
+                                                              " \u03A4\u03B7\u03C2 ",
+                                                              " \u03C4\u03AE\u03C2 ",
+                                                              " \u03A4\u0389\u03A3 ",
+                                                              " wi\u017F\u017Fen ",
+                                                              " wissen ",
+                                                              " WISSEN ",
+                                                              " \u00B5m ",
+                                                              " \u03BCm ",
+                                                              " \u039Cm ",
+                                                              " stra\u00DFe ",
+                                                              " STRA\u1E9EE ",
+                                                              " strasse ",
+                                                              " \u0130s ",
+                                                              " is ",
+                                                              " \u13A0\u13F0 ",
+                                                              " \uAB70\u13F8 ",
+                                                              " \u01C5s ",
+                                                              " \u01C6s ",
+                                                              " or\u00F0s ",
+                                                              " \u00DE\u0155\u0110 ",
+                                                              " s\u00E1\u014Bs ",
+                                                              " \u014At\u014B ",
+                                                              " n\u0259s ",
+                                                              " N\u018Fs ",
+                                                              " gb\u025B ",
+                                                              " x\u0254\u0301s ",
+                                                              " k\u0133k ",
+                                                              " x\u1D26s ",
+                                                              " \u02BBks ",
+                                                              " k\u02BCks "});
+
 constexpr auto kStartMarkers =
     std::to_array<std::string_view>({"/*", "//", "<", "#", "", "|", "rem", "&", "\xC3\x89", " t",
                                      " ", "-", "\xD0\x96", "i\xCC\x81", "\xD9\xA3"});
@@ -389,6 +430,8 @@ class CaseMaker {
     for (std::size_t pieces = Below(mostPieces + 1); pieces > 0; --pieces) {
       if (unspaced_ && !OneIn(3)) {
         line += Pick(kUnspacedPieces);
+      } else if (all_ && OneIn(6)) {
+        line += Pick(kWordsOfAll);
       } else if (all_ && OneIn(2)) {
         line += Pick(kPiecesOfAll);
       } else if (OneIn(all_ ? 8 : 60)) {

@@ -3,8 +3,10 @@
 
 #include <QClipboard>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QScopeGuard>
 #include <QThread>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -107,6 +109,32 @@ TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
   });
   EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
             MessageAnswer::kYes);
+}
+
+TEST_F(QtDesktopTest, RowOfBoxesAtOnePlaceIsClickedAwayOneAfterTheOther) {
+  const int usual = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(10'000);  // all these clicks come within it
+  const QScopeGuard asItWas([usual] { QApplication::setDoubleClickInterval(usual); });
+  QPoint place;
+  QElapsedTimer sinceClick;
+  for (int box = 0; box < 3; ++box) {
+    WithDialog<QMessageBox>([&, box](QMessageBox& shown) {
+      QAbstractButton& ok = *shown.button(QMessageBox::Ok);
+      if (box > 0) shown.move(place - ok.mapTo(&shown, ok.rect().center()));
+      place = ok.mapToGlobal(ok.rect().center());
+      if (box > 0) {
+        QTest::mouseClick(&ok, Qt::LeftButton);  // nobody can have read it
+        const bool isLate = sinceClick.elapsed() >= BoxGuard::kPause.count();
+        EXPECT_TRUE(shown.isVisible() || isLate);
+      }
+      WaitForKeys();
+      if (shown.isVisible()) QTest::mouseClick(&ok, Qt::LeftButton);
+      EXPECT_FALSE(shown.isVisible()) << box;
+      if (shown.isVisible()) shown.reject();
+      sinceClick.start();
+    });
+    desktop.ShowMessage({"one of a row", ""});
+  }
 }
 
 TEST_F(QtDesktopTest, KeyWhoseReleaseTheBoxCameBeforeAnswersAfterAWhile) {

@@ -135,15 +135,16 @@ void LiteralEngine::ScanPrepared(const Characters& text) {
   GetWords();
 }
 
-/// A mark belongs to the letter before it.
+/// Those that the rule for all letters takes into words. A mark belongs to the letter before it.
 void LiteralEngine::CountForeignLetters() {
   bool behindLetter = false;
   for (const char32_t character : LineBuffer) {
+    if (NormalForm({character}).empty()) continue;  // dropped from between letter and mark
     if (IsAnyMark(character)) {
       if (behindLetter) ForeignLetters += 1;
       continue;
     }
-    behindLetter = IsAnyLetter(character);
+    behindLetter = IsAnyLetter(character) && IsAnyLetter(NormalForm({character})[0]);
     const bool western = character <= 255 && character != U'\u00AA' && character != U'\u00B5' &&
                          character != U'\u00BA';
     if (behindLetter && !western) ForeignLetters += 1;

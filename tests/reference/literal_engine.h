@@ -116,6 +116,7 @@ class LiteralEngine {
   /// Where the letters of all languages are chosen these are other functions than else.
   [[nodiscard]] Characters Lower(const Characters& text) const;
   [[nodiscard]] Characters KeyOf(const Characters& word) const;
+  [[nodiscard]] bool IsListed(const Characters& word, const WordList& list, bool sorted) const;
   [[nodiscard]] int FindCommentStart() const;
   void SkipComment();
 

@@ -355,6 +355,28 @@ TEST_F(LiteralEngineTest, CountOnlyFileTicksBoxesAndIgnoreFileDoesNot) {
   EXPECT_EQ(engine.choices.chkAllowWordsWithApostrophes, 0);
 }
 
+TEST_F(LiteralEngineTest, OfAllLettersListsMeanWordsInEveryLetterCase) {
+  engine.choices.cboLetters = 1;
+  Ignore("της");
+  EXPECT_EQ(Count("της ΤΗΣ Της τής"), "τής");
+  engine.ReadWords(1, {"ΤΟΥΣ τους", "wiſſen"});
+  EXPECT_EQ(Count("ΤΟΥΣ τους Τους τον WISSEN wisen"), "wissen τουσ*3");
+}
+
+TEST_F(LiteralEngineTest, ForeignLettersAreThoseThatAllLettersTake) {
+  Count("слово Łk e\u00AD\u0301 don\u02BCt \u02BC\u0301 \u00B5");
+  EXPECT_EQ(engine.ForeignLetters, 8);
+}
+
+TEST_F(LiteralEngineTest, OfAllLettersRulesForLatinOnesAskAllOfThem) {
+  engine.choices.cboLetters = 1;
+  engine.choices.chkDropFinalS = 1;
+  EXPECT_EQ(Count("orðs sáŋs nəs cats kλs"), "cat kλs nəs orð sáŋ");
+  EXPECT_TRUE(LacksVowelOfAll(U"þŕð", true));
+  EXPECT_FALSE(LacksVowelOfAll(U"gbɛ", true));
+  EXPECT_FALSE(LacksVowelOfAll(U"кв", true));
+}
+
 TEST_F(LiteralEngineTest, EveryListCharacterSetsItsFlag) {
   const std::vector<std::string> words = {"a-b", "a'b", "a_b", "a:b", "a\\b", "a/b",
                                           "a(b", "a.b", "a,b", "a@b", "a7"};

@@ -279,11 +279,31 @@ Characters FoldCaseOfAll(const Characters& word) {
   return NormalForm(folded);
 }
 
+bool IsLatin(char32_t letter) {
+  constexpr std::array<std::pair<char32_t, char32_t>, 26> kBlocks = {
+      {{0x0041, 0x005A},  {0x0061, 0x007A}, {0x00AA, 0x00AA}, {0x00BA, 0x00BA}, {0x00C0, 0x02B8},
+       {0x02E0, 0x02E4},  {0x1D00, 0x1D25}, {0x1D2C, 0x1D5C}, {0x1D62, 0x1D65}, {0x1D6B, 0x1D77},
+       {0x1D79, 0x1DBE},  {0x1E00, 0x1EFF}, {0x2071, 0x2071}, {0x207F, 0x209C}, {0x212A, 0x212B},
+       {0x2132, 0x2132},  {0x214E, 0x2184}, {0x2C60, 0x2C7F}, {0xA722, 0xA787}, {0xA78B, 0xA7FF},
+       {0xAB30, 0xAB64},  {0xAB66, 0xAB69}, {0xFB00, 0xFB06}, {0xFF21, 0xFF5A}, {0x10780, 0x107BA},
+       {0x1DF00, 0x1DFFF}}};
+  if (!IsAnyLetter(letter)) return false;
+  for (const auto& [first, last] : kBlocks) {
+    if (letter >= first && letter <= last) return true;
+  }
+  return false;
+}
+
 bool HasLatinLettersOnly(const Characters& word) {
-  for (const char32_t character : FoldAccentsOfAll(word)) {
-    if (character >= 128 && IsAnyLetter(character)) return false;
+  for (const char32_t character : word) {
+    if (IsAnyLetter(character) && !IsLatin(character)) return false;
   }
   return true;
+}
+
+bool MayBeVowel(char32_t letter) {
+  if (letter < 128 || !IsAnyLetter(letter)) return false;
+  return letter != U'ð' && letter != U'þ' && letter != U'ŋ';
 }
 
 Characters ApplyFinalSRuleOfAll(const Characters& word) {
@@ -295,11 +315,16 @@ Characters ApplyFinalSRuleOfAll(const Characters& word) {
   while (IsAnyMark(CharacterAt(shortened, place)[0])) place -= 1;
   const Characters letter = CharacterAt(shortened, place);
   if (LowerCaseOfAll(letter) != letter) return shortened;
-  return IsVowel(Right(FoldAccentsOfAll(letter), 1), true) ? word : shortened;
+  const Characters plain = Right(FoldAccentsOfAll(letter), 1);
+  return IsVowel(plain, true) || MayBeVowel(plain[0]) ? word : shortened;
 }
 
 bool LacksVowelOfAll(const Characters& word, bool withY) {
-  return HasLatinLettersOnly(word) && LacksVowel(FoldAccentsOfAll(word), withY);
+  if (!HasLatinLettersOnly(word)) return false;
+  for (const char32_t character : FoldAccentsOfAll(word)) {
+    if (MayBeVowel(character)) return false;
+  }
+  return LacksVowel(FoldAccentsOfAll(word), withY);
 }
 
 }  // namespace quillomat::reference

@@ -48,10 +48,14 @@ using WordFinder = std::function<std::vector<std::size_t>(const Characters& run)
 /// Case folded, and composed.
 [[nodiscard]] Characters FoldCaseOfAll(const Characters& word);
 
-/// Whether every letter of the word is a Latin one that has one of A-Z, or two, without accents.
+/// Of a letter, by the places of the script.
+[[nodiscard]] bool IsLatin(char32_t letter);
 [[nodiscard]] bool HasLatinLettersOnly(const Characters& word);
+/// Of a letter without accents: one that is none of A-Z and not known for a consonant.
+[[nodiscard]] bool MayBeVowel(char32_t letter);
 
-/// The final-s rule, and the search for a vowel, for words of Latin letters.
+/// The final-s rule, and the search for a vowel, for words of Latin letters. Where a letter may be
+/// a vowel it is taken for one.
 [[nodiscard]] Characters ApplyFinalSRuleOfAll(const Characters& word);
 [[nodiscard]] bool LacksVowelOfAll(const Characters& word, bool withY);
 

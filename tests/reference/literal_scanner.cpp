@@ -71,22 +71,30 @@ void LiteralEngine::TakeWord(const Characters& word) {
     return;
   }
   WordsRead = Sum32(WordsRead, 1);
-  const Characters w = Lower(word);
-  const auto keyOf = [this](const Characters& entry) { return KeyOf(entry); };
-  const auto isIn = [&](const WordList& list, bool sorted) {
-    return IsInList(w, list.entries, 1, list.count, sorted, keyOf);
-  };
   if (CountOnlyMode) {
-    if (isIn(ExtraCountOnlyList, false) || isIn(CountOnlyList, false)) AddWord(word);
+    const bool listed = IsListed(word, ExtraCountOnlyList, false);
+    if (listed || IsListed(word, CountOnlyList, false)) AddWord(word);
     return;
   }
   if (ExtraIgnoreList.count == 0 && IgnoreList.count == 0) {
     AddWord(word);
     return;
   }
-  if (isIn(ExtraIgnoreList, false)) return;
-  if (isIn(IgnoreList, true)) return;
+  if (IsListed(word, ExtraIgnoreList, false)) return;
+  if (IsListed(word, IgnoreList, true)) return;
   AddWord(word);
+}
+
+/// Of all letters: whether an entry is the word but for letter case. Accents make a difference.
+bool LiteralEngine::IsListed(const Characters& word, const WordList& list, bool sorted) const {
+  if (!AllLetters()) {
+    const auto keyOf = [this](const Characters& entry) { return KeyOf(entry); };
+    return IsInList(LowerCase(word), list.entries, 1, list.count, sorted, keyOf);
+  }
+  for (std::size_t i = 1; i <= static_cast<std::size_t>(list.count); ++i) {
+    if (FoldCaseOfAll(list.entries[i]) == FoldCaseOfAll(word)) return true;
+  }
+  return false;
 }
 
 Characters LiteralEngine::GetNextRun() {

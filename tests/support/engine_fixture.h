@@ -117,7 +117,7 @@ class EngineFixture : public testing::Test {
     for (std::int32_t i = 1; i <= store.NumDifferentWords(); ++i) {
       words.emplace_back(store.At(i).Word);
     }
-    return WordList(words);
+    return WordList(words, choices.letters);
   }
 
   /// Empties the store and makes the settings ready for a text.
@@ -160,7 +160,8 @@ class EngineFixture : public testing::Test {
 
  private:
   [[nodiscard]] WordList Typed(std::string_view words) const {
-    return WordList(ParseTypedWords(words, choices.letters, choices.makeSegmenter).items);
+    return WordList(ParseTypedWords(words, choices.letters, choices.makeSegmenter).items,
+                    choices.letters);
   }
 
   [[nodiscard]] std::string Shown(bool includedOnly) const {

@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-#include "ui/yielder.h"
+#include "ui/event_pump.h"
 
 namespace quillomat {
 

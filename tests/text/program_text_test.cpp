@@ -11,6 +11,7 @@
 #include "support/scripted_desktop.h"
 #include "support/temporary_folder.h"
 #include "system/desktop_test.h"
+#include "system/file_system.h"
 #include "text/load_result.h"
 
 namespace quillomat {
@@ -332,13 +333,11 @@ TEST_F(LoadProgramTextTest, PathIsShownInFullAndWithoutDoubledSeparator) {
                            folder / "qlav_text.dat");
 }
 
-TEST_F(LoadProgramTextTest, RelativeDataFolderIsShownFromTheRoot) {
+TEST_F(LoadProgramTextTest, RelativeDataFolderCountsFromTheProgramsAndIsShownFromTheRoot) {
   const ScopedVariable relative("QUILLOMAT_DATA", "no such folder");
   EXPECT_FALSE(text.LoadProgramText("qlav_text.dat", desktop));
-  ExpectOneCriticalMessage(
-      "Cannot open file containing program text.\r\n" +
-      JoinPath(JoinPath(std::filesystem::current_path().string(), "no such folder"),
-               "qlav_text.dat"));
+  ExpectOneCriticalMessage("Cannot open file containing program text.\r\n" +
+                           JoinPath(JoinPath(ProgramFolder(), "no such folder"), "qlav_text.dat"));
 }
 
 TEST_F(LoadProgramTextTest, DuplicateOnLine12EndsTheProgram) {

@@ -50,6 +50,7 @@ CountBasis CountBasisOf(const MainForm& frmMain, const ParamsForm& frmParams,
   }
   basis.wordsFromFiles = std::ranges::any_of(inForce.filesRead.wordsFiles,
                                              [](const std::string& path) { return !path.empty(); });
+  basis.listsReadAgain = inForce.listsReadAgain;
   const WordLists& lists = inForce.lists;
   basis.countOnlyWords = lists.CountOnlyList.Count() + lists.ExtraCountOnlyList.Count();
   basis.namesNoCountOnlyWord = NamesNoCountOnlyWord(frmParams, lists);

@@ -21,6 +21,8 @@ struct CountBasis {
   std::vector<std::string> ofFiles;
   /// A file of words is in force.
   bool wordsFromFiles = false;
+  /// See InForce.
+  std::string listsReadAgain;
   /// The same, of which files of a folder are read.
   std::vector<std::string> ofFolder;
   std::int32_t countOnlyWords = 0;

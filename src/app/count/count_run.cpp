@@ -108,7 +108,8 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.WordsRead = result.wordsRead;
   count_.words.orderFigures = std::move(result.orderFigures);
   count_.words.uncounted = result.uncounted;
-  count_.words.folder = {result.files, result.folders, result.skippedInAll, {}, result.leftOut};
+  count_.words.folder = {result.files, result.folders, result.skippedInAll,
+                         {},           result.leftOut, result.firstNotDecoded};
   count_.words.stoppedAfter = result.stoppedAfter;
   count_.words.settings =
       SettingFactsOf(count_.words.counted, count_.inForce, count_.frmMain, count_.frmParams);

@@ -8,7 +8,7 @@
 namespace quillomat {
 namespace {
 
-/// `amount` with two decimals.
+/// `amount` with two decimals behind a dot.
 std::string TwoDecimals(double amount) {
   std::array<char, 40> text{};
   char* const end =
@@ -19,15 +19,16 @@ std::string TwoDecimals(double amount) {
 
 }  // namespace
 
-std::string FileSizeText(std::int64_t bytes, std::string_view separator) {
+std::string FileSizeText(std::int64_t bytes, const NumberSigns& signs) {
   constexpr std::int64_t kFirstInKilobytes = 10'000;
   constexpr std::int64_t kKilobyte = 1024;
   constexpr std::int64_t kMegabyte = kKilobyte * kKilobyte;
-  if (bytes < kFirstInKilobytes) return "Filesize: " + GroupDigits(bytes, separator) + " bytes";
+  if (bytes < kFirstInKilobytes) return "Filesize: " + GroupDigits(bytes, signs.group) + " bytes";
   const bool kilobytes = bytes < kMegabyte;
   const double amount =
       static_cast<double>(bytes) / static_cast<double>(kilobytes ? kKilobyte : kMegabyte);
-  return "Filesize: " + TwoDecimals(amount) + (kilobytes ? " KB" : " MB");
+  return "Filesize: " + ReplaceAll(TwoDecimals(amount), ".", signs.decimal) +
+         (kilobytes ? " KB" : " MB");
 }
 
 ScanFileResult InputFileRow::CheckInputFile(const std::string& path) {
@@ -39,8 +40,7 @@ ScanFileResult InputFileRow::CheckInputFile(const std::string& path) {
 }
 
 void InputFileRow::ShowFileSize(std::optional<std::int64_t> bytes) {
-  frmMain_.lblFilesize.SetCaption(bytes ? FileSizeText(*bytes, messages_.DigitGroupSeparator())
-                                        : "");
+  frmMain_.lblFilesize.SetCaption(bytes ? FileSizeText(*bytes, messages_.Signs()) : "");
 }
 
 }  // namespace quillomat

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "app/count/input_file_check.h"
 #include "app/messages.h"
@@ -15,7 +14,7 @@
 namespace quillomat {
 
 /// "Filesize: 4.20 MB".
-[[nodiscard]] std::string FileSizeText(std::int64_t bytes, std::string_view separator);
+[[nodiscard]] std::string FileSizeText(std::int64_t bytes, const NumberSigns& signs);
 
 class InputFileRow {
  public:

@@ -16,9 +16,9 @@ struct Loss {
 };
 
 constexpr Loss kLosses[] = {
-    {&Uncounted::foreignLetters, kListLettersNotReadText, kListLetterNotReadText},
     {&Uncounted::linesNotUtf8, kListLinesNotUtf8Text, kListLineNotUtf8Text},
     {&Uncounted::bytesNotDecoded, kListBytesNotDecodedText, kListByteNotDecodedText},
+    {&Uncounted::foreignLetters, kListLettersNotReadText, kListLetterNotReadText},
 };
 
 std::string LossText(const Loss& loss, const Uncounted& lost, const std::string& name,

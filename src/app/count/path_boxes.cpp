@@ -3,9 +3,13 @@
 #include <utility>
 
 #include "app/list/set_the_focus.h"
+#include "base/run_time_error.h"
+#include "base/text_helpers.h"
 #include "system/file_system.h"
+#include "system/output_file.h"
 #include "system/paths.h"
 #include "system/typed_path.h"
+#include "text/caption_table.h"
 
 namespace quillomat {
 namespace {
@@ -15,6 +19,17 @@ std::string NearestFolder(const std::string& path) {
   if (FolderExists(path)) return path;
   const std::string folder = FolderPartOf(path);
   return FolderExists(folder) ? folder : std::string();
+}
+
+/// A file that is there. What else there is against writing is told when it is written.
+bool IsReadOnly(const std::string& path) {
+  try {
+    if (FileExists(path)) CheckWritable(path);
+    return false;
+  } catch (const RunTimeError& error) {
+    return error.Number() == static_cast<int>(RunTimeErrorNumber::kPermissionDenied) ||
+           error.Number() == static_cast<int>(RunTimeErrorNumber::kPathFileAccess);
+  }
 }
 
 }  // namespace
@@ -34,9 +49,13 @@ std::string PathBoxes::FolderToOpen(const TextBox& box) {
 
 std::optional<std::string> PathBoxes::ChooseFileFor(const TextBox& box, FileDialog dialog) {
   dialog.folder = FolderToOpen(box);
-  std::optional<std::string> path = desktop_.ChooseFile(dialog);
-  if (path) RememberFolderOf(*path);
-  return path;
+  while (std::optional<std::string> path = desktop_.ChooseFile(dialog)) {
+    RememberFolderOf(*path);
+    if (!dialog.noReadOnlyReturn || !IsReadOnly(*path)) return path;
+    dialog.folder = FolderPartOf(*path);
+    messages_.Refuse(path->append(kCrLf) + messages_.Text(kFileIsReadOnlyText), dialog.title);
+  }
+  return std::nullopt;
 }
 
 std::optional<std::string> PathBoxes::ChooseTextFileFor(const TextBox& box, std::string title) {

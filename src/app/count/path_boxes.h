@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "app/messages.h"
 #include "ui/controls.h"
 #include "ui/desktop.h"
 #include "ui/main_form.h"
@@ -12,11 +13,12 @@ namespace quillomat {
 
 class PathBoxes {
  public:
-  /// `desktop` must outlive it.
-  explicit PathBoxes(Desktop& desktop) : desktop_(desktop) {}
+  /// Both must outlive it.
+  PathBoxes(Desktop& desktop, const Messages& messages) : desktop_(desktop), messages_(messages) {}
 
   /// Asks for a file for a box. The dialog opens in the folder of the box's path, else in the
-  /// folder used last, else in the user's documents. The box is left as it is.
+  /// folder used last, else in the user's documents; again, after a word, where a file is chosen
+  /// that the dialog refuses. The box is left as it is.
   [[nodiscard]] std::optional<std::string> ChooseFileFor(const TextBox& box, FileDialog dialog);
 
   /// The same for a text file that is there.
@@ -47,6 +49,7 @@ class PathBoxes {
   [[nodiscard]] std::string FolderToOpen(const TextBox& box);
 
   Desktop& desktop_;
+  const Messages& messages_;
   std::string lastFolder_;
 };
 

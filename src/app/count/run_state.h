@@ -7,7 +7,7 @@
 #include "app/count/run_phase.h"
 #include "engine/word_scanner.h"
 #include "ui/event.h"
-#include "ui/yielder.h"
+#include "ui/event_pump.h"
 
 namespace quillomat {
 

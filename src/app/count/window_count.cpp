@@ -62,7 +62,8 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.uncounted = result.uncounted;
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
-    count.words.folder = {result.files, result.folders, result.skippedInAll, {}, result.leftOut};
+    count.words.folder = {result.files, result.folders, result.skippedInAll,
+                          {},           result.leftOut, result.firstNotDecoded};
     count.words.stoppedAfter = result.stoppedAfter;
     count.words.FilesKnown.Fire();
     count.inForce.settings.OpenComment = result.openComment;

@@ -23,6 +23,7 @@
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 #include "system/file_system.h"
+#include "system/paths.h"
 #include "system/system_segmenter.h"
 #include "text/caption_table.h"
 #include "text/filled_text.h"
@@ -118,6 +119,11 @@ bool WordListReader::IsInForce(WordListKind kind, const std::string& path) {
   return path.empty() || inForce_.listForms[IndexOf(kind)] == ReadListForm(frmParams_);
 }
 
+bool WordListReader::HoldsTheSame(WordListKind kind) {
+  const std::optional<ContentMark>& then = inForce_.listContents[IndexOf(kind)];
+  return !then || ContentMarkOf(FileInForce(kind)) == then;
+}
+
 /// What is typed in a terminal may be any bytes: they are taken as those of a file are.
 void WordListReader::DecodeTypedWords(WordListKind kind) {
   TextBox& box = ExtraBox(kind);
@@ -127,13 +133,14 @@ void WordListReader::DecodeTypedWords(WordListKind kind) {
 }
 
 WordListReader::TypedWords WordListReader::GetExtraWords(WordListKind kind) {
-  SplitResult typed = ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()),
-                                      ReadKeyRule(frmParams_).letters, MakeSystemSegmenter);
+  const LetterRule letters = ReadKeyRule(frmParams_).letters;
+  SplitResult typed =
+      ParseTypedWords(TrimBlanks(ExtraBox(kind).Text()), letters, MakeSystemSegmenter);
   if (!typed.fits) {
     return {false, IsIgnore(kind) ? "Too many words to ignore." : "Too many count-only words."};
   }
   std::string cleaned = JoinWithBlanks(typed.items);
-  ExtraList(kind) = WordList(std::move(typed.items));
+  ExtraList(kind) = WordList(std::move(typed.items), letters);
   ListTaken.Fire();
   return {true, std::move(cleaned)};
 }
@@ -171,6 +178,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
   try {
     const PhaseGuard guard(run_, RunPhase::kReading);
     InputFile file(path);  // opened once: what comes from a pipe comes only once
+    const std::optional<ContentMark> contents = ContentMarkOf(path);
     if (file.AwaitsWriter()) {
       messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;
@@ -196,6 +204,7 @@ bool WordListReader::ReadWords(WordListKind kind) {
     TakeWordsFromStore(kind);
     FileInForce(kind) = path;
     inForce_.listForms[IndexOf(kind)] = ReadListForm(frmParams_);
+    inForce_.listContents[IndexOf(kind)] = contents;
     ListTaken.Fire();
     return true;
   } catch (const InputTooLong& error) {
@@ -215,7 +224,7 @@ void WordListReader::ScanWordsFile(WordsFile& file, const ScanChoices& choices) 
 }
 
 void WordListReader::TakeWordsFromStore(WordListKind kind) {
-  FileList(kind) = WordList(WordsIn(words_.store));
+  FileList(kind) = WordList(WordsIn(words_.store), ReadKeyRule(frmParams_).letters);
   if (!IsIgnore(kind)) TickAllowBoxesForListWords();
 }
 
@@ -290,6 +299,7 @@ void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
 }
 
 bool WordListReader::TakeBoxes() {
+  inForce_.listsReadAgain.clear();
   for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
     if (!TakeTypedWords(kind) || !TakeWordsFile(kind)) return false;
   }
@@ -310,8 +320,19 @@ bool WordListReader::TakeTypedWords(WordListKind kind) {
 bool WordListReader::TakeWordsFile(WordListKind kind) {
   const std::string path = PathBox(kind).Text();
   if (path.empty()) ForgetWordsOfFile(kind);
-  if (IsInForce(kind, path)) return true;
+  const bool inForce = IsInForce(kind, path);
+  if (inForce && (path.empty() || HoldsTheSame(kind))) return true;
   if (!FileExists(path)) return TellNotFound(kind);
+  const std::vector<std::string> before = FileList(kind).Words();
+  const bool ok = ReadForCount(kind, path);
+  if (ok && inForce && FileList(kind).Words() != before) {
+    std::string& readAgain = inForce_.listsReadAgain;
+    readAgain.append(readAgain.empty() ? "" : ", ").append(FileNamePartOf(path));
+  }
+  return ok;
+}
+
+bool WordListReader::ReadForCount(WordListKind kind, const std::string& path) {
   const bool ok = ReadWords(kind);
   if (run_.Quitting()) return false;
   if (!ok) TellNotLoaded(kind, path);

@@ -52,7 +52,8 @@ class WordListReader {
   /// is read, and an emptied box empties its list.
   void OnWordsFileLostFocus(WordListKind kind);
 
-  /// Makes the lists what their boxes say, before a count: what is in force already costs nothing.
+  /// Makes the lists what their boxes say, before a count: a file is read unless its words are in
+  /// force already and it has not been changed since.
   /// False when a box does not stand for a list; the user has been told, about nothing else.
   [[nodiscard]] bool TakeBoxes();
   /// Lets the user choose a words file and reads it.
@@ -76,6 +77,7 @@ class WordListReader {
   [[nodiscard]] bool TellNotFound(WordListKind kind);
   void TellNotLoaded(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeWordsFile(WordListKind kind);
+  [[nodiscard]] bool ReadForCount(WordListKind kind, const std::string& path);
   [[nodiscard]] bool TakeTypedWords(WordListKind kind);
   void DecodeTypedWords(WordListKind kind);
   void TellTypedLosses(WordListKind kind, const std::string& cleaned);
@@ -90,6 +92,8 @@ class WordListReader {
   /// Whether the words of the file are those that it has under the present rule of letters, and in
   /// the present encoding.
   [[nodiscard]] bool IsInForce(WordListKind kind, const std::string& path);
+  /// Whether the file of the list holds what it held then; true where that cannot be told.
+  [[nodiscard]] bool HoldsTheSame(WordListKind kind);
   /// The file that the list was read from; "" when it was read from none.
   [[nodiscard]] std::string& FileInForce(WordListKind kind);
 

@@ -32,18 +32,18 @@ class NeverStopped final : public ScanYield {
 
 std::optional<WordList> WordsOfFile(const std::string& path, const ScanChoices& choices,
                                     CharacterSet encoding) {
-  const std::int64_t bytes = FileLength(path).value_or(0);
-  if (bytes == 0 || bytes > kMostBytes) return std::nullopt;
+  const std::optional<std::int64_t> bytes = FileLength(path);
+  if (!bytes || *bytes > kMostBytes) return std::nullopt;
   try {
     InputFile input(path);
-    WordsFile file(input, encoding, false);
+    WordsFile file(input, encoding, *bytes == 0);
     if (file.Type() == LineEndingType::kNotText) return std::nullopt;
     ScanSettings settings;
     SetUpForWordsFile(settings, choices);
     WordStore store;
     NeverStopped yield;
     static_cast<void>(file.Scan(settings, choices, store, yield));
-    return WordList(WordsIn(store));
+    return WordList(WordsIn(store), choices.letters);
   } catch (const RunTimeError&) {
     return std::nullopt;
   } catch (const std::bad_alloc&) {
@@ -58,19 +58,28 @@ const WordLists& ListsToTry::Lists() {
   for (std::size_t kind = 0; kind < madeOf_.size(); ++kind) {
     const std::string& typed = frmParams_.txbWordsToIgnoreOrCount[kind].Text();
     std::optional<MadeOf>& madeOf = madeOf_[kind];
+    const std::optional<ContentMark> contents = ContentsOfFile(kind);
     const bool sameForm = madeOf && madeOf->form == form;
-    if (!sameForm) lists_.*kOfFile[kind] = OfFile(kind);
+    if (!sameForm || madeOf->contents != contents) lists_.*kOfFile[kind] = OfFile(kind, contents);
     if (!sameForm || madeOf->typed != typed) lists_.*kTyped[kind] = Typed(kind);
-    madeOf = {form, typed};
+    madeOf = {form, contents, typed};
   }
   return lists_;
 }
 
-WordList ListsToTry::OfFile(std::size_t kind) const {
+/// Nothing where nobody would read them.
+std::optional<ContentMark> ListsToTry::ContentsOfFile(std::size_t kind) const {
+  const std::string& path = inForce_.filesRead.wordsFiles[kind];
+  if (path.empty() || FileLength(path).value_or(0) > kMostBytes) return std::nullopt;
+  return ContentMarkOf(path);
+}
+
+WordList ListsToTry::OfFile(std::size_t kind, const std::optional<ContentMark>& contents) const {
   const WordList& inForce = inForce_.lists.*kOfFile[kind];
   const std::string& path = inForce_.filesRead.wordsFiles[kind];
   const ListForm form = ReadListForm(frmParams_);
-  if (path.empty() || inForce_.listForms[kind] == form) return inForce;
+  const bool isRead = inForce_.listForms[kind] == form && inForce_.listContents[kind] == contents;
+  if (path.empty() || isRead) return inForce;
   return WordsOfFile(path, ReadScanChoices(frmParams_), form.encoding).value_or(inForce);
 }
 
@@ -81,7 +90,7 @@ WordList ListsToTry::Typed(std::size_t kind) const {
   if (!IsWellFormedUtf8(text)) return inForce;
   const ScanChoices choices = ReadScanChoices(frmParams_);
   SplitResult typed = ParseTypedWords(TrimBlanks(text), choices.letters, choices.makeSegmenter);
-  return typed.fits ? WordList(std::move(typed.items)) : inForce;
+  return typed.fits ? WordList(std::move(typed.items), choices.letters) : inForce;
 }
 
 }  // namespace quillomat

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "app/count/content_mark.h"
 #include "app/count/in_force.h"
 #include "app/count/list_form.h"
 #include "engine/word_list.h"
@@ -22,8 +23,9 @@ class ListsToTry {
   ListsToTry(ParamsForm& frmParams, const InForce& inForce)
       : frmParams_(frmParams), inForce_(inForce) {}
 
-  /// Good until the next call. Lists are made anew only where the choices, or what is typed, have
-  /// changed; where a file would take long to be read, or cannot be, its words are those in force.
+  /// Good until the next call. Lists are made anew only where the choices, the file, or what is
+  /// typed, have changed; where a file would take long to be read, or cannot be, its words are
+  /// those in force.
   [[nodiscard]] const WordLists& Lists();
 
   /// The lists in force have changed.
@@ -33,10 +35,12 @@ class ListsToTry {
   /// What the two lists of a kind were made of.
   struct MadeOf {
     ListForm form;
+    std::optional<ContentMark> contents;
     std::string typed;
   };
 
-  [[nodiscard]] WordList OfFile(std::size_t kind) const;
+  [[nodiscard]] std::optional<ContentMark> ContentsOfFile(std::size_t kind) const;
+  [[nodiscard]] WordList OfFile(std::size_t kind, const std::optional<ContentMark>& contents) const;
   [[nodiscard]] WordList Typed(std::size_t kind) const;
 
   ParamsForm& frmParams_;

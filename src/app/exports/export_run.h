@@ -9,7 +9,7 @@
 
 #include "app/count/run_state.h"
 #include "export/export_table.h"
-#include "ui/yielder.h"
+#include "ui/event_pump.h"
 
 namespace quillomat {
 

@@ -11,8 +11,8 @@
 #include "app/exports/result_export.h"
 #include "app/what_parts_share.h"
 #include "export/export_format.h"
+#include "ui/event_pump.h"
 #include "ui/export_form.h"
-#include "ui/yielder.h"
 
 namespace quillomat {
 

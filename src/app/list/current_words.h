@@ -31,6 +31,8 @@ struct FolderFigures {
   /// Lines, ended with CR LF, about files and folders that had to be skipped.
   std::string skippedNotice;
   LeftOut leftOut;
+  /// The first file with bytes that could not be decoded; "" where there is none.
+  std::string firstNotDecoded;
 };
 
 struct CurrentWords {

@@ -36,6 +36,11 @@ bool NamesOtherText(const NoticeFacts& facts) {
   return !facts.file.empty() || !facts.folder.empty() || facts.clipboard;
 }
 
+/// 0 where they do, or do not, belong in front of letters that were not counted.
+std::int64_t LinesNotUtf8(const NoticeFacts& facts, bool beforeLetters) {
+  return beforeLetters == (facts.foreignLetters > 0) ? facts.linesNotUtf8 : 0;
+}
+
 using enum NoticeAction;
 
 // First what makes the list other than it looks, then what is missing in it by the user's own will.
@@ -69,13 +74,28 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      {kCountAgain}},
     {kBytesNotDecodedText,
      kByteNotDecodedText,
-     [](const NoticeFacts& facts) { return NumberOf(facts.bytesNotDecoded); },
+     [](const NoticeFacts& facts) {
+       return facts.firstNotDecoded.empty() ? NumberOf(facts.bytesNotDecoded) : Values();
+     },
+     {kChangeEncoding}},
+    {kBytesNotDecodedInText,
+     kByteNotDecodedInText,
+     [](const NoticeFacts& facts) {
+       if (facts.bytesNotDecoded == 0 || facts.firstNotDecoded.empty()) return Values();
+       return Values(std::vector<NoticeValue>{facts.bytesNotDecoded, facts.firstNotDecoded});
+     },
+     {kChangeEncoding}},
+    // Letters of another alphabet that are read so are others than were written.
+    {kLinesNotUtf8Text,
+     kLineNotUtf8Text,
+     [](const NoticeFacts& facts) { return NumberOf(LinesNotUtf8(facts, true)); },
      {kChangeEncoding}},
     {kLettersNotCountedText,
      kLetterNotCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.foreignLetters); },
      {kCountAllLetters}},
     {kRunsLeftWholeText, 0, [](const NoticeFacts& facts) { return If(facts.runsLeftWhole); }},
+    {kListsReadAgainText, 0, [](const NoticeFacts& facts) { return NameOf(facts.listsReadAgain); }},
     {kOnlyWordsCountedText,
      kOnlyWordCountedText,
      [](const NoticeFacts& facts) { return NumberOf(facts.countOnlyWords); },
@@ -89,7 +109,7 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      {kShowTable, kExport}},
     {kLinesNotUtf8Text,
      kLineNotUtf8Text,
-     [](const NoticeFacts& facts) { return NumberOf(facts.linesNotUtf8); },
+     [](const NoticeFacts& facts) { return NumberOf(LinesNotUtf8(facts, false)); },
      {kChangeEncoding}},
     {kFilesLeftOutText,
      kFileLeftOutText,

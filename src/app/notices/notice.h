@@ -50,10 +50,14 @@ struct NoticeFacts {
   bool runsLeftWhole = false;
   /// What of the text's bytes was not as its encoding wants it (Uncounted).
   std::int64_t bytesNotDecoded = 0;
+  /// The first of the files of a folder that has such bytes.
+  std::string firstNotDecoded = {};
   std::int64_t linesNotUtf8 = 0;
   /// Files of a folder that were left out by design, and why, in words.
   std::int64_t filesLeftOut = 0;
   std::string leftOutBecause = {};
+  /// Words files that were changed and read again before the count.
+  std::string listsReadAgain = {};
   /// By the lists of words that the count went by.
   std::int64_t countOnlyWords = 0;
   /// All words were counted, though some are named that alone should have been.

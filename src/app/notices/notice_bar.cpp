@@ -80,6 +80,7 @@ NoticeFacts NoticeBar::Facts() const {
     facts.skipped = countRun_.SkippedInAll();
     const LeftOut& leftOut = words_.folder.leftOut;
     facts.filesLeftOut = leftOut.InAll();
+    facts.firstNotDecoded = NameOf(words_.folder.firstNotDecoded);
     facts.leftOutBecause = leftOut.Reasons(messages_.Text(kNoTextOrEmptyText));
   }
   AddTextCounted(facts);
@@ -91,6 +92,7 @@ NoticeFacts NoticeBar::Facts() const {
   facts.runsLeftWhole = words_.uncounted.runsLeftWhole;
   facts.bytesNotDecoded = words_.uncounted.bytesNotDecoded;
   facts.linesNotUtf8 = words_.uncounted.linesNotUtf8;
+  facts.listsReadAgain = basis.listsReadAgain;
   facts.countOnlyWords = basis.countOnlyWords;
   facts.noCountOnlyWord = basis.namesNoCountOnlyWord;
   facts.wordsToIgnore = basis.wordsToIgnore;

@@ -27,6 +27,10 @@ int ReasonTextOf(Refusal refusal) {
       return kFolderUnreadableText;
     case Refusal::kReadFailed:
       return kFileReadFailedText;
+    case Refusal::kIsOutput:
+      return kFileIsOutputText;
+    case Refusal::kIsFolder:
+      return kFileIsFolderText;
     default:
       return kFileNotOpenedText;
   }
@@ -34,12 +38,6 @@ int ReasonTextOf(Refusal refusal) {
 
 bool IsNotRead(const FileReport& file) {
   return file.refusal != Refusal::kNone || IsReadInPart(file);
-}
-
-FileCell SortKeyOf(const FileReport& file, FileColumn column) {
-  if (column != FileColumn::kSkipped || !IsNotRead(file)) return CellOf(file, column);
-  const bool byDesign = file.refusal != Refusal::kNone && !IsFault(file.refusal);
-  return (byDesign ? "1" : "2") + std::get<std::string>(CellOf(file, column));
 }
 
 }  // namespace
@@ -96,6 +94,16 @@ void FileRows::SetOrder(std::optional<Order> order) {
   Changed.Fire();
 }
 
+void FileRows::ShowLanguage() {
+  SetOrder(order_);
+}
+
+FileCell FileRows::SortKeyOf(const FileReport& file, FileColumn column) const {
+  if (column != FileColumn::kSkipped || !IsNotRead(file)) return ShownCell(file, column);
+  const bool byDesign = file.refusal != Refusal::kNone && !IsFault(file.refusal);
+  return (byDesign ? "1" : "2") + ReasonText(file);
+}
+
 /// Files that are alike in a column stay in the order of the count.
 void FileRows::Arrange() {
   std::iota(places_.begin(), places_.end(), 0U);
@@ -125,15 +133,19 @@ std::string FileRows::StoppedText(const NumberSigns& signs) const {
   return ReachText(*words_.stoppedAfter, text_, signs);
 }
 
-std::string FileRows::TextAt(std::size_t row, FileColumn column, const NumberSigns& signs) const {
-  const FileReport& file = words_.files[places_[row]];
+/// In the current language, where it has one.
+FileCell FileRows::ShownCell(const FileReport& file, FileColumn column) const {
   if (column == FileColumn::kSkipped) return ReasonText(file);
   if (column == FileColumn::kLineEnds && file.lines) {
     const LineEndKind kind = LineEndKindOf(*file.lines);
     if (kind == LineEndKind::kNone) return text_.GetText(kNoLineEndsText);
     if (kind == LineEndKind::kMixed) return text_.GetText(kMixedLineEndsText);
   }
-  const FileCell cell = CellOf(file, column);
+  return CellOf(file, column);
+}
+
+std::string FileRows::TextAt(std::size_t row, FileColumn column, const NumberSigns& signs) const {
+  const FileCell cell = ShownCell(words_.files[places_[row]], column);
   if (const auto* number = std::get_if<std::int64_t>(&cell)) {
     return GroupDigits(*number, signs.group);
   }

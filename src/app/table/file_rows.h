@@ -58,10 +58,15 @@ class FileRows {
   /// counts, too.
   void SetOrder(std::optional<Order> order);
 
+  /// The program speaks another language: what is shown of the files may stand in another order.
+  void ShowLanguage();
+
  private:
   void TakeFiles();
   void Arrange();
   [[nodiscard]] std::string ReasonText(const FileReport& file) const;
+  [[nodiscard]] FileCell ShownCell(const FileReport& file, FileColumn column) const;
+  [[nodiscard]] FileCell SortKeyOf(const FileReport& file, FileColumn column) const;
 
   const CurrentWords& words_;
   const ProgramText& text_;

@@ -56,7 +56,8 @@ void ResultTable::TellFaultAgain() {
   if (const auto* fault = std::get_if<ExpressionFault>(&read)) fault_ = fault->description;
 }
 
-void ResultTable::SetFilter(const RowFilter& filter) {
+void ResultTable::SetFilter(RowFilter filter) {
+  if (filter.kind != FilterKind::kExpression) filter.text = std::string(TrimTyped(filter.text));
   if (filter == filter_) return;
   filter_ = filter;
   fault_.clear();

@@ -34,7 +34,7 @@ class ResultTable {
   [[nodiscard]] RowOrder Order() const { return order_; }
 
   /// An expression that is not understood changes nothing but Fault.
-  void SetFilter(const RowFilter& filter);
+  void SetFilter(RowFilter filter);
   [[nodiscard]] const RowFilter& Filter() const { return filter_; }
   /// The last one that was understood: what the rows are filtered by.
   [[nodiscard]] const RowFilter& FilterInForce() const { return filterInForce_; }

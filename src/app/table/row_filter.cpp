@@ -1,5 +1,8 @@
 #include "app/table/row_filter.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 
 #include "base/utf8.h"
@@ -10,6 +13,24 @@
 namespace quillomat {
 namespace {
 
+/// White space of Unicode, and the mark that some programs put in front of what they copy.
+constexpr std::array<std::pair<char32_t, char32_t>, 10> kBlanks = {{{U'\t', U'\r'},
+                                                                    {U' ', U' '},
+                                                                    {0x0085, 0x0085},
+                                                                    {0x00A0, 0x00A0},
+                                                                    {0x2000, 0x200A},
+                                                                    {0x2028, 0x2029},
+                                                                    {0x202F, 0x202F},
+                                                                    {0x205F, 0x205F},
+                                                                    {0x3000, 0x3000},
+                                                                    {0xFEFF, 0xFEFF}}};
+
+bool IsBlank(std::string_view text, std::size_t position) {
+  const char32_t ch = CharacterAt(text, position).codePoint;
+  return std::ranges::any_of(
+      kBlanks, [ch](const auto& range) { return range.first <= ch && ch <= range.second; });
+}
+
 /// Signs of patterns and expressions stand for characters, and not for what these are folded to.
 bool CountsCharacters(FilterKind kind) {
   return kind == FilterKind::kPattern || kind == FilterKind::kExpression;
@@ -17,7 +38,16 @@ bool CountsCharacters(FilterKind kind) {
 
 }  // namespace
 
+std::string_view TrimTyped(std::string_view text) {
+  while (!text.empty() && IsBlank(text, 0)) text.remove_prefix(CharacterAt(text, 0).bytes);
+  while (!text.empty() && IsBlank(text, LastCharacterStart(text))) {
+    text = text.substr(0, LastCharacterStart(text));
+  }
+  return text;
+}
+
 std::string KeyOfTyped(std::string_view text, KeyRule rule) {
+  text = TrimTyped(text);
   std::string normal;
   std::string scratch;
   if (rule.letters == LetterRule::kAll) text = NormalForm(text, DottedCapitalI::kLowered, normal);

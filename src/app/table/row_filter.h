@@ -57,7 +57,11 @@ struct ExpressionFault {
 using ExpressionReader =
     std::function<std::variant<Matcher, ExpressionFault>(std::string_view expression)>;
 
-/// What is typed, as a list of that rule folds words.
+/// What is typed, without the blanks, tabs and line ends of any kind at its ends: who copies a word
+/// from a cell or a line often copies them along.
+[[nodiscard]] std::string_view TrimTyped(std::string_view text);
+
+/// The same, as a list of that rule folds words.
 [[nodiscard]] std::string KeyOfTyped(std::string_view text, KeyRule rule);
 
 /// A filter made ready to look at many words.

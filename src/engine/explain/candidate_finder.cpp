@@ -6,7 +6,6 @@
 
 #include "base/direction_marks.h"
 #include "base/utf8.h"
-#include "engine/uncounted.h"
 #include "engine/unicode_traits.h"
 
 namespace quillomat {
@@ -29,7 +28,7 @@ bool LooksLikeNothing(char32_t codePoint) {
 
 /// Signs that can be allowed in words, and those beyond ASCII that look like them or like nothing.
 bool IsSign(char32_t codePoint) {
-  constexpr std::u32string_view kSigns = U"-'_:\\/().,@\u2010\u2011\u2018\u2019\uFF07";
+  constexpr std::u32string_view kSigns = U"-'_:\\/().,@\u02BC\u2010\u2011\u2018\u2019\uFF07";
   return kSigns.find(codePoint) != std::u32string_view::npos || LooksLikeNothing(codePoint);
 }
 
@@ -117,9 +116,7 @@ void CandidateFinder::TakeCharacter(char32_t codePoint, std::size_t start, std::
       return EndStretch();
     case CharacterKind::kMark:
       if (stretch_.IsEmpty()) return;
-      // A mark behind another stands where that stands.
-      if (start != behindMark_ && EndsInLetter(text_.substr(0, start))) stretch_.hasLetters = true;
-      behindMark_ = end;
+      if (marks_.IsOnLetter(start, end - start)) stretch_.hasLetters = true;
       break;
     case CharacterKind::kLetter:
       stretch_.hasLetters = true;

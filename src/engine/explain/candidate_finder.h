@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/explain/candidate.h"
+#include "engine/uncounted.h"
 #include "engine/word_scanner.h"
 
 namespace quillomat {
@@ -27,7 +28,10 @@ struct FoundPiece {
 
 class CandidateFinder final : public ScanWitness {
  public:
-  void OnText(std::string_view text) override { text_ = text; }
+  void OnText(std::string_view text) override {
+    text_ = text;
+    marks_ = MarksOnLetters(text);
+  }
   void OnComment(std::string_view comment) override;
   void OnToken(std::string_view token) override;
 
@@ -61,8 +65,7 @@ class CandidateFinder final : public ScanWitness {
   std::string_view text_;
   /// Up to there the text was looked at.
   std::size_t position_ = 0;
-  /// The place behind the last mark.
-  std::size_t behindMark_ = 0;
+  MarksOnLetters marks_;
   Stretch stretch_;
   std::vector<FoundPiece> pieces_;
 };

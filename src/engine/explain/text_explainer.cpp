@@ -117,8 +117,7 @@ class TextExplainer {
     }
     candidate.lostFinalS = form.word.size() < form.trimmed.size();
     candidate.word = form.word;
-    const ListVerdict verdict =
-        lists_.VerdictOn(form.word, settings_.CountOnlyMode, choices_.letters);
+    const ListVerdict verdict = lists_.VerdictOn(form.word, settings_.CountOnlyMode);
     if (verdict != ListVerdict::kAdmitted) return LeaveOut(candidate, ReasonOf(verdict));
     const std::optional<std::uint32_t> place = store_.AddWord(form.word);
     if (!place) return LeaveOut(candidate, CandidateReason::kTooLongToStore);

@@ -163,14 +163,19 @@ bool ThreadedScan::ScanLongLine(LinePieces& pieces, const Callbacks& callbacks) 
   longLine_.reset();
   scanner_.SetWordsRead(target_.wordsRead);
   LongLine line({target_.settings, choices_, lists_, target_.store, yield_, scanner_});
-  for (bool more = true; more && !yield_.stopped; yield_.Ask()) {
+  bool more = true;
+  for (; more && !yield_.stopped; yield_.Ask()) {
     const std::string_view text = part.Text();
     callbacks.onBytes(BytesWithLongLineEnds(text));
     line.Take(text.substr(0, FindLineEnd(text)));
     target_.wordsRead = scanner_.WordsRead();  // whatever becomes of the rest
     more = pieces.IsInLongLine() && pieces.Next(part);
   }
-  line.End();
+  if (more) {
+    line.BreakOff();
+  } else {
+    line.End();
+  }
   target_.wordsRead = scanner_.WordsRead();
   nextOpen_ = target_.settings.OpenComment;
   spareTexts_.push_back(std::move(part));

@@ -55,6 +55,39 @@ TEST_F(BoxesInForce, LeavingTheBoxWithTheFileInForceReadsNothing) {
   EXPECT_EQ(StoredWords(), "dog");
 }
 
+TEST_F(BoxesInForce, CountReadsAWordsFileAgainThatWasEditedSince) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\r\n"));
+  CountClipboard("bird cat dog");
+  EXPECT_EQ(StoredWords(), "bird dog");
+  for (const auto& [list, words] : {std::pair{"dog\r\n", "bird cat"}, {"", "bird cat dog"}}) {
+    static_cast<void>(folder.Write("a.txt", list));
+    CountClipboard("bird cat dog");
+    EXPECT_EQ(StoredWords(), words);
+    EXPECT_EQ(Main().lblNotice.Caption(),
+              "The list of words has changed and was read again: a.txt.");
+  }
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+}
+
+TEST_F(BoxesInForce, NothingIsSaidOfAWordsFileOfTheSameWords) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\r\n"));
+  CountClipboard("cat dog");
+  static_cast<void>(folder.Write("a.txt", "cat // not the dog\r\n"));
+  CountClipboard("cat dog");
+  EXPECT_EQ(StoredWords(), "dog");
+  EXPECT_EQ(Main().lblNotice.Caption(), "A list of one word to ignore is in use.");
+  EXPECT_THAT(desktop.Titles(), IsEmpty());
+}
+
+TEST_F(BoxesInForce, CountTellsOfAWordsFileThatHasGoneSince) {
+  TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "cat\r\n"));
+  CountClipboard("cat dog");
+  std::filesystem::remove(folder / "a.txt");
+  CountClipboard("cat dog");
+  EXPECT_THAT(desktop.Titles(), ElementsAre("File not found"));
+  EXPECT_EQ(WordsFileBox(WordListKind::kIgnore).Text(), folder / "a.txt");
+}
+
 TEST_F(BoxesInForce, ClickThatMendsALostWordsFileIsCarriedOutWithoutAWord) {
   for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
     Panel().SetFocus(WordsFileBox(kind));

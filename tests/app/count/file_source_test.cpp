@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "app/count/input_file_row.h"
 #include "app/count/sources_fixture.h"
 #include "system/desktop_test.h"
 
@@ -320,6 +321,13 @@ TEST_F(FileSourceTest, AFileWithoutWordsIsReadAllTheSame) {
 }
 
 // The window during a scan.
+
+TEST(FileSizeText, IsWrittenAsTheUserWritesNumbers) {
+  const NumberSigns signs{.group = ".", .decimal = ","};
+  EXPECT_EQ(FileSizeText(9'999, signs), "Filesize: 9.999 bytes");
+  EXPECT_EQ(FileSizeText(12'345, signs), "Filesize: 12,06 KB");
+  EXPECT_EQ(FileSizeText(12'345'678, signs), "Filesize: 11,77 MB");
+}
 
 TEST_F(FileSourceTest, WhileAFileIsReadOnlyStopCanBeUsed) {
   EveryYieldPumps();

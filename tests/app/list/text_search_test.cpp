@@ -56,6 +56,8 @@ TEST(TextSearch, PlacesFollowEachOther) {
 TEST(TextSearch, NothingIsFoundWhereNothingIsLookedFor) {
   EXPECT_TRUE(PlacesIn("cat", "", kWestern).empty());
   EXPECT_TRUE(PlacesIn("", "cat", kWestern).empty());
+  EXPECT_TRUE(PlacesIn("cat dog", " \n", kWestern).empty());
+  EXPECT_EQ(PlacesIn("a cat", " cat\n", kWestern), PlacesIn("a cat", "cat", kWestern));
   EXPECT_TRUE(PlacesIn("cat", "cats", kWestern).empty());
 }
 

@@ -96,6 +96,28 @@ TEST_F(FileRowsTest, StandInTheOrderOfAColumnAlsoAfterTheNextCount) {
   EXPECT_THAT(Names(), ElementsAre("a.txt", "b.txt", "c.txt"));
 }
 
+TEST_F(FileRowsTest, StandInTheOrderOfWhatIsShownInAnyLanguage) {
+  static_cast<void>(folder.Write("texts/dos.txt", "cat\r\n"));
+  static_cast<void>(folder.Write("texts/empty.txt", ""));
+  static_cast<void>(folder.Write("texts/mixed.txt", "cat\r\ndog\n"));
+  static_cast<void>(folder.Write("texts/no.txt", std::string_view("\0\1", 2)));
+  desktop.Answer(MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
+  CountFolder(folder / "texts");
+  const auto shownOf = [this](FileColumn column) {
+    std::vector<std::string> shown = Column(column);
+    std::erase(shown, "");
+    return shown;
+  };
+  rows_.SetOrder(FileRows::Order{FileColumn::kSkipped, false});
+  EXPECT_THAT(shownOf(FileColumn::kSkipped), ElementsAre("empty", "not text"));
+  Main().cmdLanguage.PerformClick();
+  rows_.ShowLanguage();
+  EXPECT_THAT(shownOf(FileColumn::kSkipped), ElementsAre("kein Text", "leer"));
+  rows_.SetOrder(FileRows::Order{FileColumn::kLineEnds, true});
+  EXPECT_THAT(shownOf(FileColumn::kLineEnds), ElementsAre("gemischt", "DOS"));
+}
+
 TEST_F(FileRowsTest, TellWhetherAndWhereOneWasNotRead) {
   CountFile(folder.Write("one.txt", "one two"));
   EXPECT_FALSE(rows_.AnyNotRead());

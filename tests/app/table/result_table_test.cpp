@@ -68,6 +68,19 @@ TEST_F(ResultTableTest, OrderAndFilterStayForTheNextCount) {
   EXPECT_EQ(Shown(), "parrot cow rat ");
 }
 
+TEST_F(ResultTableTest, BlanksAndLineEndsAroundAFilterAreNoPartOfIt) {
+  CountClipboard("cat dog");
+  for (const char* typed : {" cat", "cat\n", "\r\n\tcat \u2029", "\u00A0cat\u3000"}) {
+    table_.SetFilter({FilterKind::kEquals, typed});
+    EXPECT_EQ(table_.FilterInForce().text, "cat");
+    EXPECT_EQ(Shown(), "cat ") << typed;
+  }
+  table_.SetFilter({FilterKind::kContains, " \n"});
+  EXPECT_EQ(Shown(), "cat dog ");
+  table_.SetFilter({FilterKind::kExpression, "cat "});
+  EXPECT_EQ(table_.FilterInForce().text, "cat ");
+}
+
 TEST_F(ResultTableTest, ExpressionThatIsNotUnderstoodChangesNothing) {
   CountClipboard("cat dog");
   table_.SetFilter({FilterKind::kExpression, "cat"});

@@ -1,4 +1,4 @@
-#include "ui/yielder.h"
+#include "ui/event_pump.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 using std::chrono::nanoseconds;
 
 /// A desktop that remembers when it was pumped, by a clock that the test moves.
-class YielderTest : public ::testing::Test {
+class EventPumpTest : public ::testing::Test {
  protected:
   EventPump::TimePoint Now() {
     ++looks_;
@@ -44,7 +44,7 @@ class YielderTest : public ::testing::Test {
   EventPump pump_{desktop_, [this] { return Now(); }};
 };
 
-TEST_F(YielderTest, QuickCallsPumpEvery15Milliseconds) {
+TEST_F(EventPumpTest, QuickCallsPumpEvery15Milliseconds) {
   Work(pump_, 100'000'000, 10ns);  // one second at 100 MHz
   EXPECT_GE(desktop_.Pumps(), 60);
   EXPECT_LE(desktop_.Pumps(), 66);
@@ -52,36 +52,36 @@ TEST_F(YielderTest, QuickCallsPumpEvery15Milliseconds) {
   EXPECT_EQ(desktop_.Repaints(), desktop_.Pumps());
 }
 
-TEST_F(YielderTest, QuickCallsSeldomLookAtTheClock) {
+TEST_F(EventPumpTest, QuickCallsSeldomLookAtTheClock) {
   Work(pump_, 1'000'000, 10ns);
   EXPECT_LT(looks_, 1'000'000 / 120);
 }
 
-TEST_F(YielderTest, NeverLaterThan20MillisecondsAt100Kilohertz) {
+TEST_F(EventPumpTest, NeverLaterThan20MillisecondsAt100Kilohertz) {
   Work(pump_, 300'000, 10us);
   EXPECT_LE(longestGap_, 20ms);
   EXPECT_GE(longestGap_, 15ms);
 }
 
-TEST_F(YielderTest, NeverEarlierThanTheInterval) {
+TEST_F(EventPumpTest, NeverEarlierThanTheInterval) {
   Work(pump_, 14, 1ms);
   EXPECT_EQ(desktop_.Pumps(), 0);
   Work(pump_, 1, 1ms);
   EXPECT_EQ(desktop_.Pumps(), 1);
 }
 
-TEST_F(YielderTest, OneCallPerMillisecondPumpsInTime) {
+TEST_F(EventPumpTest, OneCallPerMillisecondPumpsInTime) {
   Work(pump_, 1000, 1ms);
   EXPECT_LE(longestGap_, 17ms);
   EXPECT_GE(desktop_.Pumps(), 60);
 }
 
-TEST_F(YielderTest, CallsSlowerThanTheIntervalPumpEachTime) {
+TEST_F(EventPumpTest, CallsSlowerThanTheIntervalPumpEachTime) {
   Work(pump_, 100, 30ms);
   EXPECT_EQ(desktop_.Pumps(), 100);
 }
 
-TEST_F(YielderTest, GetsUsedToCallsThatBecomeSlow) {
+TEST_F(EventPumpTest, GetsUsedToCallsThatBecomeSlow) {
   Work(pump_, 1'000'000, 10ns);
   Work(pump_, EventPump::kMostCallsPerLook, 1ms);  // the count that was running
   const int before = desktop_.Pumps();
@@ -92,14 +92,14 @@ TEST_F(YielderTest, GetsUsedToCallsThatBecomeSlow) {
   EXPECT_LE(longestGap_, 17ms);
 }
 
-TEST_F(YielderTest, GetsUsedToCallsThatBecomeQuick) {
+TEST_F(EventPumpTest, GetsUsedToCallsThatBecomeQuick) {
   Work(pump_, 100, 30ms);
   looks_ = 0;
   Work(pump_, 1'000'000, 10ns);
   EXPECT_LT(looks_, 1'000'000 / 100);
 }
 
-TEST_F(YielderTest, YieldNowPumpsAtOnceAndStartsTheIntervalAnew) {
+TEST_F(EventPumpTest, YieldNowPumpsAtOnceAndStartsTheIntervalAnew) {
   Work(pump_, 10, 1ms);
   pump_.YieldNow();
   EXPECT_EQ(desktop_.Pumps(), 1);
@@ -110,7 +110,7 @@ TEST_F(YielderTest, YieldNowPumpsAtOnceAndStartsTheIntervalAnew) {
   EXPECT_EQ(desktop_.Pumps(), 2);
 }
 
-TEST_F(YielderTest, TimeSpentInEventsIsNotTheWorks) {
+TEST_F(EventPumpTest, TimeSpentInEventsIsNotTheWorks) {
   desktop_.AtPump(1, [this] { now_ += 10s; });  // a message box that stands for a while
   Work(pump_, 15, 1ms);
   EXPECT_EQ(desktop_.Pumps(), 1);
@@ -120,7 +120,7 @@ TEST_F(YielderTest, TimeSpentInEventsIsNotTheWorks) {
   EXPECT_EQ(desktop_.Pumps(), 2);
 }
 
-TEST_F(YielderTest, HandlerMayYieldItself) {
+TEST_F(EventPumpTest, HandlerMayYieldItself) {
   desktop_.AtPump(1, [this] { Work(pump_, 100, 1ms); });
   Work(pump_, 15, 1ms);
   EXPECT_GE(desktop_.Pumps(), 6);
@@ -128,7 +128,7 @@ TEST_F(YielderTest, HandlerMayYieldItself) {
   EXPECT_GE(desktop_.Pumps(), 7);
 }
 
-TEST_F(YielderTest, WhatAHandlerThrowsComesThrough) {
+TEST_F(EventPumpTest, WhatAHandlerThrowsComesThrough) {
   desktop_.AtPump(1, [] { throw std::runtime_error("stop"); });
   EXPECT_THROW(Work(pump_, 100, 1ms), std::runtime_error);
   Work(pump_, 100, 1ms);

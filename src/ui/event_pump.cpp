@@ -1,4 +1,4 @@
-#include "ui/yielder.h"
+#include "ui/event_pump.h"
 
 #include <algorithm>
 #include <utility>
