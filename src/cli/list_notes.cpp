@@ -20,8 +20,7 @@ constexpr Headed kNote{MessageTone::kWarning, "Note: "};
 /// The file or the option that names count-only words; "" where nothing does. Words that are typed
 /// and turn out to be signs alone have left the panel by now.
 std::string CountOnlySource(const CommandLine& options, const Program& program) {
-  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
-  const std::string& file = program.frmParams.txbWordsFile[kIndex].Text();
+  const std::string& file = WordsFileBoxOf(program.frmParams, WordListKind::kCountOnly).Text();
   if (!file.empty()) return file;
   return IsGiven(options, "--only-words") ? "--only-words" : "";
 }
@@ -55,8 +54,8 @@ std::int64_t CountInBoth(const WordLists& lists) {
 
 }  // namespace
 
-void TellListsWithoutEffect(const CommandLine& options, const Program& program,
-                            const Messages& messages, std::ostream& err) {
+void TellListsWithoutEffect(const CommandLine& options, Program& program, const Messages& messages,
+                            std::ostream& err) {
   const WordLists& lists = program.Settings().lists;
   const std::string source = CountOnlySource(options, program);
   if (!source.empty() && !lists.HasCountOnlyWords()) {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/count/panel_choices.h"
 #include "app/setting_values.h"
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
@@ -174,13 +175,14 @@ std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> optio
 }
 
 std::optional<std::string> FindWordsFileFault(const ParamsForm& frmParams) {
-  for (std::size_t i = 0; i < frmParams.txbWordsFile.size(); ++i) {
-    const std::string& path = frmParams.txbWordsFile[i].Text();
+  using enum WordListKind;
+  for (const WordListKind kind : {kIgnore, kCountOnly}) {
+    const TextBox& box = WordsFileBoxOf(frmParams, kind);
+    const std::string& path = box.Text();
     if (path.empty() || FileExists(path)) continue;
-    const bool isOfIgnored = i == static_cast<std::size_t>(WordListKind::kIgnore);
     return "the words file " + path + ", which the settings name, does not exist; " +
-           (isOfIgnored ? "--ignore" : "--only") + " FILE names another, --set '" +
-           frmParams.txbWordsFile[i].Name() + "=' none";
+           (kind == kIgnore ? "--ignore" : "--only") + " FILE names another, --set '" + box.Name() +
+           "=' none";
   }
   return std::nullopt;
 }

@@ -58,6 +58,16 @@ std::optional<std::string> PathBoxes::ChooseFileFor(const TextBox& box, FileDial
   return std::nullopt;
 }
 
+std::optional<std::string> PathBoxes::ChooseTextFileFor(const TextBox& box, std::string title) {
+  FileDialog dialog;
+  dialog.title = std::move(title);
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  dialog.hideReadOnly = true;
+  return ChooseFileFor(box, std::move(dialog));
+}
+
 std::optional<std::string> PathBoxes::ChooseFolderFor(const TextBox& box,
                                                       const std::string& title) {
   std::optional<std::string> path = desktop_.BrowseForFolder(title, FolderToOpen(box));

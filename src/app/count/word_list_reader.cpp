@@ -365,14 +365,9 @@ void WordListReader::ChooseCommonWords(const std::string& path) {
 
 void WordListReader::SelectWordsFile(WordListKind kind) {
   if (IsIgnore(kind) && !WantsWordsToIgnore()) return;
-  FileDialog dialog;
-  dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"
-                                : "Specify file containing count-only words";
-  dialog.filter = "Any text file (*.*) | *.*";
-  dialog.pathMustExist = true;
-  dialog.fileMustExist = true;
-  dialog.hideReadOnly = true;
-  const std::optional<std::string> path = paths_.ChooseFileFor(PathBox(kind), dialog);
+  const std::optional<std::string> path = paths_.ChooseTextFileFor(
+      PathBox(kind), IsIgnore(kind) ? "Specify file containing words to ignore"
+                                    : "Specify file containing count-only words");
   if (!path) return;
   PathBox(kind).SetText(*path);
   AttemptToReadWords(kind);
