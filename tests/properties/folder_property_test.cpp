@@ -19,7 +19,7 @@ namespace quillomat::properties {
 namespace {
 
 /// Files take longer to be written than a case to be counted.
-constexpr int kCasesPerFolder = 60;
+constexpr int kCasesPerFolder = 100;
 constexpr std::uint64_t kFolderSeed = 708;
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
