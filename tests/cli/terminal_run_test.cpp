@@ -503,7 +503,7 @@ TEST_F(TerminalRunTest, ProgressOfFilesHasABar) {
     arguments.emplace_back("--progress");
     EXPECT_EQ(Run(arguments), 0);
     EXPECT_THAT(err, StartsWith("[")) << text.front();
-    EXPECT_THAT(err, HasSubstr(" of 260 kB  ")) << text.front();
+    EXPECT_THAT(err, HasSubstr(" of 254 KB  ")) << text.front();
     EXPECT_THAT(err, HasSubstr(" left\n")) << text.front();
   }
 }
