@@ -32,9 +32,9 @@ class EncodedCharacters {
 };
 
 /// Of a set in which each byte of ASCII stands for itself where no other leads it. In one with
-/// characters of several bytes no single byte is a control beyond ASCII. Of bytes that
-/// have the form of a character and are none, all are replaced together, except that what is ASCII
-/// stays: it may be a letter of its own.
+/// characters of several bytes no single byte is a control beyond ASCII. Of bytes that have the
+/// form of a character and are none, all are replaced together, except that what is ASCII stays: it
+/// may be a letter of its own.
 class CharacterDecoder final : public TextDecoder {
  public:
   CharacterDecoder(CharacterSet set, std::unique_ptr<EncodedCharacters> characters);
