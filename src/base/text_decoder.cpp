@@ -17,8 +17,6 @@ bool IsLowSurrogate(char16_t unit) {
   return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// Of a character.
-
 /// Whether more bytes can make a character of `bytes`, which are none yet.
 bool MayBecomeCharacter(std::string_view bytes) {
   if (bytes.size() >= kMostUtf8Bytes) return false;

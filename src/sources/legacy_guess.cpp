@@ -9,6 +9,7 @@
 #include <string>
 #include <uchardet.h>
 
+#include "base/line_decoder.h"
 #include "base/text_decoder.h"
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
@@ -36,6 +37,17 @@ bool IsNearlyUtf8(std::string_view head) {
       text, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) == 0xC0U; });
   const std::int64_t characters = leads - broken;  // each broken byte has become one
   return characters > 0 && characters >= broken * kCharactersForOneBroken;
+}
+
+/// Whether a line has broken bytes and no character of UTF-8: then the lines are of several kinds.
+bool HasLineOfAnotherSet(std::string_view head) {
+  for (std::string_view rest = head; !rest.empty();) {
+    const std::size_t lineBytes = std::min(FindLineEnd(rest) + 1, rest.size());
+    const std::string_view line = rest.substr(0, lineBytes);
+    if (!IsWellFormedUtf8(line) && !IsNearlyUtf8(line)) return true;
+    rest.remove_prefix(lineBytes);
+  }
+  return false;
 }
 
 /// By what the library knows of languages.
@@ -160,7 +172,9 @@ CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
 }  // namespace
 
 CharacterSet GuessLegacySet(std::string_view head) {
-  if (IsNearlyUtf8(head)) return CharacterSet::kUtf8;
+  if (IsNearlyUtf8(head)) {
+    return HasLineOfAnotherSet(head) ? CharacterSet::kAsFound : CharacterSet::kUtf8;
+  }
   const CharacterSet set = Widened(Detected(head));
   if (set != CharacterSet::kAsFound) return OldSetIfLikelier(head, set);
   constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;

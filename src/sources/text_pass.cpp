@@ -157,7 +157,10 @@ void TextPass::ReadFile(InputFile& file, FileReport& report) {
   question_.SetStream(false);
   report.identity = file.Identity();
   ReadText(file, file.Length() >= TextReader::kBytesWorthThreads, report);
-  if (report.bytesRead < file.Length() && !state_.stop.Stopped()) throw EndedEarly(report);
+  const bool hasEnded = !state_.stop.Stopped();
+  if (hasEnded && report.bytesRead < file.Length() && file.LengthWasPromised()) {
+    throw EndedEarly(report);
+  }
 }
 
 void TextPass::ReadStream(ByteSource& source, FileReport& report) {

@@ -10,7 +10,7 @@
 //
 // Who would rather finish something first asks for First::kIsNoted and looks at InterruptionStatus
 // from time to time, or has an InterruptionWatch wait for it; the second interruption ends the
-// program at once all the same.
+// program at once all the same. Signals that come together are one.
 //
 // Of the files that stand under their names by then, standard error can be told.
 #pragma once

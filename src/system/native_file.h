@@ -54,6 +54,10 @@ class NativeFile {
   /// In bytes; 0 for what has no length.
   [[nodiscard]] std::int64_t Length() const;
 
+  /// Whether its bytes are kept on a disk, as far as the system tells. The length of a file that is
+  /// made up as it is read, like those in which the kernel tells of itself, promises nothing.
+  [[nodiscard]] bool IsStored() const;
+
   /// Nothing where the system does not tell.
   [[nodiscard]] std::optional<FileIdentity> Identity() const;
 

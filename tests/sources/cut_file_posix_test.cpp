@@ -6,6 +6,7 @@
 #include "sources/counter_fixture.h"
 #include "sources/file_columns.h"
 #include "sources/text_reader.h"
+#include "system/file_system.h"
 
 namespace quillomat {
 namespace {
@@ -68,6 +69,17 @@ TEST_P(CutFile, AmongOthersIsNamedAndCountsAsFarAsItGoes) {
     const FileCell told = CellOf(result.reports.at(0), FileColumn::kSkipped);
     EXPECT_THAT(std::get<std::string>(told), StartsWith("reading failed: Ended early, behind"));
   }
+}
+
+TEST(FileOfTheKernel, HasTheBytesThatItGives) {
+  // It says that it has a page of memory.
+  const std::string path = "/sys/kernel/mm/transparent_hugepage/enabled";
+  if (!FileExists(path)) GTEST_SKIP() << "this system has no such file";
+  CountRequest request;
+  request.source = TextOfFile{path};
+  const CountResult result = Counter(request).Run();
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  EXPECT_GT(result.store.NumDifferentWords(), 0);
 }
 
 TEST_P(CutFile, BehindAStopIsStopped) {

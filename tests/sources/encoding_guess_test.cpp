@@ -79,6 +79,12 @@ TEST_F(EncodingGuess, GuessTakesForUtf8OnlyWhatNearlyIs) {
   }
 }
 
+TEST_F(EncodingGuess, GuessLeavesLinesOfSeveralKindsToThemselves) {
+  const std::string text = TimesOver("Über die Brücke geht er früh.\n", 20) +
+                           TimesOver("L'\xE9t\xE9, Le\xEFla \xE0 la for\xEAt.\n", 2);
+  EXPECT_EQ(CharacterSetOf(text, CharacterSet::kGuess), CharacterSet::kAsFound);
+}
+
 TEST_F(EncodingGuess, GuessKnowsTextsOfDosAndTheMacintosh) {
   // "Der Bär überquert die Brücke. ..." and "L'été, les élèves préfèrent la forêt ...".
   EXPECT_EQ(CharacterSetOf(TimesOver("Der B\x84r \x81"

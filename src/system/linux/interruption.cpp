@@ -5,6 +5,8 @@
 #include <climits>
 #include <csignal>
 #include <cstddef>
+#include <cstdint>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
@@ -21,11 +23,15 @@ namespace {
 
 constexpr std::array<int, 3> kSignals = {SIGHUP, SIGINT, SIGTERM};
 constexpr int kStatusOfSignals = 128;
+/// One request may come as several signals: a terminal that closes sends one from its shell and one
+/// from the kernel, `timeout` one to the process and one to its group.
+constexpr std::int64_t kMillisecondsOfOneRequest = 200;
 
 // Not constant: all that a signal handler can get at are variables of the process.
 // NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
 std::atomic<bool> firstIsNoted{false};
 std::atomic<int> statusNoted{0};
+std::atomic<std::int64_t> millisecondsOfFirst{0};
 std::array<struct sigaction, kSignals.size()> handledBefore{};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
@@ -38,10 +44,30 @@ void SayLastWords() noexcept {
   [[maybe_unused]] const ssize_t said = write(STDERR_FILENO, words.data(), words.size());
 }
 
+/// Of a clock that nobody sets.
+std::int64_t Milliseconds() noexcept {
+  constexpr std::int64_t kInASecond = 1000;
+  constexpr std::int64_t kNanoseconds = 1'000'000;
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return std::int64_t{now.tv_sec} * kInASecond + now.tv_nsec / kNanoseconds;
+}
+
+/// Whether an interruption that was noted needs nothing more.
+bool IsNoted(int status) noexcept {
+  int none = 0;
+  if (statusNoted.compare_exchange_strong(none, status)) {
+    millisecondsOfFirst = Milliseconds();
+    if (firstIsNoted) WakeWatch();
+    return firstIsNoted;
+  }
+  const std::int64_t first = millisecondsOfFirst;
+  return first == 0 || Milliseconds() - first < kMillisecondsOfOneRequest;
+}
+
 void OnSignal(int signal) {
   const int status = kStatusOfSignals + signal;
-  int none = 0;
-  if (statusNoted.compare_exchange_strong(none, status) && firstIsNoted) return WakeWatch();
+  if (IsNoted(status)) return;
   RemoveUnfinishedFiles();
   SayLastWords();
   _exit(status);
@@ -72,6 +98,7 @@ sigset_t SignalsThatEnd() {
 Interruption::Interruption(First first) {
   firstIsNoted = first == First::kIsNoted;
   statusNoted = 0;
+  millisecondsOfFirst = 0;
   RemoveUnfinishedFilesAtExit();
   struct sigaction action {};
   action.sa_handler = OnSignal;

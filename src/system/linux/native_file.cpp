@@ -208,6 +208,11 @@ std::int64_t NativeFile::Length() const {
   return S_ISREG(status.st_mode) ? std::int64_t{status.st_size} : 0;
 }
 
+bool NativeFile::IsStored() const {
+  struct stat status {};
+  return fstat(static_cast<int>(handle_), &status) == 0 && status.st_blocks > 0;
+}
+
 std::optional<FileIdentity> NativeFile::Identity() const {
   struct stat status {};
   if (fstat(static_cast<int>(handle_), &status) != 0) return std::nullopt;

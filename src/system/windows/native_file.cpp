@@ -123,6 +123,10 @@ std::int64_t NativeFile::Length() const {
   return bytes.QuadPart;
 }
 
+bool NativeFile::IsStored() const {
+  return GetFileType(AsHandle(handle_)) == FILE_TYPE_DISK;
+}
+
 std::optional<FileIdentity> NativeFile::Identity() const {
   return IdentityOfHandle(AsHandle(handle_));
 }

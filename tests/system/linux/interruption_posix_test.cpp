@@ -32,6 +32,9 @@ std::string Joined(std::span<const std::string> paths) {
   return joined;
 }
 
+/// Signals within less are one.
+constexpr std::chrono::milliseconds kBehindOneRequest{250};
+
 class InterruptionTest : public TestInAFolder {
  protected:
   /// The exit status of a process that does that; minus the signal if one has killed it.
@@ -157,10 +160,29 @@ TEST_F(InterruptionTest, WhoWantsMayNoteTheFirstButNotTheSecond) {
               OutputFile file(path_);
               raise(SIGTERM);
               if (InterruptionStatus() != kAskedToEndStatus) _exit(2);
+              std::this_thread::sleep_for(kBehindOneRequest);
               raise(SIGINT);
             }),
             kInterruptedStatus);
   ExpectTheOldFileAlone();
+}
+
+TEST_F(InterruptionTest, SignalsThatComeTogetherAreOne) {
+  EXPECT_EQ(StatusOf([this] {
+              const Interruption interruption(Interruption::First::kIsNoted);
+              raise(SIGTERM);
+              raise(SIGHUP);
+              if (InterruptionStatus() != kAskedToEndStatus) _exit(2);
+              EndAtFirstInterruption();
+              raise(SIGHUP);
+              OutputFile file(path_);
+              file.Write("new");
+              file.Close();
+              std::this_thread::sleep_for(kBehindOneRequest);
+              raise(SIGHUP);
+            }),
+            kHungUpStatus);
+  EXPECT_EQ(ContentsOf(path_), "new");
 }
 
 TEST_F(InterruptionTest, WhatIsFinishedFirstHasAnEnd) {
