@@ -72,10 +72,11 @@ void SetItems(const ProgramText& text, MainForm& frmMain, ParamsForm& frmParams,
   };
   setFirst(frmParams.cboLetters, kLetterTexts);
   setFirst(frmParams.cboEncoding, kEncodingTexts);
-  for (std::size_t i = kEncodingTexts.size(); i < frmParams.cboEncoding.Items().size(); ++i) {
-    const int number = kFirstEncodingNoteText + static_cast<int>(i - kEncodingTexts.size());
-    frmParams.cboEncoding.SetItemNote(static_cast<int>(i), text.GetText(number));
+  std::vector<std::string> notes(kEncodingTexts.size());
+  for (int number = kFirstEncodingNoteText; notes.size() < frmParams.cboEncoding.Items().size();) {
+    notes.push_back(text.GetText(number++));
   }
+  frmParams.cboEncoding.SetItemNotes(std::move(notes));
   setFirst(frmMain.cboWordOrder, kOrderTexts);
   setFirst(frmExport.cboOrder, kOrderTexts);
 }

@@ -20,8 +20,8 @@ std::optional<double> SecondsLeft(BytesDone bytes, std::chrono::nanoseconds elap
 }
 
 std::string AmountText(double bytes, std::string_view decimalSign) {
-  constexpr double kStep = 1000;
-  constexpr std::array<std::string_view, 5> kUnits = {"B", "kB", "MB", "GB", "TB"};
+  constexpr double kStep = 1024;
+  constexpr std::array<std::string_view, 5> kUnits = {"B", "KB", "MB", "GB", "TB"};
   std::size_t unit = 0;
   // What would be rounded up to a step is one.
   for (; std::round(bytes) >= kStep && unit + 1 < kUnits.size(); ++unit) bytes /= kStep;

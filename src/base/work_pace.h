@@ -22,7 +22,7 @@ struct BytesDone {
 /// At the pace until now; nothing where the whole is not known, or nothing is done yet.
 [[nodiscard]] std::optional<double> SecondsLeft(BytesDone bytes, std::chrono::nanoseconds elapsed);
 
-/// "310 MB"; at least two digits, so that it can be seen to grow.
+/// "310 MB", of 1,024 KB each; at least two digits, so that it can be seen to grow.
 [[nodiscard]] std::string AmountText(double bytes, std::string_view decimalSign = ".");
 /// "0:05", "1:02:03".
 [[nodiscard]] std::string ClockText(double seconds);

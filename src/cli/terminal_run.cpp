@@ -265,7 +265,7 @@ class TerminalRun {
   void TakeAsClipboard(ByteSource& input, CharacterSet encoding) {
     constexpr std::size_t kMostBytesPerCharacter = 4;
     StartOfSource start(input, kMostMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
-    std::string text = WholeText(start, encoding, clipboardUncounted_);
+    std::string text = WholeText(start, encoding, clipboardUncounted_, clipboardGuessed_);
     clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
@@ -309,6 +309,7 @@ class TerminalRun {
     Uncounted uncounted = clipboardUncounted_;
     uncounted.runsLeftWhole = explanation.runsLeftWhole;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    TellGuessed(clipboardGuessed_.Names(), err_);
     const std::string lines =
         ExplanationLines(explanation.candidates, request.filters, program_.Text());
     if (lines.empty()) {
@@ -410,6 +411,7 @@ class TerminalRun {
     if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_,
                   program_.Words().folder.firstNotDecoded);
+    TellGuessed((options_.text ? clipboardGuessed_ : program_.Words().guessed).Names(), err_);
     return program_.Count().ListWasMade();
   }
 
@@ -491,6 +493,7 @@ class TerminalRun {
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.
   Uncounted clipboardUncounted_;
+  GuessedSets clipboardGuessed_;
   /// Why the count gave no words.
   std::string fault_;
   Program program_;

@@ -28,6 +28,8 @@ std::uint8_t KindOf(char32_t codePoint) {
       return Traits::kMark;
     case UTF8PROC_CATEGORY_ND:
       return Traits::kDigit;
+    case UTF8PROC_CATEGORY_CF:
+      return Traits::kFormat;
     default:
       return 0;
   }

@@ -1,5 +1,6 @@
 #include "qt/program_windows.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCollator>
 #include <QLibraryInfo>
@@ -75,14 +76,17 @@ void Windows::MakePanel() {
 
 void Windows::OfferCommonWords(QPushButton& button) {
   auto* menu = new QMenu(&button);
-  QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu] {
+  auto* oneOfThem = new QActionGroup(menu);
+  QObject::connect(menu, &QMenu::aboutToShow, menu, [this, menu, oneOfThem] {
     menu->clear();
     const std::string& inForce = program_.frmParams.txbWordsFile[0].Text();
     for (const CommonWordsList& list : CommonWordsByName()) {
       // Of two that begin alike, the letter leads to one after the other.
       QAction* language = menu->addAction(QLatin1Char('&') + NameOf(list));
+      oneOfThem->addAction(language);
       language->setCheckable(true);
       language->setChecked(list.path == inForce);
+      if (list.path == inForce) continue;  // to choose it again changes nothing
       QObject::connect(language, &QAction::triggered, menu,
                        [this, list] { program_.WordLists().ChooseCommonWords(list.path); });
     }

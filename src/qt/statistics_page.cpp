@@ -23,10 +23,12 @@ constexpr int kColumns = 3;
 
 StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
     : QWidget(parent),
+      program_(program),
       signs_(program.Signs()),
       statistics_(program.Words(), program.Text()),
       orderBox_(new QCheckBox(this)),
       table_(new RowTable<QTableWidget>(0, kColumns, this)),
+      hint_(new QLabel(table_->viewport())),
       copy_(new QAction(table_)) {
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(0, 0, 0, 0);
@@ -40,6 +42,7 @@ StatisticsPage::StatisticsPage(Program& program, QWidget* parent)
     isOld_ = true;
     if (isVisible()) ShowRows();
   });
+  program.BecameIdle.Connect([this] { ShowHint(); });
 }
 
 void StatisticsPage::SetUpTable() {
@@ -50,6 +53,10 @@ void StatisticsPage::SetUpTable() {
   copy_->setShortcutContext(Qt::WidgetShortcut);
   connect(copy_, &QAction::triggered, this, [this] { Copy(); });
   table_->addAction(copy_);
+  auto* middle = new QVBoxLayout(table_->viewport());
+  middle->addWidget(hint_);
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setWordWrap(true);
   table_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -81,6 +88,13 @@ void StatisticsPage::ShowRows() {
   }
   table_->resizeColumnToContents(kName);
   FitValues();
+  ShowHint();
+}
+
+void StatisticsPage::ShowHint() {
+  const bool gaveWay = program_.Words().gaveWay;
+  hint_->setText(ToQt(program_.Text().GetText(gaveWay ? kTableGaveWayText : kNoTableYetText)));
+  hint_->setVisible(table_->rowCount() == 0 && !program_.State().Busy());
 }
 
 /// What is no number is read from the left, in as many lines as it needs.

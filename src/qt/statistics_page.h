@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QTableWidget>
 #include <QWidget>
 
@@ -36,14 +37,18 @@ class StatisticsPage final : public QWidget {
  private:
   void SetUpTable();
   void ShowRows();
+  void ShowHint();
   void ShowRow(int row, const ResultStatistics::Row& shown);
   void FitValues();
 
+  const Program& program_;
   NumberSigns signs_;
   ResultStatistics statistics_;
   // Children of the page.
   QCheckBox* orderBox_;
   QTableWidget* table_;
+  /// In its place while there are no figures.
+  QLabel* hint_;
   QAction* copy_;
   /// What is shown is not what was counted.
   bool isOld_ = true;

@@ -24,6 +24,7 @@
 #include "qt/figure_label.h"
 #include "qt/link_label.h"
 #include "qt/mnemonics.h"
+#include "qt/noted_items.h"
 #include "qt/second_click.h"
 #include "qt/text_conversion.h"
 #include "ui/controls.h"
@@ -205,6 +206,7 @@ class ComboBinding final : public QObject, public WidgetBinding {
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Show) GreyItems(true);
     if (event->type() == QEvent::Hide) GreyItems(false);
+    if (event->type() == QEvent::FontChange && notes_ != nullptr) notes_->FitList();
     return QObject::eventFilter(watched, event);
   }
 
@@ -218,10 +220,15 @@ class ComboBinding final : public QObject, public WidgetBinding {
     }
   }
 
-  [[nodiscard]] QString ShownItem(int index) const {
-    const QString item = ToQt(combo_.Items()[static_cast<std::size_t>(index)]);
-    const QString note = ToQt(combo_.ItemNote(index));
-    return note.isEmpty() ? item : QStringLiteral("%1 (%2)").arg(item, note);
+  void ShowNotes() {
+    bool changed = false;
+    for (int i = 0; i < widget_.count(); ++i) {
+      const QString note = ToQt(combo_.ItemNote(i));
+      if (notes_ == nullptr && note.isEmpty()) continue;
+      if (notes_ == nullptr) notes_ = new NotedItems(widget_);
+      if (notes_->SetNote(i, note)) changed = true;
+    }
+    if (changed) notes_->FitList();
   }
 
   void ShowValue() override {
@@ -232,14 +239,17 @@ class ComboBinding final : public QObject, public WidgetBinding {
       for (const std::string& item : items) widget_.addItem(ToQt(item));
     }
     for (int i = 0; i < widget_.count(); ++i) {
-      const QString item = ShownItem(i);
+      const QString item = ToQt(items[static_cast<std::size_t>(i)]);
       if (widget_.itemText(i) != item) widget_.setItemText(i, item);  // in another language now
     }
+    ShowNotes();
     widget_.setCurrentIndex(combo_.ListIndex());
   }
 
   ComboBox& combo_;
   QComboBox& widget_;
+  /// A child of the widget; null where no item has a note.
+  NotedItems* notes_ = nullptr;
 };
 
 class LabelBinding final : public WidgetBinding {

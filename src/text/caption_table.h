@@ -351,6 +351,7 @@ inline constexpr int kByteNotDecodedText = 727;
 inline constexpr int kBytesNotDecodedInText = 745;
 inline constexpr int kByteNotDecodedInText = 746;
 inline constexpr int kLinesNotUtf8Text = 728;
+inline constexpr int kGuessedText = 797;
 inline constexpr int kLineNotUtf8Text = 729;
 inline constexpr int kWhichText = 715;
 inline constexpr int kCountAgainText = 716;

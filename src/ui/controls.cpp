@@ -92,12 +92,6 @@ void ComboBox::SetItem(int listIndex, std::string item) {
   Assign(items_[static_cast<std::size_t>(listIndex)], std::move(item));
 }
 
-void ComboBox::SetItemNote(int listIndex, std::string note) {
-  const auto place = static_cast<std::size_t>(listIndex);
-  if (notes_.size() <= place) notes_.resize(place + 1);
-  Assign(notes_[place], std::move(note));
-}
-
 std::string ComboBox::ItemNote(int listIndex) const {
   const auto place = static_cast<std::size_t>(listIndex);
   return place < notes_.size() ? notes_[place] : std::string();

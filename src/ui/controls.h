@@ -130,9 +130,9 @@ class ComboBox final : public Control {
   void AddItem(std::string item);
   /// The item at `listIndex`, which there is, in other words. Fires no Click.
   void SetItem(int listIndex, std::string item);
-  /// What the item at `listIndex`, which there is, is for, in a few words for the user; "" for
-  /// nothing. A face shows it behind the item, whose name it is no part of.
-  void SetItemNote(int listIndex, std::string note);
+  /// What the items are for, in a few words for the user each; "" for nothing to say. A face shows
+  /// them behind the items, of whose names they are no part.
+  void SetItemNotes(std::vector<std::string> notes) { Assign(notes_, std::move(notes)); }
   [[nodiscard]] std::string ItemNote(int listIndex) const;
   /// Removes all items; none is selected then. Fires no Click.
   void Clear();

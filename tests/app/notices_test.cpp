@@ -49,6 +49,8 @@ TEST(Notices, MostImportantComesFirst) {
 }
 
 TEST(Notices, LinesThatWereNotUtf8MatterLessWhereAllLettersWereCounted) {
+  EXPECT_THAT(TextsOf({.listStands = true, .guessed = "KOI8-U", .wordsToIgnore = 1}),
+              ElementsAre(kGuessedText, kWordToIgnoreText));
   EXPECT_THAT(TextsOf({.listStands = true, .linesNotUtf8 = 2, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText, kLinesNotUtf8Text));
 }
@@ -374,11 +376,13 @@ TEST_F(NoticeBarTest, FirstFileOfAFolderWithBytesThatCouldNotBeDecodedIsNamed) {
   static_cast<void>(folder.Write("g/b.txt", "caf\xE9 th\xE9"));
   static_cast<void>(folder.Write("g/c.txt", "caf\xE9"));
   desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
   CountFolder(folder / "g");
   EXPECT_EQ(Said(), "3 bytes could not be decoded, the first of them in b.txt.");
   EXPECT_THAT(Commands(), ElementsAre("Change"));
   static_cast<void>(folder.Write("g/b.txt", "tea"));
   desktop.Answer("Multiple files/folders", MessageAnswer::kOk);
+  desktop.AnswerFile(std::nullopt);
   CountFolder(folder / "g");
   EXPECT_EQ(Said(), "One byte could not be decoded: in c.txt.");
 }

@@ -21,15 +21,17 @@ TEST(WorkPace, NobodyKnowsBeforeAnythingIsDone) {
 }
 
 TEST(WorkPace, AmountsAndTimesAreShort) {
-  EXPECT_EQ(AmountText(999), "999 B");
-  EXPECT_EQ(AmountText(1234), "1.2 kB");
-  EXPECT_EQ(AmountText(310e6), "310 MB");
-  EXPECT_EQ(AmountText(5e15), "5000 TB");
-  EXPECT_EQ(AmountText(999.6), "1.0 kB");
-  EXPECT_EQ(AmountText(999.7e3), "1.0 MB");
-  EXPECT_EQ(AmountText(999.4e3), "999 kB");
-  EXPECT_EQ(AmountText(9.97e6), "10 MB");
-  EXPECT_EQ(AmountText(9.94e6), "9.9 MB");
+  constexpr double kKilobyte = 1024;
+  constexpr double kMegabyte = kKilobyte * kKilobyte;
+  EXPECT_EQ(AmountText(1023), "1023 B");
+  EXPECT_EQ(AmountText(1234), "1.2 KB");
+  EXPECT_EQ(AmountText(310 * kMegabyte), "310 MB");
+  EXPECT_EQ(AmountText(5000 * kMegabyte * kMegabyte), "5000 TB");
+  EXPECT_EQ(AmountText(1023.6), "1.0 KB");
+  EXPECT_EQ(AmountText(1023.7 * kKilobyte), "1.0 MB");
+  EXPECT_EQ(AmountText(1023.4 * kKilobyte), "1023 KB");
+  EXPECT_EQ(AmountText(9.97 * kMegabyte), "10 MB");
+  EXPECT_EQ(AmountText(9.94 * kMegabyte), "9.9 MB");
   EXPECT_EQ(ClockText(5), "0:05");
   EXPECT_EQ(ClockText(3723), "1:02:03");
 }

@@ -96,6 +96,28 @@ TEST_F(TerminalRunTest, BytesThatCouldNotBeDecodedAreTold) {
   EXPECT_EQ(err, "Note: 2 bytes could not be decoded; --encoding names another encoding.\n");
 }
 
+TEST_F(TerminalRunTest, WhatWasGuessedIsTold) {
+  std::string koi8;
+  for (int i = 0; i < 5; ++i) {
+    koi8 += "\xEB\xC1\xD6\xC4\xCF\xC5 \xD5\xD4\xD2\xCF \xD2\xC5\xCB\xC1 \xD4\xC9\xC8\xCF\n";
+  }
+  const std::string note = "Note: read as KOI8-U, as guessed; --encoding names another encoding.\n";
+  const std::string path = folder.Write("koi8.txt", koi8);
+  input = koi8;
+  for (const std::vector<std::string>& how : {std::vector<std::string>{path},
+                                              {"-"},
+                                              {"--text", path},
+                                              {path, "--window-text"},
+                                              {path, folder.Write("utf8.txt", "слово")}}) {
+    std::vector<std::string> arguments = how;
+    arguments.insert(arguments.end(), {"--encoding", "guess", "--letters", "all"});
+    EXPECT_EQ(Run(arguments), 0);
+    EXPECT_EQ(err, note) << how.front();
+  }
+  EXPECT_EQ(Run({path, "--encoding", "koi8-u", "--letters", "all"}), 0);
+  EXPECT_EQ(err, "");
+}
+
 TEST_F(TerminalRunTest, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed) {
   const std::string first = folder.Write("a.txt", "cat");
   const std::string second = folder.Write("b.txt", "cat\xFF\xFE");
@@ -475,7 +497,7 @@ TEST_F(TerminalRunTest, ProgressOfFilesHasABar) {
     arguments.emplace_back("--progress");
     EXPECT_EQ(Run(arguments), 0);
     EXPECT_THAT(err, StartsWith("[")) << text.front();
-    EXPECT_THAT(err, HasSubstr(" of 260 kB  ")) << text.front();
+    EXPECT_THAT(err, HasSubstr(" of 254 KB  ")) << text.front();
     EXPECT_THAT(err, HasSubstr(" left\n")) << text.front();
   }
 }

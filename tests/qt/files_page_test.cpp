@@ -1,4 +1,5 @@
 // The files of a count, and the menu of common words, as a person uses them.
+#include <QActionGroup>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -201,6 +202,8 @@ TEST_F(FilesPageTest, MenuNamesTheCommonWordsOfLanguages) {
   EXPECT_THAT(user->program.Settings().lists.IgnoreList.Words(), testing::Contains("und"));
   emit button.menu()->aboutToShow();
   EXPECT_TRUE(button.menu()->actions()[4]->isChecked());
+  EXPECT_TRUE(button.menu()->actions()[4]->actionGroup()->isExclusive()) << "one of them";
+  button.menu()->actions()[4]->trigger();  // a second box would have no answer
   user->Click(user->program.frmMain.cmdLanguage);
   emit button.menu()->aboutToShow();
   EXPECT_EQ(FromQt(button.menu()->actions()[0]->text()), "&Deutsch") << "in the user's order";

@@ -395,6 +395,23 @@ TEST_F(FormWindowTest, FormatThatIsOfNoUseIsGreyInTheDropDownAndSaysWhy) {
   EXPECT_EQ(boxes.TitlesSeen()[0], "Invalid display format");
 }
 
+TEST_F(FormWindowTest, OpenListOfEncodingsTellsWhomTheyAreFor) {
+  user->Click(frmMain.cmdSetParameters);
+  auto& encoding = user->WidgetOf<QComboBox>(frmParams.cboEncoding);
+  const int place = encoding.findText("Windows-1250");
+  ASSERT_GE(place, 0) << "the name alone stands in the closed box";
+  const auto shown = [&encoding](int index) {
+    return FromQt(encoding.itemData(index, Qt::AccessibleTextRole).toString());
+  };
+  EXPECT_EQ(shown(place), "Windows-1250 (Central European)");
+  encoding.showPopup();
+  user->Settle();
+  EXPECT_GE(encoding.view()->width(), encoding.view()->sizeHintForColumn(0));
+  encoding.hidePopup();
+  user->Click(frmMain.cmdLanguage);
+  EXPECT_EQ(shown(place), "Windows-1250 (mitteleurop\u00E4isch)");
+}
+
 TEST_F(FormWindowTest, KeysInTheListAreUndoneAndTheProgramsTextIsNot) {
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat dog\n"));
   user->Click(frmMain.cmdCountWords);

@@ -1,5 +1,6 @@
 // The statistics, as a person uses them.
 #include <QClipboard>
+#include <QLabel>
 #include <QMimeData>
 #include <QTabBar>
 #include <algorithm>
@@ -27,6 +28,17 @@ class StatisticsPageTest : public WindowFixture {
   }
   std::string Cell(int row, int column) { return FromQt(Table().item(row, column)->text()); }
 };
+
+TEST_F(StatisticsPageTest, SaysThatNothingWasCountedYet) {
+  OpenPage();
+  const auto* hint = Table().viewport()->findChild<QLabel*>();
+  ASSERT_NE(hint, nullptr);
+  EXPECT_TRUE(hint->isVisible());
+  EXPECT_EQ(FromQt(hint->text()),
+            "No words have been counted yet. Choose a text and count its words.");
+  Count("cat\n");
+  EXPECT_FALSE(hint->isVisible());
+}
 
 TEST_F(StatisticsPageTest, ShowsTheStatisticsOfTheCount) {
   OpenPage();

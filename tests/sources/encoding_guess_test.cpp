@@ -257,7 +257,8 @@ TEST_F(EncodingGuess, GuessIsPutOffInAWholeTextAsInFiles) {
   const auto guessed = [](const std::string& text) {
     TextSource source(text);
     Uncounted uncounted;
-    std::string whole = WholeText(source, CharacterSet::kGuess, uncounted);
+    GuessedSets guesses;
+    std::string whole = WholeText(source, CharacterSet::kGuess, uncounted, guesses);
     EXPECT_EQ(uncounted, Uncounted());
     return whole;
   };

@@ -179,17 +179,18 @@ TEST_F(Encodings, WordsFilesWithAHeadOfAsciiAreInTheChosenEncoding) {
 }
 
 TEST_F(Encodings, WholeTextIsConverted) {
+  GuessedSets guessed;
   Uncounted uncounted;
   TextSource koi8(kRussianKoi8);
-  EXPECT_TRUE(WholeText(koi8, CharacterSet::kKoi8R, uncounted).starts_with("Каждое утро"));
+  EXPECT_TRUE(WholeText(koi8, CharacterSet::kKoi8R, uncounted, guessed).starts_with("Каждое утро"));
   EXPECT_EQ(uncounted, Uncounted());
   TextSource latin("caf\xE9\r\nth\xE9\ncat");
-  EXPECT_EQ(WholeText(latin, CharacterSet::kAsFound, uncounted), "café\r\nthé\ncat");
+  EXPECT_EQ(WholeText(latin, CharacterSet::kAsFound, uncounted, guessed), "café\r\nthé\ncat");
   EXPECT_EQ(uncounted, (Uncounted{0, 2, 0}));
   TextSource marked(
       "\xEF\xBB\xBF"
       "cat\xFF");
-  EXPECT_EQ(WholeText(marked, CharacterSet::kKoi8U, uncounted), "cat\uFFFD");
+  EXPECT_EQ(WholeText(marked, CharacterSet::kKoi8U, uncounted, guessed), "cat\uFFFD");
   EXPECT_EQ(uncounted, (Uncounted{0, 2, 1}));
 }
 
