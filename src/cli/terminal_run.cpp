@@ -403,7 +403,6 @@ class TerminalRun {
   /// True when a list was made.
   bool CountInWindow() {
     program_.frmMain.cmdCountWords.PerformClick();
-    streams_.endAtInterruption();
     TellSkipped();
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());

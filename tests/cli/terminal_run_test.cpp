@@ -296,12 +296,6 @@ TEST_F(TerminalRunTest, AnInterruptionBehindTheCountIsTold) {
   EXPECT_EQ(err, "Interrupted: the whole text was read by then\n");
 }
 
-TEST_F(TerminalRunTest, AnInterruptionBehindACountOfTheClipboardMayEndTheProgram) {
-  const std::string text = folder.Write("a.txt", "cat dog");
-  EXPECT_EQ(Run({"--text", text, "--list-on-interrupt"}), 0) << err;
-  EXPECT_EQ(countsOver, 1);
-}
-
 TEST_F(TerminalRunTest, AFileThatIsNoStateIsToldSo) {
   const std::string text = folder.Write("a.txt", "cat dog");
   EXPECT_EQ(Run({text, "--state", text}), 1);
