@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/digit_groups.h"
 #include "base/text_helpers.h"
 
 namespace quillomat {
@@ -36,7 +37,8 @@ std::string Messages::ProgramTitle() const {
 }
 
 NumberSigns Messages::Signs() const {
-  return {.group = DigitGroupSeparator(), .decimal = decimalSign_};
+  // The desktop's sign need not be of the locale whose decimals these are.
+  return {.group = GroupSignBeside(decimalSign_, DigitGroupSeparator()), .decimal = decimalSign_};
 }
 
 std::string Messages::Grouped(std::int64_t number) const {

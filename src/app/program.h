@@ -101,8 +101,8 @@ class Program {
     parts_.mainWindow.SetViewCopier(std::move(copyView));
   }
 
-  /// Where the text of the output text box, with line breaks of any kind, holds what is looked for,
-  /// as the list takes words for the same. The titles of a list are passed over.
+  /// Where the text of the output text box, with line breaks that end with a line feed, holds what
+  /// is looked for, as the list takes words for the same. The titles of a list are passed over.
   [[nodiscard]] std::vector<TextPlace> PlacesIn(std::string_view text,
                                                 std::string_view wanted) const;
   /// What is said of a word that the list holds below the output text box: where it stands; "" if

@@ -89,14 +89,8 @@ void SourceRows::ConnectFiles() {
 }
 
 void SourceRows::ChooseInputFile() {
-  FileDialog dialog;
-  dialog.title = "Specify file to be scanned";
-  dialog.filter = "Any text file (*.*) | *.*";
-  dialog.pathMustExist = true;
-  dialog.fileMustExist = true;
-  dialog.hideReadOnly = true;
   TextBox& box = frmMain_.txbFile[0];
-  if (const auto path = paths_.ChooseFileFor(box, dialog)) {
+  if (const auto path = paths_.ChooseTextFileFor(box, "Specify file to be scanned")) {
     box.SetText(*path);
     SelectSourceOf(box, frmMain_.optInFile);
     inputRow_.CheckInputFile(*path);

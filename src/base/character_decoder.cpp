@@ -15,6 +15,12 @@ bool IsAscii(char ch) {
   return static_cast<unsigned char>(ch) < kAsciiCharacters;
 }
 
+/// U+0080 to U+00A0: what systems put, or do not, for single bytes that stand for nothing in a set
+/// of characters of several bytes.
+bool IsStandIn(std::string_view character) {
+  return character >= "\xC2\x80" && character <= "\xC2\xA0";
+}
+
 /// How many of the bytes of one form, which are no character, are replaced together.
 std::size_t BytesToReplace(std::string_view bytes) {
   return std::ranges::any_of(bytes, IsAscii) ? 1 : bytes.size();
@@ -23,7 +29,7 @@ std::size_t BytesToReplace(std::string_view bytes) {
 }  // namespace
 
 CharacterDecoder::CharacterDecoder(CharacterSet set, std::unique_ptr<EncodedCharacters> characters)
-    : set_(set), characters_(std::move(characters)) {
+    : set_(set), hasLongForms_(HasLongForms(set)), characters_(std::move(characters)) {
   for (std::size_t byte = 0; byte < kAsciiCharacters; ++byte) {
     singles_[byte] = {{static_cast<char>(byte)}, 1, true};
   }
@@ -102,6 +108,7 @@ CharacterDecoder::Character CharacterDecoder::Ask(std::string_view bytes) {
   const std::string text = characters_->TextOf(bytes);
   Character character;
   character.isAsked = true;
+  if (bytes.size() == 1 && hasLongForms_ && IsStandIn(text)) return character;
   if (text.size() <= character.text.size()) {
     std::ranges::copy(text, character.text.begin());
     character.length = static_cast<std::uint8_t>(text.size());

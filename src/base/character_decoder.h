@@ -31,9 +31,10 @@ class EncodedCharacters {
   [[nodiscard]] virtual std::string TextOf(std::string_view bytes) = 0;
 };
 
-/// Of a set in which each byte of ASCII stands for itself where no other leads it. Of bytes that
-/// have the form of a character and are none, all are replaced together, except that what is ASCII
-/// stays: it may be a letter of its own.
+/// Of a set in which each byte of ASCII stands for itself where no other leads it. In one with
+/// characters of several bytes no single byte is a control beyond ASCII. Of bytes that have the
+/// form of a character and are none, all are replaced together, except that what is ASCII stays: it
+/// may be a letter of its own.
 class CharacterDecoder final : public TextDecoder {
  public:
   CharacterDecoder(CharacterSet set, std::unique_ptr<EncodedCharacters> characters);
@@ -68,6 +69,7 @@ class CharacterDecoder final : public TextDecoder {
   Character Ask(std::string_view bytes);
 
   CharacterSet set_;
+  bool hasLongForms_;
   std::unique_ptr<EncodedCharacters> characters_;
   Row singles_;
   /// Of characters of two bytes, by the first.

@@ -88,4 +88,8 @@ std::optional<std::size_t> BytesOfForm(CharacterSet set, std::string_view bytes)
   return 1;
 }
 
+bool HasLongForms(CharacterSet set) {
+  return !FormsOf(set).empty();
+}
+
 }  // namespace quillomat

@@ -17,4 +17,7 @@ inline constexpr std::size_t kMostBytesOfCharacter = 4;
 /// stand behind it than can follow. Nothing where that depends on bytes to come.
 [[nodiscard]] std::optional<std::size_t> BytesOfForm(CharacterSet set, std::string_view bytes);
 
+/// Whether any character of `set` has more than one byte.
+[[nodiscard]] bool HasLongForms(CharacterSet set);
+
 }  // namespace quillomat

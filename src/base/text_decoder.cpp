@@ -18,15 +18,14 @@ bool IsLowSurrogate(char16_t unit) {
 }
 
 /// Of a character.
-constexpr std::size_t kMostBytes = 4;
 
 /// Whether more bytes can make a character of `bytes`, which are none yet.
 bool MayBecomeCharacter(std::string_view bytes) {
-  if (bytes.size() >= kMostBytes) return false;
+  if (bytes.size() >= kMostUtf8Bytes) return false;
   // The smallest and the greatest bytes that can follow.
   for (std::string longer :
        {std::string(bytes) + '\x80', std::string(bytes) + '\x90', std::string(bytes) + '\xA0'}) {
-    while (longer.size() <= kMostBytes) {
+    while (longer.size() <= kMostUtf8Bytes) {
       if (IsWellFormedUtf8(longer)) return true;
       longer.push_back('\x80');
     }
@@ -42,10 +41,9 @@ void TextDecoder::Replace(std::size_t bytes, std::string& text) {
 }
 
 std::size_t UnfinishedUtf8Bytes(std::string_view text) {
-  for (std::size_t bytes = 1; bytes < kMostBytes && bytes <= text.size(); ++bytes) {
+  for (std::size_t bytes = 1; bytes < kMostUtf8Bytes && bytes <= text.size(); ++bytes) {
     const std::string_view end = text.substr(text.size() - bytes);
-    const bool isContinuation = (static_cast<unsigned char>(end[0]) & 0xC0U) == 0x80U;
-    if (!isContinuation) return MayBecomeCharacter(end) ? bytes : 0;
+    if (!IsContinuationByte(end[0])) return MayBecomeCharacter(end) ? bytes : 0;
   }
   return 0;
 }

@@ -37,13 +37,19 @@ class TextDecoder {
   /// Appends what stands for so many bytes together.
   void Replace(std::size_t bytes, std::string& text);
   /// So many bytes became a replacement character.
-  void CountNotDecoded(std::size_t bytes) {
-    bytesNotDecoded_ += static_cast<std::int64_t>(bytes);
-  }
+  void CountNotDecoded(std::size_t bytes) { bytesNotDecoded_ += static_cast<std::int64_t>(bytes); }
 
  private:
   std::int64_t bytesNotDecoded_ = 0;
 };
+
+/// A character of UTF-8 has no more.
+inline constexpr std::size_t kMostUtf8Bytes = 4;
+
+/// Whether the byte goes on with a character of UTF-8 that others have begun.
+[[nodiscard]] constexpr bool IsContinuationByte(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
 
 /// How many bytes at the end of `text` begin a character of UTF-8 that is not finished.
 [[nodiscard]] std::size_t UnfinishedUtf8Bytes(std::string_view text);

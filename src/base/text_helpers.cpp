@@ -13,9 +13,10 @@ std::string_view TrimBlanks(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : TrimRightBlanks(text.substr(first));
 }
 
-/// Counts in bytes, as many as a byte can count to, so that many are counted at a time.
+/// Counts in bytes, about as many as a byte can count to, so that many are counted at a time: whole
+/// vectors of them.
 std::size_t CountOf(char ch, std::string_view text) {
-  constexpr std::size_t kMostOfAByte = 255;
+  constexpr std::size_t kMostOfAByte = 240;
   std::size_t count = 0;
   for (std::size_t start = 0; start < text.size(); start += kMostOfAByte) {
     std::uint8_t some = 0;

@@ -47,6 +47,7 @@ bool DirectCount::Run() {
   }
   TellUncounted(result.uncounted, messages_, streams_.err,
                 result.files > 1 ? result.firstNotDecoded : std::string());
+  TellGuessed(result.guessed.Names(), streams_.err);
   if (result.end == CountEnd::kStopped) {
     streams_.err << Headed{MessageTone::kWarning, "Interrupted: "}
                  << (options_.exports.empty() ? "the list is" : "list and exports are")

@@ -6,8 +6,10 @@
 #include <ostream>
 #include <string>
 
+#include "app/count/panel_choices.h"
 #include "cli/option_conflicts.h"
 #include "cli/standard_output.h"
+#include "engine/explain/text_explainer.h"
 #include "engine/word_list.h"
 
 namespace quillomat {
@@ -18,14 +20,24 @@ constexpr Headed kNote{MessageTone::kWarning, "Note: "};
 /// The file or the option that names count-only words; "" where nothing does. Words that are typed
 /// and turn out to be signs alone have left the panel by now.
 std::string CountOnlySource(const CommandLine& options, const Program& program) {
-  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
-  const std::string& file = program.frmParams.txbWordsFile[kIndex].Text();
+  const std::string& file = WordsFileBoxOf(program.frmParams, WordListKind::kCountOnly).Text();
   if (!file.empty()) return file;
   return IsGiven(options, "--only-words") ? "--only-words" : "";
 }
 
 bool IsCountOnly(const WordLists& lists, const std::string& word) {
   return lists.CountOnlyList.IsInList(word) || lists.ExtraCountOnlyList.IsInList(word);
+}
+
+/// Whether a text may hold one of the count-only words. Those of a file were found in it as in a
+/// text.
+bool CanOccur(const WordLists& lists, const ScanChoices& choices) {
+  if (lists.CountOnlyList.Count() > 0) return true;
+  return std::ranges::any_of(lists.ExtraCountOnlyList.Words(), [&](const std::string& word) {
+    return std::ranges::any_of(
+        ExplainText(word, choices, {}, lists).candidates,
+        [](const Candidate& part) { return part.fate == CandidateFate::kCounted; });
+  });
 }
 
 /// A word that is typed and stands in the file, too, is one.
@@ -42,13 +54,16 @@ std::int64_t CountInBoth(const WordLists& lists) {
 
 }  // namespace
 
-void TellListsWithoutEffect(const CommandLine& options, const Program& program,
-                            const Messages& messages, std::ostream& err) {
+void TellListsWithoutEffect(const CommandLine& options, Program& program, const Messages& messages,
+                            std::ostream& err) {
   const WordLists& lists = program.Settings().lists;
   const std::string source = CountOnlySource(options, program);
   if (!source.empty() && !lists.HasCountOnlyWords()) {
     err << kNote << source
         << " gives no count-only word that can be counted; all words are counted.\n";
+  } else if (lists.HasCountOnlyWords() && !CanOccur(lists, ReadScanChoices(program.frmParams))) {
+    err << kNote << "under these settings no text holds any of the count-only words as they are "
+        << "typed; none is counted.\n";
   }
   const std::int64_t inBoth = CountInBoth(lists);
   if (inBoth == 1) {

@@ -9,9 +9,9 @@
 
 namespace quillomat {
 
-/// Tells `err` of count-only words that are none, and of words that stand in both kinds of list.
-/// The program has taken its lists from the panel.
-void TellListsWithoutEffect(const CommandLine& options, const Program& program,
-                            const Messages& messages, std::ostream& err);
+/// Tells `err` of count-only words that are none or that no text holds, and of words that stand in
+/// both kinds of list. The program has taken its lists from the panel.
+void TellListsWithoutEffect(const CommandLine& options, Program& program, const Messages& messages,
+                            std::ostream& err);
 
 }  // namespace quillomat

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/count/panel_choices.h"
 #include "app/setting_values.h"
 #include "base/letter_case.h"
 #include "base/text_helpers.h"
@@ -159,8 +160,7 @@ std::optional<std::string> ApplySettings(MainForm& frmMain, ParamsForm& frmParam
   return std::nullopt;
 }
 
-std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options,
-                                              const ParamsForm& frmParams) {
+std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options) {
   for (const auto& [setting, values] : options) {
     const SettingOption& option = setting->option;
     if (option.group != OptionGroup::kWordLists || !setting->isPath) continue;
@@ -171,11 +171,18 @@ std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> optio
     return name + " " + path + " does not exist; check the path, or type the words (" + name +
            "-words)";
   }
-  for (const TextBox& box : frmParams.txbWordsFile) {
+  return std::nullopt;
+}
+
+std::optional<std::string> FindWordsFileFault(const ParamsForm& frmParams) {
+  using enum WordListKind;
+  for (const WordListKind kind : {kIgnore, kCountOnly}) {
+    const TextBox& box = WordsFileBoxOf(frmParams, kind);
     const std::string& path = box.Text();
     if (path.empty() || FileExists(path)) continue;
-    return "the words file " + path +
-           ", which the settings name, does not exist; --ignore and --only name another";
+    return "the words file " + path + ", which the settings name, does not exist; " +
+           (kind == kIgnore ? "--ignore" : "--only") + " FILE names another, --set '" + box.Name() +
+           "=' none";
   }
   return std::nullopt;
 }

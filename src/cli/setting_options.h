@@ -32,9 +32,11 @@ using ControlValues = std::vector<std::pair<std::string, std::string>>;
                                                        std::span<const GivenOption> options,
                                                        const ControlValues& set);
 
-/// Which words file that an option names is none, and the way out; then which one of a state's,
-/// that the panel names. Nothing if all are there.
-[[nodiscard]] std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options,
-                                                            const ParamsForm& frmParams);
+// Which words file is none, and the way out; nothing if all are there.
+
+/// Of those that an option names.
+[[nodiscard]] std::optional<std::string> FindWordsFileFault(std::span<const GivenOption> options);
+/// Of those that the panel names, which are a state's where no option does.
+[[nodiscard]] std::optional<std::string> FindWordsFileFault(const ParamsForm& frmParams);
 
 }  // namespace quillomat

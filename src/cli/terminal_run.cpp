@@ -20,6 +20,7 @@
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
+#include "cli/box_set_aside.h"
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
 #include "cli/explanation.h"
@@ -74,9 +75,14 @@ class TerminalRun {
   }
 
  private:
-  [[nodiscard]] int UnlessInterrupted(int status) const {
+  /// An interruption that was noted and came too late to stop anything is told here.
+  [[nodiscard]] int UnlessInterrupted(int status) {
     const int interruption = streams_.interruption();
-    return interruption != 0 ? interruption : status;
+    if (interruption == 0) return status;
+    if (status == kListMade && !program_.Words().stoppedAfter) {
+      err_ << Headed{MessageTone::kWarning, "Interrupted: "} << "the whole text was read by then\n";
+    }
+    return interruption;
   }
 
   bool Fail(const std::string& what) {
@@ -170,8 +176,10 @@ class TerminalRun {
     return true;
   }
 
+  /// Whoever lists files needs no words.
   bool CheckWordsFiles() {
-    const auto fault = FindWordsFileFault(options_.settings, program_.frmParams);
+    std::optional<std::string> fault = FindWordsFileFault(options_.settings);
+    if (!fault && !options_.listFiles) fault = FindWordsFileFault(program_.frmParams);
     return !fault || Fail(*fault);
   }
 
@@ -257,7 +265,7 @@ class TerminalRun {
   void TakeAsClipboard(ByteSource& input, CharacterSet encoding) {
     constexpr std::size_t kMostBytesPerCharacter = 4;
     StartOfSource start(input, kMostMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
-    std::string text = WholeText(start, encoding, clipboardUncounted_);
+    std::string text = WholeText(start, encoding, clipboardUncounted_, clipboardGuessed_);
     clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
     desktop_.SetClipboardText(std::move(text), start.WasCut());
   }
@@ -265,13 +273,16 @@ class TerminalRun {
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
   /// state.
   bool TakeEffect() {
-    // A folder that a state names and that is not there is nobody's affair when a file is counted.
-    TextBox& folder = program_.frmMain.txbFolder;
-    const std::string path = folder.Text();
-    if (!program_.frmMain.optFolder.Value()) folder.SetText("");
+    // What a state names, is not there and is not needed is nobody's affair: the folder when a file
+    // is counted, words files when files are listed.
+    std::vector<BoxSetAside> setAside;
+    if (!program_.frmMain.optFolder.Value()) setAside.emplace_back(program_.frmMain.txbFolder);
+    for (TextBox& box : program_.frmParams.txbWordsFile) {
+      if (options_.listFiles && !FileExists(box.Text())) setAside.emplace_back(box);
+    }
     const RestoreResult result = program_.TakeControls();
     if (result == RestoreResult::kInvalidIndex) return Fail("Invalid combo box index.");
-    folder.SetText(path);
+    setAside.clear();
     if (result != RestoreResult::kRestored || desktop_.ProblemShown()) return false;
     if (!options_.listFiles) {
       TellListsWithoutEffect(options_, program_, Messages(desktop_, program_.Text()), err_);
@@ -298,6 +309,7 @@ class TerminalRun {
     Uncounted uncounted = clipboardUncounted_;
     uncounted.runsLeftWhole = explanation.runsLeftWhole;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
+    TellGuessed(clipboardGuessed_.Names(), err_);
     const std::string lines =
         ExplanationLines(explanation.candidates, request.filters, program_.Text());
     if (lines.empty()) {
@@ -383,14 +395,15 @@ class TerminalRun {
     const bool likeFolder =
         input_.kind == InputChoice::Kind::kPaths && program_.Settings().lists.HasCountOnlyWords();
     if ((likeFolder && !options_.windowText) || program_.Lister().CheckDisplayFormat()) return true;
-    return Fail(
-        "here formats 11 to 13 go with --folder, and with any PATH, if --only or --only-words "
-        "is given");
+    return Fail(std::string("here formats 11 to 13 go with --folder, and ") +
+                (options_.windowText ? "without --window-text " : "") +
+                "with any PATH, if --only or --only-words is given");
   }
 
   /// True when a list was made.
   bool CountInWindow() {
     program_.frmMain.cmdCountWords.PerformClick();
+    streams_.endAtInterruption();
     TellSkipped();
     if (clipboardIsTooLong_) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
@@ -399,6 +412,7 @@ class TerminalRun {
     if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_,
                   program_.Words().folder.firstNotDecoded);
+    TellGuessed((options_.text ? clipboardGuessed_ : program_.Words().guessed).Names(), err_);
     return program_.Count().ListWasMade();
   }
 
@@ -480,6 +494,7 @@ class TerminalRun {
   bool clipboardIsTooLong_ = false;
   /// Of its bytes.
   Uncounted clipboardUncounted_;
+  GuessedSets clipboardGuessed_;
   /// Why the count gave no words.
   std::string fault_;
   Program program_;

@@ -66,4 +66,10 @@ void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::os
   }
 }
 
+void TellGuessed(std::string_view names, std::ostream& err) {
+  if (names.empty()) return;
+  err << Headed{MessageTone::kWarning, "Note: "} << "read as " << names
+      << ", as guessed; --encoding names another encoding.\n";
+}
+
 }  // namespace quillomat

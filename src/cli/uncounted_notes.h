@@ -14,4 +14,8 @@ namespace quillomat {
 void TellUncounted(const Uncounted& uncounted, const Messages& messages, std::ostream& err,
                    std::string_view firstNotDecoded = {});
 
+/// `names` are the encodings in which texts were read because it was guessed so; a line where there
+/// is one.
+void TellGuessed(std::string_view names, std::ostream& err);
+
 }  // namespace quillomat

@@ -33,6 +33,15 @@ class CommentMarkers {
   [[nodiscard]] int StartAt(std::string_view text, bool forced) const;
   // Its two steps: the pair, and whether there must be an entity for it.
   [[nodiscard]] int PairAt(std::string_view text) const;
+  /// The same where the markers can be found in raw lines: signs are told apart by one comparison.
+  [[nodiscard]] int PairOfSignsAt(std::string_view text) const {
+    for (std::size_t pair = 0; pair < 2; ++pair) {
+      const std::string& marker = start_[pair];
+      if (marker.empty() || marker[0] != text[0]) continue;
+      if (marker.size() == 1 || text.starts_with(marker)) return static_cast<int>(pair);
+    }
+    return kNoComment;
+  }
   [[nodiscard]] bool MustBeEntity(int pair, bool forced) const {
     return pair == 1 && forced && start_[1] == "&";
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <optional>
 
 #include "base/utf8.h"
 #include "engine/char_class.h"
@@ -141,11 +140,11 @@ bool DecodeHtmlEntitiesOfPart(std::string_view part, bool anyCase, bool& hidden,
   return any;
 }
 
-std::optional<std::size_t> EndOfPlainHtmlEntity(std::string_view text, bool inLines) {
+std::size_t EndOfPlainHtmlEntity(std::string_view text, bool inLines) {
   const std::string_view head = text.substr(0, kLongestHtmlEntity);
   for (std::size_t i = 1; i < head.size(); ++i) {
     const char ch = head[i];
-    if (static_cast<unsigned char>(ch) >= 0x80) return std::nullopt;
+    if (static_cast<unsigned char>(ch) >= 0x80) return kNotPlain;
     if (ch == ' ' || (i == 1 && ch != '#' && !IsAsciiLetter(ch))) return 0;
     if (ch == ';') return i + 1 >= kShortestHtmlEntity ? i + 1 : 0;
     if (!inLines) continue;
@@ -156,7 +155,7 @@ std::optional<std::size_t> EndOfPlainHtmlEntity(std::string_view text, bool inLi
 
 std::size_t HtmlEntityEnd(std::string_view text) {
   if (!text.starts_with('&')) return 0;
-  if (const auto plain = EndOfPlainHtmlEntity(text, false)) return *plain;
+  if (const auto plain = EndOfPlainHtmlEntity(text, false); plain != kNotPlain) return plain;
   const std::string_view head = text.substr(0, BytesOfFirst(text, kLongestHtmlEntity));
   const std::size_t semicolon = head.find(';');
   if (semicolon == std::string_view::npos) return 0;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,9 +31,11 @@ inline constexpr std::size_t kLongestHtmlEntity = 20;
 /// ";" among the first kLongestHtmlEntity, and no blank before it.
 [[nodiscard]] std::size_t HtmlEntityEnd(std::string_view text);
 
-/// The same where nothing but ASCII is met up to that ";", as in nearly all entities; nothing where
-/// another character is. `text` starts with "&". With `inLines` it holds lines as they stand in a
+/// The same where nothing but ASCII is met up to that ";", as in nearly all entities; kNotPlain
+/// where another character is. (A std::optional would come back by way of the memory, which takes
+/// longer than to look.) `text` starts with "&". With `inLines` it holds lines as they stand in a
 /// file: no entity goes beyond its line, and two hyphens stand for a blank.
-[[nodiscard]] std::optional<std::size_t> EndOfPlainHtmlEntity(std::string_view text, bool inLines);
+[[nodiscard]] std::size_t EndOfPlainHtmlEntity(std::string_view text, bool inLines);
+inline constexpr std::size_t kNotPlain = std::string_view::npos;
 
 }  // namespace quillomat

@@ -17,37 +17,14 @@ std::size_t LineEnd(std::string_view text, std::size_t position) {
   return std::min(text.substr(0, lineFeed).find('\r', position), lineFeed);
 }
 
-/// Finds the places where a comment may start, in order.
-class MarkerSearch {
- public:
-  MarkerSearch(const ScanSettings& settings, std::string_view text) : text_(text) {
-    for (const std::string& start : settings.CommentStart) {
-      if (start.empty() || (firsts_ == 1 && first_[0] == start[0])) continue;
-      first_[firsts_++] = start[0];
-    }
-  }
-
-  /// The first at or behind `position`, which never goes back; the size of the text behind the
-  /// last.
-  std::size_t Next(std::size_t position) {
-    std::size_t nearest = text_.size();
-    for (std::size_t i = 0; i < firsts_; ++i) {
-      if (!searched_[i] || next_[i] < position) {
-        next_[i] = std::min(text_.find(first_[i], position), text_.size());
-        searched_[i] = true;
-      }
-      nearest = std::min(nearest, next_[i]);
-    }
-    return nearest;
-  }
-
- private:
-  std::string_view text_;
-  std::array<char, 2> first_{};
-  std::array<std::size_t, 2> next_{};
-  std::array<bool, 2> searched_{};
-  std::size_t firsts_ = 0;
-};
+/// With which comments start; where no pair of markers is in force, any sign that starts none will
+/// do.
+SignPair StartSigns(const ScanSettings& settings) {
+  const std::string& one = settings.CommentStart[0];
+  const std::string& other = settings.CommentStart[1];
+  if (one.empty()) return {other[0], other[0]};
+  return {one[0], other.empty() ? one[0] : other[0]};
+}
 
 }  // namespace
 
@@ -103,37 +80,34 @@ void LineBlock::Rewrite(std::string_view lines, bool caseSignificant, bool ascii
 template <typename OnComment>
 void LineBlock::FindComments(const CommentMarkers& markers, ScanSettings& settings,
                              OnComment onComment) {
-  int& open = settings.OpenComment;
-  MarkerSearch search(settings, text_);
-  std::size_t position = 0;
-  if (open != kNoComment) {
+  endsFound_ = {};
+  CommentEnd end{0, settings.OpenComment};
+  if (end.open != kNoComment) {
     // Empty lines are passed over, and end no comment either.
     const std::size_t start = std::min(text_.find_first_not_of(" \r\n"), text_.size());
     if (start == text_.size()) return;
-    position = EndOfComment(markers, start, open);
-    onComment(std::size_t{0}, position);
+    end = EndOfComment(markers, start, end.open);
+    onComment(std::size_t{0}, end.position);
   }
-  for (;;) {
-    position = search.Next(position);
-    if (position == text_.size()) return;
-    open = markers.PairAt(text_.substr(position));
-    if (markers.MustBeEntity(open, settings.ForceCommentMarkers) && !IsEntityAt(position)) {
-      open = kNoComment;
-    }
-    if (open == kNoComment) {
-      ++position;
+  starts_.Find(StartSigns(settings), text_);
+  for (std::size_t start = starts_.Next(end.position); start < text_.size();) {
+    const int pair = markers.PairOfSignsAt(text_.substr(start));
+    const bool mustBeEntity = markers.MustBeEntity(pair, settings.ForceCommentMarkers);
+    if (pair == kNoComment || (mustBeEntity && !IsEntityAt(start))) {
+      start = starts_.Next(start + 1);
       continue;
     }
-    const std::size_t start = position;
-    position = EndOfComment(markers, start, open);
-    onComment(start, position);
+    end = EndOfComment(markers, start, pair);
+    onComment(start, end.position);
+    start = starts_.Next(end.position);
   }
+  settings.OpenComment = end.open;
 }
 
 /// Whether an entity stands there once the line is rewritten.
 bool LineBlock::IsEntityAt(std::size_t position) const {
   const std::string_view rest = text_.substr(position);
-  if (const auto plain = EndOfPlainHtmlEntity(rest, true)) return *plain > 0;
+  if (const auto plain = EndOfPlainHtmlEntity(rest, true); plain != kNotPlain) return plain > 0;
   // Letters and their marks may become fewer characters.
   const std::size_t most = kLongestHtmlEntity * (letters_ == LetterRule::kAll ? 4 : 1);
   std::string_view entity = rest.substr(0, BytesOfFirst(rest, most));
@@ -150,18 +124,30 @@ bool LineBlock::IsEntityAt(std::size_t position) const {
   return HtmlEntityEnd(entity) > 0;
 }
 
-/// Where a comment that is open at `start` ends. A comment that does not end in the text stays
-/// open.
-std::size_t LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start, int& open) {
-  const std::string& marker = markers.EndMarker(open);
-  // Most markers are one sign, which is found without comparing texts.
-  const std::size_t end = marker.empty()       ? LineEnd(text_, start)
-                          : marker.size() == 1 ? text_.find(marker[0], start)
-                                               : text_.find(marker, start);
-  if (end == std::string_view::npos) return text_.size();
-  endsInLineComment_ = marker.empty() && end == text_.size();
-  open = kNoComment;
-  return end + marker.size();
+/// Where a comment of the pair that is open at `start` ends. One that does not end in the text
+/// stays open.
+LineBlock::CommentEnd LineBlock::EndOfComment(const CommentMarkers& markers, std::size_t start,
+                                              int pair) {
+  const std::string& marker = markers.EndMarker(pair);
+  const SignPlaces& ends = EndsOf(pair, marker);
+  std::size_t end = ends.Next(start);
+  if (marker.size() > 1) {
+    while (end < text_.size() && !text_.substr(end).starts_with(marker)) end = ends.Next(end + 1);
+  }
+  if (end < text_.size()) return {end + marker.size(), kNoComment};
+  endsInLineComment_ = marker.empty();
+  return {end, marker.empty() ? kNoComment : pair};
+}
+
+/// Where comments of a pair may end in the text: they are looked for once, when one has started.
+const SignPlaces& LineBlock::EndsOf(int pair, const std::string& marker) {
+  const auto number = static_cast<std::size_t>(pair);
+  if (!endsFound_[number]) {
+    const SignPair signs = marker.empty() ? SignPair{'\n', '\r'} : SignPair{marker[0], marker[0]};
+    ends_[number].Find(signs, text_);
+    endsFound_[number] = true;
+  }
+  return ends_[number];
 }
 
 }  // namespace quillomat

@@ -3,6 +3,7 @@
 // after the other.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -65,8 +66,13 @@ class LineBlock {
   template <typename OnComment>
   void FindComments(const CommentMarkers& markers, ScanSettings& settings, OnComment onComment);
   [[nodiscard]] bool IsEntityAt(std::size_t position) const;
-  [[nodiscard]] std::size_t EndOfComment(const CommentMarkers& markers, std::size_t start,
-                                         int& open);
+  /// `open` says which pair is open there.
+  struct CommentEnd {
+    std::size_t position;
+    int open;
+  };
+  [[nodiscard]] CommentEnd EndOfComment(const CommentMarkers& markers, std::size_t start, int pair);
+  [[nodiscard]] const SignPlaces& EndsOf(int pair, const std::string& marker);
 
   const TokenClasses& classes_;
   LetterRule letters_;
@@ -77,6 +83,10 @@ class LineBlock {
   /// Whether a comment ends at the end of the text, and with its line.
   bool endsInLineComment_ = false;
   TokenEdges edges_;
+  /// Where comments of either pair may start, and where those of each may end, if that was asked.
+  SignPlaces starts_;
+  std::array<SignPlaces, 2> ends_;
+  std::array<bool, 2> endsFound_{};
 };
 
 }  // namespace quillomat

@@ -26,23 +26,32 @@ namespace quillomat::HWY_NAMESPACE {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-/// Of the 64 bytes at `text`.
-template <class Bytes>
-std::uint64_t MaskOf(Bytes d, hn::Vec<Bytes> rows, hn::Vec<Bytes> bits, const std::uint8_t* text) {
+/// The bits of the vectors in 64 bytes at `text`, as `inside` chooses the bytes of each.
+template <class Bytes, class Inside>
+std::uint64_t MaskOf(Bytes d, const std::uint8_t* text, Inside inside) {
   std::uint64_t mask = 0;
   for (std::size_t i = 0; i < kBytesPerMask; i += hn::Lanes(d)) {
-    const auto bytes = hn::LoadU(d, text + i);
-    const auto row = hn::TableLookupBytes(rows, hn::And(bytes, hn::Set(d, 0x0F)));
-    const auto bit = hn::TableLookupBytes(bits, hn::ShiftRight<4>(bytes));
-    const auto high = hn::And(bytes, hn::Set(d, 0x80));
-    const auto inside = hn::Ne(hn::Or(hn::And(row, bit), high), hn::Zero(d));
     std::uint8_t stored[8 + kBytesPerMask / 8] = {};
-    hn::StoreMaskBits(d, inside, stored);
+    hn::StoreMaskBits(d, inside(hn::LoadU(d, text + i)), stored);
     std::uint64_t part = 0;
     std::memcpy(&part, stored, sizeof part);
     mask |= part << i;
   }
   return mask;
+}
+
+template <class Bytes, class Inside>
+void FindMasks(Bytes d, std::string_view text, std::span<std::uint64_t> masks, Inside inside) {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+  const std::size_t whole = text.size() / kBytesPerMask;
+  for (std::size_t k = 0; k < whole; ++k) {
+    masks[k] = MaskOf(d, bytes + k * kBytesPerMask, inside);
+  }
+  const std::size_t rest = text.size() % kBytesPerMask;
+  if (rest == 0) return;
+  std::uint8_t last[kBytesPerMask] = {};
+  std::memcpy(last, bytes + whole * kBytesPerMask, rest);
+  masks[whole] = MaskOf(d, last, inside) & ((std::uint64_t{1} << rest) - 1);
 }
 
 void FindTokenBytes(const TokenClasses& classes, std::string_view text,
@@ -51,16 +60,20 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
   const hn::CappedTag<std::uint8_t, kBytesPerMask> d;
   const auto rows = hn::LoadDup128(d, classes.Rows().data());
   const auto bits = hn::LoadDup128(d, kBits);
-  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-  const std::size_t whole = text.size() / kBytesPerMask;
-  for (std::size_t k = 0; k < whole; ++k) {
-    masks[k] = MaskOf(d, rows, bits, bytes + k * kBytesPerMask);
-  }
-  const std::size_t rest = text.size() % kBytesPerMask;
-  if (rest == 0) return;
-  std::uint8_t last[kBytesPerMask] = {};
-  std::memcpy(last, bytes + whole * kBytesPerMask, rest);
-  masks[whole] = MaskOf(d, rows, bits, last) & ((std::uint64_t{1} << rest) - 1);
+  FindMasks(d, text, masks, [=](auto bytes) {
+    const auto row = hn::TableLookupBytes(rows, hn::And(bytes, hn::Set(d, 0x0F)));
+    const auto bit = hn::TableLookupBytes(bits, hn::ShiftRight<4>(bytes));
+    const auto high = hn::And(bytes, hn::Set(d, 0x80));
+    return hn::Ne(hn::Or(hn::And(row, bit), high), hn::Zero(d));
+  });
+}
+
+void FindSigns(SignPair signs, std::string_view text, std::span<std::uint64_t> masks) {
+  const hn::CappedTag<std::uint8_t, kBytesPerMask> d;
+  const auto one = hn::Set(d, static_cast<std::uint8_t>(signs.one));
+  const auto other = hn::Set(d, static_cast<std::uint8_t>(signs.other));
+  FindMasks(d, text, masks,
+            [=](auto bytes) { return hn::Or(hn::Eq(bytes, one), hn::Eq(bytes, other)); });
 }
 
 /// The places of the bits that differ from the bit before them; returns how many there are. Up to
@@ -94,6 +107,26 @@ HWY_AFTER_NAMESPACE();
 namespace quillomat {
 
 namespace {
+
+template <typename Inside>
+void FindMasksPortably(std::string_view text, std::span<std::uint64_t> masks, Inside inside) {
+  for (std::size_t k = 0; k * kBytesPerMask < text.size(); ++k) {
+    const std::string_view part = text.substr(k * kBytesPerMask, kBytesPerMask);
+    std::uint64_t mask = 0;
+    for (std::size_t i = 0; i < part.size(); ++i) {
+      mask |= static_cast<std::uint64_t>(inside(part[i])) << i;
+    }
+    masks[k] = mask;
+  }
+}
+
+void FindSignsPortably(SignPair signs, std::string_view text, std::span<std::uint64_t> masks) {
+  FindMasksPortably(text, masks, [signs](char ch) { return ch == signs.one || ch == signs.other; });
+}
+
+std::size_t MasksFor(std::string_view text) {
+  return (text.size() + kBytesPerMask - 1) / kBytesPerMask;
+}
 
 #if HWY_ARCH_X86 && (HWY_TARGETS & HWY_AVX3) != 0
 constexpr std::size_t kPlaces = 16;  // in a vector
@@ -142,21 +175,23 @@ template <int quarter>
 struct Kernel {
   std::string_view name;
   void (*findTokenBytes)(const TokenClasses&, std::string_view, std::span<std::uint64_t>);
+  void (*findSigns)(SignPair, std::string_view, std::span<std::uint64_t>);
   std::size_t (*findEdges)(std::span<const std::uint64_t>, std::uint32_t*);
 };
 
 /// Those that this processor can run, the plainest first.
 std::vector<Kernel> UsableKernels() {
-  std::vector<Kernel> kernels{{"portable", FindTokenBytesPortably, HWY_STATIC_DISPATCH(FindEdges)}};
+  std::vector<Kernel> kernels{
+      {"portable", FindTokenBytesPortably, FindSignsPortably, HWY_STATIC_DISPATCH(FindEdges)}};
 #if HWY_STATIC_TARGET != HWY_SCALAR  // whose vectors of one byte cannot hold a table of sixteen
-  kernels.push_back(
-      {"baseline", HWY_STATIC_DISPATCH(FindTokenBytes), HWY_STATIC_DISPATCH(FindEdges)});
+  kernels.push_back({"baseline", HWY_STATIC_DISPATCH(FindTokenBytes),
+                     HWY_STATIC_DISPATCH(FindSigns), HWY_STATIC_DISPATCH(FindEdges)});
 #endif
 #if HWY_ARCH_X86
   __builtin_cpu_init();
 #if (HWY_TARGETS & HWY_SSSE3) != 0
   if (__builtin_cpu_supports("ssse3")) {
-    kernels.push_back({"ssse3", N_SSSE3::FindTokenBytes, N_SSSE3::FindEdges});
+    kernels.push_back({"ssse3", N_SSSE3::FindTokenBytes, N_SSSE3::FindSigns, N_SSSE3::FindEdges});
   }
 #endif
 #if (HWY_TARGETS & (HWY_AVX2 | HWY_AVX3)) != 0
@@ -165,14 +200,16 @@ std::vector<Kernel> UsableKernels() {
                     __builtin_cpu_supports("aes") && __builtin_cpu_supports("pclmul");
 #endif
 #if (HWY_TARGETS & HWY_AVX2) != 0
-  if (avx2) kernels.push_back({"avx2", N_AVX2::FindTokenBytes, N_AVX2::FindEdges});
+  if (avx2) {
+    kernels.push_back({"avx2", N_AVX2::FindTokenBytes, N_AVX2::FindSigns, N_AVX2::FindEdges});
+  }
 #endif
 #if (HWY_TARGETS & HWY_AVX3) != 0
   if (avx2 && __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
       __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw")) {
-    kernels.push_back({"avx3", N_AVX3::FindTokenBytes, N_AVX3::FindEdges});
+    kernels.push_back({"avx3", N_AVX3::FindTokenBytes, N_AVX3::FindSigns, N_AVX3::FindEdges});
     if (__builtin_cpu_supports("avx512vbmi") && __builtin_cpu_supports("avx512vbmi2")) {
-      kernels.push_back({"vbmi2", N_AVX3::FindTokenBytes, FindEdgesByPressing});
+      kernels.push_back({"vbmi2", N_AVX3::FindTokenBytes, N_AVX3::FindSigns, FindEdgesByPressing});
     }
   }
 #endif
@@ -237,18 +274,17 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
 
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
                             std::span<std::uint64_t> masks) {
-  for (std::size_t k = 0; k * kBytesPerMask < text.size(); ++k) {
-    const std::string_view part = text.substr(k * kBytesPerMask, kBytesPerMask);
-    std::uint64_t mask = 0;
-    for (std::size_t i = 0; i < part.size(); ++i) {
-      mask |= static_cast<std::uint64_t>(classes.Holds(part[i])) << i;
-    }
-    masks[k] = mask;
-  }
+  FindMasksPortably(text, masks, [&classes](char ch) { return classes.Holds(ch); });
+}
+
+void SignPlaces::Find(SignPair signs, std::string_view text) {
+  size_ = text.size();
+  masks_.resize(MasksFor(text));
+  Choice().kernel.findSigns(signs, text, masks_);
 }
 
 void TokenEdges::Classify(const TokenClasses& classes, std::string_view text) {
-  masks_.resize((text.size() + kBytesPerMask - 1) / kBytesPerMask);
+  masks_.resize(MasksFor(text));
   FindTokenBytes(classes, text, masks_);
 }
 

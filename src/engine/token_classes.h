@@ -1,11 +1,13 @@
 // Finds the tokens of a text: the longest runs of bytes that may belong to a word. Every word lies
-// inside one token, and what becomes of a token does not depend on what stands around it.
+// inside one token, and what becomes of a token does not depend on what stands around it. Finds the
+// signs of comments, too.
 //
 // Many bytes are classified at a time, with the vector instructions of the machine that the program
 // runs on. The portable function does the same byte by byte.
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -48,6 +50,34 @@ void FindTokenBytes(const TokenClasses& classes, std::string_view text,
 /// The same without vector instructions.
 void FindTokenBytesPortably(const TokenClasses& classes, std::string_view text,
                             std::span<std::uint64_t> masks);
+
+/// Two signs that are looked for at once; twice the same for a single one.
+struct SignPair {
+  char one;
+  char other;
+};
+
+/// Where signs stand in a text.
+class SignPlaces {
+ public:
+  /// Looks at a text and forgets the text before.
+  void Find(SignPair signs, std::string_view text);
+  /// The first place at or behind `position`; the size of the text behind the last.
+  [[nodiscard]] std::size_t Next(std::size_t position) const {
+    std::size_t k = position / kBytesPerMask;
+    if (k >= masks_.size()) return size_;
+    std::uint64_t signs = masks_[k] & ~std::uint64_t{0} << position % kBytesPerMask;
+    while (signs == 0) {
+      if (++k == masks_.size()) return size_;
+      signs = masks_[k];
+    }
+    return k * kBytesPerMask + static_cast<std::size_t>(std::countr_zero(signs));
+  }
+
+ private:
+  std::vector<std::uint64_t> masks_;
+  std::size_t size_ = 0;
+};
 
 /// The tokens of a text, which has less than 2^32 bytes.
 class TokenEdges {

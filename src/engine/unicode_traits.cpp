@@ -28,6 +28,8 @@ std::uint8_t KindOf(char32_t codePoint) {
       return Traits::kMark;
     case UTF8PROC_CATEGORY_ND:
       return Traits::kDigit;
+    case UTF8PROC_CATEGORY_CF:
+      return Traits::kFormat;
     default:
       return 0;
   }
@@ -64,15 +66,11 @@ bool IsInLatinOrGreekBlock(char32_t codePoint) {
   return IsInOne(kBlocks, codePoint);
 }
 
-/// Of letters in such a block.
+/// Of letters in such a block: the micro sign, the Greek ones, and some among the phonetic letters.
 bool IsGreek(char32_t codePoint) {
-  static constexpr Range kBlocks[] = {
-      {0xB5, 0xB5},                        // the micro sign
-      {0x370, 0x3FF},                      //
-      {0x1D26, 0x1D2A}, {0x1D5D, 0x1D61},  // phonetic letters, on and above the line,
-      {0x1D66, 0x1D6A}, {0x1DBF, 0x1DBF},  // below it
-      {0x1F00, 0x1FFF}, {0xAB65, 0xAB65},  //
-  };
+  static constexpr Range kBlocks[] = {{0xB5, 0xB5},     {0x370, 0x3FF},   {0x1D26, 0x1D2A},
+                                      {0x1D5D, 0x1D61}, {0x1D66, 0x1D6A}, {0x1DBF, 0x1DBF},
+                                      {0x1F00, 0x1FFF}, {0xAB65, 0xAB65}};
   return IsInOne(kBlocks, codePoint);
 }
 

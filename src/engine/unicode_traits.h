@@ -32,6 +32,8 @@ struct CodePointTraits {
   static constexpr std::uint8_t kComposed = 32;
   /// A letter of the Latin script.
   static constexpr std::uint8_t kLatin = 64;
+  /// General category Cf: signs that most often cannot be seen, and say how others are laid out.
+  static constexpr std::uint8_t kFormat = 128;
 
   /// To be added for the small letter (simple lower case).
   std::int32_t toLower = 0;

@@ -28,9 +28,9 @@ struct SeededHash {
   HashSeed seed = DrawnHashSeed();
 };
 
-/// A list of small words in its own order and spelling. A word of a text is found whatever its
-/// letter case, by its accents, too: by the western rule in small letters, of all letters by
-/// Unicode's simple case folding, for which all sigmas are one.
+/// A list of words in small letters, in its own order and spelling. A word of a text is found in
+/// any letter case, with the same accents: by the western rule through its small letters, of all
+/// letters through Unicode's simple case folding, for which all sigmas are one.
 class WordList {
  public:
   WordList() = default;

@@ -87,11 +87,22 @@ void WordStore::CountWordWithNotes(std::uint32_t place, std::int32_t times) {
                          "display format without files.");
 }
 
-bool WordStore::TallyTakes(std::optional<std::uint32_t> place, std::int32_t times) const {
+bool WordStore::TallyTakes(std::uint32_t place, std::int32_t times) const {
   if (!files_.IsOn() || files_.Use() == TallyUse::kUnlisted) return true;
-  const bool isKnown = place && files_.CurrentFileIsNoted();
-  const std::int32_t sofar = isKnown ? tallies_[*place].CountInFile(files_.CurrentFileNumber()) : 0;
+  const bool isNoted = files_.CurrentFileIsNoted();
+  const std::int32_t sofar = isNoted ? tallies_[place].CountInFile(files_.CurrentFileNumber()) : 0;
   return sofar <= FileTally::kMostInListedFile - times;
+}
+
+bool WordStore::TallyTakes(std::string_view word, std::int32_t times) const {
+  if (!files_.IsOn() || files_.Use() == TallyUse::kUnlisted) return true;
+  if (files_.CurrentFileIsNoted() && !slots_.empty()) {
+    std::string buffer;
+    const std::string_view key = SortKeyOf(word, keyRule_, buffer);
+    const Slot& slot = slots_[FindSlot({word, key, HashOf(key)})];
+    if (slot.place != 0) return TallyTakes(slot.place - 1, times);
+  }
+  return times <= FileTally::kMostInListedFile;
 }
 
 void WordStore::CountWithNotes(std::span<const std::uint32_t> places) {

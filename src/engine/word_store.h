@@ -248,10 +248,12 @@ class WordStore {
   /// On so many threads, if there are many words.
   [[nodiscard]] WordTotals TallyWords(std::size_t threads = 1) const;
 
-  /// Whether that word, or a new one (nothing), may be counted so often in the file being scanned
-  /// before its tally there is an overflow. False is also possible where it may: of the files
-  /// beyond those that are listed.
-  [[nodiscard]] bool TallyTakes(std::optional<std::uint32_t> place, std::int32_t times) const;
+  /// Whether the word at `place` may be counted so often in the file being scanned before its tally
+  /// there is an overflow. False is also possible where it may: of the files beyond those that are
+  /// listed.
+  [[nodiscard]] bool TallyTakes(std::uint32_t place, std::int32_t times) const;
+  /// The same of a word that the store need not have.
+  [[nodiscard]] bool TallyTakes(std::string_view word, std::int32_t times) const;
 
   [[nodiscard]] FileTracker& Files() { return files_; }
   [[nodiscard]] const FileTracker& Files() const { return files_; }

@@ -21,13 +21,12 @@ void EndFromOutside::Keep() {
   windows_.KeepPlaces();
 }
 
-/// What is at work may take its time to end, and whoever asks may not have it.
+/// What is at work may take its time to end, and whoever asks may not have it, so the settings are
+/// kept first. Who has asked in a box finds the program quitting when the box is gone.
 void EndFromOutside::Quit() {
   Keep();
   desktop_.StopAsking();
-  // Later, when the boxes that were open are gone.
-  QMetaObject::invokeMethod(
-      &session_, [this] { program_.Quit(); }, Qt::QueuedConnection);
+  program_.Quit();
 }
 
 }  // namespace quillomat

@@ -1,6 +1,5 @@
 #include "qt/text_conversion.h"
 
-#include <QStringConverter>
 #include <cstddef>
 
 #include "base/terminal_text.h"
@@ -24,10 +23,11 @@ qsizetype NextByte(const QString& text, qsizetype from) {
   return from;
 }
 
-/// A mark of byte order at the start is part of the text.
+/// A mark of byte order at the start, which the toolkit drops, is part of the text.
 QString Decoded(std::string_view utf8) {
-  QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-  return decoder.decode(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
+  QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+  if (utf8.starts_with("\xEF\xBB\xBF")) text.prepend(QChar(QChar::ByteOrderMark));
+  return text;
 }
 
 }  // namespace

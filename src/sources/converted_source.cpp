@@ -50,7 +50,8 @@ std::string ConvertedText(std::string_view bytes, CharacterSet from,
   return text;
 }
 
-std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncounted) {
+std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncounted,
+                      GuessedSets& guessed) {
   std::string bytes;
   std::vector<char> block(kBlockBytes);
   while (const std::size_t size = source.Read(block)) bytes.append(block.data(), size);
@@ -58,6 +59,7 @@ std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncoun
   if (from == CharacterSet::kAsFound && choice == CharacterSet::kGuess) {
     from = LateGuessOfWhole(bytes);
   }
+  if (choice == CharacterSet::kGuess) guessed.Add(from);
   if (from != CharacterSet::kAsFound) return ConvertedText(bytes, from, uncounted.bytesNotDecoded);
   TextSource found(bytes);
   return DecodeText(found, &uncounted.linesNotUtf8);

@@ -16,6 +16,7 @@
 #include "base/character_set.h"
 #include "base/text_decoder.h"
 #include "engine/uncounted.h"
+#include "sources/guessed_sets.h"
 #include "sources/stop_question.h"
 
 namespace quillomat {
@@ -51,8 +52,9 @@ class ConvertedSource final : public ByteSource {
                                         std::int64_t& bytesNotDecoded);
 
 /// All of `source` as text, line breaks included, where the user wants the encoding `choice`. What
-/// is not as it should be is added to `uncounted`.
-[[nodiscard]] std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncounted);
+/// is not as it should be is added to `uncounted`, and a guess that was made to `guessed`.
+[[nodiscard]] std::string WholeText(ByteSource& source, CharacterSet choice, Uncounted& uncounted,
+                                    GuessedSets& guessed);
 
 /// The start of a text whose start is `head`, which may end within a character.
 [[nodiscard]] std::string ConvertedHead(std::string_view head, CharacterSet from);

@@ -4,7 +4,8 @@
 // The order of events: OnChecked; with a counting pass OnFileCounted for every file, then GoOn;
 // OnScanBegins; then for each text OnFileMet, and either OnSkipped or OnFileBegins, OnProgress as
 // its bytes are read, and at last OnFileEnds. OnNewWord and the stop question come in between. A
-// single text that is refused ends the count before OnScanBegins.
+// single text that is refused ends the count before OnScanBegins. Of a file that has gone or
+// changed before all of its words were counted, OnSkipped is told later.
 //
 // Everything is called by the thread that runs the count. A RunTimeError thrown by an observer is
 // one of the text that is being read.

@@ -17,6 +17,7 @@
 #include "listing/frequency_ranking.h"
 #include "listing/list_line.h"
 #include "listing/order_figures.h"
+#include "sources/guessed_sets.h"
 #include "sources/line_endings.h"
 #include "sources/line_tally.h"
 #include "sources/marker_fault.h"
@@ -173,6 +174,7 @@ struct CountResult {
   /// The first file of a folder or a list of paths with bytes that could not be decoded; "" where
   /// there is none.
   std::string firstNotDecoded;
+  GuessedSets guessed;
 
   /// The open comment that the last text has left behind.
   int openComment = -1;

@@ -16,8 +16,8 @@ namespace {
 /// One count at work.
 class Count {
  public:
-  Count(const CountRequest& request, CountObserver& observer)
-      : state_(request, observer), texts_(state_), folders_(state_, texts_) {}
+  Count(const CountRequest& request, CountObserver& observer, const BatchSizes& batches)
+      : state_(request, observer), texts_(state_), folders_(state_, texts_, batches) {}
 
   CountResult Take() {
     CountResult& result = state_.result;
@@ -96,7 +96,7 @@ Refusal Counter::Check(const CountRequest& request, std::optional<RunTimeError>&
 }
 
 CountResult Counter::Run() {
-  return Count(request_, observer_).Take();
+  return Count(request_, observer_, batches_).Take();
 }
 
 }  // namespace quillomat

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "base/run_time_error.h"
+#include "sources/batch_sizes.h"
 #include "sources/count_observer.h"
 #include "sources/count_request.h"
 #include "sources/count_result.h"
@@ -21,9 +22,9 @@ class Counter {
  public:
   /// Counts for nobody.
   explicit Counter(const CountRequest& request) : Counter(request, nobody_) {}
-  /// Both outlive the counter.
-  Counter(const CountRequest& request, CountObserver& observer)
-      : request_(request), observer_(observer) {}
+  /// Request and observer outlive the counter.
+  Counter(const CountRequest& request, CountObserver& observer, const BatchSizes& batches = {})
+      : request_(request), observer_(observer), batches_(batches) {}
   Counter(const Counter&) = delete;
   Counter& operator=(const Counter&) = delete;
   Counter(Counter&&) = delete;
@@ -43,6 +44,7 @@ class Counter {
   CountObserver nobody_;
   const CountRequest& request_;
   CountObserver& observer_;
+  BatchSizes batches_;
 };
 
 }  // namespace quillomat

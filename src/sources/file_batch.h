@@ -64,9 +64,6 @@ struct FileBatch {
   std::size_t scanner = 0;
 };
 
-/// Handing over so many bytes costs next to nothing beside scanning them.
-inline constexpr std::size_t kBatchBytes = std::size_t{2048} * 1024;
-
 /// For one thread.
 class FileScanner {
  public:

@@ -21,9 +21,7 @@ bool IsStandardInput(const TextOfPaths& source, std::string_view path) {
   return source.standardInput != nullptr && path == kStandardInput;
 }
 
-/// A batch is full with so many things, however few bytes they have; the first ones with fewer, as
-/// nobody knows yet how many they have.
-constexpr std::size_t kMostItems = 128;
+/// The first batches have so many things, as nobody knows yet how many bytes they have.
 constexpr std::size_t kFirstItems = 16;
 constexpr std::size_t kItemsWorthThreads = 8;
 /// The first files are read as they are met, up to so many or so many bytes: before threads were
@@ -138,9 +136,9 @@ bool FolderPass::IsAmongFirst() const {
 /// As files go, of as many bytes as a batch is to have.
 std::size_t FolderPass::ItemsOfBatch() const {
   const std::int64_t files = state_.result.files;
-  if (files == 0) return kFirstItems;
+  if (files == 0) return std::min(kFirstItems, batches_.items);
   const auto usualBytes = static_cast<std::size_t>(bytesOfFiles_ / files);
-  return std::clamp<std::size_t>(batchBytes_ / (usualBytes + 1), 1, kMostItems);
+  return std::clamp<std::size_t>(batches_.bytes / (usualBytes + 1), 1, batches_.items);
 }
 
 /// A walk can be slow: between two folders it is seen to that nothing waits for it.
@@ -157,7 +155,7 @@ void FolderPass::KeepBusy() {
 void FolderPass::Submit() {
   if (!pool_) {
     const bool tallied = state_.result.store.Files().IsOn();
-    pool_.emplace(state_.settings, state_.request, batchBytes_,
+    pool_.emplace(state_.settings, state_.request, batches_.bytes,
                   tallied || state_.request.orderFigures ? PieceScanner::Counts::kByPiece
                                                          : PieceScanner::Counts::kTogether);
     joiners_.resize(state_.request.threads);
@@ -222,10 +220,12 @@ void FolderPass::TakeFile(WalkItem& item, std::size_t scanner) {
   state_.observer.OnFileMet(report.path, progress);
   const std::int64_t bytesBefore = progress.runBytesRead;
   state_.result.store.Files().SetFileBeingScanned(report.path);
-  texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner); });
+  const bool joins = PrepareJoin(item, scanner);
+  texts_.Try(report, [&](FileReport&) { ReadFile(item, scanner, joins); });
   std::string& firstNotDecoded = state_.result.firstNotDecoded;
-  if (report.uncounted.bytesNotDecoded > 0 && firstNotDecoded.empty())
+  if (report.uncounted.bytesNotDecoded > 0 && firstNotDecoded.empty()) {
     firstNotDecoded = report.path;
+  }
   ++progress.filesDone;
   progress.bytesRead = 0;
   progress.bytesInFile = 0;
@@ -247,7 +247,17 @@ void FolderPass::Keep(FileReport& report) {
   if (state_.request.keepReports) state_.result.reports.push_back(std::move(report));
 }
 
-void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
+/// Whether the file can be joined. Before one that cannot, or with which a count begins, the counts
+/// of other files come: they are no part of this one's figures.
+bool FolderPass::PrepareJoin(const WalkItem& item, std::size_t scanner) {
+  if (item.state != WalkItem::State::kScanned) return false;
+  const bool joins = CanJoin(item, scanner);
+  const bool beginsCount = item.bytesTogether > 0;
+  if (!joins || beginsCount) CountOwed(joiners_[scanner]);
+  return joins;
+}
+
+void FolderPass::ReadFile(WalkItem& item, std::size_t scanner, bool joins) {
   if (item.kind == WalkItem::Kind::kStandardInput) {
     return texts_.ReadStream(*standardInput_, item.report);
   }
@@ -261,10 +271,7 @@ void FolderPass::ReadFile(WalkItem& item, std::size_t scanner) {
     case WalkItem::State::kScanned:
       break;
   }
-  const bool canJoin = CanJoin(item, scanner);
-  const bool beginsCount = item.bytesTogether > 0;
-  if (!canJoin || beginsCount) CountOwed(joiners_[scanner]);
-  if (canJoin) return Join(item, joiners_[scanner]);
+  if (joins) return Join(item, joiners_[scanner]);
   pool_->ForgetWords(scanner);
   joiners_[scanner].LeaveOut();
   item.LeaveAlone();
@@ -302,8 +309,8 @@ void FolderPass::Join(WalkItem& item, PieceJoiner& joiner) {
   AddChecked(state_.result.wordsRead, count.wordsRead);
   joiner.Join(count, state_.result.store);
   if (count.countsTogether) {
-    owed_.push_back({item.report.path, identity, bytes, count.wordsRead, count.newWordBytes.size(),
-                     count.openBefore});
+    owed_.push_back({item.report.path, state_.result.reports.size(), identity, bytes,
+                     count.wordsRead, count.newWordBytes.size(), count.openBefore});
   }
   if (item.isLastTogether) owed_.clear();
   state_.settings.Uncounted += count.uncounted;
@@ -316,8 +323,7 @@ bool FolderPass::Owed::IsThatOf(const WalkItem& item) const {
 }
 
 /// Where files that are counted together cannot be joined to the last, those that were are read
-/// once more, for their counts alone. Of one that has gone or changed meanwhile only the words that
-/// were new in it are counted, once each.
+/// once more, for their counts alone.
 void FolderPass::CountOwed(PieceJoiner& joiner) {
   const auto owed = std::exchange(owed_, {});
   if (owed.empty()) return;
@@ -337,9 +343,29 @@ void FolderPass::CountOwed(PieceJoiner& joiner) {
     } else {
       scanner.ForgetWords();
       joiner.KeepOwed(file.newWords);
-      Skip({file.path, Refusal::kReadFailed, {}});
+      TakeBack(file);
     }
   }
+}
+
+/// Of a file that has gone or changed before its words were counted, only those that were new in it
+/// are, once each: it was read in part.
+void FolderPass::TakeBack(const Owed& file) {
+  CountResult& result = state_.result;
+  const SkippedFile skipped{file.path, Refusal::kReadFailed,
+                            RunTimeError(RunTimeErrorNumber::kFileNotFound,
+                                         "the file has gone or changed while it was counted, so "
+                                         "its words are counted in part")};
+  const auto wordsCounted = static_cast<std::int32_t>(file.newWords);
+  result.wordsRead -= file.wordsRead - wordsCounted;
+  --result.files;
+  if (state_.request.keepReports) {
+    FileReport& report = result.reports.at(file.report);
+    report.refusal = skipped.reason;
+    report.error = skipped.error;
+    report.wordsRead = wordsCounted;
+  }
+  Skip(skipped);
 }
 
 void FolderPass::Skip(const SkippedFile& skipped) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "engine/parallel/piece_scanner.h"
+#include "sources/batch_sizes.h"
 #include "sources/count_at_work.h"
 #include "sources/count_request.h"
 #include "sources/file_batch.h"
@@ -23,15 +24,29 @@ namespace quillomat {
 
 class FolderPass {
  public:
-  /// Both outlive the pass. Batches of files have about `batchBytes`.
-  FolderPass(CountAtWork& state, TextPass& texts, std::size_t batchBytes = kBatchBytes)
-      : state_(state), texts_(texts), batchBytes_(batchBytes) {}
+  /// Both outlive the pass.
+  FolderPass(CountAtWork& state, TextPass& texts, const BatchSizes& batches)
+      : state_(state), texts_(texts), batches_(batches) {}
 
   void Read(const TextOfFolder& source);
   void Read(const TextOfPaths& source);
 
  private:
   using Visit = std::function<void(const FolderVisitor&)>;
+
+  /// A file that was joined while its counts are still to come.
+  struct Owed {
+    [[nodiscard]] bool IsThatOf(const WalkItem& item) const;
+
+    std::string path;
+    /// In CountResult::reports, if they are kept.
+    std::size_t report = 0;
+    std::optional<FileIdentity> identity;
+    std::int64_t bytes = 0;
+    std::int32_t wordsRead = 0;
+    std::size_t newWords = 0;
+    int openBefore = -1;
+  };
 
   void ReadMany(std::int32_t folders, const Visit& visit);
   [[nodiscard]] bool CountFiles(const Visit& visit);
@@ -49,16 +64,18 @@ class FolderPass {
   void Take(WalkItem& item, std::size_t scanner);
   void LeaveOut(WalkItem& item, Refusal reason);
   void TakeFile(WalkItem& item, std::size_t scanner);
-  void ReadFile(WalkItem& item, std::size_t scanner);
+  [[nodiscard]] bool PrepareJoin(const WalkItem& item, std::size_t scanner);
+  void ReadFile(WalkItem& item, std::size_t scanner, bool joins);
   [[nodiscard]] bool CanJoin(const WalkItem& item, std::size_t scanner);
   void Join(WalkItem& item, PieceJoiner& joiner);
   void CountOwed(PieceJoiner& joiner);
+  void TakeBack(const Owed& file);
   void Skip(const SkippedFile& skipped);
   void Keep(FileReport& report);
 
   CountAtWork& state_;
   TextPass& texts_;
-  std::size_t batchBytes_;
+  BatchSizes batches_;
   /// What "-" reads in a list of paths; null for other sources.
   ByteSource* standardInput_ = nullptr;
   /// Of those that were read.
@@ -70,17 +87,7 @@ class FolderPass {
   std::optional<FilePool> pool_;
   /// By the number of the pool's scanner.
   std::vector<PieceJoiner> joiners_;
-  /// Files that are counted together: those that were joined while the counts are still to come.
-  struct Owed {
-    [[nodiscard]] bool IsThatOf(const WalkItem& item) const;
-
-    std::string path;
-    std::optional<FileIdentity> identity;
-    std::int64_t bytes = 0;
-    std::int32_t wordsRead = 0;
-    std::size_t newWords = 0;
-    int openBefore = -1;
-  };
+  /// Of those that are counted together.
   std::vector<Owed> owed_;
   /// How often it was not foreseen of late which comment is open in front of a batch.
   int surprises_ = 0;

@@ -1,5 +1,7 @@
 #include "sources/line_tally.h"
 
+#include "base/byte_order_mark.h"
+
 namespace quillomat {
 namespace {
 
@@ -58,6 +60,7 @@ void LineTally::TakeBytes(std::string_view bytes) {
   figures_.ascii = figures_.ascii && !counted.high;
   afterReturn_ = bytes.back() == '\r';
   inLine_ = bytes.back() != '\r' && bytes.back() != '\n';
+  start_ += bytes.substr(0, kMostMarkBytes + 1 - start_.size());
 }
 
 void LineTally::TakeUnits(std::string_view bytes) {
@@ -92,9 +95,13 @@ void LineTally::Note(std::size_t lineFeeds, std::size_t returns, std::size_t pai
   figures_.returns += static_cast<std::int64_t>(returns) - together;
 }
 
+bool LineTally::IsMarkAlone() const {
+  return !start_.empty() && WithoutUtf8Mark(start_).empty();
+}
+
 LineEndFigures LineTally::Figures() const {
   LineEndFigures figures = figures_;
-  figures.endsOpen = inLine_ || hasOddByte_;
+  figures.endsOpen = (inLine_ && !IsMarkAlone()) || hasOddByte_;
   return figures;
 }
 

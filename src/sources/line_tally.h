@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace quillomat {
@@ -39,6 +40,7 @@ class LineTally {
   void TakeBytes(std::string_view bytes);
   void TakeUnits(std::string_view bytes);
   void TakeUnit(char16_t unit);
+  [[nodiscard]] bool IsMarkAlone() const;
   void Note(std::size_t lineFeeds, std::size_t returns, std::size_t pairs);
 
   Unit unit_;
@@ -46,6 +48,8 @@ class LineTally {
   /// What was taken ends with a carriage return; with something else than a line end.
   bool afterReturn_ = false;
   bool inLine_ = false;
+  /// The text begins so: with one byte more than its mark may have.
+  std::string start_;
   /// Half a unit was taken, which is this byte.
   bool hasOddByte_ = false;
   unsigned char oddByte_ = 0;

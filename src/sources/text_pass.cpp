@@ -118,6 +118,9 @@ void TextPass::Try(FileReport& report, const ReadReported& read) {
   report.wordsRead = state_.result.wordsRead - wordsBefore;
   report.uncounted = state_.settings.Uncounted;
   report.uncounted -= uncountedBefore;
+  if (state_.request.encoding == CharacterSet::kGuess && report.refusal == Refusal::kNone) {
+    state_.result.guessed.Add(report.convertedFrom);
+  }
   if (report.identity) state_.result.filesRead.push_back(*report.identity);
 }
 

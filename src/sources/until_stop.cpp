@@ -15,12 +15,11 @@ constexpr std::chrono::milliseconds kNoWait{0};
 /// Bytes of a unit of UTF-16.
 constexpr std::size_t kUnitBytes = 2;
 /// Of a character of UTF-8.
-constexpr std::size_t kMostContinuationBytes = 3;
+constexpr std::size_t kMostContinuationBytes = kMostUtf8Bytes - 1;
 
 /// How many of them `bytes` begin with.
 std::size_t ContinuationBytes(std::string_view bytes) {
-  const auto other = std::ranges::find_if(
-      bytes, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) != 0x80U; });
+  const auto other = std::ranges::find_if_not(bytes, IsContinuationByte);
   return static_cast<std::size_t>(other - bytes.begin());
 }
 

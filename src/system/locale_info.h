@@ -5,8 +5,8 @@
 
 namespace quillomat {
 
-/// What stands between groups of three digits, in UTF-8. Where the locale has nothing, ","; or "."
-/// if the comma is its decimal sign.
+/// What stands between groups of three digits, in UTF-8. Where the locale has nothing, or its
+/// decimal sign, ","; or "." if the comma is that sign.
 [[nodiscard]] std::string DigitGroupSeparator();
 
 /// What stands before the decimals, in UTF-8; "." where the locale has nothing.

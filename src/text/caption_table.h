@@ -136,7 +136,8 @@ inline constexpr std::array<int, 2> kEncodingTexts = {261, 262};
 /// Which languages the first of the others is for, and so on.
 inline constexpr int kFirstEncodingNoteText = 950;
 
-/// The items of the export window's cboOrder, in the order of WordOrder.
+/// The items of the main window's cboWordOrder and the export window's cboOrder, in the order of
+/// WordOrder.
 inline constexpr std::array<int, 2> kOrderTexts = {870, 871};
 
 /// Tool tips of frmParams.
@@ -350,6 +351,7 @@ inline constexpr int kByteNotDecodedText = 727;
 inline constexpr int kBytesNotDecodedInText = 745;
 inline constexpr int kByteNotDecodedInText = 746;
 inline constexpr int kLinesNotUtf8Text = 728;
+inline constexpr int kGuessedText = 797;
 inline constexpr int kLineNotUtf8Text = 729;
 inline constexpr int kWhichText = 715;
 inline constexpr int kCountAgainText = 716;

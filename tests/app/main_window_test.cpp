@@ -81,32 +81,6 @@ TEST_F(MainWindowTest, DialogOpensAtItsBoxThenWhereTheLastOneEndedThenAtTheDocum
   EXPECT_EQ(desktop.FileDialogs()[2].folder, other);
 }
 
-TEST_F(MainWindowTest, OutputFileThatMayNotBeWrittenIsRefusedAndAskedForAgain) {
-  namespace fs = std::filesystem;
-  const std::string locked = folder.Write("locked.txt", "mine");
-  fs::permissions(folder.Path(), fs::perms::all);
-  fs::permissions(locked, fs::perms::owner_read);
-  const int failures = AsOrdinaryUser([&] {
-    for (int language = 0; language < 2; ++language) {
-      desktop.AnswerFile(locked);
-      desktop.AnswerFile(folder / "free.txt");
-      Main().cmdFile[1].PerformClick();
-      EXPECT_EQ(Main().txbFile[1].Text(), folder / "free.txt");
-      Main().cmdLanguage.PerformClick();
-    }
-    std::vector<std::string> texts;
-    for (const MessageBox& box : desktop.Messages()) texts.push_back(box.text);
-    EXPECT_THAT(
-        texts,
-        ElementsAre(locked + "\r\nThis file is read-only. Choose another one.",
-                    locked + "\r\nDiese Datei ist schreibgeschützt. Wählen Sie eine andere."));
-    EXPECT_EQ(desktop.FileDialogs().size(), 4U);
-    return HasFailure() ? 1 : 0;
-  });
-  EXPECT_EQ(failures, 0);
-  fs::permissions(locked, fs::perms::owner_all);
-}
-
 TEST_F(MainWindowTest, OutputFileIsLookedForBesideTheCountedFolder) {
   desktop.SetDocumentsFolder(documents.Path());
   const std::string books = folder.Make("books");

@@ -49,6 +49,8 @@ TEST(Notices, MostImportantComesFirst) {
 }
 
 TEST(Notices, LinesThatWereNotUtf8MatterLessWhereAllLettersWereCounted) {
+  EXPECT_THAT(TextsOf({.listStands = true, .guessed = "KOI8-U", .wordsToIgnore = 1}),
+              ElementsAre(kGuessedText, kWordToIgnoreText));
   EXPECT_THAT(TextsOf({.listStands = true, .linesNotUtf8 = 2, .wordsShown = 1, .words = 2}),
               ElementsAre(kPartShownText, kLinesNotUtf8Text));
 }

@@ -4,6 +4,7 @@
 # one as a whole, after INT and TERM no other file may be left, and what failed must be told, naming the file.
 # Usage: export_kills.sh PROGRAM ROUNDS
 set -u
+. "$(dirname "$0")/random_kill.sh"
 program=$1
 rounds=$2
 formats="csv tsv json jsonl html md xlsx"
@@ -72,13 +73,7 @@ killed=0
 round=0
 while [ "$round" -lt "$rounds" ]; do
   round=$((round + 1))
-  case $((round % 3)) in
-    0) signal=KILL status=137 ;;
-    1) signal=INT status=130 ;;
-    *) signal=TERM status=143 ;;
-  esac
-  random=$(od -An -N4 -tu4 /dev/urandom | tr -d ' ')
-  delay=$(awk "BEGIN { printf \"%.6f\", $random / 4294967296 * $whole * 1.2 / 1000000 }")
+  draw_kill "$round" 1.2
   what="round $round ($signal after $delay s)"
   cp old/* place/
   export_words new.txt timeout --preserve-status -s "$signal" "$delay"

@@ -4,6 +4,7 @@
 # left, and the exit status must tell the signal.
 # Usage: kills.sh PROGRAM ROUNDS
 set -u
+. "$(dirname "$0")/random_kill.sh"
 program=$1
 rounds=$2
 work=$(mktemp -d)
@@ -41,13 +42,7 @@ killed=0
 round=0
 while [ "$round" -lt "$rounds" ]; do
   round=$((round + 1))
-  case $((round % 3)) in
-    0) signal=KILL status=137 ;;
-    1) signal=INT status=130 ;;
-    *) signal=TERM status=143 ;;
-  esac
-  random=$(od -An -N4 -tu4 /dev/urandom | tr -d ' ')
-  delay=$(awk "BEGIN { printf \"%.6f\", $random / 4294967296 * $whole * 1.3 / 1000000 }")
+  draw_kill "$round" 1.3
   cp old.list place/list
   cp old.qlm place/state.qlm
   timeout --preserve-status -s "$signal" "$delay" "$program" --file new.txt --format 7 \

@@ -96,6 +96,28 @@ TEST_F(TerminalRunTest, BytesThatCouldNotBeDecodedAreTold) {
   EXPECT_EQ(err, "Note: 2 bytes could not be decoded; --encoding names another encoding.\n");
 }
 
+TEST_F(TerminalRunTest, WhatWasGuessedIsTold) {
+  std::string koi8;
+  for (int i = 0; i < 5; ++i) {
+    koi8 += "\xEB\xC1\xD6\xC4\xCF\xC5 \xD5\xD4\xD2\xCF \xD2\xC5\xCB\xC1 \xD4\xC9\xC8\xCF\n";
+  }
+  const std::string note = "Note: read as KOI8-U, as guessed; --encoding names another encoding.\n";
+  const std::string path = folder.Write("koi8.txt", koi8);
+  input = koi8;
+  for (const std::vector<std::string>& how : {std::vector<std::string>{path},
+                                              {"-"},
+                                              {"--text", path},
+                                              {path, "--window-text"},
+                                              {path, folder.Write("utf8.txt", "слово")}}) {
+    std::vector<std::string> arguments = how;
+    arguments.insert(arguments.end(), {"--encoding", "guess", "--letters", "all"});
+    EXPECT_EQ(Run(arguments), 0);
+    EXPECT_EQ(err, note) << how.front();
+  }
+  EXPECT_EQ(Run({path, "--encoding", "koi8-u", "--letters", "all"}), 0);
+  EXPECT_EQ(err, "");
+}
+
 TEST_F(TerminalRunTest, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed) {
   const std::string first = folder.Write("a.txt", "cat");
   const std::string second = folder.Write("b.txt", "cat\xFF\xFE");
@@ -149,6 +171,9 @@ TEST_F(TerminalRunTest, PathsServeTheFormatsThatNameFiles) {
   EXPECT_EQ(Run({"--file", path, "--only-words", "cat", "--format", "13"}), 1);
   EXPECT_THAT(err, EndsWith("quillomat-cli: here formats 11 to 13 go with --folder, and with any "
                             "PATH, if --only or --only-words is given\n"));
+  EXPECT_EQ(Run({path, "--only-words", "cat", "--format", "11", "--window-text"}), 1);
+  EXPECT_THAT(err, EndsWith("quillomat-cli: here formats 11 to 13 go with --folder, and without "
+                            "--window-text with any PATH, if --only or --only-words is given\n"));
 }
 
 TEST_F(TerminalRunTest, PathsServeTheColumnsThatNameFiles) {
@@ -215,6 +240,20 @@ TEST_F(TerminalRunTest, CountOnlyWordsThatGiveNoneAreTold) {
   EXPECT_THAT(err, testing::Not(HasSubstr("Note")));
 }
 
+TEST_F(TerminalRunTest, CountOnlyWordsThatNoTextHoldsAreTold) {
+  const std::string text = folder.Write("a.txt", "cat can't !! & dog");
+  for (const char* words : {"!!", "&", "can't"}) {
+    EXPECT_EQ(Run({text, "--only-words", words}), 1);
+    EXPECT_THAT(err, StartsWith("Note: under these settings no text holds any of the count-only "
+                                "words as they are typed; none is counted.\n"))
+        << words;
+  }
+  EXPECT_EQ(Run({text, "--only-words", "!! cat"}), 0) << err;
+  EXPECT_EQ(err, "");
+  EXPECT_EQ(Run({text, "--only-words", "can't", "--apostrophes"}), 0) << err;
+  EXPECT_EQ(err, "");
+}
+
 TEST_F(TerminalRunTest, AWordsFileOfAStateThatIsAwayIsNamed) {
   const std::string text = folder.Write("a.txt", "cat dog");
   const std::string words = folder.Write("words.txt", "cat\r\n");
@@ -224,11 +263,43 @@ TEST_F(TerminalRunTest, AWordsFileOfAStateThatIsAwayIsNamed) {
     ASSERT_EQ(Run({text, option, away, "--save-state", state}), 0) << err;
     std::filesystem::remove(away);
     EXPECT_EQ(Run({text, "--state", state}), 1);
+    const std::string box =
+        option == std::string("--ignore") ? "txbWordsFile(0)" : "txbWordsFile(1)";
     EXPECT_EQ(err, "quillomat-cli: the words file " + away +
-                       ", which the settings name, does not exist; --ignore and --only name "
-                       "another\n");
+                       ", which the settings name, does not exist; " + option +
+                       " FILE names another, --set '" + box + "=' none\n");
     EXPECT_EQ(Run({text, "--state", state, option, words}), 0) << err;
+    EXPECT_EQ(Run({text, "--state", state, "--set", box + "="}), 0) << err;
   }
+}
+
+TEST_F(TerminalRunTest, FilesAreListedThoughAWordsFileOfTheStateIsAway) {
+  const std::string text = folder.Write("texts/a.txt", "cat dog");
+  const std::string away = folder.Write("away.txt", "cat\r\n");
+  const std::string state = folder / "state";
+  const std::string again = folder / "again";
+  ASSERT_EQ(Run({text, "--only", away, "--save-state", state}), 0) << err;
+  std::filesystem::remove(away);
+  const std::string texts = folder / "texts";
+  EXPECT_EQ(Run({"--folder", texts, "--list-files", "--state", state, "--save-state", again}), 0)
+      << err;
+  EXPECT_THAT(out, HasSubstr("a.txt"));
+  EXPECT_THAT(ContentsOf(again), HasSubstr(away));
+  EXPECT_EQ(Run({"--folder", texts, "--list-files", "--only", away}), 1) << "named here";
+}
+
+TEST_F(TerminalRunTest, AnInterruptionBehindTheCountIsTold) {
+  input = "cat dog";
+  interruption = [this] { return countsOver > 0 ? 130 : 0; };
+  EXPECT_EQ(Run({"-", "--list-on-interrupt", "--format", "word"}), 130);
+  EXPECT_THAT(out, HasSubstr("cat\n"));
+  EXPECT_EQ(err, "Interrupted: the whole text was read by then\n");
+}
+
+TEST_F(TerminalRunTest, AnInterruptionBehindACountOfTheClipboardMayEndTheProgram) {
+  const std::string text = folder.Write("a.txt", "cat dog");
+  EXPECT_EQ(Run({"--text", text, "--list-on-interrupt"}), 0) << err;
+  EXPECT_EQ(countsOver, 1);
 }
 
 TEST_F(TerminalRunTest, AFileThatIsNoStateIsToldSo) {

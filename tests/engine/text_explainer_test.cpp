@@ -90,6 +90,8 @@ TEST_F(TextExplainer, AllSignsThatCannotBeSeenAreNamed) {
   for (const auto& [sign, name] :
        {std::pair{"\u200E", "U+200E"}, std::pair{"\u061C", "U+061C"}, std::pair{"\u202A", "U+202A"},
         std::pair{"\u2069", "U+2069"}, std::pair{"\uFEFF", "U+FEFF"}, std::pair{"\u2060", "U+2060"},
+        std::pair{"\u180E", "U+180E"}, std::pair{"\u2063", "U+2063"}, std::pair{"\u206A", "U+206A"},
+        std::pair{"\uFFF9", "U+FFF9"}, std::pair{"\U000E0061", "U+E0061"},
         std::pair{"\uFF07", "\uFF07"}}) {
     const std::string piece = std::string("ab") + sign + "cd";
     EXPECT_EQ(Outline("- " + piece), piece + "|" + name + "  ab=ab  cd=cd");

@@ -1,5 +1,6 @@
 #include "engine/token_classes.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -61,6 +62,22 @@ TEST(TokenClasses, VectorsAndThePortableWayAgreeOnRandomBytesOfAnyLength) {
   for (std::size_t size = 0; size < 300; ++size) {
     const std::string text = RandomText(random, size);
     EXPECT_EQ(Masks(classes, text), PortableMasks(classes, text)) << size;
+  }
+}
+
+TEST(SignPlaces, EveryPlaceIsFoundInTextsOfAnyLength) {
+  std::mt19937_64 random(std::uint64_t{12});
+  SignPlaces places;
+  for (std::size_t size = 0; size < 300; ++size) {
+    const std::string text = RandomText(random, size);
+    for (const SignPair signs : {SignPair{'b', 'c'}, SignPair{'a', 'a'}, SignPair{'<', '\0'}}) {
+      places.Find(signs, text);
+      const std::string either = {signs.one, signs.other};
+      for (std::size_t position = 0; position <= size; ++position) {
+        ASSERT_EQ(places.Next(position), std::min(text.find_first_of(either, position), size))
+            << size << ' ' << position;
+      }
+    }
   }
 }
 

@@ -1,7 +1,9 @@
 #include "engine/token_memo.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
+#include <random>
 #include <string>
 
 namespace quillomat {
@@ -87,6 +89,28 @@ TEST(TokenMemo, KeepsCountsUntilTheyAreTakenAlsoWhileItGrows) {
   EXPECT_EQ(TakeKeptOf(memo), (std::map<TokenOutcome, std::int32_t>{{1, 2}, {2, 1}}));
   EXPECT_TRUE(TakeKeptOf(memo).empty());
   EXPECT_EQ(Meet(memo, "a"), 1);
+}
+
+TEST(TokenMemo, TokensThatChangePlacesKeepTheirCountsAndWorth) {
+  constexpr std::uint32_t kTokens = 3'000;
+  TokenMemo memo;
+  for (std::uint32_t i = 0; i < kTokens; ++i) {
+    memo.Remember(AtTheEnd(memo, "t" + std::to_string(i)), i % 7 == 0 ? kNoWord : i);
+  }
+  std::mt19937_64 random(std::uint64_t{21});
+  std::map<TokenOutcome, std::int32_t> met;
+  for (int meeting = 0; meeting < 60'000; ++meeting) {
+    // Those that came first are seldom met, and many of them have the places of others.
+    const auto i = static_cast<std::uint32_t>(std::max(random() % kTokens, random() % kTokens));
+    const std::string token = "t" + std::to_string(i);
+    if (i % 7 == 0) {
+      ASSERT_EQ(memo.Find(AtTheEnd(memo, token)), kNoWord);
+    } else {
+      ASSERT_EQ(Meet(memo, token), ++met[i]);
+      ASSERT_EQ(memo.Find(AtTheEnd(memo, token)), i);
+    }
+  }
+  EXPECT_EQ(TakeKeptOf(memo), met);
 }
 
 TEST(TokenMemo, KeepsNoCountsOfWhatIsNotOneWord) {

@@ -8,6 +8,7 @@
 #include "engine/scan_settings.h"
 #include "engine/word_filters.h"
 #include "properties/count_case.h"
+#include "sources/batch_sizes.h"
 #include "sources/count_request.h"
 
 namespace quillomat::properties {
@@ -28,7 +29,10 @@ struct FilesInTurn {
   std::size_t threads = 1;
   /// kGrowth or kNoOrder.
   Told told = Told::kGrowth;
-  /// Is told what the observer of the count was told, and in which order.
+  BatchSizes batches = {};
+  /// The count is stopped behind the file at that path; "" where it is not.
+  std::string stopBehind = {};
+  /// Is told what the observer of the count was told, in which order, and how far the count came.
   std::string* events = nullptr;
 };
 

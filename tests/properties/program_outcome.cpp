@@ -60,11 +60,13 @@ std::string FiveDigits(std::int32_t number) {
   return std::string(5 - digits.size(), '0') + digits;
 }
 
-/// Writes down what it is told.
+/// Writes down what it is told, and stops the count where that is wanted.
 class EventNotes final : public CountObserver {
  public:
-  explicit EventNotes(std::string* events) : events_(events) {}
+  explicit EventNotes(const FilesInTurn& files) : files_(files) {}
 
+  bool Yield() override { return stops_; }
+  bool YieldFor(std::uint32_t /*calls*/) override { return stops_; }
   void OnNewWord(std::string_view word, std::int32_t numDifferentWords) override {
     Note("new", word, numDifferentWords);
   }
@@ -79,18 +81,30 @@ class EventNotes final : public CountObserver {
   void OnFileEnds(const FileReport& report, const CountProgress& progress) override {
     Note("ends", report.path, report.bytesRead);
     Note("in all", "", progress.runBytesRead);
+    stops_ = stops_ || report.path == files_.stopBehind;
   }
   void OnSkipped(const SkippedFile& skipped) override {
     Note("skipped", skipped.path, static_cast<int>(skipped.reason));
   }
+  /// Behind the count.
+  void NoteReach(const CountResult& result) {
+    Note("end", "", static_cast<int>(result.end));
+    Note("files", "", result.files);
+    Note("folders", "", result.folders);
+    const CountReach reach = result.stoppedAfter.value_or(CountReach());
+    Note("stopped after files", "", reach.files);
+    Note("and bytes", "", reach.bytes);
+  }
 
  private:
   void Note(std::string_view what, std::string_view name, std::int64_t number) {
-    if (events_ == nullptr) return;
-    events_->append(what).append(" ").append(name).append(" " + std::to_string(number) + "\n");
+    if (files_.events == nullptr) return;
+    files_.events->append(what).append(" ").append(name).append(" " + std::to_string(number) +
+                                                                "\n");
   }
 
-  std::string* events_;
+  const FilesInTurn& files_;
+  bool stops_ = false;
 };
 
 class ProgramCase {
@@ -204,8 +218,9 @@ class ProgramCase {
     request.openComment = settings_.OpenComment;
     request.threads = files_->threads;
     request.orderFigures = files_->told == Told::kGrowth;
-    EventNotes notes(files_->events);
-    CountResult result = Counter(request, notes).Run();
+    EventNotes notes(*files_);
+    CountResult result = Counter(request, notes, files_->batches).Run();
+    notes.NoteReach(result);
     result.Rank(request.filters);
     store_ = std::move(result.store);
     totals_ = result.totals;

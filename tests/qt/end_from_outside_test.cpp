@@ -76,6 +76,26 @@ TEST_F(EndFromOutsideTest, OpenQuestionIsAnsweredSoThatNothingIsLost) {
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_F(EndFromOutsideTest, AtTheQuestionAboutAStoppedCountNothingIsListed) {
+  boxes.Pause(60'000);
+  std::string text;
+  for (int i = 0; i < 4'000'000; ++i) text += "word ";
+  const std::string list = folder.Write("list.txt", "old");
+  user->program.frmParams.chkWarnOnOverwrite.SetChecked(false);
+  frmMain.txbFile[1].SetText(list);
+  user->program.Sources().ChooseText(folder.Write("a.txt", text));
+  QTimer stop;
+  QObject::connect(&stop, &QTimer::timeout, [&] {
+    if (user->program.State().Phase() == RunPhase::kCounting) frmMain.cmdCountWords.PerformClick();
+  });
+  stop.start(1);
+  AskToEndWhen([] { return QApplication::activeModalWidget() != nullptr; });
+  user->Click(frmMain.cmdCountWords);
+  EXPECT_TRUE(EndsSoon());
+  EXPECT_EQ(Contents(list), "old");
+  EXPECT_EQ(user->Shown().find("Rank"), std::string::npos);
+}
+
 TEST_F(EndFromOutsideTest, OpenDialogIsClosedWithoutAChoice) {
   boxes.Pause(60'000);
   frmMain.optInFile.SetValue(true);

@@ -9,6 +9,7 @@
 #include "base/run_time_error.h"
 #include "engine/parallel/line_pieces.h"
 #include "sources/counter_fixture.h"
+#include "sources/refusal_text.h"
 
 namespace quillomat {
 namespace {
@@ -47,13 +48,11 @@ class FilesOnThreads : public CounterFixture {
     bool operator==(const Outcome&) const = default;
   };
 
-  Outcome CountFolder(std::size_t threads, std::size_t batchBytes) {
+  Outcome CountFolder(std::size_t threads, const BatchSizes& batches) {
     request.threads = threads;
+    request.source = TextOfFolder{folder.Path(), true, {}};
     RecordingObserver noted;
-    CountAtWork state(request, noted);
-    TextPass texts(state);
-    FolderPass(state, texts, batchBytes).Read(TextOfFolder{folder.Path(), true, {}});
-    const CountResult& result = state.result;
+    const CountResult result = Counter(request, noted, batches).Run();
     Outcome outcome{
         WordsOf(result),  noted.newWords, noted.events,   {},
         result.wordsRead, result.files,   result.folders, noted.afterFiles.back().runBytesRead};
@@ -68,10 +67,12 @@ class FilesOnThreads : public CounterFixture {
   }
 
   void ExpectSameOnThreads() {
-    const Outcome expected = CountFolder(1, kBatchBytes);
+    const Outcome expected = CountFolder(1, {});
     for (const std::size_t threads : {2U, 3U, 8U}) {
-      for (const std::size_t batchBytes : {std::size_t{1}, std::size_t{200}, kBatchBytes}) {
-        EXPECT_EQ(CountFolder(threads, batchBytes), expected) << threads << ", " << batchBytes;
+      for (const BatchSizes& batches :
+           {BatchSizes{.bytes = 1}, {.bytes = 200}, {.items = 3}, BatchSizes{}}) {
+        EXPECT_EQ(CountFolder(threads, batches), expected)
+            << threads << ", " << batches.bytes << ", " << batches.items;
       }
     }
   }
@@ -192,6 +193,7 @@ TEST_F(FilesOnThreads, CountNoWordTwiceWhereOneOfThemHasGoneBeforeAStop) {
     paths.push_back(folder / Numbered(i));
   }
   request.threads = 2;
+  request.keepReports = true;
   observer.onFileBegins = [&](const FileBegins& file) {
     if (file.path != paths[80]) return;
     std::filesystem::remove(paths[79]);
@@ -202,10 +204,43 @@ TEST_F(FilesOnThreads, CountNoWordTwiceWhereOneOfThemHasGoneBeforeAStop) {
   ASSERT_EQ(result.skipped.size(), 1U);
   EXPECT_EQ(result.skipped[0].path, paths[79]);
   EXPECT_EQ(result.skipped[0].reason, Refusal::kReadFailed);
+  EXPECT_EQ(RefusalInRun(result.skipped[0].reason, result.skipped[0].error),
+            "the file has gone or changed while it was counted, so its words are counted in part");
+  EXPECT_EQ(result.files, 80);
+  ASSERT_EQ(result.reports.size(), 81U);
+  EXPECT_EQ(result.reports[78].refusal, Refusal::kNone);
+  EXPECT_EQ(result.reports[79].refusal, Refusal::kReadFailed);
+  EXPECT_EQ(result.reports[79].wordsRead, 1);
+  EXPECT_EQ(result.wordsRead, 160 + 81);
   for (std::int32_t place = 1; place <= result.store.NumDifferentWords(); ++place) {
     const bool isDog = result.store.WordOf(place) == "dog";
     EXPECT_EQ(result.store.CountOf(place), isDog ? 160 : 1) << result.store.WordOf(place);
   }
+}
+
+TEST_F(FilesOnThreads, HaveTheirOwnWordsInTheReportsThoughOneHasGone) {
+  std::vector<std::string> paths;
+  for (int i = 0; i < 150; ++i) {
+    Put(Numbered(i), "dog dog cat\n");
+    paths.push_back(folder / Numbered(i));
+  }
+  request.threads = 2;
+  request.keepReports = true;
+  observer.onFileBegins = [&](const FileBegins& file) {
+    if (file.path == paths[80]) std::filesystem::remove(paths[79]);
+    if (file.path == paths[81]) throw std::bad_alloc();  // so that the next cannot be joined
+  };
+  const CountResult result = Run(TextOfPaths{paths, false, {}, nullptr});
+  EXPECT_EQ(result.end, CountEnd::kComplete);
+  EXPECT_EQ(result.files, 148);
+  std::int32_t wordsRead = 0;
+  for (std::size_t i = 0; i < result.reports.size(); ++i) {
+    const bool isWhole = i != 79 && i != 81;
+    EXPECT_EQ(result.reports[i].wordsRead, isWhole ? 3 : 0) << i;
+    wordsRead += result.reports[i].wordsRead;
+  }
+  EXPECT_EQ(result.wordsRead, wordsRead);
+  EXPECT_EQ(WordsOf(result), "cat*148 dog*296");
 }
 
 TEST_F(FilesOnThreads, OfWhichOneCannotBeOpenedAreCountedAllTheSame) {

@@ -34,6 +34,19 @@ TEST(LineTally, LastLineNeedsNoEnd) {
   EXPECT_EQ(FiguresOf("a\r\n\r").Lines(), 2);
 }
 
+TEST(LineTally, MarkAloneIsNoLine) {
+  EXPECT_EQ(FiguresOf("\xEF\xBB\xBF").Lines(), 0);
+  EXPECT_FALSE(FiguresOf("\xEF\xBB\xBF").ascii);
+  EXPECT_EQ(FiguresOf("\xEF\xBB\xBF\n").Lines(), 1);
+  EXPECT_EQ(FiguresOf("\xEF\xBB\xBF\na").Lines(), 2);
+  EXPECT_EQ(FiguresOf("\xEF\xBB\xBFz").Lines(), 1);
+  EXPECT_EQ(FiguresOf("\xEF\xBB").Lines(), 1);
+  EXPECT_EQ(FiguresOf("a\xEF\xBB\xBF").Lines(), 1);
+  LineTally inParts(Unit::kByte);
+  for (const char ch : std::string("\xEF\xBB\xBF")) inParts.Take({&ch, 1});
+  EXPECT_EQ(inParts.Figures().Lines(), 0);
+}
+
 TEST(LineTally, TellsWhetherAllIsAscii) {
   EXPECT_TRUE(FiguresOf(std::string(1000, 'a') + "\n").ascii);
   EXPECT_FALSE(FiguresOf(std::string(1000, 'a') + "\x80").ascii);

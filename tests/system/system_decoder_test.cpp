@@ -72,6 +72,14 @@ TEST(SystemDecoder, ReplacesBytesThatBeginNoCharacter) {
   ExpectConverted(CharacterSet::kBig5, "\xA6w\xFF\xFF\xA6w", "安\uFFFD\uFFFD安", 2);
 }
 
+/// Some systems have controls for them.
+TEST(SystemDecoder, BytesThatLeadNothingAreNoControlsOfSetsOfSeveralBytes) {
+  ExpectConverted(CharacterSet::kEucJp, "\x80!\x9F\x85\xC6\xFC", "\uFFFD!\uFFFD\uFFFD日", 3);
+  ExpectConverted(CharacterSet::kBig5, "\x80!\xA6w", "\uFFFD!安", 1);
+  ExpectConverted(CharacterSet::kShiftJis, "\x80!\xA0!\x82\xC6", "\uFFFD!\uFFFD!と", 2);
+  ExpectConverted(CharacterSet::kIso8859Part1, "\x80!\xA0", "\u0080!\u00A0", 0);
+}
+
 TEST(SystemDecoder, KnowsWhatUsualTextsInEucJpHaveBeyondTheStandard) {
   ExpectConverted(CharacterSet::kEucJp, "\xAD\xA1\xC6\xFC\xAD\xEA\xCB\xDC", "①日㈱本", 0);
   ExpectConverted(CharacterSet::kEucJp, "\x8E\xB1\x8F\xB0\xA1\xA4\xC8", "ｱ丂と", 0);

@@ -1,8 +1,8 @@
 #include "app/count/count_basis.h"
 
 #include <algorithm>
-#include <cstddef>
 
+#include "app/count/panel_choices.h"
 #include "app/setting_values.h"
 
 namespace quillomat {
@@ -29,9 +29,9 @@ std::string ValueInForce(const Setting& setting, const MainForm& frmMain,
 
 /// `lists` were taken from the panel.
 bool NamesNoCountOnlyWord(const ParamsForm& frmParams, const WordLists& lists) {
-  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
-  const bool namesSome = !frmParams.txbWordsFile[kIndex].Text().empty() ||
-                         !frmParams.txbWordsToIgnoreOrCount[kIndex].Text().empty();
+  using enum WordListKind;
+  const bool namesSome = !WordsFileBoxOf(frmParams, kCountOnly).Text().empty() ||
+                         !TypedWordsBoxOf(frmParams, kCountOnly).Text().empty();
   return namesSome && !lists.HasCountOnlyWords();
 }
 

@@ -108,6 +108,7 @@ void CountRun::Take(CountResult result, CountedText text) {
   count_.words.WordsRead = result.wordsRead;
   count_.words.orderFigures = std::move(result.orderFigures);
   count_.words.uncounted = result.uncounted;
+  count_.words.guessed = std::move(result.guessed);
   count_.words.folder = {result.files, result.folders, result.skippedInAll,
                          {},           result.leftOut, result.firstNotDecoded};
   count_.words.stoppedAfter = result.stoppedAfter;

@@ -26,8 +26,9 @@ bool IsReadOnly(const std::string& path) {
   try {
     if (FileExists(path)) CheckWritable(path);
     return false;
-  } catch (const RunTimeError&) {
-    return true;
+  } catch (const RunTimeError& error) {
+    return error.Number() == static_cast<int>(RunTimeErrorNumber::kPermissionDenied) ||
+           error.Number() == static_cast<int>(RunTimeErrorNumber::kPathFileAccess);
   }
 }
 
@@ -51,9 +52,20 @@ std::optional<std::string> PathBoxes::ChooseFileFor(const TextBox& box, FileDial
   while (std::optional<std::string> path = desktop_.ChooseFile(dialog)) {
     RememberFolderOf(*path);
     if (!dialog.noReadOnlyReturn || !IsReadOnly(*path)) return path;
+    dialog.folder = FolderPartOf(*path);
     messages_.Refuse(path->append(kCrLf) + messages_.Text(kFileIsReadOnlyText), dialog.title);
   }
   return std::nullopt;
+}
+
+std::optional<std::string> PathBoxes::ChooseTextFileFor(const TextBox& box, std::string title) {
+  FileDialog dialog;
+  dialog.title = std::move(title);
+  dialog.filter = "Any text file (*.*) | *.*";
+  dialog.pathMustExist = true;
+  dialog.fileMustExist = true;
+  dialog.hideReadOnly = true;
+  return ChooseFileFor(box, std::move(dialog));
 }
 
 std::optional<std::string> PathBoxes::ChooseFolderFor(const TextBox& box,

@@ -21,6 +21,9 @@ class PathBoxes {
   /// that the dialog refuses. The box is left as it is.
   [[nodiscard]] std::optional<std::string> ChooseFileFor(const TextBox& box, FileDialog dialog);
 
+  /// The same for a text file that is there.
+  [[nodiscard]] std::optional<std::string> ChooseTextFileFor(const TextBox& box, std::string title);
+
   /// The same for a folder.
   [[nodiscard]] std::optional<std::string> ChooseFolderFor(const TextBox& box,
                                                            const std::string& title);

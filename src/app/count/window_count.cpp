@@ -60,6 +60,7 @@ CountResult CountInWindow(const WindowCount& count, const CountRequest& request,
     count.words.WordsRead = result.wordsRead;
     count.words.orderFigures = std::move(result.orderFigures);
     count.words.uncounted = result.uncounted;
+    count.words.guessed = std::move(result.guessed);
     count.words.counted.filesRead = std::move(result.filesRead);
     count.words.files = std::move(result.reports);
     count.words.folder = {result.files, result.folders, result.skippedInAll,

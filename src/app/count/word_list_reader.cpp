@@ -266,12 +266,14 @@ void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
 }
 
 /// False. The box keeps the path: its disk may be away for a while, and a count without the list is
-/// not what the user asked for, so each one tells until the file is back or the box is cleared.
+/// not what the user asked for, so each one tells until the file is back or the box is cleared;
+/// whoever leaves the box is told once.
 /// While a state is restored the panel says that it could not be loaded as a whole; words to ignore
 /// are the default ones from then on.
 bool WordListReader::TellNotFound(WordListKind kind) {
   ForgetWordsOfFile(kind);
   if (flags_.blnStartUpCompleted && !flags_.blnInhibitPrompt) {
+    toldAway_[IndexOf(kind)] = PathBox(kind).Text();
     messages_.Refuse("File for " + KindName(kind) + " not found.", "File not found");
   } else if (IsIgnore(kind)) {
     SetPathToCWDs_Eng();
@@ -291,7 +293,7 @@ void WordListReader::OnWordsFileLostFocus(WordListKind kind) {
   const std::string& path = PathBox(kind).Text();
   if (path.empty()) {
     ForgetWordsOfFile(kind);
-  } else if (!IsInForce(kind, path)) {
+  } else if (!IsInForce(kind, path) && (path != toldAway_[IndexOf(kind)] || FileExists(path))) {
     AttemptToReadWords(kind);
   }
 }
@@ -363,14 +365,9 @@ void WordListReader::ChooseCommonWords(const std::string& path) {
 
 void WordListReader::SelectWordsFile(WordListKind kind) {
   if (IsIgnore(kind) && !WantsWordsToIgnore()) return;
-  FileDialog dialog;
-  dialog.title = IsIgnore(kind) ? "Specify file containing words to ignore"
-                                : "Specify file containing count-only words";
-  dialog.filter = "Any text file (*.*) | *.*";
-  dialog.pathMustExist = true;
-  dialog.fileMustExist = true;
-  dialog.hideReadOnly = true;
-  const std::optional<std::string> path = paths_.ChooseFileFor(PathBox(kind), dialog);
+  const std::optional<std::string> path = paths_.ChooseTextFileFor(
+      PathBox(kind), IsIgnore(kind) ? "Specify file containing words to ignore"
+                                    : "Specify file containing count-only words");
   if (!path) return;
   PathBox(kind).SetText(*path);
   AttemptToReadWords(kind);
@@ -384,6 +381,7 @@ void WordListReader::ClearWordsFile(WordListKind kind) {
 void WordListReader::ForgetWordsOfFile(WordListKind kind) {
   FileList(kind) = WordList();
   FileInForce(kind).clear();
+  toldAway_[IndexOf(kind)].clear();
   ListTaken.Fire();
 }
 

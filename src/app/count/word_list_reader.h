@@ -110,6 +110,8 @@ class WordListReader {
   std::string tooLong_;
   /// The typed lists of which the user has been told that they cannot be used as a whole.
   std::array<std::string, 2> lossyTyped_;
+  /// The files of which the user has been told that they are away.
+  std::array<std::string, 2> toldAway_;
   /// Of the last words file, by the settings that it was read with.
   Uncounted notRead_;
 };

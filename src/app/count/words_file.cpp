@@ -20,6 +20,13 @@ constexpr std::size_t kListTestBytes = 16'384;
 /// a device.
 constexpr std::size_t kMostWordsBytes = std::size_t{16} * 1024 * 1024;
 
+/// Of all letters a list has each word that it means, whatever accents do in a text. By the western
+/// rule words that are one in a text are one in a list.
+ScanChoices ChoicesForWords(ScanChoices choices) {
+  if (choices.letters == LetterRule::kAll) choices.foldAccents = CheckState::kUnchecked;
+  return choices;
+}
+
 }  // namespace
 
 void SetUpForWordsFile(ScanSettings& settings, const ScanChoices& choices) {
@@ -46,7 +53,8 @@ Uncounted WordsFile::Scan(ScanSettings& settings, const ScanChoices& choices, Wo
                           ScanYield& yield) {
   Uncounted lost;
   const WordLists none;
-  WordScanner scanner(settings, choices, none, store, yield);
+  const ScanChoices listed = ChoicesForWords(choices);
+  WordScanner scanner(settings, listed, none, store, yield);
   SourceLimits limits{.lineBytes = kMostWordsBytes};
   if (mayBeEndless_) limits.bytes = kMostWordsBytes;
   LimitedSource limited(text_, limits);

@@ -31,9 +31,9 @@ class WordsFile {
   /// Of its text, in UTF-8.
   [[nodiscard]] LineEndingType Type() const { return type_; }
 
-  /// Puts its words into the store. Returns what of it could not be read as it was meant. The
-  /// settings were set up for it; a stop ends it early. Throws as the source does, and
-  /// InputTooLong. Called once.
+  /// Puts its words into the store: of all letters each that accents tell from others, whatever
+  /// they do in a text. Returns what of it could not be read as it was meant. The settings were set
+  /// up for it; a stop ends it early. Throws as the source does, and InputTooLong. Called once.
   [[nodiscard]] Uncounted Scan(ScanSettings& settings, const ScanChoices& choices, WordStore& store,
                                ScanYield& yield);
 

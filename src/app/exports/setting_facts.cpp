@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/count/panel_choices.h"
 #include "app/setting_values.h"
 #include "app/settings_table.h"
 #include "system/paths.h"
@@ -85,9 +86,9 @@ Value ValueOf(const Setting& setting, const MainForm& frmMain, const ParamsForm&
 }
 
 bool NamesCountOnlyWords(const Control& control, const ParamsForm& frmParams) {
-  constexpr auto kIndex = static_cast<std::size_t>(WordListKind::kCountOnly);
-  return &control == &frmParams.txbWordsFile[kIndex] ||
-         &control == &frmParams.txbWordsToIgnoreOrCount[kIndex];
+  using enum WordListKind;
+  return &control == &WordsFileBoxOf(frmParams, kCountOnly) ||
+         &control == &TypedWordsBoxOf(frmParams, kCountOnly);
 }
 
 /// As whoever makes the count again names it, from wherever.

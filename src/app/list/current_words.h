@@ -46,6 +46,7 @@ struct CurrentWords {
   std::optional<OrderFigures> orderFigures;
   /// What was met beside them.
   Uncounted uncounted;
+  GuessedSets guessed;
   std::int16_t minimumColumnWidth = kMinimumColumnWidth;
 
   // Whoever listens changes nothing of the words.

@@ -111,6 +111,10 @@ constexpr auto kRows = std::to_array<NoticeRow>({
      kLineNotUtf8Text,
      [](const NoticeFacts& facts) { return NumberOf(LinesNotUtf8(facts, false)); },
      {kChangeEncoding}},
+    {kGuessedText,
+     0,
+     [](const NoticeFacts& facts) { return NameOf(facts.guessed); },
+     {kChangeEncoding}},
     {kFilesLeftOutText,
      kFileLeftOutText,
      [](const NoticeFacts& facts) {

@@ -53,6 +53,8 @@ struct NoticeFacts {
   /// The first of the files of a folder that has such bytes.
   std::string firstNotDecoded = {};
   std::int64_t linesNotUtf8 = 0;
+  /// In which encodings texts were read because it was guessed so.
+  std::string guessed = {};
   /// Files of a folder that were left out by design, and why, in words.
   std::int64_t filesLeftOut = 0;
   std::string leftOutBecause = {};

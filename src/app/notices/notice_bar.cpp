@@ -92,6 +92,7 @@ NoticeFacts NoticeBar::Facts() const {
   facts.runsLeftWhole = words_.uncounted.runsLeftWhole;
   facts.bytesNotDecoded = words_.uncounted.bytesNotDecoded;
   facts.linesNotUtf8 = words_.uncounted.linesNotUtf8;
+  facts.guessed = words_.guessed.Names();
   facts.listsReadAgain = basis.listsReadAgain;
   facts.countOnlyWords = basis.countOnlyWords;
   facts.noCountOnlyWord = basis.namesNoCountOnlyWord;

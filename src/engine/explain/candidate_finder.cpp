@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "base/direction_marks.h"
 #include "base/utf8.h"
 #include "engine/unicode_traits.h"
 
@@ -21,9 +20,9 @@ enum class CharacterKind : std::uint8_t {
   kDigit,
 };
 
+/// Soft hyphens, joiners, marks of direction and others.
 bool LooksLikeNothing(char32_t codePoint) {
-  constexpr std::u32string_view kSigns = U"\u00AD\u200B\u200C\u200D\u2060\uFEFF";
-  return kSigns.find(codePoint) != std::u32string_view::npos || IsDirectionMark(codePoint);
+  return UnicodeTraits::Get().Is(codePoint, CodePointTraits::kFormat);
 }
 
 /// Signs that can be allowed in words, and those beyond ASCII that look like them or like nothing.

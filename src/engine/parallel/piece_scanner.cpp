@@ -133,9 +133,11 @@ bool PieceJoiner::CanJoin(const PieceCount& piece, const WordStore& store) const
   if (!knowsNumbers_ && !piece.numbersAnew) return false;
   if (!store.Files().IsOn()) return true;
   const std::size_t known = piece.numbersAnew ? 0 : places_.size();
+  NewWords left{piece.newLetters, piece.newWordBytes};
   return std::ranges::all_of(piece.words, [&](const WordStore::CountedWord& word) {
-    const bool isNew = word.place >= known;
-    return store.TallyTakes(isNew ? std::nullopt : std::optional(places_[word.place]), word.times);
+    // What is new to the scanner may have been met by others in the same file.
+    return word.place < known ? store.TallyTakes(places_[word.place], word.times)
+                              : store.TallyTakes(left.TakeFirst(), word.times);
   });
 }
 
@@ -145,13 +147,11 @@ void PieceJoiner::TakeBackOwed(std::size_t words, WordStore& store) {
 
 /// Gets the next new word ready for the store.
 void PieceJoiner::FetchNewWord(NewWords& left, WordStore& store) {
-  const std::string_view text = left.letters.substr(0, left.bytes.front());
+  const std::string_view text = left.TakeFirst();
   std::string_view key = SortKeyOf(text, store.Rule(), keyText_);
   if (key.data() != text.data()) key = {newKeys_.Keep(key), key.size()};
   newWords_.push_back({text, key, store.HashOf(key)});
   store.PrefetchSlot(newWords_.back().hash);
-  left.letters.remove_prefix(left.bytes.front());
-  left.bytes = left.bytes.subspan(1);
 }
 
 /// Puts some of the new words of a piece into the store, of which the counts are still to come.

@@ -130,6 +130,13 @@ class PieceJoiner {
  private:
   /// What is left of the new words of a piece.
   struct NewWords {
+    [[nodiscard]] std::string_view TakeFirst() {
+      const std::string_view first = letters.substr(0, bytes.front());
+      letters.remove_prefix(first.size());
+      bytes = bytes.subspan(1);
+      return first;
+    }
+
     std::string_view letters;
     std::span<const std::uint32_t> bytes;
   };

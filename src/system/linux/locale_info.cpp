@@ -4,6 +4,7 @@
 #include <langinfo.h>
 #include <string_view>
 
+#include "base/digit_groups.h"
 #include "base/utf8.h"
 #include "system/linux/locale_handle.h"
 
@@ -28,9 +29,7 @@ std::string SignOfNumbers(nl_item item) {
 }  // namespace
 
 std::string DigitGroupSeparator() {
-  std::string separator = SignOfNumbers(THOUSEP);
-  if (!separator.empty()) return separator;
-  return DecimalSign() == "," ? "." : ",";
+  return GroupSignBeside(DecimalSign(), SignOfNumbers(THOUSEP));
 }
 
 std::string DecimalSign() {

@@ -18,9 +18,20 @@ std::atomic<bool> firstIsNoted{false};
 std::atomic<int> statusNoted{0};
 // NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
-/// Nobody can be told that it failed.
-void SayLastWords() {
+constexpr DWORD kMillisecondsForLastWords = 200;
+
+DWORD WINAPI EndSoon(void* status) {
+  Sleep(kMillisecondsForLastWords);
+  TerminateProcess(GetCurrentProcess(), *static_cast<UINT*>(status));
+  return 0;
+}
+
+/// Nobody can be told that it failed. A pipe that is full waits for its reader: another thread sees
+/// to it that the program ends with that status all the same. `status` is there until then.
+void SayLastWords(UINT& status) {
   const std::string_view words = LastWords();
+  if (words.empty()) return;
+  if (CreateThread(nullptr, 0, EndSoon, &status, 0, nullptr) == nullptr) return;
   DWORD written = 0;
   WriteFile(GetStdHandle(STD_ERROR_HANDLE), words.data(), static_cast<DWORD>(words.size()),
             &written, nullptr);
@@ -36,8 +47,9 @@ BOOL WINAPI OnConsoleEvent(DWORD event) {
     return TRUE;
   }
   RemoveUnfinishedFiles();
-  SayLastWords();
-  TerminateProcess(GetCurrentProcess(), static_cast<UINT>(status));
+  auto exitStatus = static_cast<UINT>(status);
+  SayLastWords(exitStatus);
+  TerminateProcess(GetCurrentProcess(), exitStatus);
   return TRUE;
 }
 

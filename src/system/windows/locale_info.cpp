@@ -3,6 +3,7 @@
 #include <array>
 #include <windows.h>
 
+#include "base/digit_groups.h"
 #include "system/windows/wide_text.h"
 
 namespace quillomat {
@@ -20,9 +21,7 @@ std::string SignOfNumbers(LCTYPE type) {
 }  // namespace
 
 std::string DigitGroupSeparator() {
-  std::string separator = SignOfNumbers(LOCALE_STHOUSAND);
-  if (!separator.empty()) return separator;
-  return DecimalSign() == "," ? "." : ",";
+  return GroupSignBeside(DecimalSign(), SignOfNumbers(LOCALE_STHOUSAND));
 }
 
 std::string DecimalSign() {

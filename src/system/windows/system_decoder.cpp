@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include "base/character_decoder.h"
+#include "base/character_form.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -77,6 +78,11 @@ UINT CodePageOf(CharacterSet set) {
 bool HasPage(CharacterSet set) {
   const UINT page = CodePageOf(set);
   return page != 0 && IsValidCodePage(page) != 0;
+}
+
+/// A set of single bytes without U+0080 to U+009F; of the others the decoder itself knows.
+bool LacksControls(CharacterSet set) {
+  return !HasLongForms(set) && !NameOf(set).starts_with("ISO-");
 }
 
 constexpr UINT kShiftJisPage = 932;
@@ -155,7 +161,7 @@ std::unique_ptr<TextDecoder> MakeTextDecoder(CharacterSet set) {
                        "this system cannot decode " + std::string(NameOf(set)));
   }
   return std::make_unique<CharacterDecoder>(
-      set, std::make_unique<PageCharacters>(CodePageOf(set), !NameOf(set).starts_with("ISO-")));
+      set, std::make_unique<PageCharacters>(CodePageOf(set), LacksControls(set)));
 }
 
 bool CanDecode(CharacterSet set) {

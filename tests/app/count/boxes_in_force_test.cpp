@@ -135,6 +135,30 @@ TEST_F(BoxesInForce, StateKeepsTheNameOfAWordsFileThatIsAwayOnceThatIsTold) {
   EXPECT_TRUE(Has(state, "lost.txt"));
 }
 
+TEST_F(BoxesInForce, AWordsFileThatIsAwayIsToldOnceToWhoLeavesItsBox) {
+  const std::string path = folder / "away.txt";
+  for (const WordListKind kind : {WordListKind::kIgnore, WordListKind::kCountOnly}) {
+    desktop.ForgetQuestions();
+    TypeWordsFile(kind, path);
+    LeaveWordsFile(kind);
+    EXPECT_THAT(desktop.Titles(), ElementsAre("File not found"));
+    LeaveWordsFile(kind);
+    EXPECT_THAT(desktop.Titles(), ElementsAre("File not found"));
+    TypeWordsFile(kind, folder / "other.txt");
+    LeaveWordsFile(kind);
+    TypeWordsFile(kind, path);
+    LeaveWordsFile(kind);
+    EXPECT_THAT(desktop.Titles(),
+                ElementsAre("File not found", "File not found", "File not found"));
+    static_cast<void>(folder.Write("away.txt", "dog\r\n"));
+    LeaveWordsFile(kind);
+    EXPECT_EQ(desktop.Titles().back(), "Words loaded") << "it is back";
+    std::filesystem::remove(path);
+    TypeWordsFile(kind, "");
+    LeaveWordsFile(kind);
+  }
+}
+
 TEST_F(BoxesInForce, AnEmptiedBoxEmptiesItsList) {
   TypeWordsFile(WordListKind::kIgnore, folder.Write("a.txt", "dog\r\n"));
   LeaveWordsFile(WordListKind::kIgnore);

@@ -200,6 +200,23 @@ TEST_F(WordListMessages, AccentsOfListsMatterThoughTheyMakeNoDifferenceInATextsW
   EXPECT_EQ(StoredWords(), "caf\u00E9 th\u00E9*2");
 }
 
+TEST_F(WordListMessages, AWordsFileOfAllLettersHasEachOfTheWordsThatAccentsTellApart) {
+  constexpr int kAllLetters = 1;
+  const std::string path = folder.Write("words.txt", "la l\u00E0 Stra\u00DFe strasse\r\n");
+  ASSERT_TRUE(Panel().chkFoldAccents.IsChecked());
+  Choose(kIgnore, path);
+  EXPECT_EQ(OnlyMessage().text, "2 words-to-ignore loaded from " + path) << "of western letters";
+  Panel().cboLetters.PerformChoice(kAllLetters);
+  desktop.ForgetQuestions();
+  Choose(kIgnore, path);
+  EXPECT_EQ(OnlyMessage().text, "4 words-to-ignore loaded from " + path);
+  CountClipboard("l\u00E0 la L\u00C0 strasse stra\u00DFe l\u00E1 l\u00E4");
+  EXPECT_EQ(StoredWords(), "l\u00E1 l\u00E4");
+  Choose(kCountOnly, path);
+  CountClipboard("l\u00E0 la l\u00E1 strasse");
+  EXPECT_EQ(StoredWords(), "l\u00E0*2 strasse");
+}
+
 // Choosing a words file.
 
 TEST_F(WordListMessages, LoadedWordsAreConfirmed) {

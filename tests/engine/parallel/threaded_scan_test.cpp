@@ -293,5 +293,37 @@ TEST_F(ThreadedScanTest, WordsReadThatLeaveTheirRangeAreAnOverflow) {
   EXPECT_EQ(wordsRead, std::numeric_limits<std::int32_t>::max());
 }
 
+TEST_F(ThreadedScanTest, TalliesOverflowAtTheWordThatDoesSoFirst) {
+  constexpr int kMost = 20'000;
+  constexpr std::size_t kPieceBytes = 2 * kMost * 4;
+  std::string text;
+  for (const std::string_view line : {"cat\n", "dog\n"}) {
+    for (int i = 0; i < kMost; ++i) text += line;
+  }
+  text += "cat\n";  // what comes first in the second piece is over the limit last
+  for (const std::string_view line : {"dog\n", "cat\n"}) {
+    for (int i = 0; i < kMost; ++i) text += line;
+  }
+  CountOnly("cat dog");
+  for (const std::size_t threads : {2U, 3U, 8U}) {
+    for (const bool isPlaced : {false, true}) {
+      ToldWords told;
+      Begin(told);
+      store.Files().SetFileBeingScanned("file");
+      ThreadedScan scan({settings, store, wordsRead}, choices, lists, threads, kPieceBytes);
+      TextSource inTurn(text);
+      PlacedText placed(text);
+      ByteSource& source = isPlaced ? static_cast<ByteSource&>(placed) : inTurn;
+      try {
+        scan.Scan(source, {[] { return false; }, [](std::int64_t) {}});
+        ADD_FAILURE() << "no overflow";
+      } catch (const RunTimeError& error) {
+        EXPECT_NE(error.Description().find("the word \"dog\" occurs"), std::string::npos);
+      }
+      EXPECT_EQ(Words(), "cat*20001 dog*32768");
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quillomat

@@ -1,0 +1,171 @@
+#include "sources/legacy_guess.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <uchardet.h>
+
+#include "base/text_decoder.h"
+#include "base/utf8.h"
+#include "engine/unicode_traits.h"
+#include "sources/converted_source.h"
+#include "system/system_decoder.h"
+
+namespace quillomat {
+namespace {
+
+struct DetectorCloser {
+  void operator()(uchardet_t detector) const { uchardet_delete(detector); }
+};
+using Detector = std::unique_ptr<uchardet, DetectorCloser>;
+
+/// Whether it has at least twice as many characters of several bytes as bytes that are none of
+/// UTF-8. In another set that is as good as impossible.
+bool IsNearlyUtf8(std::string_view head) {
+  constexpr std::int64_t kCharactersForOneBroken = 2;
+  Utf8Decoder decoder;
+  std::string text;
+  decoder.Decode(head, text);
+  decoder.End(text);
+  const std::int64_t broken = decoder.BytesNotDecoded();
+  const auto leads = std::ranges::count_if(
+      text, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) == 0xC0U; });
+  const std::int64_t characters = leads - broken;  // each broken byte has become one
+  return characters > 0 && characters >= broken * kCharactersForOneBroken;
+}
+
+/// By what the library knows of languages.
+CharacterSet Detected(std::string_view head) {
+  const Detector detector(uchardet_new());
+  if (uchardet_handle_data(detector.get(), head.data(), head.size()) != 0) {
+    return CharacterSet::kAsFound;
+  }
+  uchardet_data_end(detector.get());
+  const std::optional<CharacterSet> set = FindCharacterSet(uchardet_get_charset(detector.get()));
+  // It takes short texts in sets that it does not know for UTF-8.
+  const bool isGuess = set && set != CharacterSet::kUtf8 && CanDecode(*set);
+  return isGuess ? *set : CharacterSet::kAsFound;
+}
+
+/// The larger set where the library names one that holds fewer of the same letters: what the head
+/// lacks, the rest of the text may have.
+CharacterSet Widened(CharacterSet set) {
+  switch (set) {
+    case CharacterSet::kKoi8R:
+      return CharacterSet::kKoi8U;
+    case CharacterSet::kIso8859Part1:
+      return CharacterSet::kWindows1252;
+    case CharacterSet::kIso8859Part8:
+      return CharacterSet::kWindows1255;
+    case CharacterSet::kIso8859Part9:
+      return CharacterSet::kWindows1254;
+    default:
+      return set;
+  }
+}
+
+constexpr auto kLatinSets = std::to_array<CharacterSet>(
+    {CharacterSet::kWindows1250, CharacterSet::kWindows1252, CharacterSet::kWindows1254,
+     CharacterSet::kWindows1257, CharacterSet::kWindows1258, CharacterSet::kIso8859Part2,
+     CharacterSet::kIso8859Part3, CharacterSet::kIso8859Part4, CharacterSet::kIso8859Part10,
+     CharacterSet::kIso8859Part13, CharacterSet::kIso8859Part14, CharacterSet::kIso8859Part15,
+     CharacterSet::kIso8859Part16, CharacterSet::kIbm852});
+
+/// Which the library does not know, or hardly; the more frequent ones first.
+constexpr auto kOldSets = std::to_array<CharacterSet>(
+    {CharacterSet::kIbm850, CharacterSet::kMacRoman, CharacterSet::kIbm852});
+
+/// Characters beyond ASCII that do not stand where they do in texts: controls, signs within words,
+/// capitals behind small letters.
+class OddCharacters {
+ public:
+  void Take(char32_t character) {
+    Settle(IsLetter(character));
+    const bool isCapital = IsLetter(character) && traits_.Of(character).toLower != 0;
+    if (character >= kFirstBeyondAscii) {
+      if (IsNone(character) || (isCapital && isBehindSmall_)) ++odd_;
+      isSignBehindLetter_ = !IsLetter(character) && !IsUsual(character) && isBehindLetter_;
+    }
+    isBehindLetter_ = IsLetter(character);
+    isBehindSmall_ = isBehindLetter_ && !isCapital;
+  }
+  [[nodiscard]] std::size_t Number() const { return odd_; }
+
+ private:
+  static constexpr char32_t kFirstBeyondAscii = 0x80;
+
+  /// A sign is within a word if a letter follows.
+  void Settle(bool isLetterBehind) {
+    if (isSignBehindLetter_ && isLetterBehind) ++odd_;
+    isSignBehindLetter_ = false;
+  }
+  [[nodiscard]] bool IsLetter(char32_t character) const {
+    constexpr char32_t kCircumflex = 0x2C6;  // a letter by name alone
+    return character != kCircumflex && traits_.Is(character, CodePointTraits::kLetter);
+  }
+  static bool IsNone(char32_t character) {
+    return character == kReplacementCharacter || (character >= 0x80 && character < 0xA0);
+  }
+  /// Signs that texts have between letters.
+  static bool IsUsual(char32_t character) {
+    constexpr std::u32string_view kUsual =
+        U"\u00A0\u00AD\u00B7\u2013\u2014\u2018\u2019\u201C\u201D\u2026";
+    return kUsual.find(character) != kUsual.npos;
+  }
+
+  const UnicodeTraits& traits_ = UnicodeTraits::Get();
+  bool isBehindLetter_ = false;
+  bool isBehindSmall_ = false;
+  bool isSignBehindLetter_ = false;
+  std::size_t odd_ = 0;
+};
+
+std::size_t OddCharactersIn(std::string_view head, CharacterSet set) {
+  OddCharacters odd;
+  const std::string text = ConvertedHead(head, set);
+  for (std::size_t at = 0; at < text.size();) {
+    const Utf8Character character = CharacterAt(text, at);
+    odd.Take(character.codePoint);
+    at += character.bytes;
+  }
+  return odd.Number();
+}
+
+/// The old set in which hardly a character is odd, where too many are in `set`; otherwise `set`.
+CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
+  constexpr std::size_t kFewest = 4;
+  constexpr std::size_t kBytesForOneOdd = 5;
+  constexpr std::size_t kTimesAsMany = 4;
+  if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
+  const auto beyondAscii = static_cast<std::size_t>(
+      std::ranges::count_if(head, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; }));
+  const std::size_t odd = OddCharactersIn(head, set);
+  if (odd < kFewest || odd * kBytesForOneOdd < beyondAscii) return set;
+  CharacterSet best = set;
+  std::size_t fewest = odd;
+  for (const CharacterSet old : kOldSets) {
+    if (!CanDecode(old)) continue;
+    const std::size_t oddInOld = OddCharactersIn(head, old);
+    if (oddInOld * kTimesAsMany >= odd || oddInOld >= fewest) continue;
+    fewest = oddInOld;
+    best = old;
+  }
+  return best;
+}
+
+}  // namespace
+
+CharacterSet GuessLegacySet(std::string_view head) {
+  if (IsNearlyUtf8(head)) return CharacterSet::kUtf8;
+  const CharacterSet set = Widened(Detected(head));
+  if (set != CharacterSet::kAsFound) return OldSetIfLikelier(head, set);
+  constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;
+  const CharacterSet old = OldSetIfLikelier(head, kSetOfOtherLines);
+  return old == kSetOfOtherLines ? CharacterSet::kAsFound : old;
+}
+
+}  // namespace quillomat
