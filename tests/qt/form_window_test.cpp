@@ -1,6 +1,8 @@
 // Controls and widgets: what one does, the other shows.
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
