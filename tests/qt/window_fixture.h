@@ -169,4 +169,17 @@ class WindowFixture : public testing::Test {
   std::unique_ptr<ProgramOnDesktop> user = std::make_unique<ProgramOnDesktop>();
 };
 
+/// Starts a count, and stops it as soon as it has begun.
+inline void ClickWhenItCounts(ProgramOnDesktop& user) {
+  CommandButton& count = user.program.frmMain.cmdCountWords;
+  QTimer stop;
+  QObject::connect(&stop, &QTimer::timeout, [&] {
+    if (user.program.State().Phase() != RunPhase::kCounting) return;
+    stop.stop();
+    count.PerformClick();
+  });
+  stop.start(1);
+  user.Click(count);
+}
+
 }  // namespace quillomat

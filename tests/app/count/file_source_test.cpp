@@ -394,8 +394,8 @@ TEST_F(FileSourceTest, TheSizeIsShownInBytesKilobytesOrMegabytes) {
 }
 
 TEST_F(FileSourceTest, BytesAreGroupedAsTheUserWritesNumbers) {
-  desktop.SetDigitGroupSeparator(".");
-  ExpectFileSize(9'999, "Filesize: 9.999 bytes");
+  desktop.SetDigitGroupSeparator("\u202F");
+  ExpectFileSize(9'999, "Filesize: 9\u202F999 bytes");
 }
 
 TEST_F(FileSourceTest, LeavingTheBoxWithABadPathEmptiesTheSizeWithoutAMessage) {
