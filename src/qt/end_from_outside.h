@@ -17,7 +17,7 @@ namespace quillomat {
 /// places kept, and nothing else changes. An interruption, of which the first must be noted
 /// (interruption.h), has the program quit as its user would have it, but nobody is asked anything:
 /// what is at work is stopped first, so that no file stays half written. A second one ends it at
-/// once.
+/// once, as interruption.h says.
 class EndFromOutside {
  public:
   /// All must outlive it.

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <uchardet.h>
 
@@ -24,28 +25,40 @@ struct DetectorCloser {
 };
 using Detector = std::unique_ptr<uchardet, DetectorCloser>;
 
+struct Utf8Figures {
+  /// Of several bytes.
+  std::int64_t characters = 0;
+  std::int64_t brokenBytes = 0;
+};
+
+Utf8Figures FiguresOf(std::string_view bytes) {
+  Utf8Decoder decoder;
+  std::string text;
+  decoder.Decode(bytes, text);
+  decoder.End(text);
+  const auto leads = std::ranges::count_if(
+      text, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) == 0xC0U; });
+  const std::int64_t broken = decoder.BytesNotDecoded();
+  return {leads - broken, broken};  // each broken byte has become a character
+}
+
 /// Whether it has at least twice as many characters of several bytes as bytes that are none of
 /// UTF-8. In another set that is as good as impossible.
 bool IsNearlyUtf8(std::string_view head) {
   constexpr std::int64_t kCharactersForOneBroken = 2;
-  Utf8Decoder decoder;
-  std::string text;
-  decoder.Decode(head, text);
-  decoder.End(text);
-  const std::int64_t broken = decoder.BytesNotDecoded();
-  const auto leads = std::ranges::count_if(
-      text, [](char ch) { return (static_cast<unsigned char>(ch) & 0xC0U) == 0xC0U; });
-  const std::int64_t characters = leads - broken;  // each broken byte has become one
-  return characters > 0 && characters >= broken * kCharactersForOneBroken;
+  const auto [characters, brokenBytes] = FiguresOf(head);
+  return characters > 0 && characters >= brokenBytes * kCharactersForOneBroken;
 }
 
-/// Whether a line has broken bytes and no character of UTF-8: then the lines are of several kinds.
+/// Whether a line has bytes beyond ASCII and none of them is of UTF-8: then the lines are of
+/// several kinds.
 bool HasLineOfAnotherSet(std::string_view head) {
-  for (std::string_view rest = head; !rest.empty();) {
-    const std::size_t lineBytes = std::min(FindLineEnd(rest) + 1, rest.size());
-    const std::string_view line = rest.substr(0, lineBytes);
-    if (!IsWellFormedUtf8(line) && !IsNearlyUtf8(line)) return true;
-    rest.remove_prefix(lineBytes);
+  head.remove_suffix(UnfinishedUtf8Bytes(head));
+  while (!head.empty()) {
+    const std::size_t lineBytes = std::min(FindLineEnd(head) + 1, head.size());
+    const auto [characters, brokenBytes] = FiguresOf(head.substr(0, lineBytes));
+    if (characters == 0 && brokenBytes > 0) return true;
+    head.remove_prefix(lineBytes);
   }
   return false;
 }
@@ -99,20 +112,27 @@ class OddCharacters {
     Settle(IsLetter(character));
     const bool isCapital = IsLetter(character) && traits_.Of(character).toLower != 0;
     if (character >= kFirstBeyondAscii) {
-      if (IsNone(character) || (isCapital && isBehindSmall_)) ++odd_;
+      if (IsNone(character) || (isCapital && isBehindSmall_)) Count(character);
       isSignBehindLetter_ = !IsLetter(character) && !IsUsual(character) && isBehindLetter_;
     }
+    last_ = character;
     isBehindLetter_ = IsLetter(character);
     isBehindSmall_ = isBehindLetter_ && !isCapital;
   }
-  [[nodiscard]] std::size_t Number() const { return odd_; }
+  [[nodiscard]] std::size_t Number() const { return number_; }
+  /// Different ones.
+  [[nodiscard]] std::size_t Kinds() const { return kinds_.size(); }
 
  private:
   static constexpr char32_t kFirstBeyondAscii = 0x80;
 
+  void Count(char32_t character) {
+    ++number_;
+    kinds_.insert(character);
+  }
   /// A sign is within a word if a letter follows.
   void Settle(bool isLetterBehind) {
-    if (isSignBehindLetter_ && isLetterBehind) ++odd_;
+    if (isSignBehindLetter_ && isLetterBehind) Count(last_);
     isSignBehindLetter_ = false;
   }
   [[nodiscard]] bool IsLetter(char32_t character) const {
@@ -125,7 +145,9 @@ class OddCharacters {
   /// Signs that texts have between letters.
   static bool IsUsual(char32_t character) {
     constexpr std::u32string_view kUsual =
-        U"\u00A0\u00AD\u00B7\u2013\u2014\u2018\u2019\u201C\u201D\u2026";
+        U"\u00A0\u00A3\u00A6\u00A9\u00AB\u00AD\u00AE\u00B0\u00B4\u00B7\u00BB\u00D7\u2013"
+        U"\u2014\u2018\u2019\u201C"
+        U"\u201D\u2022\u2026\u2122";
     return kUsual.find(character) != kUsual.npos;
   }
 
@@ -133,10 +155,12 @@ class OddCharacters {
   bool isBehindLetter_ = false;
   bool isBehindSmall_ = false;
   bool isSignBehindLetter_ = false;
-  std::size_t odd_ = 0;
+  char32_t last_ = 0;
+  std::size_t number_ = 0;
+  std::set<char32_t> kinds_;
 };
 
-std::size_t OddCharactersIn(std::string_view head, CharacterSet set) {
+OddCharacters OddCharactersIn(std::string_view head, CharacterSet set) {
   OddCharacters odd;
   const std::string text = ConvertedHead(head, set);
   for (std::size_t at = 0; at < text.size();) {
@@ -144,24 +168,29 @@ std::size_t OddCharactersIn(std::string_view head, CharacterSet set) {
     odd.Take(character.codePoint);
     at += character.bytes;
   }
-  return odd.Number();
+  return odd;
 }
 
 /// The old set in which hardly a character is odd, where too many are in `set`; otherwise `set`.
 CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
   constexpr std::size_t kFewest = 4;
+  constexpr std::size_t kFewestKinds = 2;
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
   if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
   const auto beyondAscii = static_cast<std::size_t>(
       std::ranges::count_if(head, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; }));
-  const std::size_t odd = OddCharactersIn(head, set);
-  if (odd < kFewest || odd * kBytesForOneOdd < beyondAscii) return set;
+  const OddCharacters inSet = OddCharactersIn(head, set);
+  const std::size_t odd = inSet.Number();
+  // One sign alone may stand between words.
+  if (inSet.Kinds() < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
+    return set;
+  }
   CharacterSet best = set;
   std::size_t fewest = odd;
   for (const CharacterSet old : kOldSets) {
     if (!CanDecode(old)) continue;
-    const std::size_t oddInOld = OddCharactersIn(head, old);
+    const std::size_t oddInOld = OddCharactersIn(head, old).Number();
     if (oddInOld * kTimesAsMany >= odd || oddInOld >= fewest) continue;
     fewest = oddInOld;
     best = old;

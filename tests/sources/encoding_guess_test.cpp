@@ -127,6 +127,31 @@ TEST_F(EncodingGuess, GuessTakesTypographicSignsForWhatTheyAre) {
   EXPECT_EQ(CharacterSetOf(text, CharacterSet::kGuess), CharacterSet::kWindows1252);
 }
 
+TEST_F(EncodingGuess, GuessTakesSignsBetweenWordsForNoLetters) {
+  for (const std::string_view text :
+       {"one\x95two\x95three\x95"
+        "four\x95"
+        "five\x95six\n",
+        "Foo\x99"
+        "bar\nis\x99not\n",
+        "home\x9Bnews\x9Bsport\n", "word\x86note word\x86note\n", "give\xA3two for\xA3six\n",
+        "a\xBB"
+        "b see\xA7two\n"}) {
+    const CharacterSet guess = CharacterSetOf(TimesOver(text, 4), CharacterSet::kGuess);
+    EXPECT_NE(guess, CharacterSet::kIbm850) << text;
+    EXPECT_NE(guess, CharacterSet::kMacRoman) << text;
+  }
+}
+
+TEST_F(EncodingGuess, GuessKeepsLinesOfUtf8ThatAreDamaged) {
+  const std::string good = TimesOver("Über die Brücke geht er früh.\n", 20);
+  EXPECT_EQ(CharacterSetOf(good + "caf\xC3\xA9 noir \xE9\n", CharacterSet::kGuess),
+            CharacterSet::kUtf8);
+  std::string cut = TimesOver("Über die Brücke \xE9 geht er früh für uns.\n", 3000).substr(0, kGuessBytes);
+  cut.replace(cut.size() - 12, 12, "\nein Meer gr\xC3");
+  EXPECT_EQ(CharacterSetOf(cut, CharacterSet::kGuess), CharacterSet::kUtf8);
+}
+
 TEST_F(EncodingGuess, GuessIsTheLargerOfSetsWithTheSameLetters) {
   // Of a head in ISO 8859-1 the rest may have what Windows-1252 has besides.
   const std::string head =

@@ -177,8 +177,10 @@ bool WordListReader::ReadWords(WordListKind kind) {
   tooLong_.clear();
   try {
     const PhaseGuard guard(run_, RunPhase::kReading);
-    InputFile file(path);  // opened once: what comes from a pipe comes only once
+    // First: of a file that is replaced between, the words are newer than the mark, and so they are
+    // read once more and not never.
     const std::optional<ContentMark> contents = ContentMarkOf(path);
+    InputFile file(path);  // opened once: what comes from a pipe comes only once
     if (file.AwaitsWriter()) {
       messages_.Refuse("Nothing is written into this pipe.", "Invalid input");
       return false;

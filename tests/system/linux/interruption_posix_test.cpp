@@ -170,11 +170,13 @@ TEST_F(InterruptionTest, WhoWantsMayNoteTheFirstButNotTheSecond) {
 TEST_F(InterruptionTest, SignalsThatComeTogetherAreOne) {
   EXPECT_EQ(StatusOf([this] {
               const Interruption interruption(Interruption::First::kIsNoted);
-              raise(SIGTERM);
-              raise(SIGHUP);
-              if (InterruptionStatus() != kAskedToEndStatus) _exit(2);
+              sigset_t all{};
+              sigfillset(&all);
+              sigprocmask(SIG_BLOCK, &all, nullptr);
+              for (const int signal : {SIGTERM, SIGHUP, SIGINT}) raise(signal);
+              sigprocmask(SIG_UNBLOCK, &all, nullptr);  // now they come, one behind the other
+              if (InterruptionStatus() == 0) _exit(2);
               EndAtFirstInterruption();
-              raise(SIGHUP);
               OutputFile file(path_);
               file.Write("new");
               file.Close();
