@@ -28,8 +28,8 @@ class InputFile final : public ByteSource, private PlacedBytes {
   /// In bytes, when it was opened; 0 for what has no length (a pipe, a device).
   [[nodiscard]] std::int64_t Length() const { return length_; }
 
-  /// Whether a reader who has met the end earlier lacks bytes: the file was cut, or a disk has given
-  /// no more. False of a file that is made up as it is read.
+  /// Whether a reader who has met the end earlier lacks bytes: the file was cut, or a disk has
+  /// given no more. False of a file that is made up as it is read.
   [[nodiscard]] bool LengthWasPromised() const {
     return file_.Length() != length_ || file_.IsStored();
   }

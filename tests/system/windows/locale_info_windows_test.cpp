@@ -1,5 +1,6 @@
 // The user's own choice in the system's settings counts, whatever the language.
 #include <array>
+#include <string>
 #include <windows.h>
 
 #include "system/desktop_test.h"
@@ -31,10 +32,17 @@ class ChosenSeparator {
 
 TEST(LocaleInfo, SeparatorIsTheOneOfTheUsersSettings) {
   const ChosenSeparator chosen;
-  ChosenSeparator::Choose(L".");
-  EXPECT_EQ(DigitGroupSeparator(), ".");
+  ChosenSeparator::Choose(L"'");
+  EXPECT_EQ(DigitGroupSeparator(), "'");
   ChosenSeparator::Choose(L"\u00A0");
   EXPECT_EQ(DigitGroupSeparator(), "\u00A0");
+}
+
+TEST(LocaleInfo, SeparatorIsNeverTheDecimalSign) {
+  const ChosenSeparator chosen;
+  const std::string decimal = DecimalSign();
+  ChosenSeparator::Choose(decimal == "," ? L"," : L".");
+  EXPECT_NE(DigitGroupSeparator(), decimal);
 }
 
 TEST(LocaleInfo, WithoutASeparatorItIsAComma) {
