@@ -147,7 +147,8 @@ TEST_F(EncodingGuess, GuessKeepsLinesOfUtf8ThatAreDamaged) {
   const std::string good = TimesOver("Über die Brücke geht er früh.\n", 20);
   EXPECT_EQ(CharacterSetOf(good + "caf\xC3\xA9 noir \xE9\n", CharacterSet::kGuess),
             CharacterSet::kUtf8);
-  std::string cut = TimesOver("Über die Brücke \xE9 geht er früh für uns.\n", 3000).substr(0, kGuessBytes);
+  std::string cut =
+      TimesOver("Über die Brücke \xE9 geht er früh für uns.\n", 3000).substr(0, kGuessBytes);
   cut.replace(cut.size() - 12, 12, "\nein Meer gr\xC3");
   EXPECT_EQ(CharacterSetOf(cut, CharacterSet::kGuess), CharacterSet::kUtf8);
 }
