@@ -113,7 +113,8 @@ class OddCharacters {
     const bool isCapital = IsLetter(character) && traits_.Of(character).toLower != 0;
     if (character >= kFirstBeyondAscii) {
       if (IsNone(character) || (isCapital && isBehindSmall_)) Count(character);
-      isSignBehindLetter_ = !IsLetter(character) && !IsUsual(character) && isBehindLetter_;
+      const bool isSign = !IsLetter(character) && !IsNone(character) && !IsUsual(character);
+      isSignBehindLetter_ = isSign && isBehindLetter_;
     }
     last_ = character;
     isBehindLetter_ = IsLetter(character);
@@ -145,9 +146,8 @@ class OddCharacters {
   /// Signs that texts have between letters.
   static bool IsUsual(char32_t character) {
     constexpr std::u32string_view kUsual =
-        U"\u00A0\u00A3\u00A6\u00A9\u00AB\u00AD\u00AE\u00B0\u00B4\u00B7\u00BB\u00D7\u2013"
-        U"\u2014\u2018\u2019\u201C"
-        U"\u201D\u2022\u2026\u2122";
+        U"\u00A0\u00A3\u00A6\u00A9\u00AB\u00AD\u00AE\u00B0\u00B4\u00B7\u00BB\u00D7"
+        U"\u2013\u2014\u2018\u2019\u201C\u201D\u2022\u2026\u2122";
     return kUsual.find(character) != kUsual.npos;
   }
 
