@@ -13,14 +13,13 @@
 #include "app/messages.h"
 #include "app/program.h"
 #include "app/state_check.h"
-#include "base/byte_order_mark.h"
 #include "base/byte_source.h"
 #include "base/character_set.h"
-#include "base/limited_source.h"
 #include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "base/utf8.h"
 #include "cli/box_set_aside.h"
+#include "cli/clipboard_text.h"
 #include "cli/direct_count.h"
 #include "cli/exit_status.h"
 #include "cli/explanation.h"
@@ -39,7 +38,6 @@
 #include "engine/explain/text_explainer.h"
 #include "export/cell_text.h"
 #include "listing/statistics.h"
-#include "sources/converted_source.h"
 #include "sources/count_observer.h"
 #include "system/file_system.h"
 #include "system/input_file.h"
@@ -246,11 +244,11 @@ class TerminalRun {
     try {
       if (IsStandardInput(path)) {
         CountObserver nobody;
-        TakeAsClipboard(*streams_.openInput(nobody), ReadEncoding(program_.frmParams));
+        TakeFrom(*streams_.openInput(nobody));
         program_.SetClipboardFile(kStandardInputPath);
       } else {
         InputFile input(path);
-        TakeAsClipboard(input, ReadEncoding(program_.frmParams));
+        TakeFrom(input);
         program_.SetClipboardFile(AbsolutePath(path));
       }
       return true;
@@ -261,13 +259,8 @@ class TerminalRun {
     }
   }
 
-  /// No more is read than makes certain that the clipboard would not take it: input may be endless.
-  void TakeAsClipboard(ByteSource& input, CharacterSet encoding) {
-    constexpr std::size_t kMostBytesPerCharacter = 4;
-    StartOfSource start(input, kMostMarkBytes + kMostBytesPerCharacter * (kClipboardTextLimit + 1));
-    std::string text = WholeText(start, encoding, clipboardUncounted_, clipboardGuessed_);
-    clipboardIsTooLong_ = CharacterCount(text) > kClipboardTextLimit;
-    desktop_.SetClipboardText(std::move(text), start.WasCut());
+  void TakeFrom(ByteSource& input) {
+    clipboard_ = TakeAsClipboard(input, ReadEncoding(program_.frmParams), desktop_);
   }
 
   /// The controls were set from outside: what hangs on them is worked out, as after loading a
@@ -296,7 +289,7 @@ class TerminalRun {
     if (!FillWithExplained() || !CheckWordsFiles() || !TakeEffect() || !SaveState()) {
       return kRunFailed;
     }
-    if (clipboardIsTooLong_) {
+    if (clipboard_.isTooLong) {
       Fail("a text of more than 100,000 characters is not explained; give a part of it");
       return kRunFailed;
     }
@@ -306,10 +299,10 @@ class TerminalRun {
     const auto explain = IsStandardInput(*options_.explain) ? ExplainLines : ExplainText;
     const Explanation explanation =
         explain(desktop_.ClipboardText(), request.scan, request.filters, request.lists);
-    Uncounted uncounted = clipboardUncounted_;
+    Uncounted uncounted = clipboard_.uncounted;
     uncounted.runsLeftWhole = explanation.runsLeftWhole;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_);
-    TellGuessed(clipboardGuessed_.Names(), err_);
+    TellGuessed(clipboard_.guessed.Names(), err_);
     const std::string lines =
         ExplanationLines(explanation.candidates, request.filters, program_.Text());
     if (lines.empty()) {
@@ -323,12 +316,12 @@ class TerminalRun {
   bool FillWithExplained() {
     if (IsStandardInput(*options_.explain)) return FillClipboard(*options_.explain);
     TextSource text(*options_.explain);
-    TakeAsClipboard(text, CharacterSet::kAsFound);
+    clipboard_ = TakeAsClipboard(text, CharacterSet::kAsFound, desktop_);
     if (!IsWellFormedUtf8(*options_.explain)) {
       err_ << Headed{MessageTone::kWarning, "Note: "}
            << "the text of --explain is not UTF-8 and was read as Windows-1252\n";
     }
-    clipboardUncounted_ = {};  // what else there is to tell is of files
+    clipboard_.uncounted = {};  // what else there is to tell is of files
     return true;
   }
 
@@ -404,14 +397,14 @@ class TerminalRun {
   bool CountInWindow() {
     program_.frmMain.cmdCountWords.PerformClick();
     TellSkipped();
-    if (clipboardIsTooLong_) {
+    if (clipboard_.isTooLong) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
     }
     Uncounted uncounted = program_.Words().uncounted;
-    if (!clipboardIsTooLong_) uncounted += clipboardUncounted_;
+    if (!clipboard_.isTooLong) uncounted += clipboard_.uncounted;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_,
                   program_.Words().folder.firstNotDecoded);
-    TellGuessed((options_.text ? clipboardGuessed_ : program_.Words().guessed).Names(), err_);
+    TellGuessed((options_.text ? clipboard_.guessed : program_.Words().guessed).Names(), err_);
     return program_.Count().ListWasMade();
   }
 
@@ -490,10 +483,7 @@ class TerminalRun {
   InputChoice input_;
   TerminalDesktop desktop_;
   bool listIsPrinted_ = false;  // on standard output, by --output -
-  bool clipboardIsTooLong_ = false;
-  /// Of its bytes.
-  Uncounted clipboardUncounted_;
-  GuessedSets clipboardGuessed_;
+  ClipboardText clipboard_;
   /// Why the count gave no words.
   std::string fault_;
   Program program_;
