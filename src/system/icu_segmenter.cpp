@@ -40,6 +40,16 @@ class IcuSegmenter final : public RunSegmenter {
     return true;
   }
 
+  /// An iterator gathers its dictionaries as it meets letters. That of kana and Han takes signs of
+  /// no script, too ("ー"); but an iterator that has met nothing but signs keeps them for nobody's,
+  /// also beside kana. So it meets kana first: then no run has other words behind another run.
+  void MeetKana() {
+    std::vector<std::size_t> cuts;
+    // Two letters, as one alone is not looked up. What fails here fails with every run, and is
+    // told.
+    static_cast<void>(FindCuts("カナ", cuts));
+  }
+
  private:
   /// In UTF-16, with the place in `run` of each unit.
   void TakeText(std::string_view run) {
@@ -75,7 +85,9 @@ std::unique_ptr<RunSegmenter> MakeIcuSegmenter(const IcuFunctions& functions) {
   Iterator iterator(functions.open(kWordBoundaries, "", nullptr, 0, &error),
                     IteratorCloser(functions.close));
   if (error > 0 || iterator == nullptr) return nullptr;
-  return std::make_unique<IcuSegmenter>(functions, std::move(iterator));
+  auto segmenter = std::make_unique<IcuSegmenter>(functions, std::move(iterator));
+  segmenter->MeetKana();
+  return segmenter;
 }
 
 }  // namespace quillomat
