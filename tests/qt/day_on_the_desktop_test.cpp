@@ -113,8 +113,7 @@ TEST_F(DayOnTheDesktop, ClosingTheWindowDuringACountEndsTheProgram) {
   std::string text;
   for (int i = 0; i < 3'000'000; ++i) text += "word ";
   user->program.Sources().ChooseText(folder.Write("long.txt", text));
-  QTimer::singleShot(40, [&] { user->windows.Main().close(); });
-  user->Click(Main().cmdCountWords);
+  CountAndMeanwhile(*user, [&] { user->windows.Main().close(); });
   EXPECT_TRUE(user->program.HasEnded());
 }
 

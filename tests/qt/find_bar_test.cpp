@@ -46,11 +46,10 @@ TEST_F(FindBarTest, EscapeStopsTheCountInItToo) {
   user->program.Sources().ChooseText(folder.Write("long.txt", text));
   boxes.Answer(QMessageBox::No);
   FindBar& bar = user->windows.Main().Finder();
-  QTimer::singleShot(40, [&] {
+  CountAndMeanwhile(*user, [&] {
     bar.Open();
     QTest::keyClick(bar.findChild<QLineEdit*>(), Qt::Key_Escape);
   });
-  user->Click(frmMain.cmdCountWords);
   EXPECT_THAT(boxes.TitlesSeen(), testing::ElementsAre("Counting interrupted"));
   EXPECT_FALSE(user->program.Words().completeRun);
 }

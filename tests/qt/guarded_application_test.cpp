@@ -37,7 +37,7 @@ TEST_F(GuardedApplicationTest, WhatFailsIsToldOfAndTheProgramGoesOn) {
   // Not by the mouse: the toolkit loses some bytes of a click out of which something is thrown.
   QMetaObject::invokeMethod(
       qApp, [&frmMain] { frmMain.cmdCopyToClipboard.PerformClick(); }, Qt::QueuedConnection);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.Texts().empty(); }));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.Texts().empty(); }, 20'000));
   EXPECT_THAT(boxes.Texts(), testing::ElementsAre("Error 7: Out of memory"));
   EXPECT_THAT(user->Shown(), testing::HasSubstr("dog"));
   fails = false;
@@ -52,7 +52,7 @@ TEST_F(GuardedApplicationTest, WhatFailsAgainAndAgainIsToldOnce) {
         &receiver, [] { throw RunTimeError(RunTimeErrorNumber::kDiskFull); }, Qt::QueuedConnection);
   }
   boxes.Answer(QMessageBox::Ok);
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.Texts().empty(); }));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !boxes.Texts().empty(); }, 20'000));
   user->Settle();
   EXPECT_THAT(boxes.Texts(), testing::ElementsAre("Error 61: Disk full"));
 }

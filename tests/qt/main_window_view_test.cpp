@@ -141,8 +141,7 @@ TEST_F(MainWindowViewTest, EscapeStopsTheCount) {
   for (int i = 0; i < 3'000'000; ++i) text += "word" + std::to_string(i % 5000) + " ";
   user->program.Sources().ChooseText(folder.Write("long.txt", text));
   boxes.Answer(QMessageBox::No);
-  QTimer::singleShot(40, [&] { QTest::keyClick(&user->windows.Main(), Qt::Key_Escape); });
-  user->Click(frmMain.cmdCountWords);
+  CountAndMeanwhile(*user, [&] { QTest::keyClick(&user->windows.Main(), Qt::Key_Escape); });
   EXPECT_THAT(boxes.TitlesSeen(), testing::ElementsAre("Counting interrupted"));
   EXPECT_FALSE(user->program.Words().completeRun);
 }

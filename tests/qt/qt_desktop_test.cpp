@@ -6,7 +6,6 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QScopeGuard>
 #include <QThread>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -46,6 +45,22 @@ class QtDesktopTest : public testing::Test {
   QtDesktop desktop;
 };
 
+/// Clicks that come within it are those of a double click.
+class DoubleClickTime {
+ public:
+  explicit DoubleClickTime(int milliseconds) { Set(milliseconds); }
+  DoubleClickTime(const DoubleClickTime&) = delete;
+  DoubleClickTime& operator=(const DoubleClickTime&) = delete;
+  DoubleClickTime(DoubleClickTime&&) = delete;
+  DoubleClickTime& operator=(DoubleClickTime&&) = delete;
+  ~DoubleClickTime() { Set(usual_); }
+
+  static void Set(int milliseconds) { QApplication::setDoubleClickInterval(milliseconds); }
+
+ private:
+  int usual_ = QApplication::doubleClickInterval();
+};
+
 TEST_F(QtDesktopTest, KeyThatIsHeldAnswersNoBox) {
   WithDialog<QMessageBox>([](QMessageBox& box) {
     WaitForKeys();
@@ -70,25 +85,48 @@ TEST_F(QtDesktopTest, KeyThatIsHeldAnswersNoBox) {
   EXPECT_EQ(desktop.AskForText({"Title", "Text", "/here"}), "a") << "letters may be held";
 }
 
+/// Keys for a box that has just come. False where the machine was so busy that it had not just
+/// come.
+bool KeysAreKeptFrom(QMessageBox& box, const QElapsedTimer& sincePress) {
+  QElapsedTimer sinceBox;
+  sinceBox.start();
+  QEvent comes(QEvent::WindowActivate);
+  QApplication::sendEvent(&box, &comes);
+  QTest::keyClick(&box, Qt::Key_Escape);
+  QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
+  if (sinceBox.elapsed() >= BoxGuard::kPause.count()) return false;
+  EXPECT_TRUE(box.isVisible()) << "so soon";
+  QTest::qWait(static_cast<int>(BoxGuard::kPause.count()) + 20);
+  QTest::keyPress(&box, Qt::Key_Return);
+  if (sincePress.elapsed() >= BoxGuard::kLongestSilence.count()) return false;
+  EXPECT_TRUE(box.isVisible()) << "it went down before the box came";
+  QTest::keyRelease(&box, Qt::Key_Return);
+  QTest::keyClick(&box, Qt::Key_Return);
+  EXPECT_FALSE(box.isVisible());
+  return true;
+}
+
 TEST_F(QtDesktopTest, KeyOfTheMomentBeforeABoxDoesNotAnswerIt) {
-  QWidget window;
-  window.show();
-  QTest::keyPress(&window, Qt::Key_Return);
-  WithDialog<QMessageBox>([](QMessageBox& box) {
-    QEvent comes(QEvent::WindowActivate);
-    QApplication::sendEvent(&box, &comes);
-    QTest::keyClick(&box, Qt::Key_Escape);
-    QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
-    EXPECT_TRUE(box.isVisible()) << "so soon";
-    QTest::qWait(static_cast<int>(BoxGuard::kPause.count()) + 20);
-    QTest::keyPress(&box, Qt::Key_Return);
-    EXPECT_TRUE(box.isVisible()) << "it went down before the box came";
-    QTest::keyRelease(&box, Qt::Key_Return);
-    QTest::keyClick(&box, Qt::Key_Return);
-    EXPECT_FALSE(box.isVisible());
-  });
-  EXPECT_EQ(desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo}),
-            MessageAnswer::kYes);
+  constexpr int kMostTries = 50;
+  bool inTime = false;
+  for (int tries = 0; !inTime && tries < kMostTries; ++tries) {
+    QWidget window;
+    window.show();
+    QElapsedTimer sincePress;
+    sincePress.start();
+    QTest::keyPress(&window, Qt::Key_Return);
+    WithDialog<QMessageBox>([&](QMessageBox& box) {
+      inTime = KeysAreKeptFrom(box, sincePress);
+      if (box.isVisible()) box.reject();
+    });
+    const MessageAnswer answer =
+        desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo});
+    if (inTime) {
+      EXPECT_EQ(answer, MessageAnswer::kYes);
+    }
+    QTest::keyRelease(&window, Qt::Key_Return);
+  }
+  EXPECT_TRUE(inTime);
 }
 
 TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
@@ -96,6 +134,7 @@ TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
   window.resize(300, 200);
   window.show();
   const QPoint place(150, 100);
+  const DoubleClickTime longEnough(60'000);
   QTest::mouseClick(&window, Qt::LeftButton, Qt::NoModifier, place);
   WithDialog<QMessageBox>([&](QMessageBox& box) {
     QAbstractButton& yes = *box.button(QMessageBox::Yes);
@@ -103,7 +142,7 @@ TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
     box.move(window.mapToGlobal(place) - middle);
     QTest::mouseClick(&yes, Qt::LeftButton);
     EXPECT_TRUE(box.isVisible());
-    QTest::qWait(QApplication::doubleClickInterval() + 20);
+    DoubleClickTime::Set(0);  // from now on it is over
     QTest::mouseClick(&yes, Qt::LeftButton);
     EXPECT_FALSE(box.isVisible());
   });
@@ -112,9 +151,7 @@ TEST_F(QtDesktopTest, SecondClickOfADoubleClickDoesNotAnswerTheBoxOfTheFirst) {
 }
 
 TEST_F(QtDesktopTest, RowOfBoxesAtOnePlaceIsClickedAwayOneAfterTheOther) {
-  const int usual = QApplication::doubleClickInterval();
-  QApplication::setDoubleClickInterval(10'000);  // all these clicks come within it
-  const QScopeGuard asItWas([usual] { QApplication::setDoubleClickInterval(usual); });
+  const DoubleClickTime longEnough(60'000);
   QPoint place;
   QElapsedTimer sinceClick;
   for (int box = 0; box < 3; ++box) {

@@ -173,7 +173,7 @@ TEST_F(TablePageTest, ScreenReaderIsToldHowManyWordsAreLeftWhenTheTypingPauses) 
     heard.append(dynamic_cast<const QLabel&>(label).text());
   };
   TypeFilter("cat");
-  ASSERT_TRUE(QTest::qWaitFor([&heard] { return !heard.isEmpty(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&heard] { return !heard.isEmpty(); }, 20'000));
   EXPECT_EQ(heard, QStringList("2 words, 2 instances")) << "once";
 }
 

@@ -16,6 +16,7 @@
 #include <QTimer>
 #include <cstdlib>
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <string>
@@ -169,17 +170,21 @@ class WindowFixture : public testing::Test {
   std::unique_ptr<ProgramOnDesktop> user = std::make_unique<ProgramOnDesktop>();
 };
 
+/// Starts a count, and does something as soon as it has begun, however long that takes.
+inline void CountAndMeanwhile(ProgramOnDesktop& user, const std::function<void()>& action) {
+  QTimer begun;
+  QObject::connect(&begun, &QTimer::timeout, [&] {
+    if (user.program.State().Phase() != RunPhase::kCounting) return;
+    begun.stop();
+    action();
+  });
+  begun.start(1);
+  user.Click(user.program.frmMain.cmdCountWords);
+}
+
 /// Starts a count, and stops it as soon as it has begun.
 inline void ClickWhenItCounts(ProgramOnDesktop& user) {
-  CommandButton& count = user.program.frmMain.cmdCountWords;
-  QTimer stop;
-  QObject::connect(&stop, &QTimer::timeout, [&] {
-    if (user.program.State().Phase() != RunPhase::kCounting) return;
-    stop.stop();
-    count.PerformClick();
-  });
-  stop.start(1);
-  user.Click(count);
+  CountAndMeanwhile(user, [&user] { user.program.frmMain.cmdCountWords.PerformClick(); });
 }
 
 }  // namespace quillomat

@@ -48,7 +48,7 @@ TEST_F(WindowKeys, QuitKeysWorkInEveryLayout) {
       QTest::keyClick(&user->windows.Main(), Qt::Key_Q,
                       control ? Qt::ControlModifier : Qt::AltModifier);
       // A letter shows its command pressed for a moment.
-      EXPECT_TRUE(QTest::qWaitFor([this] { return user->program.HasEnded(); }))
+      EXPECT_TRUE(QTest::qWaitFor([this] { return user->program.HasEnded(); }, 20'000))
           << folded << control;
     }
   }
