@@ -76,7 +76,8 @@ TEST(DayOfUse, EverythingIsAsItWasTheNextMorning) {
     EXPECT_TRUE(program.frmParams.chkDropFinalS.IsChecked());
     EXPECT_THAT(program.Settings().lists.ExtraIgnoreList.Words(), ElementsAre("sat"));
   }
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  // A hundredth of it on a machine that does nothing else.
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 }  // namespace

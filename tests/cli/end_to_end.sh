@@ -216,12 +216,19 @@ check "no progress where nobody looks" 0 --file cat.txt
 lines err 0
 check "progress on demand" 0 --file cat.txt --progress
 holds err "] 100%"
+# More than a pipe holds has been taken before the second begins; the pipe stays open until the program ends.
 interrupt() { # NAME STATUS [ARGUMENT...]: sends INT while the program waits for more
   name=$1
   wanted=$2
   shift 2
-  { cat cat.txt; head -c 100000 /dev/zero | tr '\000' 'x'; echo; sleep 2; } |
-    timeout --foreground --preserve-status -s INT 1 "$program" - "$@" >out 2>err
+  {
+    cat cat.txt
+    head -c 100000 /dev/zero | tr '\000' 'x'
+    echo
+    sleep 1
+    kill -INT "$(cat pid)"
+    while kill -0 "$(cat pid)" 2>/dev/null; do sleep 0.05; done
+  } | sh -c 'echo $$ >pid; exec "$0" - "$@"' "$program" "$@" >out 2>err
   status=$?
   [ "$status" -eq "$wanted" ] || { echo "FAILED $name: exit status $status"; cat err; failed=1; }
 }

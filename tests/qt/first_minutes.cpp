@@ -65,6 +65,11 @@ class Newcomer {
     if (!Ask(isSo)) throw std::runtime_error(what);
   }
 
+  /// And it has the keys.
+  static bool IsBoxInFront() {
+    const QWidget* box = QApplication::activeModalWidget();
+    return box != nullptr && box->isActiveWindow();
+  }
   bool NoBox() { return QApplication::activeModalWidget() == nullptr; }
   bool HasFocus(const Control& control) {
     return program_.frmMain.Focused() == &control && windows_.Main().WidgetOf(control).hasFocus();
@@ -118,7 +123,7 @@ class Newcomer {
 
   void ChooseAndCount() {
     Click(frmMain_.cmdFile[0]);
-    WaitUntil("the dialog comes", [this] { return !NoBox(); });
+    WaitUntil("the dialog comes", IsBoxInFront);
     Type(QStringLiteral("harbour_en.txt"));
     Press("Return");
     WaitUntil("the file of the documents is chosen", [this] {
@@ -214,7 +219,7 @@ class Newcomer {
     Press("ctrl+a");
     Type(ToQt(Documents() + "/many.txt"));
     Press("Return");
-    WaitUntil("the box is full", [this] { return !NoBox(); });
+    WaitUntil("the box is full", IsBoxInFront);
     AnswerTheBox();
     WaitUntil("the list is there", [this] { return NoBox() && !program_.State().Busy(); });
     Press("ctrl+f");
@@ -267,7 +272,7 @@ class Newcomer {
     Click(box);
     Type(ToQt(Documents() + "/few.txt"));
     Click(program_.frmParams.chkOutputWithCommas);
-    WaitUntil("the words are loaded when the box is left", [this] { return !NoBox(); });
+    WaitUntil("the words are loaded when the box is left", IsBoxInFront);
     AnswerTheBox();
     WaitUntil("the click that left it is carried out",
               [this] { return NoBox() && program_.frmParams.chkOutputWithCommas.IsChecked(); });
