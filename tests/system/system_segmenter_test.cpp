@@ -56,6 +56,25 @@ TEST_F(SystemSegmenter, OneOrNoLetterHasNoCut) {
   EXPECT_EQ(Cut("手"), "手");
 }
 
+/// A sign of no script by itself, kana and Han together, and letters of other dictionaries.
+TEST_F(SystemSegmenter, CutsDependOnTheRunAlone) {
+  const std::vector<std::string> runs = {"ーー",   "ーー国", "ｰｰ国", "ﾞｱ",  "゛゛",
+                                         "゛ー国", "〱〱国", "々々", "ーก", "ไทย",
+                                         "ລາວ",    "ខ្មែរ",   "မြန်မာ"};
+  for (const std::string& before : runs) {
+    const std::unique_ptr<RunSegmenter> used = MakeSystemSegmenter();
+    std::vector<std::size_t> ignored;
+    EXPECT_TRUE(used->FindCuts(before, ignored));
+    for (const std::string& run : runs) {
+      std::vector<std::size_t> cuts;
+      std::vector<std::size_t> expected;
+      EXPECT_TRUE(used->FindCuts(run, cuts));
+      EXPECT_TRUE(MakeSystemSegmenter()->FindCuts(run, expected));
+      EXPECT_EQ(cuts, expected) << run << " behind " << before;
+    }
+  }
+}
+
 TEST(IcuSegmenter, SaysWhereItFails) {
   const IcuFunctions functions{
       .open = [](int, const char*, const char16_t*, std::int32_t, int*) -> void* {
