@@ -43,7 +43,7 @@ class BoxAnswerer {
   /// Lets the boxes stand for a while from now on.
   void Pause(int milliseconds) {
     timer_.stop();
-    QTimer::singleShot(milliseconds, [this] { timer_.start(5); });
+    QTimer::singleShot(milliseconds, &timer_, [this] { timer_.start(5); });
   }
   [[nodiscard]] const std::vector<std::string>& Texts() const { return texts_; }
   [[nodiscard]] const std::vector<std::string>& TitlesSeen() const { return titles_; }
