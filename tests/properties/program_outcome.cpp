@@ -263,7 +263,10 @@ class ProgramCase {
     for (const CaseText& text : case_.texts) {
       PrepareFor(text);
       if (threaded && !text.whole && CanStandInAFile(text.lines)) {
-        const std::string file = AsFile(text.lines);
+        std::string file = AsFile(text.lines);
+        // What looks like a mark and is text needs one in front.
+        constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+        if (file.starts_with(kByteOrderMark)) file.insert(0, kByteOrderMark);
         TextSource inTurn(file);
         PlacedText placed(file);
         const bool isPlaced = file.size() % 2 == 0;
