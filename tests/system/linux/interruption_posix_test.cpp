@@ -292,6 +292,21 @@ TEST_F(InterruptionTest, EndsTheProgramThoughNobodyReadsStandardError) {
             kInterruptedStatus);
 }
 
+TEST_F(InterruptionTest, EndsTheProgramThoughWhoReadStandardErrorHasGone) {
+  EXPECT_EQ(StatusOf([&] {
+              std::array<int, 2> ends{};
+              if (pipe(ends.data()) != 0) _exit(1);
+              close(ends[0]);
+              dup2(ends[1], STDERR_FILENO);
+              std::signal(SIGPIPE, SIG_DFL);
+              const Interruption interruption;
+              TellOfWrittenFiles(Joined);
+              OutputFile(path_).Close();
+              raise(SIGINT);
+            }),
+            kInterruptedStatus);
+}
+
 TEST_F(InterruptionTest, WhatWasIgnoredStaysIgnored) {
   EXPECT_EQ(StatusOf([this] {
               std::signal(SIGHUP, SIG_IGN);
