@@ -116,6 +116,8 @@ TEST_F(UncountedNotes, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed)
   EXPECT_EQ(Run({first, second, third, "--encoding", "utf8"}), 0);
   EXPECT_EQ(err, "Note: 3 bytes could not be decoded, the first of them in " + second +
                      " (--report tells of all files); --encoding names another encoding.\n");
+  EXPECT_EQ(Run({"--folder", folder.Path(), "--encoding", "utf8", "--window-text"}), 0);
+  EXPECT_THAT(err, HasSubstr("b.txt (--report tells of all files)"));
   EXPECT_EQ(Run({first, third, "--encoding", "utf8"}), 0);
   EXPECT_EQ(err, "Note: 1 byte could not be decoded: in " + third +
                      "; --encoding names another encoding.\n");
