@@ -399,9 +399,10 @@ class TerminalRun {
     TellSkipped();
     if (clipboard_.isTooLong) {
       Fail("a text of any size is counted as a path: quillomat-cli " + input_.paths.front());
+      clipboard_ = {};  // nothing of it was counted
     }
     Uncounted uncounted = program_.Words().uncounted;
-    if (!clipboard_.isTooLong) uncounted += clipboard_.uncounted;
+    uncounted += clipboard_.uncounted;
     TellUncounted(uncounted, Messages(desktop_, program_.Text()), err_,
                   program_.Words().folder.firstNotDecoded);
     TellGuessed((options_.text ? clipboard_.guessed : program_.Words().guessed).Names(), err_);

@@ -22,6 +22,12 @@ bool Shrinks(const QLayoutItem& item) {
   return widget != nullptr && widget->sizePolicy().horizontalPolicy() == QSizePolicy::Maximum;
 }
 
+/// By way of its item, what shrinks would be no wider than it wants.
+void Place(QLayoutItem& item, const QRect& place) {
+  if (Shrinks(item)) return item.widget()->setGeometry(place);
+  item.setGeometry(place);
+}
+
 int LeastWidthOf(const QLayoutItem& item) {
   return Shrinks(item) ? item.minimumSize().width() : WidthOf(item);
 }
@@ -97,12 +103,12 @@ std::vector<FlowLayout::Row> FlowLayout::RowsOf(int width) const {
 int FlowLayout::PlaceRow(const Row& row, const QRect& place, bool onlyMeasure) const {
   auto growing = static_cast<int>(
       std::ranges::count_if(row.items, [](const QLayoutItem* item) { return Grows(*item); }));
-  int left = std::max(place.width() - row.width, 0);
+  const bool hasAll = row.items.size() == 1 && Shrinks(*row.items.front());
+  int left = hasAll ? 0 : std::max(place.width() - row.width, 0);
   std::vector<int> widths;
   int height = 0;
   for (const QLayoutItem* item : row.items) {
-    const bool isAlone = row.items.size() == 1 && Shrinks(*item);
-    int width = isAlone ? place.width() : std::min(WidthOf(*item), place.width());
+    int width = hasAll ? place.width() : std::min(WidthOf(*item), place.width());
     if (Grows(*item)) {
       const int share = left / std::max(growing, 1);
       --growing;
@@ -118,7 +124,7 @@ int FlowLayout::PlaceRow(const Row& row, const QRect& place, bool onlyMeasure) c
     QLayoutItem& item = *row.items[i];
     const int itemHeight = GrowsInHeight(item) ? height : HeightOf(item, widths[i]);
     const QRect itemPlace(x, place.y() + (height - itemHeight) / 2, widths[i], itemHeight);
-    item.setGeometry(QStyle::visualRect(parentWidget()->layoutDirection(), place, itemPlace));
+    Place(item, QStyle::visualRect(parentWidget()->layoutDirection(), place, itemPlace));
     x += widths[i] + Gap();
   }
   return height;

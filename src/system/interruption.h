@@ -47,8 +47,9 @@ void EndAtFirstInterruption() noexcept;
 /// From now on, standard error gets what `line` makes of the paths of the files that were written
 /// (see output_file.h) when an interruption ends the program; nothing where there are none. They
 /// come as they were asked for and in that order, and no file is among them that is not yet in its
-/// place, or missing that is. `line` is asked for each file, and what it makes is kept to the end.
-/// Nothing in place of a function ends it.
+/// place, or missing that is (but the last, if it was written in place). `line` is asked for each
+/// file, and what it makes is kept to the end. From then on one thread writes all files. Nothing in
+/// place of a function ends it.
 void TellOfWrittenFiles(std::function<std::string(std::span<const std::string> paths)> line);
 
 /// The exit status that the interruption asks for; 0 as long as there was none. Costs next to

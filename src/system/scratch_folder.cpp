@@ -27,7 +27,7 @@ ScratchFolder::ScratchFolder()
   std::error_code error;
   MakePrivateFolder(path_, error);
   if (error) throw ToRunTimeError(error, FileAction::kOpenToWrite, path_);
-  unfinished_.HasBeenMade();
+  unfinished_.LetTheEndCome();
 }
 
 std::string ScratchFolder::PathOf(const std::string& name) {

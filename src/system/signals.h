@@ -1,5 +1,5 @@
-// The little that unfinished_files.h and interruption_watch.h need of the system's signals. For the
-// files of this folder.
+// The little that stands between the system's signals and those who mind them (unfinished_files.h,
+// interruption_watch.h). For the files of this folder.
 #pragma once
 
 namespace quillomat {

@@ -40,7 +40,7 @@ TemporaryFile::Made TemporaryFile::For(const std::string& path) {
   std::optional<NativeFile> file = NativeFile::CreateInPlaceOf(target, temporary->path_);
   if (!file) return {};
   temporary->isThere_ = true;
-  temporary->unfinished_.HasBeenMade();
+  temporary->unfinished_.LetTheEndCome();
   return {std::move(temporary), std::move(file)};
 }
 
@@ -54,7 +54,7 @@ void TemporaryFile::TakeItsPlace() {
   unfinished_.HoldTheEnd();
   MoveFileOver(path_, target_, error);
   if (!error) words.TakeTheirPlace();
-  unfinished_.HasBeenMade();
+  unfinished_.LetTheEndCome();
   if (error) throw ToRunTimeError(error, FileAction::kOpenToWrite, target_);
   isThere_ = false;
   KeepName(target_);

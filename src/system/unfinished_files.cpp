@@ -52,7 +52,7 @@ UnfinishedFile::UnfinishedFile(const std::string& path) noexcept {
   if (place_ < kPlaces) *std::ranges::copy(path, places[place_].path.begin()).out = '\0';
 }
 
-void UnfinishedFile::HasBeenMade() noexcept {
+void UnfinishedFile::LetTheEndCome() noexcept {
   if (place_ < kPlaces) places[place_].use = Use::kThere;
   signalsWait_ = false;
   LetSignalsCome();

@@ -15,8 +15,8 @@ namespace quillomat {
 /// removes it.
 class UnfinishedFile {
  public:
-  /// To be made before the file is: until HasBeenMade or the destructor no signal ends the program,
-  /// so that none can come between the file and the note of it. `path` starts at a root.
+  /// To be made before the file is: until LetTheEndCome or the destructor no signal ends the
+  /// program, so that none can come between the file and the note of it. `path` starts at a root.
   explicit UnfinishedFile(const std::string& path) noexcept;
   UnfinishedFile(const UnfinishedFile&) = delete;
   UnfinishedFile& operator=(const UnfinishedFile&) = delete;
@@ -25,8 +25,9 @@ class UnfinishedFile {
   /// The file is whole and has another name, is gone, or was never made.
   ~UnfinishedFile();
 
-  void HasBeenMade() noexcept;
-  /// From now to the next HasBeenMade, no signal ends the program: what is done to the file, and
+  /// The file has been made: a signal may end the program, and removes it.
+  void LetTheEndCome() noexcept;
+  /// From now to the next LetTheEndCome, no signal ends the program: what is done to the file, and
   /// what is noted of that, are one step for whoever ends it.
   void HoldTheEnd() noexcept;
 

@@ -156,6 +156,9 @@ TEST_F(TerminalRunTest, CountOnlyWordsThatNoTextHoldsAreTold) {
   }
   EXPECT_EQ(Run({text, "--only-words", "!! cat"}), 0) << err;
   EXPECT_EQ(err, "");
+  const std::string words = folder.Write("words.txt", "dog\r\n");
+  EXPECT_EQ(Run({text, "--only-words", "!!", "--only", words}), 0) << err;
+  EXPECT_THAT(err, Not(HasSubstr("Note")));
   EXPECT_EQ(Run({text, "--only-words", "can't", "--apostrophes"}), 0) << err;
   EXPECT_EQ(err, "");
 }

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/terminal_fixture.h"
@@ -10,7 +11,9 @@
 namespace quillomat {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 using UncountedNotes = TerminalFixture;
@@ -77,12 +80,16 @@ TEST_F(UncountedNotes, WhatWasGuessedIsTold) {
   }
   const std::string note = "Note: read as KOI8-U, as guessed; --encoding names another encoding.\n";
   const std::string path = folder.Write("koi8.txt", koi8);
+  const std::string noText = folder.Write("no.txt", koi8 + '\x01');
+  std::string wide;
+  for (const char ch : std::string_view("a cat and a dog")) wide.append({ch, '\0'});
+  const std::string utf16 = folder.Write("utf16.txt", wide);
   input = koi8;
   for (const std::vector<std::string>& how : {std::vector<std::string>{path},
                                               {"-"},
                                               {"--text", path},
                                               {path, "--window-text"},
-                                              {path, folder.Write("utf8.txt", "слово")}}) {
+                                              {path, utf16, folder.Write("utf8.txt", "слово")}}) {
     std::vector<std::string> arguments = how;
     arguments.insert(arguments.end(), {"--encoding", "guess", "--letters", "all"});
     EXPECT_EQ(Run(arguments), 0);
@@ -90,6 +97,16 @@ TEST_F(UncountedNotes, WhatWasGuessedIsTold) {
   }
   EXPECT_EQ(Run({path, "--encoding", "koi8-u", "--letters", "all"}), 0);
   EXPECT_EQ(err, "");
+  EXPECT_EQ(Run({utf16, noText, "--encoding", "guess"}), 0);
+  EXPECT_THAT(err, AllOf(HasSubstr("no.txt"), Not(HasSubstr("read as"))));
+}
+
+TEST_F(UncountedNotes, NothingIsToldOfTheGuessAtATextThatIsTooLong) {
+  std::string koi8;  // 119,000 characters
+  for (int i = 0; i < 7'000; ++i)
+    koi8 += "\xEB\xC1\xD6\xC4\xCF\xC5 \xD5\xD4\xD2\xCF \xD2\xC5\xCB\xC1\n";
+  EXPECT_EQ(Run({"--text", folder.Write("long.txt", koi8), "--encoding", "guess"}), 1);
+  EXPECT_THAT(err, AllOf(HasSubstr("a text of any size"), Not(HasSubstr("read as"))));
 }
 
 TEST_F(UncountedNotes, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed) {
@@ -99,6 +116,8 @@ TEST_F(UncountedNotes, FirstOfSeveralFilesWithBytesThatCouldNotBeDecodedIsNamed)
   EXPECT_EQ(Run({first, second, third, "--encoding", "utf8"}), 0);
   EXPECT_EQ(err, "Note: 3 bytes could not be decoded, the first of them in " + second +
                      " (--report tells of all files); --encoding names another encoding.\n");
+  EXPECT_EQ(Run({"--folder", folder.Path(), "--encoding", "utf8", "--window-text"}), 0);
+  EXPECT_THAT(err, HasSubstr("b.txt (--report tells of all files)"));
   EXPECT_EQ(Run({first, third, "--encoding", "utf8"}), 0);
   EXPECT_EQ(err, "Note: 1 byte could not be decoded: in " + third +
                      "; --encoding names another encoding.\n");

@@ -69,9 +69,17 @@ TEST_F(EndFromOutsideTest, OpenQuestionIsAnsweredSoThatNothingIsLost) {
   const std::string list = folder.Write("list.txt", "old");
   frmMain.txbFile[1].SetText(list);
   user->program.Sources().ChooseText(folder.Write("a.txt", "cat"));
-  AskToEndWhen([] { return QApplication::activeModalWidget() != nullptr; });
+  bool isKept = false;
+  AskToEndWhen([this, &isKept] {
+    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (box == nullptr) return false;
+    QObject::connect(box, &QDialog::finished,
+                     [this, &isKept] { isKept = std::filesystem::exists(home.SettingsFile()); });
+    return true;
+  });
   user->Click(frmMain.cmdCountWords);
   EXPECT_TRUE(EndsSoon());
+  EXPECT_TRUE(isKept) << "first, as what is at work may take its time to end";
   EXPECT_EQ(Contents(list), "old");
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
@@ -103,6 +111,20 @@ TEST_F(EndFromOutsideTest, OpenDialogIsClosedWithoutAChoice) {
   user->Click(frmMain.cmdFile[0]);
   EXPECT_TRUE(EndsSoon());
   EXPECT_EQ(frmMain.txbFile[0].Text(), "");
+}
+
+TEST_F(EndFromOutsideTest, OpenQuestionOfWhichNoLosesIsAnsweredWithYes) {
+  boxes.Pause(60'000);
+  QTimer end;
+  QObject::connect(&end, &QTimer::timeout, [this, &end] {
+    if (QApplication::activeModalWidget() == nullptr) return;
+    end.stop();
+    user->desktop.StopAsking();
+  });
+  end.start(1);
+  EXPECT_EQ(user->desktop.ShowMessage({"?", "", MessageIcon::kQuestion, MessageButtons::kYesNo,
+                                       MessageSeverity::kQuestion, true}),
+            MessageAnswer::kYes);
 }
 
 TEST_F(EndFromOutsideTest, NobodyIsAskedAnythingAfterwards) {

@@ -29,8 +29,9 @@ TEST(TextConversion, AnyBytesComeBackAsTheyWere) {
   for (const std::string& text :
        {all, std::string("caf\xE9"), std::string("\xE2\x82"),
         std::string("\xED\xA0\x80\xED\xB0\x80"),
-        std::string("\xF0\x9F\x98\x80\xE9\xF0\x9F\x98\x80"), std::string("\xEF\xBB\xBFmarked"),
-        std::string("\xE9\xEF\xBB\xBF\xEF\xBB\xBF"), std::string()}) {
+        std::string("\xF0\x9F\x98\x80\xE9\xF0\x9F\x98\x80"), std::string("\xF0\x9F\x93\x80\xC0"),
+        std::string("\xEF\xBB\xBFmarked"), std::string("\xE9\xEF\xBB\xBF\xEF\xBB\xBF"),
+        std::string()}) {
     EXPECT_EQ(FromQt(ToQt(text)), text);
     EXPECT_EQ(FromQtLines(ToQtLines(text)), FromQtLines(ToQt(text)));
   }

@@ -101,6 +101,23 @@ TEST_F(OneText, ThatIsStoppedSaysHowFarItWasRead) {
   EXPECT_FALSE(Run(TextOfFile{folder / "a.txt"}).stoppedAfter);
 }
 
+TEST_F(OneText, ThatIsStoppedWithinALongLineTearsNoCharacter) {
+  request.scan.letters = LetterRule::kAll;
+  observer.onFileBegins = [this](const FileBegins&) { observer.stopped = true; };
+  std::string text;
+  while (text.size() < 2'000'000) text += "\u043A\u043E\u0442 ";
+  for (const std::size_t threads : {1U, 2U}) {
+    request.threads = threads;
+    for (std::size_t shift = 0; shift < 4; ++shift) {
+      const std::string path = folder.Write("a.txt", std::string(shift, ' ') + text);
+      const CountResult result = Run(TextOfFile{path});
+      EXPECT_EQ(result.end, CountEnd::kStopped);
+      EXPECT_EQ(result.store.NumDifferentWords(), 1) << WordsOf(result) << " shifted by " << shift;
+      observer.stopped = false;
+    }
+  }
+}
+
 TEST_F(OneText, IsRanked) {
   CountResult result = Run(TextOfFile{folder.Write("a.txt", "dog cat fox cat dog cat x")});
   FilterChoices filters;

@@ -53,6 +53,14 @@ TEST_P(CutFile, AloneIsNoListOfTheWhole) {
   ExpectEndedEarly(result.error);
 }
 
+TEST_P(CutFile, ThatIsEmptiedIsNoListOfTheWhole) {
+  observer.onFileBegins = [this](const FileBegins&) { std::filesystem::resize_file(path, 0); };
+  const CountResult result = Run(TextOfFile{path});
+  EXPECT_EQ(result.end, CountEnd::kFailed);
+  ASSERT_TRUE(result.error.has_value());
+  EXPECT_EQ(result.error->Number(), 62);
+}
+
 TEST_P(CutFile, AmongOthersIsNamedAndCountsAsFarAsItGoes) {
   const std::vector<CountSource> sources = {TextOfFolder{folder.Path(), false, {}},
                                             TextOfPaths{{path, other}, false, {}, nullptr}};

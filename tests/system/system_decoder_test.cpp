@@ -66,6 +66,7 @@ TEST(SystemDecoder, ReplacesBytesThatBeginNoCharacter) {
                   "b\x8D",
                   "a\uFFFDb\uFFFD", 2);
   ExpectConverted(CharacterSet::kWindows1253, "\xD2\xE1", "\uFFFDα", 1);
+  ExpectConverted(CharacterSet::kWindows1258, "a\x8A!", "a\uFFFD!", 1);
   ExpectConverted(CharacterSet::kIso8859Part7, "\xFF\xE1", "\uFFFDα", 1);
   ExpectConverted(CharacterSet::kEucKr, "\xC1\xB6\xFF!", "조\uFFFD!", 1);
   ExpectConverted(CharacterSet::kShiftJis, "\x82\xC6\x82 \x82\xC6", "と\uFFFD と", 1);

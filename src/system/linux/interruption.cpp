@@ -102,8 +102,10 @@ Interruption::Interruption(First first) {
   RemoveUnfinishedFilesAtExit();
   struct sigaction action {};
   action.sa_handler = OnSignal;
-  // While one is handled the others wait: two handlers would wait for each other's threads.
+  // While one is handled the others wait: two handlers would wait for each other's threads. So do
+  // those that would end the program before it has said its last words.
   action.sa_mask = SignalsThatEnd();
+  for (const int ofWriting : {SIGPIPE, SIGXFSZ}) sigaddset(&action.sa_mask, ofWriting);
   for (std::size_t i = 0; i < kSignals.size(); ++i) {
     sigaction(kSignals[i], nullptr, &handledBefore[i]);
     if (handledBefore[i].sa_handler != SIG_IGN) sigaction(kSignals[i], &action, nullptr);

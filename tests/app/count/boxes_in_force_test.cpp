@@ -150,6 +150,11 @@ TEST_F(BoxesInForce, AWordsFileThatIsAwayIsToldOnceToWhoLeavesItsBox) {
     LeaveWordsFile(kind);
     EXPECT_THAT(desktop.Titles(),
                 ElementsAre("File not found", "File not found", "File not found"));
+    TypeWordsFile(kind, "");
+    LeaveWordsFile(kind);
+    TypeWordsFile(kind, path);
+    LeaveWordsFile(kind);
+    EXPECT_EQ(desktop.Titles().size(), 4U) << "the box was emptied";
     static_cast<void>(folder.Write("away.txt", "dog\r\n"));
     LeaveWordsFile(kind);
     EXPECT_EQ(desktop.Titles().back(), "Words loaded") << "it is back";

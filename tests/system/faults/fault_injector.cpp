@@ -1,6 +1,7 @@
 // Stands between a program and the system's library (LD_PRELOAD), counts the calls that deal with
-// files, memory and threads, and has one of them fail. The calls of the library among its own
-// functions, and all that concerns standard error, pass it by. See fault_sweep_test.cpp.
+// files, memory and threads, and has one of them fail, or a signal come with it. The calls of the
+// library among its own functions, and all that concerns standard error, pass it by. See
+// fault_sweep_test.cpp.
 //
 // By the environment:
 //   FAULT_LOG    a file that gets a line for each call, its name; with FAULT_AT "!" for each that
@@ -9,9 +10,11 @@
 //   FAULT_AT     the number of the call that fails, from 1 on
 //   FAULT_ERROR  the errno that it fails with; 0 for a transfer of one byte
 //   FAULT_AFTER  names, with a blank before and behind each, whose calls fail from there on, too
+//   FAULT_SIGNAL the signal that comes in front of that call, which does not fail then
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
@@ -47,6 +50,7 @@ struct Plan {
     if (const char* const number = std::getenv("FAULT_AT")) at = std::atoi(number);
     if (const char* const number = std::getenv("FAULT_ERROR")) error = std::atoi(number);
     if (const char* const names = std::getenv("FAULT_AFTER")) after = names;
+    if (const char* const number = std::getenv("FAULT_SIGNAL")) signal = std::atoi(number);
     alarm(kLongestRunSeconds);
   }
 
@@ -56,6 +60,7 @@ struct Plan {
   int error = 0;
   /// Names with a blank before and behind each.
   std::string_view after;
+  int signal = 0;
   std::atomic<int> calls = 0;
 };
 
@@ -94,6 +99,10 @@ bool Fails(std::string_view name) {
   }
   if (number < plan.at || (number > plan.at && !StaysBroken(plan, name))) return false;
   Note(plan, "!");
+  if (plan.signal != 0) {
+    raise(plan.signal);
+    return false;
+  }
   errno = plan.error;
   return true;
 }
@@ -174,7 +183,10 @@ int fstat(int descriptor, struct stat* status) noexcept {
 
 int rename(const char* from, const char* to) noexcept {
   static const auto kReal = Real<int (*)(const char*, const char*)>("rename");
-  return Fails("rename") ? -1 : kReal(from, to);
+  if (Fails("rename")) return -1;
+  const int result = kReal(from, to);
+  if (result == 0) static_cast<void>(Fails("renamed"));  // a place for a signal: it is done
+  return result;
 }
 
 int remove(const char* path) noexcept {

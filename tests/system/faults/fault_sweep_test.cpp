@@ -1,10 +1,11 @@
 // Every call that the program makes of the system fails once, in each of the ways in which it can:
-// the outcome is a message, or as if nothing had been, and no file is lost. fault_injector.cpp does
-// the failing.
+// the outcome is a message, or as if nothing had been, and no file is lost. So it is when Ctrl+C
+// comes with each of them. fault_injector.cpp does the failing.
 #include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -37,6 +38,9 @@ struct Scenario {
   bool skips = false;
   /// Only calls of that name fail; all if empty.
   std::string only = {};
+  /// The targets in the order in which they are written: Ctrl+C comes with each call, none of which
+  /// fails. Empty if not.
+  std::vector<std::string> interrupted = {};
 };
 
 /// One way in which a call fails.
@@ -47,6 +51,8 @@ struct Fault {
   bool isHarmless = false;
   /// Whether every call that needs the same fails from then on.
   bool stays = false;
+  /// Comes in front of the call, which does not fail; 0 for none.
+  int signal = 0;
 };
 
 constexpr Fault kShort{.error = 0, .isHarmless = true};
@@ -59,6 +65,7 @@ constexpr Fault kNoMemory{.error = ENOMEM};
 constexpr Fault kDenied{.error = EACCES};
 constexpr Fault kTooMany{.error = EMFILE};
 constexpr Fault kNoThread{.error = EAGAIN};
+constexpr Fault kControlC{.signal = SIGINT};
 
 /// What fails together with the first call on a disk that is full or broken.
 const std::string kNeedsRoom = " create write fsync rename fsetxattr fwrite fflush fclose ";
@@ -77,6 +84,7 @@ std::vector<Fault> FaultsOf(const std::string& call) {
       {"close", {kInterrupted, kBroken, kFull}},
       {"fsync", {kInterrupted, kBroken, kFull, kStaysFull}},
       {"rename", {kBroken, kFull, kDenied}},
+      {"renamed", {}},
       {"fchmod", {kBroken, kStaysFull}},
       {"fchown", {kBroken, kStaysFull}},
       {"flistxattr", {kBroken, kNoMemory}},
@@ -171,9 +179,17 @@ class Stage {
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(),
                                      O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    // Who runs the tests in the background has the signal ignored.
+    sigset_t usual{};
+    sigaddset(&usual, SIGINT);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigdefault(&attributes, &usual);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
     pid_t process = 0;
-    const int failed = posix_spawn(&process, QUILLOMAT_TERMINAL_PROGRAM, &actions, nullptr,
+    const int failed = posix_spawn(&process, QUILLOMAT_TERMINAL_PROGRAM, &actions, &attributes,
                                    Pointers(arguments).data(), Pointers(environment).data());
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     Outcome outcome;
     int ended = 0;
@@ -206,7 +222,8 @@ struct Trial {
 
 std::string NameOf(const Trial& trial) {
   return "call " + std::to_string(trial.call) + ", " + trial.name + ", error " +
-         std::to_string(trial.fault.error) + (trial.fault.stays ? " that stays" : "");
+         std::to_string(trial.fault.error) + (trial.fault.stays ? " that stays" : "") +
+         (trial.fault.signal != 0 ? ", signal " + std::to_string(trial.fault.signal) : "");
 }
 
 /// All faults of all calls of one run, on all cores.
@@ -244,7 +261,9 @@ class Sweep {
     std::istringstream log(stage.Log());
     for (std::string name; std::getline(log, name);) {
       ++calls_;
-      for (const Fault& fault : FaultsOf(name)) trials_.push_back({calls_, name, fault});
+      const bool isInterrupted = !scenario_.interrupted.empty();
+      const auto faults = isInterrupted ? std::vector{kControlC} : FaultsOf(name);
+      for (const Fault& fault : faults) trials_.push_back({calls_, name, fault});
     }
     EXPECT_GT(calls_, 0);
     return !testing::Test::HasFailure();
@@ -260,13 +279,15 @@ class Sweep {
 
   void Try(Stage& stage, const Trial& trial, const Files& whole) {
     std::vector<std::string> faults = {"FAULT_AT=" + std::to_string(trial.call),
-                                       "FAULT_ERROR=" + std::to_string(trial.fault.error)};
+                                       "FAULT_ERROR=" + std::to_string(trial.fault.error),
+                                       "FAULT_SIGNAL=" + std::to_string(trial.fault.signal)};
     if (trial.fault.stays) {
       faults.push_back("FAULT_AFTER=" + (trial.fault.error == EIO ? kNeedsDisk : kNeedsRoom));
     }
     if (!scenario_.only.empty()) faults.push_back("FAULT_ONLY=" + scenario_.only);
     const Outcome outcome = stage.Run(faults);
-    std::string fault = FaultOf(outcome, trial.fault, whole);
+    std::string fault = trial.fault.signal != 0 ? FaultOfInterruption(outcome, whole)
+                                                : FaultOf(outcome, trial.fault, whole);
     if (stage.Log().empty()) fault = "the call did not come";
     if (fault.empty()) return;
     const std::lock_guard lock(mutex_);
@@ -300,6 +321,30 @@ class Sweep {
       if (!outcome.files.contains(name)) return name + " is gone";
     }
     return {};
+  }
+
+  /// The same of a run that was to end at once: it says which targets are written by then.
+  [[nodiscard]] std::string FaultOfInterruption(const Outcome& outcome, const Files& whole) const {
+    std::string told;
+    std::size_t written = 0;
+    for (const std::string& name : scenario_.interrupted) {
+      const auto file = outcome.files.find(name);
+      if (file == outcome.files.end()) return name + " is gone";
+      if (file->second == scenario_.targets.at(name)) continue;
+      if (file->second != whole.at(name)) return name + " is neither old nor new";
+      told.append(written == 0 ? "Interrupted. Written by then: " : ", ").append(name);
+      ++written;
+    }
+    if (written > 0) told += '\n';
+    for (const auto& [name, contents] : outcome.files) {
+      const bool isKnown = scenario_.inputs.contains(name) || scenario_.targets.contains(name);
+      if (!isKnown) return name + " was left";
+    }
+    // In front of its first steps and behind its last the program leaves the signal to the system.
+    const bool isAtAnEnd = written == 0 || written == scenario_.interrupted.size();
+    if (outcome.signal == kControlC.signal && isAtAnEnd) return {};
+    if (outcome.status != 128 + kControlC.signal) return "not ended by it";
+    return outcome.errors == told ? "" : "this should be said: " + told;
   }
 
   const Scenario& scenario_;
@@ -370,6 +415,14 @@ TEST(FaultSweep, OfAStateReadAndSaved) {
 TEST(FaultSweep, OfAFoldersFilesListed) {
   Try({.arguments = {"--folder", "g", "--subfolders", "--list-files"},
        .inputs = {{"g/a.txt", "cat"}, {"g/s/b.txt", "dog"}}});
+}
+
+TEST(FaultSweep, OfControlCInARunThatWritesSeveralFiles) {
+  Try({.arguments = {"text.txt", "--threads", "1", "--overwrite", "--output", "list", "--report",
+                     "r.csv", "--export", "t.json", "--export", "t.xlsx"},
+       .inputs = {{"text.txt", "cat dog"}},
+       .targets = {{"list", "old\n"}, {"r.csv", "old\n"}, {"t.json", "old\n"}, {"t.xlsx", "old\n"}},
+       .interrupted = {"list", "r.csv", "t.json", "t.xlsx"}});
 }
 
 TEST(FaultSweep, OfThreadsThatCannotBeHad) {

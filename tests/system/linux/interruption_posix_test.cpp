@@ -37,6 +37,16 @@ constexpr std::chrono::milliseconds kBehindOneRequest{250};
 
 class InterruptionTest : public TestInAFolder {
  protected:
+  /// Who runs the tests in the background, or under nohup, has some signals ignored.
+  InterruptionTest() {
+    for (std::size_t i = 0; i < kSignals.size(); ++i) {
+      before_[i] = std::signal(kSignals[i], SIG_DFL);
+    }
+  }
+  ~InterruptionTest() override {
+    for (std::size_t i = 0; i < kSignals.size(); ++i) std::signal(kSignals[i], before_[i]);
+  }
+
   /// The exit status of a process that does that; minus the signal if one has killed it.
   static int StatusOf(const std::function<void()>& action) {
     const pid_t child = fork();
@@ -66,6 +76,10 @@ class InterruptionTest : public TestInAFolder {
   }
 
   const std::string path_ = folder_.Write("out", "old");
+
+ private:
+  static constexpr std::array<int, 3> kSignals = {SIGHUP, SIGINT, SIGTERM};
+  std::array<void (*)(int), kSignals.size()> before_{};
 };
 
 TEST_F(InterruptionTest, EndsTheProgramWithItsStatusAndLeavesTheOldFile) {
@@ -220,6 +234,10 @@ TEST_F(InterruptionTest, LeavesALastWord) {
               TellOfWrittenFiles(Joined);
               EXPECT_THROW(OutputFile(folder_ / "none/file").Close(), RunTimeError);
               OutputFile(made).Close();
+              OutputFile late(folder_ / "late");
+              static_cast<void>(folder_.Make("late/folder"));
+              EXPECT_THROW(late.Close(), RunTimeError) << "there is a folder in its place";
+              if (HasFailure()) _exit(1);
               OutputFile(path_).Close();
               const OutputFile unfinished(folder_ / "unfinished");
               raise(SIGINT);
@@ -269,6 +287,21 @@ TEST_F(InterruptionTest, EndsTheProgramThoughNobodyReadsStandardError) {
               TellOfWrittenFiles(Joined);
               OutputFile(path_).Close();
               alarm(10);
+              raise(SIGINT);
+            }),
+            kInterruptedStatus);
+}
+
+TEST_F(InterruptionTest, EndsTheProgramThoughWhoReadStandardErrorHasGone) {
+  EXPECT_EQ(StatusOf([&] {
+              std::array<int, 2> ends{};
+              if (pipe(ends.data()) != 0) _exit(1);
+              close(ends[0]);
+              dup2(ends[1], STDERR_FILENO);
+              std::signal(SIGPIPE, SIG_DFL);
+              const Interruption interruption;
+              TellOfWrittenFiles(Joined);
+              OutputFile(path_).Close();
               raise(SIGINT);
             }),
             kInterruptedStatus);
