@@ -164,7 +164,14 @@ class OddCharacters {
   std::set<char32_t> kinds_;
 };
 
-OddCharacters OddCharactersIn(std::string_view head, CharacterSet set) {
+/// A set, with what would be odd in it.
+struct Candidate {
+  CharacterSet set;
+  std::size_t odd;
+  std::size_t kinds;
+};
+
+Candidate CandidateOf(std::string_view head, CharacterSet set) {
   OddCharacters odd;
   const std::string text = ConvertedHead(head, set);
   for (std::size_t at = 0; at < text.size();) {
@@ -172,7 +179,7 @@ OddCharacters OddCharactersIn(std::string_view head, CharacterSet set) {
     odd.Take(character.codePoint);
     at += character.bytes;
   }
-  return odd;
+  return {set, odd.Number(), odd.Kinds()};
 }
 
 /// A set that has the letters of another in other places. What is a letter in one is a control, a
@@ -189,15 +196,16 @@ constexpr auto kSiblings = std::to_array<Sibling>({
     {CharacterSet::kIso8859Part4, CharacterSet::kWindows1252},
 });
 
-/// The sibling of `set` where that has hardly an odd character and `set` has some.
-CharacterSet SiblingIfLikelier(std::string_view head, CharacterSet set) {
+/// The sibling where that has hardly an odd character and the candidate has some.
+Candidate SiblingIfLikelier(std::string_view head, const Candidate& candidate) {
   constexpr std::size_t kFewest = 2;
   constexpr std::size_t kTimesAsMany = 4;
-  const auto* const found = std::ranges::find(kSiblings, set, &Sibling::set);
-  if (found == kSiblings.end() || !CanDecode(found->other)) return set;
-  const std::size_t odd = OddCharactersIn(head, set).Number();
-  if (odd < kFewest) return set;
-  return OddCharactersIn(head, found->other).Number() * kTimesAsMany < odd ? found->other : set;
+  const auto* const found = std::ranges::find(kSiblings, candidate.set, &Sibling::set);
+  if (found == kSiblings.end() || candidate.odd < kFewest || !CanDecode(found->other)) {
+    return candidate;
+  }
+  const Candidate sibling = CandidateOf(head, found->other);
+  return sibling.odd * kTimesAsMany < candidate.odd ? sibling : candidate;
 }
 
 bool IsAsciiLetter(char32_t character) {
@@ -227,31 +235,35 @@ bool IsOfLatinLetters(std::string_view head, CharacterSet set) {
   return between * kOfHowManyOneIsBetween > beyondAscii;
 }
 
-/// The old set in which hardly a character is odd, where too many are in `set`; otherwise `set`.
-CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
+/// The old set in which hardly a character is odd, where too many are in the candidate's.
+CharacterSet OldSetIfLikelier(std::string_view head, const Candidate& candidate) {
   constexpr std::size_t kFewest = 4;
   constexpr std::size_t kFewestKinds = 2;
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
-  if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
+  const std::size_t odd = candidate.odd;
   const auto beyondAscii = static_cast<std::size_t>(std::ranges::count_if(
       head, [](char ch) { return static_cast<unsigned char>(ch) > kLastOfAscii; }));
-  const OddCharacters inSet = OddCharactersIn(head, set);
-  const std::size_t odd = inSet.Number();
   // One sign alone may stand between words.
-  if (inSet.Kinds() < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
-    return set;
+  if (candidate.kinds < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
+    return candidate.set;
   }
-  CharacterSet best = set;
+  CharacterSet best = candidate.set;
   std::size_t fewest = odd;
   for (const CharacterSet old : kOldSets) {
     if (!CanDecode(old)) continue;
-    const std::size_t oddInOld = OddCharactersIn(head, old).Number();
+    const std::size_t oddInOld = CandidateOf(head, old).odd;
     if (oddInOld * kTimesAsMany >= odd || oddInOld >= fewest) continue;
     fewest = oddInOld;
     best = old;
   }
   return best;
+}
+
+/// By what would be odd in it; other sets than Latin ones stay.
+CharacterSet LikeliestBeside(std::string_view head, CharacterSet set) {
+  if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
+  return OldSetIfLikelier(head, SiblingIfLikelier(head, CandidateOf(head, set)));
 }
 
 }  // namespace
@@ -263,8 +275,7 @@ CharacterSet GuessLegacySet(std::string_view head) {
   constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;
   const CharacterSet detected = Widened(Detected(head));
   const bool isKnown = detected != CharacterSet::kAsFound && !IsOfLatinLetters(head, detected);
-  const CharacterSet set = SiblingIfLikelier(head, isKnown ? detected : kSetOfOtherLines);
-  const CharacterSet likeliest = OldSetIfLikelier(head, set);
+  const CharacterSet likeliest = LikeliestBeside(head, isKnown ? detected : kSetOfOtherLines);
   return isKnown || likeliest != kSetOfOtherLines ? likeliest : CharacterSet::kAsFound;
 }
 
