@@ -165,13 +165,13 @@ class OddCharacters {
 };
 
 /// A set, with what would be odd in it.
-struct Candidate {
+struct JudgedSet {
   CharacterSet set;
   std::size_t odd;
   std::size_t kinds;
 };
 
-Candidate CandidateOf(std::string_view head, CharacterSet set) {
+JudgedSet Judged(std::string_view head, CharacterSet set) {
   OddCharacters odd;
   const std::string text = ConvertedHead(head, set);
   for (std::size_t at = 0; at < text.size();) {
@@ -196,16 +196,16 @@ constexpr auto kSiblings = std::to_array<Sibling>({
     {CharacterSet::kIso8859Part4, CharacterSet::kWindows1252},
 });
 
-/// The sibling where that has hardly an odd character and the candidate has some.
-Candidate SiblingIfLikelier(std::string_view head, const Candidate& candidate) {
+/// The sibling where that has hardly an odd character and the judged one has some.
+JudgedSet SiblingIfLikelier(std::string_view head, const JudgedSet& judged) {
   constexpr std::size_t kFewest = 2;
   constexpr std::size_t kTimesAsMany = 4;
-  const auto* const found = std::ranges::find(kSiblings, candidate.set, &Sibling::set);
-  if (found == kSiblings.end() || candidate.odd < kFewest || !CanDecode(found->other)) {
-    return candidate;
+  const auto* const found = std::ranges::find(kSiblings, judged.set, &Sibling::set);
+  if (found == kSiblings.end() || judged.odd < kFewest || !CanDecode(found->other)) {
+    return judged;
   }
-  const Candidate sibling = CandidateOf(head, found->other);
-  return sibling.odd * kTimesAsMany < candidate.odd ? sibling : candidate;
+  const JudgedSet sibling = Judged(head, found->other);
+  return sibling.odd * kTimesAsMany < judged.odd ? sibling : judged;
 }
 
 bool IsAsciiLetter(char32_t character) {
@@ -235,24 +235,24 @@ bool IsOfLatinLetters(std::string_view head, CharacterSet set) {
   return between * kOfHowManyOneIsBetween > beyondAscii;
 }
 
-/// The old set in which hardly a character is odd, where too many are in the candidate's.
-CharacterSet OldSetIfLikelier(std::string_view head, const Candidate& candidate) {
+/// The old set in which hardly a character is odd, where too many are in the judged one.
+CharacterSet OldSetIfLikelier(std::string_view head, const JudgedSet& judged) {
   constexpr std::size_t kFewest = 4;
   constexpr std::size_t kFewestKinds = 2;
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
-  const std::size_t odd = candidate.odd;
+  const std::size_t odd = judged.odd;
   const auto beyondAscii = static_cast<std::size_t>(std::ranges::count_if(
       head, [](char ch) { return static_cast<unsigned char>(ch) > kLastOfAscii; }));
   // One sign alone may stand between words.
-  if (candidate.kinds < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
-    return candidate.set;
+  if (judged.kinds < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
+    return judged.set;
   }
-  CharacterSet best = candidate.set;
+  CharacterSet best = judged.set;
   std::size_t fewest = odd;
   for (const CharacterSet old : kOldSets) {
     if (!CanDecode(old)) continue;
-    const std::size_t oddInOld = CandidateOf(head, old).odd;
+    const std::size_t oddInOld = Judged(head, old).odd;
     if (oddInOld * kTimesAsMany >= odd || oddInOld >= fewest) continue;
     fewest = oddInOld;
     best = old;
@@ -263,7 +263,7 @@ CharacterSet OldSetIfLikelier(std::string_view head, const Candidate& candidate)
 /// By what would be odd in it; other sets than Latin ones stay.
 CharacterSet LikeliestBeside(std::string_view head, CharacterSet set) {
   if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
-  return OldSetIfLikelier(head, SiblingIfLikelier(head, CandidateOf(head, set)));
+  return OldSetIfLikelier(head, SiblingIfLikelier(head, Judged(head, set)));
 }
 
 }  // namespace
