@@ -48,8 +48,8 @@ void Announce(QWidget& label) {
   QAccessibleEvent event(&label, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
   const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&label);
-  if (read == nullptr) return;
-  SpokenText::Of(label).Say(read->text(QAccessible::Name));
+  const QString text = read == nullptr ? QString() : read->text(QAccessible::Name);
+  if (!text.isEmpty()) SpokenText::Of(label).Say(text);
 }
 
 }  // namespace quillomat

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <gmock/gmock.h>
 
+#include "qt/accessible_names.h"
 #include "window_fixture.h"
 
 namespace quillomat {
@@ -37,6 +38,7 @@ TEST_F(SpokenTextTest, OutcomeOfACountAndItsNoticeAreSaid) {
 }
 
 TEST_F(SpokenTextTest, IsANotificationOfTheWindow) {
+  SpokenOf(frmMain.lblNotice).Say(QStringLiteral("a notice"));
   const QAccessibleInterface* spoken =
       QAccessible::queryAccessibleInterface(&SpokenOf(frmMain.lblNotice));
   EXPECT_EQ(spoken->role(), QAccessible::Notification);
@@ -46,7 +48,19 @@ TEST_F(SpokenTextTest, IsANotificationOfTheWindow) {
   EXPECT_GE(spoken->parent()->indexOfChild(spoken), 0) << "a screen reader comes from there to it";
 }
 
+TEST_F(SpokenTextTest, LabelsDoNotTakeEachOthersPlace) {
+  EXPECT_EQ(&SpokenOf(frmMain.lblNotice), &SpokenOf(frmMain.lblNotice));
+  EXPECT_NE(&SpokenOf(frmMain.lblNotice), &SpokenOf(frmMain.lblNumberOfWords));
+}
+
+TEST_F(SpokenTextTest, NothingIsSaidOfALabelWithoutText) {
+  QLabel label(&user->windows.Main());
+  Announce(label);
+  EXPECT_TRUE(SpokenText::Of(label).isHidden());
+}
+
 TEST_F(SpokenTextTest, IsNowhereOnTheScreenAndHasNoKeyboard) {
+  SpokenOf(frmMain.lblNotice).Say(QStringLiteral("a notice"));
   EXPECT_TRUE(SpokenOf(frmMain.lblNotice).visibleRegion().isEmpty());
   EXPECT_EQ(SpokenOf(frmMain.lblNotice).focusPolicy(), Qt::NoFocus);
 }
