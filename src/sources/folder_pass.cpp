@@ -111,6 +111,7 @@ void FolderPass::VisitPaths(const TextOfPaths& source, const FolderVisitor& visi
 }
 
 void FolderPass::Meet(WalkItem::Kind kind, const std::string& path) {
+  if (state_.stop.Stopped()) return;  // a batch can end with it while the walk enters a folder
   WalkItem item;
   item.kind = kind;
   item.report.path = path;
@@ -183,7 +184,10 @@ void FolderPass::TakeFirstBatch() {
 /// Behind the end of the walk. One file is not worth threads.
 void FolderPass::TakeRest() {
   if (!pool_ && met_.items.size() <= 1) {
-    for (WalkItem& item : met_.items) Take(item, 0);
+    for (WalkItem& item : met_.items) {
+      Take(item, 0);
+      static_cast<void>(state_.stop.YieldForMany());
+    }
     return;
   }
   Submit();

@@ -12,6 +12,9 @@ namespace {
 
 constexpr int kWordBoundaries = 1;  // UBRK_WORD
 
+/// Words of each script that the library has a dictionary for.
+constexpr std::string_view kAllScripts = "日本 ひら カタ ไทย ລາວ မြန်မာ ខ្មែរ";
+
 class IteratorCloser {
  public:
   explicit IteratorCloser(void (*close)(void*)) : close_(close) {}
@@ -69,13 +72,19 @@ class IcuSegmenter final : public RunSegmenter {
 
 }  // namespace
 
-/// The root locale, so that a text has the same words for everybody.
+/// The root locale, so that a text has the same words for everybody. The library loads a dictionary
+/// when it meets the first letter of its script, and before that takes signs that several scripts
+/// share (ー) for letters without one: with all of them loaded, it is all the same what was cut
+/// before.
 std::unique_ptr<RunSegmenter> MakeIcuSegmenter(const IcuFunctions& functions) {
   int error = 0;
   Iterator iterator(functions.open(kWordBoundaries, "", nullptr, 0, &error),
                     IteratorCloser(functions.close));
   if (error > 0 || iterator == nullptr) return nullptr;
-  return std::make_unique<IcuSegmenter>(functions, std::move(iterator));
+  auto segmenter = std::make_unique<IcuSegmenter>(functions, std::move(iterator));
+  std::vector<std::size_t> cuts;
+  static_cast<void>(segmenter->FindCuts(kAllScripts, cuts));  // if it fails, the next time tells
+  return segmenter;
 }
 
 }  // namespace quillomat

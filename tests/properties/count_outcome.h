@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "engine/scan_settings.h"
 #include "engine/word_filters.h"
@@ -16,6 +17,9 @@ namespace quillomat::properties {
 /// What the outcome tells of the order of words: the words themselves, or what Counter makes of it,
 /// how many are different until each; or nothing, as other ways of counting are open then.
 enum class Told { kOrder, kGrowth, kNoOrder };
+
+/// Ends an outcome in the midst of the count, where a word is met too often in one file.
+inline constexpr std::string_view kOverflow = "Overflow";
 
 /// How the engine is given its text.
 enum class Reading { kByLines, kInBlocks, kInParts, kOnThreads };

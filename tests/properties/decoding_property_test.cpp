@@ -1,6 +1,5 @@
 // Random bytes and random pieces of texts through the decoder of each encoding, and a count of such
 // a file against a count of what it is in UTF-8.
-#include <algorithm>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <map>
@@ -10,10 +9,10 @@
 #include "properties/count_case.h"
 #include "properties/decoding_fault.h"
 #include "properties/property_cases.h"
+#include "properties/random_bytes.h"
 #include "sources/converted_source.h"
 #include "sources/counter.h"
 #include "sources/encoding_guess.h"
-#include "support/encoded_texts.h"
 #include "support/temporary_folder.h"
 
 namespace quillomat::properties {
@@ -24,31 +23,6 @@ constexpr std::uint64_t kDecodingSeed = 1611;
 constexpr int kCasesPerText = 20;
 /// Files take longer to be written than a text to be decoded.
 constexpr int kCasesPerFile = 120;
-
-/// Bytes of all kinds: any, those that lead characters, pieces of a text in the encoding.
-std::string RandomBytes(Random& random, CharacterSet set) {
-  const auto below = [&random](std::size_t limit) { return random() % limit; };
-  const auto own = std::ranges::find(kEncodedTexts, set, &EncodedText::set);
-  std::string bytes;
-  for (std::size_t pieces = below(40); pieces > 0; --pieces) {
-    switch (below(own == kEncodedTexts.end() ? 3 : 5)) {
-      case 0:
-        bytes += static_cast<char>(below(256));
-        break;
-      case 1:
-        bytes += static_cast<char>(0x80 + below(128));
-        break;
-      case 2:
-        bytes += static_cast<char>(' ' + below(95));
-        break;
-      default: {
-        const std::size_t start = below(own->bytes.size());
-        bytes += own->bytes.substr(start, 1 + below(9));
-      }
-    }
-  }
-  return bytes;
-}
 
 std::string Shown(std::string_view bytes) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";

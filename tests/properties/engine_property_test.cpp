@@ -76,6 +76,21 @@ TEST(EngineProperty, CommentMarkersAreRefusedForTheReasonOfTheLiteralEngine) {
   }
 }
 
+TEST(EngineProperty, OverflowOfAFileIsTheOutcomeOfBoth) {
+  constexpr std::size_t kMostInAFile = 32'767;
+  std::string line;
+  for (std::size_t words = 0; words < kMostInAFile; ++words) line += "dog cat ";
+  CountCase countCase;
+  countCase.choices.optFolder = true;
+  countCase.choices.txbWordsToIgnoreOrCount[1] = "dog";
+  countCase.texts.push_back({"", "/books/a.txt", false, {line, "dogs"}});
+  EXPECT_EQ(OutcomeOfReference(countCase).find(kOverflow), std::string::npos);
+  EXPECT_FALSE(Differs(countCase));
+  countCase.texts[0].lines.emplace_back("dog");
+  EXPECT_TRUE(OutcomeOfReference(countCase).ends_with(kOverflow));
+  EXPECT_FALSE(Differs(countCase));
+}
+
 TEST(EngineProperty, RandomCasesOfFixedSeedHaveTheOutcomeOfTheLiteralEngine) {
   CompareRandomCases(kFixedSeed);
 }

@@ -6,6 +6,7 @@
 
 #include "app/list/text_box_list_sink.h"
 #include "base/byte_source.h"
+#include "base/run_time_error.h"
 #include "base/text_helpers.h"
 #include "engine/fold_accents.h"
 #include "engine/long_line.h"
@@ -118,14 +119,23 @@ class ProgramCase {
         yield_(reading == Reading::kInBlocks ? kCallsOfBlocks : kCallsOneByOne) {}
 
   std::string Outcome() {
-    for (std::size_t kind = 0; kind < 2; ++kind) ReadLists(kind);
-    Count();
-    DescribeWords();
-    List();
+    try {
+      Describe();
+    } catch (const RunTimeError& error) {
+      if (error.Number() != static_cast<int>(RunTimeErrorNumber::kOverflow)) throw;
+      out_ << kOverflow;
+    }
     return out_.str();
   }
 
  private:
+  void Describe() {
+    for (std::size_t kind = 0; kind < 2; ++kind) ReadLists(kind);
+    Count();
+    DescribeWords();
+    List();
+  }
+
   void ReadLists(std::size_t kind) {
     SplitResult typed = ParseTypedWords(TrimBlanks(case_.choices.txbWordsToIgnoreOrCount[kind]),
                                         choices_.letters, choices_.makeSegmenter);
@@ -221,6 +231,7 @@ class ProgramCase {
     EventNotes notes(*files_);
     CountResult result = Counter(request, notes, files_->batches).Run();
     notes.NoteReach(result);
+    if (result.error) throw RunTimeError(*result.error);
     result.Rank(request.filters);
     store_ = std::move(result.store);
     totals_ = result.totals;

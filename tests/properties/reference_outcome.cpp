@@ -70,11 +70,7 @@ void DescribeWords(const LiteralEngine& engine, std::ostream& out) {
   }
 }
 
-}  // namespace
-
-std::string OutcomeOfReference(const CountCase& countCase, Told told) {
-  std::ostringstream out;
-  LiteralEngine engine;
+void Describe(const CountCase& countCase, Told told, LiteralEngine& engine, std::ostream& out) {
   engine.choices = countCase.choices;
   engine.findWords = FinderOf(countCase.segmenter);
   for (int kind = 0; kind < 2; ++kind) {
@@ -103,11 +99,23 @@ std::string OutcomeOfReference(const CountCase& countCase, Told told) {
                                           countCase.numFolders};
   if (engine.NumIncludedWords == 0) {
     out << ToUtf8(engine.NoWordsMessage());
-    return out.str();
+    return;
   }
   const reference::TextboxListing box = engine.ListToTextbox(request);
   out << "box" << (box.textboxFull ? " full" : "") << ":\n" << box.text;
   out << "\nfile:\n" << engine.ListToFile(request, "\n");
+}
+
+}  // namespace
+
+std::string OutcomeOfReference(const CountCase& countCase, Told told) {
+  std::ostringstream out;
+  LiteralEngine engine;
+  try {
+    Describe(countCase, told, engine, out);
+  } catch (const reference::Overflow&) {
+    out << kOverflow;
+  }
   return out.str();
 }
 

@@ -49,6 +49,7 @@ class RecordingObserver final : public CountObserver {
   void OnFileEnds(const FileReport& report, const CountProgress& told) override {
     Note("ends " + FileNamePartOf(report.path));
     afterFiles.push_back(told);
+    if (FileNamePartOf(report.path) == stopBehind) stopped = true;
   }
   void OnSkipped(const SkippedFile& skipped) override {
     Note("skipped " + FileNamePartOf(skipped.path));
@@ -63,6 +64,7 @@ class RecordingObserver final : public CountObserver {
   bool stopped = false;
   bool goesOn = true;
   std::string choosesOutput;
+  std::string stopBehind;
   std::int32_t stopAtWord = 0;
   std::int32_t stopAtCounted = 0;
 

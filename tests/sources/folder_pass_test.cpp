@@ -156,6 +156,37 @@ TEST_F(FilesOnThreads, StopBehindTheFileInWhichTheyAreStopped) {
   EXPECT_EQ(observer.events.back(), "ends " + Numbered(30));
 }
 
+TEST_F(FilesOnThreads, StopBehindAnyOfThemAsOneByOne) {
+  constexpr int kFiles = 30;
+  for (int i = 0; i < kFiles; ++i) Put(Numbered(i), "word");
+  // Folders that are entered one after the other while files wait for being joined.
+  Put("s/t/u/v/w/x/y/z/" + Numbered(kFiles), "word");
+  const auto eventsOf = [&](int last, std::size_t threads, const BatchSizes& batches) {
+    request.threads = threads;
+    request.source = TextOfFolder{folder.Path(), true, {}};
+    RecordingObserver noted;
+    noted.stopBehind = Numbered(last);
+    const CountResult result = Counter(request, noted, batches).Run();
+    noted.events.push_back("end " + std::to_string(static_cast<int>(result.end)));
+    return noted.events;
+  };
+  for (int last = 0; last <= kFiles; ++last) {
+    const auto expected = eventsOf(last, 1, {});
+    EXPECT_EQ(expected.back(), "end " + std::to_string(static_cast<int>(CountEnd::kStopped)));
+    for (const std::size_t items : {1U, 2U, 3U, 5U, 8U, 100U}) {
+      EXPECT_EQ(eventsOf(last, 8, {.items = items}), expected) << last << ", " << items;
+    }
+  }
+}
+
+TEST_F(FilesOnThreads, StopBehindTheLastThoughItIsReadWithoutThem) {
+  constexpr int kFiles = 17;
+  for (int i = 0; i < kFiles; ++i) Put(Numbered(i), "word");
+  request.threads = 2;
+  observer.stopBehind = Numbered(kFiles - 1);
+  EXPECT_EQ(Run(TextOfFolder{folder.Path(), false, {}}).end, CountEnd::kStopped);
+}
+
 TEST_F(FilesOnThreads, CountTheWordsOfTheFilesUntilAStop) {
   PutManyFiles();
   std::vector<std::string> paths;
