@@ -9,6 +9,7 @@
 #include <QVariant>
 
 #include "qt/mnemonics.h"
+#include "qt/spoken_text.h"
 
 namespace quillomat {
 namespace {
@@ -31,7 +32,9 @@ void ShowAccessibleNames(const QWidget& window) {
           name == window.objectName() ? &window : window.findChild<QWidget*>(name);
       if (other != nullptr) captions.append(Readable(CaptionOf(*other)));
     }
-    if (!captions.isEmpty()) widget->setAccessibleName(captions.join(QLatin1Char(' ')));
+    const QString read = captions.join(QLatin1Char(' '));
+    // Screen readers are told of every name that is set, the same one, too.
+    if (!read.isEmpty() && read != widget->accessibleName()) widget->setAccessibleName(read);
   }
 }
 
@@ -44,6 +47,9 @@ void AnnounceItem(QAbstractItemView& list, int row) {
 void Announce(QWidget& label) {
   QAccessibleEvent event(&label, QAccessible::Alert);
   QAccessible::updateAccessibility(&event);
+  const QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&label);
+  const QString text = read == nullptr ? QString() : read->text(QAccessible::Name);
+  if (!text.isEmpty()) SpokenText::Of(label).Say(text);
 }
 
 }  // namespace quillomat

@@ -82,8 +82,10 @@ QVariant FilesModel::data(const QModelIndex& index, int role) const {
   }
   // A path or a reason may be longer than its column is wide.
   if (role != Qt::DisplayRole && (role != Qt::ToolTipRole || IsNumber(index.column()))) return {};
+  // A row has one line, and a path may have several.
   return ToShown(
-      rows_.TextAt(static_cast<std::size_t>(index.row()), ColumnOf(index.column()), signs_));
+             rows_.TextAt(static_cast<std::size_t>(index.row()), ColumnOf(index.column()), signs_))
+      .replace(QLatin1Char('\n'), QLatin1String("\\n"));
 }
 
 QVariant FilesModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -2,6 +2,7 @@
 
 #include <QLayout>
 #include <QTextBlock>
+#include <QTextOption>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -14,6 +15,11 @@ ListView::ListView(QWidget* parent) : QPlainTextEdit(parent) {
   usualSize_ = font.pointSizeF();
   setFont(font);
   setTabChangesFocus(true);
+  // Else a line would begin on the side of its first letter, and a Hebrew word stand before its
+  // rank.
+  QTextOption option = document()->defaultTextOption();
+  option.setTextDirection(Qt::LeftToRight);
+  document()->setDefaultTextOption(option);
   setAcceptDrops(false);  // what is dropped here is meant for the window
 }
 

@@ -167,6 +167,8 @@ void MainWindowView::ConnectViews() {
   });
   connect(views_, &QTabWidget::currentChanged, this,
           [this, &notices] { notices.SetTextShown(views_->Current() == kTextView); });
+  // What it lists is text.
+  program_.frmMain.cmdListFiles.Click.Connect([this] { views_->Show(kTextView); });
   program_.SetViewCopier([this] { return views_->Copy(); });
   program_.Exports().SetFilter([this] { return table_->Table().Filtered(); });
   table_->Table().Changed.Connect([this] { program_.Exports().OnFilterChange(); });

@@ -318,8 +318,9 @@ void WidgetBinding::Show() {
   widget_.setVisible(IsShown());
   widget_.setEnabled(control_.Enabled());
   const QString toolTip = ToShown(control_.ToolTip());
-  widget_.setToolTip(toolTip);
-  widget_.setAccessibleDescription(toolTip);
+  if (toolTip != widget_.toolTip()) widget_.setToolTip(toolTip);
+  // Screen readers are told of every description that is set, the same one, too.
+  if (toolTip != widget_.accessibleDescription()) widget_.setAccessibleDescription(toolTip);
 }
 
 bool WidgetBinding::IsShown() const {

@@ -100,6 +100,12 @@ constexpr auto kLatinSets = std::to_array<CharacterSet>(
      CharacterSet::kIso8859Part13, CharacterSet::kIso8859Part14, CharacterSet::kIso8859Part15,
      CharacterSet::kIso8859Part16, CharacterSet::kIbm852});
 
+constexpr auto kSetsOfTwoBytes = std::to_array<CharacterSet>(
+    {CharacterSet::kShiftJis, CharacterSet::kEucJp, CharacterSet::kGb18030, CharacterSet::kBig5,
+     CharacterSet::kEucKr});
+
+constexpr char32_t kLastOfAscii = 0x7F;
+
 /// Which the library does not know, or hardly; the more frequent ones first.
 constexpr auto kOldSets = std::to_array<CharacterSet>(
     {CharacterSet::kIbm850, CharacterSet::kMacRoman, CharacterSet::kIbm852});
@@ -111,7 +117,7 @@ class OddCharacters {
   void Take(char32_t character) {
     Settle(IsLetter(character));
     const bool isCapital = IsLetter(character) && traits_.Of(character).toLower != 0;
-    if (character >= kFirstBeyondAscii) {
+    if (character > kLastOfAscii) {
       if (IsNone(character) || (isCapital && isBehindSmall_)) Count(character);
       const bool isSign = !IsLetter(character) && !IsNone(character) && !IsUsual(character);
       isSignBehindLetter_ = isSign && isBehindLetter_;
@@ -125,8 +131,6 @@ class OddCharacters {
   [[nodiscard]] std::size_t Kinds() const { return kinds_.size(); }
 
  private:
-  static constexpr char32_t kFirstBeyondAscii = 0x80;
-
   void Count(char32_t character) {
     ++number_;
     kinds_.insert(character);
@@ -160,7 +164,14 @@ class OddCharacters {
   std::set<char32_t> kinds_;
 };
 
-OddCharacters OddCharactersIn(std::string_view head, CharacterSet set) {
+/// A set, with what would be odd in it.
+struct JudgedSet {
+  CharacterSet set;
+  std::size_t odd;
+  std::size_t kinds;
+};
+
+JudgedSet Judged(std::string_view head, CharacterSet set) {
   OddCharacters odd;
   const std::string text = ConvertedHead(head, set);
   for (std::size_t at = 0; at < text.size();) {
@@ -168,34 +179,91 @@ OddCharacters OddCharactersIn(std::string_view head, CharacterSet set) {
     odd.Take(character.codePoint);
     at += character.bytes;
   }
-  return odd;
+  return {set, odd.Number(), odd.Kinds()};
 }
 
-/// The old set in which hardly a character is odd, where too many are in `set`; otherwise `set`.
-CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
+/// A set that has the letters of another in other places. What is a letter in one is a control, a
+/// sign or a capital within words in the other, which the library does not ask.
+struct Sibling {
+  CharacterSet set;
+  CharacterSet other;
+};
+constexpr auto kSiblings = std::to_array<Sibling>({
+    {CharacterSet::kWindows1250, CharacterSet::kIso8859Part2},
+    {CharacterSet::kIso8859Part2, CharacterSet::kWindows1250},
+    {CharacterSet::kWindows1252, CharacterSet::kIso8859Part15},
+    {CharacterSet::kIso8859Part15, CharacterSet::kWindows1252},
+    {CharacterSet::kIso8859Part4, CharacterSet::kWindows1252},
+});
+
+/// The sibling where that has hardly an odd character and the judged one has some.
+JudgedSet SiblingIfLikelier(std::string_view head, const JudgedSet& judged) {
+  constexpr std::size_t kFewest = 2;
+  constexpr std::size_t kTimesAsMany = 4;
+  const auto* const found = std::ranges::find(kSiblings, judged.set, &Sibling::set);
+  if (found == kSiblings.end() || judged.odd < kFewest || !CanDecode(found->other)) {
+    return judged;
+  }
+  const JudgedSet sibling = Judged(head, found->other);
+  return sibling.odd * kTimesAsMany < judged.odd ? sibling : judged;
+}
+
+bool IsAsciiLetter(char32_t character) {
+  return (character >= U'a' && character <= U'z') || (character >= U'A' && character <= U'Z');
+}
+
+/// Whether a text that is taken for Chinese, Japanese or Korean is one of Latin letters: an
+/// accented letter and the one behind it can be a character of such a set, which then stands
+/// between two letters.
+bool IsOfLatinLetters(std::string_view head, CharacterSet set) {
+  constexpr std::size_t kOfHowManyOneIsBetween = 3;
+  if (std::ranges::find(kSetsOfTwoBytes, set) == kSetsOfTwoBytes.end()) return false;
+  const std::string text = ConvertedHead(head, set);
+  std::size_t beyondAscii = 0;
+  std::size_t between = 0;
+  bool wasLetter = false;
+  bool isBehindLetter = false;
+  for (std::size_t at = 0; at < text.size();) {
+    const Utf8Character character = CharacterAt(text, at);
+    at += character.bytes;
+    const bool isLetter = IsAsciiLetter(character.codePoint);
+    if (isBehindLetter && isLetter) ++between;
+    isBehindLetter = character.codePoint > kLastOfAscii && wasLetter;
+    if (character.codePoint > kLastOfAscii) ++beyondAscii;
+    wasLetter = isLetter;
+  }
+  return between * kOfHowManyOneIsBetween > beyondAscii;
+}
+
+/// The old set in which hardly a character is odd, where too many are in the judged one.
+CharacterSet OldSetIfLikelier(std::string_view head, const JudgedSet& judged) {
   constexpr std::size_t kFewest = 4;
   constexpr std::size_t kFewestKinds = 2;
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
-  if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
-  const auto beyondAscii = static_cast<std::size_t>(
-      std::ranges::count_if(head, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; }));
-  const OddCharacters inSet = OddCharactersIn(head, set);
-  const std::size_t odd = inSet.Number();
+  const std::size_t odd = judged.odd;
+  const auto beyondAscii = static_cast<std::size_t>(std::ranges::count_if(
+      head, [](char ch) { return static_cast<unsigned char>(ch) > kLastOfAscii; }));
   // One sign alone may stand between words.
-  if (inSet.Kinds() < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
-    return set;
+  if (judged.kinds < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
+    return judged.set;
   }
-  CharacterSet best = set;
+  CharacterSet best = judged.set;
   std::size_t fewest = odd;
   for (const CharacterSet old : kOldSets) {
     if (!CanDecode(old)) continue;
-    const std::size_t oddInOld = OddCharactersIn(head, old).Number();
+    const std::size_t oddInOld = Judged(head, old).odd;
     if (oddInOld * kTimesAsMany >= odd || oddInOld >= fewest) continue;
     fewest = oddInOld;
     best = old;
   }
   return best;
+}
+
+/// By what would be odd in it; other sets than Latin ones stay.
+CharacterSet LikeliestBeside(std::string_view head, CharacterSet set) {
+  if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
+  return OldSetIfLikelier(head, SiblingIfLikelier(head, Judged(head, set)));
 }
 
 }  // namespace
@@ -204,11 +272,11 @@ CharacterSet GuessLegacySet(std::string_view head) {
   if (IsNearlyUtf8(head)) {
     return HasLineOfAnotherSet(head) ? CharacterSet::kAsFound : CharacterSet::kUtf8;
   }
-  const CharacterSet set = Widened(Detected(head));
-  if (set != CharacterSet::kAsFound) return OldSetIfLikelier(head, set);
   constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;
-  const CharacterSet old = OldSetIfLikelier(head, kSetOfOtherLines);
-  return old == kSetOfOtherLines ? CharacterSet::kAsFound : old;
+  const CharacterSet detected = Widened(Detected(head));
+  const bool isKnown = detected != CharacterSet::kAsFound && !IsOfLatinLetters(head, detected);
+  const CharacterSet likeliest = LikeliestBeside(head, isKnown ? detected : kSetOfOtherLines);
+  return isKnown || likeliest != kSetOfOtherLines ? likeliest : CharacterSet::kAsFound;
 }
 
 }  // namespace quillomat

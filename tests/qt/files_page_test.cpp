@@ -59,6 +59,13 @@ TEST_F(FilesPageTest, ShowsTheFilesOfTheCountAndSortsThem) {
   user->Click(user->program.frmMain.cmdLanguage);
 }
 
+TEST_F(FilesPageTest, PathOfSeveralLinesHasOneInItsRow) {
+  const std::string path = folder.Write("a\nb.txt", "cat");
+  user->program.Sources().ChooseText(path);
+  user->Click(user->program.frmMain.cmdCountWords);
+  EXPECT_EQ(FileNamePartOf(Cell(0, FileColumn::kPath)), "a\\nb.txt");
+}
+
 TEST_F(FilesPageTest, OnesThatWereNotReadComeFirstWhenTheyAreAskedFor) {
   CountThree();
   user->Click(user->program.frmMain.cmdNotice[0]);

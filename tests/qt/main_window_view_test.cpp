@@ -5,6 +5,8 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QShortcut>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QUrl>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
@@ -267,6 +269,30 @@ TEST_F(MainWindowViewTest, WheelZoomsOverEveryView) {
     QApplication::sendEvent(view->viewport(), &turn);
     EXPECT_EQ(main.List().Zoom(), ++zoom);
   }
+}
+
+TEST_F(MainWindowViewTest, ColumnsOfAListStandInTheirOrderBesideWordsWrittenFromTheRight) {
+  user->program.frmParams.cboLetters.PerformChoice(1);
+  user->program.Sources().ChooseText(folder.Write("a.txt", "\u05E9\u05DC\u05D5\u05DD"));
+  user->Click(frmMain.cmdCountWords);
+  const ListView& list = user->windows.Main().List();
+  const QTextBlock row = list.document()->lastBlock().previous();
+  const QString text = row.text();
+  const auto placeOf = [&row, &text](QChar first) {
+    const qsizetype at = text.indexOf(first);
+    EXPECT_GE(at, 0) << FromQt(text);
+    return row.layout()->lineAt(0).cursorToX(static_cast<int>(at));
+  };
+  EXPECT_LT(placeOf(QLatin1Char('1')), placeOf(QChar(0x05DD))) << FromQt(text);
+}
+
+TEST_F(MainWindowViewTest, ListOfFilesComesToTheFront) {
+  EXPECT_NE(folder.Write("a.txt", "cat"), "");
+  user->program.Sources().ChooseText(folder.Path());
+  ResultTabs& views = user->windows.Main().Views();
+  views.setCurrentIndex(1);
+  user->Click(frmMain.cmdListFiles);
+  EXPECT_EQ(views.currentIndex(), 0);
 }
 
 TEST_F(MainWindowViewTest, NumbersOfTheSummaryStandApart) {

@@ -119,6 +119,51 @@ TEST_F(EncodingGuess, GuessKnowsTextsOfDosAndTheMacintosh) {
             CharacterSet::kMacRoman);
 }
 
+TEST_F(EncodingGuess, GuessKnowsSetsByWhatStandsWithinWords) {
+  // "Najstarszy był silny, średni był mądry, a najmłodszy lubił śpiewać. Powiedział im: idźcie w
+  // świat i przynieście mi wodę życia."
+  EXPECT_EQ(CharacterSetOf("Najstarszy by\xB3 silny, \xB6redni by\xB3 m\xB1"
+                           "dry, a najm\xB3odszy lubi\xB3 \xB6piewa\xE6. Powiedzia\xB3 im: id\xBC"
+                           "cie w \xB6wiat i przynie\xB6"
+                           "cie mi wod\xEA \xBFycia.\n",
+                           CharacterSet::kGuess),
+            CharacterSet::kIso8859Part2);
+  // "Večer se starý rybář vrátil domů a vyprávěl dětem o dalekém ostrově. Příliš žluťoučký kůň."
+  EXPECT_EQ(CharacterSetOf("Ve\xE8"
+                           "er se star\xFD ryb\xE1\xF8 vr\xE1til dom\xF9 a vypr\xE1v\xECl d\xECtem "
+                           "o dalek\xE9m ostrov\xEC. P\xF8\xEDli\x9A \x9Elu\x9Dou\xE8k\xFD "
+                           "k\xF9\xF2.\n",
+                           CharacterSet::kGuess),
+            CharacterSet::kWindows1250);
+  // "Ma sœur a préparé un bœuf aux œufs. Le cœur bat."
+  EXPECT_EQ(CharacterSetOf("Ma s\xBDur a pr\xE9par\xE9 un b\xBDuf aux \xBDufs. Le c\xBDur bat.\n",
+                           CharacterSet::kGuess),
+            CharacterSet::kIso8859Part15);
+  // "Lapsed küsisid, mida ta oli näinud. Öösel sadas vihma. Šokolaadi ja žürii kohta ei teadnud
+  // keegi midagi, ka maaži kohta."
+  EXPECT_EQ(CharacterSetOf("Lapsed k\xFCsisid, mida ta oli n\xE4inud. \xD6\xF6sel sadas vihma. "
+                           "\x8Aokolaadi ja \x9E\xFCrii kohta ei teadnud keegi midagi, ka "
+                           "maa\x9Ei kohta.\n",
+                           CharacterSet::kGuess),
+            CharacterSet::kWindows1252);
+}
+
+TEST_F(EncodingGuess, GuessTakesAccentsForNoChinese) {
+  // "Le vieux pêcheur raconta aux enfants l'histoire de l'île lointaine. Le cœur, l'œuvre."
+  EXPECT_EQ(CharacterSetOf(TimesOver("Le vieux p\xEA"
+                                     "cheur raconta aux enfants l'histoire de l'\xEEle "
+                                     "lointaine. Le c\xBDur, l'\xBDuvre.\n",
+                                     4),
+                           CharacterSet::kGuess),
+            CharacterSet::kIso8859Part15);
+  // "iPhone手机" and "CPU和GPU" have Latin letters beside Chinese ones, too.
+  const std::string chinese =
+      "iPhone\xCA\xD6\xBB\xFA\xBA\xCD"
+      "CPU\xBA\xCDGPU\xB5\xC4\xBC\xDB\xB8\xF1\xBA\xDC\xB8\xDF\xA1\xA3\xCE\xD2\xCF\xB2\xBB\xB6"
+      "\xCA\xD6\xBB\xFA\xA1\xA3\n";
+  EXPECT_EQ(CharacterSetOf(TimesOver(chinese, 4), CharacterSet::kGuess), CharacterSet::kGb18030);
+}
+
 TEST_F(EncodingGuess, GuessTakesTypographicSignsForWhatTheyAre) {
   // Quotes, dashes, apostrophes, dots and the sign of a trade mark of Windows-1252.
   const std::string text = TimesOver(
