@@ -104,6 +104,35 @@ constexpr auto kLatinSets = std::to_array<CharacterSet>(
 constexpr auto kOldSets = std::to_array<CharacterSet>(
     {CharacterSet::kIbm850, CharacterSet::kMacRoman, CharacterSet::kIbm852});
 
+bool IsBeyondAscii(char ch) {
+  return static_cast<unsigned char>(ch) > 0x7F;
+}
+
+std::size_t BytesBeyondAscii(std::string_view head) {
+  return static_cast<std::size_t>(std::ranges::count_if(head, IsBeyondAscii));
+}
+
+/// What the library says of English with one word in French: few texts are in them.
+constexpr auto kRareSets = std::to_array<CharacterSet>(
+    {CharacterSet::kIso8859Part3, CharacterSet::kIso8859Part4, CharacterSet::kIso8859Part10,
+     CharacterSet::kIso8859Part13, CharacterSet::kIso8859Part16, CharacterSet::kIbm852});
+
+/// Windows-1252 where `set` is a rare one, hardly a byte is beyond ASCII, and each of these is a
+/// letter there; otherwise `set`. A page may be markup for the most part, so both count: how few
+/// they are, and of how many.
+CharacterSet UsualSetIfLikelier(std::string_view head, CharacterSet set) {
+  constexpr std::size_t kBytesForOneBeyond = 100;
+  constexpr std::size_t kTooFew = 8;
+  if (std::ranges::find(kRareSets, set) == kRareSets.end()) return set;
+  const std::size_t beyondAscii = BytesBeyondAscii(head);
+  const bool isHardlyAny = beyondAscii <= kTooFew && beyondAscii * kBytesForOneBeyond < head.size();
+  const bool areLetters = std::ranges::all_of(head, [](char ch) {
+    const auto byte = static_cast<unsigned char>(ch);
+    return !IsBeyondAscii(ch) || (byte >= 0xC0 && byte < 0xFF);
+  });
+  return isHardlyAny && areLetters ? CharacterSet::kWindows1252 : set;
+}
+
 /// Characters beyond ASCII that do not stand where they do in texts: controls, signs within words,
 /// capitals behind small letters.
 class OddCharacters {
@@ -178,8 +207,7 @@ CharacterSet OldSetIfLikelier(std::string_view head, CharacterSet set) {
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
   if (std::ranges::find(kLatinSets, set) == kLatinSets.end()) return set;
-  const auto beyondAscii = static_cast<std::size_t>(
-      std::ranges::count_if(head, [](char ch) { return static_cast<unsigned char>(ch) > 0x7F; }));
+  const std::size_t beyondAscii = BytesBeyondAscii(head);
   const OddCharacters inSet = OddCharactersIn(head, set);
   const std::size_t odd = inSet.Number();
   // One sign alone may stand between words.
@@ -204,7 +232,7 @@ CharacterSet GuessLegacySet(std::string_view head) {
   if (IsNearlyUtf8(head)) {
     return HasLineOfAnotherSet(head) ? CharacterSet::kAsFound : CharacterSet::kUtf8;
   }
-  const CharacterSet set = Widened(Detected(head));
+  const CharacterSet set = UsualSetIfLikelier(head, Widened(Detected(head)));
   if (set != CharacterSet::kAsFound) return OldSetIfLikelier(head, set);
   constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;
   const CharacterSet old = OldSetIfLikelier(head, kSetOfOtherLines);
