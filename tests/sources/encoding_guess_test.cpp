@@ -174,6 +174,22 @@ TEST_F(EncodingGuess, GuessKeepsLinesOfUtf8ThatAreDamaged) {
   EXPECT_EQ(CharacterSetOf(cut, CharacterSet::kGuess), CharacterSet::kUtf8);
 }
 
+TEST_F(EncodingGuess, MarkOfUtf8SaysMoreThanAGuess) {
+  const std::string added = TimesOver(
+      "Der B\x84r \x81"
+      "berquert die Br\x81"
+      "cke. \x9A"
+      "ber D\x84"
+      "cher. ",
+      3);
+  EXPECT_EQ(CharacterSetOf(added, CharacterSet::kGuess), CharacterSet::kIbm850);
+  EXPECT_EQ(CharacterSetOf("\xEF\xBB\xBF"
+                           "Er geht früh.\n" +
+                               added,
+                           CharacterSet::kGuess),
+            CharacterSet::kAsFound);
+}
+
 TEST_F(EncodingGuess, GuessIsTheLargerOfSetsWithTheSameLetters) {
   // Of a head in ISO 8859-1 the rest may have what Windows-1252 has besides.
   const std::string head =
