@@ -55,14 +55,23 @@ class SuspectSearch {
   std::array<std::uint64_t, kBlocksAtOnce> masks_;
 };
 
-/// What stands for a character in normal form, besides what Unicode says; nothing when it stays.
-std::optional<std::string_view> Replacement(char32_t codePoint) {
-  static constexpr std::string_view kLigatures[] = {"ff", "fi", "fl", "ffi", "ffl", "st", "st"};
+/// What a wide form of ASCII stands for, if words may have it; nothing for all others.
+std::optional<std::string_view> PlainOfWide(char32_t codePoint) {
+  static constexpr char32_t kFirst = 0xFF01;
   static constexpr std::string_view kPlain =
       "!\"#$%&'()*+,-./0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`"
       "abcdefghijklmnopqrstuvwxyz{|}~";
+  constexpr std::string_view kNotInWords = "!\"#$%&*+;<=>?[]^`{|}~";
+  if (codePoint < kFirst || codePoint >= kFirst + kPlain.size()) return std::nullopt;
+  const std::string_view plain = kPlain.substr(codePoint - kFirst, 1);
+  if (kNotInWords.find(plain) != std::string_view::npos) return std::nullopt;
+  return plain;
+}
+
+/// What stands for a character in normal form, besides what Unicode says; nothing when it stays.
+std::optional<std::string_view> Replacement(char32_t codePoint) {
+  static constexpr std::string_view kLigatures[] = {"ff", "fi", "fl", "ffi", "ffl", "st", "st"};
   if (IsDropped(codePoint)) return std::string_view();
-  if (codePoint >= 0xFF01 && codePoint <= 0xFF5E) return kPlain.substr(codePoint - 0xFF01, 1);
   if (codePoint >= 0xFB00 && codePoint <= 0xFB06) return kLigatures[codePoint - 0xFB00];
   switch (codePoint) {
     case kLetterApostrophe:
@@ -73,7 +82,7 @@ std::optional<std::string_view> Replacement(char32_t codePoint) {
     case 0x2011:
       return "-";
     default:
-      return std::nullopt;
+      return PlainOfWide(codePoint);
   }
 }
 

@@ -1,7 +1,8 @@
 // The normal form into which text is brought where words may be made of all letters: Normalization
 // Form C of Unicode, and besides
 //   - the wide forms of ASCII (U+FF01 to U+FF5E) and the Latin ligatures (U+FB00 to U+FB06) are the
-//     characters that they stand for,
+//     characters that they stand for. But wide signs that no word may have stay: they separate
+//     words anyhow, and are no markup, as in a page U+FF1C begins no tag,
 //   - the typographic apostrophes (U+2018, U+2019, U+02BC) are "'", the hyphens U+2010 and U+2011
 //     are "-",
 //   - soft hyphens, zero-width joiners and non-joiners, byte-order marks and marks of direction are

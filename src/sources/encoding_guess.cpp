@@ -31,8 +31,11 @@ bool IsUtf16(CharacterSet set) {
 
 CharacterSet Guess(std::string_view head) {
   if (LooksLikeUtf8(head)) return CharacterSet::kAsFound;
-  const Utf16Order order = Utf16OrderOf(head);
-  return order == Utf16Order::kNone ? GuessLegacySet(head) : SetOf(order);
+  if (const Utf16Order order = Utf16OrderOf(head); order != Utf16Order::kNone) return SetOf(order);
+  const CharacterSet set = GuessLegacySet(head);
+  // Lines of another set have been added to what was UTF-8.
+  const bool hasMark = MarkOf(head).kind == ByteOrderMark::Kind::kUtf8;
+  return hasMark && set != CharacterSet::kUtf8 ? CharacterSet::kAsFound : set;
 }
 
 }  // namespace

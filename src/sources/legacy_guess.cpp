@@ -110,6 +110,35 @@ constexpr char32_t kLastOfAscii = 0x7F;
 constexpr auto kOldSets = std::to_array<CharacterSet>(
     {CharacterSet::kIbm850, CharacterSet::kMacRoman, CharacterSet::kIbm852});
 
+bool IsBeyondAscii(char ch) {
+  return static_cast<unsigned char>(ch) > 0x7F;
+}
+
+std::size_t BytesBeyondAscii(std::string_view head) {
+  return static_cast<std::size_t>(std::ranges::count_if(head, IsBeyondAscii));
+}
+
+/// What the library says of English with one word in French: few texts are in them.
+constexpr auto kRareSets = std::to_array<CharacterSet>(
+    {CharacterSet::kIso8859Part3, CharacterSet::kIso8859Part4, CharacterSet::kIso8859Part10,
+     CharacterSet::kIso8859Part13, CharacterSet::kIso8859Part16, CharacterSet::kIbm852});
+
+/// Windows-1252 where `set` is a rare one, hardly a byte is beyond ASCII, and each of these is a
+/// letter there; otherwise `set`. A page may be markup for the most part, so both count: how few
+/// they are, and of how many.
+CharacterSet UsualSetIfLikelier(std::string_view head, CharacterSet set) {
+  constexpr std::size_t kBytesForOneBeyond = 100;
+  constexpr std::size_t kTooFew = 8;
+  if (std::ranges::find(kRareSets, set) == kRareSets.end()) return set;
+  const std::size_t beyondAscii = BytesBeyondAscii(head);
+  const bool isHardlyAny = beyondAscii <= kTooFew && beyondAscii * kBytesForOneBeyond < head.size();
+  const bool areLetters = std::ranges::all_of(head, [](char ch) {
+    const auto byte = static_cast<unsigned char>(ch);
+    return !IsBeyondAscii(ch) || (byte >= 0xC0 && byte < 0xFF);
+  });
+  return isHardlyAny && areLetters ? CharacterSet::kWindows1252 : set;
+}
+
 /// Characters beyond ASCII that do not stand where they do in texts: controls, signs within words,
 /// capitals behind small letters.
 class OddCharacters {
@@ -242,8 +271,7 @@ CharacterSet OldSetIfLikelier(std::string_view head, const JudgedSet& judged) {
   constexpr std::size_t kBytesForOneOdd = 5;
   constexpr std::size_t kTimesAsMany = 4;
   const std::size_t odd = judged.odd;
-  const auto beyondAscii = static_cast<std::size_t>(std::ranges::count_if(
-      head, [](char ch) { return static_cast<unsigned char>(ch) > kLastOfAscii; }));
+  const std::size_t beyondAscii = BytesBeyondAscii(head);
   // One sign alone may stand between words.
   if (judged.kinds < kFewestKinds || odd < kFewest || odd * kBytesForOneOdd < beyondAscii) {
     return judged.set;
@@ -273,7 +301,7 @@ CharacterSet GuessLegacySet(std::string_view head) {
     return HasLineOfAnotherSet(head) ? CharacterSet::kAsFound : CharacterSet::kUtf8;
   }
   constexpr CharacterSet kSetOfOtherLines = CharacterSet::kWindows1252;
-  const CharacterSet detected = Widened(Detected(head));
+  const CharacterSet detected = UsualSetIfLikelier(head, Widened(Detected(head)));
   const bool isKnown = detected != CharacterSet::kAsFound && !IsOfLatinLetters(head, detected);
   const CharacterSet likeliest = LikeliestBeside(head, isKnown ? detected : kSetOfOtherLines);
   return isKnown || likeliest != kSetOfOtherLines ? likeliest : CharacterSet::kAsFound;

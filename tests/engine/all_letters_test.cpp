@@ -180,9 +180,20 @@ TEST_F(AllLetters, WordsFilesFollow) {
 TEST_F(AllLetters, CommentMarkersMayBeOfAnyLetters) {
   UseMarkers("НАЧ", "КОН");
   EXPECT_EQ(Count("раз нач два кон три Нач четыре"), "раз три");
-  settings.OpenComment = -1;
-  UseMarkers("＜", ">");
-  EXPECT_EQ(Count("a <b> c ＜d＞ e"), "a c e");
+}
+
+// In no page and no program: a page may hold one alone, which would hide the rest.
+TEST_F(AllLetters, WideSignsAreNoMarkupUnlessTheyAreNamed) {
+  UsePreset("HTML");
+  EXPECT_EQ(Count("la ＜lb＞ <p> lc ＜ ld ＆le； lf"), "la lb lc ld le lf");
+  UsePreset("");
+  UseMarkers("＜", "＞");
+  EXPECT_EQ(Count("la ＜lb＞ <lc> ld"), "la lc ld");
+}
+
+TEST_F(AllLetters, WideSignsThatWordsMayHaveAreThoseOfTheKeyboard) {
+  AllowEverything();
+  EXPECT_EQ(Count("a－b＇c＿d：e＼f／g（h）i．j，k＠l２"), "a-b'c_d:e\\f/g(h)i.j,k@l2");
 }
 
 TEST_F(AllLetters, ManyMarksStayOnTheirLetter) {

@@ -106,9 +106,21 @@ bool IsWithout(char32_t character) {
          (character >= 0x2066 && character <= 0x2069);
 }
 
+/// Of ASCII: whether a word may hold it.
+bool IsOfWords(char32_t character) {
+  const bool letter =
+      (character >= U'A' && character <= U'Z') || (character >= U'a' && character <= U'z');
+  const bool digit = character >= U'0' && character <= U'9';
+  return letter || digit ||
+         std::u32string_view(U"-'_:\\/().,@").find(character) != Characters::npos;
+}
+
 Characters Replaced(char32_t character) {
   if (IsWithout(character)) return {};
-  if (character >= 0xFF01 && character <= 0xFF5E) return {character - 0xFF01 + U'!'};
+  if (character >= 0xFF01 && character <= 0xFF5E) {
+    const char32_t plain = character - 0xFF01 + U'!';
+    return {IsOfWords(plain) ? plain : character};
+  }
   switch (character) {
     case 0x2018:
     case 0x2019:

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/byte_source.h"
 #include "sources/converted_source.h"
@@ -188,6 +189,26 @@ TEST_F(EncodingGuess, GuessTakesSignsBetweenWordsForNoLetters) {
   }
 }
 
+// The library knows too little then, and names sets that hardly a text is in.
+TEST_F(EncodingGuess, GuessTakesFewLettersForWesternOnes) {
+  constexpr std::pair<std::string_view, std::string_view> kWords[] = {{"fa\xE7"
+                                                                       "ade",
+                                                                       "fa\u00E7ade"},
+                                                                      {"se\xF1or", "se\u00F1or"},
+                                                                      {"na\xEFve", "na\u00EFve"},
+                                                                      {"\xFC"
+                                                                       "ber",
+                                                                       "\u00FCber"},
+                                                                      {"Bront\xEB", "bront\u00EB"}};
+  for (const auto& [bytes, word] : kWords) {
+    const std::string text =
+        "In the year of the great storm the keeper of the lighthouse wrote " + std::string(bytes) +
+        " to his sister that the nets were empty and that the boats had not come home.\n";
+    const std::string words = WordsOf(CountFile(text, CharacterSet::kGuess));
+    EXPECT_NE(words.find(word), std::string::npos) << words;
+  }
+}
+
 TEST_F(EncodingGuess, GuessKeepsLinesOfUtf8ThatAreDamaged) {
   const std::string good = TimesOver("Über die Brücke geht er früh.\n", 20);
   EXPECT_EQ(CharacterSetOf(good + "caf\xC3\xA9 noir \xE9\n", CharacterSet::kGuess),
@@ -196,6 +217,22 @@ TEST_F(EncodingGuess, GuessKeepsLinesOfUtf8ThatAreDamaged) {
       TimesOver("Über die Brücke \xE9 geht er früh für uns.\n", 3000).substr(0, kGuessBytes);
   cut.replace(cut.size() - 12, 12, "\nein Meer gr\xC3");
   EXPECT_EQ(CharacterSetOf(cut, CharacterSet::kGuess), CharacterSet::kUtf8);
+}
+
+TEST_F(EncodingGuess, MarkOfUtf8SaysMoreThanAGuess) {
+  const std::string added = TimesOver(
+      "Der B\x84r \x81"
+      "berquert die Br\x81"
+      "cke. \x9A"
+      "ber D\x84"
+      "cher. ",
+      3);
+  EXPECT_EQ(CharacterSetOf(added, CharacterSet::kGuess), CharacterSet::kIbm850);
+  EXPECT_EQ(CharacterSetOf("\xEF\xBB\xBF"
+                           "Er geht früh.\n" +
+                               added,
+                           CharacterSet::kGuess),
+            CharacterSet::kAsFound);
 }
 
 TEST_F(EncodingGuess, GuessIsTheLargerOfSetsWithTheSameLetters) {

@@ -223,6 +223,7 @@ void WordListReader::ScanWordsFile(WordsFile& file, const ScanChoices& choices) 
   WordEcho echo(frmMain_, output_, messages_, inForce_.settings);
   const ListenerGuard listening(words_.store, echo);
   notRead_ = file.Scan(inForce_.settings, choices, words_.store, run_);
+  guessed_ = file.Guessed();
 }
 
 void WordListReader::TakeWordsFromStore(WordListKind kind) {
@@ -255,10 +256,14 @@ bool WordListReader::AttemptToReadWords(WordListKind kind) {
   return ok;
 }
 
-/// Whoever names a list of Russian while only western letters are counted would wonder.
+/// Whoever names a list of Russian while only western letters are counted would wonder, and whoever
+/// has its encoding guessed wrongly.
 void WordListReader::TellLoaded(WordListKind kind, const std::string& path) {
   std::string text =
       messages_.Grouped(FileList(kind).Count()) + " " + KindName(kind) + " loaded from " + path;
+  if (const std::string guessed = guessed_.Names(); !guessed.empty()) {
+    text.append(kCrLf).append(Filled(messages_.Text(kGuessedText), {guessed}));
+  }
   const std::string losses = ListLossText(notRead_, path, messages_);
   if (losses.empty()) {
     messages_.Tell(std::move(text), kLoadedTitle, MessageIcon::kInformation);

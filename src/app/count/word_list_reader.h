@@ -12,6 +12,7 @@
 #include "engine/scan_settings.h"
 #include "engine/uncounted.h"
 #include "engine/word_list.h"
+#include "sources/guessed_sets.h"
 #include "ui/event.h"
 
 namespace quillomat {
@@ -112,8 +113,9 @@ class WordListReader {
   std::array<std::string, 2> lossyTyped_;
   /// The files of which the user has been told that they are away.
   std::array<std::string, 2> toldAway_;
-  /// Of the last words file, by the settings that it was read with.
+  // Of the last words file, by the settings that it was read with.
   Uncounted notRead_;
+  GuessedSets guessed_;
 };
 
 }  // namespace quillomat

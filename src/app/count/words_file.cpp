@@ -49,6 +49,12 @@ WordsFile::WordsFile(ByteSource& source, CharacterSet encoding, bool mayBeEndles
               : LineEndingTypeOf(ConvertedHead(judged, from_), kListTestBytes);
 }
 
+GuessedSets WordsFile::Guessed() const {
+  GuessedSets guessed;
+  if (choice_ == CharacterSet::kGuess) guessed.Add(from_);
+  return guessed;
+}
+
 Uncounted WordsFile::Scan(ScanSettings& settings, const ScanChoices& choices, WordStore& store,
                           ScanYield& yield) {
   Uncounted lost;

@@ -14,6 +14,7 @@
 #include "engine/uncounted.h"
 #include "engine/word_scanner.h"
 #include "engine/word_store.h"
+#include "sources/guessed_sets.h"
 #include "sources/line_endings.h"
 #include "sources/read_sources.h"
 
@@ -30,6 +31,8 @@ class WordsFile {
 
   /// Of its text, in UTF-8.
   [[nodiscard]] LineEndingType Type() const { return type_; }
+  /// What it was read in because that was guessed; known when it has been scanned.
+  [[nodiscard]] GuessedSets Guessed() const;
 
   /// Puts its words into the store: of all letters each that accents tell from others, whatever
   /// they do in a text. Returns what of it could not be read as it was meant. The settings were set

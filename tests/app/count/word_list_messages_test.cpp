@@ -137,6 +137,27 @@ TEST_F(WordListMessages, BytesOfAWordsFileThatACountReadsAreToldOfAsWell) {
   EXPECT_EQ(StoredWords(), "bird");
 }
 
+TEST_F(WordListMessages, WhatWasGuessedOfAWordsFileIsToldOf) {
+  Panel().cboEncoding.PerformChoice(static_cast<int>(CharacterSet::kGuess));
+  Panel().cboLetters.PerformChoice(1);
+  desktop.ForgetQuestions();
+  const std::string path = folder.Write("words.txt",
+                                        "\xEF\xF0\xE8\xE2\xE5\xF2 "
+                                        "\xEC\xE8\xF0 "
+                                        "\xE4\xEE\xEC "
+                                        "\xEF\xEE\xE3\xEE\xE4\xE0 "
+                                        "\xF1\xEB\xEE\xE2\xEE\r\n");
+  Choose(kIgnore, path);
+  ExpectMessage(OnlyMessage(),
+                "5 words-to-ignore loaded from " + path + "\r\nRead as guessed: Windows-1251.",
+                "Words loaded", MessageIcon::kInformation);
+  desktop.ForgetQuestions();
+  const std::string plain = folder.Write("plain.txt", "\u043C\u0438\u0440\r\n");
+  Choose(kIgnore, plain);
+  ExpectMessage(OnlyMessage(), "1 words-to-ignore loaded from " + plain, "Words loaded",
+                MessageIcon::kInformation);
+}
+
 TEST_F(WordListMessages, LinesOfAWordsFileThatAreNoUtf8AreToldOf) {
   const std::string path = folder.Write("words.txt", "dog\r\ncaf\xE9\r\n\xFCs\r\n");
   Choose(kIgnore, path);
